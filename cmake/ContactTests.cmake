@@ -1,0 +1,62 @@
+# SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+# SPDX-License-Identifier: LGPL-2.1-or-later
+#
+# contact_add_test(NAME SOURCES... LIBRARIES... [NO_TEST])
+#   A QtTest program. With NO_TEST it is only built, and contact_add_test_run() says how it runs.
+# contact_add_test_run(NAME TARGET t [AT "2026-03-07 10:20:00"] [TZ zone] [ENVIRONMENT var=value...] [COMMAND cmd...]
+#                      [ARGUMENTS ...] [LABELS ...] [TIMEOUT seconds] [SERIAL] [BUS])
+#   One run of such a program: AT starts the clock at that local time, BUS gives it a session bus of its own, SERIAL keeps
+#   runs apart that would see each other in the process table.
+
+find_package(Qt5 REQUIRED COMPONENTS Test)
+find_program(CONTACT_FAKETIME faketime REQUIRED)
+find_program(CONTACT_DBUS_RUN_SESSION dbus-run-session REQUIRED)
+
+set(CONTACT_TEST_ENVIRONMENT
+    QT_QPA_PLATFORM=offscreen LANG=C.UTF-8 LC_ALL=C.UTF-8
+    QT_SCALE_FACTOR=1
+    # faketime is preloaded before the sanitizer's runtime.
+    ASAN_OPTIONS=verify_asan_link_order=0:detect_leaks=1:new_delete_type_mismatch=1
+    UBSAN_OPTIONS=print_stacktrace=1
+    LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0
+    TSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/tsan.supp)
+
+function(contact_add_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "NO_TEST" "" "SOURCES;LIBRARIES")
+    add_executable(${name} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE Qt5::Test ${arg_LIBRARIES})
+    target_compile_definitions(${name} PRIVATE CONTACT_SOURCE_DIR="${CMAKE_SOURCE_DIR}" CONTACT_BINARY_DIR="${CMAKE_BINARY_DIR}")
+    if(NOT arg_NO_TEST)
+        contact_add_test_run(${name} TARGET ${name})
+    endif()
+endfunction()
+
+function(contact_add_test_run name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "SERIAL;BUS" "TARGET;AT;TZ;TIMEOUT" "ENVIRONMENT;ARGUMENTS;LABELS;COMMAND")
+    if(NOT arg_TZ)
+        set(arg_TZ Asia/Shanghai)
+    endif()
+    if(NOT arg_TIMEOUT)
+        set(arg_TIMEOUT 120)
+    endif()
+    set(command)
+    if(arg_BUS)
+        list(APPEND command ${CONTACT_DBUS_RUN_SESSION} --)
+    endif()
+    if(arg_AT)
+        # Only the calendar is faked: timers and waits keep the real clock.
+        list(APPEND command ${CONTACT_FAKETIME} --exclude-monotonic -f "@${arg_AT}")
+    endif()
+    if(arg_COMMAND)
+        list(APPEND command ${arg_COMMAND})
+    else()
+        list(APPEND command $<TARGET_FILE:${arg_TARGET}>)
+    endif()
+    add_test(NAME ${name} COMMAND ${command} ${arg_ARGUMENTS})
+    set_tests_properties(${name} PROPERTIES
+        ENVIRONMENT "TZ=${arg_TZ};${CONTACT_TEST_ENVIRONMENT};${arg_ENVIRONMENT}"
+        TIMEOUT ${arg_TIMEOUT} LABELS "${arg_LABELS}")
+    if(arg_SERIAL)
+        set_tests_properties(${name} PROPERTIES RUN_SERIAL ON)
+    endif()
+endfunction()

@@ -1,0 +1,10 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "conferencecardinterface.h"
+
+ConferenceCardInterface *ConferenceCardInterface::instance()
+{
+    static ConferenceCardInterface gateway;
+    return &gateway;
+}

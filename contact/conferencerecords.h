@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QMetaType>
+#include <QtCore/QString>
+#include <QtCore/QVector>
+
+/**
+ * @file
+ * Plain values that carry the ability's answers to the handlers and, inside a QVariant, to the cards. Members
+ * stand in the documented order, which is part of the binary layout.
+ */
+
+/// One person as the contacts application knows them.
+struct UserInfo
+{
+    QString name;       ///< the name that was asked for; for a participant, the name to show
+    QString remarkName; ///< the display name; empty for a participant
+    QString userId;
+    QString account;
+};
+
+/// A spoken name that matched several people.
+struct DuplicateUsers
+{
+    QString name;
+    QVector<UserInfo> users; ///< the candidates, in the order of the answer
+};
+
+/// One conference as the contacts application lists it.
+struct ContactDetailMsg
+{
+    QString title;
+    QVector<UserInfo> participants;
+    qint64 duration = 0; ///< as it came on the wire; the bundled application and the cards count milliseconds
+    qint64 startTime = 0; ///< milliseconds since the epoch
+    QString confId;
+    QString conferenceDialNumber; ///< the number one says to join
+    int participantLimit = 0;
+    int status = 0; ///< 0 not started, 2 ended, anything else in progress
+    bool isPayingUser = false;
+};
+
+/// How spoken member names matched the user's contacts.
+struct ContactInviteMemberDetail
+{
+    QVector<DuplicateUsers> duplicateUsers;
+    QVector<UserInfo> normalUsers;
+    QVector<QString> notExistUsers;
+    int canInviteNum = 0; ///< how many more fit; only set when a limit was exceeded
+};
+
+/// The outcome of creating a conference.
+struct ContactCreatedConferenceDetail
+{
+    bool isSchedule = false;               ///< as the request was made
+    qint64 scheduleTimeMsecs = 0;          ///< as the request was made, milliseconds since the epoch
+    QVector<ContactDetailMsg> conferences; ///< the one created, or those that overlap
+    ContactInviteMemberDetail inviteDetail;
+};
+
+/// The conferences found by a query, or offered by "join my conference".
+struct ContactQueryConferenceDetail
+{
+    QVector<ContactDetailMsg> conferences;
+};
+
+Q_DECLARE_METATYPE(ContactCreatedConferenceDetail)
+Q_DECLARE_METATYPE(ContactInviteMemberDetail)
+Q_DECLARE_METATYPE(ContactQueryConferenceDetail)

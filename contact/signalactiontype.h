@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+/// What a card is to show, and with it the record that travels in the QVariant beside it. Sent as int.
+enum SignalActionType {
+    Create_Success = 0,     ///< ContactCreatedConferenceDetail
+    Create_Duplicate = 1,   ///< ContactCreatedConferenceDetail
+    Create_TimeOverlap = 2, ///< ContactCreatedConferenceDetail
+    Invite_Duplicate = 3,   ///< ContactInviteMemberDetail
+    Invite_ExceedLimit = 4, ///< ContactInviteMemberDetail
+    JoinMy_List = 5,        ///< ContactQueryConferenceDetail
+    Query_List = 6,         ///< ContactQueryConferenceDetail
+};

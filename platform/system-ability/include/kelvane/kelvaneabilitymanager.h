@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <kelvane/contactability.h>
+
+/// Gives out the abilities of the desktop's applications. One per process, safe on any thread.
+class KELVANE_ABILITY_EXPORT KelvaneAbilityManager
+{
+public:
+    static KelvaneAbilityManager *instance();
+    /// A new ability, owned by the caller.
+    ContactAbility *createContact();
+};

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "conferencerecords.h"
+
+#include <speakmate/reply.h>
+
+#include <QtCore/QObject>
+
+class ConferenceCardInterface;
+class ConferenceMsgStaticWidget;
+
+/**
+ * Turns the outcome of a request into a card: listens to the gateway, builds the card inside its emission and
+ * attaches it to the reply. Lives on the GUI thread as long as the plugin. It does not own the cards; the
+ * host shows and deletes them.
+ */
+class ContactReplyWidget : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ContactReplyWidget(QObject *parent = nullptr);
+
+public Q_SLOTS:
+    /// @p actionType is a SignalActionType; @p data holds the record that belongs to it.
+    void slotNoticeAction(const int &actionType, const QVariant &data, Reply *reply);
+
+Q_SIGNALS:
+    /// A reply that a card gave later, from one of its buttons. The spelling is the interface's.
+    void signaleSendShowMessage(Reply reply);
+
+private:
+    ConferenceCardInterface *m_interface;
+    ConferenceMsgStaticWidget *m_card = nullptr;
+    ContactCreatedConferenceDetail m_created;
+};

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "lumoglobal.h"
+
+#include <QtWidgets/QPushButton>
+
+/**
+ * A button that looks like a line of text: no frame, the text in the palette's ButtonText colour, underlined
+ * under the mouse, with a frame when the keyboard's focus is on it. The text is elided when the button is
+ * narrower, and then the tool tip shows it whole.
+ */
+class LUMO_EXPORT LCommandLinkButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    explicit LCommandLinkButton(const QString &text, QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString shownText() const;
+};

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "lumoglobal.h"
+
+#include <QtGui/QFont>
+
+/// The sizes that texts of the desktop come in, from the largest (T1) to the smallest (T10). May be used on
+/// any thread once there is an application.
+class LUMO_EXPORT LFontSizeManager
+{
+public:
+    enum SizeType { T1 = 0, T2, T3, T4, T5, T6, T7, T8, T9, T10 };
+
+    static LFontSizeManager *instance();
+
+    /// @p base in the size of the class; nothing else of it changes.
+    QFont get(SizeType type, const QFont &base = QFont()) const;
+    /// In device independent pixels. What lies outside T1 to T10 counts as the nearest of the two.
+    int fontPixelSize(SizeType type) const;
+
+private:
+    LFontSizeManager() = default;
+    Q_DISABLE_COPY(LFontSizeManager)
+};

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "lumoglobal.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QPalette>
+
+/**
+ * Tells whether the desktop is light or dark and says when that changes. The theme is read from the
+ * application's palette, so that it is right whoever sets that: the platform, a style or setPaletteType().
+ * Lives on the GUI thread until the process ends.
+ */
+class LUMO_EXPORT LGuiApplicationHelper : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum ColorType {
+        UnknownType = 0, ///< there is no application yet
+        LightType = 1,
+        DarkType = 2,
+    };
+    Q_ENUM(ColorType)
+
+    static LGuiApplicationHelper *instance();
+
+    ColorType themeType() const;
+
+    /// Gives the application the palette of that theme, whatever the desktop has; UnknownType gives back the
+    /// palette from before. Needs an application.
+    void setPaletteType(ColorType type);
+    /// What was set last, UnknownType when the desktop's own palette holds.
+    ColorType paletteType() const;
+
+    /// The toolkit's own colours; those of UnknownType are the light ones.
+    static QPalette standardPalette(ColorType type);
+    /// Which theme a palette belongs to: dark when its window is darker than its text.
+    static ColorType toColorType(const QPalette &palette);
+
+Q_SIGNALS:
+    void themeTypeChanged(ColorType themeType);
+
+private:
+    using QObject::QObject;
+    void followApplication();
+    void announceChange();
+
+    QPointer<QGuiApplication> m_followed;
+    ColorType m_announced = UnknownType;
+    ColorType m_paletteType = UnknownType;
+    QPalette m_desktopPalette;
+};

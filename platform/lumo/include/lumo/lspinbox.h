@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "lumoglobal.h"
+
+#include <QtWidgets/QSpinBox>
+
+/// A spin box for cards in a scrolling view: the wheel changes the value only while the box has the focus.
+class LUMO_EXPORT LSpinBox : public QSpinBox
+{
+    Q_OBJECT
+    Q_PROPERTY(bool enabledEmbedStyle READ enabledEmbedStyle WRITE setEnabledEmbedStyle)
+
+public:
+    explicit LSpinBox(QWidget *parent = nullptr);
+
+    /// With true the buttons are arrows inside the field, with false (as at first) a minus and a plus of
+    /// their own beside it.
+    void setEnabledEmbedStyle(bool enabled);
+    bool enabledEmbedStyle() const;
+
+protected:
+    void wheelEvent(QWheelEvent *event) override;
+};

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "lumoglobal.h"
+
+#include <QtCore/QString>
+
+/**
+ * @p text as a tool tip that shows every character as it is. A tool tip has no plain format: Qt guesses, and
+ * a text that somebody else wrote must not be taken for markup. Long texts wrap.
+ */
+LUMO_EXPORT QString plainToolTip(const QString &text);

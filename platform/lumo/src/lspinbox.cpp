@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "lumo/lspinbox.h"
+
+#include <QtGui/QWheelEvent>
+
+LSpinBox::LSpinBox(QWidget *parent) : QSpinBox(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setEnabledEmbedStyle(false);
+}
+
+void LSpinBox::setEnabledEmbedStyle(bool enabled)
+{
+    setButtonSymbols(enabled ? QAbstractSpinBox::UpDownArrows : QAbstractSpinBox::PlusMinus);
+}
+
+bool LSpinBox::enabledEmbedStyle() const
+{
+    return buttonSymbols() == QAbstractSpinBox::UpDownArrows;
+}
+
+void LSpinBox::wheelEvent(QWheelEvent *event)
+{
+    if (hasFocus())
+        QSpinBox::wheelEvent(event);
+    else
+        event->ignore();
+}

@@ -1,2 +1,0 @@
-// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
-// SPDX-License-Identifier: LGPL-2.1-or-later

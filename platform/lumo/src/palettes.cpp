@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "palettes.h"
+
+namespace {
+
+struct RoleColor
+{
+    QPalette::ColorRole role;
+    QRgb color;
+};
+
+constexpr RoleColor LightColors[] = {
+    {QPalette::Window, 0xfff8f8f8},
+    {QPalette::WindowText, 0xff1f2328},
+    {QPalette::Base, 0xffffffff},
+    {QPalette::AlternateBase, 0xfff2f3f5},
+    {QPalette::Text, 0xff1f2328},
+    {QPalette::Button, 0xffe9ebee},
+    {QPalette::ButtonText, 0xff1f2328},
+    {QPalette::BrightText, 0xffffffff},
+    {QPalette::ToolTipBase, 0xffffffff},
+    {QPalette::ToolTipText, 0xff1f2328},
+    {QPalette::Light, 0xffffffff},
+    {QPalette::Midlight, 0xfff1f2f4},
+    {QPalette::Mid, 0xffc6cad0},
+    {QPalette::Dark, 0xff9aa0a8},
+    {QPalette::Shadow, 0xff5c6168},
+    {QPalette::Highlight, 0xff0071e3},
+    {QPalette::HighlightedText, 0xffffffff},
+    {QPalette::Link, 0xff0067ce},
+    {QPalette::LinkVisited, 0xff6a4fb3},
+    {QPalette::PlaceholderText, 0xff7b828b},
+};
+
+constexpr RoleColor DarkColors[] = {
+    {QPalette::Window, 0xff232427},
+    {QPalette::WindowText, 0xffe8eaed},
+    {QPalette::Base, 0xff2c2d31},
+    {QPalette::AlternateBase, 0xff333539},
+    {QPalette::Text, 0xffe8eaed},
+    {QPalette::Button, 0xff3d3f45},
+    {QPalette::ButtonText, 0xffe8eaed},
+    {QPalette::BrightText, 0xffffffff},
+    {QPalette::ToolTipBase, 0xff34363a},
+    {QPalette::ToolTipText, 0xffe8eaed},
+    {QPalette::Light, 0xff55585f},
+    {QPalette::Midlight, 0xff484b51},
+    {QPalette::Mid, 0xff5a5d64},
+    {QPalette::Dark, 0xff17181a},
+    {QPalette::Shadow, 0xff000000},
+    {QPalette::Highlight, 0xff0071e3},
+    {QPalette::HighlightedText, 0xffffffff},
+    {QPalette::Link, 0xff5eb0ff},
+    {QPalette::LinkVisited, 0xffb39cf0},
+    {QPalette::PlaceholderText, 0xff8d939b},
+};
+
+constexpr QPalette::ColorRole TextRoles[] = {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                                             QPalette::HighlightedText, QPalette::ToolTipText};
+constexpr qreal DisabledTextOpacity = 0.4;
+
+template <std::size_t Count>
+QPalette make(const RoleColor (&colors)[Count])
+{
+    QPalette palette;
+    for (const RoleColor &entry : colors)
+        palette.setColor(QPalette::All, entry.role, QColor::fromRgb(entry.color));
+    for (const QPalette::ColorRole role : TextRoles) {
+        QColor faint = palette.color(QPalette::Active, role);
+        faint.setAlphaF(DisabledTextOpacity);
+        palette.setColor(QPalette::Disabled, role, faint);
+    }
+    return palette;
+}
+
+} // namespace
+
+QPalette Palettes::light()
+{
+    return make(LightColors);
+}
+
+QPalette Palettes::dark()
+{
+    return make(DarkColors);
+}

@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtGui/QPalette>
+
+/// The toolkit's colours. What is disabled has the same colours, fainter.
+namespace Palettes {
+QPalette light();
+QPalette dark();
+} // namespace Palettes

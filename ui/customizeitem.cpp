@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "customizeitem.h"
+
+#include <QtGui/QPainter>
+
+CustomizeItem::CustomizeItem(QWidget *parent) : QWidget(parent)
+{
+    setFocusPolicy(Qt::TabFocus);
+}
+
+void CustomizeItem::setRaidus(int radius)
+{
+    m_radius = radius;
+    update();
+}
+
+void CustomizeItem::setBackGroundColor(const QColor &color)
+{
+    m_backGroundColor = color;
+    update();
+}
+
+void CustomizeItem::setBottomRadius(bool rounded)
+{
+    m_bottomRadius = rounded;
+    update();
+}
+
+void CustomizeItem::setTopRadius(bool rounded)
+{
+    m_topRadius = rounded;
+    update();
+}
+
+void CustomizeItem::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(m_backGroundColor);
+    painter.setPen(Qt::transparent);
+    painter.drawRoundedRect(rect(), m_radius, m_radius);
+    if (!m_bottomRadius)
+        painter.drawRect(0, height() - m_radius, width(), m_radius);
+    painter.end();
+    QWidget::paintEvent(event);
+}

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtGui/QColor>
+#include <QtWidgets/QWidget>
+
+/// A rounded panel. It takes the focus with the Tab key only.
+class CustomizeItem : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CustomizeItem(QWidget *parent = nullptr);
+
+    /// In pixels. The spelling is the interface's.
+    void setRaidus(int radius);
+    void setBackGroundColor(const QColor &color);
+    /// With false the lower corners are square.
+    void setBottomRadius(bool rounded);
+    /// Kept, but painting does not ask for it: the upper corners are always round.
+    void setTopRadius(bool rounded);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    int m_radius = 8;
+    QColor m_backGroundColor = QColor(247, 247, 247, 204);
+    bool m_bottomRadius = true;
+    bool m_topRadius = true;
+};

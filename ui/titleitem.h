@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "conferencerecords.h"
+#include "customizeitem.h"
+
+QT_BEGIN_NAMESPACE
+class QCheckBox;
+class QHBoxLayout;
+QT_END_NAMESPACE
+class ConferenceMsgStaticWidget;
+class LLabel;
+
+/**
+ * A row of a selection card: one person who may be meant. A click anywhere on it selects the person, or takes
+ * that back, as far as the card's selection budget allows; Space and Return do the same from the keyboard.
+ * The check box is only the mark. What happens on the row stays there: a click does not reach the card behind
+ * it.
+ *
+ * A row outside a card has no budget, so it cannot be selected.
+ */
+class TiTleItem : public CustomizeItem
+{
+    Q_OBJECT
+
+public:
+    /// @p title is not displayed; it is the accessible name until the row shows somebody.
+    explicit TiTleItem(const QString &title, QWidget *parent = nullptr);
+
+    /// Shows display name and account. To be called once.
+    void insertConferenceMsg(const UserInfo &user);
+    /// Shows only the name that was asked for. To be called once.
+    void insertSinglePersonName(const UserInfo &user);
+
+    UserInfo getUserInfo() const;
+    bool isSelected() const;
+
+    /// The text colour of the theme on @p widget, with @p alpha from 0 to 255.
+    void setWidgetColor(QWidget *widget, int alpha);
+
+Q_SIGNALS:
+    void signalSelectionChanged(bool selected);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    LLabel *addLabel(const QString &text);
+    void toggleSelection();
+    void select();
+    void deselect();
+    void colorTexts();
+
+    QHBoxLayout *m_layout;
+    LLabel *m_nameLabel = nullptr;
+    LLabel *m_captionLabel = nullptr;
+    LLabel *m_detailLabel = nullptr;
+    bool m_selected = false;
+    QCheckBox *m_checkBox;
+    UserInfo m_user;
+    ConferenceMsgStaticWidget *m_card;
+};

@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+
+namespace understanding {
+
+/// The semantic JSON for one sentence that stands alone, with times resolved against \a now (local time) and
+/// \a contactNames recognised as wholes. Always one JSON object on one line. Thread-safe.
+QString understand(const QString &sentence, const QDateTime &now, const QStringList &contactNames = {});
+
+} // namespace understanding

@@ -12,7 +12,7 @@
 class LUMO_EXPORT LFontSizeManager
 {
 public:
-    enum SizeType { T1 = 0, T2, T3, T4, T5, T6, T7, T8, T9, T10 };
+    enum SizeType : int { T1 = 0, T2, T3, T4, T5, T6, T7, T8, T9, T10 };
 
     static LFontSizeManager *instance();
 

@@ -43,7 +43,7 @@ public:
     static ColorType toColorType(const QPalette &palette);
 
 Q_SIGNALS:
-    void themeTypeChanged(ColorType themeType);
+    void themeTypeChanged(LGuiApplicationHelper::ColorType themeType);
 
 private:
     using QObject::QObject;

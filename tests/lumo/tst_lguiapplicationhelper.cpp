@@ -1,0 +1,182 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include <lumo/lguiapplicationhelper.h>
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
+
+using Helper = LGuiApplicationHelper;
+
+namespace {
+
+QPalette paletteOf(const QColor &window, const QColor &text)
+{
+    QPalette palette;
+    palette.setColor(QPalette::All, QPalette::Window, window);
+    palette.setColor(QPalette::All, QPalette::WindowText, text);
+    return palette;
+}
+
+/// An application that lives as long as one test function, as the programs do that load a plugin.
+class Application
+{
+    int m_argc = 1;
+    char m_name[5] = "test";
+    char *m_argv[2] = {m_name, nullptr};
+    QApplication m_application{m_argc, m_argv};
+};
+
+} // namespace
+
+class TestLGuiApplicationHelper : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void withoutApplicationTheThemeIsUnknown();
+    void theValuesOfTheThemes();
+    void theThemeIsReadFromThePalette_data();
+    void theThemeIsReadFromThePalette();
+    void aChangeIsToldOnce();
+    void aForcedThemeGivesTheDesktopsPaletteBack();
+    void theNextApplicationIsFollowedToo();
+    void theThemesAreReadable_data();
+    void theThemesAreReadable();
+};
+
+void TestLGuiApplicationHelper::withoutApplicationTheThemeIsUnknown()
+{
+    QVERIFY(qApp == nullptr);
+    QCOMPARE(Helper::instance()->themeType(), Helper::UnknownType);
+    Helper::instance()->setPaletteType(Helper::DarkType);
+    QCOMPARE(Helper::instance()->paletteType(), Helper::UnknownType);
+}
+
+void TestLGuiApplicationHelper::theValuesOfTheThemes()
+{
+    QCOMPARE(int(Helper::UnknownType), 0);
+    QCOMPARE(int(Helper::LightType), 1);
+    QCOMPARE(int(Helper::DarkType), 2);
+}
+
+void TestLGuiApplicationHelper::theThemeIsReadFromThePalette_data()
+{
+    QTest::addColumn<QColor>("window");
+    QTest::addColumn<QColor>("text");
+    QTest::addColumn<int>("theme");
+    QTest::newRow("black on white is light")
+        << QColor(Qt::white) << QColor(Qt::black) << int(Helper::LightType);
+    QTest::newRow("white on black is dark")
+        << QColor(Qt::black) << QColor(Qt::white) << int(Helper::DarkType);
+    QTest::newRow("black on grey is light")
+        << QColor(110, 110, 110) << QColor(Qt::black) << int(Helper::LightType);
+    QTest::newRow("no difference is light") << QColor(Qt::gray) << QColor(Qt::gray) << int(Helper::LightType);
+}
+
+void TestLGuiApplicationHelper::theThemeIsReadFromThePalette()
+{
+    QFETCH(QColor, window);
+    QFETCH(QColor, text);
+    QFETCH(int, theme);
+    const Application application;
+    QApplication::setPalette(paletteOf(window, text));
+    QCOMPARE(int(Helper::instance()->themeType()), theme);
+}
+
+void TestLGuiApplicationHelper::aChangeIsToldOnce()
+{
+    const Application application;
+    QApplication::setPalette(paletteOf(Qt::white, Qt::black));
+    const QSignalSpy changed(Helper::instance(), &Helper::themeTypeChanged);
+    QApplication::setPalette(paletteOf(Qt::lightGray, Qt::black));
+    QCOMPARE(changed.count(), 0);
+    QApplication::setPalette(paletteOf(Qt::black, Qt::white));
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.at(0).at(0).value<Helper::ColorType>(), Helper::DarkType);
+    QApplication::setPalette(paletteOf(Qt::white, Qt::black));
+    QCOMPARE(changed.count(), 2);
+    QCOMPARE(changed.at(1).at(0).value<Helper::ColorType>(), Helper::LightType);
+}
+
+void TestLGuiApplicationHelper::aForcedThemeGivesTheDesktopsPaletteBack()
+{
+    const Application application;
+    const QPalette desktop = paletteOf(Qt::yellow, Qt::blue);
+    QApplication::setPalette(desktop);
+    Helper *helper = Helper::instance();
+    QWidget widget;
+
+    helper->setPaletteType(Helper::DarkType);
+    QCOMPARE(helper->paletteType(), Helper::DarkType);
+    QCOMPARE(helper->themeType(), Helper::DarkType);
+    QCOMPARE(widget.palette().color(QPalette::Window),
+             Helper::standardPalette(Helper::DarkType).color(QPalette::Window));
+
+    helper->setPaletteType(Helper::LightType);
+    QCOMPARE(helper->themeType(), Helper::LightType);
+    QCOMPARE(widget.palette().color(QPalette::Window),
+             Helper::standardPalette(Helper::LightType).color(QPalette::Window));
+
+    helper->setPaletteType(Helper::UnknownType);
+    QCOMPARE(helper->paletteType(), Helper::UnknownType);
+    QCOMPARE(widget.palette().color(QPalette::Window), QColor(Qt::yellow));
+}
+
+void TestLGuiApplicationHelper::theNextApplicationIsFollowedToo()
+{
+    {
+        const Application application;
+        Helper::instance()->setPaletteType(Helper::DarkType);
+    }
+    const Application application;
+    QCOMPARE(Helper::instance()->paletteType(), Helper::UnknownType);
+    QApplication::setPalette(paletteOf(Qt::white, Qt::black));
+    const QSignalSpy changed(Helper::instance(), &Helper::themeTypeChanged);
+    Helper::instance()->setPaletteType(Helper::DarkType);
+    QCOMPARE(changed.count(), 1);
+}
+
+void TestLGuiApplicationHelper::theThemesAreReadable_data()
+{
+    QTest::addColumn<int>("theme");
+    QTest::newRow("light") << int(Helper::LightType);
+    QTest::newRow("dark") << int(Helper::DarkType);
+}
+
+/// The contrast that WCAG asks for in texts of normal size: 4.5 to 1.
+void TestLGuiApplicationHelper::theThemesAreReadable()
+{
+    QFETCH(int, theme);
+    const auto linear = [](qreal channel) {
+        return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    const auto luminance = [linear](const QColor &color) {
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+               0.0722 * linear(color.blueF());
+    };
+    const auto contrast = [luminance](const QColor &one, const QColor &other) {
+        const qreal lighter = qMax(luminance(one), luminance(other));
+        const qreal darker = qMin(luminance(one), luminance(other));
+        return (lighter + 0.05) / (darker + 0.05);
+    };
+    const QPalette palette = Helper::standardPalette(static_cast<Helper::ColorType>(theme));
+    QCOMPARE(int(Helper::toColorType(palette)), theme);
+    const std::pair<QPalette::ColorRole, QPalette::ColorRole> pairs[] = {
+        {QPalette::WindowText, QPalette::Window},
+        {QPalette::Text, QPalette::Base},
+        {QPalette::Text, QPalette::AlternateBase},
+        {QPalette::ButtonText, QPalette::Button},
+        {QPalette::HighlightedText, QPalette::Highlight},
+        {QPalette::ToolTipText, QPalette::ToolTipBase},
+        {QPalette::Link, QPalette::Window},
+    };
+    for (const auto &[text, ground] : pairs) {
+        const qreal found = contrast(palette.color(text), palette.color(ground));
+        QVERIFY2(found >= 4.5, qPrintable(QStringLiteral("role %1: %2").arg(text).arg(found)));
+    }
+}
+
+QTEST_APPLESS_MAIN(TestLGuiApplicationHelper)
+#include "tst_lguiapplicationhelper.moc"

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "customizecalendar.h"
+
+#include <QtCore/QDebug>
+
+CustomizeCalendar::CustomizeCalendar(QWidget *parent) : QCalendarWidget(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setWindowFlags(Qt::Tool | Qt::WindowStaysOnTopHint);
+}
+
+void CustomizeCalendar::focusInEvent(QFocusEvent *event)
+{
+    qDebug() << "focusInEvent";
+    QCalendarWidget::focusInEvent(event);
+}
+
+void CustomizeCalendar::showEvent(QShowEvent *event)
+{
+    QCalendarWidget::showEvent(event);
+}

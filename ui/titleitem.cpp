@@ -1,0 +1,191 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "titleitem.h"
+
+#include "conferencemsgstaticwidget.h"
+#include "selectionbudget.h"
+#include "themecolor.h"
+
+#include <lumo/lfontsizemanager.h>
+#include <lumo/lguiapplicationhelper.h>
+#include <lumo/llabel.h>
+
+#include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QHBoxLayout>
+
+namespace {
+
+constexpr QSize RowSize(330, 40);
+constexpr int Margin = 10;
+constexpr int SpaceAfterName = 20;
+constexpr int SpaceAfterCaption = 10;
+constexpr int NameAlpha = 178;
+constexpr int DetailAlpha = 153;
+
+constexpr QRgb FocusColor = qRgb(0, 129, 255);
+constexpr qreal FocusWidth = 2;
+constexpr qreal FocusRadius = 8;
+
+bool isToggleKey(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+} // namespace
+
+TiTleItem::TiTleItem(const QString &title, QWidget *parent)
+    : CustomizeItem(parent)
+    , m_layout(new QHBoxLayout(this))
+    , m_checkBox(new QCheckBox(this))
+    , m_card(qobject_cast<ConferenceMsgStaticWidget *>(parent))
+{
+    setFixedSize(RowSize);
+    setBottomRadius(true);
+    m_layout->setContentsMargins(Margin, Margin, Margin, Margin);
+    m_layout->setSpacing(0);
+    m_layout->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    setAccessibleName(title);
+
+    // Only the mark of a selected row: the row itself takes the mouse and the focus.
+    m_checkBox->hide();
+    m_checkBox->setFocusPolicy(Qt::NoFocus);
+    m_checkBox->setAttribute(Qt::WA_TransparentForMouseEvents);
+
+    connect(LGuiApplicationHelper::instance(), &LGuiApplicationHelper::themeTypeChanged, this,
+            &TiTleItem::colorTexts);
+}
+
+void TiTleItem::insertConferenceMsg(const UserInfo &user)
+{
+    m_user = user;
+    const QString shownName = user.remarkName.isEmpty() ? user.account : user.remarkName;
+    m_nameLabel = addLabel(shownName);
+    m_layout->addSpacing(SpaceAfterName);
+    if (!user.name.isEmpty() && user.name != QLatin1String(" ")) {
+        m_captionLabel = addLabel(QStringLiteral("ID"));
+        m_layout->addSpacing(SpaceAfterCaption);
+    }
+    m_detailLabel = addLabel(user.account);
+    m_layout->addWidget(m_checkBox);
+    colorTexts();
+    setAccessibleName(shownName);
+    setAccessibleDescription(user.account);
+}
+
+void TiTleItem::insertSinglePersonName(const UserInfo &user)
+{
+    m_user = user;
+    m_nameLabel = addLabel(user.name);
+    m_layout->addWidget(m_checkBox);
+    colorTexts();
+    setAccessibleName(user.name);
+}
+
+UserInfo TiTleItem::getUserInfo() const
+{
+    return m_user;
+}
+
+bool TiTleItem::isSelected() const
+{
+    return m_selected;
+}
+
+void TiTleItem::setWidgetColor(QWidget *widget, int alpha)
+{
+    ThemeColor::applyText(*widget, alpha);
+}
+
+void TiTleItem::keyPressEvent(QKeyEvent *event)
+{
+    if (!isToggleKey(*event)) {
+        CustomizeItem::keyPressEvent(event);
+        return;
+    }
+    if (!event->isAutoRepeat())
+        toggleSelection();
+}
+
+void TiTleItem::keyReleaseEvent(QKeyEvent *event)
+{
+    if (!isToggleKey(*event))
+        CustomizeItem::keyReleaseEvent(event);
+}
+
+void TiTleItem::mousePressEvent(QMouseEvent *event)
+{
+    event->accept();
+}
+
+void TiTleItem::mouseReleaseEvent(QMouseEvent *event)
+{
+    event->accept();
+    if (event->button() == Qt::LeftButton && rect().contains(event->pos()))
+        toggleSelection();
+}
+
+void TiTleItem::paintEvent(QPaintEvent *event)
+{
+    CustomizeItem::paintEvent(event);
+    // Rows take the focus with the Tab key only, so that the frame is never seen by who uses the mouse.
+    if (!hasFocus())
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(FocusColor), FocusWidth));
+    constexpr qreal Inset = FocusWidth / 2;
+    painter.drawRoundedRect(QRectF(rect()).adjusted(Inset, Inset, -Inset, -Inset), FocusRadius, FocusRadius);
+}
+
+LLabel *TiTleItem::addLabel(const QString &text)
+{
+    auto *label = new LLabel(text, this);
+    label->setElideMode(Qt::ElideRight);
+    label->setFont(LFontSizeManager::instance()->get(LFontSizeManager::T6, label->font()));
+    m_layout->addWidget(label);
+    return label;
+}
+
+void TiTleItem::toggleSelection()
+{
+    if (m_selected)
+        deselect();
+    else
+        select();
+}
+
+void TiTleItem::select()
+{
+    if (m_card == nullptr || !m_card->selectionBudget().take())
+        return;
+    m_selected = true;
+    m_layout->removeWidget(m_checkBox);
+    m_layout->addWidget(m_checkBox, 1, Qt::AlignRight);
+    m_checkBox->setChecked(true);
+    m_checkBox->show();
+    Q_EMIT signalSelectionChanged(true);
+}
+
+void TiTleItem::deselect()
+{
+    m_selected = false;
+    m_layout->removeWidget(m_checkBox);
+    m_checkBox->setChecked(false);
+    m_checkBox->hide();
+    m_card->selectionBudget().giveBack();
+    Q_EMIT signalSelectionChanged(false);
+}
+
+void TiTleItem::colorTexts()
+{
+    if (m_nameLabel != nullptr)
+        setWidgetColor(m_nameLabel, NameAlpha);
+    for (LLabel *label : {m_captionLabel, m_detailLabel}) {
+        if (label != nullptr)
+            setWidgetColor(label, DetailAlpha);
+    }
+}

@@ -7,6 +7,12 @@
 
 #include <QtWidgets/QApplication>
 
+LGuiApplicationHelper::LGuiApplicationHelper()
+{
+    // For queued connections to the signal.
+    qRegisterMetaType<LGuiApplicationHelper::ColorType>();
+}
+
 LGuiApplicationHelper *LGuiApplicationHelper::instance()
 {
     static LGuiApplicationHelper helper;

@@ -46,7 +46,7 @@ Q_SIGNALS:
     void themeTypeChanged(LGuiApplicationHelper::ColorType themeType);
 
 private:
-    using QObject::QObject;
+    LGuiApplicationHelper();
     void followApplication();
     void announceChange();
 

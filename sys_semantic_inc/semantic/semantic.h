@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QDebug>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QJsonValue>
+#include <QtCore/QMap>
+#include <QtCore/QString>
+#include <QtCore/QVariant>
+#include <QtCore/QVector>
+
+/**
+ * @file
+ * One utterance as the understanding service read it: intents with named slots. The records are plain values;
+ * parse() takes untrusted JSON, never throws, and on failure logs why and returns false.
+ *
+ * @code{.json}
+ * {"semantic": [{"intent": "CREATE_CONFERENCE",
+ *                "slots": [{"name": "name", "value": "小李", "normValue": "李雷"}]}]}
+ * @endcode
+ */
+namespace SemanticKey {
+// Plain characters, because log records quote them too.
+constexpr char Semantic[] = "semantic";
+constexpr char Intent[] = "intent";
+constexpr char Slots[] = "slots";
+constexpr char Name[] = "name";
+} // namespace SemanticKey
+
+/// One slot: every member of its JSON object, unchanged; "name" is always there and a string.
+class CloudSlot
+{
+public:
+    bool parse(const QJsonValue &value)
+    {
+        const QJsonObject object = value.toObject();
+        if (!object.value(QLatin1String(SemanticKey::Name)).isString()) {
+            qCritical() << "Every slot must contain a name";
+            return false;
+        }
+        map = object.toVariantMap();
+        return true;
+    }
+
+    QMap<QString, QVariant> map;
+};
+
+/// One intent with its slots, in the order in which they came.
+class CloudIntent
+{
+public:
+    bool parse(const QJsonValue &value)
+    {
+        const QJsonObject object = value.toObject();
+        const QJsonValue intent = object.value(QLatin1String(SemanticKey::Intent));
+        const QJsonValue slotValues = object.value(QLatin1String(SemanticKey::Slots));
+        if (!intent.isString() || !slotValues.isArray()) {
+            qDebug() << "Parse intent failed, json must contain: " << SemanticKey::Intent << ", "
+                     << SemanticKey::Slots;
+            return false;
+        }
+        name = intent.toString();
+        const QJsonArray array = slotValues.toArray();
+        slotList.reserve(slotList.size() + array.size());
+        for (const QJsonValue slotValue : array) {
+            if (!slotValue.isObject()) {
+                qCritical() << "Parse slot failed, slot is not a object"; // hosts search for this wording
+                qDebug() << "Parse slot failed, please check slot.";
+                return false;
+            }
+            CloudSlot slot;
+            if (!slot.parse(slotValue)) {
+                qDebug() << "Parse slot failed, please check slot.";
+                return false;
+            }
+            slotList.append(slot);
+        }
+        return true;
+    }
+
+    QString name;
+    QVector<CloudSlot> slotList; ///< not "slots", which is a macro where Qt's keywords are on
+};
+
+/// All intents of one utterance, in the order in which they came.
+class CloudSemantic
+{
+public:
+    /// Intents before a broken one stay.
+    bool parse(const QJsonValue &root)
+    {
+        const QJsonObject object = root.toObject();
+        const auto semantic = object.constFind(QLatin1String(SemanticKey::Semantic));
+        if (semantic == object.constEnd()) {
+            qDebug() << "Can not parse semantic, root name must be: " << SemanticKey::Semantic;
+            return false;
+        }
+        const QJsonArray array = semantic.value().toArray();
+        intents.reserve(intents.size() + array.size());
+        for (const QJsonValue value : array) {
+            CloudIntent intent;
+            if (!intent.parse(value)) {
+                qDebug() << "Parse intent failed, please check intent.";
+                return false;
+            }
+            intents.append(intent);
+        }
+        return true;
+    }
+
+    QVector<CloudIntent> intents;
+};

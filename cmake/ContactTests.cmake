@@ -1,12 +1,13 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# contact_add_test(NAME SOURCES... LIBRARIES... [NO_TEST])
+# contact_add_test(NAME SOURCES... LIBRARIES... [NO_TEST] [SCRIPTED_ABILITY])
 #   A QtTest program. With NO_TEST it is only built, and contact_add_test_run() says how it runs.
 # contact_add_test_run(NAME TARGET t [AT "2026-03-07 10:20:00"] [TZ zone] [ENVIRONMENT var=value...] [COMMAND cmd...]
-#                      [ARGUMENTS ...] [LABELS ...] [TIMEOUT seconds] [SERIAL] [BUS])
+#                      [ARGUMENTS ...] [LABELS ...] [TIMEOUT seconds] [SERIAL] [BUS] [SCRIPTED_ABILITY])
 #   One run of such a program: AT starts the clock at that local time, BUS gives it a session bus of its own, SERIAL keeps
-#   runs apart that would see each other in the process table.
+#   runs apart that would see each other in the process table, SCRIPTED_ABILITY puts the ability library that the test
+#   controls (tests/support/scriptedability.h) in the real one's place.
 
 find_package(Qt5 REQUIRED COMPONENTS Test)
 find_program(CONTACT_FAKETIME faketime REQUIRED)
@@ -22,17 +23,20 @@ set(CONTACT_TEST_ENVIRONMENT
     TSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/tsan.supp)
 
 function(contact_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "NO_TEST" "" "SOURCES;LIBRARIES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "NO_TEST;SCRIPTED_ABILITY" "" "SOURCES;LIBRARIES")
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE Qt5::Test ${arg_LIBRARIES})
     target_compile_definitions(${name} PRIVATE CONTACT_SOURCE_DIR="${CMAKE_SOURCE_DIR}" CONTACT_BINARY_DIR="${CMAKE_BINARY_DIR}")
     if(NOT arg_NO_TEST)
-        contact_add_test_run(${name} TARGET ${name})
+        if(arg_SCRIPTED_ABILITY)
+            set(ability SCRIPTED_ABILITY)
+        endif()
+        contact_add_test_run(${name} TARGET ${name} ${ability})
     endif()
 endfunction()
 
 function(contact_add_test_run name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "SERIAL;BUS" "TARGET;AT;TZ;TIMEOUT" "ENVIRONMENT;ARGUMENTS;LABELS;COMMAND")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "SERIAL;BUS;SCRIPTED_ABILITY" "TARGET;AT;TZ;TIMEOUT" "ENVIRONMENT;ARGUMENTS;LABELS;COMMAND")
     if(NOT arg_TZ)
         set(arg_TZ Asia/Shanghai)
     endif()
@@ -51,6 +55,13 @@ function(contact_add_test_run name)
         list(APPEND command ${arg_COMMAND})
     else()
         list(APPEND command $<TARGET_FILE:${arg_TARGET}>)
+    endif()
+    if(arg_SCRIPTED_ABILITY)
+        # Searched before the run path that names the real library's folder.
+        list(APPEND arg_ENVIRONMENT LD_LIBRARY_PATH=$<TARGET_FILE_DIR:scripted-ability>)
+        if(arg_TARGET)
+            add_dependencies(${arg_TARGET} scripted-ability)
+        endif()
     endif()
     add_test(NAME ${name} COMMAND ${command} ${arg_ARGUMENTS})
     set_tests_properties(${name} PROPERTIES

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "lumoglobal.h"
+
+#include <QtWidgets/QProxyStyle>
+
+QT_BEGIN_NAMESPACE
+class QStyleOptionComboBox;
+class QStyleOptionSpinBox;
+QT_END_NAMESPACE
+
+/**
+ * The desktop's look: flat rounded buttons and fields, a ring in the accent colour where the keyboard's focus
+ * is. All colours come from the palette of what is painted, so it serves both themes. Not needed for the
+ * toolkit's widgets to work; an application that wants it calls QApplication::setStyle(new LStyle).
+ */
+class LUMO_EXPORT LStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    LStyle();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget = nullptr) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget = nullptr) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
+                           const QWidget *widget = nullptr) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
+                    const QWidget *widget = nullptr) const override;
+    /// That of LGuiApplicationHelper::standardPalette() for the light theme.
+    QPalette standardPalette() const override;
+
+private:
+    void drawComboBox(const QStyleOptionComboBox &option, QPainter *painter, const QWidget *widget) const;
+    void drawSpinBox(const QStyleOptionSpinBox &option, QPainter *painter, const QWidget *widget) const;
+};

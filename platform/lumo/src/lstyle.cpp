@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "lumo/lstyle.h"
+
+#include "lumo/lguiapplicationhelper.h"
+#include "stylepainting.h"
+
+#include <QtWidgets/QStyleOption>
+
+namespace {
+constexpr int ControlHeight = 32;
+constexpr int IndicatorExtent = 18;
+} // namespace
+
+LStyle::LStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+void LStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                           const QWidget *widget) const
+{
+    switch (element) {
+    case PE_PanelButtonCommand: {
+        const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+        const bool flat = button != nullptr && button->features.testFlag(QStyleOptionButton::Flat);
+        StylePainting::button(*painter, *option, flat);
+        return;
+    }
+    case PE_FrameDefaultButton:
+        return;
+    case PE_FrameFocusRect:
+        if (option->state.testFlag(State_KeyboardFocusChange))
+            StylePainting::focusRing(*painter, *option);
+        return;
+    case PE_IndicatorCheckBox:
+        StylePainting::checkMark(*painter, *option);
+        return;
+    default:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+}
+
+void LStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                                const QWidget *widget) const
+{
+    const auto *comboBox = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+    const auto *spinBox = qstyleoption_cast<const QStyleOptionSpinBox *>(option);
+    if (control == CC_ComboBox && comboBox != nullptr)
+        drawComboBox(*comboBox, painter, widget);
+    else if (control == CC_SpinBox && spinBox != nullptr)
+        drawSpinBox(*spinBox, painter, widget);
+    else
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+void LStyle::drawComboBox(const QStyleOptionComboBox &option, QPainter *painter, const QWidget *widget) const
+{
+    StylePainting::field(*painter, option);
+    const QRect arrow = proxy()->subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, widget);
+    StylePainting::sign(*painter, option, arrow, StylePainting::Sign::Down,
+                        option.state.testFlag(State_Enabled));
+    if (option.state.testFlag(State_HasFocus))
+        proxy()->drawPrimitive(PE_FrameFocusRect, &option, painter, widget);
+}
+
+void LStyle::drawSpinBox(const QStyleOptionSpinBox &option, QPainter *painter, const QWidget *widget) const
+{
+    using StylePainting::Sign;
+    StylePainting::field(*painter, option);
+    const bool enabled = option.state.testFlag(State_Enabled);
+    const bool arrows = option.buttonSymbols == QAbstractSpinBox::UpDownArrows;
+    const auto drawButton = [&](SubControl button, QAbstractSpinBox::StepEnabledFlag step, Sign sign) {
+        const QRect room = proxy()->subControlRect(CC_SpinBox, &option, button, widget);
+        StylePainting::sign(*painter, option, room, sign, enabled && option.stepEnabled.testFlag(step));
+    };
+    drawButton(SC_SpinBoxUp, QAbstractSpinBox::StepUpEnabled, arrows ? Sign::Up : Sign::Plus);
+    drawButton(SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled, arrows ? Sign::Down : Sign::Minus);
+    if (option.state.testFlag(State_HasFocus))
+        proxy()->drawPrimitive(PE_FrameFocusRect, &option, painter, widget);
+}
+
+QSize LStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
+                               const QWidget *widget) const
+{
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type == CT_PushButton || type == CT_ComboBox || type == CT_SpinBox)
+        return size.expandedTo(QSize(0, ControlHeight));
+    return size;
+}
+
+int LStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
+{
+    switch (metric) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+        return IndicatorExtent;
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+        return 0;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+QPalette LStyle::standardPalette() const
+{
+    return LGuiApplicationHelper::standardPalette(LGuiApplicationHelper::LightType);
+}

@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "stylepainting.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QStyleOption>
+
+namespace {
+
+constexpr qreal Radius = 8;
+constexpr qreal RingWidth = 2;
+constexpr qreal CheckRadius = 4;
+constexpr qreal SignWidth = 1.5;
+constexpr qreal SignExtent = 4; ///< half the width of a sign
+constexpr int HoverFactor = 106;
+constexpr int PressedFactor = 114;
+constexpr int DisabledAlpha = 90;
+
+class PainterState
+{
+public:
+    explicit PainterState(QPainter &painter) : m_painter(painter)
+    {
+        m_painter.save();
+        m_painter.setRenderHint(QPainter::Antialiasing);
+    }
+    ~PainterState() { m_painter.restore(); }
+    Q_DISABLE_COPY(PainterState)
+
+private:
+    QPainter &m_painter;
+};
+
+bool is(const QStyleOption &option, QStyle::StateFlag flag)
+{
+    return option.state.testFlag(flag);
+}
+
+QColor groundOf(const QStyleOption &option, QPalette::ColorRole role)
+{
+    QColor color = option.palette.color(role);
+    if (!is(option, QStyle::State_Enabled))
+        color.setAlpha(DisabledAlpha);
+    else if (is(option, QStyle::State_Sunken))
+        color = color.darker(PressedFactor);
+    else if (is(option, QStyle::State_MouseOver))
+        color = color.darker(HoverFactor);
+    return color;
+}
+
+/// Half a pixel inside, so that a line of one pixel falls on one row of pixels.
+QRectF inside(const QRect &rect, qreal lineWidth)
+{
+    const qreal inset = lineWidth / 2;
+    return QRectF(rect).adjusted(inset, inset, -inset, -inset);
+}
+
+} // namespace
+
+void StylePainting::button(QPainter &painter, const QStyleOption &option, bool flat)
+{
+    const PainterState state(painter);
+    QColor ground = groundOf(option, QPalette::Button);
+    const bool touched = is(option, QStyle::State_MouseOver) || is(option, QStyle::State_Sunken);
+    if (flat && !touched)
+        return;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ground);
+    painter.drawRoundedRect(option.rect, Radius, Radius);
+}
+
+void StylePainting::field(QPainter &painter, const QStyleOption &option)
+{
+    const PainterState state(painter);
+    painter.setBrush(groundOf(option, QPalette::Base));
+    QColor edge = option.palette.color(QPalette::Mid);
+    edge.setAlpha(is(option, QStyle::State_Enabled) ? edge.alpha() : DisabledAlpha);
+    painter.setPen(QPen(edge, 1));
+    painter.drawRoundedRect(inside(option.rect, 1), Radius, Radius);
+}
+
+void StylePainting::focusRing(QPainter &painter, const QStyleOption &option)
+{
+    const PainterState state(painter);
+    // On a ground in the accent colour a ring in the accent colour could not be seen.
+    const bool onAccent = option.palette.color(QPalette::Button) == option.palette.color(QPalette::Highlight);
+    const auto role = onAccent ? QPalette::HighlightedText : QPalette::Highlight;
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(option.palette.color(role), RingWidth));
+    painter.drawRoundedRect(inside(option.rect, RingWidth), Radius - RingWidth / 2, Radius - RingWidth / 2);
+}
+
+void StylePainting::checkMark(QPainter &painter, const QStyleOption &option)
+{
+    const PainterState state(painter);
+    const QRectF box = inside(option.rect, 1);
+    const bool checked = is(option, QStyle::State_On);
+    painter.setBrush(groundOf(option, checked ? QPalette::Highlight : QPalette::Base));
+    painter.setPen(checked ? QPen(Qt::NoPen) : QPen(option.palette.color(QPalette::Mid), 1));
+    painter.drawRoundedRect(box, CheckRadius, CheckRadius);
+    if (!checked)
+        return;
+    painter.setPen(QPen(option.palette.color(QPalette::HighlightedText), SignWidth, Qt::SolidLine,
+                        Qt::RoundCap, Qt::RoundJoin));
+    const auto at = [&box](qreal x, qreal y) {
+        return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
+    };
+    painter.drawPolyline(QPolygonF({at(0.25, 0.53), at(0.44, 0.72), at(0.76, 0.32)}));
+}
+
+void StylePainting::sign(QPainter &painter, const QStyleOption &option, const QRect &room, Sign sign,
+                         bool enabled)
+{
+    const PainterState state(painter);
+    const auto group = enabled ? QPalette::Active : QPalette::Disabled;
+    painter.setPen(QPen(option.palette.color(group, QPalette::Text), SignWidth, Qt::SolidLine, Qt::RoundCap,
+                        Qt::RoundJoin));
+    const QPointF middle = QRectF(room).center();
+    const auto at = [&middle](qreal x, qreal y) {
+        return middle + QPointF(x, y) * SignExtent;
+    };
+    switch (sign) {
+    case Sign::Up:
+        painter.drawPolyline(QPolygonF({at(-1, 0.5), at(0, -0.5), at(1, 0.5)}));
+        break;
+    case Sign::Down:
+        painter.drawPolyline(QPolygonF({at(-1, -0.5), at(0, 0.5), at(1, -0.5)}));
+        break;
+    case Sign::Plus:
+        painter.drawLine(at(0, -1), at(0, 1));
+        painter.drawLine(at(-1, 0), at(1, 0));
+        break;
+    case Sign::Minus:
+        painter.drawLine(at(-1, 0), at(1, 0));
+        break;
+    }
+}

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QtGlobal>
+
+QT_BEGIN_NAMESPACE
+class QPainter;
+class QPalette;
+class QRect;
+class QStyleOption;
+QT_END_NAMESPACE
+
+/// The shapes that LStyle draws, in the colours of the option's palette. They leave the painter as it was.
+namespace StylePainting {
+
+void button(QPainter &painter, const QStyleOption &option, bool flat);
+/// The ground of a combo box, a spin box or a line edit.
+void field(QPainter &painter, const QStyleOption &option);
+void focusRing(QPainter &painter, const QStyleOption &option);
+void checkMark(QPainter &painter, const QStyleOption &option);
+
+enum class Sign { Up, Down, Plus, Minus };
+void sign(QPainter &painter, const QStyleOption &option, const QRect &room, Sign sign, bool enabled);
+
+} // namespace StylePainting

@@ -2,3 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "contactutils.h"
+
+ContactUtils *ContactUtils::instance()
+{
+    static ContactUtils utils;
+    return &utils;
+}

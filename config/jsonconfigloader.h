@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QObject>
+
+QT_BEGIN_NAMESPACE
+class QJsonDocument;
+QT_END_NAMESPACE
+
+/// Reads one JSON file at a time and owns what it has read.
+class JsonConfigLoader : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit JsonConfigLoader(QObject *parent = nullptr);
+    ~JsonConfigLoader() override;
+
+    /**
+     * Null when the file cannot be read; a null document when it is not JSON. Owned by the loader; a document
+     * loaded before stays valid, since its caller may still read it.
+     */
+    virtual QJsonDocument *load(const QString &path);
+    /// Nothing: documents live as long as the loader.
+    virtual void unload();
+
+private:
+    QJsonDocument *m_document = nullptr;
+};

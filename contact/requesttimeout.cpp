@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+// How ContactUtils finds out how long a request may take.
+
+#include "contactutils.h"
+
+#include "configmanager.h"
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+constexpr QLatin1String timeOutKey("/Contact/TimeOut");
+constexpr QLatin1String maxTimeOutKey("/Contact/MaxTimeOut");
+
+// Milliseconds.
+constexpr int shortestTimeOut = 500; ///< anything up to it is taken for a mistake
+constexpr int defaultTimeOut = 5000;
+constexpr int defaultMaxTimeOut = 15000;
+
+constexpr char processName[] = "meetlynx";
+constexpr std::size_t lineSize = 256;
+
+/// The configured number when it is greater than @p limit, else @p otherwise. A text that is no number is 0.
+int configuredAbove(int limit, QLatin1String key, int otherwise)
+{
+    QString text;
+    if (!ConfigManager::instance()->query(key, text)) {
+        return otherwise;
+    }
+    const int value = text.toInt();
+    return value > limit ? value : otherwise;
+}
+
+} // namespace
+
+bool ContactUtils::contactAppIsRunning()
+{
+    std::array<char, lineSize> command{};
+    std::snprintf(command.data(), command.size(), "ps -ef | grep -w %s | grep -v grep | wc -l", processName);
+    FILE *pipe = popen(command.data(), "re"); // "e": no child started meanwhile inherits it
+    if (pipe == nullptr) {
+        return false;
+    }
+    std::array<char, lineSize> line{};
+    const bool isRead = std::fgets(line.data(), static_cast<int>(line.size()), pipe) != nullptr;
+    pclose(pipe);
+    // Exactly one, on purpose: with two it is not clear which of them would answer.
+    constexpr int decimal = 10;
+    return isRead && std::strtol(line.data(), nullptr, decimal) == 1;
+}
+
+int ContactUtils::timeoutInit()
+{
+    const int timeOut = configuredAbove(shortestTimeOut, timeOutKey, defaultTimeOut);
+    if (contactAppIsRunning()) {
+        return timeOut;
+    }
+    // The application has to be started first. A maximum that is not above the normal time-out is replaced by
+    // the default one, not by the normal time-out, on purpose.
+    return configuredAbove(timeOut, maxTimeOutKey, defaultMaxTimeOut);
+}

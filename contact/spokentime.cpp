@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "spokentime.h"
+
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+
+namespace {
+
+constexpr QLatin1String suggestDatetimeKey("suggestDatetime");
+constexpr QLatin1Char timeMark('T');
+
+QDate dateOf(const QString &text)
+{
+    return QDate::fromString(text, QStringLiteral("yyyy-MM-dd"));
+}
+
+} // namespace
+
+SpokenTime SpokenTime::fromSlot(const QString &slotText, QJsonParseError *error)
+{
+    SpokenTime result;
+    const QJsonDocument document = QJsonDocument::fromJson(slotText.toUtf8(), error);
+    result.m_text = document.object().value(suggestDatetimeKey).toString();
+    result.m_hasTime = result.m_text.contains(timeMark);
+    if (result.m_hasTime) {
+        // Each for itself: whether the two exist together is LocalTime's question.
+        const int mark = result.m_text.indexOf(timeMark);
+        result.m_date = dateOf(result.m_text.left(mark));
+        result.m_time = QTime::fromString(result.m_text.mid(mark + 1), QStringLiteral("hh:mm:ss"));
+    } else {
+        result.m_date = dateOf(result.m_text);
+    }
+    return result;
+}
+
+QDateTime SpokenTime::exact() const
+{
+    return LocalTime::at(m_date, m_time);
+}
+
+QDateTime LocalTime::at(const QDate &date, const QTime &time)
+{
+    const QDateTime wanted(date, time);
+    if (wanted.isValid() || !date.isValid() || !time.isValid()) {
+        return wanted;
+    }
+    // In the missing hour the milliseconds are those of the clock put forward; only the fields are not.
+    return QDateTime::fromMSecsSinceEpoch(wanted.toMSecsSinceEpoch());
+}
+
+QDateTime LocalTime::startOfDay(const QDate &date)
+{
+    return at(date, QTime(0, 0));
+}
+
+QDateTime LocalTime::nextFullHour(const QDateTime &now)
+{
+    constexpr int lastHour = 23;
+    const int hour = now.time().hour();
+    return hour == lastHour ? startOfDay(now.date().addDays(1)) : at(now.date(), QTime(hour + 1, 0));
+}
+
+qint64 LocalTime::msecs(const QDateTime &dateTime)
+{
+    return dateTime.isValid() ? dateTime.toMSecsSinceEpoch() : 0;
+}

@@ -4,16 +4,95 @@
 #include "contactreplywidget.h"
 
 #include "conferencecardinterface.h"
+#include "conferencemsgstaticwidget.h"
+#include "signalactiontype.h"
+
+#include <QtCore/QDebug>
+
+#include <array>
+
+namespace {
+
+using Builder = void (*)(ConferenceMsgStaticWidget &card, const QVariant &data);
+
+void buildCandidatesToCreate(ConferenceMsgStaticWidget &card, const QVariant &data)
+{
+    card.createMultiplePerson(data.value<ContactCreatedConferenceDetail>(), true);
+}
+
+void buildOverlap(ConferenceMsgStaticWidget &card, const QVariant &data)
+{
+    card.singleInit(data.value<ContactCreatedConferenceDetail>().conferences);
+}
+
+void buildCandidatesToInvite(ConferenceMsgStaticWidget &card, const QVariant &data)
+{
+    card.inviteMultiplePerson(data.value<ContactInviteMemberDetail>());
+}
+
+void buildCandidatesWithinLimit(ConferenceMsgStaticWidget &card, const QVariant &data)
+{
+    card.invitePersonLimit(data.value<ContactInviteMemberDetail>());
+}
+
+void buildFound(ConferenceMsgStaticWidget &card, const QVariant &data)
+{
+    const QVector<ContactDetailMsg> found = data.value<ContactQueryConferenceDetail>().conferences;
+    if (found.size() > 1)
+        card.multipleInit(found);
+    else
+        card.singleInit(found);
+}
+
+/// By SignalActionType. The first is missing: its record is kept by the dispatcher.
+constexpr std::array<Builder, Query_List + 1> Builders = {
+    nullptr,
+    buildCandidatesToCreate,
+    buildOverlap,
+    buildCandidatesToInvite,
+    buildCandidatesWithinLimit,
+    buildFound,
+    buildFound,
+};
+
+} // namespace
 
 ContactReplyWidget::ContactReplyWidget(QObject *parent)
     : QObject(parent)
     , m_interface(ConferenceCardInterface::instance())
 {
+    // So that a card on another thread could answer, too.
+    qRegisterMetaType<Reply>();
     connect(m_interface, &ConferenceCardInterface::sentActionSignals, this,
             &ContactReplyWidget::slotNoticeAction, Qt::DirectConnection);
 }
 
-void ContactReplyWidget::slotNoticeAction(const int & /*actionType*/, const QVariant & /*data*/,
-                                          Reply * /*reply*/)
+void ContactReplyWidget::slotNoticeAction(const int &actionType, const QVariant &data, Reply *reply)
 {
+    if (reply == nullptr)
+        return;
+    reply->type |= Reply::Card;
+    reply->widget = nullptr;
+    // Whoever shows the reply takes the card over.
+    m_card = new ConferenceMsgStaticWidget;
+    connect(m_card, &ConferenceMsgStaticWidget::signalSendShowMessgae, this,
+            &ContactReplyWidget::signaleSendShowMessage);
+    if (actionType == Invite_ExceedLimit) {
+        const auto detail = data.value<ContactInviteMemberDetail>();
+        qDebug() << "+++++Invite_ExceedLimit:" << detail.canInviteNum << detail.normalUsers.size()
+                 << detail.notExistUsers;
+    }
+    build(actionType, data);
+    reply->widget = m_card;
+}
+
+void ContactReplyWidget::build(int actionType, const QVariant &data)
+{
+    if (actionType == Create_Success) {
+        m_created = data.value<ContactCreatedConferenceDetail>();
+        m_card->createInviteConference(m_created.conferences);
+    } else if (actionType > Create_Success && actionType <= Query_List) {
+        Builders.at(static_cast<std::size_t>(actionType))(*m_card, data);
+    }
+    // Any other action has a card with nothing on it.
 }

@@ -33,7 +33,10 @@ Q_SIGNALS:
     void signaleSendShowMessage(Reply reply);
 
 private:
+    void build(int actionType, const QVariant &data);
+
     ConferenceCardInterface *m_interface;
+    /// The latest one. It may long be deleted; nothing but its building is done with it.
     ConferenceMsgStaticWidget *m_card = nullptr;
     ContactCreatedConferenceDetail m_created;
 };

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "conferencerecords.h"
+
+#include <QtCore/QDate>
+#include <QtCore/QTime>
+
+/// What a person may change about a conference. Date and time are local; the duration is in milliseconds.
+struct ConferenceValues
+{
+    QDate startDate;
+    QTime startTime;
+    int participantLimit = 0;
+    qint64 duration = 0;
+
+    static ConferenceValues of(const ContactDetailMsg &conference);
+};
+
+/**
+ * A conference that is being edited: the values that the controls show, beside those that the contacts
+ * application knows.
+ */
+class ConferenceDraft
+{
+public:
+    /// Takes the values of @p conference as those to compare with. The working values stay as they are.
+    void setReference(const ContactDetailMsg &conference);
+
+    ConferenceValues &working() { return m_working; }
+
+    /// Whether the working values differ. The start is compared in whole seconds.
+    bool isChanged() const;
+
+    /// Writes the working values into @p conference.
+    void applyTo(ContactDetailMsg &conference) const;
+
+private:
+    ConferenceValues m_working;
+    ConferenceValues m_reference;
+};

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QMap>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QTime>
+
+/// The hours at which a conference card lets a conference start, and how it calls them.
+class ConferenceHours
+{
+public:
+    ConferenceHours();
+
+    /// From midnight on.
+    QStringList choices() const;
+    /// How the hour of @p time is called; empty for an invalid time.
+    QString label(const QTime &time) const;
+    /// The full hour that is called @p label, invalid for any other text.
+    QTime time(const QString &label) const;
+
+private:
+    QMap<int, QString> m_labels;
+};

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "conferencerecords.h"
+
+QT_BEGIN_NAMESPACE
+class QHBoxLayout;
+class QPushButton;
+class QWidget;
+QT_END_NAMESPACE
+
+/// Makes the rows of a card that only show something. Each row belongs to the parent it is given.
+namespace ConferenceRows {
+
+QWidget *title(QWidget *parent);
+/// What the conference is about; in a static row also the state that it is in.
+QWidget *status(const ContactDetailMsg &conference, bool isStatic, QWidget *parent);
+QWidget *number(const ContactDetailMsg &conference, QWidget *parent);
+QWidget *beginTime(const ContactDetailMsg &conference, QWidget *parent);
+QWidget *timeLength(const ContactDetailMsg &conference, QWidget *parent);
+QWidget *personNum(const ContactDetailMsg &conference, QWidget *parent);
+QWidget *participants(const ContactDetailMsg &conference, QWidget *parent);
+
+/// A row that has its caption and waits for its value in the layout.
+struct CaptionedRow
+{
+    QWidget *widget;
+    QHBoxLayout *layout;
+};
+CaptionedRow captioned(const QString &caption, QWidget *parent);
+
+/// A line between two parts of a card: a button that is none, because it takes neither focus nor mouse.
+QPushButton *line(QWidget *parent);
+
+// How the rows are called, for the eye and for assistive technology.
+QString beginTimeCaption();
+QString timeLengthCaption();
+QString personNumCaption();
+
+} // namespace ConferenceRows

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QString>
+#include <QtGui/QColor>
+
+/// How a card shows the state that a conference is in.
+struct ConferenceState
+{
+    QString text;
+    const char *icon; ///< one of CardIcons
+    QColor color;     ///< of the text; the same in both themes, so that a state is known by its colour
+
+    /// @p status is the code of the contacts application. An unknown one counts as in progress.
+    static ConferenceState of(int status);
+};

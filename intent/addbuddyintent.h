@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "ireplyableintent.h"
+
+#include <QtCore/QObject>
+
+/// Sends a friend request to an account.
+class AddBuddyIntent : public QObject, public IReplyableIntent
+{
+    Q_OBJECT
+
+public:
+    static constexpr char IntentName[] = "ADD_BUDDY";
+
+    explicit AddBuddyIntent(QObject *parent = nullptr);
+
+    int action(const CloudIntent &intent) override;
+    int handleReply(int code, const CloudIntent &intent) override;
+
+    virtual int handleAddBuddy(const CloudIntent &intent);
+};

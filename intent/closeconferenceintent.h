@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "ireplyableintent.h"
+
+#include <QtCore/QObject>
+
+/// Leaves the conference that runs.
+class CloseConferenceIntent : public QObject, public IReplyableIntent
+{
+    Q_OBJECT
+
+public:
+    static constexpr char IntentName[] = "CLOSE_CONFERENCE";
+
+    explicit CloseConferenceIntent(QObject *parent = nullptr);
+
+    int action(const CloudIntent &intent) override;
+    int handleReply(int code, const CloudIntent &intent) override;
+
+    virtual int handleCloseConference(const CloudIntent &intent);
+};

@@ -1,0 +1,195 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "createconferenceintent.h"
+
+#include "contactutils.h"
+#include "memberphrases.h"
+#include "replytable.h"
+#include "slotreader.h"
+
+#include <QtCore/QDateTime>
+#include <QtCore/QDebug>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QThread>
+
+namespace {
+
+// {"members":[{"name":"张三","userId":""}],"startTime":1772850000000}; without "startTime" it starts now.
+constexpr QLatin1String membersKey("members");
+constexpr QLatin1String nameKey("name");
+constexpr QLatin1String userIdKey("userId");
+constexpr QLatin1String startTimeKey("startTime");
+
+using Detail = ContactCreatedConferenceDetail;
+
+bool isScheduled(const Detail &detail)
+{
+    return detail.isSchedule;
+}
+
+bool isScheduledAndListed(const Detail &detail)
+{
+    return detail.isSchedule && !detail.conferences.isEmpty();
+}
+
+bool isImmediate(const Detail &detail)
+{
+    return !detail.isSchedule;
+}
+
+bool isListed(const Detail &detail)
+{
+    return !detail.conferences.isEmpty();
+}
+
+/// With a single name that nobody has, nothing was created; with more, the conference was, without them.
+bool missesSeveral(const Detail &detail)
+{
+    return detail.inviteDetail.notExistUsers.size() >= 2;
+}
+
+bool missesSeveralScheduled(const Detail &detail)
+{
+    return missesSeveral(detail) && detail.isSchedule;
+}
+
+QString verbOf(const CloudIntent &intent)
+{
+    return SlotReader::firstText(intent, SlotName::Open, QStringLiteral("发起"));
+}
+
+QString missingNames(const Detail &detail)
+{
+    return ContactUtils::vectorToString(detail.inviteDetail.notExistUsers);
+}
+
+QStringList verb(const Detail & /*detail*/, const CloudIntent &intent)
+{
+    return {verbOf(intent)};
+}
+
+QStringList missing(const Detail &detail, const CloudIntent & /*intent*/)
+{
+    return {missingNames(detail)};
+}
+
+QStringList verbAndMissing(const Detail &detail, const CloudIntent &intent)
+{
+    return {verbOf(intent), missingNames(detail)};
+}
+
+QStringList foundAndMissing(const Detail &detail, const CloudIntent & /*intent*/)
+{
+    return {MemberPhrases::joinedNames(detail.inviteDetail.normalUsers), missingNames(detail)};
+}
+
+QStringList choicePrompt(const Detail &detail, const CloudIntent & /*intent*/)
+{
+    return {MemberPhrases::choicePrompt(detail.inviteDetail.notExistUsers)};
+}
+
+const QVector<ReplyRow<Detail>> &replies()
+{
+    using namespace ResultCode;
+    // Of the rows of one code the first whose condition holds is taken, so the narrow ones come first.
+    static const QVector<ReplyRow<Detail>> rows{
+        {Success, isImmediate, QStringLiteral("好的，现在为您%1视频会议。"), verb, textOnly},
+        {Success, isScheduledAndListed, QStringLiteral("好的，为您预约如下。"), nullptr,
+         cardBeforeText(Create_Success)},
+        {Success, nullptr, QStringLiteral("好的，已成功为您预约。"), nullptr, textOnly},
+
+        {NobodyFound, missesSeveralScheduled, QStringLiteral("已为您预约视频会议，未找到%1。"), missing,
+         cardBeforeText(Create_Success)},
+        {NobodyFound, missesSeveral, QStringLiteral("已为您%1视频会议，未找到%2。"), verbAndMissing,
+         textOnly},
+        {NobodyFound, isScheduled, QStringLiteral("抱歉，没有找到该联系人。"), nullptr, textOnly},
+        {NobodyFound, nullptr, QStringLiteral("抱歉,无法为您%1视频会议。"), verb, textOnly},
+
+        {DuplicateNames, nullptr, QStringLiteral("%1"), choicePrompt, cardAfterText(Create_Duplicate)},
+
+        {SomeNotFound, isScheduledAndListed, QStringLiteral("好的，已为您预约和%1的视频会议，未找到%2。"),
+         foundAndMissing, cardBeforeText(Create_Success)},
+        {SomeNotFound, nullptr, MemberPhrases::startedWithSome(), foundAndMissing, textOnly},
+
+        {MembersLimit, isScheduled, QStringLiteral("已为您预约视频会议，会议人数已达上限。"), nullptr,
+         textOnly},
+        {MembersLimit, nullptr, QStringLiteral("已为您%1视频会议，会议人数已达上限。"), verb, textOnly},
+
+        {TimeOverlap, isListed, QStringLiteral("您已有重复时间会议。"), nullptr,
+         cardAfterText(Create_TimeOverlap)},
+        {TimeOverlap, nullptr, QStringLiteral("您已有重复时间会议。"), nullptr, textOnly},
+
+        {PastTime, nullptr, QStringLiteral("抱歉，无法为您预约过去的视频会议。"), nullptr, textOnly},
+        {InOtherConference, nullptr, QStringLiteral("正在会议中。"), nullptr, thenConferenceList},
+        {TooFrequent, nullptr, QStringLiteral("抱歉，操作太频繁，请稍候重试。"), nullptr, textOnly},
+    };
+    return rows;
+}
+
+/// Each name once, in the order said. Who it is, the application finds out.
+QJsonArray membersOf(const QVector<QString> &names)
+{
+    QJsonArray members;
+    QVector<QString> taken;
+    for (const QString &name : names) {
+        if (!taken.contains(name)) {
+            taken.append(name);
+            members.append(QJsonObject{{nameKey, name}, {userIdKey, QString()}});
+        }
+    }
+    return members;
+}
+
+} // namespace
+
+CreateConferenceIntent::CreateConferenceIntent(QObject *parent) : QObject(parent) {}
+
+int CreateConferenceIntent::action(const CloudIntent &intent)
+{
+    return handleCreateVideoMeeting(intent);
+}
+
+int CreateConferenceIntent::handleCreateVideoMeeting(const CloudIntent &intent)
+{
+    qDebug() << "handleCreateVideoMeeting" << QThread::currentThreadId();
+
+    const CloudSlot *datetime = SlotReader::first(intent, SlotName::Datetime);
+    const QVector<QString> names = SlotReader::allTexts(intent, SlotName::Name);
+    // Neither is needed: without people and time it is a conference of the user alone, now.
+    if (datetime == nullptr) {
+        qWarning() << "Create Conference not contain slot: " << SlotName::Datetime;
+    }
+    if (names.isEmpty()) {
+        qWarning() << "Create Conference not contain slot: " << SlotName::Name;
+    }
+
+    bool isSchedule = false;
+    qint64 startMsecs = 0;
+    const QString timeText = datetime == nullptr ? QString() : SlotReader::text(*datetime);
+    if (!ContactUtils::scheduleTimeMsecsInit(timeText, isSchedule, startMsecs)) {
+        qCritical() << "Invalid Schedule Conference time ...";
+        return ResultCode::PastTime;
+    }
+
+    QJsonObject request{{membersKey, membersOf(names)}};
+    if (startMsecs > 0 && isSchedule) {
+        request.insert(startTimeKey, startMsecs);
+        qInfo() << "startTime:" << QDateTime::fromMSecsSinceEpoch(startMsecs);
+    }
+    const QString params = QString::fromUtf8(QJsonDocument(request).toJson(QJsonDocument::Compact));
+    return ConferenceCardInterface::instance()->createVideoConference(params, names, isSchedule, startMsecs,
+                                                                      m_detail);
+}
+
+int CreateConferenceIntent::handleReply(int code, const CloudIntent &intent)
+{
+    if (code == ResultCode::SomeNotFound) {
+        qInfo() << "strNormalUsers" << MemberPhrases::joinedNames(m_detail.inviteDetail.normalUsers)
+                << "strNotExistUsers" << missingNames(m_detail);
+    }
+    ReplyTable::answer(code, replies(), m_detail, intent, *this);
+    return code;
+}

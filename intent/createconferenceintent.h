@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "conferencerecords.h"
+#include "ireplyableintent.h"
+
+#include <QtCore/QObject>
+
+/// Starts or books a video conference with the people named.
+class CreateConferenceIntent : public QObject, public IReplyableIntent
+{
+    Q_OBJECT
+
+public:
+    static constexpr char IntentName[] = "CREATE_CONFERENCE";
+
+    explicit CreateConferenceIntent(QObject *parent = nullptr);
+
+    int action(const CloudIntent &intent) override;
+    int handleReply(int code, const CloudIntent &intent) override;
+
+    virtual int handleCreateVideoMeeting(const CloudIntent &intent);
+
+private:
+    ContactCreatedConferenceDetail m_detail;
+};

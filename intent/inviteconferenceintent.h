@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "conferencerecords.h"
+#include "ireplyableintent.h"
+
+#include <QtCore/QObject>
+
+/// Invites the people named into the conference that runs.
+class InviteConferenceIntent : public QObject, public IReplyableIntent
+{
+    Q_OBJECT
+
+public:
+    static constexpr char IntentName[] = "INVITE_CONFERENCE";
+
+    explicit InviteConferenceIntent(QObject *parent = nullptr);
+
+    int action(const CloudIntent &intent) override;
+    int handleReply(int code, const CloudIntent &intent) override;
+
+    virtual int handleInviteConference(const CloudIntent &intent);
+
+private:
+    ContactInviteMemberDetail m_detail;
+};

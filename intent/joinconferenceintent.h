@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "ireplyableintent.h"
+
+#include <QtCore/QObject>
+
+/// Joins a conference by its number. A password that is asked for comes with a new intent that holds the
+/// number again.
+class JoinConferenceIntent : public QObject, public IReplyableIntent
+{
+    Q_OBJECT
+
+public:
+    /// The understanding service spells it so.
+    static constexpr char IntentName[] = "ENETR_ID_CONFERENCE";
+
+    explicit JoinConferenceIntent(QObject *parent = nullptr);
+
+    int action(const CloudIntent &intent) override;
+    int handleReply(int code, const CloudIntent &intent) override;
+
+    virtual int handleJoinVideoMeeting(const CloudIntent &intent);
+};

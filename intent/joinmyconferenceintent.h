@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "conferencerecords.h"
+#include "ireplyableintent.h"
+
+#include <QtCore/QObject>
+
+/// Joins the user's own conference, or offers those that could be meant.
+class JoinMyConferenceIntent : public QObject, public IReplyableIntent
+{
+    Q_OBJECT
+
+public:
+    static constexpr char IntentName[] = "ENTER_MY_CONFERENCE";
+
+    explicit JoinMyConferenceIntent(QObject *parent = nullptr);
+
+    int action(const CloudIntent &intent) override;
+    int handleReply(int code, const CloudIntent &intent) override;
+
+    virtual int handleJoinMyConference(const CloudIntent &intent);
+
+private:
+    ContactQueryConferenceDetail m_detail;
+};

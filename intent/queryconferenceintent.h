@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "conferencerecords.h"
+#include "ireplyableintent.h"
+
+#include <QtCore/QObject>
+
+/// Shows the user's conferences, of a day or from now on.
+class QueryConferenceIntent : public QObject, public IReplyableIntent
+{
+    Q_OBJECT
+
+public:
+    static constexpr char IntentName[] = "QUERY_CONFERENCE";
+
+    explicit QueryConferenceIntent(QObject *parent = nullptr);
+
+    int action(const CloudIntent &intent) override;
+    int handleReply(int code, const CloudIntent &intent) override;
+
+    virtual int handleQueryConference(const CloudIntent &intent);
+
+private:
+    ContactQueryConferenceDetail m_detail;
+};

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "replytable.h"
+
+namespace {
+
+bool isCallFailure(int code)
+{
+    return code >= ResultCode::CallFailedFirst && code <= ResultCode::CallFailedLast;
+}
+
+/// Null when the handlers answer @p code each in their own way.
+QString sharedText(int code)
+{
+    if (isCallFailure(code)) {
+        return QStringLiteral("已尝试执行，但操作失败，请稍后重试。");
+    }
+    switch (code) {
+    case ResultCode::NotLoggedIn:
+        return QStringLiteral("已为您打开联系人。");
+    case ResultCode::TimedOut:
+        return QStringLiteral("抱歉，请求响应超时。");
+    default:
+        return QString();
+    }
+}
+
+int contentType(Companion::Kind kind)
+{
+    const bool announcesCard = kind == Companion::CardBeforeText || kind == Companion::CardAfterText;
+    return announcesCard ? Reply::TextsAndCard : Reply::Texts;
+}
+
+} // namespace
+
+bool ReplyTable::giveSharedReply(int code, Reply &reply)
+{
+    const QString text = sharedText(code);
+    if (text.isNull()) {
+        return false;
+    }
+    reply.update(code, text, Reply::Texts);
+    return true;
+}
+
+QString ReplyTable::filled(const QString &text, const QStringList &arguments)
+{
+    switch (arguments.size()) {
+    case 0:
+        return text;
+    case 1:
+        return text.arg(arguments.at(0));
+    default:
+        return text.arg(arguments.at(0), arguments.at(1));
+    }
+}
+
+void ReplyTable::give(int code, const QString &text, const Companion &companion, const QVariant &payload,
+                      IReplyableIntent &handler)
+{
+    ConferenceCardInterface *gateway = ConferenceCardInterface::instance();
+    if (companion.kind == Companion::CardBeforeText) {
+        gateway->noticeSentActionSignals(companion.card, payload, handler.getReply());
+    }
+    handler.getReply()->update(code, text, contentType(companion.kind));
+    if (companion.kind == Companion::CardAfterText || companion.kind == Companion::CardByItself) {
+        gateway->noticeSentActionSignals(companion.card, payload, handler.getReply());
+    }
+    if (companion.kind == Companion::ConferenceList) {
+        gateway->openConferenceList();
+    }
+}

@@ -1,0 +1,199 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "handlerrun.h"
+
+#include "conferencecardinterface.h"
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtTest/QTest>
+
+#include <limits>
+
+namespace {
+
+Expected withCard(int code, const char *text, Expected::CardOrder order, int card)
+{
+    Expected expected = texts(code, text);
+    expected.type = 11;
+    expected.order = order;
+    expected.card = card;
+    return expected;
+}
+
+/// Records the cards announced while it lives, and attaches them like the dispatcher.
+class Announcements : public QObject
+{
+public:
+    Announcements()
+    {
+        connect(ConferenceCardInterface::instance(), &ConferenceCardInterface::sentActionSignals, this,
+                [this](const int &action, const QVariant &payload, Reply *reply) {
+                    list.append({action, payload, reply, reply->displayText.toString(), reply->type});
+                    reply->type |= Reply::Card;
+                    reply->widget = cardOf();
+                });
+    }
+
+    QVector<Announcement> list;
+};
+
+void reply(HandlerRun &run, const CloudIntent &intent)
+{
+    const Announcements announcements;
+    ScriptedAbility &ability = ScriptedAbility::instance();
+    ability.setAnswer(QStringLiteral("Open Conference List"), 0, QStringLiteral("{\"ret\":\"OK\"}"));
+    run.codeOfReply = run.handler->handleReply(run.code, intent);
+    run.actionsOfReply = ability.actions().mid(run.requests.size());
+    run.reply = *run.handler->getReply();
+    run.cards = announcements.list;
+}
+
+} // namespace
+
+QString quoted(const char *json)
+{
+    return QString::fromUtf8(json).replace(QLatin1Char('\''), QLatin1Char('"'));
+}
+
+CloudIntent intentWith(const char *slotArray)
+{
+    const QJsonDocument slotValues = QJsonDocument::fromJson(quoted(slotArray).toUtf8());
+    CloudIntent intent;
+    const bool readable =
+        slotValues.isArray() && intent.parse(QJsonObject{{QStringLiteral("intent"), QStringLiteral("ANY")},
+                                                         {QStringLiteral("slots"), slotValues.array()}});
+    if (!readable) {
+        QTest::qFail(slotArray, __FILE__, __LINE__);
+    }
+    return intent;
+}
+
+Script answers(const char *json)
+{
+    return {0, quoted(json)};
+}
+
+Script callFails(int code)
+{
+    return {code, QString()};
+}
+
+HandlerRun runHandler(IReplyableIntent *handler, const CloudIntent &intent, const Script &script)
+{
+    ScriptedAbility &ability = ScriptedAbility::instance();
+    ability.reset();
+    ability.enqueue(script.callCode, script.answer);
+
+    HandlerRun run;
+    run.handler.reset(handler);
+    run.code = handler->action(intent);
+    run.requests = ability.requests();
+    reply(run, intent);
+    return run;
+}
+
+HandlerRun replyOf(IReplyableIntent *handler, int code, const CloudIntent &intent)
+{
+    ScriptedAbility::instance().reset();
+    HandlerRun run;
+    run.handler.reset(handler);
+    run.code = code;
+    reply(run, intent);
+    return run;
+}
+
+QWidget *cardOf()
+{
+    static char card = 0;
+    // Never looked into: a handler only carries the pointer.
+    return reinterpret_cast<QWidget *>(&card);
+}
+
+Expected texts(int code, const char *text)
+{
+    Expected expected;
+    expected.code = code;
+    expected.text = QString::fromUtf8(text);
+    expected.type = 3;
+    return expected;
+}
+
+Expected textsThenList(int code, const char *text)
+{
+    Expected expected = texts(code, text);
+    expected.opensList = true;
+    return expected;
+}
+
+Expected cardBefore(int code, const char *text, int card)
+{
+    return withCard(code, text, Expected::CardBeforeText, card);
+}
+
+Expected cardAfter(int code, const char *text, int card)
+{
+    return withCard(code, text, Expected::CardAfterText, card);
+}
+
+Expected cardAddedToTexts(int code, const char *text, int card)
+{
+    return withCard(code, text, Expected::CardAddedToTexts, card);
+}
+
+Expected untouched()
+{
+    Expected expected;
+    expected.code = -1;
+    return expected;
+}
+
+void addCodesWithoutReply(const QVector<int> &answered)
+{
+    QTest::addColumn<int>("code");
+    QVector<int> codes{
+        1, 5, -10000, -16000, -16022, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()};
+    for (int code = -16001; code >= -16021; --code) {
+        codes.append(code);
+    }
+    for (const int code : qAsConst(codes)) {
+        if (!answered.contains(code)) {
+            QTest::newRow(QByteArray::number(code).constData()) << code;
+        }
+    }
+}
+
+void compareRun(const HandlerRun &run, const Expected &expected)
+{
+    QCOMPARE(run.codeOfReply, run.code);
+    QCOMPARE(run.reply.code, QVariant(expected.code));
+    QCOMPARE(run.reply.displayText.toString(), expected.text);
+    QCOMPARE(run.reply.speechText, run.reply.displayText);
+    QCOMPARE(run.reply.type, expected.type);
+    QVERIFY(run.reply.endOfSession);
+    QCOMPARE(run.actionsOfReply,
+             expected.opensList ? QStringList{QStringLiteral("Open Conference List")} : QStringList());
+
+    if (expected.order == Expected::NoCard) {
+        QVERIFY(run.cards.isEmpty());
+        QVERIFY(run.reply.widget == nullptr);
+        return;
+    }
+    QCOMPARE(run.cards.size(), 1);
+    const Announcement &card = run.cards.first();
+    QCOMPARE(card.action, expected.card);
+    QCOMPARE(card.reply, run.handler->getReply());
+    const bool textCameFirst = card.textThen == expected.text;
+    QCOMPARE(textCameFirst, expected.order != Expected::CardBeforeText);
+    const int typeThen = expected.order == Expected::CardAfterText      ? 11
+                         : expected.order == Expected::CardAddedToTexts ? 3
+                                                                        : 0;
+    QCOMPARE(card.typeThen, typeThen);
+    QCOMPARE(run.reply.widget, cardOf());
+}
+
+void setSlotText(CloudIntent &intent, int slot, const QString &text)
+{
+    intent.slotList[slot].map.insert(QStringLiteral("value"), text);
+}

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "contactplugin.h"
+
+#include "configmanager.h"
+#include "contactintentfactory.h"
+#include "contactreplywidget.h"
+#include "contactservice.h"
+
+#include <QtCore/QDebug>
+#include <QtCore/QMutexLocker>
+
+#include <exception>
+
+namespace {
+
+constexpr int Initialised = 0;
+constexpr int ConfigurationUnreadable = -3;
+constexpr ServicePriority ContactPriority = 10;
+
+} // namespace
+
+ContactPlugin::ContactPlugin(QObject *parent)
+    : QObject(parent)
+    , m_replyWidget(new ContactReplyWidget(nullptr))
+{
+    qRegisterMetaType<Reply>();
+    connect(m_replyWidget, &ContactReplyWidget::signaleSendShowMessage, this,
+            &ContactPlugin::slotMessageHandle);
+}
+
+int ContactPlugin::init()
+{
+    const bool loaded = ConfigManager::instance()->init(
+        QStringLiteral("/etc/xdg/kelvane-speakmate-plugins/contact-plugin.json"));
+    return loaded ? Initialised : ConfigurationUnreadable;
+}
+
+void ContactPlugin::uninit() {}
+
+QStringList ContactPlugin::getSupportService()
+{
+    return {QStringLiteral("contact")};
+}
+
+IService *ContactPlugin::createService(const QString &name)
+{
+    if (!getSupportService().contains(name)) {
+        return nullptr;
+    }
+    const QMutexLocker lock(&m_mutex);
+    IService *service = new ContactService(name, ContactIntentFactory::instance(), ContactPriority);
+    m_lastService = service;
+    m_services.insert(service);
+    return service;
+}
+
+void ContactPlugin::releaseService(IService *service)
+{
+    const QMutexLocker lock(&m_mutex);
+    if (!m_services.contains(service)) {
+        return;
+    }
+    delete service;
+    m_services.remove(service);
+    m_lastService = nullptr;
+}
+
+void ContactPlugin::slotMessageHandle(Reply reply)
+{
+    if (!messageHandle) {
+        return;
+    }
+    try {
+        messageHandle(this, reply);
+    } catch (const std::exception &error) {
+        qCritical() << "The host's message handle threw:" << error.what();
+    } catch (...) {
+        qCritical() << "The host's message handle threw";
+    }
+}

@@ -1,0 +1,172 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "contactservice.h"
+
+#include "contactutils.h"
+#include "iintentfactory.h"
+#include "ireplyableintent.h"
+#include "resultcodes.h"
+#include "semantic/semanticparser.h"
+
+#include <QtCore/QDebug>
+
+#include <exception>
+
+namespace {
+
+constexpr IRet Handled = 0;
+constexpr IRet NoFactory = -20;
+constexpr IRet IntentFailed = -21;
+constexpr IRet SemanticUnreadable = -100;
+
+/// The service has answered these itself; no handler is asked.
+bool isOwnAnswer(int code)
+{
+    return code == ResultCode::UnsupportedIntent || code == ResultCode::UnsupportedPhrasing;
+}
+
+} // namespace
+
+ContactService::ContactService(const QString &name, IIntentFactory *factory, ServicePriority priority)
+    : m_name(name)
+    , m_factory(factory)
+    , m_priority(priority)
+{
+}
+
+ContactService::~ContactService()
+{
+    delete m_handler;
+}
+
+QString ContactService::serviceName()
+{
+    return m_name;
+}
+
+ServicePriority ContactService::servicePriority()
+{
+    return m_priority;
+}
+
+bool ContactService::canHandle(const QString &name)
+{
+    return name == m_name;
+}
+
+IRet ContactService::service(const QString &semantic)
+{
+    if (m_factory == nullptr) {
+        qCritical() << "This service cannot do anything.";
+        return NoFactory;
+    }
+
+    SemanticParser parser;
+    if (!parser.parseSemanticJson(semantic)) {
+        qDebug() << "Parse the semantic json error:" << semantic;
+        return SemanticUnreadable;
+    }
+
+    if (!ContactUtils::analyzeIsShouldEndSession(semantic)) {
+        qDebug() << "Parse the semantic json analyzeIsShouldEndSession is false" << semantic;
+        m_openSessionSemantic = semantic;
+        return Handled;
+    }
+
+    // A semantic without any intent gives a nameless one, which no handler knows.
+    const int result = handleIntentSafely(parser.semantic().intents.value(0));
+    m_reply.code = result;
+    if (result != ResultCode::Success) {
+        qCritical() << "Handle specify intent failed: " << result;
+        return IntentFailed;
+    }
+    return Handled;
+}
+
+int ContactService::handleIntent(const CloudIntent &intent)
+{
+    m_intent = intent;
+    // The former handler is not deleted, on purpose: this runs on the host's worker thread, and the GUI
+    // thread may still be inside the former turn's reply. A host takes a fresh service for each dialogue, so
+    // they are few.
+    m_handler = m_factory->createIntent(intent.name);
+    if (m_handler == nullptr) {
+        qCritical() << "Unsupport this intent: " << intent.name;
+        const QString text = QStringLiteral("对不起，暂不支持该功能。");
+        setTextReply(ResultCode::UnsupportedIntent, text, text);
+        return ResultCode::UnsupportedIntent;
+    }
+
+    const int result = m_handler->action(intent);
+    if (result == ResultCode::UnsupportedPhrasing) {
+        const QString text = QStringLiteral("对不起，暂不支持该说法。");
+        setTextReply(ResultCode::UnsupportedPhrasing, text, text);
+    }
+    return result;
+}
+
+/// The host is not prepared for exceptions: one counts as a failed call.
+int ContactService::handleIntentSafely(const CloudIntent &intent)
+{
+    try {
+        return handleIntent(intent);
+    } catch (const std::exception &error) {
+        qCritical() << "The intent's handler threw:" << error.what();
+    } catch (...) {
+        qCritical() << "The intent's handler threw";
+    }
+    return ResultCode::CallFailedLast;
+}
+
+Reply *ContactService::getServiceReply()
+{
+    if (isOwnAnswer(m_reply.code.toInt())) {
+        m_reply.type = Reply::Texts;
+        m_reply.widget = nullptr;
+    } else if (dialogueIsOpen()) {
+        QString displayText;
+        QString speechText;
+        ContactUtils::getVoiceAnswerContext(m_openSessionSemantic, displayText, speechText);
+        setTextReply(ResultCode::Success, displayText, speechText);
+    } else {
+        takeHandlersReply();
+    }
+    return &m_reply;
+}
+
+bool ContactService::dialogueIsOpen() const
+{
+    return !m_openSessionSemantic.isEmpty() &&
+           !ContactUtils::analyzeIsShouldEndSession(m_openSessionSemantic);
+}
+
+/// Leaves the reply as it stands when no handler has run yet, or one that does not answer.
+void ContactService::takeHandlersReply()
+{
+    auto *handler = dynamic_cast<IReplyableIntent *>(m_handler);
+    if (handler == nullptr) {
+        return;
+    }
+    try {
+        handler->handleReply(m_reply.code.toInt(), m_intent);
+    } catch (const std::exception &error) {
+        qCritical() << "The intent's handler threw:" << error.what();
+    } catch (...) {
+        qCritical() << "The intent's handler threw";
+    }
+    m_reply = *handler->getReply();
+    if (m_reply.widget == nullptr) {
+        m_reply.type = Reply::Texts;
+    }
+}
+
+/// A reply of texts never carries the card of a former turn.
+void ContactService::setTextReply(int code, const QString &displayText, const QString &speechText)
+{
+    m_reply.code = code;
+    m_reply.displayText = displayText;
+    m_reply.speechText = speechText;
+    m_reply.type = Reply::Texts;
+    m_reply.widget = nullptr;
+}

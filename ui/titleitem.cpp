@@ -6,6 +6,7 @@
 #include "conferencemsgstaticwidget.h"
 #include "selectionbudget.h"
 #include "themecolor.h"
+#include "titleitemaccessible.h"
 
 #include <lumo/lfontsizemanager.h>
 #include <lumo/lguiapplicationhelper.h>
@@ -26,6 +27,9 @@ constexpr int SpaceAfterCaption = 10;
 constexpr int NameAlpha = 178;
 constexpr int DetailAlpha = 153;
 
+constexpr QColor LightBackground(247, 247, 247, 204);
+constexpr QColor DarkBackground(255, 255, 255, 20);
+
 constexpr QRgb FocusColor = qRgb(0, 129, 255);
 constexpr qreal FocusWidth = 2;
 constexpr qreal FocusRadius = 8;
@@ -43,6 +47,7 @@ TiTleItem::TiTleItem(const QString &title, QWidget *parent)
     , m_checkBox(new QCheckBox(this))
     , m_card(qobject_cast<ConferenceMsgStaticWidget *>(parent))
 {
+    TiTleItemAccessible::registerFactory();
     setFixedSize(RowSize);
     setBottomRadius(true);
     m_layout->setContentsMargins(Margin, Margin, Margin, Margin);
@@ -56,7 +61,8 @@ TiTleItem::TiTleItem(const QString &title, QWidget *parent)
     m_checkBox->setAttribute(Qt::WA_TransparentForMouseEvents);
 
     connect(LGuiApplicationHelper::instance(), &LGuiApplicationHelper::themeTypeChanged, this,
-            &TiTleItem::colorTexts);
+            &TiTleItem::followTheme);
+    followTheme();
 }
 
 void TiTleItem::insertConferenceMsg(const UserInfo &user)
@@ -71,8 +77,9 @@ void TiTleItem::insertConferenceMsg(const UserInfo &user)
     }
     m_detailLabel = addLabel(user.account);
     m_layout->addWidget(m_checkBox);
-    colorTexts();
+    followTheme();
     setAccessibleName(shownName);
+    m_checkBox->setAccessibleName(shownName);
     setAccessibleDescription(user.account);
 }
 
@@ -81,8 +88,9 @@ void TiTleItem::insertSinglePersonName(const UserInfo &user)
     m_user = user;
     m_nameLabel = addLabel(user.name);
     m_layout->addWidget(m_checkBox);
-    colorTexts();
+    followTheme();
     setAccessibleName(user.name);
+    m_checkBox->setAccessibleName(user.name);
 }
 
 UserInfo TiTleItem::getUserInfo() const
@@ -93,6 +101,17 @@ UserInfo TiTleItem::getUserInfo() const
 bool TiTleItem::isSelected() const
 {
     return m_selected;
+}
+
+void TiTleItem::toggleSelection()
+{
+    if (m_selected)
+        deselect();
+    else if (m_card != nullptr && m_card->selectionBudget().take())
+        select();
+    else
+        return;
+    TiTleItemAccessible::announceSelection(this);
 }
 
 void TiTleItem::setWidgetColor(QWidget *widget, int alpha)
@@ -150,24 +169,13 @@ LLabel *TiTleItem::addLabel(const QString &text)
     return label;
 }
 
-void TiTleItem::toggleSelection()
-{
-    if (m_selected)
-        deselect();
-    else
-        select();
-}
-
 void TiTleItem::select()
 {
-    if (m_card == nullptr || !m_card->selectionBudget().take())
-        return;
     m_selected = true;
     m_layout->removeWidget(m_checkBox);
     m_layout->addWidget(m_checkBox, 1, Qt::AlignRight);
     m_checkBox->setChecked(true);
     m_checkBox->show();
-    Q_EMIT signalSelectionChanged(true);
 }
 
 void TiTleItem::deselect()
@@ -177,11 +185,13 @@ void TiTleItem::deselect()
     m_checkBox->setChecked(false);
     m_checkBox->hide();
     m_card->selectionBudget().giveBack();
-    Q_EMIT signalSelectionChanged(false);
 }
 
-void TiTleItem::colorTexts()
+void TiTleItem::followTheme()
 {
+    // The panel's own colour is a light one, on which the dark theme's white texts could not be read.
+    const bool dark = LGuiApplicationHelper::instance()->themeType() == LGuiApplicationHelper::DarkType;
+    setBackGroundColor(dark ? DarkBackground : LightBackground);
     if (m_nameLabel != nullptr)
         setWidgetColor(m_nameLabel, NameAlpha);
     for (LLabel *label : {m_captionLabel, m_detailLabel}) {

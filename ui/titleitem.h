@@ -37,11 +37,11 @@ public:
     UserInfo getUserInfo() const;
     bool isSelected() const;
 
+    /// What a click does: selects the row if the card's budget allows, or takes that back.
+    void toggleSelection();
+
     /// The text colour of the theme on @p widget, with @p alpha from 0 to 255.
     void setWidgetColor(QWidget *widget, int alpha);
-
-Q_SIGNALS:
-    void signalSelectionChanged(bool selected);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -52,10 +52,9 @@ protected:
 
 private:
     LLabel *addLabel(const QString &text);
-    void toggleSelection();
     void select();
     void deselect();
-    void colorTexts();
+    void followTheme();
 
     QHBoxLayout *m_layout;
     LLabel *m_nameLabel = nullptr;

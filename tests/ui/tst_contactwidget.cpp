@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "contactwidget.h"
+
+#include "conferencemsgstaticwidget.h"
+#include "contactdetailwidget.h"
+#include "titleitem.h"
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QVBoxLayout>
+
+namespace {
+
+QVector<ContactDetailMsg> conferences(int count)
+{
+    QVector<ContactDetailMsg> list(count);
+    for (int i = 0; i < count; ++i)
+        list[i].title = QStringLiteral("conference %1").arg(i);
+    return list;
+}
+
+bool showsText(const QWidget &widget, const QString &text)
+{
+    const auto labels = widget.findChildren<QLabel *>();
+    return std::any_of(labels.begin(), labels.end(),
+                       [&text](const QLabel *label) { return label->text() == text; });
+}
+
+} // namespace
+
+class TestContactWidget : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theEditorStandsUnderATitle();
+    void theCardStandsUnderATitle_data();
+    void theCardStandsUnderATitle();
+    void withoutConferencesItIsEmpty();
+
+private:
+    static void checkFrame(const ContactWidget &widget, int titleHeight);
+};
+
+void TestContactWidget::checkFrame(const ContactWidget &widget, int titleHeight)
+{
+    const auto *layout = qobject_cast<QVBoxLayout *>(widget.layout());
+    QVERIFY(layout != nullptr);
+    QCOMPARE(layout->spacing(), 0);
+    QCOMPARE(layout->contentsMargins(), QMargins(0, 0, 0, 0));
+    QCOMPARE(layout->alignment(), Qt::AlignTop);
+    QCOMPARE(layout->count(), 2);
+    const auto *title = qobject_cast<TiTleItem *>(layout->itemAt(0)->widget());
+    QVERIFY(title != nullptr);
+    QCOMPARE(title->height(), titleHeight);
+    QCOMPARE(title->accessibleName(), QStringLiteral("联系人"));
+}
+
+void TestContactWidget::theEditorStandsUnderATitle()
+{
+    ContactWidget widget(Create_Success);
+    widget.resize(420, 500);
+    widget.init(Create_Success, conferences(2));
+    checkFrame(widget, 60);
+    const auto *editor = qobject_cast<ContactDetailWidget *>(widget.layout()->itemAt(1)->widget());
+    QVERIFY(editor != nullptr);
+    QCOMPARE(editor->minimumWidth(), 420);
+    QCOMPARE(editor->maximumWidth(), 420);
+    QVERIFY(showsText(*editor, QStringLiteral("conference 0")));
+    QVERIFY(!showsText(*editor, QStringLiteral("conference 1")));
+}
+
+void TestContactWidget::theCardStandsUnderATitle_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<int>("mode");
+    QTest::newRow("one conference is shown whole") << 1 << int(ConferenceMsgStaticWidget::Single);
+    QTest::newRow("two make a list") << 2 << int(ConferenceMsgStaticWidget::List);
+    QTest::newRow("and so do five") << 5 << int(ConferenceMsgStaticWidget::List);
+}
+
+void TestContactWidget::theCardStandsUnderATitle()
+{
+    QFETCH(int, count);
+    QFETCH(int, mode);
+    ContactWidget widget(Query_List);
+    widget.resize(420, 500);
+    widget.initStatic(Query_List, conferences(count));
+    checkFrame(widget, 62);
+    const auto *card = qobject_cast<ConferenceMsgStaticWidget *>(widget.layout()->itemAt(1)->widget());
+    QVERIFY(card != nullptr);
+    QCOMPARE(card->minimumWidth(), 420);
+    QCOMPARE(card->maximumWidth(), 420);
+    QCOMPARE(int(card->mode()), mode);
+    QVERIFY(showsText(*card, QStringLiteral("conference 0")));
+    QCOMPARE(showsText(*card, QStringLiteral("conference 1")), count > 1);
+    // Until the layout is at work, the card of a list stands where it was put.
+    if (count > 1)
+        QCOMPARE(card->pos(), QPoint(0, (500 - 62) / 2));
+}
+
+void TestContactWidget::withoutConferencesItIsEmpty()
+{
+    ContactWidget widget(Query_List);
+    widget.resize(420, 500);
+    widget.initStatic(Query_List, {});
+    checkFrame(widget, 62);
+    QVERIFY(widget.findChildren<QLabel *>().isEmpty());
+
+    ContactWidget editor(Create_Success);
+    editor.resize(420, 500);
+    editor.init(Create_Success, {});
+    checkFrame(editor, 60);
+    QVERIFY(editor.findChildren<QLabel *>().isEmpty());
+}
+
+QTEST_MAIN(TestContactWidget)
+#include "tst_contactwidget.moc"

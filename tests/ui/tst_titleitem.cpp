@@ -1,0 +1,476 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "conferencemsgstaticwidget.h"
+#include "titleitem.h"
+
+#include <lumo/lguiapplicationhelper.h>
+#include <lumo/llabel.h>
+
+#include <QtGui/QAccessible>
+#include <QtTest/QtTest>
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QCheckBox>
+
+namespace {
+
+const UserInfo Zhang{QStringLiteral("小张"), QStringLiteral("张三"), QStringLiteral("u1"),
+                     QStringLiteral("zs@a")};
+
+QStringList shownTexts(const TiTleItem &item)
+{
+    QStringList texts;
+    for (int i = 0; i < item.layout()->count(); ++i) {
+        const auto *label = qobject_cast<QLabel *>(item.layout()->itemAt(i)->widget());
+        if (label != nullptr)
+            texts.append(label->text());
+    }
+    return texts;
+}
+
+/// The widths of the spacers and, as -1, the labels between them.
+QVector<int> spacings(const TiTleItem &item)
+{
+    QVector<int> widths;
+    for (int i = 0; i < item.layout()->count(); ++i) {
+        QLayoutItem *entry = item.layout()->itemAt(i);
+        if (entry->spacerItem() != nullptr)
+            widths.append(entry->sizeHint().width());
+        else if (qobject_cast<QLabel *>(entry->widget()) != nullptr)
+            widths.append(-1);
+    }
+    return widths;
+}
+
+QCheckBox *mark(const TiTleItem &item)
+{
+    return item.findChild<QCheckBox *>();
+}
+
+/// The card, so that a click which reaches it is seen.
+class CountingCard : public ConferenceMsgStaticWidget
+{
+public:
+    int mouseReleases = 0;
+    int keyReleases = 0;
+
+protected:
+    void mouseReleaseEvent(QMouseEvent * /*event*/) override { ++mouseReleases; }
+    void keyReleaseEvent(QKeyEvent * /*event*/) override { ++keyReleases; }
+};
+
+} // namespace
+
+class TestTiTleItem : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void theMeasures();
+    void theTitleIsNotDisplayed();
+    void whatIsShownOfAPerson_data();
+    void whatIsShownOfAPerson();
+    void onlyTheNameThatWasAskedFor();
+    void theLayoutOfAPerson();
+    void theColoursFollowTheTheme_data();
+    void theColoursFollowTheTheme();
+    void textsArePlainAndStayInTheRow();
+
+    void aClickSelectsAndASecondTakesItBack();
+    void theBudgetIsTheCards();
+    void withoutBudgetNothingIsSelected();
+    void aRowOutsideACardCannotBeSelected();
+    void aRowIsToggledWherever_data();
+    void aRowIsToggledWherever();
+    void whatIsNoClickDoesNotToggle_data();
+    void whatIsNoClickDoesNotToggle();
+    void aClickDoesNotReachTheCard();
+    void keysToggle_data();
+    void keysToggle();
+    void aHeldKeyTogglesOnce();
+    void theFocusIsSeen();
+    void itIsACheckBoxToAssistiveTools();
+
+private:
+    std::unique_ptr<CountingCard> m_card;
+    TiTleItem *m_row = nullptr;
+};
+
+void TestTiTleItem::init()
+{
+    m_card = std::make_unique<CountingCard>();
+    m_row = new TiTleItem(QStringLiteral("联系人"), m_card.get());
+    m_card->resize(400, 200);
+}
+
+void TestTiTleItem::cleanup()
+{
+    m_card.reset();
+    LGuiApplicationHelper::instance()->setPaletteType(LGuiApplicationHelper::UnknownType);
+}
+
+void TestTiTleItem::theMeasures()
+{
+    QCOMPARE(m_row->minimumSize(), QSize(330, 40));
+    QCOMPARE(m_row->maximumSize(), QSize(330, 40));
+    auto *layout = qobject_cast<QHBoxLayout *>(m_row->layout());
+    QVERIFY(layout != nullptr);
+    QCOMPARE(layout->contentsMargins(), QMargins(10, 10, 10, 10));
+    QCOMPARE(layout->spacing(), 0);
+    QCOMPARE(layout->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
+    QVERIFY(!m_row->isSelected());
+    QVERIFY(mark(*m_row)->isHidden());
+}
+
+void TestTiTleItem::theTitleIsNotDisplayed()
+{
+    QCOMPARE(shownTexts(*m_row), QStringList());
+    QCOMPARE(m_row->accessibleName(), QStringLiteral("联系人"));
+}
+
+void TestTiTleItem::whatIsShownOfAPerson_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("remarkName");
+    QTest::addColumn<QString>("account");
+    QTest::addColumn<QStringList>("texts");
+    QTest::newRow("display name, caption and account") << "a"
+                                                       << "b"
+                                                       << "d" << QStringList{"b", "ID", "d"};
+    QTest::newRow("without display name the account stands for it") << "a"
+                                                                    << ""
+                                                                    << "d" << QStringList{"d", "ID", "d"};
+    QTest::newRow("a blank display name is shown") << "a"
+                                                   << " "
+                                                   << "d" << QStringList{" ", "ID", "d"};
+    QTest::newRow("no caption for an empty name") << ""
+                                                  << "b"
+                                                  << "d" << QStringList{"b", "d"};
+    QTest::newRow("no caption for a name that is one space") << " "
+                                                             << "b"
+                                                             << "d" << QStringList{"b", "d"};
+    QTest::newRow("a caption for a name of two spaces") << "  "
+                                                        << "b"
+                                                        << "d" << QStringList{"b", "ID", "d"};
+    QTest::newRow("without account") << "a"
+                                     << "b"
+                                     << "" << QStringList{"b", "ID", ""};
+    QTest::newRow("with nothing at all") << ""
+                                         << ""
+                                         << "" << QStringList{"", ""};
+}
+
+void TestTiTleItem::whatIsShownOfAPerson()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, remarkName);
+    QFETCH(QString, account);
+    QFETCH(QStringList, texts);
+    m_row->insertConferenceMsg({name, remarkName, QStringLiteral("u7"), account});
+    QCOMPARE(shownTexts(*m_row), texts);
+    QCOMPARE(m_row->accessibleName(), texts.first());
+    const UserInfo stored = m_row->getUserInfo();
+    QCOMPARE(stored.name, name);
+    QCOMPARE(stored.remarkName, remarkName);
+    QCOMPARE(stored.userId, QStringLiteral("u7"));
+    QCOMPARE(stored.account, account);
+}
+
+void TestTiTleItem::onlyTheNameThatWasAskedFor()
+{
+    m_row->insertSinglePersonName(Zhang);
+    QCOMPARE(shownTexts(*m_row), QStringList{QStringLiteral("小张")});
+    QCOMPARE(m_row->accessibleName(), QStringLiteral("小张"));
+    QCOMPARE(m_row->getUserInfo().userId, QStringLiteral("u1"));
+    QCOMPARE(m_row->layout()->itemAt(0)->widget()->palette().color(QPalette::WindowText).alpha(), 178);
+    QCOMPARE(m_row->layout()->itemAt(1)->widget(), mark(*m_row));
+    QVERIFY(mark(*m_row)->isHidden());
+}
+
+void TestTiTleItem::theLayoutOfAPerson()
+{
+    m_row->insertConferenceMsg(Zhang);
+    QCOMPARE(spacings(*m_row), (QVector<int>{-1, 20, -1, 10, -1}));
+    QCOMPARE(m_row->layout()->itemAt(5)->widget(), mark(*m_row));
+    QVERIFY(mark(*m_row)->isHidden());
+
+    TiTleItem withoutCaption(QString(), m_card.get());
+    withoutCaption.insertConferenceMsg(
+        {QStringLiteral(" "), QStringLiteral("b"), QString(), QStringLiteral("d")});
+    QCOMPARE(spacings(withoutCaption), (QVector<int>{-1, 20, -1}));
+}
+
+void TestTiTleItem::theColoursFollowTheTheme_data()
+{
+    QTest::addColumn<int>("before");
+    QTest::addColumn<int>("theme");
+    QTest::addColumn<QColor>("text");
+    const int light = LGuiApplicationHelper::LightType;
+    const int dark = LGuiApplicationHelper::DarkType;
+    QTest::newRow("made in the light theme") << light << light << QColor(Qt::black);
+    QTest::newRow("made in the dark theme") << dark << dark << QColor(Qt::white);
+    QTest::newRow("from light to dark") << light << dark << QColor(Qt::white);
+    QTest::newRow("from dark to light") << dark << light << QColor(Qt::black);
+}
+
+void TestTiTleItem::theColoursFollowTheTheme()
+{
+    QFETCH(int, before);
+    QFETCH(int, theme);
+    QFETCH(QColor, text);
+    LGuiApplicationHelper *helper = LGuiApplicationHelper::instance();
+    helper->setPaletteType(static_cast<LGuiApplicationHelper::ColorType>(before));
+    m_row->insertConferenceMsg(Zhang);
+    helper->setPaletteType(static_cast<LGuiApplicationHelper::ColorType>(theme));
+
+    const QVector<int> alphas{178, 153, 153};
+    const auto labels = m_row->findChildren<LLabel *>();
+    QCOMPARE(labels.size(), 3);
+    for (int i = 0; i < labels.size(); ++i) {
+        QColor expected = text;
+        expected.setAlpha(alphas.at(i));
+        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+            QCOMPARE(labels.at(i)->palette().color(group, QPalette::WindowText), expected);
+    }
+    QLabel other;
+    m_row->setWidgetColor(&other, 33);
+    QCOMPARE(other.palette().color(QPalette::WindowText).alpha(), 33);
+    QCOMPARE(other.palette().color(QPalette::WindowText).lightness(), text.lightness());
+
+    // The texts can be told from what is behind them.
+    const int behind = m_row->grab().toImage().pixelColor(165, 3).lightness();
+    QVERIFY2(qAbs(behind - text.lightness()) > 150, qPrintable(QString::number(behind)));
+}
+
+void TestTiTleItem::textsArePlainAndStayInTheRow()
+{
+    const QString markup = QStringLiteral("<b>x</b><img src=\"file:///etc/hostname\">").repeated(5);
+    m_row->insertConferenceMsg({markup, markup, QString(), markup});
+    m_card->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_card.get()));
+    const auto labels = m_row->findChildren<LLabel *>();
+    QCOMPARE(labels.size(), 3);
+    for (const LLabel *label : labels) {
+        QCOMPARE(label->textFormat(), Qt::PlainText);
+        QVERIFY(m_row->rect().contains(label->geometry()));
+        QVERIFY(label->width() > 0);
+    }
+    QTest::mouseClick(m_row, Qt::LeftButton);
+    QVERIFY(m_row->rect().contains(mark(*m_row)->geometry()));
+    QVERIFY(mark(*m_row)->width() >= 13);
+}
+
+void TestTiTleItem::aClickSelectsAndASecondTakesItBack()
+{
+    m_row->insertConferenceMsg(Zhang);
+    m_card->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_card.get()));
+    const int budget = m_card->selectionBudget().remaining();
+    QCOMPARE(budget, 65535);
+    for (int round = 0; round < 2; ++round) {
+        QTest::mouseClick(m_row, Qt::LeftButton);
+        QVERIFY(m_row->isSelected());
+        QVERIFY(mark(*m_row)->isVisible());
+        QVERIFY(mark(*m_row)->isChecked());
+        auto *layout = qobject_cast<QHBoxLayout *>(m_row->layout());
+        const int index = layout->indexOf(mark(*m_row));
+        QVERIFY(index >= 0);
+        QCOMPARE(layout->stretch(index), 1);
+        QCOMPARE(layout->itemAt(index)->alignment(), Qt::AlignRight);
+        QCOMPARE(m_card->selectionBudget().remaining(), budget - 1);
+
+        QTest::mouseClick(m_row, Qt::LeftButton);
+        QVERIFY(!m_row->isSelected());
+        QVERIFY(mark(*m_row)->isHidden());
+        QVERIFY(!mark(*m_row)->isChecked());
+        QCOMPARE(layout->indexOf(mark(*m_row)), -1);
+        QCOMPARE(m_card->selectionBudget().remaining(), budget);
+    }
+}
+
+void TestTiTleItem::theBudgetIsTheCards()
+{
+    m_row->insertConferenceMsg(Zhang);
+    auto *second = new TiTleItem(QString(), m_card.get());
+    second->insertSinglePersonName(Zhang);
+    QTest::mouseClick(m_row, Qt::LeftButton);
+    QTest::mouseClick(second, Qt::LeftButton);
+    QCOMPARE(m_card->selectionBudget().remaining(), 65533);
+}
+
+void TestTiTleItem::withoutBudgetNothingIsSelected()
+{
+    m_row->insertConferenceMsg(Zhang);
+    auto *second = new TiTleItem(QString(), m_card.get());
+    second->insertConferenceMsg(Zhang);
+    m_card->selectionBudget().limitTo(1);
+    QTest::mouseClick(m_row, Qt::LeftButton);
+    QTest::mouseClick(second, Qt::LeftButton);
+    QVERIFY(m_row->isSelected());
+    QVERIFY(!second->isSelected());
+    QVERIFY(mark(*second)->isHidden());
+    QCOMPARE(m_card->selectionBudget().remaining(), 0);
+
+    QTest::mouseClick(m_row, Qt::LeftButton);
+    QTest::mouseClick(second, Qt::LeftButton);
+    QVERIFY(!m_row->isSelected());
+    QVERIFY(second->isSelected());
+
+    m_card->selectionBudget().limitTo(-3);
+    QCOMPARE(m_card->selectionBudget().remaining(), 0);
+}
+
+void TestTiTleItem::aRowOutsideACardCannotBeSelected()
+{
+    QWidget window;
+    TiTleItem row(QString(), &window);
+    row.insertConferenceMsg(Zhang);
+    QTest::mouseClick(&row, Qt::LeftButton);
+    QVERIFY(!row.isSelected());
+    QVERIFY(mark(row)->isHidden());
+}
+
+void TestTiTleItem::aRowIsToggledWherever_data()
+{
+    QTest::addColumn<QPoint>("position");
+    QTest::newRow("on the name") << QPoint(15, 20);
+    QTest::newRow("at the left edge") << QPoint(0, 0);
+    QTest::newRow("at the right edge") << QPoint(329, 39);
+    QTest::newRow("on the mark") << QPoint(315, 20);
+}
+
+void TestTiTleItem::aRowIsToggledWherever()
+{
+    QFETCH(QPoint, position);
+    m_row->insertConferenceMsg(Zhang);
+    m_card->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_card.get()));
+    const auto click = [this, position] {
+        // As the window sends it: to the innermost widget that takes mouse events.
+        QWidget *target = m_row->childAt(position);
+        target = target == nullptr ? m_row : target;
+        QTest::mouseClick(target, Qt::LeftButton, Qt::NoModifier, target->mapFrom(m_row, position));
+    };
+    click();
+    QVERIFY(m_row->isSelected());
+    QVERIFY(mark(*m_row)->isChecked());
+    click();
+    QVERIFY(!m_row->isSelected());
+    QCOMPARE(m_card->mouseReleases, 0);
+}
+
+void TestTiTleItem::whatIsNoClickDoesNotToggle_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<QPoint>("releasedAt");
+    QTest::newRow("the right button") << int(Qt::RightButton) << QPoint(20, 20);
+    QTest::newRow("the middle button") << int(Qt::MiddleButton) << QPoint(20, 20);
+    QTest::newRow("let go below the row") << int(Qt::LeftButton) << QPoint(20, 60);
+    QTest::newRow("let go beside the row") << int(Qt::LeftButton) << QPoint(340, 20);
+}
+
+void TestTiTleItem::whatIsNoClickDoesNotToggle()
+{
+    QFETCH(int, button);
+    QFETCH(QPoint, releasedAt);
+    m_row->insertConferenceMsg(Zhang);
+    QTest::mousePress(m_row, static_cast<Qt::MouseButton>(button), Qt::NoModifier, QPoint(20, 20));
+    QTest::mouseRelease(m_row, static_cast<Qt::MouseButton>(button), Qt::NoModifier, releasedAt);
+    QVERIFY(!m_row->isSelected());
+    QCOMPARE(m_card->mouseReleases, 0);
+}
+
+void TestTiTleItem::aClickDoesNotReachTheCard()
+{
+    m_row->insertConferenceMsg(Zhang);
+    m_card->selectionBudget().limitTo(0);
+    QTest::mouseClick(m_row, Qt::LeftButton);
+    QCOMPARE(m_card->mouseReleases, 0);
+    QTest::mouseClick(m_card.get(), Qt::LeftButton, Qt::NoModifier, QPoint(350, 150));
+    QCOMPARE(m_card->mouseReleases, 1);
+}
+
+void TestTiTleItem::keysToggle_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<bool>("toggles");
+    QTest::newRow("Space") << int(Qt::Key_Space) << true;
+    QTest::newRow("Return") << int(Qt::Key_Return) << true;
+    QTest::newRow("Enter") << int(Qt::Key_Enter) << true;
+    QTest::newRow("a letter does not, and goes on to the card") << int(Qt::Key_A) << false;
+}
+
+void TestTiTleItem::keysToggle()
+{
+    QFETCH(int, key);
+    QFETCH(bool, toggles);
+    m_row->insertConferenceMsg(Zhang);
+    QTest::keyClick(m_row, static_cast<Qt::Key>(key));
+    QCOMPARE(m_row->isSelected(), toggles);
+    QCOMPARE(m_card->keyReleases, toggles ? 0 : 1);
+    QTest::keyClick(m_row, static_cast<Qt::Key>(key));
+    QVERIFY(!m_row->isSelected());
+}
+
+void TestTiTleItem::aHeldKeyTogglesOnce()
+{
+    m_row->insertConferenceMsg(Zhang);
+    for (const bool autoRepeat : {false, true, true, true}) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), autoRepeat);
+        QApplication::sendEvent(m_row, &press);
+        QVERIFY(press.isAccepted());
+    }
+    QVERIFY(m_row->isSelected());
+}
+
+void TestTiTleItem::theFocusIsSeen()
+{
+    m_row->insertConferenceMsg(Zhang);
+    m_card->show();
+    m_card->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_card.get()));
+    m_row->clearFocus();
+    const QImage without = m_row->grab().toImage();
+    QTest::mouseClick(m_row, Qt::LeftButton);
+    QVERIFY(!m_row->hasFocus());
+    QTest::mouseClick(m_row, Qt::LeftButton);
+    QCOMPARE(m_row->grab().toImage(), without);
+
+    m_row->setFocus(Qt::TabFocusReason);
+    QVERIFY(m_row->hasFocus());
+    const QImage with = m_row->grab().toImage();
+    QCOMPARE(with.pixelColor(165, 0), QColor(0, 129, 255));
+    QCOMPARE(with.pixelColor(0, 20), QColor(0, 129, 255));
+    QCOMPARE(with.pixelColor(165, 39), QColor(0, 129, 255));
+    QVERIFY(without.pixelColor(165, 0) != QColor(0, 129, 255));
+}
+
+void TestTiTleItem::itIsACheckBoxToAssistiveTools()
+{
+    m_row->insertConferenceMsg(Zhang);
+    QAccessibleInterface *row = QAccessible::queryAccessibleInterface(m_row);
+    QVERIFY(row != nullptr);
+    QCOMPARE(row->role(), QAccessible::CheckBox);
+    QCOMPARE(row->text(QAccessible::Name), QStringLiteral("张三"));
+    QCOMPARE(row->text(QAccessible::Description), QStringLiteral("zs@a"));
+    QVERIFY(row->state().checkable);
+    QVERIFY(row->state().focusable);
+    QVERIFY(!row->state().checked);
+
+    QAccessibleActionInterface *actions = row->actionInterface();
+    QVERIFY(actions != nullptr);
+    QCOMPARE(actions->actionNames().first(), QAccessibleActionInterface::toggleAction());
+    actions->doAction(QAccessibleActionInterface::toggleAction());
+    QVERIFY(m_row->isSelected());
+    QVERIFY(row->state().checked);
+    QTest::mouseClick(m_row, Qt::LeftButton);
+    QVERIFY(!row->state().checked);
+    actions->doAction(QAccessibleActionInterface::setFocusAction());
+    QVERIFY(!m_row->isSelected());
+}
+
+QTEST_MAIN(TestTiTleItem)
+#include "tst_titleitem.moc"

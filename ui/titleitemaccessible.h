@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtWidgets/QAccessibleWidget>
+
+class TiTleItem;
+
+/// How a row of a selection card presents itself to who does not see it: a check box, with its state and the
+/// action to toggle it.
+class TiTleItemAccessible : public QAccessibleWidget
+{
+public:
+    /// Makes Qt use this class for every row. Any number of calls have the effect of one.
+    static void registerFactory();
+
+    explicit TiTleItemAccessible(TiTleItem *item);
+
+    QAccessible::State state() const override;
+    QStringList actionNames() const override;
+    void doAction(const QString &actionName) override;
+
+    /// Tells who listens that the row was selected, or is not any more.
+    static void announceSelection(TiTleItem *item);
+
+private:
+    TiTleItem *item() const;
+};

@@ -3,7 +3,7 @@
 
 #include "contactdetailwidget.h"
 
-#include "conferencecardinterface.h"
+#include "cardgateway.h"
 
 #include <lumo/lcombobox.h>
 #include <lumo/lfontsizemanager.h>
@@ -12,8 +12,6 @@
 
 #include <QtCore/QDateTime>
 #include <QtCore/QDebug>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLineEdit>
@@ -166,7 +164,8 @@ void ContactDetailWidget::slotsClickConfirm()
     qDebug() << "slotsClickConfirm";
     const QDateTime start = chosenStart();
     qDebug() << "startTime:" << start;
-    const int code = ConferenceCardInterface::instance()->UpdateVideoConference(updateRequest(start));
+    // The form may be gone when the call comes back.
+    const int code = CardGateway::update(changedConference(start));
     qDebug() << code;
 }
 
@@ -221,15 +220,13 @@ QDateTime ContactDetailWidget::chosenStart() const
     return QDateTime::fromString(text, QStringLiteral("yyyy-MM-dd hh:mm:ss"));
 }
 
-QString ContactDetailWidget::updateRequest(const QDateTime &start) const
+ContactDetailMsg ContactDetailWidget::changedConference(const QDateTime &start) const
 {
     QString minutes = m_duration->currentText();
     minutes.chop(QStringLiteral("分钟").size());
-    const QJsonObject request{
-        {QStringLiteral("conferenceId"), m_conference.confId},
-        {QStringLiteral("startTime"), start.toMSecsSinceEpoch()},
-        {QStringLiteral("duration"), minutes.toLongLong() * MsecsPerMinute},
-        {QStringLiteral("participantLimit"), m_personNum->value()},
-    };
-    return QString::fromUtf8(QJsonDocument(request).toJson(QJsonDocument::Compact));
+    ContactDetailMsg changed = m_conference;
+    changed.startTime = start.toMSecsSinceEpoch();
+    changed.duration = minutes.toLongLong() * MsecsPerMinute;
+    changed.participantLimit = m_personNum->value();
+    return changed;
 }

@@ -49,7 +49,7 @@ private:
     void addButtons();
     void fillDays();
     QDateTime chosenStart() const;
-    QString updateRequest(const QDateTime &start) const;
+    ContactDetailMsg changedConference(const QDateTime &start) const;
 
     QGridLayout *m_grid;
     LComboBox *m_month = nullptr;

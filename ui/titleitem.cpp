@@ -3,12 +3,11 @@
 
 #include "titleitem.h"
 
+#include "cardtext.h"
 #include "conferencemsgstaticwidget.h"
 #include "selectionbudget.h"
-#include "themecolor.h"
 #include "titleitemaccessible.h"
 
-#include <lumo/lfontsizemanager.h>
 #include <lumo/lguiapplicationhelper.h>
 #include <lumo/llabel.h>
 
@@ -24,8 +23,6 @@ constexpr QSize RowSize(330, 40);
 constexpr int Margin = 10;
 constexpr int SpaceAfterName = 20;
 constexpr int SpaceAfterCaption = 10;
-constexpr int NameAlpha = 178;
-constexpr int DetailAlpha = 153;
 
 constexpr QColor LightBackground(247, 247, 247, 204);
 constexpr QColor DarkBackground(255, 255, 255, 20);
@@ -69,15 +66,14 @@ void TiTleItem::insertConferenceMsg(const UserInfo &user)
 {
     m_user = user;
     const QString shownName = user.remarkName.isEmpty() ? user.account : user.remarkName;
-    m_nameLabel = addLabel(shownName);
+    m_nameLabel = addLabel(shownName, CardText::ValueAlpha);
     m_layout->addSpacing(SpaceAfterName);
     if (!user.name.isEmpty() && user.name != QLatin1String(" ")) {
-        m_captionLabel = addLabel(QStringLiteral("ID"));
+        m_captionLabel = addLabel(QStringLiteral("ID"), CardText::CaptionAlpha);
         m_layout->addSpacing(SpaceAfterCaption);
     }
-    m_detailLabel = addLabel(user.account);
+    m_detailLabel = addLabel(user.account, CardText::CaptionAlpha);
     m_layout->addWidget(m_checkBox);
-    followTheme();
     setAccessibleName(shownName);
     m_checkBox->setAccessibleName(shownName);
     setAccessibleDescription(user.account);
@@ -86,9 +82,8 @@ void TiTleItem::insertConferenceMsg(const UserInfo &user)
 void TiTleItem::insertSinglePersonName(const UserInfo &user)
 {
     m_user = user;
-    m_nameLabel = addLabel(user.name);
+    m_nameLabel = addLabel(user.name, CardText::ValueAlpha);
     m_layout->addWidget(m_checkBox);
-    followTheme();
     setAccessibleName(user.name);
     m_checkBox->setAccessibleName(user.name);
 }
@@ -116,7 +111,7 @@ void TiTleItem::toggleSelection()
 
 void TiTleItem::setWidgetColor(QWidget *widget, int alpha)
 {
-    ThemeColor::applyText(*widget, alpha);
+    CardText::setColor(*widget, alpha);
 }
 
 void TiTleItem::keyPressEvent(QKeyEvent *event)
@@ -160,11 +155,9 @@ void TiTleItem::paintEvent(QPaintEvent *event)
     painter.drawRoundedRect(QRectF(rect()).adjusted(Inset, Inset, -Inset, -Inset), FocusRadius, FocusRadius);
 }
 
-LLabel *TiTleItem::addLabel(const QString &text)
+LLabel *TiTleItem::addLabel(const QString &text, int alpha)
 {
-    auto *label = new LLabel(text, this);
-    label->setElideMode(Qt::ElideRight);
-    label->setFont(LFontSizeManager::instance()->get(LFontSizeManager::T6, label->font()));
+    LLabel *label = CardText::label(text, LFontSizeManager::T6, alpha, this);
     m_layout->addWidget(label);
     return label;
 }
@@ -192,10 +185,5 @@ void TiTleItem::followTheme()
     // The panel's own colour is a light one, on which the dark theme's white texts could not be read.
     const bool dark = LGuiApplicationHelper::instance()->themeType() == LGuiApplicationHelper::DarkType;
     setBackGroundColor(dark ? DarkBackground : LightBackground);
-    if (m_nameLabel != nullptr)
-        setWidgetColor(m_nameLabel, NameAlpha);
-    for (LLabel *label : {m_captionLabel, m_detailLabel}) {
-        if (label != nullptr)
-            setWidgetColor(label, DetailAlpha);
-    }
+    CardText::followTheme(*this);
 }

@@ -51,7 +51,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    LLabel *addLabel(const QString &text);
+    LLabel *addLabel(const QString &text, int alpha);
     void select();
     void deselect();
     void followTheme();

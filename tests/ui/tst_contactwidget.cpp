@@ -8,7 +8,7 @@
 #include "titleitem.h"
 
 #include <QtTest/QtTest>
-#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QVBoxLayout>
 
 namespace {

@@ -136,31 +136,39 @@ void TestTiTleItem::whatIsShownOfAPerson_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("remarkName");
     QTest::addColumn<QString>("account");
-    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<QString>("texts");
     QTest::newRow("display name, caption and account") << "a"
                                                        << "b"
-                                                       << "d" << QStringList{"b", "ID", "d"};
+                                                       << "d"
+                                                       << "b|ID|d";
     QTest::newRow("without display name the account stands for it") << "a"
                                                                     << ""
-                                                                    << "d" << QStringList{"d", "ID", "d"};
+                                                                    << "d"
+                                                                    << "d|ID|d";
     QTest::newRow("a blank display name is shown") << "a"
                                                    << " "
-                                                   << "d" << QStringList{" ", "ID", "d"};
+                                                   << "d"
+                                                   << " |ID|d";
     QTest::newRow("no caption for an empty name") << ""
                                                   << "b"
-                                                  << "d" << QStringList{"b", "d"};
+                                                  << "d"
+                                                  << "b|d";
     QTest::newRow("no caption for a name that is one space") << " "
                                                              << "b"
-                                                             << "d" << QStringList{"b", "d"};
+                                                             << "d"
+                                                             << "b|d";
     QTest::newRow("a caption for a name of two spaces") << "  "
                                                         << "b"
-                                                        << "d" << QStringList{"b", "ID", "d"};
+                                                        << "d"
+                                                        << "b|ID|d";
     QTest::newRow("without account") << "a"
                                      << "b"
-                                     << "" << QStringList{"b", "ID", ""};
+                                     << ""
+                                     << "b|ID|";
     QTest::newRow("with nothing at all") << ""
                                          << ""
-                                         << "" << QStringList{"", ""};
+                                         << ""
+                                         << "|";
 }
 
 void TestTiTleItem::whatIsShownOfAPerson()
@@ -168,10 +176,10 @@ void TestTiTleItem::whatIsShownOfAPerson()
     QFETCH(QString, name);
     QFETCH(QString, remarkName);
     QFETCH(QString, account);
-    QFETCH(QStringList, texts);
+    QFETCH(QString, texts);
     m_row->insertConferenceMsg({name, remarkName, QStringLiteral("u7"), account});
-    QCOMPARE(shownTexts(*m_row), texts);
-    QCOMPARE(m_row->accessibleName(), texts.first());
+    QCOMPARE(shownTexts(*m_row).join(QLatin1Char('|')), texts);
+    QCOMPARE(m_row->accessibleName(), shownTexts(*m_row).first());
     const UserInfo stored = m_row->getUserInfo();
     QCOMPARE(stored.name, name);
     QCOMPARE(stored.remarkName, remarkName);

@@ -1,0 +1,399 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "contactdetailwidget.h"
+
+#include "logcapture.h"
+#include "scriptedability.h"
+
+#include <lumo/lcombobox.h>
+#include <lumo/llabel.h>
+#include <lumo/lspinbox.h>
+
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtTest/QtTest>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+
+namespace {
+
+ContactDetailMsg conference()
+{
+    ContactDetailMsg conference;
+    conference.title = QStringLiteral("周会");
+    conference.confId = QStringLiteral("c7");
+    conference.startTime = QDateTime(QDate(2024, 3, 31), QTime(9, 30)).toMSecsSinceEpoch();
+    conference.duration = 30 * 60000;
+    conference.participantLimit = 40;
+    conference.isPayingUser = true;
+    conference.participants = {{QStringLiteral("李雷"), {}, {}, {}}, {QStringLiteral("韩梅梅"), {}, {}, {}}};
+    return conference;
+}
+
+QStringList items(const QComboBox &combo)
+{
+    QStringList texts;
+    for (int i = 0; i < combo.count(); ++i)
+        texts.append(combo.itemText(i));
+    return texts;
+}
+
+QStringList numbers(int first, int last)
+{
+    QStringList texts;
+    for (int number = first; number <= last; ++number)
+        texts.append(QString::number(number));
+    return texts;
+}
+
+/// The form and its controls, found as a person finds them: by their names.
+struct Form
+{
+    explicit Form(const QVector<ContactDetailMsg> &list) { widget.gridLayout(list); }
+
+    LComboBox *combo(const QString &name) const
+    {
+        const auto combos = widget.findChildren<LComboBox *>();
+        for (LComboBox *combo : combos) {
+            if (combo->accessibleName() == name)
+                return combo;
+        }
+        return nullptr;
+    }
+    LComboBox *month() const { return combo(QStringLiteral("月")); }
+    LComboBox *day() const { return combo(QStringLiteral("日")); }
+    LComboBox *hour() const { return combo(QStringLiteral("开始时间")); }
+    LComboBox *duration() const { return combo(QStringLiteral("时长")); }
+    LSpinBox *persons() const { return widget.findChild<LSpinBox *>(); }
+    QPushButton *button(const QString &text) const
+    {
+        const auto buttons = widget.findChildren<QPushButton *>();
+        for (QPushButton *button : buttons) {
+            if (button->text() == text)
+                return button;
+        }
+        return nullptr;
+    }
+    QGridLayout *grid() const { return qobject_cast<QGridLayout *>(widget.layout()); }
+
+    ContactDetailWidget widget;
+};
+
+} // namespace
+
+class TestContactDetailWidget : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void theGrid();
+    void onlyTheFirstConferenceIsShown();
+    void withoutConferenceTheFormIsEmpty();
+    void theStartIsChosenByMonthDayAndHour();
+    void theDaysAreThoseOfTheMonth_data();
+    void theDaysAreThoseOfTheMonth();
+    void twoDurationsAreOffered_data();
+    void twoDurationsAreOffered();
+    void theHeadCountsBounds_data();
+    void theHeadCountsBounds();
+    void theParticipantsAreNamed();
+    void confirmingSendsTheChange_data();
+    void confirmingSendsTheChange();
+    void confirmingWritesToTheDebugLog();
+    void cancellingOnlyWritesToTheDebugLog();
+    void aFailureLeavesTheFormAsItIs();
+};
+
+void TestContactDetailWidget::init()
+{
+    ScriptedAbility::instance().reset();
+    ScriptedAbility::instance().setAnswer(QStringLiteral("Update Conference"), 0,
+                                          QStringLiteral("{\"ret\":\"OK\"}"));
+}
+
+void TestContactDetailWidget::theGrid()
+{
+    const Form form({conference()});
+    QGridLayout *grid = form.grid();
+    QVERIFY(grid != nullptr);
+    QCOMPARE(grid->contentsMargins(), QMargins(20, 20, 20, 20));
+    QCOMPARE(grid->horizontalSpacing(), 20);
+    QCOMPARE(grid->verticalSpacing(), 20);
+    QCOMPARE(grid->columnCount(), 5);
+
+    const QStringList captions{QStringLiteral("开始时间"), QStringLiteral("时长"), QStringLiteral("参会方数"),
+                               QStringLiteral("参与人")};
+    QStringList found;
+    int lastRow = 0;
+    for (int i = 0; i < grid->count(); ++i) {
+        int row = 0;
+        int column = 0;
+        int rowSpan = 0;
+        int columnSpan = 0;
+        grid->getItemPosition(i, &row, &column, &rowSpan, &columnSpan);
+        QCOMPARE(rowSpan, 1);
+        const QWidget *widget = grid->itemAt(i)->widget();
+        if (row == 0) {
+            QCOMPARE(columnSpan, 5);
+            QCOMPARE(qobject_cast<const LLabel *>(widget)->text(), QStringLiteral("周会"));
+        } else if (column == 0 && columnSpan == 1) {
+            QCOMPARE(row, lastRow + 1);
+            QCOMPARE(widget->minimumWidth(), 60);
+            QCOMPARE(widget->maximumWidth(), 60);
+            found.append(qobject_cast<const LLabel *>(widget)->text());
+        } else if (column == 1) {
+            QCOMPARE(columnSpan, 4);
+            QCOMPARE(row, lastRow);
+        }
+        lastRow = row;
+    }
+    QCOMPARE(found, captions);
+    QVERIFY(grid->itemAtPosition(lastRow, 0)->widget()->isAncestorOf(form.button(QStringLiteral("取 消"))));
+    QVERIFY(grid->itemAtPosition(lastRow, 0)->widget()->isAncestorOf(form.button(QStringLiteral("确 认"))));
+}
+
+void TestContactDetailWidget::onlyTheFirstConferenceIsShown()
+{
+    ContactDetailMsg second = conference();
+    second.title = QStringLiteral("other");
+    const Form form({conference(), second});
+    for (const LLabel *label : form.widget.findChildren<LLabel *>())
+        QVERIFY(label->text() != second.title);
+}
+
+void TestContactDetailWidget::withoutConferenceTheFormIsEmpty()
+{
+    Form form({});
+    QCOMPARE(form.grid()->count(), 0);
+    QCOMPARE(form.grid()->contentsMargins(), QMargins(20, 20, 20, 20));
+    form.widget.init();
+    QCOMPARE(form.grid()->count(), 0);
+}
+
+void TestContactDetailWidget::theStartIsChosenByMonthDayAndHour()
+{
+    const Form form({conference()});
+    QCOMPARE(items(*form.month()), numbers(1, 12));
+    QCOMPARE(items(*form.day()), numbers(1, 31));
+    QCOMPARE(items(*form.hour()), numbers(0, 23));
+    QCOMPARE(form.month()->currentText(), QStringLiteral("3"));
+    QCOMPARE(form.day()->currentText(), QStringLiteral("31"));
+    QCOMPARE(form.hour()->currentText(), QStringLiteral("9"));
+
+    QStringList units;
+    for (const LLabel *label : form.month()->parentWidget()->findChildren<LLabel *>()) {
+        QCOMPARE(label->minimumWidth(), 60);
+        QCOMPARE(label->maximumWidth(), 60);
+        units.append(label->text());
+    }
+    QCOMPARE(units, (QStringList{QStringLiteral("月"), QStringLiteral("日")}));
+}
+
+void TestContactDetailWidget::theDaysAreThoseOfTheMonth_data()
+{
+    QTest::addColumn<int>("year");
+    QTest::addColumn<QString>("month");
+    QTest::addColumn<int>("days");
+    QTest::addColumn<QString>("day");
+    QTest::newRow("April has no 31st") << 2024 << "4" << 30 << "30";
+    QTest::newRow("February in a leap year") << 2024 << "2" << 29 << "29";
+    QTest::newRow("February in another year") << 2023 << "2" << 28 << "28";
+    QTest::newRow("July has a 31st") << 2024 << "7" << 31 << "31";
+}
+
+void TestContactDetailWidget::theDaysAreThoseOfTheMonth()
+{
+    QFETCH(int, year);
+    QFETCH(QString, month);
+    QFETCH(int, days);
+    QFETCH(QString, day);
+    ContactDetailMsg edited = conference();
+    edited.startTime = QDateTime(QDate(year, 3, 31), QTime(9, 0)).toMSecsSinceEpoch();
+    const Form form({edited});
+    form.month()->setCurrentText(month);
+    QCOMPARE(items(*form.day()), numbers(1, days));
+    QCOMPARE(form.day()->currentText(), day);
+
+    form.day()->setCurrentText(QStringLiteral("5"));
+    form.month()->setCurrentText(QStringLiteral("12"));
+    QCOMPARE(items(*form.day()), numbers(1, 31));
+    QCOMPARE(form.day()->currentText(), QStringLiteral("5"));
+}
+
+void TestContactDetailWidget::twoDurationsAreOffered_data()
+{
+    QTest::addColumn<qint64>("duration");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("15 minutes") << qint64(900000) << QStringLiteral("15分钟");
+    QTest::newRow("30 minutes") << qint64(1800000) << QStringLiteral("30分钟");
+    QTest::newRow("another duration is shown as it is") << qint64(2700000) << QStringLiteral("45分钟");
+    QTest::newRow("seconds do not count") << qint64(959999) << QStringLiteral("15分钟");
+    QTest::newRow("none") << qint64(0) << QStringLiteral("0分钟");
+}
+
+void TestContactDetailWidget::twoDurationsAreOffered()
+{
+    QFETCH(qint64, duration);
+    QFETCH(QString, text);
+    ContactDetailMsg edited = conference();
+    edited.duration = duration;
+    const Form form({edited});
+    QCOMPARE(items(*form.duration()), (QStringList{QStringLiteral("15分钟"), QStringLiteral("30分钟")}));
+    QCOMPARE(form.duration()->currentText(), text);
+    QCOMPARE(form.duration()->minimumWidth(), 100);
+    QCOMPARE(form.duration()->maximumWidth(), 100);
+
+    QVERIFY(form.duration()->lineEdit()->isReadOnly());
+    QTest::keyClick(form.duration()->lineEdit(), Qt::Key_Return);
+    QCOMPARE(form.duration()->count(), 2);
+    form.duration()->setCurrentIndex(1);
+    QCOMPARE(form.duration()->currentText(), QStringLiteral("30分钟"));
+}
+
+void TestContactDetailWidget::theHeadCountsBounds_data()
+{
+    QTest::addColumn<bool>("isPayingUser");
+    QTest::addColumn<int>("maximum");
+    QTest::newRow("who pays may have a hundred") << true << 100;
+    QTest::newRow("who does not pay keeps the limit") << false << 40;
+}
+
+void TestContactDetailWidget::theHeadCountsBounds()
+{
+    QFETCH(bool, isPayingUser);
+    QFETCH(int, maximum);
+    ContactDetailMsg edited = conference();
+    edited.isPayingUser = isPayingUser;
+    const Form form({edited});
+    QCOMPARE(form.persons()->value(), 40);
+    QCOMPARE(form.persons()->minimum(), 2);
+    QCOMPARE(form.persons()->maximum(), maximum);
+    QCOMPARE(form.persons()->minimumWidth(), 100);
+    QCOMPARE(form.persons()->maximumWidth(), 100);
+    const auto *unit = form.persons()->parentWidget()->findChild<LLabel *>();
+    QVERIFY(unit != nullptr);
+    QCOMPARE(unit->text(), QStringLiteral("人"));
+}
+
+void TestContactDetailWidget::theParticipantsAreNamed()
+{
+    const Form form({conference()});
+    const auto labels = form.widget.findChildren<LLabel *>();
+    const auto isNames = [](const LLabel *label) {
+        return label->text() == QStringLiteral("李雷 韩梅梅");
+    };
+    QCOMPARE(std::count_if(labels.begin(), labels.end(), isNames), 1);
+    for (const LLabel *label : labels)
+        QCOMPARE(label->textFormat(), Qt::PlainText);
+
+    ContactDetailWidget empty;
+    const auto *nobody = qobject_cast<LLabel *>(empty.createConferenceInvite({}));
+    QVERIFY(nobody != nullptr);
+    QCOMPARE(nobody->text(), QString());
+}
+
+void TestContactDetailWidget::confirmingSendsTheChange_data()
+{
+    QTest::addColumn<QString>("month");
+    QTest::addColumn<QString>("day");
+    QTest::addColumn<QString>("hour");
+    QTest::addColumn<int>("durationIndex");
+    QTest::addColumn<int>("persons");
+    QTest::addColumn<QDateTime>("start");
+    QTest::addColumn<int>("minutes");
+    QTest::newRow("nothing changed but the minute of the start")
+        << "3"
+        << "31"
+        << "9" << 1 << 40 << QDateTime(QDate(2024, 3, 31), QTime(9, 0)) << 30;
+    QTest::newRow("everything changed")
+        << "12"
+        << "1"
+        << "23" << 0 << 2 << QDateTime(QDate(2024, 12, 1), QTime(23, 0)) << 15;
+    QTest::newRow("a shorter month") << "2"
+                                     << ""
+                                     << "0" << 0 << 100 << QDateTime(QDate(2024, 2, 29), QTime(0, 0)) << 15;
+    QTest::newRow("a duration that is not offered stays")
+        << "3"
+        << "31"
+        << "9" << -1 << 40 << QDateTime(QDate(2024, 3, 31), QTime(9, 0)) << 45;
+}
+
+void TestContactDetailWidget::confirmingSendsTheChange()
+{
+    QFETCH(QString, month);
+    QFETCH(QString, day);
+    QFETCH(QString, hour);
+    QFETCH(int, durationIndex);
+    QFETCH(int, persons);
+    QFETCH(QDateTime, start);
+    QFETCH(int, minutes);
+    ContactDetailMsg edited = conference();
+    if (durationIndex < 0)
+        edited.duration = 45 * 60000;
+    const Form form({edited});
+    form.month()->setCurrentText(month);
+    if (!day.isEmpty())
+        form.day()->setCurrentText(day);
+    form.hour()->setCurrentText(hour);
+    if (durationIndex >= 0)
+        form.duration()->setCurrentIndex(durationIndex);
+    form.persons()->setValue(persons);
+
+    const LogCapture log;
+    QTest::mouseClick(form.button(QStringLiteral("确 认")), Qt::LeftButton);
+    const AbilityEvent request = ScriptedAbility::instance().onlyRequest();
+    QCOMPARE(request.action, QStringLiteral("Update Conference"));
+    const QJsonObject sent = QJsonDocument::fromJson(request.parameters.toUtf8()).object();
+    const QJsonObject expected{
+        {QStringLiteral("conferenceId"), QStringLiteral("c7")},
+        {QStringLiteral("startTime"), start.toMSecsSinceEpoch()},
+        {QStringLiteral("duration"), minutes * 60000},
+        {QStringLiteral("participantLimit"), persons},
+    };
+    QCOMPARE(sent, expected);
+}
+
+void TestContactDetailWidget::confirmingWritesToTheDebugLog()
+{
+    Form form({conference()});
+    const QDateTime start(QDate(2024, 3, 31), QTime(9, 0));
+    QString startText;
+    QDebug(&startText).nospace() << start;
+
+    const LogCapture log;
+    form.widget.slotsClickConfirm();
+    const QStringList texts = log.texts(QtDebugMsg);
+    const int first = texts.indexOf(QStringLiteral("slotsClickConfirm"));
+    const int second = texts.indexOf(QStringLiteral("startTime: ") + startText);
+    QVERIFY(first >= 0);
+    QVERIFY2(second > first, qPrintable(texts.join(QLatin1Char('\n'))));
+    QCOMPARE(texts.last(), QStringLiteral("0"));
+}
+
+void TestContactDetailWidget::cancellingOnlyWritesToTheDebugLog()
+{
+    const Form form({conference()});
+    const LogCapture log;
+    QTest::mouseClick(form.button(QStringLiteral("取 消")), Qt::LeftButton);
+    QCOMPARE(log.lines(), QStringList{QStringLiteral("debug: slotsClickCancel")});
+    QVERIFY(ScriptedAbility::instance().events().isEmpty());
+}
+
+void TestContactDetailWidget::aFailureLeavesTheFormAsItIs()
+{
+    Form form({conference()});
+    form.hour()->setCurrentText(QStringLiteral("17"));
+    ScriptedAbility::instance().setAnswer(QStringLiteral("Update Conference"), -16020, QString());
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    form.widget.slotsClickConfirm();
+    QCOMPARE(log.texts(QtDebugMsg).last(), QStringLiteral("-16020"));
+    QCOMPARE(form.hour()->currentText(), QStringLiteral("17"));
+    QVERIFY(form.widget.isEnabled());
+}
+
+QTEST_MAIN(TestContactDetailWidget)
+#include "tst_contactdetailwidget.moc"

@@ -13,12 +13,8 @@
 #include <lumo/lguiapplicationhelper.h>
 #include <lumo/lsuggestbutton.h>
 
-#include <QtCore/QDebug>
 #include <QtGui/QGuiApplication>
-#include <QtGui/QKeyEvent>
-#include <QtGui/QPainter>
 #include <QtGui/QScreen>
-#include <QtWidgets/QComboBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
@@ -29,8 +25,6 @@ constexpr double PlannedScreenWidth = 1920.0;
 constexpr int Margin = 10;
 constexpr int Spacing = 10;
 constexpr int LineHeight = 1;
-constexpr double CornerRadius = 8.0;
-constexpr int FocusFrameWidth = 4;
 
 constexpr int ShownConferences = 3;
 constexpr int ItemRadius = 8;
@@ -42,25 +36,6 @@ double widthScale()
     if (screen == nullptr)
         return 1.0;
     return screen->availableGeometry().width() / PlannedScreenWidth / screen->devicePixelRatio();
-}
-
-bool isConfirmKey(const QKeyEvent &event)
-{
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
-
-bool isOpenKey(const QKeyEvent &event)
-{
-    return isConfirmKey(event) || event.key() == Qt::Key_Space;
-}
-
-QColor backgroundColor()
-{
-    if (LGuiApplicationHelper::instance()->themeType() == LGuiApplicationHelper::LightType)
-        return QColor(247, 247, 247, 200);
-    QColor color(QStringLiteral("#191919"));
-    color.setAlpha(204);
-    return color;
 }
 
 } // namespace
@@ -91,16 +66,16 @@ void ConferenceMsgStaticWidget::singleInit(const QVector<ContactDetailMsg> &list
     m_rows.clear();
     m_mode = Single;
     const ContactDetailMsg &conference = list.first();
-    m_layout->addWidget(getConferenceTitleWidget());
-    m_layout->addWidget(getConferenceStatusWidget(conference, true));
+    addRow(getConferenceTitleWidget());
+    addRow(getConferenceStatusWidget(conference, true));
     addLine();
-    m_layout->addWidget(getConferenceNumberWidget(conference));
-    m_layout->addWidget(getConferenceBeginTimeWidget(conference, true));
-    m_layout->addWidget(getConferenceTimeLengthWidget(conference, true));
-    m_layout->addWidget(getConferencePersonNumWidget(conference, true));
-    m_layout->addWidget(getConferenceparticipateNameWidget(conference));
+    addRow(getConferenceNumberWidget(conference));
+    addRow(getConferenceBeginTimeWidget(conference, true));
+    addRow(getConferenceTimeLengthWidget(conference, true));
+    addRow(getConferencePersonNumWidget(conference, true));
+    addRow(getConferenceparticipateNameWidget(conference));
     update();
-    adjustSize();
+    takeOwnSize();
 }
 
 void ConferenceMsgStaticWidget::multipleInit(const QVector<ContactDetailMsg> &list)
@@ -108,12 +83,12 @@ void ConferenceMsgStaticWidget::multipleInit(const QVector<ContactDetailMsg> &li
     if (list.isEmpty())
         return;
     m_mode = List;
-    m_layout->addWidget(getConferenceTitleWidget());
+    addRow(getConferenceTitleWidget());
     for (int i = 0; i < qMin(list.size(), ShownConferences); ++i)
-        m_layout->addWidget(conferenceItem(list.at(i)));
+        addRow(conferenceItem(list.at(i)));
     if (list.size() > ShownConferences)
-        m_layout->addWidget(footer(list.size()));
-    adjustSize();
+        addRow(footer(list.size()));
+    takeOwnSize();
     update();
 }
 
@@ -180,100 +155,32 @@ void ConferenceMsgStaticWidget::openContactApp()
     CardGateway::openConferenceList();
 }
 
-bool ConferenceMsgStaticWidget::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::FocusIn)
-        m_controlFocusReason = static_cast<QFocusEvent *>(event)->reason();
-    if (event->type() == QEvent::KeyPress) {
-        const auto &key = static_cast<const QKeyEvent &>(*event);
-        const QPointer<QObject> alive(watched);
-        if (isConfirmKey(key) && !key.isAutoRepeat())
-            activate(watched);
-        // Deleted with the card by whoever heard of the click: there is nobody left to give the event to.
-        if (alive.isNull())
-            return true;
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
-void ConferenceMsgStaticWidget::focusInEvent(QFocusEvent *event)
-{
-    qDebug() << "focusInEvent";
-    if (event->reason() == Qt::TabFocusReason) {
-        m_focusedByKeyboard = true;
-        update();
-    }
-}
-
-void ConferenceMsgStaticWidget::focusOutEvent(QFocusEvent * /*event*/)
-{
-    m_focusedByKeyboard = false;
-    update();
-}
-
-void ConferenceMsgStaticWidget::keyPressEvent(QKeyEvent *event)
-{
-    if (!hasFocus() || !isOpenKey(*event)) {
-        QWidget::keyPressEvent(event);
-        return;
-    }
-    // Acted on when the key is let go; the host's default button is not meant.
-    if (!event->isAutoRepeat())
-        m_ignoresNextRelease = false;
-}
-
-void ConferenceMsgStaticWidget::keyReleaseEvent(QKeyEvent *event)
-{
-    if (!hasFocus() || !isOpenKey(*event)) {
-        QWidget::keyReleaseEvent(event);
-        return;
-    }
-    if (event->isAutoRepeat() || !isEnabled())
-        return;
-    if (m_ignoresNextRelease)
-        m_ignoresNextRelease = false;
-    else
-        openContactApp();
-}
-
-void ConferenceMsgStaticWidget::mouseReleaseEvent(QMouseEvent * /*event*/)
-{
-    if (isEnabled())
-        openContactApp();
-}
-
-void ConferenceMsgStaticWidget::paintEvent(QPaintEvent * /*event*/)
-{
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(backgroundColor());
-    if (m_focusedByKeyboard) {
-        QPen pen = painter.pen();
-        pen.setColor(QColor(0, 129, 255));
-        pen.setWidth(FocusFrameWidth);
-        painter.setPen(pen);
-    } else {
-        painter.setPen(Qt::transparent);
-    }
-    painter.drawRoundedRect(0, 0, width(), height(), CornerRadius, CornerRadius, Qt::AbsoluteSize);
-}
-
-void ConferenceMsgStaticWidget::resizeEvent(QResizeEvent * /*event*/)
-{
-    // The layout does what is to be done.
-}
-
 QWidget *ConferenceMsgStaticWidget::listed(QWidget *row)
 {
     m_rows.append(row);
     return row;
 }
 
+void ConferenceMsgStaticWidget::addRow(QWidget *row)
+{
+    m_layout->addWidget(row);
+    // On a card that is on the screen a new row would be shown later only, and not be counted in its size.
+    if (isVisible())
+        row->show();
+}
+
+void ConferenceMsgStaticWidget::takeOwnSize()
+{
+    adjustSize();
+    // In a host with a layout that one has the last word.
+    updateGeometry();
+}
+
 void ConferenceMsgStaticWidget::addLine()
 {
     QPushButton *line = ConferenceRows::line(this);
     line->setFixedHeight(LineHeight);
-    m_layout->addWidget(listed(line));
+    addRow(listed(line));
 }
 
 QWidget *ConferenceMsgStaticWidget::conferenceItem(const ContactDetailMsg &conference)
@@ -307,25 +214,6 @@ QWidget *ConferenceMsgStaticWidget::footer(int count)
     connect(link, &QPushButton::clicked, this, &ConferenceMsgStaticWidget::openContactApp);
     m_footerButton = link;
     return link;
-}
-
-void ConferenceMsgStaticWidget::activate(QObject *control)
-{
-    if (auto *button = qobject_cast<QPushButton *>(control)) {
-        const bool isAction = button == m_cancelButton || button == m_modifyButton ||
-                              button == m_confirmButton || button == m_footerButton;
-        if (!isAction || !button->isEnabled())
-            return;
-        // The action may remove the button and leave the focus with the card, which then hears of the key
-        // being let go.
-        m_ignoresNextRelease = true;
-        Q_EMIT button->clicked();
-        return;
-    }
-    auto *box = qobject_cast<QComboBox *>(control);
-    if (box != nullptr && (box->windowTitle() == ConferenceEditor::hourBoxTag() ||
-                           box->windowTitle() == ConferenceEditor::durationBoxTag()))
-        box->showPopup();
 }
 
 void ConferenceMsgStaticWidget::updateModifyButton()

@@ -115,7 +115,9 @@ private:
     };
 
     QWidget *listed(QWidget *row);
+    void addRow(QWidget *row);
     void addLine();
+    void takeOwnSize();
     QWidget *conferenceItem(const ContactDetailMsg &conference);
     QWidget *footer(int count);
     void becomeStatic();

@@ -51,15 +51,15 @@ void ConferenceMsgStaticWidget::createInviteConference(QVector<ContactDetailMsg>
         return;
     const ContactDetailMsg conference = m_conferences.first();
     setConstConferenceMsg(conference);
-    m_layout->addWidget(getConferenceTitleWidget());
-    m_layout->addWidget(getConferenceStatusWidget(conference, false));
+    addRow(getConferenceTitleWidget());
+    addRow(getConferenceStatusWidget(conference, false));
     addLine();
-    m_layout->addWidget(getConferenceBeginTimeWidget(conference, false));
-    m_layout->addWidget(getConferenceTimeLengthWidget(conference, false));
-    m_layout->addWidget(getConferencePersonNumWidget(conference, false));
-    m_layout->addWidget(getConferenceparticipateNameWidget(conference));
-    m_layout->addWidget(getCreateConferenceBtn());
-    adjustSize();
+    addRow(getConferenceBeginTimeWidget(conference, false));
+    addRow(getConferenceTimeLengthWidget(conference, false));
+    addRow(getConferencePersonNumWidget(conference, false));
+    addRow(getConferenceparticipateNameWidget(conference));
+    addRow(getCreateConferenceBtn());
+    takeOwnSize();
 }
 
 void ConferenceMsgStaticWidget::createMultiplePerson(const ContactCreatedConferenceDetail &detail,
@@ -71,7 +71,7 @@ void ConferenceMsgStaticWidget::createMultiplePerson(const ContactCreatedConfere
     addCandidates(m_inviteDetail.duplicateUsers);
     if (isConfirmable)
         addConfirmButton(&ConferenceMsgStaticWidget::slotMultipleSelectBtn);
-    adjustSize();
+    takeOwnSize();
 }
 
 void ConferenceMsgStaticWidget::inviteMultiplePerson(const ContactInviteMemberDetail &detail)
@@ -80,7 +80,7 @@ void ConferenceMsgStaticWidget::inviteMultiplePerson(const ContactInviteMemberDe
     addSelectionTitle();
     addCandidates(detail.duplicateUsers);
     addConfirmButton(&ConferenceMsgStaticWidget::slotInviteMultipleSelectBtn);
-    adjustSize();
+    takeOwnSize();
 }
 
 void ConferenceMsgStaticWidget::invitePersonLimit(const ContactInviteMemberDetail &detail)
@@ -94,7 +94,7 @@ void ConferenceMsgStaticWidget::invitePersonLimit(const ContactInviteMemberDetai
         addCandidate(user);
     addCandidates(detail.duplicateUsers);
     addConfirmButton(&ConferenceMsgStaticWidget::slotReserverConferencepersonLimit);
-    adjustSize();
+    takeOwnSize();
 }
 
 QWidget *ConferenceMsgStaticWidget::getCreateConferenceBtn()
@@ -210,7 +210,7 @@ void ConferenceMsgStaticWidget::prepareButton(QPushButton &button)
 
 void ConferenceMsgStaticWidget::addSelectionTitle()
 {
-    m_layout->addWidget(getConferenceTitleWidget());
+    addRow(getConferenceTitleWidget());
     m_layout->addSpacing(SpaceAfterTitle);
 }
 
@@ -226,7 +226,7 @@ void ConferenceMsgStaticWidget::addCandidate(const UserInfo &user)
 {
     auto *row = new TiTleItem(user.name, this);
     row->insertConferenceMsg(user);
-    m_layout->addWidget(listed(row));
+    addRow(listed(row));
     m_layout->addSpacing(SpaceAfterCandidate);
 }
 
@@ -237,7 +237,7 @@ void ConferenceMsgStaticWidget::addConfirmButton(void (ConferenceMsgStaticWidget
     m_confirmButton->setFixedHeight(ConfirmHeight);
     prepareButton(*m_confirmButton);
     connect(m_confirmButton.data(), &QPushButton::clicked, this, slot);
-    m_layout->addWidget(listed(m_confirmButton));
+    addRow(listed(m_confirmButton));
 }
 
 QVector<UserInfo> ConferenceMsgStaticWidget::pickedUsers() const
@@ -271,7 +271,7 @@ void ConferenceMsgStaticWidget::confirm(const Confirmation &confirmation)
         m_confirmButton.clear();
         removeLastRow();
     }
-    adjustSize();
+    takeOwnSize();
     reply(CardReplies::confirmed(confirmation.purpose, namesOf(members, confirmation.distinctNames), code));
     if (!alive.isNull() && confirmation.disablesCard)
         setEnabled(false);

@@ -19,6 +19,7 @@ constexpr int CaptionWidth = 60;
 constexpr int CaptionMinimumHeight = 20;
 constexpr int SpaceAfterCaption = 10;
 constexpr int TitleSpacing = 10;
+constexpr int SpaceBeforeState = 10;
 constexpr int StateSpacing = 5;
 constexpr qint64 MsecsPerMinute = 60000;
 constexpr int LineAlpha = 26;
@@ -46,10 +47,21 @@ QLabel *iconLabel(const char *icon, QWidget *parent)
     return label;
 }
 
+LLabel *addValue(const ConferenceRows::CaptionedRow &row, const QString &text)
+{
+    LLabel *value = valueLabel(text, row.widget);
+    // A long text takes the width that there is, and none that it does not need.
+    const int needed = value->fontMetrics().horizontalAdvance(value->text());
+    value->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    value->setMaximumWidth(qMin(QWIDGETSIZE_MAX, qMax(value->sizeHint().width(), needed)));
+    row.layout->addWidget(value);
+    return value;
+}
+
 QWidget *valueRow(const QString &caption, const QString &value, QWidget *parent)
 {
     const ConferenceRows::CaptionedRow row = ConferenceRows::captioned(caption, parent);
-    row.layout->addWidget(valueLabel(value, row.widget));
+    addValue(row, value);
     return row.widget;
 }
 
@@ -87,7 +99,7 @@ QWidget *ConferenceRows::status(const ContactDetailMsg &conference, bool isStati
     auto *row = new QWidget(parent);
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
+    layout->setSpacing(SpaceBeforeState);
     layout->setAlignment(Qt::AlignLeft);
     layout->addWidget(valueLabel(conference.title, row), 1);
     if (isStatic)
@@ -98,9 +110,7 @@ QWidget *ConferenceRows::status(const ContactDetailMsg &conference, bool isStati
 QWidget *ConferenceRows::number(const ContactDetailMsg &conference, QWidget *parent)
 {
     const CaptionedRow row = captioned(QStringLiteral("会议号"), parent);
-    LLabel *value = valueLabel(conference.conferenceDialNumber, row.widget);
-    value->setAlignment(ContentRight);
-    row.layout->addWidget(value);
+    addValue(row, conference.conferenceDialNumber)->setAlignment(ContentRight);
     return row.widget;
 }
 
@@ -126,15 +136,10 @@ QWidget *ConferenceRows::personNum(const ContactDetailMsg &conference, QWidget *
 
 QWidget *ConferenceRows::participants(const ContactDetailMsg &conference, QWidget *parent)
 {
-    const CaptionedRow row = captioned(QStringLiteral("参与人"), parent);
     QString names;
     for (const UserInfo &participant : conference.participants)
         names += participant.name + QLatin1Char(' ');
-    LLabel *value = valueLabel(names, row.widget);
-    // A long list takes the width that there is, and becomes dots behind that.
-    value->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    row.layout->addWidget(value);
-    return row.widget;
+    return valueRow(QStringLiteral("参与人"), names, parent);
 }
 
 ConferenceRows::CaptionedRow ConferenceRows::captioned(const QString &caption, QWidget *parent)

@@ -150,6 +150,10 @@ void LogCapture::handle(QtMsgType level, const QMessageLogContext &context, cons
 
 void LogCapture::take(const LogRecord &record)
 {
+    // The offscreen platform complains about every window that has a smallest or largest size.
+    if (record.text == QLatin1String("This plugin does not support propagateSizeHints()")) {
+        return;
+    }
     const QMutexLocker locker(&m_mutex);
     m_records.append(record);
     if (record.level != QtWarningMsg && record.level != QtCriticalMsg) {

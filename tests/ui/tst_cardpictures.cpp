@@ -1,0 +1,221 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "cardsamples.h"
+#include "conferencemsgstaticwidget.h"
+#include "fakeprocesstable.h"
+#include "logcapture.h"
+#include "scriptedability.h"
+#include "titleitem.h"
+
+#include <lumo/lguiapplicationhelper.h>
+
+#include <QtCore/QDir>
+#include <QtTest/QtTest>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+using namespace CardSamples;
+
+/// Shows each state of a card the way a host does, in both themes, and saves a picture of it into the build
+/// folder for people to look at. What a program can see is checked: nothing leaves the card, and what must
+/// not be cut off is not.
+class TestCardPictures : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void everyCard_data();
+    void everyCard();
+};
+
+namespace {
+
+constexpr int HostWidth = 372;
+constexpr int NarrowWidth = 240;
+constexpr int WideWidth = 700;
+
+using Build = void (*)(ConferenceMsgStaticWidget &);
+
+ContactDetailMsg longWinded()
+{
+    ContactDetailMsg one = conference();
+    one.title = QStringLiteral("关于下半年产品路线图与跨部门协作流程优化的第十七次专题讨论会（含预算评审）");
+    one.conferenceDialNumber = QStringLiteral("902118340000111122223333444455556666");
+    one.participants.clear();
+    for (int i = 0; i < 100; ++i)
+        one.participants.append(user(QStringLiteral("参会人%1").arg(i + 1), {}, {}, {}));
+    one.status = 1;
+    return one;
+}
+
+void buildEmpty(ConferenceMsgStaticWidget &) {}
+void buildSingle(ConferenceMsgStaticWidget &card)
+{
+    card.singleInit({conference()});
+}
+void buildEnded(ConferenceMsgStaticWidget &card)
+{
+    ContactDetailMsg ended = conference();
+    ended.status = 2;
+    card.singleInit({ended});
+}
+void buildSingleLong(ConferenceMsgStaticWidget &card)
+{
+    card.singleInit({longWinded()});
+}
+void buildList(ConferenceMsgStaticWidget &card)
+{
+    card.multipleInit(conferences(3));
+}
+void buildLongList(ConferenceMsgStaticWidget &card)
+{
+    QVector<ContactDetailMsg> list = conferences(10000);
+    list[1] = longWinded();
+    card.multipleInit(list);
+}
+void buildEditable(ConferenceMsgStaticWidget &card)
+{
+    QVector<ContactDetailMsg> list = {conference()};
+    card.createInviteConference(list);
+}
+void buildEdited(ConferenceMsgStaticWidget &card)
+{
+    QVector<ContactDetailMsg> list = {longWinded()};
+    list.first().isPayingUser = true;
+    list.first().duration = 2 * Hour;
+    card.createInviteConference(list);
+    named<QComboBox>(card, QStringLiteral("时长"))->setCurrentIndex(6);
+    named<QComboBox>(card, QStringLiteral("开始时间"))->setFocus(Qt::TabFocusReason);
+}
+void buildModified(ConferenceMsgStaticWidget &card)
+{
+    buildEdited(card);
+    QTest::keyClick(button(card, QStringLiteral("修 改")), Qt::Key_Return);
+}
+void buildCandidates(ConferenceMsgStaticWidget &card)
+{
+    card.createMultiplePerson(createdDetail(), true);
+    const auto rows = card.findChildren<TiTleItem *>();
+    QTest::mouseClick(rows.at(1), Qt::LeftButton);
+    QTest::mouseClick(rows.at(3), Qt::LeftButton);
+}
+void buildLimit(ConferenceMsgStaticWidget &card)
+{
+    ContactInviteMemberDetail detail = inviteDetail();
+    detail.canInviteNum = 1;
+    detail.normalUsers.append(user(QStringLiteral("名字长得一行放不下的一位与会者还有更多"),
+                                   QStringLiteral("名字长得一行放不下的一位与会者还有更多"), {},
+                                   QStringLiteral("a-rather-long-account-name@example.com")));
+    card.invitePersonLimit(detail);
+}
+
+struct State
+{
+    const char *name;
+    Build build;
+    int width = HostWidth;
+};
+
+constexpr State States[] = {
+    {"empty", buildEmpty},
+    {"single", buildSingle},
+    {"single-ended", buildEnded},
+    {"single-long", buildSingleLong},
+    {"single-long-narrow", buildSingleLong, NarrowWidth},
+    {"single-long-wide", buildSingleLong, WideWidth},
+    {"list", buildList},
+    {"list-long", buildLongList},
+    {"list-long-narrow", buildLongList, NarrowWidth},
+    {"editable", buildEditable},
+    {"editable-wide", buildEditable, WideWidth},
+    {"edited", buildEdited},
+    {"edited-modified", buildModified},
+    {"candidates", buildCandidates},
+    {"candidates-wide", buildCandidates, WideWidth},
+    {"limit", buildLimit},
+};
+
+/// As the hosts do it: below an answer, as wide as the view.
+class Host : public QWidget
+{
+public:
+    Host(const State &state, bool isFocused)
+    {
+        auto *layout = new QVBoxLayout(this);
+        auto *card = new ConferenceMsgStaticWidget;
+        layout->addWidget(card);
+        layout->addStretch();
+        setFixedWidth(state.width);
+        show();
+        state.build(*card);
+        if (isFocused)
+            card->setFocus(Qt::TabFocusReason);
+        layout->activate();
+        resize(state.width, layout->sizeHint().height());
+        m_card = card;
+    }
+
+    ConferenceMsgStaticWidget *card() const { return m_card; }
+
+private:
+    ConferenceMsgStaticWidget *m_card;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(State)
+
+void TestCardPictures::initTestCase()
+{
+    QVERIFY(QDir(QStringLiteral(CONTACT_BINARY_DIR)).mkpath(QStringLiteral("pictures")));
+}
+
+void TestCardPictures::everyCard_data()
+{
+    QTest::addColumn<State>("state");
+    QTest::addColumn<int>("theme");
+    for (const State &state : States) {
+        QTest::addRow("%s in the light theme", state.name) << state << int(LGuiApplicationHelper::LightType);
+        QTest::addRow("%s in the dark theme", state.name) << state << int(LGuiApplicationHelper::DarkType);
+    }
+}
+
+void TestCardPictures::everyCard()
+{
+    QFETCH(State, state);
+    QFETCH(int, theme);
+    const LogCapture log;
+    auto *helper = LGuiApplicationHelper::instance();
+    helper->setPaletteType(static_cast<LGuiApplicationHelper::ColorType>(theme));
+    ScriptedAbility::instance().reset();
+    ScriptedAbility::instance().setAnswer(QStringLiteral("Update Conference"), 0,
+                                          QStringLiteral(R"({"ret":"OK"})"));
+
+    Host host(state, false);
+    QVERIFY(QTest::qWaitForWindowExposed(&host));
+    const QImage image = host.grab().toImage();
+
+    // The card keeps to its place, whatever is on it.
+    QVERIFY(host.card()->width() <= state.width);
+    // Fixed texts are never cut off where the card is as wide as planned.
+    if (state.width >= HostWidth) {
+        for (const QLabel *label : shown<QLabel>(*host.card())) {
+            if (label->text() == QStringLiteral("参与人") || label->text() == QStringLiteral("进行中"))
+                QVERIFY(label->width() >= label->fontMetrics().horizontalAdvance(label->text()));
+        }
+    }
+    const QString path =
+        QStringLiteral("%1/pictures/%2-%3-x%4.png")
+            .arg(QStringLiteral(CONTACT_BINARY_DIR), QLatin1String(state.name),
+                 theme == LGuiApplicationHelper::DarkType ? QStringLiteral("dark") : QStringLiteral("light"),
+                 QString::number(image.devicePixelRatio()));
+    QVERIFY(image.save(path));
+    helper->setPaletteType(LGuiApplicationHelper::UnknownType);
+}
+
+QTEST_MAIN(TestCardPictures)
+#include "tst_cardpictures.moc"

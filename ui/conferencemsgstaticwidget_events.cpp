@@ -1,0 +1,145 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+// The part of the card that paints it and hears keyboard and mouse.
+
+#include "conferencemsgstaticwidget.h"
+
+#include "conferenceeditor.h"
+
+#include <lumo/lguiapplicationhelper.h>
+#include <lumo/lsuggestbutton.h>
+
+#include <QtCore/QDebug>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QPushButton>
+
+namespace {
+
+constexpr double CornerRadius = 8.0;
+constexpr int FocusFrameWidth = 4;
+
+bool isConfirmKey(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+bool isOpenKey(const QKeyEvent &event)
+{
+    return isConfirmKey(event) || event.key() == Qt::Key_Space;
+}
+
+QColor backgroundColor()
+{
+    if (LGuiApplicationHelper::instance()->themeType() == LGuiApplicationHelper::LightType)
+        return QColor(247, 247, 247, 200);
+    QColor color(QStringLiteral("#191919"));
+    color.setAlpha(204);
+    return color;
+}
+
+} // namespace
+
+bool ConferenceMsgStaticWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FocusIn)
+        m_controlFocusReason = static_cast<QFocusEvent *>(event)->reason();
+    if (event->type() == QEvent::KeyPress) {
+        const auto &key = static_cast<const QKeyEvent &>(*event);
+        const QPointer<QObject> alive(watched);
+        if (isConfirmKey(key) && !key.isAutoRepeat())
+            activate(watched);
+        // Deleted with the card by whoever heard of the click: there is nobody left to give the event to.
+        if (alive.isNull())
+            return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void ConferenceMsgStaticWidget::focusInEvent(QFocusEvent *event)
+{
+    qDebug() << "focusInEvent";
+    if (event->reason() == Qt::TabFocusReason) {
+        m_focusedByKeyboard = true;
+        update();
+    }
+}
+
+void ConferenceMsgStaticWidget::focusOutEvent(QFocusEvent * /*event*/)
+{
+    m_focusedByKeyboard = false;
+    update();
+}
+
+void ConferenceMsgStaticWidget::keyPressEvent(QKeyEvent *event)
+{
+    if (!hasFocus() || !isOpenKey(*event)) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    // Acted on when the key is let go; the host's default button is not meant.
+    if (!event->isAutoRepeat())
+        m_ignoresNextRelease = false;
+}
+
+void ConferenceMsgStaticWidget::keyReleaseEvent(QKeyEvent *event)
+{
+    if (!hasFocus() || !isOpenKey(*event)) {
+        QWidget::keyReleaseEvent(event);
+        return;
+    }
+    if (event->isAutoRepeat() || !isEnabled())
+        return;
+    if (m_ignoresNextRelease)
+        m_ignoresNextRelease = false;
+    else
+        openContactApp();
+}
+
+void ConferenceMsgStaticWidget::mouseReleaseEvent(QMouseEvent * /*event*/)
+{
+    if (isEnabled())
+        openContactApp();
+}
+
+void ConferenceMsgStaticWidget::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(backgroundColor());
+    if (m_focusedByKeyboard) {
+        QPen pen = painter.pen();
+        pen.setColor(QColor(0, 129, 255));
+        pen.setWidth(FocusFrameWidth);
+        painter.setPen(pen);
+    } else {
+        painter.setPen(Qt::transparent);
+    }
+    painter.drawRoundedRect(0, 0, width(), height(), CornerRadius, CornerRadius, Qt::AbsoluteSize);
+}
+
+void ConferenceMsgStaticWidget::resizeEvent(QResizeEvent * /*event*/)
+{
+    // The layout does what is to be done.
+}
+
+void ConferenceMsgStaticWidget::activate(QObject *control)
+{
+    if (auto *button = qobject_cast<QPushButton *>(control)) {
+        const bool isAction = button == m_cancelButton || button == m_modifyButton ||
+                              button == m_confirmButton || button == m_footerButton;
+        if (!isAction || !button->isEnabled())
+            return;
+        // The action may remove the button and leave the focus with the card, which then hears of the key
+        // being let go.
+        m_ignoresNextRelease = true;
+        Q_EMIT button->clicked();
+        return;
+    }
+    auto *box = qobject_cast<QComboBox *>(control);
+    if (box != nullptr && (box->windowTitle() == ConferenceEditor::hourBoxTag() ||
+                           box->windowTitle() == ConferenceEditor::durationBoxTag()))
+        box->showPopup();
+}

@@ -3,7 +3,7 @@
 
 #include <kelvane/kelvaneabilitymanager.h>
 
-ContactAbility::~ContactAbility() = default;
+#include "buscontactability.h"
 
 KelvaneAbilityManager *KelvaneAbilityManager::instance()
 {
@@ -13,5 +13,5 @@ KelvaneAbilityManager *KelvaneAbilityManager::instance()
 
 ContactAbility *KelvaneAbilityManager::createContact()
 {
-    return nullptr;
+    return new BusContactAbility;
 }

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QJsonObject>
+#include <QtCore/QString>
+
+struct ActionContext;
+class RequestParameters;
+
+using ActionHandler = QJsonObject (*)(const ActionContext &context, const RequestParameters &parameters);
+
+/// Whether an action is refused while nobody is logged in.
+enum class ActionAccess { Anybody, LoggedInUser };
+
+/// One action that other programs may ask for.
+struct Action
+{
+    QString name;
+    ActionHandler handler;
+    ActionAccess access;
+};
+
+/// The action of that name; null for an unknown one.
+const Action *findAction(const QString &name);

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "addfriends.h"
+
+#include "actioncontext.h"
+#include "answer.h"
+#include "requestparameters.h"
+
+#include "../core/jsonkeys.h"
+#include "../core/outcome.h"
+
+namespace {
+
+std::optional<Person> resolve(const ActionContext &context, const QString &said)
+{
+    if (said.isEmpty())
+        return std::nullopt;
+    if (std::optional<Person> person = context.people.byAccount(said))
+        return person;
+    if (std::optional<Person> person = context.people.byUserId(said))
+        return person;
+    const QVector<Person> namesakes = context.people.byName(said, 2);
+    return namesakes.size() == 1 ? std::make_optional(namesakes.constFirst()) : std::nullopt;
+}
+
+} // namespace
+
+QJsonObject addFriends(const ActionContext &context, const RequestParameters &parameters)
+{
+    const std::optional<Person> person = resolve(context, parameters.text(JsonKey::UserId).trimmed());
+    if (!person)
+        return answerWord(Outcome::NotFound);
+    if (person->userId == context.user.userId)
+        return answerWord(Outcome::IsYourself);
+    if (context.people.friendship(context.user.userId, person->userId) != Friendship::None)
+        return answerWord(Outcome::IsYourFriend);
+    if (context.people.friendCount(context.user.userId) >= context.session.friendLimit())
+        return answerWord(Outcome::ExceedFriendLimit);
+    context.people.addFriendRequest(context.user.userId, person->userId);
+    return answerWord(Outcome::Ok);
+}

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QJsonObject>
+#include <QtCore/QLatin1String>
+#include <QtCore/QString>
+#include <QtCore/QVector>
+
+#include <optional>
+#include <stdexcept>
+
+/// The parameters are none that the action takes. Nothing has changed yet when it is thrown.
+class InvalidParameters : public std::runtime_error
+{
+public:
+    explicit InvalidParameters(const char *reason) : std::runtime_error(reason) {}
+};
+
+/// Somebody to invite: asked for by name, or picked on a card by id.
+struct RequestedMember
+{
+    QString name;   ///< as it was said, goes back in the answer unchanged
+    QString userId; ///< empty unless picked
+};
+
+/// The parameter text of one request. It comes from speech and from other programs, so every reading of it is
+/// checked and throws InvalidParameters.
+class RequestParameters
+{
+public:
+    /// No request that we know of is a tenth as long.
+    static constexpr int MaxBytes = 65536;
+
+    explicit RequestParameters(const QString &text);
+
+    /// The key's text, empty when it is absent.
+    QString text(QLatin1String key) const;
+    /// A whole number from 0 to the end of the year 9999 in milliseconds; nothing when the key is absent.
+    std::optional<qint64> number(QLatin1String key) const;
+    QVector<RequestedMember> members() const;
+
+private:
+    QJsonObject m_object;
+};

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "searchconference.h"
+
+#include "actioncontext.h"
+#include "answer.h"
+#include "requestparameters.h"
+
+#include "../core/conferencerules.h"
+#include "../core/jsonkeys.h"
+#include "../core/outcome.h"
+
+#include <limits>
+
+QJsonObject searchConference(const ActionContext &context, const RequestParameters &parameters)
+{
+    const qint64 from = parameters.number(JsonKey::StartTime).value_or(context.nowMsecs);
+    const qint64 to = parameters.number(JsonKey::EndTime).value_or(std::numeric_limits<qint64>::max());
+    const QVector<Conference> conferences =
+        context.conferences.ofUser(context.user.userId, from, to, ConferenceRules::ListLimit);
+    if (conferences.isEmpty())
+        return answerWord(Outcome::NotFound);
+    return answerConferences(Outcome::Ok, conferences, context.nowMsecs);
+}

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QVector>
+
+/// Follows from the clock alone. The numbers are sent.
+enum class ConferenceState { NotStarted = 0, Running = 1, Ended = 2 };
+
+/// What became of an invitation. The numbers are stored.
+enum class Attendance { Invited = 0, Joined = 1, Left = 2 };
+
+/// Somebody's seat in a conference.
+struct Participant
+{
+    QString userId;
+    QString account;
+    QString name; ///< as the user who asks calls the person
+    Attendance attendance = Attendance::Invited;
+};
+
+/// A conference. All times are in milliseconds, points in time since the epoch.
+struct Conference
+{
+    qint64 id = 0;
+    QString confId;     ///< names the conference in requests that change it
+    QString dialNumber; ///< digits, what one says to join
+    QString title;
+    QString hostId;
+    qint64 startMsecs = 0;
+    qint64 durationMsecs = 0;
+    int participantLimit = 0;
+    QString passcode;                  ///< empty: everybody may join
+    bool paid = false;                 ///< whether the host's account is a paying one
+    QVector<Participant> participants; ///< without those who left
+
+    qint64 endMsecs() const { return startMsecs + durationMsecs; }
+    ConferenceState stateAt(qint64 nowMsecs) const
+    {
+        if (nowMsecs < startMsecs)
+            return ConferenceState::NotStarted;
+        return nowMsecs < endMsecs() ? ConferenceState::Running : ConferenceState::Ended;
+    }
+};

@@ -1,0 +1,263 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "conferencerepository.h"
+
+#include "conferencerules.h"
+#include "databaseerror.h"
+#include "statement.h"
+
+#include <QtCore/QRandomGenerator>
+#include <QtCore/QUuid>
+
+namespace {
+
+QString conferenceColumns()
+{
+    return QStringLiteral(
+        " conference.id, conf_id, dial_number, title, host_id, conference.start_msecs, duration_msecs,"
+        " participant_limit, passcode, person.kind ");
+}
+
+QString conferenceQuery(const QLatin1String condition)
+{
+    return QStringLiteral("SELECT") + conferenceColumns() +
+           QStringLiteral("FROM conference JOIN person ON person.user_id = conference.host_id ") + condition;
+}
+
+Conference readConference(const Statement &row)
+{
+    Conference conference;
+    conference.id = row.number(0);
+    conference.confId = row.text(1);
+    conference.dialNumber = row.text(2);
+    conference.title = row.text(3);
+    conference.hostId = row.text(4);
+    conference.startMsecs = row.number(5);
+    conference.durationMsecs = row.number(6);
+    conference.participantLimit = row.smallNumber(7);
+    conference.passcode = row.text(8);
+    conference.paid = static_cast<AccountKind>(row.smallNumber(9)) == AccountKind::Paying;
+    return conference;
+}
+
+} // namespace
+
+std::optional<Conference> ConferenceRepository::byId(qint64 id, const QString &viewerId) const
+{
+    Statement query(m_database, conferenceQuery(QLatin1String("WHERE conference.id = ?")));
+    if (!query.bind(id).run().next())
+        return std::nullopt;
+    Conference conference = readConference(query);
+    conference.participants = participants(id, viewerId);
+    return conference;
+}
+
+std::optional<Conference> ConferenceRepository::byConfId(const QString &confId, const QString &viewerId) const
+{
+    Statement query(m_database, QStringLiteral("SELECT id FROM conference WHERE conf_id = ?"));
+    if (!query.bind(confId).run().next())
+        return std::nullopt;
+    return byId(query.number(0), viewerId);
+}
+
+std::optional<Conference> ConferenceRepository::byDialNumber(const QString &dialNumber,
+                                                             const QString &viewerId) const
+{
+    Statement query(m_database, QStringLiteral("SELECT id FROM conference WHERE dial_number = ?"));
+    if (!query.bind(dialNumber).run().next())
+        return std::nullopt;
+    return byId(query.number(0), viewerId);
+}
+
+QVector<Conference> ConferenceRepository::ofUser(const QString &userId, qint64 fromMsecs, qint64 toMsecs,
+                                                 int limit) const
+{
+    // The join order is given by CROSS JOIN: first the person's own piece of the index by time, then one
+    // conference each.
+    Statement query(m_database,
+                    QStringLiteral("SELECT") + conferenceColumns() +
+                        QStringLiteral("FROM participant"
+                                       " CROSS JOIN conference ON conference.id = participant.conference_id"
+                                       " CROSS JOIN person ON person.user_id = conference.host_id"
+                                       " WHERE participant.user_id = ?"
+                                       " AND participant.start_msecs > ? AND participant.start_msecs < ?"
+                                       " AND conference.start_msecs + duration_msecs > ?"
+                                       " ORDER BY participant.start_msecs LIMIT ?"));
+    query.bind(userId)
+        .bind(fromMsecs - ConferenceRules::LongestMsecs)
+        .bind(toMsecs)
+        .bind(fromMsecs)
+        .bind(limit)
+        .run();
+    QVector<Conference> conferences;
+    while (query.next())
+        conferences.append(readConference(query));
+    for (Conference &conference : conferences)
+        conference.participants = participants(conference.id, userId);
+    return conferences;
+}
+
+QVector<Conference> ConferenceRepository::all(const QString &viewerId) const
+{
+    Statement query(m_database, conferenceQuery(QLatin1String("ORDER BY conference.start_msecs")));
+    query.run();
+    QVector<Conference> conferences;
+    while (query.next())
+        conferences.append(readConference(query));
+    for (Conference &conference : conferences)
+        conference.participants = participants(conference.id, viewerId);
+    return conferences;
+}
+
+std::optional<Conference> ConferenceRepository::joinedBy(const QString &userId, qint64 nowMsecs) const
+{
+    Statement query(m_database,
+                    QStringLiteral("SELECT conference_id FROM participant"
+                                   " JOIN conference ON conference.id = participant.conference_id"
+                                   " WHERE user_id = ? AND attendance = 1"
+                                   " AND participant.start_msecs > ? AND participant.start_msecs <= ?"
+                                   " AND conference.start_msecs + duration_msecs > ?"
+                                   " ORDER BY participant.start_msecs DESC LIMIT 1"));
+    query.bind(userId).bind(nowMsecs - ConferenceRules::LongestMsecs).bind(nowMsecs).bind(nowMsecs);
+    if (!query.run().next())
+        return std::nullopt;
+    return byId(query.number(0), userId);
+}
+
+std::optional<Attendance> ConferenceRepository::attendance(qint64 conferenceId, const QString &userId) const
+{
+    Statement query(
+        m_database,
+        QStringLiteral("SELECT attendance FROM participant WHERE conference_id = ? AND user_id = ?"));
+    if (!query.bind(conferenceId).bind(userId).run().next())
+        return std::nullopt;
+    return static_cast<Attendance>(query.smallNumber(0));
+}
+
+int ConferenceRepository::takenSeats(qint64 conferenceId) const
+{
+    Statement query(
+        m_database,
+        QStringLiteral("SELECT count(*) FROM participant WHERE conference_id = ? AND attendance <> 2"));
+    query.bind(conferenceId).run().next();
+    return query.smallNumber(0);
+}
+
+Conference ConferenceRepository::add(Conference conference)
+{
+    if (conference.confId.isEmpty())
+        conference.confId = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    if (conference.dialNumber.isEmpty())
+        conference.dialNumber = freeDialNumber();
+    Statement insert(
+        m_database,
+        QStringLiteral("INSERT INTO conference (conf_id, dial_number, title, host_id, start_msecs,"
+                       " duration_msecs, participant_limit, passcode) VALUES (?, ?, ?, ?, ?, ?, ?, ?)"));
+    insert.bind(conference.confId)
+        .bind(conference.dialNumber)
+        .bind(conference.title)
+        .bind(conference.hostId)
+        .bind(conference.startMsecs)
+        .bind(conference.durationMsecs)
+        .bind(conference.participantLimit)
+        .bind(conference.passcode)
+        .run();
+    conference.id = insert.lastInsertId();
+    return conference;
+}
+
+void ConferenceRepository::setTimes(qint64 conferenceId, qint64 startMsecs, qint64 durationMsecs)
+{
+    Statement(m_database,
+              QStringLiteral("UPDATE conference SET start_msecs = ?, duration_msecs = ? WHERE id = ?"))
+        .bind(startMsecs)
+        .bind(durationMsecs)
+        .bind(conferenceId)
+        .run();
+}
+
+void ConferenceRepository::setParticipantLimit(qint64 conferenceId, int limit)
+{
+    Statement(m_database, QStringLiteral("UPDATE conference SET participant_limit = ? WHERE id = ?"))
+        .bind(limit)
+        .bind(conferenceId)
+        .run();
+}
+
+void ConferenceRepository::setAttendance(qint64 conferenceId, const QString &userId, Attendance attendance)
+{
+    Statement(m_database,
+              QStringLiteral(
+                  "INSERT INTO participant (conference_id, user_id, place, attendance, start_msecs)"
+                  " SELECT id, ?, (SELECT count(*) FROM participant WHERE conference_id = conference.id),"
+                  " ?, start_msecs FROM conference WHERE id = ?"
+                  " ON CONFLICT (conference_id, user_id) DO UPDATE SET attendance = excluded.attendance"))
+        .bind(userId)
+        .bind(static_cast<int>(attendance))
+        .bind(conferenceId)
+        .run();
+}
+
+void ConferenceRepository::remove(qint64 conferenceId)
+{
+    Statement(m_database, QStringLiteral("DELETE FROM conference WHERE id = ?")).bind(conferenceId).run();
+}
+
+void ConferenceRepository::removeAll()
+{
+    Statement(m_database, QStringLiteral("DELETE FROM conference")).run();
+    Statement(m_database, QStringLiteral("DELETE FROM creation")).run();
+}
+
+int ConferenceRepository::creationsSince(const QString &hostId, qint64 sinceMsecs) const
+{
+    Statement query(m_database,
+                    QStringLiteral("SELECT count(*) FROM creation WHERE host_id = ? AND created_msecs > ?"));
+    query.bind(hostId).bind(sinceMsecs).run().next();
+    return query.smallNumber(0);
+}
+
+void ConferenceRepository::noteCreation(const QString &hostId, qint64 nowMsecs)
+{
+    // What is older than a day decides nothing any more.
+    constexpr qint64 DayMsecs = 24 * 60 * 60 * 1000;
+    Statement(m_database, QStringLiteral("DELETE FROM creation WHERE host_id = ? AND created_msecs < ?"))
+        .bind(hostId)
+        .bind(nowMsecs - DayMsecs)
+        .run();
+    Statement(m_database, QStringLiteral("INSERT INTO creation (host_id, created_msecs) VALUES (?, ?)"))
+        .bind(hostId)
+        .bind(nowMsecs)
+        .run();
+}
+
+QString ConferenceRepository::freeDialNumber() const
+{
+    // Nine digits without a leading zero; a handful of tries is plenty below a hundred million conferences.
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        const QString number = QString::number(QRandomGenerator::global()->bounded(100000000, 1000000000));
+        Statement query(m_database, QStringLiteral("SELECT 1 FROM conference WHERE dial_number = ?"));
+        if (!query.bind(number).run().next())
+            return number;
+    }
+    throw DatabaseError(QStringLiteral("no free conference number"));
+}
+
+QVector<Participant> ConferenceRepository::participants(qint64 conferenceId, const QString &viewerId) const
+{
+    Statement query(
+        m_database,
+        QStringLiteral("SELECT person.user_id, account, name, coalesce(remark_name, ''), attendance"
+                       " FROM participant JOIN person ON person.user_id = participant.user_id"
+                       " LEFT JOIN contact ON contact.owner_id = ? AND contact.person_id = person.user_id"
+                       " WHERE conference_id = ? AND attendance <> 2 ORDER BY place"));
+    query.bind(viewerId).bind(conferenceId).run();
+    QVector<Participant> participants;
+    while (query.next()) {
+        const QString remark = query.text(3);
+        participants.append({query.text(0), query.text(1), remark.isEmpty() ? query.text(2) : remark,
+                             static_cast<Attendance>(query.smallNumber(4))});
+    }
+    return participants;
+}

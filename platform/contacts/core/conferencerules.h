@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "person.h"
+
+/// What conferences of an account may be like. The reply cards offer durations up to 30 minutes to free
+/// accounts and up to four hours and 100 people to paying ones, so these are the limits.
+struct ConferenceRules
+{
+    qint64 defaultDurationMsecs;
+    qint64 maxDurationMsecs;
+    int defaultParticipantLimit;
+    int maxParticipantLimit;
+
+    static constexpr ConferenceRules forKind(AccountKind kind)
+    {
+        return kind == AccountKind::Paying ? ConferenceRules{3600000, 14400000, 20, 100}
+                                           : ConferenceRules{1800000, 1800000, 10, 10};
+    }
+
+    static constexpr int MinParticipantLimit = 2;
+    /// No conference in the database is longer, so whoever looks for those that overlap a time need not look
+    /// further back.
+    static constexpr qint64 LongestMsecs = 24 * 60 * 60 * 1000;
+    static constexpr int CreationsPerMinute = 10;
+    static constexpr int FriendLimit = 500;
+    /// Somebody who picks among people of the same name may be late by this much.
+    static constexpr qint64 LateStartMsecs = 10 * 60 * 1000;
+    /// An answer lists no more conferences than this.
+    static constexpr int ListLimit = 100;
+    static constexpr int MaxMembers = 300;
+    /// Candidates listed for one name.
+    static constexpr int MaxCandidates = 50;
+};

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "migrations.h"
+
+namespace {
+
+/// People, conferences and the session.
+QStringList firstVersion()
+{
+    return {
+        QStringLiteral("CREATE TABLE person ("
+                       " user_id TEXT PRIMARY KEY,"
+                       " account TEXT NOT NULL UNIQUE COLLATE NOCASE,"
+                       " name TEXT NOT NULL COLLATE NOCASE,"
+                       " kind INTEGER NOT NULL CHECK (kind IN (0, 1))"
+                       ") WITHOUT ROWID"),
+        QStringLiteral("CREATE INDEX person_by_name ON person(name)"),
+        QStringLiteral("CREATE TABLE contact ("
+                       " owner_id TEXT NOT NULL REFERENCES person(user_id) ON DELETE CASCADE,"
+                       " person_id TEXT NOT NULL REFERENCES person(user_id) ON DELETE CASCADE,"
+                       " remark_name TEXT NOT NULL DEFAULT '' COLLATE NOCASE,"
+                       " is_friend INTEGER NOT NULL CHECK (is_friend IN (0, 1)),"
+                       " PRIMARY KEY (owner_id, person_id), CHECK (owner_id <> person_id)"
+                       ") WITHOUT ROWID"),
+        QStringLiteral("CREATE TABLE friend_request ("
+                       " owner_id TEXT NOT NULL REFERENCES person(user_id) ON DELETE CASCADE,"
+                       " person_id TEXT NOT NULL REFERENCES person(user_id) ON DELETE CASCADE,"
+                       " PRIMARY KEY (owner_id, person_id), CHECK (owner_id <> person_id)"
+                       ") WITHOUT ROWID"),
+        QStringLiteral("CREATE TABLE conference ("
+                       " id INTEGER PRIMARY KEY,"
+                       " conf_id TEXT NOT NULL UNIQUE,"
+                       " dial_number TEXT NOT NULL UNIQUE,"
+                       " title TEXT NOT NULL,"
+                       " host_id TEXT NOT NULL REFERENCES person(user_id) ON DELETE CASCADE,"
+                       " start_msecs INTEGER NOT NULL,"
+                       " duration_msecs INTEGER NOT NULL CHECK (duration_msecs BETWEEN 0 AND 86400000),"
+                       " participant_limit INTEGER NOT NULL CHECK (participant_limit BETWEEN 2 AND 100),"
+                       " passcode TEXT NOT NULL DEFAULT ''"
+                       ")"),
+        QStringLiteral("CREATE INDEX conference_by_host ON conference(host_id)"),
+        // The start is kept here too, so that one person's day is one walk along one index, however many
+        // conferences other people have.
+        QStringLiteral("CREATE TABLE participant ("
+                       " conference_id INTEGER NOT NULL REFERENCES conference(id) ON DELETE CASCADE,"
+                       " user_id TEXT NOT NULL REFERENCES person(user_id) ON DELETE CASCADE,"
+                       " place INTEGER NOT NULL,"
+                       " attendance INTEGER NOT NULL CHECK (attendance IN (0, 1, 2)),"
+                       " start_msecs INTEGER NOT NULL,"
+                       " PRIMARY KEY (conference_id, user_id)"
+                       ") WITHOUT ROWID"),
+        QStringLiteral("CREATE INDEX participant_by_time ON participant(user_id, start_msecs)"),
+        QStringLiteral("CREATE TRIGGER conference_moved AFTER UPDATE OF start_msecs ON conference BEGIN"
+                       " UPDATE participant SET start_msecs = NEW.start_msecs WHERE conference_id = NEW.id;"
+                       " END"),
+        QStringLiteral("CREATE TABLE creation ("
+                       " host_id TEXT NOT NULL REFERENCES person(user_id) ON DELETE CASCADE,"
+                       " created_msecs INTEGER NOT NULL"
+                       ")"),
+        QStringLiteral("CREATE INDEX creation_by_time ON creation(host_id, created_msecs)"),
+        QStringLiteral("CREATE TABLE session ("
+                       " id INTEGER PRIMARY KEY CHECK (id = 1),"
+                       " user_id TEXT REFERENCES person(user_id) ON DELETE SET NULL,"
+                       " engaged_elsewhere INTEGER NOT NULL DEFAULT 0 CHECK (engaged_elsewhere IN (0, 1)),"
+                       " friend_limit INTEGER NOT NULL DEFAULT 500 CHECK (friend_limit >= 0),"
+                       " creations_per_minute INTEGER NOT NULL DEFAULT 10 CHECK (creations_per_minute >= 0)"
+                       ")"),
+        QStringLiteral("INSERT INTO session (id) VALUES (1)"),
+    };
+}
+
+} // namespace
+
+const QVector<QStringList> &databaseMigrations()
+{
+    static const QVector<QStringList> steps{firstVersion()};
+    return steps;
+}

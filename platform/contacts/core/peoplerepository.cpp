@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "peoplerepository.h"
+
+#include "conferencerules.h"
+#include "statement.h"
+
+namespace {
+
+constexpr char PersonColumns[] = "SELECT person.user_id, account, name, kind FROM person ";
+constexpr char ContactColumns[] =
+    "SELECT person.user_id, account, name, kind, remark_name, is_friend,"
+    " EXISTS (SELECT 1 FROM friend_request WHERE friend_request.owner_id = contact.owner_id"
+    " AND friend_request.person_id = contact.person_id)"
+    " FROM contact JOIN person ON person.user_id = contact.person_id ";
+
+QString personQuery(const char *rest)
+{
+    return QLatin1String(PersonColumns) + QLatin1String(rest);
+}
+
+QString contactQuery(const char *rest)
+{
+    return QLatin1String(ContactColumns) + QLatin1String(rest);
+}
+
+Person readPerson(const Statement &row)
+{
+    Person person;
+    person.userId = row.text(0);
+    person.account = row.text(1);
+    person.name = row.text(2);
+    person.kind = static_cast<AccountKind>(row.smallNumber(3));
+    return person;
+}
+
+Person readContact(const Statement &row)
+{
+    Person person = readPerson(row);
+    person.remarkName = row.text(4);
+    if (row.smallNumber(5) != 0)
+        person.friendship = Friendship::Friend;
+    else if (row.smallNumber(6) != 0)
+        person.friendship = Friendship::Requested;
+    return person;
+}
+
+template <typename Read>
+std::optional<Person> firstOf(Statement &query, Read read)
+{
+    if (!query.run().next())
+        return std::nullopt;
+    return read(query);
+}
+
+template <typename Read>
+QVector<Person> allOf(Statement &query, Read read)
+{
+    QVector<Person> people;
+    query.run();
+    while (query.next())
+        people.append(read(query));
+    return people;
+}
+
+} // namespace
+
+std::optional<Person> PeopleRepository::byAccount(const QString &account) const
+{
+    Statement query(m_database, personQuery("WHERE account = ?"));
+    return firstOf(query.bind(account), readPerson);
+}
+
+std::optional<Person> PeopleRepository::byUserId(const QString &userId) const
+{
+    Statement query(m_database, personQuery("WHERE user_id = ?"));
+    return firstOf(query.bind(userId), readPerson);
+}
+
+QVector<Person> PeopleRepository::byName(const QString &name, int limit) const
+{
+    Statement query(m_database, personQuery("WHERE name = ? ORDER BY user_id LIMIT ?"));
+    return allOf(query.bind(name).bind(limit), readPerson);
+}
+
+QVector<Person> PeopleRepository::all() const
+{
+    Statement query(m_database, personQuery("ORDER BY account"));
+    return allOf(query, readPerson);
+}
+
+QVector<Person> PeopleRepository::contactsByName(const QString &ownerId, const QString &name) const
+{
+    Statement query(m_database, contactQuery("WHERE owner_id = ? AND (name = ? OR remark_name = ?)"
+                                             " ORDER BY person.user_id LIMIT ?"));
+    return allOf(query.bind(ownerId).bind(name).bind(name).bind(ConferenceRules::MaxCandidates), readContact);
+}
+
+std::optional<Person> PeopleRepository::contactByUserId(const QString &ownerId, const QString &userId) const
+{
+    Statement query(m_database, contactQuery("WHERE owner_id = ? AND person_id = ?"));
+    return firstOf(query.bind(ownerId).bind(userId), readContact);
+}
+
+QVector<Person> PeopleRepository::contacts(const QString &ownerId) const
+{
+    Statement query(m_database, contactQuery("WHERE owner_id = ? ORDER BY account"));
+    return allOf(query.bind(ownerId), readContact);
+}
+
+Friendship PeopleRepository::friendship(const QString &ownerId, const QString &personId) const
+{
+    const std::optional<Person> contact = contactByUserId(ownerId, personId);
+    if (contact && contact->friendship != Friendship::None)
+        return contact->friendship;
+    Statement query(m_database,
+                    QStringLiteral("SELECT 1 FROM friend_request WHERE owner_id = ? AND person_id = ?"));
+    return query.bind(ownerId).bind(personId).run().next() ? Friendship::Requested : Friendship::None;
+}
+
+int PeopleRepository::friendCount(const QString &ownerId) const
+{
+    Statement query(
+        m_database,
+        QStringLiteral("SELECT (SELECT count(*) FROM contact WHERE owner_id = ? AND is_friend = 1)"
+                       " + (SELECT count(*) FROM friend_request WHERE owner_id = ?)"));
+    query.bind(ownerId).bind(ownerId).run().next();
+    return query.smallNumber(0);
+}
+
+void PeopleRepository::addPerson(const Person &person)
+{
+    Statement(m_database,
+              QStringLiteral("INSERT INTO person (user_id, account, name, kind) VALUES (?, ?, ?, ?)"))
+        .bind(person.userId)
+        .bind(person.account)
+        .bind(person.name)
+        .bind(static_cast<int>(person.kind))
+        .run();
+}
+
+void PeopleRepository::setKind(const QString &userId, AccountKind kind)
+{
+    Statement(m_database, QStringLiteral("UPDATE person SET kind = ? WHERE user_id = ?"))
+        .bind(static_cast<int>(kind))
+        .bind(userId)
+        .run();
+}
+
+void PeopleRepository::setContact(const QString &ownerId, const QString &personId, const QString &remarkName,
+                                  bool isFriend)
+{
+    Statement(m_database,
+              QStringLiteral("INSERT OR REPLACE INTO contact (owner_id, person_id, remark_name, is_friend)"
+                             " VALUES (?, ?, ?, ?)"))
+        .bind(ownerId)
+        .bind(personId)
+        .bind(remarkName)
+        .bind(isFriend ? 1 : 0)
+        .run();
+}
+
+void PeopleRepository::addFriendRequest(const QString &ownerId, const QString &personId)
+{
+    Statement(m_database,
+              QStringLiteral("INSERT OR IGNORE INTO friend_request (owner_id, person_id) VALUES (?, ?)"))
+        .bind(ownerId)
+        .bind(personId)
+        .run();
+}
+
+void PeopleRepository::removeAll()
+{
+    Statement(m_database, QStringLiteral("DELETE FROM person")).run();
+}

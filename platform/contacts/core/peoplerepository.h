@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "person.h"
+
+#include <QtCore/QVector>
+#include <QtSql/QSqlDatabase>
+
+#include <optional>
+
+/// People and who has whom in the contacts. Names and accounts are compared without regard to the case of
+/// Latin letters. Throws DatabaseError.
+class PeopleRepository
+{
+public:
+    explicit PeopleRepository(const QSqlDatabase &database) : m_database(database) {}
+
+    std::optional<Person> byAccount(const QString &account) const;
+    std::optional<Person> byUserId(const QString &userId) const;
+    /// Everybody of that name, whether in somebody's contacts or not; at most @p limit.
+    QVector<Person> byName(const QString &name, int limit) const;
+    QVector<Person> all() const;
+
+    /// Those of @p ownerId's contacts who can be invited as @p name: it is their name or the owner's remark
+    /// for them.
+    QVector<Person> contactsByName(const QString &ownerId, const QString &name) const;
+    std::optional<Person> contactByUserId(const QString &ownerId, const QString &userId) const;
+    QVector<Person> contacts(const QString &ownerId) const;
+    Friendship friendship(const QString &ownerId, const QString &personId) const;
+    /// Friends and open requests.
+    int friendCount(const QString &ownerId) const;
+
+    void addPerson(const Person &person);
+    void setKind(const QString &userId, AccountKind kind);
+    /// Puts the person into the contacts, where they can be invited, or changes the entry.
+    void setContact(const QString &ownerId, const QString &personId, const QString &remarkName,
+                    bool isFriend);
+    /// Asks somebody, in the contacts or not, to become a friend.
+    void addFriendRequest(const QString &ownerId, const QString &personId);
+    void removeAll();
+
+private:
+    QSqlDatabase m_database;
+};

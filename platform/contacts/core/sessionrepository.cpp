@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "sessionrepository.h"
+
+#include "statement.h"
+
+std::optional<Person> SessionRepository::user() const
+{
+    Statement query(m_database, QStringLiteral("SELECT person.user_id, account, name, kind FROM session"
+                                               " JOIN person ON person.user_id = session.user_id"));
+    if (!query.run().next())
+        return std::nullopt;
+    Person person;
+    person.userId = query.text(0);
+    person.account = query.text(1);
+    person.name = query.text(2);
+    person.kind = static_cast<AccountKind>(query.smallNumber(3));
+    return person;
+}
+
+void SessionRepository::login(const QString &userId)
+{
+    Statement(m_database, QStringLiteral("UPDATE session SET user_id = ?")).bind(userId).run();
+}
+
+void SessionRepository::logout()
+{
+    Statement(m_database, QStringLiteral("UPDATE session SET user_id = NULL")).run();
+}
+
+bool SessionRepository::isEngagedElsewhere() const
+{
+    return number(QStringLiteral("SELECT engaged_elsewhere FROM session")) != 0;
+}
+
+void SessionRepository::setEngagedElsewhere(bool engaged)
+{
+    setNumber(QStringLiteral("UPDATE session SET engaged_elsewhere = ?"), engaged ? 1 : 0);
+}
+
+int SessionRepository::friendLimit() const
+{
+    return number(QStringLiteral("SELECT friend_limit FROM session"));
+}
+
+void SessionRepository::setFriendLimit(int limit)
+{
+    setNumber(QStringLiteral("UPDATE session SET friend_limit = ?"), qMax(0, limit));
+}
+
+int SessionRepository::creationsPerMinute() const
+{
+    return number(QStringLiteral("SELECT creations_per_minute FROM session"));
+}
+
+void SessionRepository::setCreationsPerMinute(int limit)
+{
+    setNumber(QStringLiteral("UPDATE session SET creations_per_minute = ?"), qMax(0, limit));
+}
+
+void SessionRepository::reset()
+{
+    Statement(m_database, QStringLiteral("DELETE FROM session")).run();
+    Statement(m_database, QStringLiteral("INSERT INTO session (id) VALUES (1)")).run();
+}
+
+int SessionRepository::number(const QString &sql) const
+{
+    Statement query(m_database, sql);
+    query.run().next();
+    return query.smallNumber(0);
+}
+
+void SessionRepository::setNumber(const QString &sql, int value)
+{
+    Statement(m_database, sql).bind(value).run();
+}

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "core/databaseerror.h"
+#include "service/busservice.h"
+#include "service/contactsbook.h"
+#include "service/display.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QDebug>
+#include <QtWidgets/QApplication>
+
+#include <memory>
+
+namespace {
+
+enum ExitStatus { Served = 0, DatabaseUnusable = 1, NoSessionBus = 2 };
+
+std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv, bool withWindow)
+{
+    if (withWindow)
+        return std::make_unique<QApplication>(argc, argv);
+    return std::make_unique<QCoreApplication>(argc, argv);
+}
+
+int serve(QCoreApplication &application)
+{
+    std::unique_ptr<ContactsBook> book;
+    try {
+        book = std::make_unique<ContactsBook>(Database::defaultFileName());
+    } catch (const DatabaseError &error) {
+        qCritical() << "The contacts cannot be opened:" << error.what();
+        return DatabaseUnusable;
+    }
+    BusService service(*book);
+    QObject::connect(&service, &BusService::disconnected, &application, &QCoreApplication::quit);
+    switch (service.start()) {
+    case BusService::Start::NoBus:
+        qCritical() << "There is no session bus. Start one, for instance with dbus-run-session.";
+        return NoSessionBus;
+    case BusService::Start::AlreadyRunning:
+        return Served;
+    case BusService::Start::Done:
+        break;
+    }
+    return QCoreApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const bool withWindow = hasDisplay();
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv, withWindow);
+    QCoreApplication::setApplicationName(QStringLiteral("kelvane-contacts"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(CONTACTS_VERSION));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Contacts and video conferences, for the user and for the voice assistant."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption service(
+        QStringLiteral("service"),
+        QStringLiteral("Serve other programs and show no window until it is asked for."));
+    parser.addOption(service);
+    parser.process(*application);
+    return serve(*application);
+}

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QtGlobal>
+
+class ConferenceRepository;
+class PeopleRepository;
+class SessionRepository;
+
+/// The directory that comes with the application, sample.json: enough people and conferences that every
+/// outcome can be had.
+namespace SampleDirectory {
+/// Adds it to an empty database and logs its user in. Its times are relative to @p nowMsecs, in local time.
+/// Throws DatabaseError.
+void load(PeopleRepository &people, ConferenceRepository &conferences, SessionRepository &session,
+          qint64 nowMsecs);
+} // namespace SampleDirectory

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QString>
+
+/// Where the application is found on the session bus.
+namespace BusName {
+inline QString service()
+{
+    return QStringLiteral("com.kelvane.meetlynx");
+}
+inline QString contactPath()
+{
+    return QStringLiteral("/com/kelvane/meetlynx");
+}
+inline QString adminPath()
+{
+    return QStringLiteral("/com/kelvane/meetlynx/admin");
+}
+} // namespace BusName

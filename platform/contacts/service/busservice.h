@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtDBus/QDBusConnection>
+
+#include <QtCore/QObject>
+
+class Administration;
+class ContactRequests;
+class ContactsBook;
+
+/// Puts the application on the session bus: requests and administration, each at its own object, under the
+/// one name. Owned by main, on the book's thread.
+class BusService : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Start {
+        Done,
+        NoBus,
+        AlreadyRunning, ///< another process has the name; it has been asked to show its window
+    };
+
+    /// @p book must outlive it.
+    explicit BusService(ContactsBook &book, QObject *parent = nullptr);
+
+    Start start();
+
+Q_SIGNALS:
+    /// The bus has gone; there is nobody left to serve.
+    void disconnected();
+
+private:
+    void askOtherForWindow();
+
+    QDBusConnection m_connection;
+    ContactRequests *m_requests;      ///< a child
+    Administration *m_administration; ///< a child
+};

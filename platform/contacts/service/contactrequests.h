@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QObject>
+
+class ContactsBook;
+
+/// The object behind com.kelvane.meetlynx.Contact1: hands every request to the book. On the book's thread.
+class ContactRequests : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p book must outlive it.
+    explicit ContactRequests(ContactsBook &book, QObject *parent = nullptr);
+
+public Q_SLOTS:
+    QString Request(const QString &action, const QString &parameters);
+
+private:
+    ContactsBook &m_book;
+};

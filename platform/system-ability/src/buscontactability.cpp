@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "buscontactability.h"
+
+#include "buslink.h"
+#include "pendingrequest.h"
+
+#include <kelvane/abilitycodes.h>
+
+#include <QtCore/QDebug>
+
+void BusContactAbility::setTimeout(const int &msecs)
+{
+    m_timeoutMsecs = msecs > 0 ? msecs : DefaultTimeoutMsecs;
+}
+
+int BusContactAbility::request(const QString &action, const QString &parameters, QString &answer)
+{
+    const auto pending = std::make_shared<PendingRequest>(action, parameters, m_timeoutMsecs);
+    BusLink::instance().send(pending);
+    const PendingRequest::Result result = pending->wait();
+    if (result.code == AbilityCode::Success)
+        answer = result.answer;
+    else
+        qWarning().noquote() << "The request" << action << "failed with" << result.code << result.errorName
+                             << result.errorMessage;
+    return result.code;
+}

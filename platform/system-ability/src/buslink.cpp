@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "buslink.h"
+
+#include "callerror.h"
+#include "contact1proxy.h"
+#include "pendingrequest.h"
+
+#include <kelvane/abilitycodes.h>
+
+#include <QtDBus/QDBusPendingCallWatcher>
+#include <QtDBus/QDBusPendingReply>
+
+#include <functional>
+
+namespace {
+
+/// The bus's own time-out comes after the caller's: until then, "no reply" from the bus can only mean that
+/// the application has gone.
+constexpr int GraceMsecs = 1000;
+
+QString serviceName()
+{
+    return QStringLiteral("com.kelvane.meetlynx");
+}
+
+QString objectPath()
+{
+    return QStringLiteral("/com/kelvane/meetlynx");
+}
+
+PendingRequest::Result resultOf(const QDBusPendingReply<QString> &reply)
+{
+    if (reply.isError())
+        return {codeOf(reply.error()), {}, reply.error().name(), reply.error().message()};
+    return {AbilityCode::Success, reply.value(), {}, {}};
+}
+
+} // namespace
+
+BusLink &BusLink::instance()
+{
+    static BusLink link;
+    return link;
+}
+
+BusLink::BusLink()
+{
+    m_thread.setObjectName(QStringLiteral("contact-ability"));
+    moveToThread(&m_thread);
+    m_thread.start();
+}
+
+BusLink::~BusLink()
+{
+    QMetaObject::invokeMethod(this, [this] {
+        qDeleteAll(children());
+        disconnectFromBus();
+        m_thread.quit();
+    });
+    m_thread.wait();
+}
+
+void BusLink::send(const std::shared_ptr<PendingRequest> &request)
+{
+    QMetaObject::invokeMethod(
+        this, [this, request] { call(request); }, Qt::QueuedConnection);
+}
+
+void BusLink::call(const std::shared_ptr<PendingRequest> &request)
+{
+    const int remaining = request->remainingMsecs();
+    if (remaining == 0)
+        return; // its caller has gone; what nobody waits for is not started
+    const QDBusError error = connectToBus();
+    if (error.isValid()) {
+        request->finish({AbilityCode::NoBus, {}, error.name(), error.message()});
+        return;
+    }
+    m_proxy->setTimeout(remaining + GraceMsecs);
+    auto *watcher = new QDBusPendingCallWatcher(m_proxy->Request(request->action, request->parameters), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [request](QDBusPendingCallWatcher *finished) {
+        request->finish(resultOf(*finished));
+        finished->deleteLater();
+    });
+}
+
+QDBusError BusLink::connectToBus()
+{
+    if (m_proxy && m_proxy->connection().isConnected())
+        return {};
+    disconnectFromBus();
+    m_connectionName = QStringLiteral("contact-ability-%1").arg(++m_connectionCount);
+    // The address is read anew each time: the library below remembers the first one for ever.
+    const QString address = QString::fromLocal8Bit(qgetenv("DBUS_SESSION_BUS_ADDRESS"));
+    const QDBusConnection bus =
+        address.isEmpty() ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, m_connectionName)
+                          : QDBusConnection::connectToBus(address, m_connectionName);
+    if (!bus.isConnected()) {
+        const QDBusError error = bus.lastError();
+        disconnectFromBus();
+        return error.isValid() ? error : QDBusError(QDBusError::NoServer, QStringLiteral("no session bus"));
+    }
+    m_proxy = std::make_unique<Contact1Proxy>(serviceName(), objectPath(), bus);
+    return {};
+}
+
+void BusLink::disconnectFromBus()
+{
+    m_proxy.reset();
+    if (!m_connectionName.isEmpty())
+        QDBusConnection::disconnectFromBus(m_connectionName);
+    m_connectionName.clear();
+}

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtCore/QThread>
+#include <QtDBus/QDBusConnection>
+
+#include <memory>
+
+class Contact1Proxy;
+class PendingRequest;
+
+/**
+ * The process's one connection to the application. It has a thread of its own, because whoever asks blocks
+ * the thread it asks from, be it the one with the windows, and a reply needs a thread that is awake. One for
+ * the whole process, made by the first request; connects again when the bus was restarted.
+ */
+class BusLink : public QObject
+{
+    Q_OBJECT
+
+public:
+    static BusLink &instance();
+    ~BusLink() override;
+
+    /// Carries the request to its end. Returns at once; any thread.
+    void send(const std::shared_ptr<PendingRequest> &request);
+
+private:
+    BusLink();
+
+    void call(const std::shared_ptr<PendingRequest> &request);
+    /// Makes a connection unless there is one that works. @return what is wrong with it, nothing when it
+    /// works.
+    QDBusError connectToBus();
+    void disconnectFromBus();
+
+    QThread m_thread;
+    // Only touched on the thread.
+    QString m_connectionName; ///< empty while there is none
+    int m_connectionCount = 0;
+    std::unique_ptr<Contact1Proxy> m_proxy;
+};

@@ -1,0 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include <kelvane/contactability.h>
+
+ContactAbility::~ContactAbility() = default;

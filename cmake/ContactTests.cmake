@@ -4,14 +4,22 @@
 # contact_add_test(NAME SOURCES... LIBRARIES... [NO_TEST] [SCRIPTED_ABILITY])
 #   A QtTest program. With NO_TEST it is only built, and contact_add_test_run() says how it runs.
 # contact_add_test_run(NAME TARGET t [AT "2026-03-07 10:20:00"] [TZ zone] [ENVIRONMENT var=value...] [COMMAND cmd...]
-#                      [ARGUMENTS ...] [LABELS ...] [TIMEOUT seconds] [SERIAL] [BUS] [SCRIPTED_ABILITY])
-#   One run of such a program: AT starts the clock at that local time, BUS gives it a session bus of its own, SERIAL keeps
-#   runs apart that would see each other in the process table, SCRIPTED_ABILITY puts the ability library that the test
+#                      [ARGUMENTS ...] [LABELS ...] [TIMEOUT seconds] [SERIAL] [BUS] [EMPTY_BUS] [SCRIPTED_ABILITY])
+#   One run of such a program: AT starts the clock at that local time, BUS gives it a session bus, a home and XDG folders of its
+#   own, where the contacts application can be started and nothing else, EMPTY_BUS the same without the application, SERIAL
+#   keeps runs apart that would see each other in the process table, SCRIPTED_ABILITY puts the ability library that the test
 #   controls (tests/support/scriptedability.h) in the real one's place.
 
 find_package(Qt5 REQUIRED COMPONENTS Test)
 find_program(CONTACT_FAKETIME faketime REQUIRED)
 find_program(CONTACT_DBUS_RUN_SESSION dbus-run-session REQUIRED)
+
+set(CONTACT_TEST_BUS_DIR ${CMAKE_SOURCE_DIR}/tests/support/bus)
+set(CONTACT_TEST_SERVICES_DIR ${CONTACT_BUS_SERVICES_DIR})
+configure_file(${CONTACT_TEST_BUS_DIR}/private-bus.conf.in ${CMAKE_BINARY_DIR}/private-bus.conf @ONLY)
+set(CONTACT_TEST_SERVICES_DIR ${CMAKE_BINARY_DIR}/no-bus-services)
+file(MAKE_DIRECTORY ${CONTACT_TEST_SERVICES_DIR})
+configure_file(${CONTACT_TEST_BUS_DIR}/private-bus.conf.in ${CMAKE_BINARY_DIR}/empty-bus.conf @ONLY)
 
 set(CONTACT_TEST_ENVIRONMENT
     QT_QPA_PLATFORM=offscreen LANG=C.UTF-8 LC_ALL=C.UTF-8
@@ -36,7 +44,7 @@ function(contact_add_test name)
 endfunction()
 
 function(contact_add_test_run name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "SERIAL;BUS;SCRIPTED_ABILITY" "TARGET;AT;TZ;TIMEOUT" "ENVIRONMENT;ARGUMENTS;LABELS;COMMAND")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "SERIAL;BUS;EMPTY_BUS;SCRIPTED_ABILITY" "TARGET;AT;TZ;TIMEOUT" "ENVIRONMENT;ARGUMENTS;LABELS;COMMAND")
     if(NOT arg_TZ)
         set(arg_TZ Asia/Shanghai)
     endif()
@@ -44,12 +52,18 @@ function(contact_add_test_run name)
         set(arg_TIMEOUT 120)
     endif()
     set(command)
-    if(arg_BUS)
-        list(APPEND command ${CONTACT_DBUS_RUN_SESSION} --)
-    endif()
     if(arg_AT)
-        # Only the calendar is faked: timers and waits keep the real clock.
+        # Only the calendar is faked: timers and waits keep the real clock. Around the bus, so that what it starts shares the
+        # clock.
         list(APPEND command ${CONTACT_FAKETIME} --exclude-monotonic -f "@${arg_AT}")
+    endif()
+    if(arg_BUS)
+        list(APPEND command ${CONTACT_TEST_BUS_DIR}/with-private-bus.sh ${CMAKE_BINARY_DIR}/private-bus.conf)
+        if(arg_TARGET)
+            add_dependencies(${arg_TARGET} meetlynx)
+        endif()
+    elseif(arg_EMPTY_BUS)
+        list(APPEND command ${CONTACT_TEST_BUS_DIR}/with-private-bus.sh ${CMAKE_BINARY_DIR}/empty-bus.conf)
     endif()
     if(arg_COMMAND)
         list(APPEND command ${arg_COMMAND})

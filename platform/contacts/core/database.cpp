@@ -98,7 +98,6 @@ void Database::migrate()
     const QVector<QStringList> &steps = databaseMigrations();
     if (seen < 0 || seen > steps.size())
         throw DatabaseError(QStringLiteral("the database was written by a newer version of the application"));
-    m_isNew = seen == 0;
     for (int step = seen; step < steps.size(); ++step) {
         for (const QString &sql : steps.at(step))
             Statement(m_database, sql).run();

@@ -18,9 +18,6 @@ public:
     ~Database();
 
     QSqlDatabase handle() const { return m_database; }
-    /// Whether this opening made the database.
-    bool isNew() const { return m_isNew; }
-
     /// The user's own file, below the XDG data folder.
     static QString defaultFileName();
 
@@ -35,7 +32,6 @@ private:
 
     QString m_connectionName;
     QSqlDatabase m_database;
-    bool m_isNew = false;
 };
 
 /// Everything between construction and commit() happens wholly or not at all. Throws DatabaseError.

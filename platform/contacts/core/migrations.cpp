@@ -62,6 +62,7 @@ QStringList firstVersion()
         QStringLiteral("CREATE TABLE session ("
                        " id INTEGER PRIMARY KEY CHECK (id = 1),"
                        " user_id TEXT REFERENCES person(user_id) ON DELETE SET NULL,"
+                       " seeded INTEGER NOT NULL DEFAULT 0 CHECK (seeded IN (0, 1)),"
                        " engaged_elsewhere INTEGER NOT NULL DEFAULT 0 CHECK (engaged_elsewhere IN (0, 1)),"
                        " friend_limit INTEGER NOT NULL DEFAULT 500 CHECK (friend_limit >= 0),"
                        " creations_per_minute INTEGER NOT NULL DEFAULT 10 CHECK (creations_per_minute >= 0)"

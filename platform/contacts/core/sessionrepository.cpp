@@ -59,10 +59,20 @@ void SessionRepository::setCreationsPerMinute(int limit)
     setNumber(QStringLiteral("UPDATE session SET creations_per_minute = ?"), qMax(0, limit));
 }
 
+bool SessionRepository::isSeeded() const
+{
+    return number(QStringLiteral("SELECT seeded FROM session")) != 0;
+}
+
+void SessionRepository::setSeeded()
+{
+    setNumber(QStringLiteral("UPDATE session SET seeded = ?"), 1);
+}
+
 void SessionRepository::reset()
 {
     Statement(m_database, QStringLiteral("DELETE FROM session")).run();
-    Statement(m_database, QStringLiteral("INSERT INTO session (id) VALUES (1)")).run();
+    Statement(m_database, QStringLiteral("INSERT INTO session (id, seeded) VALUES (1, 1)")).run();
 }
 
 int SessionRepository::number(const QString &sql) const

@@ -28,6 +28,10 @@ public:
     int creationsPerMinute() const;
     void setCreationsPerMinute(int limit);
 
+    /// Whether the database has had its first content; what somebody emptied later stays empty.
+    bool isSeeded() const;
+    void setSeeded();
+
     /// Nobody logged in, limits as they come.
     void reset();
 

@@ -15,12 +15,19 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 
+/// A static library's resources are not there by themselves. Outside any namespace, as the macro demands.
+static void registerSample()
+{
+    Q_INIT_RESOURCE(sample);
+}
+
 namespace {
 
 constexpr qint64 MinuteMsecs = 60 * 1000;
 
 QJsonObject readSample()
 {
+    registerSample();
     QFile file(QStringLiteral(":/contacts/sample.json"));
     if (!file.open(QIODevice::ReadOnly))
         throw DatabaseError(QStringLiteral("the sample directory is missing"));

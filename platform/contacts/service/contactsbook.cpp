@@ -32,11 +32,12 @@ ContactsBook::ContactsBook(const QString &databaseFile, Clock clock, QObject *pa
     , m_conferences(m_database.handle())
     , m_session(m_database.handle())
 {
-    if (m_database.isNew()) {
-        Transaction transaction(m_database.handle());
+    Transaction transaction(m_database.handle());
+    if (!m_session.isSeeded()) {
         SampleDirectory::load(m_people, m_conferences, m_session, nowMsecs());
-        transaction.commit();
+        m_session.setSeeded();
     }
+    transaction.commit();
 }
 
 QString ContactsBook::perform(const QString &action, const QString &parameters)

@@ -24,7 +24,7 @@ public:
     /// Milliseconds since the epoch.
     using Clock = std::function<qint64()>;
 
-    /// Opens the database, and loads the sample directory into a new one. Throws DatabaseError.
+    /// Opens the database, and loads the sample directory into a fresh one. Throws DatabaseError.
     explicit ContactsBook(const QString &databaseFile, Clock clock = {}, QObject *parent = nullptr);
 
     /// Performs one action and answers with a JSON object, whatever came in. What it did is on disk then.

@@ -47,18 +47,25 @@ BusLink &BusLink::instance()
 
 BusLink::BusLink()
 {
+    // Makes Qt's own manager of connections exist before this object does, and so outlive it.
+    const QDBusConnection older(QStringLiteral("contact-ability"));
     m_thread.setObjectName(QStringLiteral("contact-ability"));
     moveToThread(&m_thread);
+    // At the end of the process there is no application object any more, and without one no event reaches a
+    // thread; a direct connection does.
+    connect(
+        &m_thread, &QThread::finished, this,
+        [this] {
+            qDeleteAll(children());
+            disconnectFromBus();
+        },
+        Qt::DirectConnection);
     m_thread.start();
 }
 
 BusLink::~BusLink()
 {
-    QMetaObject::invokeMethod(this, [this] {
-        qDeleteAll(children());
-        disconnectFromBus();
-        m_thread.quit();
-    });
+    m_thread.quit();
     m_thread.wait();
 }
 

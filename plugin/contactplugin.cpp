@@ -3,6 +3,7 @@
 
 #include "contactplugin.h"
 
+#include "conferencecardinterface.h"
 #include "configmanager.h"
 #include "contactintentfactory.h"
 #include "contactreplywidget.h"
@@ -28,6 +29,13 @@ ContactPlugin::ContactPlugin(QObject *parent)
     qRegisterMetaType<Reply>();
     connect(m_replyWidget, &ContactReplyWidget::signaleSendShowMessage, this,
             &ContactPlugin::slotMessageHandle);
+}
+
+ContactPlugin::~ContactPlugin()
+{
+    // The dispatcher stays for the cards that are still shown, but must not build any more: after the next
+    // loading another one does.
+    disconnect(ConferenceCardInterface::instance(), nullptr, m_replyWidget, nullptr);
 }
 
 int ContactPlugin::init()

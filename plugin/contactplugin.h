@@ -23,6 +23,8 @@ class ContactPlugin : public QObject, public IServicePlugin
 
 public:
     explicit ContactPlugin(QObject *parent = nullptr);
+    /// Services that are still out belong to the host; it has released them by now.
+    ~ContactPlugin() override;
 
     /// Reads the configuration file; -3 when that fails.
     int init() override;

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtCore/QStringList>
+#include <QtCore/QVariant>
+
+#include <functional>
+
+/**
+ * The host's interfaces once more, written down here from their documentation and never from the headers: a
+ * plugin whose functions, bases or members stand in another order does not work with a host that is built
+ * from these. Never let them share anything with the real headers.
+ */
+namespace Documented {
+
+struct Reply
+{
+    QVariant code;
+    QVariant displayText;
+    QVariant speechText;
+    void *widget;
+    int type;
+    bool endOfSession;
+};
+
+class Service : public QObject
+{
+public:
+    virtual QString serviceName() = 0;
+    virtual int servicePriority() = 0;
+    virtual bool canHandle(const QString &name) = 0;
+    virtual int service(const QString &semantic) = 0;
+    virtual Reply *getServiceReply() = 0;
+};
+
+class ServicePlugin
+{
+public:
+    virtual ~ServicePlugin() = default;
+    virtual int init() = 0;
+    virtual void uninit() = 0;
+    virtual QStringList getSupportService() = 0;
+    virtual Service *createService(const QString &name) = 0;
+    virtual void releaseService(Service *service) = 0;
+    virtual bool needRunInDifferentThread() { return true; }
+    virtual bool isAutoDetectSession() { return true; }
+    virtual int getPluginProtocolVersion() { return 1; }
+    virtual void setMessageHandle(std::function<void(ServicePlugin *, Reply)> handle)
+    {
+        messageHandle = std::move(handle);
+    }
+
+    std::function<void(ServicePlugin *, Reply)> messageHandle;
+};
+
+} // namespace Documented

@@ -46,8 +46,10 @@ QDateTime LocalTime::at(const QDate &date, const QTime &time)
     if (wanted.isValid() || !date.isValid() || !time.isValid()) {
         return wanted;
     }
-    // In the missing hour the milliseconds are those of the clock put forward; only the fields are not.
-    return QDateTime::fromMSecsSinceEpoch(wanted.toMSecsSinceEpoch());
+    // Counted on as if the clock had not been put forward. Qt's own milliseconds for such a time lie before
+    // the change, which for a missing midnight is the day before.
+    const int offset = QDateTime(date.addDays(-1), time).offsetFromUtc();
+    return QDateTime(date, time, Qt::UTC).addSecs(-offset).toLocalTime();
 }
 
 QDateTime LocalTime::startOfDay(const QDate &date)

@@ -1,0 +1,298 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "configmanager.h"
+#include "logcapture.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#include <type_traits>
+
+static_assert(std::is_abstract_v<IConfig>);
+static_assert(std::is_base_of_v<QObject, ConfigManager> && std::is_base_of_v<IConfig, ConfigManager>);
+
+namespace {
+
+const QString stringsOnly = QStringLiteral("This config can only contain string&dict");
+const QString rootMustBeObject = QStringLiteral("config root must be a object.");
+
+QJsonObject objectOf(const char *json)
+{
+    return QJsonDocument::fromJson(json).object();
+}
+
+QString valueOf(ConfigManager &config, const char *key)
+{
+    QString value = QStringLiteral("(untouched)");
+    config.query(QString::fromUtf8(key), value);
+    return value;
+}
+
+/// Sees the steps that derived classes may replace.
+class WatchedConfig : public ConfigManager
+{
+public:
+    bool query(const QString &key, QString &value) override
+    {
+        ++stringQueries;
+        return ConfigManager::query(key, value);
+    }
+    bool query(const QString &key, QStringList &values) override { return ConfigManager::query(key, values); }
+    bool fromJson(const QJsonValue &root) override
+    {
+        ++trees;
+        return ConfigManager::fromJson(root);
+    }
+    bool createMap(const QString &prefix, const QJsonValue &value) override
+    {
+        prefixes.append(prefix);
+        return ConfigManager::createMap(prefix, value);
+    }
+
+    int stringQueries = 0;
+    int trees = 0;
+    QStringList prefixes;
+};
+
+} // namespace
+
+class ConfigManagerTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QString fileWith(const QByteArray &content)
+    {
+        QFile file(m_folder.filePath(QStringLiteral("config.json")));
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
+            qFatal("cannot write the file");
+        }
+        return file.fileName();
+    }
+
+    QTemporaryDir m_folder;
+
+private Q_SLOTS:
+    void objectsBecomePaths()
+    {
+        const LogCapture log;
+        ConfigManager config;
+        QVERIFY(config.fromJson(
+            objectOf(R"({"Contact": {"TimeOut": "5000", "Deep": {"er": "x"}}, "top": "y", "empty": {}})")));
+        QCOMPARE(valueOf(config, "/Contact/TimeOut"), QStringLiteral("5000"));
+        QCOMPARE(valueOf(config, "/Contact/Deep/er"), QStringLiteral("x"));
+        QCOMPARE(valueOf(config, "/top"), QStringLiteral("y"));
+        QVERIFY(config.contains(QStringLiteral("/top")));
+        QVERIFY(!config.contains(QStringLiteral("/empty")));
+        QVERIFY(!config.contains(QStringLiteral("/Contact")));
+        QCOMPARE(log.lines(), QStringList());
+    }
+
+    void otherKeysMiss_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::newRow("a slash at the end") << QStringLiteral("/Contact/TimeOut/");
+        QTest::newRow("other case") << QStringLiteral("/contact/timeout");
+        QTest::newRow("no slash in front") << QStringLiteral("Contact/TimeOut");
+        QTest::newRow("an object") << QStringLiteral("/Contact");
+        QTest::newRow("nothing") << QString();
+    }
+    void otherKeysMiss()
+    {
+        QFETCH(QString, key);
+        ConfigManager config;
+        QVERIFY(config.fromJson(objectOf(R"({"Contact": {"TimeOut": "5000"}})")));
+        const LogCapture log;
+        QString value = QStringLiteral("before");
+        QStringList values{QStringLiteral("before")};
+        QVERIFY(!config.query(key, value));
+        QVERIFY(!config.query(key, values));
+        QVERIFY(!config.contains(key));
+        QCOMPARE(value, QStringLiteral("before"));
+        QCOMPARE(values, QStringList{QStringLiteral("before")});
+        const QString line = QStringLiteral("debug: Cannot find config:  \"%1\"").arg(key);
+        QCOMPARE(log.lines(), QStringList({line, line}));
+    }
+
+    void listsAreSplitAtBars_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QStringList>("parts");
+        QTest::newRow("two") << QStringLiteral("a|b")
+                             << QStringList({QStringLiteral("a"), QStringLiteral("b")});
+        QTest::newRow("one") << QStringLiteral("a b,c") << QStringList{QStringLiteral("a b,c")};
+        QTest::newRow("two bars in a row")
+            << QStringLiteral("a||b") << QStringList({QStringLiteral("a"), QString(), QStringLiteral("b")});
+        QTest::newRow("bars at the ends")
+            << QStringLiteral("|a|") << QStringList({QString(), QStringLiteral("a"), QString()});
+        QTest::newRow("empty text") << QString() << QStringList{QString()};
+    }
+    void listsAreSplitAtBars()
+    {
+        QFETCH(QString, text);
+        QFETCH(QStringList, parts);
+        WatchedConfig config;
+        QVERIFY(config.fromJson(QJsonObject{{QStringLiteral("list"), text}}));
+        QStringList values{QStringLiteral("before")};
+        QVERIFY(config.query(QStringLiteral("/list"), values));
+        QCOMPARE(values, parts);
+        QCOMPARE(config.stringQueries, 1);
+    }
+
+    void onlyStringsAndObjectsAreTaken_data()
+    {
+        QTest::addColumn<QByteArray>("json");
+        QTest::newRow("number") << QByteArray(R"({"A": "kept", "Contact": {"TimeOut": 30}, "Z": "lost"})");
+        QTest::newRow("bool") << QByteArray(R"({"A": "kept", "B": true, "Z": "lost"})");
+        QTest::newRow("array") << QByteArray(R"({"A": "kept", "B": ["x"], "Z": "lost"})");
+        QTest::newRow("null") << QByteArray(R"({"A": "kept", "B": null, "Z": "lost"})");
+    }
+    void onlyStringsAndObjectsAreTaken()
+    {
+        QFETCH(QByteArray, json);
+        const QString path = fileWith(json);
+        ConfigManager config;
+        LogCapture log;
+        const QString failed = QStringLiteral("Parse Config failed:  \"%1\"").arg(path);
+        log.expect(QtCriticalMsg, stringsOnly);
+        log.expect(QtCriticalMsg, failed);
+        QVERIFY(!config.init(path));
+        QCOMPARE(log.texts(QtCriticalMsg), QStringList({stringsOnly, failed}));
+        QVERIFY(config.contains(QStringLiteral("/A")));
+        QVERIFY(!config.contains(QStringLiteral("/Z")));
+    }
+
+    void valueThatIsNoObjectHoldsNothing()
+    {
+        const LogCapture log;
+        ConfigManager config;
+        QVERIFY(config.createMap(QStringLiteral("/"), QStringLiteral("text")));
+        QCOMPARE(log.lines(), QStringList());
+    }
+
+    void unusableFilesAreRejected_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("not JSON") << QByteArray("TimeOut=5000");
+        QTest::newRow("array") << QByteArray(R"(["Contact"])");
+        QTest::newRow("broken off") << QByteArray("{\"Contact\": {\"TimeOut\": \"50");
+        QTest::newRow("two thousand levels deep")
+            << QByteArray("{\"a\":").repeated(2000) + "{}" + QByteArray("}").repeated(2000);
+    }
+    void unusableFilesAreRejected()
+    {
+        QFETCH(QByteArray, content);
+        ConfigManager config;
+        LogCapture log;
+        log.expect(QtCriticalMsg, rootMustBeObject);
+        QVERIFY(!config.init(fileWith(content)));
+        QCOMPARE(log.lines(), QStringList{QStringLiteral("critical: ") + rootMustBeObject});
+    }
+
+    void missingFileIsReported()
+    {
+        ConfigManager config;
+        LogCapture log;
+        log.expect(QtCriticalMsg, rootMustBeObject);
+        QVERIFY(!config.init(QStringLiteral("/nowhere/config.json")));
+        QCOMPARE(log.lines(),
+                 QStringList({QStringLiteral(
+                                  "debug: Load config failed, can not open file: \"/nowhere/config.json\""),
+                              QStringLiteral("critical: ") + rootMustBeObject}));
+    }
+
+    void fileIsReadAsUtf8()
+    {
+        ConfigManager config;
+        const QString path = fileWith("{\"\xe5\x90\x8d\": \"\xe5\x80\xbc\"}");
+        const LogCapture log;
+        QVERIFY(config.init(path));
+        QCOMPARE(log.lines(),
+                 QStringList{QStringLiteral("info: Load config successfully:  \"%1\"").arg(path)});
+        QCOMPARE(valueOf(config, "/\xe5\x90\x8d"), QString::fromUtf8("\xe5\x80\xbc"));
+    }
+
+    void laterFileAddsAndReplaces()
+    {
+        ConfigManager config;
+        QVERIFY(config.init(fileWith(R"({"a": "1", "b": "1"})")));
+        QVERIFY(config.init(fileWith(R"({"b": "2", "c": "2"})")));
+        QCOMPARE(valueOf(config, "/a"), QStringLiteral("1"));
+        QCOMPARE(valueOf(config, "/b"), QStringLiteral("2"));
+        QCOMPARE(valueOf(config, "/c"), QStringLiteral("2"));
+    }
+
+    void stepsGoThroughTheVirtualFunctions()
+    {
+        WatchedConfig config;
+        QVERIFY(config.init(fileWith(R"({"a": {"b": {"c": "x"}}})")));
+        QCOMPARE(config.trees, 1);
+        QCOMPARE(config.prefixes,
+                 QStringList({QStringLiteral("/"), QStringLiteral("/a/"), QStringLiteral("/a/b/")}));
+    }
+
+    void dumpWritesEveryEntryInKeyOrder()
+    {
+        ConfigManager config;
+        QVERIFY(config.fromJson(objectOf(R"({"b": "2", "a": {"z": "1"}})")));
+        LogCapture log(LogCapture::Unexpected::Passes);
+        config.dump();
+        QCOMPARE(log.lines(), QStringList({QStringLiteral("critical: { \"/a/z\" ,  \"1\" }"),
+                                           QStringLiteral("critical: { \"/b\" ,  \"2\" }")}));
+    }
+
+    void recordsCarryNoSource()
+    {
+        LogCapture log(LogCapture::Unexpected::Passes);
+        ConfigManager config;
+        config.init(fileWith("{}"));
+        config.init(fileWith("{\"a\": 1}"));
+        config.init(QStringLiteral("/nowhere"));
+        config.dump();
+        JsonConfigLoader().unload();
+        QVERIFY(log.records().size() >= 6);
+        for (const LogRecord &record : log.records()) {
+            QCOMPARE(record.category, QByteArray("default"));
+            QVERIFY2(record.file.isNull() && record.function.isNull() && record.line == 0,
+                     qPrintable(record.text));
+        }
+    }
+
+    void unloadDoesNothing()
+    {
+        JsonConfigLoader loader;
+        const QJsonDocument *document = loader.load(fileWith(R"({"a": "1"})"));
+        const LogCapture log;
+        loader.unload();
+        QCOMPARE(log.lines(), QStringList{QStringLiteral("debug: Unload json config, do nothing")});
+        QVERIFY(document->isObject());
+    }
+
+    void earlierDocumentStaysReadable()
+    {
+        JsonConfigLoader loader;
+        const QJsonDocument *first = loader.load(fileWith(R"({"a": "1"})"));
+        const QJsonDocument *second = loader.load(fileWith(R"(["b"])"));
+        QVERIFY(first != second);
+        QVERIFY(first->isObject());
+        QVERIFY(second->isArray());
+        delete first; // nobody else's any more
+    }
+
+    void oneInstanceForTheProcess()
+    {
+        QVERIFY(ConfigManager::instance() != nullptr);
+        QCOMPARE(ConfigManager::instance(), ConfigManager::instance());
+        QCOMPARE(ConfigManager::instance()->metaObject()->className(), "ConfigManager");
+        QCOMPARE(JsonConfigLoader().metaObject()->className(), "JsonConfigLoader");
+    }
+};
+
+QTEST_GUILESS_MAIN(ConfigManagerTest)
+
+#include "tst_configmanager.moc"

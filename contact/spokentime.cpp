@@ -42,8 +42,11 @@ QDateTime SpokenTime::exact() const
 
 QDateTime LocalTime::at(const QDate &date, const QTime &time)
 {
+    if (!date.isValid() || !time.isValid()) {
+        return {}; // QDateTime would take midnight for an invalid time
+    }
     const QDateTime wanted(date, time);
-    if (wanted.isValid() || !date.isValid() || !time.isValid()) {
+    if (wanted.isValid()) {
         return wanted;
     }
     // Counted on as if the clock had not been put forward. Qt's own milliseconds for such a time lie before

@@ -60,6 +60,7 @@ void FakeProcessTable::writePs(const QByteArray &table)
     // Only the shell itself, no further process: a command line must not show what the table holds.
     const QByteArray script = "#!/bin/sh\n"
                               "echo \"$*\" >>\"${0%/*}/runs\"\n"
+                              "[ \"$*\" = -ef ] || exit 1\n" // anything else would show another table
                               "while IFS= read -r line; do printf '%s\\n' \"$line\"; done <<'END'\n" +
                               table + "END\n";
     if (!ps.open(QIODevice::WriteOnly) || ps.write(script) != script.size() ||

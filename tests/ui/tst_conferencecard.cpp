@@ -387,7 +387,8 @@ void TestConferenceCard::anItemOfTheList()
 {
     ConferenceMsgStaticWidget card;
     card.multipleInit(conferences(2));
-    card.layout()->activate();
+    // Lays out what was never shown.
+    card.grab();
     CustomizeItem *item = shown<CustomizeItem>(card).first();
     QCOMPARE(item->focusPolicy(), Qt::NoFocus);
     const auto *layout = qobject_cast<QVBoxLayout *>(item->layout());

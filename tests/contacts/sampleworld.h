@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "service/administration.h"
+#include "service/contactsbook.h"
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QTemporaryDir>
+
+/// The sample directory in a database of its own, on 7 March 2026 at 10:20 unless the test moves the clock.
+class SampleWorld
+{
+public:
+    SampleWorld();
+
+    QJsonObject ask(const QString &action, const QString &parameters = {});
+    QJsonObject ask(const QString &action, const QJsonObject &parameters);
+    QJsonObject snapshot();
+    QJsonArray conferences();
+    /// From the snapshot; empty for an unknown number.
+    QJsonObject conference(const QString &number);
+    QString conferenceId(const QString &number);
+
+    QTemporaryDir folder;
+    qint64 nowMsecs;
+    ContactsBook book;
+    Administration admin;
+};
+
+/// Milliseconds since the epoch of a local time "yyyy-MM-ddThh:mm".
+qint64 at(const char *localTime);
+/// {"members": [{"name": ..., "userId": ""}]}
+QJsonObject membersNamed(const QStringList &names);

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include <kelvane/kelvaneabilitymanager.h>
+
+#include <QtCore/QCoreApplication>
+
+#include <cstdio>
+#include <iostream>
+#include <memory>
+#include <string>
+
+/// Sends one request and prints its code; with an argument, another one for each line of input.
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    std::string line;
+    do {
+        const std::unique_ptr<ContactAbility> ability(KelvaneAbilityManager::instance()->createContact());
+        QString answer;
+        std::printf("%d\n", ability->request(QStringLiteral("Echo"), QString(), answer));
+        std::fflush(stdout);
+    } while (argc > 1 && std::getline(std::cin, line));
+    return 0;
+}

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "scriptedrequests.h"
+
+#include <QtCore/QTimer>
+#include <QtDBus/QDBusConnection>
+#include <QtDBus/QDBusMessage>
+
+#include <unistd.h>
+
+QString ScriptedRequests::Request(const QString &action, const QString &parameters)
+{
+    if (action == QLatin1String("Echo"))
+        return parameters;
+    if (action == QLatin1String("Die"))
+        _exit(0);
+    if (action == QLatin1String("Fail")) {
+        sendErrorReply(QStringLiteral("org.example.Error.NotToday"), QStringLiteral("not today"));
+        return {};
+    }
+    setDelayedReply(true);
+    const QDBusMessage request = message();
+    const QDBusConnection bus = connection();
+    if (action == QLatin1String("Malform")) {
+        bus.send(request.createReply(42));
+    } else if (action == QLatin1String("Late")) {
+        QTimer::singleShot(parameters.toInt(), Qt::PreciseTimer, this,
+                           [request, bus] { bus.send(request.createReply(QStringLiteral("late"))); });
+    }
+    return {};
+}

@@ -1,0 +1,302 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "logcapture.h"
+
+#include <kelvane/abilitycodes.h>
+#include <kelvane/kelvaneabilitymanager.h>
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#include <csignal>
+#include <memory>
+#include <thread>
+#include <vector>
+
+namespace {
+
+struct Asked
+{
+    int code;
+    QString answer;
+    qint64 msecs;
+};
+
+Asked ask(const QString &action, const QString &parameters = {}, int timeoutMsecs = 10000)
+{
+    const std::unique_ptr<ContactAbility> ability(KelvaneAbilityManager::instance()->createContact());
+    ability->setTimeout(timeoutMsecs);
+    Asked asked{1, QStringLiteral("untouched"), 0};
+    QElapsedTimer timer;
+    timer.start();
+    asked.code = ability->request(action, parameters, asked.answer);
+    asked.msecs = timer.elapsed();
+    return asked;
+}
+
+/// Runs a process until the end of its scope, and waits until it has said something.
+class Running
+{
+public:
+    Running(const QString &program, const QStringList &arguments = {})
+    {
+        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        m_process.start(program, arguments);
+        m_isReady = m_process.waitForReadyRead(10000);
+    }
+    ~Running()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+    bool isReady() const { return m_isReady; }
+    void signal(int number) { ::kill(static_cast<pid_t>(m_process.processId()), number); }
+
+private:
+    QProcess m_process;
+    bool m_isReady = false;
+};
+
+QString scripted()
+{
+    return QStringLiteral(SCRIPTED_APPLICATION);
+}
+
+} // namespace
+
+/// The ability library beside an application that misbehaves, on a bus that cannot start one.
+class TestContactAbility : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void failures_data();
+    void failures();
+    void anAnswerIsHandedOver();
+    void aSlowAnswerInTimeIsAnAnswer();
+    void theTimeOutIsKept_data();
+    void theTimeOutIsKept();
+    void aLateAnswerIsDropped();
+    void aStoppedApplicationTimesOut();
+    void aMissingApplicationIsToldAtOnce();
+    void aBusThatIsGoneIsToldAtOnce();
+    void theBusMayRestart();
+    void eventsWaitUntilTheRequestIsOver();
+    void threadsDoNotWaitForEachOther();
+    void aNonsensicalTimeOutIsTheDefault();
+};
+
+void TestContactAbility::failures_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("an error") << QStringLiteral("Fail") << int(AbilityCode::Refused)
+                              << QStringLiteral("org.example.Error.NotToday not today");
+    QTest::newRow("an answer that is no text")
+        << QStringLiteral("Malform") << int(AbilityCode::MalformedAnswer)
+        << QStringLiteral("org.freedesktop.DBus.Error.InvalidSignature ");
+    QTest::newRow("a death during the call") << QStringLiteral("Die") << int(AbilityCode::Died)
+                                             << QStringLiteral("org.freedesktop.DBus.Error.NoReply ");
+}
+
+void TestContactAbility::failures()
+{
+    QFETCH(QString, action);
+    QFETCH(int, code);
+    QFETCH(QString, error);
+    const Running application(scripted());
+    QVERIFY(application.isReady());
+    LogCapture log(LogCapture::Unexpected::Passes);
+    const Asked asked = ask(action);
+    QCOMPARE(asked.code, code);
+    QVERIFY(asked.code >= -9999 && asked.code <= -1);
+    QCOMPARE(asked.answer, QStringLiteral("untouched"));
+    QVERIFY(asked.msecs < 5000);
+    const QStringList warnings = log.texts(QtWarningMsg);
+    QCOMPARE(warnings.size(), 1);
+    QVERIFY2(warnings.at(0).startsWith(
+                 QStringLiteral("The request %1 failed with %2 %3").arg(action).arg(code).arg(error)),
+             qPrintable(warnings.at(0)));
+}
+
+void TestContactAbility::anAnswerIsHandedOver()
+{
+    const Running application(scripted());
+    QVERIFY(application.isReady());
+    const LogCapture log;
+    const QString text = QStringLiteral("{\"ret\":\"OK\",\"title\":\"周会\\n😀\"}");
+    const Asked asked = ask(QStringLiteral("Echo"), text);
+    QCOMPARE(asked.code, 0);
+    QCOMPARE(asked.answer, text);
+}
+
+void TestContactAbility::aSlowAnswerInTimeIsAnAnswer()
+{
+    const Running application(scripted());
+    QVERIFY(application.isReady());
+    const Asked asked = ask(QStringLiteral("Late"), QStringLiteral("300"));
+    QCOMPARE(asked.code, 0);
+    QCOMPARE(asked.answer, QStringLiteral("late"));
+    QVERIFY(asked.msecs >= 300);
+}
+
+void TestContactAbility::theTimeOutIsKept_data()
+{
+    QTest::addColumn<int>("timeoutMsecs");
+    QTest::newRow("100 ms") << 100;
+    QTest::newRow("400 ms") << 400;
+    QTest::newRow("2 s") << 2000;
+}
+
+void TestContactAbility::theTimeOutIsKept()
+{
+    QFETCH(int, timeoutMsecs);
+    const Running application(scripted());
+    QVERIFY(application.isReady());
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    // A machine that is busy may wake anybody late; never early, and on time at least once.
+    qint64 soonest = std::numeric_limits<qint64>::max();
+    for (int attempt = 0; attempt < 5; ++attempt) {
+        const Asked asked = ask(QStringLiteral("Never"), {}, timeoutMsecs);
+        QCOMPARE(asked.code, int(AbilityCode::TimedOut));
+        QCOMPARE(asked.answer, QStringLiteral("untouched"));
+        QVERIFY2(asked.msecs >= timeoutMsecs - 1, qPrintable(QString::number(asked.msecs)));
+        soonest = qMin(soonest, asked.msecs);
+    }
+    QVERIFY2(soonest <= timeoutMsecs + qMin(20, timeoutMsecs / 20), qPrintable(QString::number(soonest)));
+}
+
+void TestContactAbility::aLateAnswerIsDropped()
+{
+    const Running application(scripted());
+    QVERIFY(application.isReady());
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    QCOMPARE(ask(QStringLiteral("Late"), QStringLiteral("300"), 100).code, int(AbilityCode::TimedOut));
+    // Is under way when the other one's answer comes, and gets its own.
+    const Asked next = ask(QStringLiteral("Late"), QStringLiteral("600"));
+    QCOMPARE(next.code, 0);
+    QVERIFY2(next.msecs >= 600, qPrintable(QString::number(next.msecs)));
+    QCOMPARE(ask(QStringLiteral("Echo"), QStringLiteral("mine")).answer, QStringLiteral("mine"));
+}
+
+void TestContactAbility::aStoppedApplicationTimesOut()
+{
+    Running application(scripted());
+    QVERIFY(application.isReady());
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    application.signal(SIGSTOP);
+    const Asked asked = ask(QStringLiteral("Echo"), {}, 400);
+    application.signal(SIGCONT);
+    QCOMPARE(asked.code, int(AbilityCode::TimedOut));
+    QVERIFY2(asked.msecs >= 399 && asked.msecs < 2000, qPrintable(QString::number(asked.msecs)));
+    QCOMPARE(ask(QStringLiteral("Echo"), QStringLiteral("again")).answer, QStringLiteral("again"));
+}
+
+void TestContactAbility::aMissingApplicationIsToldAtOnce()
+{
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    const Asked asked = ask(QStringLiteral("Echo"));
+    QCOMPARE(asked.code, int(AbilityCode::NoService));
+    QVERIFY(asked.msecs < 5000);
+}
+
+void TestContactAbility::aBusThatIsGoneIsToldAtOnce()
+{
+    // A process of its own, because this one has its bus.
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
+                       QStringLiteral("unix:path=/nonexistent/bus"));
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(ONE_REQUEST), QStringList());
+    QVERIFY(process.waitForFinished(10000));
+    QCOMPARE(process.readAllStandardOutput().trimmed().toInt(), int(AbilityCode::NoBus));
+}
+
+void TestContactAbility::theBusMayRestart()
+{
+    const QTemporaryDir folder;
+    const QByteArray address = "unix:path=" + folder.filePath(QStringLiteral("bus")).toLocal8Bit();
+    const QByteArray former = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    const QStringList busArguments{QStringLiteral("--nofork"), QStringLiteral("--print-address"),
+                                   QStringLiteral("--config-file=" EMPTY_BUS_CONFIG),
+                                   QStringLiteral("--address=") + QString::fromLocal8Bit(address)};
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+    QProcess oneClient;
+    oneClient.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    {
+        const Running bus(QStringLiteral("dbus-daemon"), busArguments);
+        QVERIFY(bus.isReady());
+        const Running application(scripted());
+        QVERIFY(application.isReady());
+        oneClient.start(QStringLiteral(ONE_REQUEST), {QStringLiteral("again")});
+        QVERIFY(oneClient.waitForReadyRead(10000));
+        QCOMPARE(oneClient.readLine().trimmed(), QByteArray("0"));
+    }
+    oneClient.write("\n");
+    QVERIFY(oneClient.waitForReadyRead(10000));
+    const int withoutBus = oneClient.readLine().trimmed().toInt();
+    QVERIFY2(withoutBus == AbilityCode::NoBus || withoutBus == AbilityCode::Died,
+             qPrintable(QString::number(withoutBus)));
+    {
+        const Running bus(QStringLiteral("dbus-daemon"), busArguments);
+        QVERIFY(bus.isReady());
+        const Running application(scripted());
+        QVERIFY(application.isReady());
+        oneClient.write("\n");
+        QVERIFY(oneClient.waitForReadyRead(10000));
+        QCOMPARE(oneClient.readLine().trimmed(), QByteArray("0"));
+    }
+    qputenv("DBUS_SESSION_BUS_ADDRESS", former);
+    oneClient.closeWriteChannel();
+    QVERIFY(oneClient.waitForFinished(10000));
+    QCOMPARE(oneClient.exitStatus(), QProcess::NormalExit);
+}
+
+void TestContactAbility::eventsWaitUntilTheRequestIsOver()
+{
+    const Running application(scripted());
+    QVERIFY(application.isReady());
+    bool delivered = false;
+    QTimer::singleShot(0, this, [&delivered] { delivered = true; });
+    QMetaObject::invokeMethod(
+        this, [&delivered] { delivered = true; }, Qt::QueuedConnection);
+    QCOMPARE(ask(QStringLiteral("Late"), QStringLiteral("100")).code, 0);
+    QVERIFY(!delivered);
+    QTRY_VERIFY(delivered);
+}
+
+void TestContactAbility::threadsDoNotWaitForEachOther()
+{
+    constexpr int Threads = 8;
+    const Running application(scripted());
+    QVERIFY(application.isReady());
+    QElapsedTimer timer;
+    timer.start();
+    std::vector<int> codes(Threads, 1);
+    std::vector<std::thread> threads;
+    for (int &code : codes)
+        threads.emplace_back([&code] { code = ask(QStringLiteral("Late"), QStringLiteral("500")).code; });
+    for (std::thread &thread : threads)
+        thread.join();
+    QCOMPARE(codes, std::vector<int>(Threads, 0));
+    QVERIFY2(timer.elapsed() < Threads * 500, qPrintable(QString::number(timer.elapsed())));
+}
+
+void TestContactAbility::aNonsensicalTimeOutIsTheDefault()
+{
+    const Running application(scripted());
+    QVERIFY(application.isReady());
+    for (const int timeout : {0, -1}) {
+        const Asked asked = ask(QStringLiteral("Late"), QStringLiteral("100"), timeout);
+        QCOMPARE(asked.code, 0);
+    }
+}
+
+QTEST_GUILESS_MAIN(TestContactAbility)
+#include "tst_contactability.moc"

@@ -9,6 +9,8 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonParseError>
 
+#include <algorithm>
+
 AbilityAnswer::AbilityAnswer(const QString &text, const char *errorText)
 {
     // The ability's texts have always been taken in the locale's encoding. In any but UTF-8 this loses what
@@ -22,4 +24,12 @@ AbilityAnswer::AbilityAnswer(const QString &text, const char *errorText)
     m_object = document.object();
     m_outcome = m_object.value(AnswerKey::Outcome).toString();
     m_isReadable = true;
+}
+
+int AbilityAnswer::code(OutcomeTable table, int otherwise) const
+{
+    const auto row = std::find_if(table.begin(), table.end(), [this](const OutcomeCode &candidate) {
+        return m_outcome == candidate.word;
+    });
+    return row == table.end() ? otherwise : row->code;
 }

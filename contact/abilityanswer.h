@@ -6,7 +6,7 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QString>
 
-#include <cstddef>
+#include <initializer_list>
 
 /// One outcome word and the result code it means to one kind of request.
 struct OutcomeCode
@@ -15,6 +15,8 @@ struct OutcomeCode
     int code;
 };
 
+using OutcomeTable = std::initializer_list<OutcomeCode>;
+
 /// The contacts application's answer to one request, read from outside input.
 class AbilityAnswer
 {
@@ -22,22 +24,13 @@ public:
     /// A text that is not JSON gives an unreadable answer, logged as a warning that begins with @p errorText.
     AbilityAnswer(const QString &text, const char *errorText);
 
-    bool isReadable() const { return m_isReadable; }
+    [[nodiscard]] bool isReadable() const { return m_isReadable; }
     /// Empty when the answer has none.
-    const QString &outcome() const { return m_outcome; }
-    const QJsonObject &object() const { return m_object; }
+    [[nodiscard]] const QString &outcome() const { return m_outcome; }
+    [[nodiscard]] const QJsonObject &object() const { return m_object; }
 
     /// What the outcome means by @p table; @p otherwise when it is not listed.
-    template <std::size_t Size>
-    int code(const OutcomeCode (&table)[Size], int otherwise) const
-    {
-        for (const OutcomeCode &row : table) {
-            if (m_outcome == row.word) {
-                return row.code;
-            }
-        }
-        return otherwise;
-    }
+    [[nodiscard]] int code(OutcomeTable table, int otherwise) const;
 
 private:
     QJsonObject m_object;

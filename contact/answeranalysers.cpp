@@ -15,7 +15,7 @@ namespace {
 
 // The same word means different things to different requests, so each kind of request has its own table.
 
-constexpr OutcomeCode generalCodes[] = {
+constexpr OutcomeTable generalCodes = {
     {OutcomeWord::Ok, ResultCode::Success},
     {OutcomeWord::Success, ResultCode::Success},
     {OutcomeWord::NoConference, ResultCode::NoConference},
@@ -28,7 +28,7 @@ constexpr OutcomeCode generalCodes[] = {
     {OutcomeWord::Oneself, ResultCode::Oneself},
 };
 
-constexpr OutcomeCode inviteCodes[] = {
+constexpr OutcomeTable inviteCodes = {
     {OutcomeWord::Ok, ResultCode::Success},
     {OutcomeWord::NotFound, ResultCode::NobodyFound},
     {OutcomeWord::NotStarted, ResultCode::NoConference},
@@ -38,7 +38,7 @@ constexpr OutcomeCode inviteCodes[] = {
     {OutcomeWord::NotLoggedIn, ResultCode::NotLoggedIn},
 };
 
-constexpr OutcomeCode joinCodes[] = {
+constexpr OutcomeTable joinCodes = {
     {OutcomeWord::Ok, ResultCode::Success},
     {OutcomeWord::NotStarted, ResultCode::NoConference},
     {OutcomeWord::NotFound, ResultCode::ConferenceNotFound},
@@ -49,21 +49,21 @@ constexpr OutcomeCode joinCodes[] = {
     {OutcomeWord::ParticipantsFull, ResultCode::ParticipantsFull},
 };
 
-constexpr OutcomeCode queryCodes[] = {
+constexpr OutcomeTable queryCodes = {
     {OutcomeWord::NotLoggedIn, ResultCode::NotLoggedIn},
     {OutcomeWord::NotFound, ResultCode::ConferenceNotFound},
     {OutcomeWord::Ok, ResultCode::Success},
 };
 
-constexpr OutcomeCode updateCodes[] = {
+constexpr OutcomeTable updateCodes = {
     {OutcomeWord::Ok, ResultCode::Success},
     {OutcomeWord::NotFound, ResultCode::ConferenceNotFound},
     {OutcomeWord::UpdateFailed, ResultCode::Malformed},
     {OutcomeWord::NotLoggedIn, ResultCode::NotLoggedIn},
 };
 
-constexpr char readErrorText[] = "response error.error:";
-constexpr char memberReadErrorText[] = "response ret error.error:";
+constexpr const char *readErrorText = "response error.error:";
+constexpr const char *memberReadErrorText = "response ret error.error:";
 
 QVector<ContactDetailMsg> conferencesOf(const AbilityAnswer &answer)
 {

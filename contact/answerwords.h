@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QLatin1String>
+#include "latin1literal.h"
 
 /**
  * @file
@@ -23,49 +23,49 @@
  * With "Exceed Members Limit" the users are in "not_join_list", beside "can_invite_num".
  */
 namespace AnswerKey {
-constexpr QLatin1String Outcome("ret");
-constexpr QLatin1String Conferences("list");
-constexpr QLatin1String Users("users");
-constexpr QLatin1String NotJoined("not_join_list");
-constexpr QLatin1String CanInvite("can_invite_num");
+constexpr QLatin1String Outcome = "ret"_latin1;
+constexpr QLatin1String Conferences = "list"_latin1;
+constexpr QLatin1String Users = "users"_latin1;
+constexpr QLatin1String NotJoined = "not_join_list"_latin1;
+constexpr QLatin1String CanInvite = "can_invite_num"_latin1;
 // Of a conference.
-constexpr QLatin1String ConferenceId("confId");
-constexpr QLatin1String DialNumber("conferenceDialNumber");
-constexpr QLatin1String Duration("duration");
-constexpr QLatin1String StartTime("startTime");
-constexpr QLatin1String Title("title");
-constexpr QLatin1String ParticipantLimit("participantLimit");
-constexpr QLatin1String Status("status"); // also of a user
-constexpr QLatin1String IsPayingUser("isPayingUser");
-constexpr QLatin1String Participants("participants");
+constexpr QLatin1String ConferenceId = "confId"_latin1;
+constexpr QLatin1String DialNumber = "conferenceDialNumber"_latin1;
+constexpr QLatin1String Duration = "duration"_latin1;
+constexpr QLatin1String StartTime = "startTime"_latin1;
+constexpr QLatin1String Title = "title"_latin1;
+constexpr QLatin1String ParticipantLimit = "participantLimit"_latin1;
+constexpr QLatin1String Status = "status"_latin1; // also of a user
+constexpr QLatin1String IsPayingUser = "isPayingUser"_latin1;
+constexpr QLatin1String Participants = "participants"_latin1;
 // Of a user.
-constexpr QLatin1String Name("name");
-constexpr QLatin1String RemarkName("remarkName");
-constexpr QLatin1String UserId("userId");
-constexpr QLatin1String Account("account");
-constexpr QLatin1String Duplicates("duplicate_list");
+constexpr QLatin1String Name = "name"_latin1;
+constexpr QLatin1String RemarkName = "remarkName"_latin1;
+constexpr QLatin1String UserId = "userId"_latin1;
+constexpr QLatin1String Account = "account"_latin1;
+constexpr QLatin1String Duplicates = "duplicate_list"_latin1;
 } // namespace AnswerKey
 
 /// What "ret" says; "OK", "Not Found" and "Duplicate" are also said of a single user. Compared exactly.
 namespace OutcomeWord {
-constexpr QLatin1String Ok("OK");
-constexpr QLatin1String Success("Success");
-constexpr QLatin1String Return("Return");
-constexpr QLatin1String Duplicate("Duplicate");
-constexpr QLatin1String NotFound("Not Found");
-constexpr QLatin1String NoConference("No Conference");
-constexpr QLatin1String NotStarted("Conference Not Start");
-constexpr QLatin1String InOtherConference("In Other Conference");
-constexpr QLatin1String TooFrequent("Conference Create Too Frequently");
-constexpr QLatin1String MembersLimit("Exceed Members Limit");
-constexpr QLatin1String ParticipantsFull("Participant Out Limit");
-constexpr QLatin1String TimeOverlap("Time Overlap");
-constexpr QLatin1String InvalidPasscode("Invalid Passcode");
-constexpr QLatin1String UpdateFailed("Update Failed");
-constexpr QLatin1String AlreadyFriend("Is Your Friend");
-constexpr QLatin1String FriendLimit("Exceed Friend Limit");
-constexpr QLatin1String Oneself("Is Yourself");
-constexpr QLatin1String NotLoggedIn("User Not Login");
-constexpr QLatin1String True("True");
-constexpr QLatin1String False("False");
+constexpr QLatin1String Ok = "OK"_latin1;
+constexpr QLatin1String Success = "Success"_latin1;
+constexpr QLatin1String Return = "Return"_latin1;
+constexpr QLatin1String Duplicate = "Duplicate"_latin1;
+constexpr QLatin1String NotFound = "Not Found"_latin1;
+constexpr QLatin1String NoConference = "No Conference"_latin1;
+constexpr QLatin1String NotStarted = "Conference Not Start"_latin1;
+constexpr QLatin1String InOtherConference = "In Other Conference"_latin1;
+constexpr QLatin1String TooFrequent = "Conference Create Too Frequently"_latin1;
+constexpr QLatin1String MembersLimit = "Exceed Members Limit"_latin1;
+constexpr QLatin1String ParticipantsFull = "Participant Out Limit"_latin1;
+constexpr QLatin1String TimeOverlap = "Time Overlap"_latin1;
+constexpr QLatin1String InvalidPasscode = "Invalid Passcode"_latin1;
+constexpr QLatin1String UpdateFailed = "Update Failed"_latin1;
+constexpr QLatin1String AlreadyFriend = "Is Your Friend"_latin1;
+constexpr QLatin1String FriendLimit = "Exceed Friend Limit"_latin1;
+constexpr QLatin1String Oneself = "Is Yourself"_latin1;
+constexpr QLatin1String NotLoggedIn = "User Not Login"_latin1;
+constexpr QLatin1String True = "True"_latin1;
+constexpr QLatin1String False = "False"_latin1;
 } // namespace OutcomeWord

@@ -3,15 +3,15 @@
 
 #pragma once
 
-#include <QtCore/QLatin1String>
+#include "latin1literal.h"
 
 /// The keys of request parameters, for example {"members":[{"name":"李雷","userId":""}]}.
 namespace RequestKey {
-constexpr QLatin1String ConferenceId("conferenceId");
-constexpr QLatin1String EndTime("endTime"); ///< milliseconds since the epoch
-constexpr QLatin1String Members("members");
-constexpr QLatin1String Name("name");
-constexpr QLatin1String Password("password");
-constexpr QLatin1String StartTime("startTime"); ///< milliseconds since the epoch
-constexpr QLatin1String UserId("userId");
+constexpr QLatin1String ConferenceId = "conferenceId"_latin1;
+constexpr QLatin1String EndTime = "endTime"_latin1; ///< milliseconds since the epoch
+constexpr QLatin1String Members = "members"_latin1;
+constexpr QLatin1String Name = "name"_latin1;
+constexpr QLatin1String Password = "password"_latin1;
+constexpr QLatin1String StartTime = "startTime"_latin1; ///< milliseconds since the epoch
+constexpr QLatin1String UserId = "userId"_latin1;
 } // namespace RequestKey

@@ -6,6 +6,7 @@
 #include "contactutils.h"
 
 #include "configmanager.h"
+#include "latin1literal.h"
 
 #include <array>
 #include <cstdio>
@@ -13,15 +14,15 @@
 
 namespace {
 
-constexpr QLatin1String timeOutKey("/Contact/TimeOut");
-constexpr QLatin1String maxTimeOutKey("/Contact/MaxTimeOut");
+constexpr QLatin1String timeOutKey = "/Contact/TimeOut"_latin1;
+constexpr QLatin1String maxTimeOutKey = "/Contact/MaxTimeOut"_latin1;
 
 // Milliseconds.
 constexpr int shortestTimeOut = 500; ///< anything up to it is taken for a mistake
 constexpr int defaultTimeOut = 5000;
 constexpr int defaultMaxTimeOut = 15000;
 
-constexpr char processName[] = "meetlynx";
+constexpr const char *processName = "meetlynx";
 constexpr std::size_t lineSize = 256;
 
 /// The configured number when it is greater than @p limit, else @p otherwise. A text that is no number is 0.

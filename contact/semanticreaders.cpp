@@ -4,6 +4,7 @@
 // How ContactUtils reads the understanding service's own keys.
 
 #include "contactutils.h"
+#include "latin1literal.h"
 
 #include <QtCore/QDebug>
 #include <QtCore/QJsonArray>
@@ -14,14 +15,14 @@ namespace {
 
 // {"intent": {"shouldEndSession": false, "answer": {"text": "几点开始？"},
 //             "voice_answer": [{"type": "TTS", "content": "请问几点开始？"}]}}
-constexpr QLatin1String intentKey("intent");
-constexpr QLatin1String shouldEndSessionKey("shouldEndSession");
-constexpr QLatin1String answerKey("answer");
-constexpr QLatin1String textKey("text");
-constexpr QLatin1String voiceAnswerKey("voice_answer");
-constexpr QLatin1String typeKey("type");
-constexpr QLatin1String contentKey("content");
-constexpr QLatin1String spokenType("TTS");
+constexpr QLatin1String intentKey = "intent"_latin1;
+constexpr QLatin1String shouldEndSessionKey = "shouldEndSession"_latin1;
+constexpr QLatin1String answerKey = "answer"_latin1;
+constexpr QLatin1String textKey = "text"_latin1;
+constexpr QLatin1String voiceAnswerKey = "voice_answer"_latin1;
+constexpr QLatin1String typeKey = "type"_latin1;
+constexpr QLatin1String contentKey = "content"_latin1;
+constexpr QLatin1String spokenType = "TTS"_latin1;
 
 /// Overwrites @p text only when there is a string to write.
 bool assignString(const QJsonValue &value, QString &text)

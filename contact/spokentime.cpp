@@ -3,12 +3,14 @@
 
 #include "spokentime.h"
 
+#include "latin1literal.h"
+
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 
 namespace {
 
-constexpr QLatin1String suggestDatetimeKey("suggestDatetime");
+constexpr QLatin1String suggestDatetimeKey = "suggestDatetime"_latin1;
 constexpr QLatin1Char timeMark('T');
 
 QDate dateOf(const QString &text)
@@ -27,8 +29,10 @@ SpokenTime SpokenTime::fromSlot(const QString &slotText, QJsonParseError *error)
     if (result.m_hasTime) {
         // Each for itself: whether the two exist together is LocalTime's question.
         const int mark = result.m_text.indexOf(timeMark);
-        result.m_date = dateOf(result.m_text.left(mark));
         result.m_time = QTime::fromString(result.m_text.mid(mark + 1), QStringLiteral("hh:mm:ss"));
+        if (result.m_time.isValid()) {
+            result.m_date = dateOf(result.m_text.left(mark));
+        }
     } else {
         result.m_date = dateOf(result.m_text);
     }
@@ -45,7 +49,7 @@ QDateTime LocalTime::at(const QDate &date, const QTime &time)
     if (!date.isValid() || !time.isValid()) {
         return {}; // QDateTime would take midnight for an invalid time
     }
-    const QDateTime wanted(date, time);
+    QDateTime wanted(date, time);
     if (wanted.isValid()) {
         return wanted;
     }

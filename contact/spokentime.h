@@ -22,11 +22,11 @@ public:
     static SpokenTime fromSlot(const QString &slotText, QJsonParseError *error = nullptr);
 
     /// As it was sent.
-    const QString &text() const { return m_text; }
-    bool hasTime() const { return m_hasTime; }
-    QDate date() const { return m_date; }
+    [[nodiscard]] const QString &text() const { return m_text; }
+    [[nodiscard]] bool hasTime() const { return m_hasTime; }
+    [[nodiscard]] QDate date() const { return m_date; }
     /// The exact time of a text that has one; invalid for what does not exist in the calendar.
-    QDateTime exact() const;
+    [[nodiscard]] QDateTime exact() const;
 
 private:
     QString m_text;

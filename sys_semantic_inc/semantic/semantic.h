@@ -24,10 +24,10 @@
  */
 namespace SemanticKey {
 // Plain characters, because log records quote them too.
-constexpr char Semantic[] = "semantic";
-constexpr char Intent[] = "intent";
-constexpr char Slots[] = "slots";
-constexpr char Name[] = "name";
+constexpr const char *Semantic = "semantic";
+constexpr const char *Intent = "intent";
+constexpr const char *Slots = "slots";
+constexpr const char *Name = "name";
 } // namespace SemanticKey
 
 /// One slot: every member of its JSON object, unchanged; "name" is always there and a string.

@@ -32,7 +32,7 @@ public:
         return m_semantic.parse(m_document->object());
     }
 
-    const CloudSemantic &semantic() const { return m_semantic; }
+    [[nodiscard]] const CloudSemantic &semantic() const { return m_semantic; }
 
 private:
     /// {"semantic": [...]} lifted out of the "intent" object; a null document when the path is not there.

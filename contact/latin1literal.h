@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QLatin1String>
+
+#include <cstddef>
+
+/// "text"_latin1: a QLatin1String that is a constant with every compiler, since it need not look for the
+/// text's end.
+constexpr QLatin1String operator""_latin1(const char *text, std::size_t size)
+{
+    return QLatin1String(text, static_cast<int>(size));
+}

@@ -5,9 +5,11 @@
 
 #include "themecolor.h"
 
+#include <lumo/legibleground.h>
 #include <lumo/llabel.h>
 
 #include <QtCore/QVariant>
+#include <QtGui/QPainter>
 
 namespace {
 
@@ -15,12 +17,28 @@ constexpr auto AlphaProperty = "cardTextAlpha";
 /// More than a line of the widest row has room for.
 constexpr int WidestHint = 260;
 
-class CardLabel final : public LLabel
+class CardLabel : public LLabel
 {
 public:
     using LLabel::LLabel;
 
     QSize sizeHint() const override { return LLabel::sizeHint().boundedTo({WidestHint, QWIDGETSIZE_MAX}); }
+};
+
+/// A label whose colour stays when the theme changes.
+class ColoredLabel final : public CardLabel
+{
+public:
+    using CardLabel::CardLabel;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QPainter painter(this);
+        paintLegibleGround(painter, rect(), palette().color(foregroundRole()));
+        painter.end();
+        CardLabel::paintEvent(event);
+    }
 };
 
 /// Line breaks in somebody's title would make its row as tall as they like.
@@ -41,9 +59,10 @@ QString oneLine(QString text)
     return text;
 }
 
+template <typename Label>
 LLabel *plainLabel(const QString &text, LFontSizeManager::SizeType size, QWidget *parent)
 {
-    auto *label = new CardLabel(oneLine(text), parent);
+    auto *label = new Label(oneLine(text), parent);
     label->setElideMode(Qt::ElideRight);
     label->setFont(LFontSizeManager::instance()->get(size, label->font()));
     return label;
@@ -53,7 +72,7 @@ LLabel *plainLabel(const QString &text, LFontSizeManager::SizeType size, QWidget
 
 LLabel *CardText::label(const QString &text, LFontSizeManager::SizeType size, int alpha, QWidget *parent)
 {
-    LLabel *label = plainLabel(text, size, parent);
+    LLabel *label = plainLabel<CardLabel>(text, size, parent);
     setColor(*label, alpha);
     return label;
 }
@@ -61,7 +80,7 @@ LLabel *CardText::label(const QString &text, LFontSizeManager::SizeType size, in
 LLabel *CardText::coloredLabel(const QString &text, LFontSizeManager::SizeType size, const QColor &color,
                                QWidget *parent)
 {
-    LLabel *label = plainLabel(text, size, parent);
+    LLabel *label = plainLabel<ColoredLabel>(text, size, parent);
     QPalette palette = label->palette();
     palette.setBrush(QPalette::All, QPalette::WindowText, color);
     label->setPalette(palette);

@@ -23,6 +23,8 @@ constexpr QSize RowSize(330, 40);
 constexpr int Margin = 10;
 constexpr int SpaceAfterName = 20;
 constexpr int SpaceAfterCaption = 10;
+constexpr int SpaceBeforeMark = 6;
+constexpr int LeastTextWidth = 110;
 
 constexpr QColor LightBackground(247, 247, 247, 204);
 constexpr QColor DarkBackground(255, 255, 255, 20);
@@ -73,6 +75,7 @@ void TiTleItem::insertConferenceMsg(const UserInfo &user)
         m_layout->addSpacing(SpaceAfterCaption);
     }
     m_detailLabel = addLabel(user.account, CardText::CaptionAlpha);
+    m_detailLabel->setContentsMargins(0, 0, SpaceBeforeMark, 0);
     m_layout->addWidget(m_checkBox);
     setAccessibleName(shownName);
     m_checkBox->setAccessibleName(shownName);
@@ -158,6 +161,8 @@ void TiTleItem::paintEvent(QPaintEvent *event)
 LLabel *TiTleItem::addLabel(const QString &text, int alpha)
 {
     LLabel *label = CardText::label(text, LFontSizeManager::T6, alpha, this);
+    // Of two long texts each keeps a third of the row, and a short one is never shortened for a long one.
+    label->setMinimumWidth(qMin(label->sizeHint().width(), LeastTextWidth));
     m_layout->addWidget(label);
     return label;
 }

@@ -3,6 +3,8 @@
 
 #include "lumo/lcommandlinkbutton.h"
 
+#include "lumo/legibleground.h"
+#include "lumo/lfontsizemanager.h"
 #include "lumo/plaintooltip.h"
 
 #include <QtGui/QHelpEvent>
@@ -44,24 +46,40 @@ void LCommandLinkButton::paintEvent(QPaintEvent * /*event*/)
     QStyleOptionButton option;
     initStyleOption(&option);
     QPainter painter(this);
+    const QFont textFont = shownFont();
+    const QRect room = rect().adjusted(HorizontalPadding, 0, -HorizontalPadding, 0);
+    const int textWidth = QFontMetrics(textFont).size(Qt::TextShowMnemonic, text()).width();
+    QRect ground = rect();
+    ground.setWidth(qMin(width(), textWidth + 2 * HorizontalPadding));
+    ground.moveCenter(rect().center());
+    paintLegibleGround(painter, ground, palette().color(QPalette::ButtonText));
+
     if (option.state.testFlag(QStyle::State_HasFocus)) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(palette().color(QPalette::Highlight));
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), FocusFrameRadius,
                                 FocusFrameRadius);
     }
-    if (isEnabled() && option.state.testFlag(QStyle::State_MouseOver)) {
-        QFont underlined = font();
-        underlined.setUnderline(true);
-        painter.setFont(underlined);
-    }
-    const QRect room = rect().adjusted(HorizontalPadding, 0, -HorizontalPadding, 0);
+    QFont painted = textFont;
+    painted.setUnderline(isEnabled() && option.state.testFlag(QStyle::State_MouseOver));
+    painter.setFont(painted);
     style()->drawItemText(&painter, room, Qt::AlignCenter | Qt::TextShowMnemonic, palette(), isEnabled(),
                           shownText(), QPalette::ButtonText);
 }
 
+QFont LCommandLinkButton::shownFont() const
+{
+    const int room = width() - 2 * HorizontalPadding;
+    const int smallest = LFontSizeManager::instance()->fontPixelSize(LFontSizeManager::T10);
+    QFont shown = font();
+    int pixelSize = fontInfo().pixelSize();
+    while (pixelSize > smallest && QFontMetrics(shown).size(Qt::TextShowMnemonic, text()).width() > room)
+        shown.setPixelSize(--pixelSize);
+    return shown;
+}
+
 QString LCommandLinkButton::shownText() const
 {
-    return fontMetrics().elidedText(text(), Qt::ElideRight, width() - 2 * HorizontalPadding,
-                                    Qt::TextShowMnemonic);
+    return QFontMetrics(shownFont())
+        .elidedText(text(), Qt::ElideRight, width() - 2 * HorizontalPadding, Qt::TextShowMnemonic);
 }

@@ -68,7 +68,9 @@ void LLabel::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     drawFrame(&painter);
     const QRect room = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
-    const auto flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment()));
+    // The dots rarely end at the edge; what is cut off starts where all texts start, however it is aligned.
+    const Qt::Alignment aligned = (alignment() & Qt::AlignVertical_Mask) | Qt::AlignLeading;
+    const auto flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), aligned));
     style()->drawItemText(&painter, room, flags | Qt::TextSingleLine, palette(), isEnabled(), shown,
                           foregroundRole());
 }

@@ -6,6 +6,7 @@
 #include "lumo/lguiapplicationhelper.h"
 #include "stylepainting.h"
 
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QStyleOption>
 
 namespace {
@@ -23,12 +24,16 @@ void LStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
         const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
         const bool flat = button != nullptr && button->features.testFlag(QStyleOptionButton::Flat);
         StylePainting::button(*painter, *option, flat);
+        if (option->state.testFlag(State_HasFocus) && option->state.testFlag(State_KeyboardFocusChange))
+            StylePainting::focusRing(*painter, *option);
         return;
     }
     case PE_FrameDefaultButton:
         return;
     case PE_FrameFocusRect:
-        if (option->state.testFlag(State_KeyboardFocusChange))
+        // The ring of a button goes around its panel and is drawn with that.
+        if (qobject_cast<const QPushButton *>(widget) == nullptr &&
+            option->state.testFlag(State_KeyboardFocusChange))
             StylePainting::focusRing(*painter, *option);
         return;
     case PE_IndicatorCheckBox:

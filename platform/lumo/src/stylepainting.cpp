@@ -83,12 +83,16 @@ void StylePainting::field(QPainter &painter, const QStyleOption &option)
 void StylePainting::focusRing(QPainter &painter, const QStyleOption &option)
 {
     const PainterState state(painter);
-    // On a ground in the accent colour a ring in the accent colour could not be seen.
+    // On a ground in the accent colour a ring in that colour could not be seen, nor one of another colour at
+    // the edge, where it may have the colour of what is around.
     const bool onAccent = option.palette.color(QPalette::Button) == option.palette.color(QPalette::Highlight);
     const auto role = onAccent ? QPalette::HighlightedText : QPalette::Highlight;
+    const qreal inset = onAccent ? RingWidth : 0;
+    const QRectF ring = inside(option.rect, RingWidth).adjusted(inset, inset, -inset, -inset);
+    const qreal radius = Radius - RingWidth / 2 - inset;
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(option.palette.color(role), RingWidth));
-    painter.drawRoundedRect(inside(option.rect, RingWidth), Radius - RingWidth / 2, Radius - RingWidth / 2);
+    painter.drawRoundedRect(ring, radius, radius);
 }
 
 void StylePainting::checkMark(QPainter &painter, const QStyleOption &option)

@@ -9,8 +9,9 @@
 
 /**
  * A button that looks like a line of text: no frame, the text in the palette's ButtonText colour, underlined
- * under the mouse, with a frame when the keyboard's focus is on it. The text is elided when the button is
- * narrower, and then the tool tip shows it whole.
+ * under the mouse, with a frame when the keyboard's focus is on it. In a button that is too narrow the text
+ * becomes smaller, down to the smallest size class, and is elided after that; then the tool tip shows it
+ * whole.
  */
 class LUMO_EXPORT LCommandLinkButton : public QPushButton
 {
@@ -26,5 +27,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QFont shownFont() const;
     QString shownText() const;
 };

@@ -70,6 +70,7 @@ void ConferenceMsgStaticWidget::focusInEvent(QFocusEvent *event)
 void ConferenceMsgStaticWidget::focusOutEvent(QFocusEvent * /*event*/)
 {
     m_focusedByKeyboard = false;
+    m_ignoresNextRelease = false;
     update();
 }
 
@@ -79,9 +80,7 @@ void ConferenceMsgStaticWidget::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
         return;
     }
-    // Acted on when the key is let go; the host's default button is not meant.
-    if (!event->isAutoRepeat())
-        m_ignoresNextRelease = false;
+    // Acted on when the key is let go. Not passed on either: the host's default button is not meant.
 }
 
 void ConferenceMsgStaticWidget::keyReleaseEvent(QKeyEvent *event)
@@ -132,10 +131,11 @@ void ConferenceMsgStaticWidget::activate(QObject *control)
                               button == m_confirmButton || button == m_footerButton;
         if (!isAction || !button->isEnabled())
             return;
-        // The action may remove the button and leave the focus with the card, which then hears of the key
-        // being let go.
-        m_ignoresNextRelease = true;
+        const QPointer<ConferenceMsgStaticWidget> alive(this);
         Q_EMIT button->clicked();
+        // The button may be gone and the focus with the card, which then hears of the key being let go.
+        if (!alive.isNull())
+            m_ignoresNextRelease = hasFocus();
         return;
     }
     auto *box = qobject_cast<QComboBox *>(control);

@@ -150,8 +150,8 @@ void LogCapture::handle(QtMsgType level, const QMessageLogContext &context, cons
 
 void LogCapture::take(const LogRecord &record)
 {
-    // The offscreen platform complains about every window that has a smallest or largest size.
-    if (record.text == QLatin1String("This plugin does not support propagateSizeHints()")) {
+    // The offscreen platform complains about size hints, raised windows and popups that grab the keyboard.
+    if (record.text.startsWith(QLatin1String("This plugin does not support "))) {
         return;
     }
     const QMutexLocker locker(&m_mutex);

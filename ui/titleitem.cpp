@@ -74,8 +74,7 @@ void TiTleItem::insertConferenceMsg(const UserInfo &user)
         m_captionLabel = addLabel(QStringLiteral("ID"), CardText::CaptionAlpha);
         m_layout->addSpacing(SpaceAfterCaption);
     }
-    m_detailLabel = addLabel(user.account, CardText::CaptionAlpha);
-    m_detailLabel->setContentsMargins(0, 0, SpaceBeforeMark, 0);
+    m_detailLabel = addLabel(user.account, CardText::CaptionAlpha, SpaceBeforeMark);
     m_layout->addWidget(m_checkBox);
     setAccessibleName(shownName);
     m_checkBox->setAccessibleName(shownName);
@@ -158,9 +157,10 @@ void TiTleItem::paintEvent(QPaintEvent *event)
     painter.drawRoundedRect(QRectF(rect()).adjusted(Inset, Inset, -Inset, -Inset), FocusRadius, FocusRadius);
 }
 
-LLabel *TiTleItem::addLabel(const QString &text, int alpha)
+LLabel *TiTleItem::addLabel(const QString &text, int alpha, int spaceBehind)
 {
     LLabel *label = CardText::label(text, LFontSizeManager::T6, alpha, this);
+    label->setContentsMargins(0, 0, spaceBehind, 0);
     // Of two long texts each keeps a third of the row, and a short one is never shortened for a long one.
     label->setMinimumWidth(qMin(label->sizeHint().width(), LeastTextWidth));
     m_layout->addWidget(label);

@@ -51,7 +51,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    LLabel *addLabel(const QString &text, int alpha);
+    LLabel *addLabel(const QString &text, int alpha, int spaceBehind = 0);
     void select();
     void deselect();
     void followTheme();

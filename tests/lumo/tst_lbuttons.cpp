@@ -36,7 +36,10 @@ private Q_SLOTS:
     void theLinkIsAsWideAsItsText();
     void theLinkShowsTheFocusOfTheKeyboard();
     void theLinkIsUnderlinedUnderTheMouse();
+    void aLinkThatIsTooNarrowIsSmallerBeforeItIsElided();
     void aLinkThatIsTooNarrowHasAToolTip();
+    void aDarkLinkHasALightGroundInTheDarkTheme_data();
+    void aDarkLinkHasALightGroundInTheDarkTheme();
     void bothAreClickedWithTheMouseAndTheSpaceKey();
 };
 
@@ -120,6 +123,60 @@ void TestLButtons::theLinkIsUnderlinedUnderTheMouse()
     const QImage disabledUnderMouse = link.grab().toImage();
     link.setAttribute(Qt::WA_UnderMouse, false);
     QCOMPARE(link.grab().toImage(), disabledUnderMouse);
+}
+
+void TestLButtons::aLinkThatIsTooNarrowIsSmallerBeforeItIsElided()
+{
+    const QString text = QString(20, QLatin1Char('m'));
+    LCommandLinkButton link(text);
+    QFont font = link.font();
+    font.setPixelSize(20);
+    link.setFont(font);
+    // What the button shows is the same as it would show with the smaller font, if that has room.
+    font.setPixelSize(14);
+    LCommandLinkButton smaller(text);
+    smaller.setFont(font);
+    smaller.resize(smaller.sizeHint());
+    link.resize(smaller.size());
+    QCOMPARE(link.grab().toImage(), smaller.grab().toImage());
+
+    // Never smaller than the smallest class, however narrow it is.
+    font.setPixelSize(10);
+    smaller.setFont(font);
+    smaller.resize(60, 20);
+    link.resize(60, 20);
+    QCOMPARE(link.grab().toImage(), smaller.grab().toImage());
+}
+
+void TestLButtons::aDarkLinkHasALightGroundInTheDarkTheme_data()
+{
+    QTest::addColumn<int>("theme");
+    QTest::addColumn<QColor>("text");
+    QTest::addColumn<bool>("hasGround");
+    const int light = LGuiApplicationHelper::LightType;
+    const int dark = LGuiApplicationHelper::DarkType;
+    QTest::newRow("black in the light theme") << light << QColor(0, 0, 0, 102) << false;
+    QTest::newRow("black in the dark theme") << dark << QColor(0, 0, 0, 102) << true;
+    QTest::newRow("blue in the dark theme") << dark << QColor(0, 129, 255) << false;
+    QTest::newRow("white in the dark theme") << dark << QColor(Qt::white) << false;
+}
+
+void TestLButtons::aDarkLinkHasALightGroundInTheDarkTheme()
+{
+    QFETCH(int, theme);
+    QFETCH(QColor, text);
+    QFETCH(bool, hasGround);
+    LGuiApplicationHelper::instance()->setPaletteType(static_cast<LGuiApplicationHelper::ColorType>(theme));
+    LCommandLinkButton link(QStringLiteral("link"));
+    QPalette palette = link.palette();
+    palette.setColor(QPalette::ButtonText, text);
+    link.setPalette(palette);
+    link.resize(link.sizeHint());
+    const QColor window = link.palette().color(QPalette::Window);
+    const QColor beside = link.grab().toImage().pixelColor(link.width() / 2, 1);
+    QCOMPARE(beside != window, hasGround);
+    QCOMPARE(beside.lightness() > 150, hasGround || theme == LGuiApplicationHelper::LightType);
+    LGuiApplicationHelper::instance()->setPaletteType(LGuiApplicationHelper::UnknownType);
 }
 
 void TestLButtons::aLinkThatIsTooNarrowHasAToolTip()

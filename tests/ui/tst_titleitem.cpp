@@ -79,6 +79,8 @@ private Q_SLOTS:
     void theColoursFollowTheTheme();
     void textsArePlainAndStayInTheRow();
 
+    void aShortTextIsNotShortenedForALongOne();
+
     void aClickSelectsAndASecondTakesItBack();
     void theBudgetIsTheCards();
     void withoutBudgetNothingIsSelected();
@@ -269,6 +271,19 @@ void TestTiTleItem::textsArePlainAndStayInTheRow()
     QTest::mouseClick(m_row, Qt::LeftButton);
     QVERIFY(m_row->rect().contains(mark(*m_row)->geometry()));
     QVERIFY(mark(*m_row)->width() >= 13);
+}
+
+void TestTiTleItem::aShortTextIsNotShortenedForALongOne()
+{
+    m_row->insertConferenceMsg(
+        {QString(), QString(60, QLatin1Char('m')), QString(), QStringLiteral("short")});
+    m_card->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_card.get()));
+    QTest::mouseClick(m_row, Qt::LeftButton);
+    const auto labels = m_row->findChildren<LLabel *>();
+    QVERIFY(labels.at(0)->width() < labels.at(0)->sizeHint().width());
+    QVERIFY(labels.at(1)->width() >= labels.at(1)->sizeHint().width());
+    QVERIFY(labels.at(1)->geometry().right() < mark(*m_row)->geometry().left());
 }
 
 void TestTiTleItem::aClickSelectsAndASecondTakesItBack()

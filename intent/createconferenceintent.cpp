@@ -18,10 +18,10 @@
 namespace {
 
 // {"members":[{"name":"张三","userId":""}],"startTime":1772850000000}; without "startTime" it starts now.
-constexpr QLatin1String membersKey("members");
-constexpr QLatin1String nameKey("name");
-constexpr QLatin1String userIdKey("userId");
-constexpr QLatin1String startTimeKey("startTime");
+const QLatin1String membersKey("members");
+const QLatin1String nameKey("name");
+const QLatin1String userIdKey("userId");
+const QLatin1String startTimeKey("startTime");
 
 using Detail = ContactCreatedConferenceDetail;
 

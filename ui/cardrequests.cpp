@@ -9,13 +9,13 @@
 
 namespace {
 
-constexpr QLatin1String ConferenceId("conferenceId");
-constexpr QLatin1String Duration("duration");
-constexpr QLatin1String Members("members");
-constexpr QLatin1String Name("name");
-constexpr QLatin1String ParticipantLimit("participantLimit");
-constexpr QLatin1String StartTime("startTime");
-constexpr QLatin1String UserId("userId");
+const QLatin1String ConferenceId("conferenceId");
+const QLatin1String Duration("duration");
+const QLatin1String Members("members");
+const QLatin1String Name("name");
+const QLatin1String ParticipantLimit("participantLimit");
+const QLatin1String StartTime("startTime");
+const QLatin1String UserId("userId");
 
 QJsonArray memberArray(const QVector<UserInfo> &members)
 {

@@ -19,7 +19,7 @@ struct NamedCode
 };
 
 /// The first prefix that fits counts.
-constexpr std::array<NamedCode, 10> NamedCodes{{
+const std::array<NamedCode, 10> NamedCodes{{
     {QLatin1String("org.freedesktop.DBus.Error.ServiceUnknown"), AbilityCode::NoService},
     {QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner"), AbilityCode::NoService},
     {QLatin1String("org.freedesktop.DBus.Error.Spawn."), AbilityCode::NoService},

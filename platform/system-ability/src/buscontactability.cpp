@@ -3,6 +3,7 @@
 
 #include "buscontactability.h"
 
+#include "abilitytrace.h"
 #include "buslink.h"
 #include "pendingrequest.h"
 
@@ -17,6 +18,7 @@ void BusContactAbility::setTimeout(const int &msecs)
 
 int BusContactAbility::request(const QString &action, const QString &parameters, QString &answer)
 {
+    const AbilityTrace trace(action, parameters);
     const auto pending = std::make_shared<PendingRequest>(action, parameters, m_timeoutMsecs);
     BusLink::instance().send(pending);
     const PendingRequest::Result result = pending->wait();
@@ -25,5 +27,6 @@ int BusContactAbility::request(const QString &action, const QString &parameters,
     else
         qWarning().noquote() << "The request" << action << "failed with" << result.code << result.errorName
                              << result.errorMessage;
+    trace.finish(result.code, result.answer);
     return result.code;
 }

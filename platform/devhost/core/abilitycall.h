@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "logrecord.h"
+
+#include <QtCore/QString>
+
+namespace devhost {
+
+/// One request that the ability library made for the plugin, as its trace tells it.
+struct AbilityCall
+{
+    QString action;
+    QString parameters; ///< JSON, without passwords
+    QString answer;     ///< JSON; empty when the call failed
+    int code = 0;
+    double msecs = 0;
+
+    /// The log category of the trace. The host switches it on.
+    static QString category();
+    /// Whether @p record is such a trace; then it is read into @p call.
+    static bool read(const LogRecord &record, AbilityCall &call);
+};
+
+} // namespace devhost

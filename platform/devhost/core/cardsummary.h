@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QStringList>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+namespace devhost {
+
+/**
+ * What a card says, line by line from the top, as a terminal can show it: texts as they are, "[按钮]" for
+ * buttons, "<值>" for fields. Works on any card that has been laid out (see cardPicture()).
+ */
+QStringList cardSummary(const QWidget &card);
+
+} // namespace devhost

@@ -1,0 +1,187 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "conversation.h"
+
+#include "cleantext.h"
+#include "logrecorder.h"
+#include "secrets.h"
+
+#include <QtCore/QElapsedTimer>
+
+namespace devhost {
+
+namespace {
+
+/// So many turns can be inspected; of older ones only the conversation view knows.
+constexpr int MostTurns = 2000;
+/// So many log records and requests are kept of one turn.
+constexpr int MostRecords = 1000;
+constexpr int ShownInputLength = 2000;
+
+} // namespace
+
+QWidget *cardOf(const Reply &reply)
+{
+    return (reply.type & Reply::Card) != 0 ? reply.widget : nullptr;
+}
+
+Conversation::Conversation(PluginHost &host, LogRecorder &logs, QObject *parent)
+    : QObject(parent)
+    , m_runner(host)
+    , m_logs(logs)
+{
+    connect(&m_runner, &TurnRunner::finished, this, &Conversation::takeResult);
+    connect(&host, &PluginHost::repliedLater, this, &Conversation::takeLater);
+}
+
+void Conversation::setContactNames(const QStringList &names)
+{
+    m_dialogue.setContactNames(names);
+}
+
+void Conversation::setClock(std::function<QDateTime()> clock)
+{
+    m_clock = std::move(clock);
+}
+
+int Conversation::say(const QString &text)
+{
+    const QString sentence = text.trimmed();
+    return enqueue(sentence, sentence.startsWith(QLatin1Char('{')));
+}
+
+int Conversation::sendSemantic(const QString &semantic)
+{
+    return enqueue(semantic, true);
+}
+
+bool Conversation::expectsSecret() const
+{
+    return m_dialogue.nextIsSecret();
+}
+
+Turn Conversation::turn(int id) const
+{
+    return m_turns.value(id);
+}
+
+int Conversation::enqueue(const QString &text, bool isSemantic)
+{
+    Turn turn;
+    turn.id = ++m_lastId;
+    const QString shown = isSemantic ? withoutSecrets(text, secretsIn(text)) : m_dialogue.masked(text);
+    turn.said = cleanText(shown.left(ShownInputLength));
+    m_turns.insert(turn.id, turn);
+    m_turns.remove(turn.id - MostTurns);
+    m_queue.enqueue({turn.id, text, isSemantic});
+    Q_EMIT said(turn.id, turn.said);
+    // From the event loop: whoever says something first gets to know its turn.
+    QMetaObject::invokeMethod(this, &Conversation::startNext, Qt::QueuedConnection);
+    return turn.id;
+}
+
+void Conversation::startNext()
+{
+    if (m_running != 0 || m_queue.isEmpty())
+        return;
+    collectLogs(m_latest);
+    Input input = m_queue.dequeue();
+    m_running = m_latest = input.turn;
+    m_runningIsSentence = !input.isSemantic;
+    m_turns[m_running].state = Turn::Running;
+    Q_EMIT started(m_running);
+    if (input.text.size() > LongestInput) {
+        end(QStringLiteral("The text is too long: %1 characters.").arg(input.text.size()));
+        return;
+    }
+    const QString semantic = input.isSemantic ? input.text : understand(input);
+    const QStringList secrets = secretsIn(semantic);
+    m_logs.setSecrets(secrets);
+    m_turns[m_running].semantic = withoutSecrets(semantic, secrets);
+    m_runner.run(semantic);
+}
+
+QString Conversation::understand(Input &input)
+{
+    Turn &turn = m_turns[input.turn];
+    const QString shown = cleanText(m_dialogue.masked(input.text).left(ShownInputLength));
+    if (shown != turn.said) {
+        turn.said = shown;
+        Q_EMIT saidChanged(input.turn, shown);
+    }
+    QElapsedTimer timer;
+    timer.start();
+    const QString semantic = m_dialogue.turn(input.text, m_clock());
+    m_turns[input.turn].understandingMsecs = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+    return semantic;
+}
+
+void Conversation::takeResult(const TurnResult &result)
+{
+    const int id = m_running;
+    Turn &turn = m_turns[id];
+    turn.status = result.status;
+    turn.serviceMsecs = result.serviceMsecs;
+    turn.replyMsecs = result.replyMsecs;
+    if (!result.failure.isEmpty()) {
+        end(result.failure);
+        return;
+    }
+    turn.code = result.reply.code.toInt();
+    turn.display = cleanText(result.reply.displayText.toString());
+    turn.speech = cleanText(result.reply.speechText.toString());
+    turn.type = result.reply.type;
+    turn.endOfSession = result.reply.endOfSession;
+    if (const QWidget *card = cardOf(result.reply))
+        turn.cardClass = QString::fromLatin1(card->metaObject()->className());
+    if (m_runningIsSentence)
+        m_dialogue.noteReply(turn.code, turn.display);
+    if (result.isUnread() && turn.display.isEmpty()) {
+        end(QStringLiteral("The plugin cannot read this as a semantic JSON (service() answered -100)."));
+        return;
+    }
+    Q_EMIT replied(id, result.reply);
+    end(QString());
+}
+
+void Conversation::takeLater(const Reply &reply)
+{
+    collectLogs(m_latest);
+    Q_EMIT repliedLater(m_latest, reply);
+}
+
+void Conversation::end(const QString &failure)
+{
+    const int id = m_running;
+    collectLogs(id);
+    m_turns[id].state = Turn::Done;
+    m_turns[id].failure = failure;
+    if (!failure.isEmpty())
+        Q_EMIT failed(id, failure);
+    m_running = 0;
+    Q_EMIT finished(id);
+    if (m_queue.isEmpty())
+        Q_EMIT idle();
+    else
+        QMetaObject::invokeMethod(this, &Conversation::startNext, Qt::QueuedConnection);
+}
+
+void Conversation::collectLogs(int turn)
+{
+    const QVector<LogRecord> records = m_logs.take();
+    const auto entry = m_turns.find(turn);
+    if (entry == m_turns.end())
+        return;
+    for (const LogRecord &record : records) {
+        AbilityCall call;
+        if (AbilityCall::read(record, call)) {
+            if (entry->calls.size() < MostRecords)
+                entry->calls.append(call);
+        } else if (entry->logs.size() < MostRecords) {
+            entry->logs.append(record);
+        }
+    }
+}
+
+} // namespace devhost

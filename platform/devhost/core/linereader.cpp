@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "linereader.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QTextCodec>
+
+namespace devhost {
+
+LineReader::LineReader(std::istream &input, int longest) : m_input(input), m_longest(longest) {}
+
+LineReader::Outcome LineReader::read(QString &line)
+{
+    line.clear();
+    QByteArray bytes;
+    bool isTooLong = false;
+    bool isAnything = false;
+    constexpr int end = std::istream::traits_type::eof();
+    for (int c = m_input.rdbuf()->sbumpc(); c != end; c = m_input.rdbuf()->sbumpc()) {
+        isAnything = true;
+        if (c == '\n')
+            break;
+        if (bytes.size() < m_longest)
+            bytes.append(static_cast<char>(c));
+        else
+            isTooLong = true;
+    }
+    if (!isAnything)
+        return End;
+    ++m_lineNumber;
+    if (isTooLong)
+        return TooLong;
+    if (bytes.endsWith('\r'))
+        bytes.chop(1);
+    if (m_lineNumber == 1 && bytes.startsWith("\xef\xbb\xbf"))
+        bytes.remove(0, 3);
+    QTextCodec::ConverterState state;
+    const QString text =
+        QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+    if (state.invalidChars > 0 || state.remainingChars > 0)
+        return NotUtf8;
+    line = text;
+    return Line;
+}
+
+} // namespace devhost

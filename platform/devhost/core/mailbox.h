@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <speakmate/reply.h>
+
+#include <QtCore/QMutex>
+#include <QtCore/QObject>
+
+#include <functional>
+
+namespace devhost {
+
+/**
+ * Where a plugin drops replies, from any thread and also after the host has gone. A reply is handed on from
+ * the event loop of the receiver's thread, never within post(): the plugin may be in the middle of a click.
+ */
+class Mailbox
+{
+public:
+    Mailbox(QObject *receiver, std::function<void(const Reply &)> deliver);
+    void post(const Reply &reply);
+    /// From here on replies are dropped. On the receiver's thread.
+    void close();
+
+private:
+    QMutex m_mutex; ///< guards what follows
+    QObject *m_receiver;
+    std::function<void(const Reply &)> m_deliver;
+};
+
+} // namespace devhost

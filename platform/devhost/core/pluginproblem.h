@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QString>
+
+namespace devhost {
+
+/// Why there is no plugin to talk to, and what the person in front of the host can do about it.
+struct PluginProblem
+{
+    enum Kind { None, Missing, NotAPlugin, OtherInterface, CannotLoad, InitFailed, NoService };
+
+    Kind kind = None;
+    QString what;
+    QString whatToDo;
+
+    QString toText() const { return what + QLatin1Char('\n') + whatToDo; }
+};
+
+} // namespace devhost

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+namespace devhost {
+
+/// What stands in for a password, whatever its length.
+QString secretMask();
+
+/// The values of the "password" slots of a semantic JSON. Empty for a text that is none.
+QStringList secretsIn(const QString &semantic);
+
+/// @p text with every one of @p secrets replaced by secretMask().
+QString withoutSecrets(QString text, const QStringList &secrets);
+
+} // namespace devhost

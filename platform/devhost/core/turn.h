@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "abilitycall.h"
+#include "logrecord.h"
+
+#include <QtCore/QString>
+#include <QtCore/QVector>
+
+namespace devhost {
+
+/// What is known of one turn of the conversation, without secrets. Cards are not in here.
+struct Turn
+{
+    enum State { Queued, Running, Done };
+
+    int id = 0; ///< counts from 1
+    State state = Queued;
+    QString said;     ///< as it is shown
+    QString semantic; ///< as the inspector shows it
+    int status = 0;   ///< of service()
+    int code = 0;
+    QString display;
+    QString speech;
+    int type = 0;
+    bool endOfSession = true;
+    QString cardClass; ///< empty without a card
+    QString failure;   ///< why there is no reply; empty when there is one
+    QVector<AbilityCall> calls;
+    QVector<LogRecord> logs;
+
+    // Milliseconds.
+    double understandingMsecs = 0;
+    double serviceMsecs = 0;
+    double replyMsecs = 0;
+
+    /// What the requests of the turn took together; the rest of serviceMsecs is the plugin's own.
+    double requestMsecs() const;
+};
+
+} // namespace devhost

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "pluginhost.h"
+#include "turnresult.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QThread>
+
+namespace devhost {
+
+/**
+ * Puts one semantic text at a time to the plugin: service() on a worker thread, getServiceReply() on the GUI
+ * thread once it has returned, and a fresh service for every call. Lives on the GUI thread and never blocks
+ * it, but for its destructor, which waits for a call that is under way.
+ */
+class TurnRunner final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p host must outlive the runner.
+    explicit TurnRunner(PluginHost &host, QObject *parent = nullptr);
+    ~TurnRunner() override;
+
+    bool isRunning() const { return m_isRunning; }
+    /// Not while isRunning(). finished() always follows, from the event loop.
+    void run(const QString &semantic);
+
+Q_SIGNALS:
+    void finished(const TurnResult &result);
+
+private:
+    void call(IService &service, const QString &semantic, TurnResult &result) const;
+    void fetchReply(TurnResult result);
+    void finish(const TurnResult &result);
+
+    PluginHost &m_host;
+    QThread m_thread;
+    QObject m_worker; ///< lives on m_thread
+    ServicePtr m_service;
+    bool m_isRunning = false;
+};
+
+} // namespace devhost

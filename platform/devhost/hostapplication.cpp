@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "hostapplication.h"
+
+#include "guarded.h"
+
+#include <QtGui/QIcon>
+#include <QtWidgets/QStyleFactory>
+
+namespace devhost {
+
+HostApplication::HostApplication(int &argc, char **argv) : QApplication(argc, argv)
+{
+    setOrganizationName(QStringLiteral("kelvane"));
+    setApplicationName(QStringLiteral("speakmate-devhost"));
+    setApplicationDisplayName(QStringLiteral("语音助手"));
+    setApplicationVersion(QStringLiteral(DEVHOST_VERSION));
+    setDesktopFileName(QStringLiteral("speakmate-devhost"));
+    setAttribute(Qt::AA_UseHighDpiPixmaps);
+    setWindowIcon(QIcon(QStringLiteral(":/devhost/speakmate-devhost.svg")));
+    // The one style that follows the toolkit's palettes on every desktop.
+    setStyle(QStyleFactory::create(QStringLiteral("fusion")));
+}
+
+bool HostApplication::notify(QObject *receiver, QEvent *event)
+{
+    bool isHandled = false;
+    const QString thrown = guarded([&] { isHandled = QApplication::notify(receiver, event); });
+    if (!thrown.isEmpty())
+        qCritical("An event handler threw: %s", qUtf8Printable(thrown));
+    return isHandled;
+}
+
+} // namespace devhost

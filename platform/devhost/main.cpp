@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "abilitycall.h"
+#include "hostapplication.h"
+#include "logrecorder.h"
+#include "options.h"
+#include "pluginhost.h"
+#include "textmodes.h"
+
+#include <lumo/lguiapplicationhelper.h>
+
+#include <QtCore/QLoggingCategory>
+
+#include <iostream>
+
+using namespace devhost;
+
+namespace {
+
+/// Windows are never shown in the text modes, so no display is needed; what the user asks for wins.
+void choosePlatform(bool wantsWindow)
+{
+    if (!wantsWindow && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", QByteArrayLiteral("offscreen"));
+}
+
+bool hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+void complain(const QString &message)
+{
+    std::cerr << "speakmate-devhost: " << qUtf8Printable(message) << std::endl;
+}
+
+void applyTheme(Options::Theme theme)
+{
+    auto *helper = LGuiApplicationHelper::instance();
+    if (theme == Options::Theme::Light)
+        helper->setPaletteType(LGuiApplicationHelper::LightType);
+    else if (theme == Options::Theme::Dark)
+        helper->setPaletteType(LGuiApplicationHelper::DarkType);
+}
+
+int run(const Options &options)
+{
+    LogRecorder logs(options.isVerbose ? LogRecorder::Terminal::Verbose : LogRecorder::Terminal::Quiet);
+    QLoggingCategory::setFilterRules(AbilityCall::category() + QStringLiteral(".debug=true"));
+    PluginHost host;
+    host.load(options.plugin);
+    if (!host.isLoaded()) {
+        complain(host.problem().toText());
+        return NoPlugin;
+    }
+    // Pictures of cards are the same everywhere, whatever desktop the host runs on.
+    applyTheme(options.theme == Options::Theme::Remembered ? Options::Theme::Light : options.theme);
+    return runTextMode(options, host, logs);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const bool wantsWindow = Options::wantsWindow(argc, argv);
+    choosePlatform(wantsWindow);
+    if (wantsWindow && !hasDisplay()) {
+        complain(QStringLiteral(
+            "There is no display to open a window on. Use --converse or --batch; see --help."));
+        return WrongUsage;
+    }
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    const HostApplication application(argc, argv);
+    const Options options = Options::read(HostApplication::arguments());
+    if (!options.usageError.isEmpty()) {
+        complain(options.usageError + QStringLiteral(" See --help."));
+        return WrongUsage;
+    }
+    switch (options.mode) {
+    case Options::Mode::Help:
+        std::cout << qUtf8Printable(Options::helpText());
+        return EverythingAnswered;
+    case Options::Mode::Version:
+        std::cout << "speakmate-devhost " DEVHOST_VERSION << std::endl;
+        return EverythingAnswered;
+    default:
+        return run(options);
+    }
+}

@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "options.h"
+
+#include <QtCore/QCommandLineParser>
+
+#include <algorithm>
+
+namespace devhost {
+
+namespace {
+
+// Each name once.
+const char *const BatchName = "batch";
+const char *const ConverseName = "converse";
+const char *const ScriptName = "script";
+
+class Parser
+{
+public:
+    Parser()
+    {
+        m_parser.setApplicationDescription(QStringLiteral(
+            "Development host for plugins of the voice assistant: a window to talk to a plugin "
+            "and to see what it does, or the same in a terminal."));
+        m_parser.addOptions(
+            {batch, converse, script, plugin, screenshots, contacts, theme, verbose, help, version});
+        m_parser.addPositionalArgument(
+            QStringLiteral("file"),
+            QStringLiteral("With --converse: the conversation to play. Without it, "
+                           "or with \"-\", sentences come from standard input."),
+            QStringLiteral("[file]"));
+    }
+
+    QCommandLineParser *operator->() { return &m_parser; }
+
+    const QCommandLineOption batch{
+        QString::fromLatin1(BatchName),
+        QStringLiteral("One semantic JSON per line in FILE (\"-\": standard input), "
+                       "one JSON reply per line on standard output."),
+        QStringLiteral("FILE")};
+    const QCommandLineOption converse{
+        QString::fromLatin1(ConverseName),
+        QStringLiteral("A conversation in the terminal: one sentence or semantic "
+                       "JSON per line.")};
+    const QCommandLineOption script{
+        QString::fromLatin1(ScriptName),
+        QStringLiteral("Play the conversation in FILE in the window; with "
+                       "--screenshots, picture the window after each turn and end."),
+        QStringLiteral("FILE")};
+    const QCommandLineOption plugin{QStringLiteral("plugin"),
+                                    QStringLiteral("The plugin's file, or its name in the installed folder "
+                                                   "(contact-plugin unless told otherwise)."),
+                                    QStringLiteral("PATH"), QStringLiteral("contact-plugin")};
+    const QCommandLineOption screenshots{QStringLiteral("screenshots"),
+                                         QStringLiteral("Write a PNG of every card to DIR."),
+                                         QStringLiteral("DIR")};
+    const QCommandLineOption contacts{
+        QStringLiteral("contacts"), QStringLiteral("Names that sentences may mention, one per line of FILE."),
+        QStringLiteral("FILE")};
+    const QCommandLineOption theme{
+        QStringLiteral("theme"),
+        QStringLiteral("light, dark or system. The window remembers its own choice."),
+        QStringLiteral("THEME")};
+    const QCommandLineOption verbose{
+        QStringLiteral("verbose"),
+        QStringLiteral("Also write the log, the plugin's too, to standard error.")};
+    const QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("This text.")};
+    const QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")},
+                                     QStringLiteral("The version.")};
+
+private:
+    QCommandLineParser m_parser;
+};
+
+Options::Mode modeOf(Parser &parser)
+{
+    if (parser->isSet(parser.help))
+        return Options::Mode::Help;
+    if (parser->isSet(parser.version))
+        return Options::Mode::Version;
+    if (parser->isSet(parser.batch))
+        return Options::Mode::Batch;
+    if (parser->isSet(parser.converse))
+        return Options::Mode::Converse;
+    return Options::Mode::Window;
+}
+
+bool readTheme(const QString &word, Options::Theme &theme)
+{
+    const struct
+    {
+        QLatin1String word;
+        Options::Theme theme;
+    } themes[] = {{QLatin1String("light"), Options::Theme::Light},
+                  {QLatin1String("dark"), Options::Theme::Dark},
+                  {QLatin1String("system"), Options::Theme::System}};
+    for (const auto &known : themes) {
+        if (word == known.word) {
+            theme = known.theme;
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+Options Options::read(const QStringList &arguments)
+{
+    Parser parser;
+    Options options;
+    if (!parser->parse(arguments)) {
+        options.usageError = parser->errorText();
+        return options;
+    }
+    options.mode = modeOf(parser);
+    options.plugin = parser->value(parser.plugin);
+    options.screenshots = parser->value(parser.screenshots);
+    options.contacts = parser->value(parser.contacts);
+    options.isVerbose = parser->isSet(parser.verbose);
+    const QStringList files = parser->positionalArguments();
+    if (options.mode == Mode::Batch)
+        options.input = parser->value(parser.batch);
+    else if (options.mode == Mode::Window)
+        options.input = parser->value(parser.script);
+    else if (options.mode == Mode::Converse)
+        options.input = files.value(0, QStringLiteral("-"));
+
+    const int modes = int(parser->isSet(parser.batch)) + int(parser->isSet(parser.converse)) +
+                      int(parser->isSet(parser.script));
+    if (modes > 1)
+        options.usageError = QStringLiteral("--batch, --converse and --script exclude each other.");
+    else if (files.size() > (options.mode == Mode::Converse ? 1 : 0))
+        options.usageError = QStringLiteral("Unexpected argument '%1'.").arg(files.last());
+    else if (parser->isSet(parser.theme) && !readTheme(parser->value(parser.theme), options.theme))
+        options.usageError = QStringLiteral("--theme takes light, dark or system.");
+    return options;
+}
+
+QString Options::helpText()
+{
+    Parser parser;
+    return parser->helpText();
+}
+
+bool Options::wantsWindow(int argc, char **argv)
+{
+    const QStringList windowless{QStringLiteral("--batch"),   QStringLiteral("--converse"),
+                                 QStringLiteral("--help"),    QStringLiteral("-h"),
+                                 QStringLiteral("--version"), QStringLiteral("-v")};
+    return std::none_of(argv + 1, argv + argc, [&windowless](const char *argument) {
+        return windowless.contains(QString::fromLocal8Bit(argument).section(QLatin1Char('='), 0, 0));
+    });
+}
+
+} // namespace devhost

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+QT_BEGIN_NAMESPACE
+class QCommandLineParser;
+QT_END_NAMESPACE
+
+namespace devhost {
+
+/// The command line, read.
+struct Options
+{
+    enum class Mode { Window, Batch, Converse, Help, Version };
+    enum class Theme { Remembered, System, Light, Dark };
+
+    Mode mode = Mode::Window;
+    QString plugin;      ///< a file, or a name in the installed folder
+    QString input;       ///< of Batch and Converse, and what Window plays; "-" is standard input
+    QString screenshots; ///< a folder, or empty
+    QString contacts;    ///< a file of known names, or empty
+    Theme theme = Theme::Remembered;
+    bool isVerbose = false;
+
+    QString usageError; ///< not empty: the line makes no sense
+
+    /// Needs an application object.
+    static Options read(const QStringList &arguments);
+    static QString helpText();
+    /// Whether a window will be shown; asked before there is an application, which needs to know.
+    static bool wantsWindow(int argc, char **argv);
+};
+
+} // namespace devhost

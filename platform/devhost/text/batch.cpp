@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "batch.h"
+
+#include "conversation.h"
+#include "replyjson.h"
+
+#include <QtCore/QJsonDocument>
+
+#include <memory>
+
+namespace devhost {
+
+Batch::Batch(PluginHost &host, const Streams &streams, const Screenshots &screenshots, QObject *parent)
+    : QObject(parent)
+    , m_streams(streams)
+    , m_screenshots(screenshots)
+    , m_reader(streams.input)
+    , m_runner(host)
+{
+    connect(&m_runner, &TurnRunner::finished, this, &Batch::answer);
+    connect(&host, &PluginHost::repliedLater, this, [this](const Reply &reply) {
+        const QString picture = QStringLiteral("line-%1-later-%2")
+                                    .arg(m_reader.lineNumber(), 4, 10, QLatin1Char('0'))
+                                    .arg(++m_laterReplies);
+        m_streams.errors << "line " << m_reader.lineNumber()
+                         << ": later reply: " << describe(reply, picture).constData() << std::endl;
+    });
+}
+
+void Batch::start()
+{
+    QMetaObject::invokeMethod(this, &Batch::next, Qt::QueuedConnection);
+}
+
+void Batch::next()
+{
+    QString line;
+    for (;;) {
+        switch (m_reader.read(line)) {
+        case LineReader::End:
+            Q_EMIT finished(m_status);
+            return;
+        case LineReader::TooLong:
+            complain(QStringLiteral("longer than 1 MiB, skipped"));
+            continue;
+        case LineReader::NotUtf8:
+            complain(QStringLiteral("not UTF-8, skipped"));
+            continue;
+        case LineReader::Line:
+            break;
+        }
+        if (line.trimmed().isEmpty())
+            continue;
+        QString reason;
+        if (isSemantic(line, reason))
+            break;
+        complain(reason);
+    }
+    m_runner.run(line);
+}
+
+bool Batch::isSemantic(const QString &line, QString &reason)
+{
+    QJsonParseError error{};
+    const QJsonDocument document = QJsonDocument::fromJson(line.toUtf8(), &error);
+    if (error.error != QJsonParseError::NoError)
+        reason = QStringLiteral("not JSON: %1 at byte %2").arg(error.errorString()).arg(error.offset);
+    else if (!document.isObject())
+        reason = QStringLiteral("not a JSON object");
+    return reason.isEmpty();
+}
+
+void Batch::answer(const TurnResult &result)
+{
+    if (!result.failure.isEmpty()) {
+        complain(result.failure);
+    } else {
+        if (result.isUnread())
+            complain(QStringLiteral("the plugin cannot read this as a semantic (service() answered -100)"));
+        const QString picture = QStringLiteral("line-%1").arg(m_reader.lineNumber(), 4, 10, QLatin1Char('0'));
+        m_streams.output << describe(result.reply, picture).constData() << std::endl;
+    }
+    QMetaObject::invokeMethod(this, &Batch::next, Qt::QueuedConnection);
+}
+
+QByteArray Batch::describe(const Reply &reply, const QString &pictureName)
+{
+    const std::unique_ptr<QWidget> card(cardOf(reply));
+    if (card == nullptr)
+        return replyJson(reply, nullptr);
+    CardNote note;
+    note.screenshot = m_screenshots.take(*card, pictureName);
+    if (m_screenshots.isOn() && note.screenshot.isEmpty())
+        complain(
+            QStringLiteral("the picture of the card could not be written to %1").arg(m_screenshots.folder()));
+    note.className = QString::fromLatin1(card->metaObject()->className());
+    note.width = card->width();
+    note.height = card->height();
+    return replyJson(reply, &note);
+}
+
+void Batch::complain(const QString &message)
+{
+    m_status = SomethingBroken;
+    m_streams.errors << "line " << m_reader.lineNumber() << ": " << qUtf8Printable(message) << std::endl;
+}
+
+} // namespace devhost

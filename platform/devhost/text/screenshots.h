@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QString>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+namespace devhost {
+
+/// A folder for pictures of cards; without one, nothing is written and everything succeeds.
+class Screenshots
+{
+public:
+    explicit Screenshots(const QString &folder = QString());
+
+    bool isOn() const { return !m_folder.isEmpty(); }
+    /// Makes the folder. False when that fails.
+    bool prepare() const;
+    /// Lays out @p card, writes its picture and returns the file's name; empty when it could not be written,
+    /// or when there is no folder.
+    QString take(QWidget &card, const QString &baseName) const;
+    QString folder() const { return m_folder; }
+
+private:
+    const QString m_folder;
+};
+
+} // namespace devhost

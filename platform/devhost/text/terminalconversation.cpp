@@ -1,0 +1,137 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "terminalconversation.h"
+
+#include "cardsummary.h"
+#include "cleantext.h"
+#include "echooff.h"
+#include "textlayout.h"
+
+#include <memory>
+
+namespace devhost {
+
+namespace {
+
+constexpr int Columns = 72;
+constexpr int TextColumns = 52;
+
+constexpr const char *SaidColour = "\033[36m";
+constexpr const char *ReplyColour = "\033[1m";
+constexpr const char *CardColour = "\033[33m";
+constexpr const char *FailureColour = "\033[31m";
+constexpr const char *PlainColour = "\033[0m";
+
+QString turnPicture(int turn)
+{
+    return QStringLiteral("turn-%1").arg(turn, 2, 10, QLatin1Char('0'));
+}
+
+} // namespace
+
+TerminalConversation::TerminalConversation(Conversation &conversation, const Terminal &terminal,
+                                           const Screenshots &screenshots, QObject *parent)
+    : QObject(parent)
+    , m_conversation(conversation)
+    , m_terminal(terminal)
+    , m_screenshots(screenshots)
+    , m_reader(terminal.input)
+{
+    connect(&m_conversation, &Conversation::started, this, [this](int turn) {
+        // With an echoing terminal the sentence stands there already.
+        if (!m_terminal.isPrompting)
+            printSaid(turn);
+    });
+    connect(&m_conversation, &Conversation::replied, this,
+            [this](int turn, const Reply &reply) { printReply(turn, reply, turnPicture(turn)); });
+    connect(&m_conversation, &Conversation::repliedLater, this, [this](int turn, const Reply &reply) {
+        printReply(turn, reply, turnPicture(turn) + QStringLiteral("-later-%1").arg(++m_laterReplies));
+    });
+    connect(&m_conversation, &Conversation::failed, this, [this](int, const QString &reason) {
+        m_status = SomethingBroken;
+        printLine(FailureColour, QStringLiteral("  ！ ") + reason);
+    });
+    connect(&m_conversation, &Conversation::idle, this, &TerminalConversation::next);
+}
+
+void TerminalConversation::start()
+{
+    QMetaObject::invokeMethod(this, &TerminalConversation::next, Qt::QueuedConnection);
+}
+
+void TerminalConversation::next()
+{
+    for (;;) {
+        if (m_terminal.isPrompting)
+            m_terminal.output << (m_conversation.expectsSecret() ? "密码> " : "你> ") << std::flush;
+        QString line;
+        const std::unique_ptr<EchoOff> echoOff =
+            m_terminal.isPrompting && m_conversation.expectsSecret() ? std::make_unique<EchoOff>() : nullptr;
+        const LineReader::Outcome outcome = m_reader.read(line);
+        if (outcome == LineReader::End) {
+            Q_EMIT finished(m_status);
+            return;
+        }
+        if (outcome != LineReader::Line) {
+            complain(outcome == LineReader::TooLong ? QStringLiteral("longer than 1 MiB, skipped")
+                                                    : QStringLiteral("not UTF-8, skipped"));
+            continue;
+        }
+        line = line.trimmed();
+        if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
+            continue;
+        m_conversation.say(line);
+        return;
+    }
+}
+
+void TerminalConversation::printSaid(int turn)
+{
+    m_terminal.output << '\n';
+    const QString label = QStringLiteral("  ：你");
+    for (QString line : wrapped(m_conversation.turn(turn).said, TextColumns)) {
+        line += label;
+        const int indent = qMax(0, Columns - terminalWidth(line));
+        printLine(SaidColour, QString(indent, QLatin1Char(' ')) + line);
+    }
+}
+
+void TerminalConversation::printReply(int turn, const Reply &reply, const QString &pictureName)
+{
+    const int code = reply.code.toInt();
+    QStringList lines = wrapped(cleanText(reply.displayText.toString()), TextColumns);
+    if (code != 0)
+        lines.last() += QStringLiteral("  (%1)").arg(code);
+    for (int i = 0; i < lines.size(); ++i)
+        printLine(ReplyColour, (i == 0 ? QStringLiteral("助手：") : QStringLiteral("      ")) + lines.at(i));
+
+    const std::unique_ptr<QWidget> card(cardOf(reply));
+    if (card == nullptr)
+        return;
+    const QString picture = m_screenshots.take(*card, pictureName);
+    for (const QString &line : cardSummary(*card))
+        printLine(CardColour, QStringLiteral("      │ ") + line);
+    if (!picture.isEmpty())
+        printLine(CardColour, QStringLiteral("      └ %1/%2").arg(m_screenshots.folder(), picture));
+    else if (m_screenshots.isOn())
+        complain(QStringLiteral("the picture of turn %1 could not be written to %2")
+                     .arg(turn)
+                     .arg(m_screenshots.folder()));
+}
+
+void TerminalConversation::printLine(const char *colour, const QString &line)
+{
+    if (m_terminal.isColoured)
+        m_terminal.output << colour << qUtf8Printable(line) << PlainColour << std::endl;
+    else
+        m_terminal.output << qUtf8Printable(line) << std::endl;
+}
+
+void TerminalConversation::complain(const QString &message)
+{
+    m_status = SomethingBroken;
+    m_terminal.errors << "line " << m_reader.lineNumber() << ": " << qUtf8Printable(message) << std::endl;
+}
+
+} // namespace devhost

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QString>
+
+#include <chrono>
+
+/**
+ * Writes each finished request as one debug record of the category "kelvane.ability", which is off unless the
+ * process asks for it. The record's text is a JSON object, passwords blotted out:
+ *
+ *     {"action":"Join Conference","answer":"{\"ret\":\"OK\"}","code":0,"ms":3.2,
+ *      "parameters":"{\"conferenceId\":\"600100\",\"password\":\"••••\"}"}
+ */
+class AbilityTrace
+{
+public:
+    /// Starts the clock of one request.
+    AbilityTrace(const QString &action, const QString &parameters);
+    void finish(int code, const QString &answer) const;
+
+    /// @p parameters with the value of "password" replaced; as it came when it is no JSON object or has none.
+    static QString withoutPassword(const QString &parameters);
+
+private:
+    const QString m_action;
+    const QString m_parameters;
+    const std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
+};

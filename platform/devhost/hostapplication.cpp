@@ -10,7 +10,14 @@
 
 namespace devhost {
 
-HostApplication::HostApplication(int &argc, char **argv) : QApplication(argc, argv)
+HostApplication::HostApplication(char *programName)
+    : HostApplication(std::make_unique<Arguments>(Arguments{1, {programName, nullptr}}))
+{
+}
+
+HostApplication::HostApplication(std::unique_ptr<Arguments> arguments)
+    : QApplication(arguments->count, arguments->values)
+    , m_arguments(std::move(arguments))
 {
     setOrganizationName(QStringLiteral("kelvane"));
     setApplicationName(QStringLiteral("speakmate-devhost"));

@@ -5,6 +5,8 @@
 
 #include <QtWidgets/QApplication>
 
+#include <memory>
+
 namespace devhost {
 
 /// The application object: sets the look, and keeps the exceptions of a plugin's cards from ending the host.
@@ -13,9 +15,21 @@ class HostApplication final : public QApplication
     Q_OBJECT
 
 public:
-    HostApplication(int &argc, char **argv);
+    /// @p programName is argv[0], or its like. Qt sees no other argument: it would take "--plugin" for its
+    /// own.
+    explicit HostApplication(char *programName);
 
     bool notify(QObject *receiver, QEvent *event) override;
+
+private:
+    struct Arguments
+    {
+        int count = 1;
+        char *values[2] = {};
+    };
+    HostApplication(std::unique_ptr<Arguments> arguments);
+
+    const std::unique_ptr<Arguments> m_arguments; ///< Qt keeps pointing there
 };
 
 } // namespace devhost

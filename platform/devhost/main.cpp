@@ -64,7 +64,10 @@ int run(const Options &options)
 
 int main(int argc, char **argv)
 {
-    const bool wantsWindow = Options::wantsWindow(argc, argv);
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const bool wantsWindow = Options::wantsWindow(arguments);
     choosePlatform(wantsWindow);
     if (wantsWindow && !hasDisplay()) {
         complain(QStringLiteral(
@@ -72,8 +75,8 @@ int main(int argc, char **argv)
         return WrongUsage;
     }
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    const HostApplication application(argc, argv);
-    const Options options = Options::read(HostApplication::arguments());
+    const HostApplication application(argv[0]);
+    const Options options = Options::read(arguments);
     if (!options.usageError.isEmpty()) {
         complain(options.usageError + QStringLiteral(" See --help."));
         return WrongUsage;

@@ -5,16 +5,9 @@
 
 #include <QtCore/QCommandLineParser>
 
-#include <algorithm>
-
 namespace devhost {
 
 namespace {
-
-// Each name once.
-const char *const BatchName = "batch";
-const char *const ConverseName = "converse";
-const char *const ScriptName = "script";
 
 class Parser
 {
@@ -36,16 +29,15 @@ public:
     QCommandLineParser *operator->() { return &m_parser; }
 
     const QCommandLineOption batch{
-        QString::fromLatin1(BatchName),
+        QStringLiteral("batch"),
         QStringLiteral("One semantic JSON per line in FILE (\"-\": standard input), "
                        "one JSON reply per line on standard output."),
         QStringLiteral("FILE")};
     const QCommandLineOption converse{
-        QString::fromLatin1(ConverseName),
-        QStringLiteral("A conversation in the terminal: one sentence or semantic "
-                       "JSON per line.")};
+        QStringLiteral("converse"), QStringLiteral("A conversation in the terminal: one sentence or semantic "
+                                                   "JSON per line.")};
     const QCommandLineOption script{
-        QString::fromLatin1(ScriptName),
+        QStringLiteral("script"),
         QStringLiteral("Play the conversation in FILE in the window; with "
                        "--screenshots, picture the window after each turn and end."),
         QStringLiteral("FILE")};
@@ -146,14 +138,10 @@ QString Options::helpText()
     return parser->helpText();
 }
 
-bool Options::wantsWindow(int argc, char **argv)
+bool Options::wantsWindow(const QStringList &arguments)
 {
-    const QStringList windowless{QStringLiteral("--batch"),   QStringLiteral("--converse"),
-                                 QStringLiteral("--help"),    QStringLiteral("-h"),
-                                 QStringLiteral("--version"), QStringLiteral("-v")};
-    return std::none_of(argv + 1, argv + argc, [&windowless](const char *argument) {
-        return windowless.contains(QString::fromLocal8Bit(argument).section(QLatin1Char('='), 0, 0));
-    });
+    const Mode mode = read(arguments).mode;
+    return mode == Mode::Window;
 }
 
 } // namespace devhost

@@ -28,11 +28,12 @@ struct Options
 
     QString usageError; ///< not empty: the line makes no sense
 
-    /// Needs an application object.
+    /// @p arguments start with the program's name.
     static Options read(const QStringList &arguments);
+    /// Needs an application object.
     static QString helpText();
     /// Whether a window will be shown; asked before there is an application, which needs to know.
-    static bool wantsWindow(int argc, char **argv);
+    static bool wantsWindow(const QStringList &arguments);
 };
 
 } // namespace devhost

@@ -8,6 +8,9 @@
 #include "secrets.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
 
 namespace devhost {
 
@@ -18,6 +21,18 @@ constexpr int MostTurns = 2000;
 /// So many log records and requests are kept of one turn.
 constexpr int MostRecords = 1000;
 constexpr int ShownInputLength = 2000;
+
+/// What the conversation shows for a semantic text, which is too long to read: the names of its intents.
+QString semanticTitle(const QString &semantic)
+{
+    QString title = QStringLiteral("语义 JSON");
+    const QJsonObject intent =
+        QJsonDocument::fromJson(semantic.toUtf8()).object().value(QLatin1String("intent")).toObject();
+    const QJsonArray items = intent.value(QLatin1String("semantic")).toArray();
+    for (const QJsonValue item : items)
+        title += QLatin1Char(' ') + item.toObject().value(QLatin1String("intent")).toString();
+    return cleanText(title.left(ShownInputLength));
+}
 
 } // namespace
 
@@ -70,8 +85,7 @@ int Conversation::enqueue(const QString &text, bool isSemantic)
 {
     Turn turn;
     turn.id = ++m_lastId;
-    const QString shown = isSemantic ? withoutSecrets(text, secretsIn(text)) : m_dialogue.masked(text);
-    turn.said = cleanText(shown.left(ShownInputLength));
+    turn.said = isSemantic ? semanticTitle(text) : shownSentence(text);
     m_turns.insert(turn.id, turn);
     m_turns.remove(turn.id - MostTurns);
     m_queue.enqueue({turn.id, text, isSemantic});
@@ -79,6 +93,11 @@ int Conversation::enqueue(const QString &text, bool isSemantic)
     // From the event loop: whoever says something first gets to know its turn.
     QMetaObject::invokeMethod(this, &Conversation::startNext, Qt::QueuedConnection);
     return turn.id;
+}
+
+QString Conversation::shownSentence(const QString &sentence) const
+{
+    return cleanText(m_dialogue.masked(sentence.left(ShownInputLength)));
 }
 
 void Conversation::startNext()
@@ -105,7 +124,7 @@ void Conversation::startNext()
 QString Conversation::understand(Input &input)
 {
     Turn &turn = m_turns[input.turn];
-    const QString shown = cleanText(m_dialogue.masked(input.text).left(ShownInputLength));
+    const QString shown = shownSentence(input.text);
     if (shown != turn.said) {
         turn.said = shown;
         Q_EMIT saidChanged(input.turn, shown);

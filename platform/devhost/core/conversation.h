@@ -83,6 +83,7 @@ private:
     };
 
     int enqueue(const QString &text, bool isSemantic);
+    QString shownSentence(const QString &sentence) const;
     void startNext();
     QString understand(Input &input);
     void takeResult(const TurnResult &result);

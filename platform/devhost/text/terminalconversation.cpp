@@ -89,11 +89,11 @@ void TerminalConversation::next()
 void TerminalConversation::printSaid(int turn)
 {
     m_terminal.output << '\n';
-    const QString label = QStringLiteral("  ：你");
-    for (QString line : wrapped(m_conversation.turn(turn).said, TextColumns)) {
-        line += label;
-        const int indent = qMax(0, Columns - terminalWidth(line));
-        printLine(SaidColour, QString(indent, QLatin1Char(' ')) + line);
+    QString label = QStringLiteral("  ：你");
+    for (const QString &line : wrapped(m_conversation.turn(turn).said, TextColumns)) {
+        const int indent = qMax(0, Columns - terminalWidth(line) - terminalWidth(label));
+        printLine(SaidColour, QString(indent, QLatin1Char(' ')) + line + label);
+        label = QString(terminalWidth(label), QLatin1Char(' '));
     }
 }
 

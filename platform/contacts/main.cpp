@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "core/databaseerror.h"
+#include "service/administration.h"
 #include "service/busservice.h"
 #include "service/contactsbook.h"
 #include "service/display.h"
+#include "window/contactswindow.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QDebug>
@@ -23,7 +25,9 @@ std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv, bool w
     return std::make_unique<QCoreApplication>(argc, argv);
 }
 
-int serve(QCoreApplication &application)
+enum class FirstSight { Window, Nothing };
+
+int serve(QCoreApplication &application, FirstSight firstSight)
 {
     std::unique_ptr<ContactsBook> book;
     try {
@@ -42,6 +46,20 @@ int serve(QCoreApplication &application)
         return Served;
     case BusService::Start::Done:
         break;
+    }
+    Administration administration(*book);
+    std::unique_ptr<ContactsWindow> window; // made when it is first wanted: most of the time nobody looks
+    if (qobject_cast<QApplication *>(&application)) {
+        const auto showWindow = [&] {
+            if (!window)
+                window = std::make_unique<ContactsWindow>(*book, administration);
+            window->bringUp();
+        };
+        // Not within the request that wants it: the answer goes first.
+        QObject::connect(book.get(), &ContactsBook::windowWanted, book.get(), showWindow,
+                         Qt::QueuedConnection);
+        if (firstSight == FirstSight::Window)
+            showWindow();
     }
     return QCoreApplication::exec();
 }
@@ -67,5 +85,5 @@ int main(int argc, char **argv)
         QStringLiteral("Serve other programs and show no window until it is asked for."));
     parser.addOption(service);
     parser.process(*application);
-    return serve(*application);
+    return serve(*application, parser.isSet(service) ? FirstSight::Nothing : FirstSight::Window);
 }

@@ -98,10 +98,13 @@ QVector<Conference> ConferenceRepository::ofUser(const QString &userId, qint64 f
     return conferences;
 }
 
-QVector<Conference> ConferenceRepository::all(const QString &viewerId) const
+QVector<Conference> ConferenceRepository::startingAfter(qint64 fromMsecs, const QString &viewerId,
+                                                        int limit) const
 {
-    Statement query(m_database, conferenceQuery(QLatin1String("ORDER BY conference.start_msecs")));
-    query.run();
+    Statement query(m_database,
+                    conferenceQuery(QLatin1String(
+                        "WHERE conference.start_msecs > ? ORDER BY conference.start_msecs LIMIT ?")));
+    query.bind(fromMsecs).bind(limit).run();
     QVector<Conference> conferences;
     while (query.next())
         conferences.append(readConference(query));

@@ -65,6 +65,13 @@ QString Database::defaultFileName()
            QStringLiteral("/kelvane-contacts/contacts.db");
 }
 
+qint64 Database::writtenRows() const
+{
+    Statement query(m_database, QStringLiteral("SELECT total_changes()"));
+    query.run().next();
+    return query.number(0);
+}
+
 void Database::open(const QString &fileName)
 {
     m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connectionName);

@@ -18,6 +18,9 @@ public:
     ~Database();
 
     QSqlDatabase handle() const { return m_database; }
+    /// Grows with every row that is written.
+    qint64 writtenRows() const;
+
     /// The user's own file, below the XDG data folder.
     static QString defaultFileName();
 

@@ -40,6 +40,7 @@ QStringList firstVersion()
                        " passcode TEXT NOT NULL DEFAULT ''"
                        ")"),
         QStringLiteral("CREATE INDEX conference_by_host ON conference(host_id)"),
+        QStringLiteral("CREATE INDEX conference_by_start ON conference(start_msecs)"),
         // The start is kept here too, so that one person's day is one walk along one index, however many
         // conferences other people have.
         QStringLiteral("CREATE TABLE participant ("

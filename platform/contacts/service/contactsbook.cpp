@@ -48,6 +48,7 @@ QString ContactsBook::perform(const QString &action, const QString &parameters)
     try {
         const RequestParameters request(parameters);
         bool windowWanted = false;
+        const qint64 writtenBefore = m_database.writtenRows();
         QJsonObject answer;
         {
             Transaction transaction(m_database.handle());
@@ -64,7 +65,8 @@ QString ContactsBook::perform(const QString &action, const QString &parameters)
             }
             transaction.commit();
         }
-        Q_EMIT changed();
+        if (m_database.writtenRows() != writtenBefore)
+            Q_EMIT changed();
         if (windowWanted)
             Q_EMIT this->windowWanted();
         return toText(answer);

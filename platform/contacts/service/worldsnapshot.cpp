@@ -18,6 +18,8 @@ const QString FriendshipWords[] = {QStringLiteral("colleague"), QStringLiteral("
 const QString StateWords[] = {QStringLiteral("notStarted"), QStringLiteral("running"),
                               QStringLiteral("ended")};
 
+constexpr int SnapshotLimit = 10000;
+
 QJsonObject personToJson(const Person &person)
 {
     return {{QStringLiteral("userId"), person.userId},
@@ -72,7 +74,7 @@ QString worldSnapshot(ContactsBook &book)
         contacts.insert(person.account, contactsToJson(book, person.userId));
     }
     QJsonArray conferences;
-    for (const Conference &conference : book.conferences().all(QString())) {
+    for (const Conference &conference : book.conferences().startingAfter(-1, QString(), SnapshotLimit)) {
         const std::optional<Person> host = book.people().byUserId(conference.hostId);
         conferences.append(conferenceToJson(conference, host ? host->account : QString(), book.nowMsecs()));
     }

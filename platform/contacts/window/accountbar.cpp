@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "accountbar.h"
+
+#include "../core/displaytext.h"
+#include "../service/administration.h"
+#include "../service/contactsbook.h"
+
+#include <QtCore/QSignalBlocker>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+
+AccountBar::AccountBar(ContactsBook &book, Administration &administration, QWidget *parent)
+    : QWidget(parent)
+    , m_book(book)
+    , m_administration(administration)
+    , m_account(new QComboBox)
+    , m_logout(new QPushButton(QStringLiteral("退出登录(&O)")))
+    , m_kind(new QComboBox)
+    , m_elsewhere(new QCheckBox(QStringLiteral("正在其他设备上开会(&E)")))
+{
+    addControls();
+    connect(m_account, QOverload<int>::of(&QComboBox::activated), this, &AccountBar::loginSelected);
+    connect(m_logout, &QPushButton::clicked, &m_administration, &Administration::Logout);
+    connect(m_kind, QOverload<int>::of(&QComboBox::activated), this, [this] {
+        m_administration.SetAccountKind(m_account->currentData().toString(),
+                                        m_kind->currentData().toString());
+    });
+    connect(m_elsewhere, &QCheckBox::clicked, &m_administration, &Administration::SetEngagedElsewhere);
+    connect(&m_book, &ContactsBook::changed, this, &AccountBar::reload);
+    reload();
+}
+
+void AccountBar::addControls()
+{
+    m_account->setObjectName(QStringLiteral("account"));
+    m_account->setAccessibleName(QStringLiteral("登录账号"));
+    m_account->setMinimumContentsLength(16);
+    m_account->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_logout->setObjectName(QStringLiteral("logout"));
+    m_kind->setObjectName(QStringLiteral("kind"));
+    m_kind->setAccessibleName(QStringLiteral("账号类型"));
+    m_kind->addItem(QStringLiteral("付费"), QStringLiteral("paying"));
+    m_kind->addItem(QStringLiteral("免费"), QStringLiteral("free"));
+    m_elsewhere->setObjectName(QStringLiteral("elsewhere"));
+    auto *label = new QLabel(QStringLiteral("账号(&A)"));
+    label->setBuddy(m_account);
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(label);
+    layout->addWidget(m_account);
+    layout->addWidget(m_kind);
+    layout->addWidget(m_logout);
+    layout->addStretch(1);
+    layout->addWidget(m_elsewhere);
+}
+
+void AccountBar::loginSelected()
+{
+    m_administration.Login(m_account->currentData().toString());
+}
+
+void AccountBar::reload()
+{
+    const QSignalBlocker blocker(m_account);
+    m_account->clear();
+    try {
+        m_account->addItem(QStringLiteral("未登录"), QString());
+        for (const Person &person : m_book.people().all()) {
+            m_account->addItem(QStringLiteral("%1 %2").arg(cleanDisplayText(person.name), person.account),
+                               person.account);
+        }
+        const std::optional<Person> user = m_book.session().user();
+        m_account->setCurrentIndex(user ? m_account->findData(user->account) : 0);
+        m_kind->setCurrentIndex(user && user->kind == AccountKind::Free ? 1 : 0);
+        m_kind->setEnabled(user.has_value());
+        m_logout->setEnabled(user.has_value());
+        m_elsewhere->setChecked(m_book.session().isEngagedElsewhere());
+    } catch (const std::exception &error) {
+        qWarning("The accounts cannot be shown: %s", error.what());
+    }
+}

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QPushButton>
+
+class Administration;
+class ContactsBook;
+
+/// Who uses the application: log in, log out, the account's kind, and whether the user is in a conference on
+/// another device.
+class AccountBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Both must outlive it.
+    AccountBar(ContactsBook &book, Administration &administration, QWidget *parent = nullptr);
+
+    void reload();
+
+private:
+    void addControls();
+    void loginSelected();
+
+    ContactsBook &m_book;
+    Administration &m_administration;
+    QComboBox *m_account; ///< children, all of them
+    QPushButton *m_logout;
+    QComboBox *m_kind;
+    QCheckBox *m_elsewhere;
+};

@@ -1,0 +1,238 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "conferencemodel.h"
+
+#include "../core/displaytext.h"
+#include "../service/contactsbook.h"
+
+#include <lumo/plaintooltip.h>
+
+#include <QtCore/QDateTime>
+#include <QtGui/QColor>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr qint64 MinuteMsecs = 60 * 1000;
+constexpr qint64 LookBackMsecs = 30 * 24 * 60 * MinuteMsecs;
+constexpr int RowLimit = 1000;
+
+/// What the table says for a state. The colours are those of the assistant's cards.
+struct StateLook
+{
+    QString text;
+    QColor color; ///< invalid: the table's own
+};
+
+StateLook lookOf(ConferenceState state)
+{
+    switch (state) {
+    case ConferenceState::NotStarted:
+        return {QStringLiteral("未开始"), QColor(0, 129, 255)};
+    case ConferenceState::Running:
+        return {QStringLiteral("进行中"), QColor(89, 190, 45)};
+    case ConferenceState::Ended:
+        break;
+    }
+    return {QStringLiteral("已结束"), QColor()};
+}
+
+QString headerText(int column)
+{
+    static const std::array<QString, ConferenceModel::ColumnCount> headers{
+        QStringLiteral("状态"), QStringLiteral("主题"), QStringLiteral("会议号"), QStringLiteral("开始时间"),
+        QStringLiteral("时长"), QStringLiteral("人数"), QStringLiteral("主持人"), QStringLiteral("密码")};
+    return headers.at(static_cast<size_t>(column));
+}
+
+QString hostName(const Conference &conference)
+{
+    for (const Participant &participant : conference.participants) {
+        if (participant.userId == conference.hostId)
+            return cleanDisplayText(participant.name);
+    }
+    return {};
+}
+
+QString startText(qint64 startMsecs)
+{
+    return QDateTime::fromMSecsSinceEpoch(startMsecs).toString(QStringLiteral("yyyy-MM-dd hh:mm"));
+}
+
+QString participantNames(const Conference &conference)
+{
+    QStringList names;
+    for (const Participant &participant : conference.participants)
+        names.append(cleanDisplayText(participant.name));
+    return names.join(QStringLiteral("、"));
+}
+
+bool hasSameRows(const QVector<Conference> &left, const QVector<Conference> &right)
+{
+    return std::equal(left.cbegin(), left.cend(), right.cbegin(), right.cend(),
+                      [](const Conference &one, const Conference &other) { return one.id == other.id; });
+}
+
+} // namespace
+
+ConferenceModel::ConferenceModel(ContactsBook &book, QObject *parent)
+    : QAbstractTableModel(parent)
+    , m_book(book)
+{
+    m_clock.setSingleShot(true);
+    connect(&m_clock, &QTimer::timeout, this, &ConferenceModel::followClock);
+    connect(&m_book, &ContactsBook::changed, this, &ConferenceModel::reload);
+    reload();
+}
+
+void ConferenceModel::setScope(Scope scope)
+{
+    m_scope = scope;
+    reload();
+}
+
+void ConferenceModel::reload()
+{
+    QVector<Conference> conferences = load();
+    // Rows that stay keep their selection.
+    if (hasSameRows(conferences, m_conferences)) {
+        m_conferences = std::move(conferences);
+        if (!m_conferences.isEmpty())
+            Q_EMIT dataChanged(index(0, 0), index(m_conferences.size() - 1, ColumnCount - 1));
+    } else {
+        beginResetModel();
+        m_conferences = std::move(conferences);
+        endResetModel();
+    }
+    waitForNextChange();
+}
+
+int ConferenceModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_conferences.size();
+}
+
+int ConferenceModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant ConferenceModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || index.row() >= m_conferences.size())
+        return {};
+    const Conference &conference = m_conferences.at(index.row());
+    const ConferenceState state = conference.stateAt(m_book.nowMsecs());
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::AccessibleTextRole:
+        return display(conference, index.column());
+    case Qt::ToolTipRole:
+        return plainToolTip(index.column() == People ? participantNames(conference)
+                                                     : display(conference, index.column()));
+    case Qt::ForegroundRole: {
+        const QColor color = index.column() == State ? lookOf(state).color : QColor();
+        return color.isValid() ? color : QVariant();
+    }
+    case NumberRole:
+        return conference.dialNumber;
+    case ConferenceIdRole:
+        return conference.confId;
+    case StateRole:
+        return static_cast<int>(state);
+    case SortRole:
+        return sortKey(conference, index.column());
+    case SearchRole:
+        return QStringList{cleanDisplayText(conference.title), conference.dialNumber,
+                           participantNames(conference), lookOf(state).text}
+            .join(QLatin1Char(' '));
+    default:
+        return {};
+    }
+}
+
+QVariant ConferenceModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= ColumnCount)
+        return {};
+    return headerText(section);
+}
+
+QVector<Conference> ConferenceModel::load() const
+{
+    const qint64 from = m_book.nowMsecs() - LookBackMsecs;
+    try {
+        const std::optional<Person> user = m_book.session().user();
+        const QString userId = user ? user->userId : QString();
+        return m_scope == Scope::Mine
+                   ? m_book.conferences().ofUser(userId, from, std::numeric_limits<qint64>::max(), RowLimit)
+                   : m_book.conferences().startingAfter(from, userId, RowLimit);
+    } catch (const std::exception &error) {
+        qWarning("The conferences cannot be shown: %s", error.what());
+        return {};
+    }
+}
+
+void ConferenceModel::followClock()
+{
+    if (!m_conferences.isEmpty())
+        Q_EMIT dataChanged(index(0, 0), index(m_conferences.size() - 1, ColumnCount - 1));
+    waitForNextChange();
+}
+
+void ConferenceModel::waitForNextChange()
+{
+    // Looks at the clock at least every minute: somebody may set it.
+    const qint64 now = m_book.nowMsecs();
+    qint64 next = now + MinuteMsecs;
+    for (const Conference &conference : qAsConst(m_conferences)) {
+        for (const qint64 change : {conference.startMsecs, conference.endMsecs()}) {
+            if (change > now)
+                next = qMin(next, change);
+        }
+    }
+    m_clock.start(static_cast<int>(next - now));
+}
+
+QString ConferenceModel::display(const Conference &conference, int column) const
+{
+    switch (column) {
+    case State:
+        return lookOf(conference.stateAt(m_book.nowMsecs())).text;
+    case Title:
+        return cleanDisplayText(conference.title);
+    case Number:
+        return conference.dialNumber;
+    case Start:
+        return startText(conference.startMsecs);
+    case Duration:
+        return QStringLiteral("%1分钟").arg(conference.durationMsecs / MinuteMsecs);
+    case People:
+        return QStringLiteral("%1/%2").arg(conference.participants.size()).arg(conference.participantLimit);
+    case Host:
+        return hostName(conference);
+    case Passcode:
+        return conference.passcode;
+    default:
+        return {};
+    }
+}
+
+QVariant ConferenceModel::sortKey(const Conference &conference, int column) const
+{
+    switch (column) {
+    case State:
+        return static_cast<int>(conference.stateAt(m_book.nowMsecs()));
+    case Start:
+        return conference.startMsecs;
+    case Duration:
+        return conference.durationMsecs;
+    case People:
+        return conference.participants.size();
+    default:
+        return display(conference, column);
+    }
+}

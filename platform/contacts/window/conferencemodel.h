@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "../core/conference.h"
+
+#include <QtCore/QAbstractTableModel>
+#include <QtCore/QTimer>
+
+class ContactsBook;
+
+/**
+ * Conferences as a table. Follows the database, and the clock: a row changes at the moment its conference
+ * starts or ends. On the GUI thread.
+ */
+class ConferenceModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { State, Title, Number, Start, Duration, People, Host, Passcode, ColumnCount };
+    enum Role {
+        NumberRole = Qt::UserRole, ///< the dial number, also where another column is asked
+        ConferenceIdRole,
+        StateRole,  ///< a ConferenceState as int
+        SortRole,   ///< what a column is sorted by
+        SearchRole, ///< what a filter looks into
+    };
+    enum class Scope { Mine, Everybody };
+
+    /// @p book must outlive it.
+    explicit ConferenceModel(ContactsBook &book, QObject *parent = nullptr);
+
+    void setScope(Scope scope);
+    void reload();
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    QVector<Conference> load() const;
+    void followClock();
+    void waitForNextChange();
+    QString display(const Conference &conference, int column) const;
+    QVariant sortKey(const Conference &conference, int column) const;
+
+    ContactsBook &m_book;
+    Scope m_scope = Scope::Mine;
+    QVector<Conference> m_conferences;
+    QTimer m_clock;
+};

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "conferencemodel.h"
+#include "tablepage.h"
+
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QPushButton>
+
+class Administration;
+
+/// The conferences, and what one can do with the selected one.
+class ConferencePage : public TablePage
+{
+    Q_OBJECT
+
+public:
+    /// @p model becomes a child, @p administration must outlive it.
+    ConferencePage(ConferenceModel *model, ContactsBook &book, Administration &administration,
+                   QWidget *parent = nullptr);
+
+Q_SIGNALS:
+    /// Something to tell the user.
+    void told(const QString &text);
+
+private:
+    QPushButton *addButton(const QString &name, const QString &text);
+    void addControls();
+    void connectControls();
+    void perform(const QString &action, const QJsonObject &parameters);
+    void join();
+    void setState(const QString &state);
+    void showWhatIsPossible();
+
+    ConferenceModel *m_model;
+    ContactsBook &m_book;
+    Administration &m_administration;
+    QComboBox *m_scope; ///< children, all of them
+    QLineEdit *m_passcode;
+    QPushButton *m_join;
+    QPushButton *m_leave;
+    QPushButton *m_create;
+    QPushButton *m_start;
+    QPushButton *m_end;
+    QPushButton *m_delete;
+};

@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "contactswindow.h"
+
+#include "accountbar.h"
+#include "conferencepage.h"
+#include "outcometext.h"
+#include "peoplemodel.h"
+
+#include "../core/jsonkeys.h"
+#include "../service/administration.h"
+#include "../service/contactsbook.h"
+
+#include <lumo/lguiapplicationhelper.h>
+
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QShortcut>
+#include <QtWidgets/QTabWidget>
+#include <QtWidgets/QVBoxLayout>
+
+ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administration)
+    : m_pages(new QTabWidget)
+    , m_told(new QLabel)
+{
+    setWindowTitle(QStringLiteral("联系人"));
+    setAttribute(Qt::WA_QuitOnClose, false);
+    // Makes the toolkit follow the desktop's theme in this process.
+    LGuiApplicationHelper::instance();
+
+    auto *conferences = new ConferencePage(new ConferenceModel(book), book, administration);
+    connect(conferences, &ConferencePage::told, this, &ContactsWindow::tell);
+    m_pages->addTab(conferences, QStringLiteral("会议(&1)"));
+    m_pages->addTab(makePeoplePage(book), QStringLiteral("联系人(&2)"));
+    m_pages->setAccessibleName(QStringLiteral("会议和联系人"));
+
+    m_told->setObjectName(QStringLiteral("told"));
+    m_told->setTextFormat(Qt::PlainText);
+    m_told->setAccessibleName(QStringLiteral("结果"));
+    auto *sample = new QPushButton(QStringLiteral("恢复示例数据(&R)"));
+    sample->setObjectName(QStringLiteral("sample"));
+    connect(sample, &QPushButton::clicked, this, [this, &administration] {
+        tell(administration.LoadSample() ? QStringLiteral("示例数据已恢复。") : QStringLiteral("操作失败。"));
+    });
+    auto *foot = new QHBoxLayout;
+    foot->addWidget(m_told, 1);
+    foot->addWidget(sample);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(new AccountBar(book, administration));
+    layout->addWidget(m_pages, 1);
+    layout->addLayout(foot);
+    addShortcuts();
+    resize(960, 560);
+}
+
+void ContactsWindow::bringUp()
+{
+    show();
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+}
+
+TablePage *ContactsWindow::makePeoplePage(ContactsBook &book)
+{
+    auto *model = new PeopleModel(book);
+    auto *page = new TablePage(model, PeopleModel::AccountRole, Qt::DisplayRole, PeopleModel::SearchRole);
+    model->setParent(page);
+    page->table()->setAccessibleName(QStringLiteral("联系人列表"));
+    page->table()->setHint(QStringLiteral("还没有联系人。登录后可以在这里看到他们。"));
+    page->table()->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    page->table()->horizontalHeader()->setSectionResizeMode(PeopleModel::Name, QHeaderView::Stretch);
+    page->table()->sortByColumn(PeopleModel::Account, Qt::AscendingOrder);
+
+    auto *account = new QLineEdit;
+    account->setObjectName(QStringLiteral("friendAccount"));
+    account->setAccessibleName(QStringLiteral("好友账号"));
+    account->setPlaceholderText(QStringLiteral("好友账号"));
+    account->setMaxLength(100);
+    auto *add = new QPushButton(QStringLiteral("添加好友(&F)"));
+    add->setObjectName(QStringLiteral("addFriend"));
+    const auto addFriend = [this, &book, account] {
+        const QJsonObject parameters{{JsonKey::UserId, account->text()}};
+        const QString text = QString::fromUtf8(QJsonDocument(parameters).toJson(QJsonDocument::Compact));
+        const QString answer = book.perform(QStringLiteral("Add Friends"), text);
+        tell(outcomeText(QJsonDocument::fromJson(answer.toUtf8()).object().value(JsonKey::Ret).toString()));
+        account->clear();
+    };
+    connect(add, &QPushButton::clicked, this, addFriend);
+    connect(account, &QLineEdit::returnPressed, this, addFriend);
+    page->lowerRow()->addWidget(account);
+    page->lowerRow()->addWidget(add);
+    page->lowerRow()->addStretch(1);
+    return page;
+}
+
+void ContactsWindow::tell(const QString &text)
+{
+    m_told->setText(text);
+}
+
+void ContactsWindow::addShortcuts()
+{
+    auto *find = new QShortcut(QKeySequence::Find, this);
+    connect(find, &QShortcut::activated, this, [this] {
+        static_cast<TablePage *>(m_pages->currentWidget())->filter()->setFocus(Qt::ShortcutFocusReason);
+    });
+    auto *hide = new QShortcut(QKeySequence::Close, this);
+    connect(hide, &QShortcut::activated, this, &QWidget::close);
+}

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtWidgets/QWidget>
+
+QT_BEGIN_NAMESPACE
+class QLabel;
+class QTabWidget;
+QT_END_NAMESPACE
+
+class Administration;
+class ContactsBook;
+class TablePage;
+
+/**
+ * The application's window: conferences and people, and everything that decides outcomes, to be tried by
+ * hand. Closing it only hides it; the application goes on serving.
+ */
+class ContactsWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Both must outlive it.
+    ContactsWindow(ContactsBook &book, Administration &administration);
+
+    /// Shows it above the others.
+    void bringUp();
+
+private:
+    TablePage *makePeoplePage(ContactsBook &book);
+    void tell(const QString &text);
+    void addShortcuts();
+
+    QTabWidget *m_pages; ///< children
+    QLabel *m_told;
+};

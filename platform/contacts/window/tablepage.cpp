@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "tablepage.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QShortcut>
+#include <QtWidgets/QVBoxLayout>
+
+void HintedTable::setHint(const QString &hint)
+{
+    m_hint = hint;
+    setAccessibleDescription(hint);
+    viewport()->update();
+}
+
+void HintedTable::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    if (model() && model()->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_hint);
+}
+
+TablePage::TablePage(QAbstractItemModel *model, int keyRole, int sortRole, int searchRole, QWidget *parent)
+    : QWidget(parent)
+    , m_keyRole(keyRole)
+    , m_filter(new QLineEdit)
+    , m_table(new HintedTable)
+    , m_upperRow(new QHBoxLayout)
+    , m_lowerRow(new QHBoxLayout)
+{
+    m_proxy.setSourceModel(model);
+    m_proxy.setSortRole(sortRole);
+    m_proxy.setFilterRole(searchRole);
+    m_proxy.setFilterKeyColumn(0);
+    m_proxy.setFilterCaseSensitivity(Qt::CaseInsensitive);
+    m_proxy.setSortLocaleAware(true);
+
+    m_filter->setPlaceholderText(QStringLiteral("筛选"));
+    m_filter->setAccessibleName(QStringLiteral("筛选"));
+    m_filter->setClearButtonEnabled(true);
+    m_filter->setMaxLength(100);
+    connect(m_filter, &QLineEdit::textChanged, &m_proxy, &QSortFilterProxyModel::setFilterFixedString);
+    auto *escape = new QShortcut(Qt::Key_Escape, m_filter, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(escape, &QShortcut::activated, m_filter, &QLineEdit::clear);
+
+    m_table->setModel(&m_proxy);
+    m_table->setSortingEnabled(true);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setTabKeyNavigation(false);
+    m_table->setAlternatingRowColors(true);
+    m_table->setShowGrid(false);
+    m_table->setWordWrap(false);
+    m_table->verticalHeader()->hide();
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    connect(m_table, &QAbstractItemView::activated, this, &TablePage::activated);
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &TablePage::selectionChanged);
+    connect(&m_proxy, &QAbstractItemModel::modelAboutToBeReset, this,
+            [this] { m_selectedKey = selected(m_keyRole); });
+    connect(&m_proxy, &QAbstractItemModel::modelReset, this, [this] {
+        select(m_selectedKey);
+        Q_EMIT selectionChanged();
+    });
+
+    m_upperRow->addWidget(m_filter, 1);
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(m_upperRow);
+    layout->addWidget(m_table, 1);
+    layout->addLayout(m_lowerRow);
+}
+
+QVariant TablePage::selected(int role) const
+{
+    const QModelIndexList rows = m_table->selectionModel()->selectedRows();
+    return rows.isEmpty() ? QVariant() : rows.constFirst().data(role);
+}
+
+void TablePage::select(const QVariant &key)
+{
+    if (!key.isValid())
+        return;
+    for (int row = 0; row < m_proxy.rowCount(); ++row) {
+        if (m_proxy.index(row, 0).data(m_keyRole) == key) {
+            m_table->selectRow(row);
+            return;
+        }
+    }
+}

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QSortFilterProxyModel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QTableView>
+#include <QtWidgets/QWidget>
+
+QT_BEGIN_NAMESPACE
+class QHBoxLayout;
+QT_END_NAMESPACE
+
+/// A table that says something friendly where it has no rows.
+class HintedTable : public QTableView
+{
+    Q_OBJECT
+
+public:
+    using QTableView::QTableView;
+    void setHint(const QString &hint);
+
+private:
+    void paintEvent(QPaintEvent *event) override;
+
+    QString m_hint;
+};
+
+/**
+ * A filter over a sortable table, with room for controls above and below: one page of the window. Its
+ * selection survives when the model starts anew.
+ */
+class TablePage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// @p keyRole names a row, @p sortRole and @p searchRole say what is sorted and filtered by.
+    TablePage(QAbstractItemModel *model, int keyRole, int sortRole, int searchRole,
+              QWidget *parent = nullptr);
+
+    QLineEdit *filter() const { return m_filter; }
+    HintedTable *table() const { return m_table; }
+    /// Beside the filter, and below the table.
+    QHBoxLayout *upperRow() const { return m_upperRow; }
+    QHBoxLayout *lowerRow() const { return m_lowerRow; }
+    /// The value of @p role in the row that is selected; invalid without one.
+    QVariant selected(int role) const;
+    void select(const QVariant &key);
+
+Q_SIGNALS:
+    void selectionChanged();
+    /// Return, or a double click, on a row.
+    void activated();
+
+private:
+    int m_keyRole;
+    QSortFilterProxyModel m_proxy;
+    QLineEdit *m_filter; ///< children, all of them
+    HintedTable *m_table;
+    QHBoxLayout *m_upperRow;
+    QHBoxLayout *m_lowerRow;
+    QVariant m_selectedKey;
+};

@@ -1,0 +1,344 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "sampleworld.h"
+
+#include "logcapture.h"
+
+#include "window/conferencemodel.h"
+#include "window/contactswindow.h"
+#include "window/tablepage.h"
+
+#include <lumo/lguiapplicationhelper.h>
+
+#include <QtCore/QDir>
+#include <QtGui/QAccessible>
+#include <QtTest/QtTest>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QTabWidget>
+
+/// The window over the sample directory, driven as a person would.
+class TestContactsWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void itShowsTheUsersConferences();
+    void aFilterLeavesWhatItSays();
+    void aHeaderSorts();
+    void theSelectionSurvivesAChange();
+    void aConferenceStartsByTheClock();
+    void aConferenceIsStartedAndEndedByHand();
+    void joiningAsksForThePasscode();
+    void everyButtonCanBeReachedWithTheKeyboard();
+    void loggingInAndOutChangesWhatIsShown();
+    void theAccountsKindIsChanged();
+    void aFriendIsAdded();
+    void whatCannotBeDoneIsDisabled();
+    void namesAreShownClean();
+    void everyControlHasANameForScreenReaders();
+    void closingHidesIt();
+    void pictures_data();
+    void pictures();
+
+private:
+    template <typename T>
+    T *child(const char *name)
+    {
+        T *found = m_window->findChild<T *>(QString::fromLatin1(name));
+        Q_ASSERT(found);
+        return found;
+    }
+    TablePage *page(int index)
+    {
+        return static_cast<TablePage *>(m_window->findChild<QTabWidget *>()->widget(index));
+    }
+    HintedTable *conferences() { return page(0)->table(); }
+    QString cell(int row, ConferenceModel::Column column)
+    {
+        return conferences()->model()->index(row, column).data().toString();
+    }
+    void selectNumber(const char *number) { page(0)->select(QString::fromLatin1(number)); }
+    void click(const char *name) { QTest::mouseClick(child<QPushButton>(name), Qt::LeftButton); }
+    void pick(const char *combo, int index)
+    {
+        auto *box = child<QComboBox>(combo);
+        box->setCurrentIndex(index);
+        Q_EMIT box->activated(index);
+    }
+    QString told() { return child<QLabel>("told")->text(); }
+
+    std::unique_ptr<LogCapture> m_log;
+    std::unique_ptr<SampleWorld> m_world;
+    std::unique_ptr<ContactsWindow> m_window;
+};
+
+void TestContactsWindow::init()
+{
+    m_log = std::make_unique<LogCapture>();
+    m_world = std::make_unique<SampleWorld>();
+    m_window = std::make_unique<ContactsWindow>(m_world->book, m_world->admin);
+    m_window->show();
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void TestContactsWindow::cleanup()
+{
+    m_window.reset();
+    m_world.reset();
+    m_log.reset();
+}
+
+void TestContactsWindow::itShowsTheUsersConferences()
+{
+    QCOMPARE(conferences()->model()->rowCount(), 5);
+    QCOMPARE(cell(1, ConferenceModel::State), QStringLiteral("进行中"));
+    QCOMPARE(cell(1, ConferenceModel::Title), QStringLiteral("部门早会"));
+    QCOMPARE(cell(1, ConferenceModel::Number), QStringLiteral("880100001"));
+    QCOMPARE(cell(1, ConferenceModel::Start), QStringLiteral("2026-03-07 10:00"));
+    QCOMPARE(cell(1, ConferenceModel::Duration), QStringLiteral("240分钟"));
+    QCOMPARE(cell(1, ConferenceModel::People), QStringLiteral("4/20"));
+    QCOMPARE(cell(1, ConferenceModel::Host), QStringLiteral("李娜"));
+    pick("scope", 1);
+    QCOMPARE(conferences()->model()->rowCount(), 9);
+}
+
+void TestContactsWindow::aFilterLeavesWhatItSays()
+{
+    QTest::keyClicks(page(0)->filter(), QStringLiteral("880100005"));
+    QCOMPARE(conferences()->model()->rowCount(), 1);
+    QCOMPARE(cell(0, ConferenceModel::Title), QStringLiteral("产品周会"));
+    page(0)->filter()->setFocus();
+    QTest::keyClick(page(0)->filter(), Qt::Key_Escape);
+    QCOMPARE(conferences()->model()->rowCount(), 5);
+    page(0)->filter()->setText(QStringLiteral("产品"));
+    QCOMPARE(conferences()->model()->rowCount(), 1);
+    page(0)->filter()->setText(QStringLiteral(".*"));
+    QCOMPARE(conferences()->model()->rowCount(), 0);
+}
+
+void TestContactsWindow::aHeaderSorts()
+{
+    QHeaderView *header = conferences()->horizontalHeader();
+    const QPoint point(header->sectionViewportPosition(ConferenceModel::Number) + 10, header->height() / 2);
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier, point);
+    const QString first = cell(0, ConferenceModel::Number);
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier, point);
+    QVERIFY(first != cell(0, ConferenceModel::Number));
+    QCOMPARE(QSet<QString>({first, cell(0, ConferenceModel::Number)}),
+             QSet<QString>({QStringLiteral("880100001"), QStringLiteral("880100008")}));
+}
+
+void TestContactsWindow::theSelectionSurvivesAChange()
+{
+    selectNumber("880100006");
+    m_world->admin.AddConference(QStringLiteral("1"), QStringLiteral("早"), QStringLiteral("100001"),
+                                 m_world->nowMsecs + 1000, 60000, 5, QString(), {});
+    QCOMPARE(page(0)->selected(ConferenceModel::NumberRole).toString(), QStringLiteral("880100006"));
+}
+
+void TestContactsWindow::aConferenceStartsByTheClock()
+{
+    m_world->admin.AddConference(QStringLiteral("1"), QStringLiteral("马上"), QStringLiteral("100001"),
+                                 m_world->nowMsecs + 200, 300, 5, QString(), {});
+    page(0)->filter()->setText(QStringLiteral("马上"));
+    QCOMPARE(cell(0, ConferenceModel::State), QStringLiteral("未开始"));
+    QSignalSpy changed(conferences()->model(), &QAbstractItemModel::dataChanged);
+    m_world->nowMsecs += 200;
+    QVERIFY(changed.wait());
+    QCOMPARE(cell(0, ConferenceModel::State), QStringLiteral("进行中"));
+    m_world->nowMsecs += 300;
+    QVERIFY(changed.wait());
+    QCOMPARE(cell(0, ConferenceModel::State), QStringLiteral("已结束"));
+}
+
+void TestContactsWindow::aConferenceIsStartedAndEndedByHand()
+{
+    selectNumber("880100005");
+    click("start");
+    QCOMPARE(told(), QStringLiteral("会议已开始。"));
+    QCOMPARE(m_world->conference(QStringLiteral("880100005")).value(QLatin1String("state")).toString(),
+             QStringLiteral("running"));
+    QCOMPARE(page(0)->selected(ConferenceModel::NumberRole).toString(), QStringLiteral("880100005"));
+    click("end");
+    QCOMPARE(told(), QStringLiteral("会议已结束。"));
+    QCOMPARE(m_world->conference(QStringLiteral("880100005")).value(QLatin1String("state")).toString(),
+             QStringLiteral("ended"));
+    selectNumber("880100005");
+    click("delete");
+    QCOMPARE(told(), QStringLiteral("没有正在进行的会议。"));
+}
+
+void TestContactsWindow::joiningAsksForThePasscode()
+{
+    pick("scope", 1);
+    selectNumber("880100002");
+    click("join");
+    QCOMPARE(told(), QStringLiteral("密码不正确，请输入密码后再加入。"));
+    QTest::keyClicks(child<QLineEdit>("passcode"), QStringLiteral("246810"));
+    QTest::keyClick(child<QLineEdit>("passcode"), Qt::Key_Return);
+    QCOMPARE(told(), QStringLiteral("好的。"));
+    selectNumber("880100004");
+    click("join");
+    QCOMPARE(told(), QStringLiteral("正在其他会议中。"));
+    click("leave");
+    QCOMPARE(told(), QStringLiteral("好的。"));
+    click("leave");
+    QCOMPARE(told(), QStringLiteral("没有正在进行的会议。"));
+    click("create");
+    QCOMPARE(told(), QStringLiteral("好的。"));
+    QCOMPARE(conferences()->model()->rowCount(), 10);
+}
+
+void TestContactsWindow::everyButtonCanBeReachedWithTheKeyboard()
+{
+    QTest::keyClick(m_window.get(), Qt::Key_F, Qt::ControlModifier);
+    QCOMPARE(QApplication::focusWidget(), page(0)->filter());
+    selectNumber("880100005");
+    QSet<QString> reached;
+    for (int step = 0; step < 30; ++step) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        reached.insert(QApplication::focusWidget()->objectName());
+    }
+    for (const char *name : {"account", "kind", "logout", "elsewhere", "scope", "passcode", "join", "leave",
+                             "create", "start", "delete", "sample"})
+        QVERIFY2(reached.contains(QString::fromLatin1(name)), name);
+}
+
+void TestContactsWindow::loggingInAndOutChangesWhatIsShown()
+{
+    click("logout");
+    QCOMPARE(conferences()->model()->rowCount(), 0);
+    QCOMPARE(page(1)->table()->model()->rowCount(), 0);
+    QCOMPARE(child<QComboBox>("account")->currentText(), QStringLiteral("未登录"));
+    QVERIFY(!child<QPushButton>("logout")->isEnabled());
+    click("create");
+    QCOMPARE(told(), QStringLiteral("请先登录。"));
+    auto *account = child<QComboBox>("account");
+    pick("account", account->findData(QStringLiteral("100002")));
+    QCOMPARE(m_world->snapshot().value(QLatin1String("user")).toString(), QStringLiteral("100002"));
+    QCOMPARE(conferences()->model()->rowCount(), 2);
+    QCOMPARE(child<QComboBox>("kind")->currentText(), QStringLiteral("免费"));
+}
+
+void TestContactsWindow::theAccountsKindIsChanged()
+{
+    pick("kind", 1);
+    const QJsonObject me = m_world->snapshot().value(QLatin1String("people")).toArray().at(0).toObject();
+    QCOMPARE(me.value(QLatin1String("kind")).toString(), QStringLiteral("free"));
+    child<QCheckBox>("elsewhere")->click();
+    QVERIFY(m_world->snapshot().value(QLatin1String("engagedElsewhere")).toBool());
+}
+
+void TestContactsWindow::aFriendIsAdded()
+{
+    m_window->findChild<QTabWidget *>()->setCurrentIndex(1);
+    QTest::keyClicks(child<QLineEdit>("friendAccount"), QStringLiteral("100031"));
+    click("addFriend");
+    QCOMPARE(told(), QStringLiteral("好的。"));
+    page(1)->filter()->setText(QStringLiteral("已发送好友申请"));
+    QCOMPARE(page(1)->table()->model()->rowCount(), 1);
+    QTest::keyClicks(child<QLineEdit>("friendAccount"), QStringLiteral("100001"));
+    QTest::keyClick(child<QLineEdit>("friendAccount"), Qt::Key_Return);
+    QCOMPARE(told(), QStringLiteral("无法添加自己为好友。"));
+}
+
+void TestContactsWindow::whatCannotBeDoneIsDisabled()
+{
+    QVERIFY(!child<QPushButton>("join")->isEnabled());
+    QVERIFY(!child<QPushButton>("start")->isEnabled());
+    QVERIFY(!child<QPushButton>("end")->isEnabled());
+    selectNumber("880100001");
+    QVERIFY(child<QPushButton>("join")->isEnabled());
+    QVERIFY(!child<QPushButton>("start")->isEnabled());
+    QVERIFY(child<QPushButton>("end")->isEnabled());
+}
+
+void TestContactsWindow::namesAreShownClean()
+{
+    const QString hostile = QStringLiteral("\u202e李\u0007 <b>四</b>\u200b");
+    QVERIFY(m_world->admin.AddPerson(QStringLiteral("300001"), hostile, QStringLiteral("free")));
+    QVERIFY(m_world->admin.AddContact(QStringLiteral("100001"), QStringLiteral("300001"), hostile,
+                                      QStringLiteral("friend")));
+    m_window->findChild<QTabWidget *>()->setCurrentIndex(1);
+    page(1)->filter()->setText(QStringLiteral("300001"));
+    QCOMPARE(page(1)->table()->model()->index(0, 0).data().toString(), QStringLiteral("李 <b>四</b>"));
+    const QString tip = page(1)->table()->model()->index(0, 0).data(Qt::ToolTipRole).toString();
+    QVERIFY2(tip.contains(QStringLiteral("&lt;b&gt;")), qPrintable(tip));
+}
+
+void TestContactsWindow::everyControlHasANameForScreenReaders()
+{
+    const QList<QWidget *> widgets = m_window->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible() ||
+            widget->objectName().startsWith(QLatin1String("qt_")))
+            continue;
+        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+        QVERIFY2(accessible && !accessible->text(QAccessible::Name).isEmpty(),
+                 widget->metaObject()->className());
+    }
+}
+
+void TestContactsWindow::closingHidesIt()
+{
+    QTest::keyClick(m_window.get(), Qt::Key_W, Qt::ControlModifier);
+    QVERIFY(!m_window->isVisible());
+    // The platform of the tests has no order of windows.
+    m_log->expect(QtWarningMsg, QStringLiteral("This plugin does not support raise()"));
+    m_window->bringUp();
+    QVERIFY(m_window->isVisible());
+}
+
+void TestContactsWindow::pictures_data()
+{
+    QTest::addColumn<int>("theme");
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<bool>("loggedIn");
+    const QString scale = qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1"));
+    for (const int theme : {int(LGuiApplicationHelper::LightType), int(LGuiApplicationHelper::DarkType)}) {
+        const QString name =
+            (theme == LGuiApplicationHelper::LightType ? QStringLiteral("light-") : QStringLiteral("dark-")) +
+            scale;
+        QTest::newRow(qPrintable(QStringLiteral("conferences-") + name)) << theme << 0 << true;
+        QTest::newRow(qPrintable(QStringLiteral("people-") + name)) << theme << 1 << true;
+        QTest::newRow(qPrintable(QStringLiteral("empty-") + name)) << theme << 0 << false;
+    }
+}
+
+void TestContactsWindow::pictures()
+{
+    QFETCH(int, theme);
+    QFETCH(int, tab);
+    QFETCH(bool, loggedIn);
+    auto *helper = LGuiApplicationHelper::instance();
+    helper->setPaletteType(static_cast<LGuiApplicationHelper::ColorType>(theme));
+    m_world->admin.AddConference(
+        QStringLiteral("1"),
+        QStringLiteral("一个标题非常非常长的会议，长得任何一列都放不下，所以要省略").repeated(2),
+        QStringLiteral("100001"), m_world->nowMsecs + 86400000LL * 3, 1800000, 5, QString(), {});
+    if (!loggedIn)
+        m_world->admin.Logout();
+    m_window->findChild<QTabWidget *>()->setCurrentIndex(tab);
+    if (tab == 0 && loggedIn)
+        selectNumber("880100001");
+    QCoreApplication::processEvents();
+    const QImage picture = m_window->grab().toImage();
+    QCOMPARE(picture.pixelColor(2, 2).lightness() > 128, theme == LGuiApplicationHelper::LightType);
+    const QDir folder(QStringLiteral(CONTACT_BINARY_DIR "/screenshots"));
+    QVERIFY(folder.mkpath(QStringLiteral(".")));
+    QVERIFY(picture.save(
+        folder.filePath(QStringLiteral("contacts-%1.png").arg(QLatin1String(QTest::currentDataTag())))));
+    helper->setPaletteType(LGuiApplicationHelper::UnknownType);
+}
+
+QTEST_MAIN(TestContactsWindow)
+#include "tst_contactswindow.moc"

@@ -8,14 +8,39 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 
+#include <algorithm>
+
 namespace {
 
 constexpr QLatin1String suggestDatetimeKey = "suggestDatetime"_latin1;
 constexpr QLatin1Char timeMark('T');
 
+/// Whether @p text has a digit where @p shape has a zero, and is the same elsewhere.
+bool hasShape(const QString &text, QLatin1String shape)
+{
+    return text.size() == shape.size() &&
+           std::equal(text.cbegin(), text.cend(), shape.begin(), [](QChar character, char expected) {
+               const ushort code = character.unicode();
+               return expected == '0' ? code >= '0' && code <= '9' : character == QLatin1Char(expected);
+           });
+}
+
+// By hand, because Qt's format strings cost more than all the rest of a request.
+
 QDate dateOf(const QString &text)
 {
-    return QDate::fromString(text, QStringLiteral("yyyy-MM-dd"));
+    if (!hasShape(text, "0000-00-00"_latin1)) {
+        return {};
+    }
+    return {text.leftRef(4).toInt(), text.midRef(5, 2).toInt(), text.midRef(8, 2).toInt()};
+}
+
+QTime timeOf(const QString &text)
+{
+    if (!hasShape(text, "00:00:00"_latin1)) {
+        return {};
+    }
+    return {text.leftRef(2).toInt(), text.midRef(3, 2).toInt(), text.midRef(6, 2).toInt()};
 }
 
 } // namespace
@@ -29,7 +54,7 @@ SpokenTime SpokenTime::fromSlot(const QString &slotText, QJsonParseError *error)
     if (result.m_hasTime) {
         // Each for itself: whether the two exist together is LocalTime's question.
         const int mark = result.m_text.indexOf(timeMark);
-        result.m_time = QTime::fromString(result.m_text.mid(mark + 1), QStringLiteral("hh:mm:ss"));
+        result.m_time = timeOf(result.m_text.mid(mark + 1));
         if (result.m_time.isValid()) {
             result.m_date = dateOf(result.m_text.left(mark));
         }

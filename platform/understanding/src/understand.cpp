@@ -3,14 +3,17 @@
 
 #include "understanding/understand.h"
 
+#include "answers.h"
+#include "contactindex.h"
+#include "interpreter.h"
+#include "semanticwriter.h"
+
 namespace understanding {
 
-// Refuses everything until the rules arrive; the interface is what others build against.
-QString understand(const QString &, const QDateTime &, const QStringList &)
+QString understand(const QString &sentence, const QDateTime &now, const QStringList &contactNames)
 {
-    return QStringLiteral("{\"intent\":{\"answer\":{\"text\":\"抱歉，我没有听懂。\"},\"semantic\":[],"
-                          "\"shouldEndSession\":false,"
-                          "\"voice_answer\":[{\"content\":\"抱歉，我没有听懂。\",\"type\":\"TTS\"}]}}");
+    const Outcome outcome = interpret(sentence, now, ContactIndex(contactNames));
+    return outcome.isCommand() ? commandJson(outcome) : answerJson(answerText(outcome.answer));
 }
 
 } // namespace understanding

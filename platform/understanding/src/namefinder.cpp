@@ -1,0 +1,250 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "namefinder.h"
+
+#include "lexicon.h"
+#include "namelook.h"
+#include "scan.h"
+
+#include <algorithm>
+
+namespace understanding {
+
+namespace {
+
+constexpr int longestName = 12;
+
+class NameFinder final
+{
+public:
+    NameFinder(const QString &raw, const QString &text, const Tokens &tokens)
+        : m_raw(raw)
+        , m_text(text)
+        , m_tokens(tokens)
+    {
+    }
+
+    std::vector<FoundName> run()
+    {
+        for (std::size_t at = 0; at < m_tokens.size(); ++at)
+            at = step(at);
+        std::stable_sort(m_names.begin(), m_names.end(),
+                         [](const FoundName &a, const FoundName &b) { return a.position < b.position; });
+        return std::move(m_names);
+    }
+
+    std::vector<FoundName> runFromStart()
+    {
+        takeNames(0, true);
+        return std::move(m_names);
+    }
+
+private:
+    /// Looks at one token; returns the last one that is done with.
+    std::size_t step(std::size_t at)
+    {
+        const Token &token = m_tokens[at];
+        if (token.inTopic)
+            return at;
+        constexpr WordClasses leads = WordClass::Trigger | WordClass::NameLabel | WordClass::Separator;
+        if (token.isAny(leads)) {
+            if (token.is(WordClass::Separator))
+                takeLeft(at);
+            const bool clauseSign = token.is(WordClass::Separator) && !token.is(WordClass::Trigger);
+            return takeZone(at, token.is(WordClass::WeakTrigger) || clauseSign);
+        }
+        if (token.kind == Token::Kind::Name)
+            addKnown(token, false);
+        else if (token.kind == Token::Kind::Other)
+            takeSubject(at);
+        return at;
+    }
+
+    void addKnown(const Token &token, bool called)
+    {
+        m_names.push_back({token.position, m_raw.mid(token.position, token.length), token.name, called});
+    }
+
+    void addUnknown(int position, const QString &normal, bool called)
+    {
+        int at = position;
+        const QStringList names = splitNames(normal);
+        for (const QString &name : names) {
+            const QString said = m_raw.mid(at, name.size());
+            m_names.push_back({at, said, said, called});
+            at += name.size();
+        }
+    }
+
+    /// The name between \a start and \a end, without what surrounds it.
+    void addChunk(int start, int end, bool mustLookLikeName, bool called)
+    {
+        const QString chunk = m_text.mid(start, end - start);
+        QString name = withoutParticles(chunk);
+        // 研发部的赵云 is 赵云.
+        const int of = name.lastIndexOf(QChar(u'的'));
+        if (of >= 0 && of + 2 < name.size())
+            name = name.mid(of + 1);
+        if (name.size() < 2 || name.size() > longestName || (mustLookLikeName && !looksLikeName(name)))
+            return;
+        if (Lexicon::instance().classesOf(name).has(WordClass::Nobody))
+            return;
+        const int offset = chunk.indexOf(name);
+        addUnknown(start + offset, name, called);
+    }
+
+    /// 赵云和...: who stands left of 和.
+    void takeLeft(std::size_t at)
+    {
+        if (at == 0 || m_tokens[at - 1].kind != Token::Kind::Other || m_tokens[at - 1].inTopic)
+            return;
+        const Token &left = m_tokens[at - 1];
+        const bool taken = std::any_of(m_names.cbegin(), m_names.cend(),
+                                       [&](const FoundName &name) { return name.position >= left.position; });
+        if (!taken && left.end() == m_tokens[at].position)
+            addChunk(left.position, left.end(), true, true);
+    }
+
+    /// 赵云参加, 赵云也来: a subject of its own, before what only people do.
+    void takeSubject(std::size_t at)
+    {
+        const Token &token = m_tokens[at];
+        std::size_t next = at + 1;
+        if (next >= m_tokens.size()) {
+            // 发起会议 赵云: the last word of a sentence that has its conference.
+            const bool hasConference =
+                std::any_of(m_tokens.cbegin(), m_tokens.cend(), [](const Token &other) {
+                    return other.is(WordClass::Conference) && !other.inTopic;
+                });
+            const bool apart =
+                at > 0 && (m_tokens[at - 1].kind == Token::Kind::Space ||
+                           m_tokens[at - 1].isAny(WordClass::Punctuation | WordClass::Conference) ||
+                           m_tokens[at - 1].kind == Token::Kind::Time);
+            if (hasConference && apart)
+                addChunk(token.position, token.end(), true, false);
+            return;
+        }
+        while (next < m_tokens.size() && m_tokens[next].is(WordClass::Filler) && m_tokens[next].length == 1)
+            ++next;
+        const bool joins =
+            next < m_tokens.size() && m_tokens[next].isAny(WordClass::Join | WordClass::Arrive);
+        const bool listed = m_tokens[at + 1].kind == Token::Kind::Space && at > 0 &&
+                            m_tokens[at - 1].kind == Token::Kind::Space;
+        if (joins || listed)
+            addChunk(token.position, token.end(), true, joins && m_tokens[next].is(WordClass::Arrive));
+    }
+
+    bool isSmallWordInName(std::size_t at) const
+    {
+        const Token &token = m_tokens[at];
+        constexpr WordClasses hard = WordClass::Separator | WordClass::WeakOpen | WordClass::Conference |
+                                     WordClass::Punctuation | WordClass::Nobody;
+        return token.kind == Token::Kind::Word && token.length == 1 && !token.isAny(hard);
+    }
+
+    std::size_t skipToNames(std::size_t lead) const
+    {
+        std::size_t at = lead + 1;
+        constexpr WordClasses between = WordClass::Measure | WordClass::OpenParticle;
+        const bool label = m_tokens[lead].isAny(WordClass::NameLabel);
+        while (at < m_tokens.size()) {
+            const Token &token = m_tokens[at];
+            const bool linked =
+                label && (token.isAny(WordClass::LabelLink | WordClass::Have | WordClass::NameLabel) ||
+                          token.is(WordClass::Punctuation));
+            if (!token.isAny(between) && token.kind != Token::Kind::Space && !linked)
+                break;
+            ++at;
+        }
+        return at;
+    }
+
+    /// The names behind the word at \a lead; returns the last token that belongs to them.
+    std::size_t takeZone(std::size_t lead, bool mustLookLikeName)
+    {
+        const std::size_t before = m_names.size();
+        const std::size_t end = takeNames(skipToNames(lead), mustLookLikeName);
+        // Where nobody stood, nothing is used up: 约 in 约个会.
+        return m_names.size() > before ? end - 1 : lead;
+    }
+
+    /// Takes names from \a at on; returns the first token that is none of theirs.
+    std::size_t takeNames(std::size_t at, bool mustLookLikeName)
+    {
+        bool afterComma = false;
+        while (at < m_tokens.size() && !m_tokens[at].inTopic) {
+            const Token &token = m_tokens[at];
+            if (token.kind == Token::Kind::Name) {
+                at = takeKnownName(at);
+            } else if (token.kind == Token::Kind::Latin) {
+                addUnknown(token.position, m_text.mid(token.position, token.length), true);
+            } else if (token.kind == Token::Kind::Other || isSmallWordInName(at)) {
+                std::size_t last = at;
+                while (last + 1 < m_tokens.size() &&
+                       (m_tokens[last + 1].kind == Token::Kind::Other || isSmallWordInName(last + 1)) &&
+                       !m_tokens[last + 1].inTopic)
+                    ++last;
+                if (last + 1 < m_tokens.size() && m_tokens[last + 1].is(WordClass::Title)) // 张主任
+                    ++last;
+                addChunk(token.position, m_tokens[last].end(), mustLookLikeName || afterComma, true);
+                at = last;
+            } else if (token.is(WordClass::Punctuation) && m_text.at(token.position) == QLatin1Char(',')) {
+                afterComma = true;
+            } else if (!token.isAny(WordClass::Separator | WordClass::Nobody) &&
+                       token.kind != Token::Kind::Space) {
+                break;
+            }
+            ++at;
+        }
+        return at;
+    }
+
+    /// A known name; with one character more it is another, unknown one (张伟 and 张伟杰).
+    std::size_t takeKnownName(std::size_t at)
+    {
+        const Token &token = m_tokens[at];
+        if (at + 1 < m_tokens.size()) {
+            const Token &next = m_tokens[at + 1];
+            const QString rest = m_text.mid(next.position, next.length);
+            const bool oneMore = next.kind == Token::Kind::Other && next.length == 1 && token.length < 3 &&
+                                 token.name.at(0).unicode() >= 0x80 && !isParticle(rest.at(0)) &&
+                                 !Lexicon::instance().classesOf(rest).has(WordClass::Title);
+            if (oneMore) {
+                addUnknown(token.position, m_text.mid(token.position, token.length + 1), true);
+                return at + 1;
+            }
+        }
+        addKnown(token, true);
+        return skipTitle(at);
+    }
+
+    static bool isParticle(QChar character)
+    {
+        return withoutParticles(QString(character) + character).isEmpty();
+    }
+
+    std::size_t skipTitle(std::size_t at) const
+    {
+        return at + 1 < m_tokens.size() && m_tokens[at + 1].is(WordClass::Title) ? at + 1 : at;
+    }
+
+    const QString &m_raw;
+    const QString &m_text;
+    const Tokens &m_tokens;
+    std::vector<FoundName> m_names;
+};
+
+} // namespace
+
+std::vector<FoundName> findNames(const QString &raw, const QString &text, const Tokens &tokens)
+{
+    return NameFinder(raw, text, tokens).run();
+}
+
+std::vector<FoundName> findAnsweredNames(const QString &raw, const QString &text, const Tokens &tokens)
+{
+    return NameFinder(raw, text, tokens).runFromStart();
+}
+
+} // namespace understanding

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace understanding {
+
+/// True when \a text looks like the name of a person or a team: 赵云, 小李, 王总, 产品部, Jerry.
+bool looksLikeName(const QString &text);
+
+/// \a text cut into names where each part begins with a family name (赵云马超), else \a text alone.
+QStringList splitNames(const QString &text);
+
+/// \a text without the little words around a name: 也, 来, 的.
+QString withoutParticles(const QString &text);
+
+} // namespace understanding

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QString>
+
+#include <initializer_list>
+
+namespace understanding {
+
+/// True when \a word stands at \a position.
+inline bool startsAt(const QString &text, int position, const QString &word)
+{
+    return text.midRef(position, word.size()) == word;
+}
+
+/// The length of the first of \a words that stands at \a position, 0 for none. Longer words come first.
+inline int firstOf(const QString &text, int position, std::initializer_list<const char16_t *> words)
+{
+    for (const char16_t *word : words) {
+        int length = 0;
+        while (word[length] != 0 && position + length < text.size() &&
+               text.at(position + length) == QChar(word[length]))
+            ++length;
+        if (word[length] == 0)
+            return length;
+    }
+    return 0;
+}
+
+/// The character at \a position, a null character behind the end.
+inline QChar charAt(const QString &text, int position)
+{
+    return position >= 0 && position < text.size() ? text.at(position) : QChar();
+}
+
+inline int skipSpaces(const QString &text, int position)
+{
+    while (charAt(text, position) == QLatin1Char(' '))
+        ++position;
+    return position;
+}
+
+} // namespace understanding

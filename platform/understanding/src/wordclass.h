@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtGlobal>
+
+namespace understanding {
+
+/// What a word is; one bit each, a word may be several things. The names in the rule files are the
+/// enumerators' with spaces, in the order of the table in lexicon.cpp.
+enum class WordClass : quint8 {
+    Conference,    ///< 会议
+    Video,         ///< 视频, 聊一下: a conference when people are named
+    StrongOpen,    ///< 发起: opens one by itself
+    GoverningOpen, ///< 打开: only right before the conference
+    WeakOpen,      ///< 开: needs 会 or 个 behind it
+    Measure,       ///< 一个, 一下
+    OpenParticle,
+    Join,
+    WeakJoin,
+    Mine,
+    Ongoing,
+    Back,
+    Close,
+    CloseAlone,
+    Invite,
+    InviteNoun,
+    Arrive,   ///< 进来: an invitation whatever the verb
+    ComeMeet, ///< 来开会: an invitation unless a time is said
+    Query,
+    Question,
+    QuestionParticle,
+    AskedTime,
+    Have,
+    Schedule,
+    Next,
+    Add,
+    Buddy,
+    BuddyNoun,
+    AccountLabel,
+    IdLabel,
+    PasswordLabel,
+    NoPassword,
+    LabelLink,
+    Trigger,     ///< names follow
+    Pull,        ///< calls somebody in
+    WeakTrigger, ///< names may follow; they must look like names
+    NameLabel,
+    Separator,
+    Nobody,
+    NameTail,
+    Title,
+    Filler,
+    Punctuation,
+    Plain,
+    Negation,
+    Recurring,
+    EitherOr,
+    Zone,
+    Lunar,
+    Festival,
+    UnclearDay,
+    UnclearSoon,
+    HowTo,
+    Unsupported,
+    Cancel,
+    Change,
+    Topic,  ///< what follows is what the conference is about
+    GiveUp, ///< ends a question
+    Count
+};
+
+/// A set of word classes.
+class WordClasses final
+{
+public:
+    constexpr WordClasses() = default;
+    constexpr WordClasses(WordClass one) : m_bits(bit(one)) {} // NOLINT(google-explicit-constructor)
+    constexpr bool has(WordClass one) const { return (m_bits & bit(one)) != 0; }
+    constexpr bool isEmpty() const { return m_bits == 0; }
+    constexpr bool intersects(WordClasses other) const { return (m_bits & other.m_bits) != 0; }
+    constexpr void add(WordClasses other) { m_bits |= other.m_bits; }
+    constexpr void remove(WordClasses other) { m_bits &= ~other.m_bits; }
+    constexpr WordClasses operator|(WordClasses other) const
+    {
+        other.add(*this);
+        return other;
+    }
+
+private:
+    static constexpr quint64 bit(WordClass one) { return quint64(1) << static_cast<quint8>(one); }
+    quint64 m_bits = 0;
+};
+static_assert(static_cast<quint8>(WordClass::Count) <= 64, "one bit each");
+
+constexpr WordClasses operator|(WordClass a, WordClass b)
+{
+    return WordClasses(a) | WordClasses(b);
+}
+
+} // namespace understanding

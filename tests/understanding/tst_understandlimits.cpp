@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "sentencefile.h"
+
+#include <understanding/dialogue.h>
+#include <understanding/understand.h>
+
+#include <QElapsedTimer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtTest>
+
+#include <random>
+
+/// What nobody would say: hostile lengths, repetitions and random characters.
+class TestUnderstandLimits : public QObject
+{
+    Q_OBJECT
+
+private:
+    const QDateTime m_now{QDate(2026, 3, 7), QTime(10, 20)};
+
+    static bool isSemantic(const QString &json)
+    {
+        const QJsonObject result =
+            QJsonDocument::fromJson(json.toUtf8()).object().value(QStringLiteral("intent")).toObject();
+        const bool command = result.value(QStringLiteral("shouldEndSession")).toBool();
+        const int intents = result.value(QStringLiteral("semantic")).toArray().size();
+        const QString text =
+            result.value(QStringLiteral("answer")).toObject().value(QStringLiteral("text")).toString();
+        return result.value(QStringLiteral("shouldEndSession")).isBool() && intents == (command ? 1 : 0) &&
+               text.isEmpty() == command && !json.contains(QLatin1Char('\n'));
+    }
+
+private Q_SLOTS:
+    void fiveHundredCharactersAreReadAndOneMoreIsRefused()
+    {
+        const QString tail = QStringLiteral("开会");
+        const QString longest = QString(498, QChar(u'嗯')) + tail;
+        QCOMPARE(meaningOf(understanding::understand(longest, m_now)),
+                 QStringLiteral("CREATE_CONFERENCE open=开"));
+        QCOMPARE(meaningOf(understanding::understand(QChar(u'嗯') + longest, m_now)),
+                 QStringLiteral("? too-long"));
+    }
+
+    void theTimeGrowsWithTheLength_data()
+    {
+        QTest::addColumn<QString>("pattern");
+        for (const char *pattern :
+             {"一",   "下",   "下周", "三点到", "和",   "张",     "和张伟", "开",     "开个", "会",
+              "1",    "1 ",   "1-",   "三个八", "明天", "过",     "半",     "差一刻", "约",   "的",
+              "讨论", ",",    "、",   "a",      "@",    "开一个", "邀请",   "密码",   "十",   "不想",
+              "(",    "周一", "赵云", "上",     "年",   "3月",    "一百",   "大",     "再",   "没"})
+            QTest::newRow(pattern) << QString::fromUtf8(pattern);
+    }
+    void theTimeGrowsWithTheLength()
+    {
+        QFETCH(QString, pattern);
+        const QStringList contacts{QStringLiteral("张伟")};
+        QString sentence = pattern;
+        while (sentence.size() + pattern.size() <= 500)
+            sentence += pattern;
+        // The best of several runs, for a machine under load; ten milliseconds are a hundred times what a
+        // usual sentence of this length takes and a hundredth of what a quadratic reader with backtracking
+        // did.
+        qint64 best = std::numeric_limits<qint64>::max();
+        for (int run = 0; run < 5; ++run) {
+            QElapsedTimer timer;
+            timer.start();
+            QVERIFY(isSemantic(understanding::understand(sentence, m_now, contacts)));
+            best = qMin(best, timer.nsecsElapsed());
+        }
+        constexpr qint64 generous = 10 * 1000 * 1000;
+        QVERIFY2(best < generous, qPrintable(QString::number(best)));
+    }
+
+    void anythingGetsOneAnswer()
+    {
+        // Pieces of real sentences in any order are nearer to trouble than random characters; both are tried.
+        QStringList pieces;
+        for (const LabelledSentence &row :
+             readSentences(QStringLiteral(CONTACT_SOURCE_DIR "/tests/understanding/sentences.tsv"))) {
+            for (int at = 0; at < row.sentence.size(); at += 3)
+                pieces.append(row.sentence.mid(at, 3));
+        }
+        std::mt19937 random(20260307); // NOLINT: the same sentences in every run
+        const auto below = [&](int count) {
+            return std::uniform_int_distribution<int>(0, count - 1)(random);
+        };
+        understanding::Dialogue dialogue({QStringLiteral("张伟"), QStringLiteral("a")});
+        for (int run = 0; run < 20000; ++run) {
+            QString sentence;
+            const int length = below(12);
+            for (int at = 0; at < length; ++at) {
+                if (below(8) == 0)
+                    sentence += QChar(static_cast<ushort>(below(0x10000)));
+                else
+                    sentence += pieces.at(below(pieces.size()));
+            }
+            QVERIFY2(isSemantic(dialogue.turn(sentence, m_now)), qPrintable(sentence));
+            QCOMPARE(dialogue.masked(sentence).size(), sentence.size());
+            if (below(4) == 0)
+                dialogue.noteReply(-16014, QString());
+        }
+    }
+};
+
+QTEST_APPLESS_MAIN(TestUnderstandLimits)
+#include "tst_understandlimits.moc"

@@ -10,6 +10,7 @@
 #include <lumo/lspinbox.h>
 
 #include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
 
 namespace {
 
@@ -26,6 +27,9 @@ void prepare(QWidget &control, const QString &accessibleName, int minimumWidth)
     control.setMinimumWidth(minimumWidth);
     control.setFont(LFontSizeManager::instance()->get(LFontSizeManager::T6, control.font()));
     control.setAccessibleName(accessibleName);
+    // On this platform the accessible name of a combo box is its current text, and only this tells it from
+    // another one.
+    control.setAccessibleDescription(accessibleName);
     CardText::setColor(control, CardText::ValueAlpha);
     // What a control leaves of a click is not meant for the card behind it.
     control.setAttribute(Qt::WA_NoMousePropagation);
@@ -52,7 +56,9 @@ ConferenceEditor::ConferenceEditor(double widthScale, QObject *parent)
 QWidget *ConferenceEditor::beginTime(const ContactDetailMsg &conference, QWidget *card)
 {
     const auto row = ConferenceRows::captioned(ConferenceRows::beginTimeCaption(), card);
-    row.layout->addWidget(datePicker(conference, row.widget, card));
+    QWidget *picker = datePicker(conference, row.widget, card);
+    row.caption->setBuddy(picker);
+    row.layout->addWidget(picker);
     row.layout->addSpacing(SpaceAfterDatePicker);
     row.layout->addWidget(hourBox(conference, row.widget, card), 0, Qt::AlignRight);
     return row.widget;
@@ -63,6 +69,7 @@ QWidget *ConferenceEditor::timeLength(const ContactDetailMsg &conference, QWidge
     const auto row = ConferenceRows::captioned(ConferenceRows::timeLengthCaption(), card);
     auto *box = new LComboBox(row.widget);
     prepare(*box, ConferenceRows::timeLengthCaption(), scaled(WideControlWidth));
+    row.caption->setBuddy(box);
     box->setWindowTitle(durationBoxTag());
     box->installEventFilter(card);
     // Before the items: the first one already sets the working duration, which then is what the box shows
@@ -82,6 +89,7 @@ QWidget *ConferenceEditor::personNum(const ContactDetailMsg &conference, QWidget
     const auto row = ConferenceRows::captioned(ConferenceRows::personNumCaption(), card);
     auto *box = new LSpinBox(row.widget);
     prepare(*box, ConferenceRows::personNumCaption(), scaled(WideControlWidth));
+    row.caption->setBuddy(box);
     box->setEnabledEmbedStyle(true);
     const int most = conference.isPayingUser ? MostParticipants : conference.participantLimit;
     box->setRange(LeastParticipants, qMax(LeastParticipants, most));

@@ -3,8 +3,8 @@
 
 #include "conferencemsgstaticwidget.h"
 
-#include "cardgateway.h"
 #include "cardtext.h"
+#include "conferencecardinterface.h"
 #include "conferenceeditor.h"
 #include "conferencerows.h"
 #include "customizeitem.h"
@@ -152,7 +152,7 @@ void ConferenceMsgStaticWidget::setWidgetColor(QWidget *widget, int alpha)
 void ConferenceMsgStaticWidget::openContactApp()
 {
     // The application tells the user itself when it cannot show its list.
-    CardGateway::openConferenceList();
+    ConferenceCardInterface::instance()->openConferenceList();
 }
 
 QWidget *ConferenceMsgStaticWidget::listed(QWidget *row)

@@ -5,8 +5,9 @@
 
 #include "conferencemsgstaticwidget.h"
 
-#include "cardgateway.h"
+#include "cardrequests.h"
 #include "cardtext.h"
+#include "conferencecardinterface.h"
 #include "conferenceeditor.h"
 #include "conferencerows.h"
 #include "titleitem.h"
@@ -29,6 +30,12 @@ constexpr int SpaceAfterTitle = 10;
 constexpr int SpaceAfterCandidate = 2;
 constexpr int SpaceBeforeConfirm = 8;
 constexpr int ConfirmHeight = 36;
+
+/// Blocks for each request, and no exception comes out of it. The card may be gone afterwards.
+ConferenceCardInterface *gateway()
+{
+    return ConferenceCardInterface::instance();
+}
 
 /// The names to say, each once if they are to be @p distinct.
 QStringList namesOf(const QVector<UserInfo> &users, bool distinct)
@@ -133,7 +140,7 @@ void ConferenceMsgStaticWidget::slotModifyConference()
     update();
 
     const QPointer<ConferenceMsgStaticWidget> alive(this);
-    const int code = CardGateway::update(m_conferences.first());
+    const int code = gateway()->UpdateVideoConference(CardRequests::update(m_conferences.first()));
     qDebug() << "create conference code:" << code;
     if (!alive.isNull())
         reply(CardReplies::modified(code));
@@ -146,7 +153,7 @@ void ConferenceMsgStaticWidget::slotCancleConference()
     becomeStatic();
 
     const QPointer<ConferenceMsgStaticWidget> alive(this);
-    const int code = CardGateway::cancel(m_conferences.first().confId);
+    const int code = gateway()->deleteVideoConference(m_conferences.first().confId);
     qDebug() << "Cancle conference code:" << code;
     if (!alive.isNull())
         reply(CardReplies::cancelled(code));
@@ -193,6 +200,11 @@ void ConferenceMsgStaticWidget::removeLastRow()
         setFocus(m_controlFocusReason == Qt::MouseFocusReason ? Qt::OtherFocusReason : Qt::TabFocusReason);
     }
     row->hide();
+    // It lives until the event loop has its turn, and must not ask once more.
+    row->disconnect(this);
+    const auto buttons = row->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons)
+        button->disconnect(this);
     m_layout->removeWidget(row);
     row->deleteLater();
 }
@@ -261,9 +273,10 @@ void ConferenceMsgStaticWidget::confirm(const Confirmation &confirmation)
         members += m_inviteDetail.normalUsers;
 
     const QPointer<ConferenceMsgStaticWidget> alive(this);
-    const int code = confirmation.purpose == CardReplies::Purpose::Create
-                         ? CardGateway::create(members, m_startTime)
-                         : CardGateway::invite(members);
+    const int code =
+        confirmation.purpose == CardReplies::Purpose::Create
+            ? gateway()->createVideoConference(CardRequests::create(members, m_startTime), m_startTime)
+            : gateway()->inviteVideoConference(CardRequests::invite(members));
     if (alive.isNull())
         return;
     m_isConfirming = false;

@@ -154,7 +154,7 @@ ConferenceRows::CaptionedRow ConferenceRows::captioned(const QString &caption, Q
     label->setMinimumHeight(CaptionMinimumHeight);
     layout->addWidget(label);
     layout->addSpacing(SpaceAfterCaption);
-    return {row, layout};
+    return {row, layout, label};
 }
 
 QPushButton *ConferenceRows::line(QWidget *parent)

@@ -7,6 +7,7 @@
 
 QT_BEGIN_NAMESPACE
 class QHBoxLayout;
+class QLabel;
 class QPushButton;
 class QWidget;
 QT_END_NAMESPACE
@@ -28,6 +29,7 @@ struct CaptionedRow
 {
     QWidget *widget;
     QHBoxLayout *layout;
+    QLabel *caption;
 };
 CaptionedRow captioned(const QString &caption, QWidget *parent);
 

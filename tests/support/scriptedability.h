@@ -7,6 +7,8 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVector>
 
+#include <functional>
+
 /// What the code under test did to the ability library, in order.
 struct AbilityEvent
 {
@@ -43,6 +45,8 @@ public:
     virtual void setAnswer(const QString &action, int code, const QString &answer) = 0;
     /// The next request throws std::runtime_error(@p what).
     virtual void throwFromNextRequest(const char *what) = 0;
+    /// Runs @p what in the middle of the next request, on its thread: for what else may happen meanwhile.
+    virtual void duringNextRequest(const std::function<void()> &what) = 0;
     /// createContact() gives null from now on.
     virtual void refuseToCreate() = 0;
     /// Requests block from now on until release(), or until this many milliseconds have passed.

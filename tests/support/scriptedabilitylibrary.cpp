@@ -15,6 +15,7 @@
 #include <QtCore/QWaitCondition>
 
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -40,6 +41,7 @@ public:
         m_answers.clear();
         m_events.clear();
         m_exception.clear();
+        m_meanwhile = nullptr;
         m_created = 0;
         m_alive = 0;
         m_refuses = false;
@@ -63,6 +65,12 @@ public:
     {
         const QMutexLocker locker(&m_mutex);
         m_exception = what;
+    }
+
+    void duringNextRequest(const std::function<void()> &what) override
+    {
+        const QMutexLocker locker(&m_mutex);
+        m_meanwhile = what;
     }
 
     void refuseToCreate() override
@@ -133,6 +141,12 @@ public:
         QMutexLocker locker(&m_mutex);
         record({AbilityEvent::Requested, ability, action, parameters, timeout, nullptr});
         waitWhileBlocked();
+        if (m_meanwhile) {
+            const std::function<void()> meanwhile = std::exchange(m_meanwhile, nullptr);
+            locker.unlock();
+            meanwhile();
+            locker.relock();
+        }
         if (!m_exception.isNull()) {
             const std::runtime_error error(m_exception.constData());
             m_exception.clear();
@@ -174,6 +188,7 @@ private:
     QHash<QString, Answer> m_answers;
     QVector<AbilityEvent> m_events;
     QByteArray m_exception;
+    std::function<void()> m_meanwhile;
     int m_created = 0;
     int m_alive = 0;
     int m_blocked = 0;

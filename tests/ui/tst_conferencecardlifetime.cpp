@@ -1,0 +1,310 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "cardhost.h"
+#include "cardsamples.h"
+#include "conferencemsgstaticwidget.h"
+#include "contactreplywidget.h"
+#include "customizecombobox.h"
+
+#include <lumo/lcombobox.h>
+#include <lumo/lcommandlinkbutton.h>
+#include <lumo/lguiapplicationhelper.h>
+#include <lumo/lspinbox.h>
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QPushButton>
+
+using namespace CardSamples;
+
+/// A card may be deleted by whoever hears of it, at any moment: inside each of its signals, and while a
+/// request that it started is under way. What is checked is that nothing is touched afterwards; the
+/// sanitizers see the rest.
+class TestConferenceCardLifetime : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void deletedByItsOwnReply_data();
+    void deletedByItsOwnReply();
+    void deletedWhileItsRequestIsUnderWay_data();
+    void deletedWhileItsRequestIsUnderWay();
+    void deletedWhenItGoesOnInTheContacts();
+    void deletedWhileItOpensTheContacts_data();
+    void deletedWhileItOpensTheContacts();
+    void deletedBySignalsOfItsControls_data();
+    void deletedBySignalsOfItsControls();
+    void deletedWithTheDispatcherListening();
+    void theDispatcherGoesFirst();
+    void theThemeChangesAfterACardIsGone();
+};
+
+namespace {
+
+using Build = void (*)(ConferenceMsgStaticWidget &);
+using Go = void (*)(QPushButton *);
+
+void buildEdited(ConferenceMsgStaticWidget &card)
+{
+    QVector<ContactDetailMsg> list = {conference()};
+    card.createInviteConference(list);
+    named<LSpinBox>(card, QStringLiteral("人数"))->setValue(7);
+}
+
+void buildCreate(ConferenceMsgStaticWidget &card)
+{
+    card.createMultiplePerson(createdDetail(), true);
+}
+
+void buildInvite(ConferenceMsgStaticWidget &card)
+{
+    card.inviteMultiplePerson(inviteDetail());
+}
+
+void buildLimit(ConferenceMsgStaticWidget &card)
+{
+    card.invitePersonLimit(inviteDetail());
+}
+
+/// Everything that makes a card ask and answer, on each way on which a person can get there.
+void addActions()
+{
+    struct Action
+    {
+        const char *name;
+        Build build;
+        const char *button;
+    };
+    static const Action actions[] = {
+        {"modify", buildEdited, "修 改"},      {"cancel", buildEdited, "取 消"},
+        {"create", buildCreate, "确 认"},      {"invite", buildInvite, "确 认"},
+        {"within limit", buildLimit, "确 认"},
+    };
+    struct Way
+    {
+        const char *name;
+        void (*go)(QPushButton *);
+    };
+    static const Way ways[] = {
+        {"click",
+         [](QPushButton *target) {
+             QTest::mouseClick(target, Qt::LeftButton);
+         }},
+        {"Return",
+         [](QPushButton *target) {
+             QWindow *window = target->window()->windowHandle();
+             target->setFocus(Qt::TabFocusReason);
+             QTest::keyClick(window, Qt::Key_Return);
+         }},
+        {"Space",
+         [](QPushButton *target) {
+             QWindow *window = target->window()->windowHandle();
+             target->setFocus(Qt::TabFocusReason);
+             QTest::keyClick(window, Qt::Key_Space);
+         }},
+        {"signal",
+         [](QPushButton *target) {
+             Q_EMIT target->clicked();
+         }},
+    };
+    QTest::addColumn<Build>("build");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<Go>("go");
+    for (const Action &action : actions) {
+        for (const Way &way : ways) {
+            QTest::addRow("%s by %s", action.name, way.name)
+                << action.build << QString::fromUtf8(action.button) << way.go;
+        }
+    }
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Build)
+Q_DECLARE_METATYPE(Go)
+
+void TestConferenceCardLifetime::deletedByItsOwnReply_data()
+{
+    addActions();
+}
+
+void TestConferenceCardLifetime::deletedByItsOwnReply()
+{
+    QFETCH(Build, build);
+    QFETCH(QString, text);
+    QFETCH(Go, go);
+    CardHost host;
+    build(*host.card());
+    QVERIFY(host.activate());
+    connect(host.card(), &ConferenceMsgStaticWidget::signalSendShowMessgae, &host,
+            [&host] { delete host.card(); });
+    go(button(*host.card(), text));
+    QVERIFY(host.card() == nullptr);
+    QCOMPARE(host.replies().size(), 1);
+    QCOMPARE(CardHost::actions().size(), 1);
+}
+
+void TestConferenceCardLifetime::deletedWhileItsRequestIsUnderWay_data()
+{
+    addActions();
+}
+
+void TestConferenceCardLifetime::deletedWhileItsRequestIsUnderWay()
+{
+    QFETCH(Build, build);
+    QFETCH(QString, text);
+    QFETCH(Go, go);
+    CardHost host;
+    build(*host.card());
+    QVERIFY(host.activate());
+    ScriptedAbility::instance().duringNextRequest([&host] { delete host.card(); });
+    go(button(*host.card(), text));
+    QVERIFY(host.card() == nullptr);
+    // Nobody is left who could answer.
+    QVERIFY(host.replies().isEmpty());
+    QCOMPARE(CardHost::actions().size(), 1);
+}
+
+void TestConferenceCardLifetime::deletedWhenItGoesOnInTheContacts()
+{
+    for (const bool duringRequest : {false, true}) {
+        CardHost host;
+        buildEdited(*host.card());
+        if (duringRequest) {
+            ScriptedAbility::instance().duringNextRequest([&host] { delete host.card(); });
+        } else {
+            connect(host.card(), &ConferenceMsgStaticWidget::signalSendShowMessgae, &host,
+                    [&host] { delete host.card(); });
+        }
+        host.card()->slotInviteConference();
+        QVERIFY(host.card() == nullptr);
+        QCOMPARE(CardHost::actions(), QStringList{QStringLiteral("Update Conference")});
+    }
+}
+
+void TestConferenceCardLifetime::deletedWhileItOpensTheContacts_data()
+{
+    QTest::addColumn<int>("way");
+    QTest::newRow("by a click") << 0;
+    QTest::newRow("by a key") << 1;
+    QTest::newRow("by a click on the footer") << 2;
+    QTest::newRow("by Return on the footer") << 3;
+}
+
+void TestConferenceCardLifetime::deletedWhileItOpensTheContacts()
+{
+    QFETCH(int, way);
+    CardHost host;
+    host.card()->multipleInit(conferences(4));
+    QVERIFY(host.activate());
+    ScriptedAbility::instance().duringNextRequest([&host] { delete host.card(); });
+    QPushButton *footer = shown<LCommandLinkButton>(*host.card()).first();
+    QWidget *target = way < 2 ? static_cast<QWidget *>(host.card()) : footer;
+    target->setFocus(Qt::TabFocusReason);
+    if (way % 2 == 0)
+        QTest::mouseClick(target, Qt::LeftButton);
+    else
+        QTest::keyClick(host.windowHandle(), Qt::Key_Return);
+    QVERIFY(host.card() == nullptr);
+    QCOMPARE(CardHost::actions(), QStringList{QStringLiteral("Open Conference List")});
+}
+
+void TestConferenceCardLifetime::deletedBySignalsOfItsControls_data()
+{
+    QTest::addColumn<int>("control");
+    QTest::newRow("the day") << 0;
+    QTest::newRow("the hour") << 1;
+    QTest::newRow("the duration") << 2;
+    QTest::newRow("the head count") << 3;
+}
+
+void TestConferenceCardLifetime::deletedBySignalsOfItsControls()
+{
+    QFETCH(int, control);
+    CardHost host;
+    QVector<ContactDetailMsg> list = {conference()};
+    host.card()->createInviteConference(list);
+    QVERIFY(host.activate());
+    const ConferenceMsgStaticWidget &card = *host.card();
+    const auto deleteCard = [&host] {
+        delete host.card();
+    };
+    auto *date = named<CustomizeComboBox>(card, QStringLiteral("日期"));
+    auto *hour = named<LComboBox>(card, QStringLiteral("开始时间"));
+    auto *duration = named<LComboBox>(card, QStringLiteral("时长"));
+    auto *people = named<LSpinBox>(card, QStringLiteral("人数"));
+    switch (control) {
+    case 0:
+        connect(date, &CustomizeComboBox::signalSelectionDate, &host, deleteCard);
+        date->slotSelectionData(QDate(2024, 3, 8));
+        break;
+    case 1:
+    case 2: {
+        LComboBox *box = control == 1 ? hour : duration;
+        // The last of the signals of a change.
+        connect(box, &QComboBox::currentTextChanged, &host, deleteCard, Qt::QueuedConnection);
+        box->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(host.windowHandle(), Qt::Key_Up);
+        break;
+    }
+    default:
+        connect(people, QOverload<int>::of(&QSpinBox::valueChanged), &host, deleteCard, Qt::QueuedConnection);
+        people->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(host.windowHandle(), Qt::Key_Down);
+        break;
+    }
+    QTRY_VERIFY(host.card() == nullptr);
+    QVERIFY(host.replies().isEmpty());
+}
+
+void TestConferenceCardLifetime::deletedWithTheDispatcherListening()
+{
+    const LogCapture log;
+    ContactReplyWidget dispatcher;
+    CardHost host;
+    QPointer<ConferenceMsgStaticWidget> card;
+    Reply reply(0, QString(), Reply::Texts);
+    dispatcher.slotNoticeAction(3, QVariant::fromValue(inviteDetail()), &reply);
+    card = qobject_cast<ConferenceMsgStaticWidget *>(reply.widget);
+    QStringList heard;
+    connect(&dispatcher, &ContactReplyWidget::signaleSendShowMessage, this, [&](const Reply &late) {
+        heard.append(late.displayText.toString());
+        delete card;
+    });
+    card->slotInviteMultipleSelectBtn();
+    QVERIFY(card.isNull());
+    QCOMPARE(heard, QStringList{QStringLiteral("好的，已为您发起和赵六的视频会议。")});
+    // The next result does not mind what became of the former card.
+    dispatcher.slotNoticeAction(3, QVariant::fromValue(inviteDetail()), &reply);
+    QVERIFY(reply.widget != nullptr);
+    delete reply.widget;
+}
+
+void TestConferenceCardLifetime::theDispatcherGoesFirst()
+{
+    CardHost host;
+    auto dispatcher = std::make_unique<ContactReplyWidget>();
+    Reply reply(0, QString(), Reply::Texts);
+    dispatcher->slotNoticeAction(3, QVariant::fromValue(inviteDetail()), &reply);
+    const std::unique_ptr<QWidget> owner(reply.widget);
+    dispatcher.reset();
+    qobject_cast<ConferenceMsgStaticWidget *>(reply.widget)->slotInviteMultipleSelectBtn();
+    QCOMPARE(CardHost::actions(), QStringList{QStringLiteral("Invite Members")});
+}
+
+void TestConferenceCardLifetime::theThemeChangesAfterACardIsGone()
+{
+    const LogCapture log;
+    {
+        ConferenceMsgStaticWidget card;
+        card.multipleInit(conferences(4));
+    }
+    auto *helper = LGuiApplicationHelper::instance();
+    QSignalSpy changes(helper, &LGuiApplicationHelper::themeTypeChanged);
+    helper->setPaletteType(LGuiApplicationHelper::DarkType);
+    QTRY_COMPARE(changes.size(), 1);
+    helper->setPaletteType(LGuiApplicationHelper::UnknownType);
+}
+
+QTEST_MAIN(TestConferenceCardLifetime)
+#include "tst_conferencecardlifetime.moc"

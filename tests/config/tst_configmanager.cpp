@@ -3,6 +3,7 @@
 
 #include "configmanager.h"
 #include "logcapture.h"
+#include "virtualplace.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QJsonDocument>
@@ -282,6 +283,37 @@ private Q_SLOTS:
         QVERIFY(first->isObject());
         QVERIFY(second->isArray());
         delete first; // nobody else's any more
+    }
+
+    void virtualFunctionsStandInTheFixedOrder()
+    {
+        using StringQuery = bool (IConfig::*)(const QString &, QString &);
+        using ListQuery = bool (IConfig::*)(const QString &, QStringList &);
+        QCOMPARE(virtualPlaceOf(StringQuery(&IConfig::query)), 2);
+        QCOMPARE(virtualPlaceOf(ListQuery(&IConfig::query)), 3);
+        QCOMPARE(virtualPlaceOf(&IConfig::fromJson), 4);
+        QCOMPARE(virtualPlaceOf(&IConfig::contains), 5);
+
+        using OwnStringQuery = bool (ConfigManager::*)(const QString &, QString &);
+        using OwnListQuery = bool (ConfigManager::*)(const QString &, QStringList &);
+        const auto first = firstPlaceAfterQObject;
+        QCOMPARE(virtualPlaceOf(&ConfigManager::contains), first);
+        QCOMPARE(virtualPlaceOf(OwnStringQuery(&ConfigManager::query)), first + 1);
+        QCOMPARE(virtualPlaceOf(OwnListQuery(&ConfigManager::query)), first + 2);
+        QCOMPARE(virtualPlaceOf(&ConfigManager::fromJson), first + 3);
+        QCOMPARE(virtualPlaceOf(&ConfigManager::createMap), first + 4);
+        QCOMPARE(virtualPlaceOf(&ConfigManager::init), first + 5);
+        QCOMPARE(virtualPlaceOf(&ConfigManager::dump), first + 6);
+
+        QCOMPARE(virtualPlaceOf(&JsonConfigLoader::load), first);
+        QCOMPARE(virtualPlaceOf(&JsonConfigLoader::unload), first + 1);
+    }
+
+    void objectsHoldNothingElse()
+    {
+        QCOMPARE(sizeof(JsonConfigLoader), sizeof(QObject) + sizeof(void *));
+        QCOMPARE(sizeof(ConfigManager), sizeof(QObject) + sizeof(IConfig) + sizeof(JsonConfigLoader) +
+                                            sizeof(QMap<QString, QString>));
     }
 
     void oneInstanceForTheProcess()

@@ -7,6 +7,13 @@
 #include <QtCore/QJsonDocument>
 #include <QtTest/QtTest>
 
+#include <cstddef>
+
+// The order of members is part of the binary layout.
+static_assert(offsetof(CloudIntent, name) == 0 && offsetof(CloudIntent, slotList) == sizeof(QString));
+static_assert(sizeof(CloudSlot) == sizeof(QVariantMap) &&
+              sizeof(CloudSemantic) == sizeof(QVector<CloudIntent>));
+
 namespace {
 
 const QString noSemantic = QStringLiteral("debug: Can not parse semantic, root name must be:  semantic");
@@ -170,6 +177,7 @@ private Q_SLOTS:
 
     void parserHasAMetaObject()
     {
+        QCOMPARE(sizeof(SemanticParser), sizeof(QObject) + sizeof(CloudSemantic) + sizeof(QJsonDocument *));
         QCOMPARE(SemanticParser().metaObject()->className(), "SemanticParser");
         QCOMPARE(SemanticParser::staticMetaObject.methodCount(), QObject::staticMetaObject.methodCount());
     }

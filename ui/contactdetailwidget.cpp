@@ -3,7 +3,8 @@
 
 #include "contactdetailwidget.h"
 
-#include "cardgateway.h"
+#include "cardrequests.h"
+#include "conferencecardinterface.h"
 
 #include <lumo/lcombobox.h>
 #include <lumo/lfontsizemanager.h>
@@ -165,7 +166,8 @@ void ContactDetailWidget::slotsClickConfirm()
     const QDateTime start = chosenStart();
     qDebug() << "startTime:" << start;
     // The form may be gone when the call comes back.
-    const int code = CardGateway::update(changedConference(start));
+    const int code = ConferenceCardInterface::instance()->UpdateVideoConference(
+        CardRequests::update(changedConference(start)));
     qDebug() << code;
 }
 

@@ -8,10 +8,6 @@
 #include "configmanager.h"
 #include "latin1literal.h"
 
-#include <array>
-#include <cstdio>
-#include <cstdlib>
-
 namespace {
 
 constexpr QLatin1String timeOutKey = "/Contact/TimeOut"_latin1;
@@ -21,9 +17,6 @@ constexpr QLatin1String maxTimeOutKey = "/Contact/MaxTimeOut"_latin1;
 constexpr int shortestTimeOut = 500; ///< anything up to it is taken for a mistake
 constexpr int defaultTimeOut = 5000;
 constexpr int defaultMaxTimeOut = 15000;
-
-constexpr const char *processName = "meetlynx";
-constexpr std::size_t lineSize = 256;
 
 /// The configured number when it is greater than @p limit, else @p otherwise. A text that is no number is 0.
 int configuredAbove(int limit, QLatin1String key, int otherwise)
@@ -37,22 +30,6 @@ int configuredAbove(int limit, QLatin1String key, int otherwise)
 }
 
 } // namespace
-
-bool ContactUtils::contactAppIsRunning()
-{
-    std::array<char, lineSize> command{};
-    std::snprintf(command.data(), command.size(), "ps -ef | grep -w %s | grep -v grep | wc -l", processName);
-    FILE *pipe = popen(command.data(), "re"); // "e": no child started meanwhile inherits it
-    if (pipe == nullptr) {
-        return false;
-    }
-    std::array<char, lineSize> line{};
-    const bool isRead = std::fgets(line.data(), static_cast<int>(line.size()), pipe) != nullptr;
-    pclose(pipe);
-    // Exactly one, on purpose: with two it is not clear which of them would answer.
-    constexpr int decimal = 10;
-    return isRead && std::strtol(line.data(), nullptr, decimal) == 1;
-}
 
 int ContactUtils::timeoutInit()
 {

@@ -1,0 +1,210 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "configmanager.h"
+#include "contactintentfactory.h"
+#include "contactservice.h"
+#include "stubs.h"
+
+#include <kelvane/kelvaneabilitymanager.h>
+
+#include <benchmark/benchmark.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+
+#include <chrono>
+#include <memory>
+
+namespace {
+
+/// As the understanding service sends it, some 400 bytes; the intent and its slots go into the middle.
+QString request(const char *intentName, const char *slotArray)
+{
+    return QStringLiteral(
+               R"({"intent":{"service":"contact","semantic":[{"intent":"%1","score":0.98,"slots":%2}],)"
+               R"("shouldEndSession":true,"answer":{"text":"好的"},)"
+               R"("voice_answer":[{"type":"TTS","content":"好的"}]},"text":"%3","sid":"c0a80101-0001",)"
+               R"("version":"3.1"})")
+        .arg(QString::fromUtf8(intentName), QString::fromUtf8(slotArray),
+             QStringLiteral("请帮我看一下我今天和明天都有哪些视频会议要参加然后告诉我"));
+}
+
+QString addBuddy()
+{
+    return request("ADD_BUDDY",
+                   R"([{"name":"account","value":"zhang san","normValue":"zhangsan","begin":2,"end":11}])");
+}
+
+QString invite()
+{
+    return request("INVITE_CONFERENCE",
+                   R"([{"name":"name","value":"张三","normValue":"张三","begin":2,"end":4},)"
+                   R"({"name":"name","value":"小李","normValue":"李雷","begin":5,"end":7}])");
+}
+
+QString joinMine()
+{
+    return request("ENTER_MY_CONFERENCE", "[]");
+}
+
+QString invited()
+{
+    return QStringLiteral("{\"ret\":\"OK\"}");
+}
+
+/// "Join my conference" with @p count conferences to choose from. No card is built: nothing listens here.
+QString manyConferences(int count)
+{
+    QJsonArray list;
+    for (int i = 0; i < count; ++i) {
+        list.append(
+            QJsonObject{{QStringLiteral("confId"), QStringLiteral("conference-%1").arg(i)},
+                        {QStringLiteral("conferenceDialNumber"), QString::number(400100 + i)},
+                        {QStringLiteral("title"), QStringLiteral("第%1次周会").arg(i)},
+                        {QStringLiteral("startTime"), 1772935200000 + i * 3600000LL},
+                        {QStringLiteral("duration"), 3600000},
+                        {QStringLiteral("participantLimit"), 100},
+                        {QStringLiteral("status"), QStringLiteral("0")},
+                        {QStringLiteral("isPayingUser"), false},
+                        {QStringLiteral("participants"),
+                         QJsonArray{QJsonObject{{QStringLiteral("name"), QStringLiteral("张三")},
+                                                {QStringLiteral("userId"), QStringLiteral("u1")},
+                                                {QStringLiteral("account"), QStringLiteral("zhangsan")}},
+                                    QJsonObject{{QStringLiteral("name"), QStringLiteral("李雷")},
+                                                {QStringLiteral("userId"), QStringLiteral("u2")},
+                                                {QStringLiteral("account"), QStringLiteral("lilei")}}}}});
+    }
+    const QJsonObject answer{{QStringLiteral("ret"), QStringLiteral("Time Overlap")},
+                             {QStringLiteral("list"), list}};
+    return QString::fromUtf8(QJsonDocument(answer).toJson(QJsonDocument::Compact));
+}
+
+void answerOnce(const QString &semantic)
+{
+    ContactService service(QStringLiteral("contact"), ContactIntentFactory::instance(), 10);
+    service.service(semantic);
+    benchmark::DoNotOptimize(service.getServiceReply()->code);
+}
+
+void parseOnce(const QByteArray &text)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(text);
+    benchmark::DoNotOptimize(document.isNull());
+}
+
+/// Both, turn about, so that what else the machine does falls on both; reports how many times the parse it
+/// takes.
+void measureRatio(benchmark::State &state, const QString &semantic, const QString &answer,
+                  const QByteArray &parsed)
+{
+    using Clock = std::chrono::steady_clock;
+    constexpr int runs = 100;
+    Stubs::answerAtOnce(answer);
+    Clock::duration answering{};
+    Clock::duration parsing{};
+    for (auto _ : state) {
+        const Clock::time_point begin = Clock::now();
+        for (int i = 0; i < runs; ++i) {
+            answerOnce(semantic);
+        }
+        const Clock::time_point middle = Clock::now();
+        for (int i = 0; i < runs; ++i) {
+            parseOnce(parsed);
+        }
+        answering += middle - begin;
+        parsing += Clock::now() - middle;
+    }
+    const auto microseconds = [&state](Clock::duration total) {
+        return std::chrono::duration<double, std::micro>(total).count() /
+               (runs * static_cast<double>(state.iterations()));
+    };
+    state.counters["bytes"] = static_cast<double>(parsed.size());
+    state.counters["answer_us"] = microseconds(answering);
+    state.counters["parse_us"] = microseconds(parsing);
+    state.counters["ratio"] = microseconds(answering) / microseconds(parsing);
+}
+
+void requestAgainstItsParse(benchmark::State &state, QString (*text)())
+{
+    measureRatio(state, text(), invited(), text().toUtf8());
+}
+BENCHMARK_CAPTURE(requestAgainstItsParse, addBuddy, addBuddy)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(requestAgainstItsParse, invite, invite)->Unit(benchmark::kMillisecond);
+
+void answerWith100ConferencesAgainstItsParse(benchmark::State &state)
+{
+    const QString answer = manyConferences(100);
+    measureRatio(state, joinMine(), answer, answer.toUtf8());
+}
+BENCHMARK(answerWith100ConferencesAgainstItsParse)->Unit(benchmark::kMillisecond);
+
+void serviceAndReply(benchmark::State &state)
+{
+    const QString semantic = addBuddy();
+    Stubs::answerAtOnce(invited());
+    for (auto _ : state) {
+        answerOnce(semantic);
+    }
+}
+BENCHMARK(serviceAndReply)->Unit(benchmark::kMicrosecond);
+
+void bareParse(benchmark::State &state)
+{
+    const QByteArray text = addBuddy().toUtf8();
+    for (auto _ : state) {
+        parseOnce(text);
+    }
+}
+BENCHMARK(bareParse)->Unit(benchmark::kMicrosecond);
+
+void processCheck(benchmark::State &state)
+{
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(Stubs::realProcessCheck());
+    }
+}
+BENCHMARK(processCheck)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void roundTripToTheApplication(benchmark::State &state)
+{
+    Stubs::askTheApplication();
+    static constexpr int timeout = 5000; // milliseconds
+    QString answer;
+    const auto ask = [&answer] {
+        const std::unique_ptr<ContactAbility> ability(KelvaneAbilityManager::instance()->createContact());
+        ability->setTimeout(timeout);
+        return ability->request(QStringLiteral("Is Conference Host"), QString(), answer);
+    };
+    // The first one starts it.
+    if (ask() != 0) {
+        state.SkipWithError("the contacts application does not answer; run this through benchmarks/run");
+        return;
+    }
+    for (auto _ : state) {
+        if (ask() != 0) {
+            state.SkipWithError("the contacts application stopped answering");
+            return;
+        }
+    }
+}
+BENCHMARK(roundTripToTheApplication)->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    // Writing records out is the host's cost.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    // As in an installation; without it each request logs two misses.
+    ConfigManager::instance()->fromJson(QJsonObject{
+        {QStringLiteral("Contact"), QJsonObject{{QStringLiteral("TimeOut"), QStringLiteral("5000")},
+                                                {QStringLiteral("MaxTimeOut"), QStringLiteral("15000")}}}});
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include <QtCore/QtPlugin>
+#include <QtWidgets/QWidget>
+
+/// The least that a plugin with widgets can be: what loading costs without us.
+class EmptyPlugin : public QObject
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "org.contact-plugin.benchmark.empty")
+
+public:
+    Q_INVOKABLE QWidget *widget() const { return new QWidget; }
+};
+
+#include "emptyplugin.moc"

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "stubs.h"
+
+#include <kelvane/kelvaneabilitymanager.h>
+
+namespace {
+
+QString preparedAnswer;
+bool answersAtOnce = false;
+
+class InstantAbility final : public ContactAbility
+{
+public:
+    void setTimeout(const int & /*msecs*/) override {}
+
+    int request(const QString & /*action*/, const QString & /*parameters*/, QString &answer) override
+    {
+        answer = preparedAnswer;
+        return 0;
+    }
+};
+
+} // namespace
+
+// The names that the linker gives to ContactUtils::contactAppIsRunning() and
+// KelvaneAbilityManager::createContact() when they are wrapped; see the CMake file.
+extern "C" {
+
+bool __real__ZN12ContactUtils19contactAppIsRunningEv();
+ContactAbility *__real__ZN21KelvaneAbilityManager13createContactEv(KelvaneAbilityManager *self);
+
+bool __wrap__ZN12ContactUtils19contactAppIsRunningEv()
+{
+    return true;
+}
+
+ContactAbility *__wrap__ZN21KelvaneAbilityManager13createContactEv(KelvaneAbilityManager *self)
+{
+    return answersAtOnce ? new InstantAbility : __real__ZN21KelvaneAbilityManager13createContactEv(self);
+}
+}
+
+void Stubs::answerAtOnce(const QString &answer)
+{
+    preparedAnswer = answer;
+    answersAtOnce = true;
+}
+
+void Stubs::askTheApplication()
+{
+    answersAtOnce = false;
+}
+
+bool Stubs::realProcessCheck()
+{
+    return __real__ZN12ContactUtils19contactAppIsRunningEv();
+}

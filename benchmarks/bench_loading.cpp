@@ -5,6 +5,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QLibrary>
 #include <QtCore/QPluginLoader>
 #include <QtCore/QProcess>
 #include <QtWidgets/QApplication>
@@ -15,12 +16,26 @@
 namespace {
 
 const char loadOption[] = "--load";
+/// Of a desktop where other programs' parts have loaded the platform's libraries already.
+const char loadOnDesktopOption[] = "--load-on-desktop";
+
+bool isLoadOption(const char *argument)
+{
+    return std::strcmp(argument, loadOption) == 0 || std::strcmp(argument, loadOnDesktopOption) == 0;
+}
 
 /// In a process of its own, because a library is only loaded once: loads and instantiates, and prints
 /// nanoseconds.
 int loadOnce(int argc, char **argv)
 {
     const QApplication application(argc, argv);
+    if (std::strcmp(argv[1], loadOnDesktopOption) == 0) {
+        for (const char *library : {TOOLKIT_FILE, ABILITY_FILE}) {
+            if (!QLibrary(QString::fromLocal8Bit(library)).load()) {
+                return 1;
+            }
+        }
+    }
     QElapsedTimer timer;
     timer.start();
     QPluginLoader loader(QString::fromLocal8Bit(argv[2]));
@@ -35,11 +50,11 @@ int loadOnce(int argc, char **argv)
 }
 
 /// Nanoseconds of one loading; negative when it failed.
-qint64 measure(const char *file)
+qint64 measure(const char *option, const char *file)
 {
     QProcess process;
     process.start(QCoreApplication::applicationFilePath(),
-                  {QLatin1String(loadOption), QString::fromLocal8Bit(file)});
+                  {QLatin1String(option), QString::fromLocal8Bit(file)});
     process.waitForFinished();
     bool isNumber = false;
     const qint64 elapsed = process.readAllStandardOutput().trimmed().toLongLong(&isNumber);
@@ -47,13 +62,13 @@ qint64 measure(const char *file)
 }
 
 /// Both, turn about, in a host that has Qt Widgets running already.
-void loadingAgainstAnEmptyPlugin(benchmark::State &state)
+void loadingAgainstAnEmptyPlugin(benchmark::State &state, const char *option)
 {
     double plugin = 0;
     double empty = 0;
     for (auto _ : state) {
-        const qint64 ours = measure(CONTACT_PLUGIN_FILE);
-        const qint64 theirs = measure(EMPTY_PLUGIN_FILE);
+        const qint64 ours = measure(option, CONTACT_PLUGIN_FILE);
+        const qint64 theirs = measure(option, EMPTY_PLUGIN_FILE);
         if (ours < 0 || theirs < 0) {
             state.SkipWithError("a plugin could not be loaded");
             return;
@@ -67,13 +82,20 @@ void loadingAgainstAnEmptyPlugin(benchmark::State &state)
     state.counters["empty_us"] = empty / count / 1000;
     state.counters["ratio"] = plugin / empty;
 }
-BENCHMARK(loadingAgainstAnEmptyPlugin)->UseManualTime()->Iterations(40)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(loadingAgainstAnEmptyPlugin, withThePlatformsLibraries, loadOption)
+    ->UseManualTime()
+    ->Iterations(40)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(loadingAgainstAnEmptyPlugin, alone, loadOnDesktopOption)
+    ->UseManualTime()
+    ->Iterations(40)
+    ->Unit(benchmark::kMicrosecond);
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    if (argc == 3 && std::strcmp(argv[1], loadOption) == 0) {
+    if (argc == 3 && isLoadOption(argv[1])) {
         return loadOnce(argc, argv);
     }
     const QCoreApplication application(argc, argv);

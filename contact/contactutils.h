@@ -9,6 +9,7 @@
 
 QT_BEGIN_NAMESPACE
 class QJsonArray;
+class QJsonDocument;
 QT_END_NAMESPACE
 
 /**
@@ -70,6 +71,8 @@ public:
 
     /// Whether the turn ends the dialogue; true also for a text that does not say.
     static bool analyzeIsShouldEndSession(const QString &semanticJson);
+    /// The same for a text that was read already.
+    static bool analyzeIsShouldEndSession(const QJsonDocument &semantic);
     /// The understanding service's answer: @p first is shown, @p second spoken. What is missing stays as it
     /// came in.
     static void getVoiceAnswerContext(const QString &semanticJson, QString &first, QString &second);

@@ -38,12 +38,16 @@ bool assignString(const QJsonValue &value, QString &text)
 
 bool ContactUtils::analyzeIsShouldEndSession(const QString &semanticJson)
 {
-    const QJsonDocument document = QJsonDocument::fromJson(semanticJson.toUtf8());
-    if (document.isNull()) {
+    return analyzeIsShouldEndSession(QJsonDocument::fromJson(semanticJson.toUtf8()));
+}
+
+bool ContactUtils::analyzeIsShouldEndSession(const QJsonDocument &semantic)
+{
+    if (semantic.isNull()) {
         qDebug() << "doc.isNull()";
         return true;
     }
-    const QJsonValue intentValue = document.object().value(intentKey);
+    const QJsonValue intentValue = semantic.object().value(intentKey);
     if (intentValue.isUndefined()) {
         qDebug() << "intent not exist";
         return true;

@@ -10,6 +10,7 @@
 #include "semantic/semanticparser.h"
 
 #include <QtCore/QDebug>
+#include <QtCore/QJsonDocument>
 
 #include <exception>
 
@@ -62,13 +63,15 @@ IRet ContactService::service(const QString &semantic)
         return NoFactory;
     }
 
+    // Read once: reading is most of what a turn costs.
+    const QJsonDocument understanding = QJsonDocument::fromJson(semantic.toUtf8());
     SemanticParser parser;
-    if (!parser.parseSemanticJson(semantic)) {
+    if (!parser.parseSemanticDocument(understanding)) {
         qDebug() << "Parse the semantic json error:" << semantic;
         return SemanticUnreadable;
     }
 
-    if (!ContactUtils::analyzeIsShouldEndSession(semantic)) {
+    if (!ContactUtils::analyzeIsShouldEndSession(understanding)) {
         qDebug() << "Parse the semantic json analyzeIsShouldEndSession is false" << semantic;
         m_openSessionSemantic = semantic;
         return Handled;

@@ -32,6 +32,13 @@ public:
         return m_semantic.parse(m_document->object());
     }
 
+    /// The same for an answer that was read already.
+    bool parseSemanticDocument(const QJsonDocument &answer)
+    {
+        m_document = intentsOf(answer);
+        return m_semantic.parse(m_document->object());
+    }
+
     [[nodiscard]] const CloudSemantic &semantic() const { return m_semantic; }
 
 private:

@@ -4,24 +4,19 @@
 #include "createconferenceintent.h"
 
 #include "contactutils.h"
+#include "jsontext.h"
 #include "memberphrases.h"
 #include "replytable.h"
+#include "requestkeys.h"
 #include "slotreader.h"
 
 #include <QtCore/QDateTime>
 #include <QtCore/QDebug>
 #include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
+#include <QtCore/QSet>
 #include <QtCore/QThread>
 
 namespace {
-
-// {"members":[{"name":"张三","userId":""}],"startTime":1772850000000}; without "startTime" it starts now.
-const QLatin1String membersKey("members");
-const QLatin1String nameKey("name");
-const QLatin1String userIdKey("userId");
-const QLatin1String startTimeKey("startTime");
 
 using Detail = ContactCreatedConferenceDetail;
 
@@ -133,11 +128,11 @@ const QVector<ReplyRow<Detail>> &replies()
 QJsonArray membersOf(const QVector<QString> &names)
 {
     QJsonArray members;
-    QVector<QString> taken;
+    QSet<QString> taken;
     for (const QString &name : names) {
         if (!taken.contains(name)) {
-            taken.append(name);
-            members.append(QJsonObject{{nameKey, name}, {userIdKey, QString()}});
+            taken.insert(name);
+            members.append(QJsonObject{{RequestKey::Name, name}, {RequestKey::UserId, QString()}});
         }
     }
     return members;
@@ -174,14 +169,14 @@ int CreateConferenceIntent::handleCreateVideoMeeting(const CloudIntent &intent)
         return ResultCode::PastTime;
     }
 
-    QJsonObject request{{membersKey, membersOf(names)}};
+    // Without a start it starts now.
+    QJsonObject request{{RequestKey::Members, membersOf(names)}};
     if (startMsecs > 0 && isSchedule) {
-        request.insert(startTimeKey, startMsecs);
+        request.insert(RequestKey::StartTime, startMsecs);
         qInfo() << "startTime:" << QDateTime::fromMSecsSinceEpoch(startMsecs);
     }
-    const QString params = QString::fromUtf8(QJsonDocument(request).toJson(QJsonDocument::Compact));
-    return ConferenceCardInterface::instance()->createVideoConference(params, names, isSchedule, startMsecs,
-                                                                      m_detail);
+    return ConferenceCardInterface::instance()->createVideoConference(compactText(request), names, isSchedule,
+                                                                      startMsecs, m_detail);
 }
 
 int CreateConferenceIntent::handleReply(int code, const CloudIntent &intent)

@@ -73,17 +73,7 @@ std::optional<Conference> ConferenceRepository::byDialNumber(const QString &dial
 QVector<Conference> ConferenceRepository::ofUser(const QString &userId, qint64 fromMsecs, qint64 toMsecs,
                                                  int limit) const
 {
-    // The join order is given by CROSS JOIN: first the person's own piece of the index by time, then one
-    // conference each.
-    Statement query(m_database,
-                    QStringLiteral("SELECT") + conferenceColumns() +
-                        QStringLiteral("FROM participant"
-                                       " CROSS JOIN conference ON conference.id = participant.conference_id"
-                                       " CROSS JOIN person ON person.user_id = conference.host_id"
-                                       " WHERE participant.user_id = ?"
-                                       " AND participant.start_msecs > ? AND participant.start_msecs < ?"
-                                       " AND conference.start_msecs + duration_msecs > ?"
-                                       " ORDER BY participant.start_msecs LIMIT ?"));
+    Statement query(m_database, ofUserSql());
     query.bind(userId)
         .bind(fromMsecs - ConferenceRules::LongestMsecs)
         .bind(toMsecs)
@@ -96,6 +86,20 @@ QVector<Conference> ConferenceRepository::ofUser(const QString &userId, qint64 f
     for (Conference &conference : conferences)
         conference.participants = participants(conference.id, userId);
     return conferences;
+}
+
+QString ConferenceRepository::ofUserSql()
+{
+    // The join order is given by CROSS JOIN: first the person's own piece of the index by time, then one
+    // conference each.
+    return QStringLiteral("SELECT") + conferenceColumns() +
+           QStringLiteral("FROM participant"
+                          " CROSS JOIN conference ON conference.id = participant.conference_id"
+                          " CROSS JOIN person ON person.user_id = conference.host_id"
+                          " WHERE participant.user_id = ?"
+                          " AND participant.start_msecs > ? AND participant.start_msecs < ?"
+                          " AND conference.start_msecs + duration_msecs > ?"
+                          " ORDER BY participant.start_msecs LIMIT ?");
 }
 
 QVector<Conference> ConferenceRepository::startingAfter(qint64 fromMsecs, const QString &viewerId,

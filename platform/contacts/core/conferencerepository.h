@@ -27,6 +27,8 @@ public:
     /// without
     /// @p toMsecs, by their start; at most @p limit. Its cost does not depend on how many others there are.
     QVector<Conference> ofUser(const QString &userId, qint64 fromMsecs, qint64 toMsecs, int limit) const;
+    /// The statement behind it, for whoever wants to know how the database runs it.
+    static QString ofUserSql();
     /// Everybody's that start after @p fromMsecs, by their start; at most @p limit.
     QVector<Conference> startingAfter(qint64 fromMsecs, const QString &viewerId, int limit) const;
     /// The running conference in which @p userId is at the moment.

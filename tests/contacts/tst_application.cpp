@@ -1,0 +1,245 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "admin1proxy.h"
+
+#include <kelvane/kelvaneabilitymanager.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QProcess>
+#include <QtCore/QRandomGenerator>
+#include <QtCore/QTemporaryDir>
+#include <QtDBus/QDBusConnectionInterface>
+#include <QtTest/QtTest>
+
+#include <atomic>
+#include <csignal>
+#include <memory>
+#include <thread>
+
+namespace {
+
+const auto ServiceName = QStringLiteral("com.kelvane.meetlynx");
+const auto AdminPath = QStringLiteral("/com/kelvane/meetlynx/admin");
+
+QJsonObject ask(const QString &action, const QJsonObject &parameters, int &code)
+{
+    const std::unique_ptr<ContactAbility> ability(KelvaneAbilityManager::instance()->createContact());
+    ability->setTimeout(15000);
+    const QString text = QString::fromUtf8(QJsonDocument(parameters).toJson(QJsonDocument::Compact));
+    QString answer;
+    code = ability->request(action, text, answer);
+    return QJsonDocument::fromJson(answer.toUtf8()).object();
+}
+
+QString outcome(const QString &action)
+{
+    int code = 1;
+    return ask(action, {}, code).value(QLatin1String("ret")).toString();
+}
+
+pid_t servicePid()
+{
+    const QDBusReply<uint> pid = QDBusConnection::sessionBus().interface()->servicePid(ServiceName);
+    return pid.isValid() ? static_cast<pid_t>(pid.value()) : 0;
+}
+
+bool isAlive(pid_t pid)
+{
+    // A process that nobody has collected yet is dead all the same.
+    QFile status(QStringLiteral("/proc/%1/stat").arg(pid));
+    if (!status.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray line = status.readAll();
+    return line.mid(line.lastIndexOf(')') + 2, 1) != "Z";
+}
+
+void stopService()
+{
+    const pid_t pid = servicePid();
+    if (pid != 0)
+        kill(pid, SIGKILL);
+    QTRY_VERIFY(servicePid() == 0);
+}
+
+} // namespace
+
+/// The application as a process: started by the bus, killed at any moment, with and without a screen.
+class TestApplication : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { stopService(); }
+
+    void whatWasAnsweredSurvivesBeingKilled();
+    void theAdministrationIsOnTheBus();
+    void itEndsWithItsBus();
+    void itServesWithoutAScreen_data();
+    void itServesWithoutAScreen();
+    void aSecondStartEndsAtOnce();
+    void itTellsWhatItIs();
+    void itNeedsABus();
+};
+
+void TestApplication::whatWasAnsweredSurvivesBeingKilled()
+{
+    constexpr int Rounds = 20;
+    constexpr qint64 HourMsecs = 3600000;
+    // Schedules one conference after the other until the application is gone from under it.
+    qint64 start = QDateTime::currentMSecsSinceEpoch() + 30 * 24 * HourMsecs;
+    QStringList answered;
+    for (int round = 0; round < Rounds; ++round) {
+        QCOMPARE(outcome(QStringLiteral("Is Conference Host")), QStringLiteral("No Conference"));
+        Admin1Proxy(ServiceName, AdminPath, QDBusConnection::sessionBus())
+            .SetCreationLimit(1000000)
+            .waitForFinished();
+        const pid_t pid = servicePid();
+        std::atomic<bool> running{true};
+        std::thread creator([&] {
+            int code = 0;
+            while (running) {
+                const QJsonObject created =
+                    ask(QStringLiteral("Create Conference"),
+                        {{QStringLiteral("startTime"), start},
+                         {QStringLiteral("members"),
+                          QJsonArray{QJsonObject{{QStringLiteral("name"), QStringLiteral("赵磊")}}}}},
+                        code);
+                start += HourMsecs;
+                if (code != 0)
+                    break;
+                answered.append(created.value(QLatin1String("list"))
+                                    .toArray()
+                                    .at(0)
+                                    .toObject()
+                                    .value(QLatin1String("confId"))
+                                    .toString());
+            }
+        });
+        QTest::qWait(static_cast<int>(QRandomGenerator::global()->bounded(5, 60)));
+        kill(pid, SIGKILL);
+        running = false;
+        creator.join();
+        QTRY_VERIFY(servicePid() != pid);
+    }
+    QVERIFY(answered.size() > Rounds);
+    QVERIFY(!answered.contains(QString()));
+
+    QCOMPARE(outcome(QStringLiteral("Is Conference Host")), QStringLiteral("No Conference"));
+    const QString snapshot = Admin1Proxy(ServiceName, AdminPath, QDBusConnection::sessionBus()).Snapshot();
+    const QJsonArray conferences =
+        QJsonDocument::fromJson(snapshot.toUtf8()).object().value(QLatin1String("conferences")).toArray();
+    QSet<QString> kept;
+    for (const QJsonValue &value : conferences) {
+        const QJsonObject conference = value.toObject();
+        kept.insert(conference.value(QLatin1String("conferenceId")).toString());
+        // None is there by half.
+        QVERIFY(conference.value(QLatin1String("participants")).toArray().size() >=
+                (conference.value(QLatin1String("number")).toString() == QLatin1String("880100004") ? 1 : 2));
+    }
+    for (const QString &confId : qAsConst(answered))
+        QVERIFY2(kept.contains(confId), qPrintable(confId));
+}
+
+void TestApplication::theAdministrationIsOnTheBus()
+{
+    Admin1Proxy admin(ServiceName, AdminPath, QDBusConnection::sessionBus());
+    QVERIFY(admin.LoadSample());
+    QVERIFY(admin.Login(QStringLiteral("100002")));
+    QVERIFY(!admin.Login(QStringLiteral("nobody")).value());
+    admin.Logout().waitForFinished();
+    QCOMPARE(outcome(QStringLiteral("Exit Conference")), QStringLiteral("User Not Login"));
+    QVERIFY(admin.Login(QStringLiteral("100001")));
+    QCOMPARE(outcome(QStringLiteral("Exit Conference")), QStringLiteral("No Conference"));
+    QVERIFY(admin.SetConferenceState(QStringLiteral("880100001"), QStringLiteral("ended")));
+    QCOMPARE(outcome(QStringLiteral("Join My Conference")), QStringLiteral("Not Found"));
+    QVERIFY(admin.LoadSample());
+    QCOMPARE(outcome(QStringLiteral("Join My Conference")), QStringLiteral("OK"));
+    QVERIFY(admin.LoadSample());
+}
+
+void TestApplication::itEndsWithItsBus()
+{
+    const QTemporaryDir folder;
+    QProcess bus;
+    bus.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    bus.start(QStringLiteral("dbus-daemon"), {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
+                                              QStringLiteral("--config-file=" PRIVATE_BUS_CONFIG)});
+    QVERIFY(bus.waitForReadyRead(10000));
+    const QString address = QString::fromLatin1(bus.readLine()).trimmed();
+    const QDBusConnection connection = QDBusConnection::connectToBus(address, QStringLiteral("other"));
+    QVERIFY(connection.interface()->startService(ServiceName).isValid());
+    const pid_t pid = static_cast<pid_t>(connection.interface()->servicePid(ServiceName).value());
+    QVERIFY(isAlive(pid));
+    bus.kill();
+    QVERIFY(bus.waitForFinished());
+    QTRY_VERIFY(!isAlive(pid));
+    QDBusConnection::disconnectFromBus(QStringLiteral("other"));
+}
+
+void TestApplication::itServesWithoutAScreen_data()
+{
+    QTest::addColumn<QString>("display");
+    QTest::newRow("no display") << QString();
+    QTest::newRow("a display that does not answer") << QStringLiteral(":4711");
+}
+
+void TestApplication::itServesWithoutAScreen()
+{
+    QFETCH(QString, display);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+    environment.insert(QStringLiteral("DISPLAY"), display);
+    QProcess application;
+    application.setProcessEnvironment(environment);
+    application.setProcessChannelMode(QProcess::ForwardedChannels);
+    application.start(QStringLiteral(APPLICATION), {QStringLiteral("--service")});
+    QTRY_COMPARE(qint64(servicePid()), application.processId());
+    QCOMPARE(outcome(QStringLiteral("Open Conference List")), QStringLiteral("Success"));
+    application.terminate();
+    QVERIFY(application.waitForFinished());
+}
+
+void TestApplication::aSecondStartEndsAtOnce()
+{
+    QCOMPARE(outcome(QStringLiteral("Open Conference List")), QStringLiteral("Success"));
+    const pid_t first = servicePid();
+    QProcess second;
+    second.start(QStringLiteral(APPLICATION), QStringList());
+    QVERIFY(second.waitForFinished(10000));
+    QCOMPARE(second.exitCode(), 0);
+    QCOMPARE(servicePid(), first);
+}
+
+void TestApplication::itTellsWhatItIs()
+{
+    QProcess application;
+    application.start(QStringLiteral(APPLICATION), {QStringLiteral("--help")});
+    QVERIFY(application.waitForFinished(10000));
+    QCOMPARE(application.exitCode(), 0);
+    QVERIFY(application.readAllStandardOutput().contains("--service"));
+    application.start(QStringLiteral(APPLICATION), {QStringLiteral("--version")});
+    QVERIFY(application.waitForFinished(10000));
+    QCOMPARE(application.readAllStandardOutput().trimmed(), QByteArray("kelvane-contacts " CONTACTS_VERSION));
+}
+
+void TestApplication::itNeedsABus()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
+                       QStringLiteral("unix:path=/nonexistent/bus"));
+    QProcess application;
+    application.setProcessEnvironment(environment);
+    application.start(QStringLiteral(APPLICATION), {QStringLiteral("--service")});
+    QVERIFY(application.waitForFinished(10000));
+    QCOMPARE(application.exitCode(), 2);
+    QVERIFY(application.readAllStandardError().contains("There is no session bus"));
+}
+
+QTEST_GUILESS_MAIN(TestApplication)
+#include "tst_application.moc"

@@ -1,0 +1,187 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "sampleworld.h"
+
+#include "logcapture.h"
+
+#include "core/databaseerror.h"
+#include "core/statement.h"
+
+#include <QtCore/QDir>
+#include <QtTest/QtTest>
+
+namespace {
+
+QString onlyText(const QSqlDatabase &database, const char *sql)
+{
+    Statement query(database, QLatin1String(sql));
+    query.run().next();
+    return query.text(0);
+}
+
+} // namespace
+
+/// The file under the application: how it is made, kept and searched.
+class TestDatabase : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void itIsSetUpToLast();
+    void itIsOpenedAgainAsItWas();
+    void whatWasEmptiedStaysEmpty();
+    void aTransactionThatIsNotCommittedIsUndone();
+    void aFileOfANewerVersionIsRefusedUntouched();
+    void aFileThatIsNoDatabaseIsSetAside();
+    void aFolderThatCannotBeMadeIsAnError();
+    void foreignKeysHold();
+    void aDaysQueryWalksOneIndex();
+    void anAdministrationThatFailsChangesNothing();
+};
+
+void TestDatabase::itIsSetUpToLast()
+{
+    const QTemporaryDir folder;
+    const Database database(folder.filePath(QStringLiteral("deep/er/contacts.db")));
+    QCOMPARE(onlyText(database.handle(), "PRAGMA journal_mode"), QStringLiteral("wal"));
+    QCOMPARE(onlyText(database.handle(), "PRAGMA synchronous"), QStringLiteral("2"));
+    QCOMPARE(onlyText(database.handle(), "PRAGMA foreign_keys"), QStringLiteral("1"));
+    QCOMPARE(onlyText(database.handle(), "PRAGMA user_version"), QStringLiteral("1"));
+}
+
+void TestDatabase::itIsOpenedAgainAsItWas()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("contacts.db"));
+    QString before;
+    {
+        ContactsBook book(file, [] { return at("2026-03-07T10:20"); });
+        QVERIFY(
+            book.perform(QStringLiteral("Create Conference"), QString()).contains(QStringLiteral("\"OK\"")));
+        before = Administration(book).Snapshot();
+    }
+    ContactsBook book(file, [] { return at("2026-03-07T10:20"); });
+    QCOMPARE(Administration(book).Snapshot(), before);
+}
+
+void TestDatabase::whatWasEmptiedStaysEmpty()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("contacts.db"));
+    {
+        ContactsBook book(file);
+        QVERIFY(Administration(book).Reset());
+    }
+    ContactsBook book(file);
+    QVERIFY(book.people().all().isEmpty());
+    QVERIFY(!book.session().user());
+}
+
+void TestDatabase::aTransactionThatIsNotCommittedIsUndone()
+{
+    SampleWorld world;
+    const QJsonObject before = world.snapshot();
+    {
+        const Transaction transaction(world.book.database().handle());
+        world.book.people().removeAll();
+        QVERIFY(world.book.people().all().isEmpty());
+    }
+    QCOMPARE(world.snapshot(), before);
+}
+
+void TestDatabase::aFileOfANewerVersionIsRefusedUntouched()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("contacts.db"));
+    {
+        const Database database(file);
+        Statement(database.handle(), QStringLiteral("PRAGMA user_version = 1000")).run();
+    }
+    QVERIFY_EXCEPTION_THROWN(ContactsBook book(file), DatabaseError);
+    QCOMPARE(QDir(folder.path()).entryList({QStringLiteral("*damaged*")}).size(), 0);
+}
+
+void TestDatabase::aFileThatIsNoDatabaseIsSetAside()
+{
+    const QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("contacts.db"));
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(8192, 'x'));
+    file.close();
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    ContactsBook book(name);
+    QVERIFY(book.session().user());
+    QCOMPARE(log.texts(QtCriticalMsg).size(), 1);
+    const QStringList kept = QDir(folder.path()).entryList({QStringLiteral("contacts.db.damaged-*")});
+    QCOMPARE(kept.size(), 1);
+    QCOMPARE(QFileInfo(folder.filePath(kept.at(0))).size(), qint64(8192));
+}
+
+void TestDatabase::aFolderThatCannotBeMadeIsAnError()
+{
+    QVERIFY_EXCEPTION_THROWN(ContactsBook book(QStringLiteral("/proc/nothing/contacts.db")), DatabaseError);
+}
+
+void TestDatabase::foreignKeysHold()
+{
+    SampleWorld world;
+    QVERIFY_EXCEPTION_THROWN(world.book.session().login(QStringLiteral("nobody")), DatabaseError);
+    QVERIFY_EXCEPTION_THROWN(
+        world.book.people().setContact(QStringLiteral("u100001"), QStringLiteral("nobody"), QString(), true),
+        DatabaseError);
+}
+
+void TestDatabase::aDaysQueryWalksOneIndex()
+{
+    // The search's own statement, as the database means to run it: no table is read from end to end.
+    SampleWorld world;
+    const QSqlDatabase database = world.book.database().handle();
+    Statement query(database, QStringLiteral("EXPLAIN QUERY PLAN ") + ConferenceRepository::ofUserSql());
+    query.bind(QString()).bind(0).bind(0).bind(0).bind(0).run();
+    QStringList plan;
+    while (query.next())
+        plan.append(query.text(3));
+    QVERIFY2(plan.at(0).contains(QLatin1String("participant_by_time")),
+             qPrintable(plan.join(QLatin1Char('\n'))));
+    QVERIFY(plan.at(0).contains(QLatin1String("user_id=? AND start_msecs>? AND start_msecs<?")));
+    for (const QString &step : qAsConst(plan))
+        QVERIFY2(step.startsWith(QLatin1String("SEARCH")), qPrintable(step));
+}
+
+void TestDatabase::anAdministrationThatFailsChangesNothing()
+{
+    SampleWorld world;
+    const QJsonObject before = world.snapshot();
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    QVERIFY(!world.admin.Login(QStringLiteral("nobody")));
+    QVERIFY(!world.admin.SetAccountKind(QStringLiteral("100001"), QStringLiteral("golden")));
+    QVERIFY(!world.admin.AddPerson(QStringLiteral("100001"), QStringLiteral("重复"), QStringLiteral("free")));
+    QVERIFY(!world.admin.AddPerson(QStringLiteral("1"), QStringLiteral("\u200b"), QStringLiteral("free")));
+    QVERIFY(!world.admin.AddContact(QStringLiteral("100001"), QStringLiteral("100001"), QString(),
+                                    QStringLiteral("friend")));
+    QVERIFY(!world.admin.AddContact(QStringLiteral("100001"), QStringLiteral("200001"), QString(),
+                                    QStringLiteral("enemy")));
+    QVERIFY(!world.admin.SetConferenceState(QStringLiteral("880100001"), QStringLiteral("paused")));
+    QVERIFY(!world.admin.SetConferenceState(QStringLiteral("1"), QStringLiteral("ended")));
+    const auto add = [&world](const char *number, qint64 start, qint64 duration, int limit,
+                              const QStringList &invited) {
+        return world.admin.AddConference(QString::fromLatin1(number), QStringLiteral("会"),
+                                         QStringLiteral("100001"), start, duration, limit, QString(),
+                                         invited);
+    };
+    QCOMPARE(add("880100001", 1, 60000, 5, {}), QString());
+    QCOMPARE(add("12a", 1, 60000, 5, {}), QString());
+    QCOMPARE(add("", 1, 60000, 5, {}), QString());
+    QCOMPARE(add("1", -1, 60000, 5, {}), QString());
+    QCOMPARE(add("1", 1, 86400001, 5, {}), QString());
+    QCOMPARE(add("1", 1, 60000, 1, {}), QString());
+    QCOMPARE(add("1", 1, 60000, 101, {}), QString());
+    QCOMPARE(add("1", 1, 60000, 5, {QStringLiteral("nobody")}), QString());
+    QCOMPARE(add("1", 1, 60000, 2, {QStringLiteral("100003"), QStringLiteral("100004")}), QString());
+    QCOMPARE(world.snapshot(), before);
+}
+
+QTEST_GUILESS_MAIN(TestDatabase)
+#include "tst_database.moc"

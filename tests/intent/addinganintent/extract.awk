@@ -1,0 +1,26 @@
+# SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+# SPDX-License-Identifier: LGPL-2.1-or-later
+#
+# awk -v out=FOLDER -f extract.awk PAGE: writes each code block of the page into FOLDER, under the name (without its
+# folder, "/" in an "In" line's becoming "_") that the line before the block gives between backquotes.
+/^(File|In) `/ {
+    split($0, parts, "`")
+    name = parts[2]
+    if ($1 == "File")
+        sub(/^.*\//, "", name)
+    else
+        gsub(/\//, "_", name)
+}
+/^```/ {
+    if (inside) {
+        close(path)
+        inside = 0
+        name = ""
+    } else if (name != "") {
+        path = out "/" name
+        printf "" > path
+        inside = 1
+    }
+    next
+}
+inside { print > path }

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "deleteconferenceintent.h"
+#include "dynamicregisterintentfactory.h"
+
+#include <QtTest/QTest>
+
+#include <memory>
+
+namespace {
+
+/// Registers by the row that the page shows.
+class PageFactory : public DynamicRegisterIntentFactory
+{
+public:
+    PageFactory()
+    {
+#include "intent_contactintentfactory.cpp"
+    }
+};
+
+} // namespace
+
+/// docs/adding-an-intent.md, carried out: its files are built as they stand there, and its row makes the
+/// handler.
+class TestAddingAnIntent : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theRowMakesTheHandler()
+    {
+        PageFactory factory;
+        const std::unique_ptr<IBusinessIntent> handler(
+            factory.createIntent(QStringLiteral("DELETE_CONFERENCE")));
+        QVERIFY(dynamic_cast<DeleteConferenceIntent *>(handler.get()) != nullptr);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestAddingAnIntent)
+
+#include "tst_addinganintent.moc"

@@ -7,6 +7,7 @@
 #include "options.h"
 #include "pluginhost.h"
 #include "textmodes.h"
+#include "windowmode.h"
 
 #include <lumo/lguiapplicationhelper.h>
 
@@ -51,6 +52,8 @@ int run(const Options &options)
     QLoggingCategory::setFilterRules(AbilityCall::category() + QStringLiteral(".debug=true"));
     PluginHost host;
     host.load(options.plugin);
+    if (options.mode == Options::Mode::Window)
+        return runWindow(options, host, logs);
     if (!host.isLoaded()) {
         complain(host.problem().toText());
         return NoPlugin;

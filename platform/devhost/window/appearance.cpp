@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "appearance.h"
+
+#include <lumo/lguiapplicationhelper.h>
+
+#include <QtCore/QSettings>
+#include <QtGui/QFont>
+#include <QtWidgets/QApplication>
+
+namespace devhost {
+
+namespace {
+
+QString themeKey()
+{
+    return QStringLiteral("appearance/theme");
+}
+
+QString fontStepKey()
+{
+    return QStringLiteral("appearance/fontStep");
+}
+
+} // namespace
+
+Appearance::Appearance(QObject *parent)
+    : QObject(parent)
+    , m_desktopPointSize(QApplication::font().pointSizeF())
+{
+    if (m_desktopPointSize <= 0)
+        m_desktopPointSize = QApplication::font().pixelSize() * 0.75;
+    const QSettings settings;
+    m_theme = Theme(qBound(int(System), settings.value(themeKey(), int(System)).toInt(), int(Dark)));
+    m_fontStep = qBound(SmallestStep, settings.value(fontStepKey(), 0).toInt(), LargestStep);
+    applyTheme();
+    applyFont();
+}
+
+void Appearance::setTheme(Theme theme)
+{
+    m_theme = theme;
+    QSettings().setValue(themeKey(), int(theme));
+    applyTheme();
+}
+
+void Appearance::setFontStep(int step)
+{
+    m_fontStep = qBound(SmallestStep, step, LargestStep);
+    QSettings().setValue(fontStepKey(), m_fontStep);
+    applyFont();
+}
+
+void Appearance::applyTheme() const
+{
+    const LGuiApplicationHelper::ColorType types[] = {LGuiApplicationHelper::UnknownType,
+                                                      LGuiApplicationHelper::LightType,
+                                                      LGuiApplicationHelper::DarkType};
+    LGuiApplicationHelper::instance()->setPaletteType(types[m_theme]);
+}
+
+void Appearance::applyFont() const
+{
+    QFont font = QApplication::font();
+    font.setPointSizeF(qMax(6.0, m_desktopPointSize + m_fontStep));
+    QApplication::setFont(font);
+}
+
+} // namespace devhost

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QObject>
+
+namespace devhost {
+
+/// Theme and font size of the whole application, remembered between runs. GUI thread.
+class Appearance final : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum Theme { System, Light, Dark };
+
+    /// Applies what was remembered.
+    explicit Appearance(QObject *parent = nullptr);
+
+    Theme theme() const { return m_theme; }
+    void setTheme(Theme theme);
+
+    /// Steps from the desktop's font size, from SmallestStep to LargestStep.
+    int fontStep() const { return m_fontStep; }
+    void setFontStep(int step);
+
+    static constexpr int SmallestStep = -2;
+    static constexpr int LargestStep = 8;
+
+private:
+    void applyTheme() const;
+    void applyFont() const;
+
+    Theme m_theme = System;
+    int m_fontStep = 0;
+    qreal m_desktopPointSize;
+};
+
+} // namespace devhost

@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "bubble.h"
+
+#include <QtGui/QClipboard>
+#include <QtGui/QContextMenuEvent>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QPainter>
+#include <QtGui/QTextLayout>
+#include <QtWidgets/QMenu>
+
+#include <cmath>
+
+namespace devhost {
+
+namespace {
+
+constexpr int HorizontalPadding = 14;
+constexpr int VerticalPadding = 9;
+constexpr qreal Radius = 12;
+constexpr qreal LineSpacing = 1.15;
+constexpr int Unbounded = 1 << 20;
+
+/// Breaks @p layout into lines of @p width and returns their extent.
+QSizeF breakLines(QTextLayout &layout, qreal width)
+{
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setTextDirection(Qt::LeftToRight);
+    layout.setTextOption(option);
+    layout.setCacheEnabled(true);
+    QSizeF extent;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        line.setPosition(QPointF(0, extent.height()));
+        extent.rheight() += line.height() * LineSpacing;
+        extent.setWidth(qMax(extent.width(), line.naturalTextWidth()));
+    }
+    layout.endLayout();
+    return extent;
+}
+
+QString layoutText(QString text)
+{
+    return text.replace(QLatin1Char('\n'), QChar(QChar::LineSeparator));
+}
+
+} // namespace
+
+Bubble::Bubble(QWidget *parent) : QWidget(parent)
+{
+    setCursor(Qt::PointingHandCursor);
+}
+
+void Bubble::show(Role role, const QString &text, bool isDimmed)
+{
+    m_role = role;
+    m_text = text;
+    m_isDimmed = isDimmed;
+    setAccessibleName(text);
+    update();
+    QWidget::show();
+}
+
+QSize Bubble::sizeFor(const QString &text, const QFont &font, int maximumWidth, int &naturalWidth)
+{
+    QTextLayout layout(layoutText(text), font);
+    QSizeF extent = breakLines(layout, Unbounded);
+    const auto padded = [](qreal width) {
+        return int(std::ceil(width)) + 2 * HorizontalPadding;
+    };
+    naturalWidth = padded(extent.width());
+    if (naturalWidth > maximumWidth)
+        extent = breakLines(layout, qMax(1, maximumWidth - 2 * HorizontalPadding));
+    return {qMin(padded(extent.width()), maximumWidth),
+            int(std::ceil(extent.height())) + 2 * VerticalPadding};
+}
+
+void Bubble::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool isSaid = m_role == Said;
+    if (m_isDimmed)
+        painter.setOpacity(0.55);
+    if (m_role == Notice) {
+        painter.setPen(palette().color(QPalette::Mid));
+        painter.setBrush(Qt::NoBrush);
+    } else {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(palette().brush(isSaid ? QPalette::Highlight : QPalette::Base));
+    }
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Radius, Radius);
+    painter.setPen(palette().color(isSaid ? QPalette::HighlightedText : QPalette::Text));
+    QTextLayout layout(layoutText(m_text), font());
+    breakLines(layout, width() - 2 * HorizontalPadding + 1);
+    layout.draw(&painter, QPointF(HorizontalPadding, VerticalPadding));
+}
+
+void Bubble::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        Q_EMIT clicked();
+}
+
+void Bubble::contextMenuEvent(QContextMenuEvent *event)
+{
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction(QStringLiteral("复制"), menu,
+                    [text = m_text] { QGuiApplication::clipboard()->setText(text); });
+    menu->popup(event->globalPos());
+}
+
+} // namespace devhost

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtWidgets/QWidget>
+
+namespace devhost {
+
+/**
+ * One utterance: plain text on a rounded ground. Shows every character as it is. Its size is what
+ * Bubble::sizeFor() says; the conversation view makes bubbles only for what is in sight.
+ */
+class Bubble final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    enum Role { Said, Reply, Notice };
+
+    explicit Bubble(QWidget *parent = nullptr);
+
+    void show(Role role, const QString &text, bool isDimmed);
+    QString text() const { return m_text; }
+    Role role() const { return m_role; }
+
+    /// The size of a bubble no wider than @p maximumWidth. @p naturalWidth is its width without that bound.
+    static QSize sizeFor(const QString &text, const QFont &font, int maximumWidth, int &naturalWidth);
+
+Q_SIGNALS:
+    void clicked();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+
+private:
+    QString m_text;
+    Role m_role = Reply;
+    bool m_isDimmed = false;
+};
+
+} // namespace devhost

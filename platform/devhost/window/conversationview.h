@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "bubble.h"
+
+#include <QtCore/QPointer>
+#include <QtCore/QVector>
+#include <QtWidgets/QAbstractScrollArea>
+
+QT_BEGIN_NAMESPACE
+class QToolButton;
+QT_END_NAMESPACE
+
+namespace devhost {
+
+class WaitingDots;
+
+/**
+ * The conversation from top to bottom: what was said on the right, answers and their cards on the left. What
+ * belongs to a turn stands together, so a late answer stands above what waits in the queue.
+ *
+ * It stays at its end while it is there, and keeps its position once the user has scrolled away. Widgets
+ * exist only for the bubbles in sight and for the cards, so that thousands of turns cost little.
+ */
+class ConversationView final : public QAbstractScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit ConversationView(QWidget *parent = nullptr);
+    ~ConversationView() override;
+
+    /// @p isQueued: it waits for its turn.
+    void addSaid(int turn, const QString &text, bool isQueued);
+    void changeSaid(int turn, const QString &text);
+    void setStarted(int turn);
+    /// Takes over @p card, which may be null.
+    void addReply(int turn, const QString &text, QWidget *card);
+    /// Something about the turn that nobody has said.
+    void addNotice(int turn, const QString &text);
+    /// Dots after @p turn; 0 for none.
+    void setWaiting(int turn);
+
+    int count() const { return m_entries.size(); }
+    bool isWaiting() const;
+    bool isAtEnd() const;
+    void scrollToEnd();
+    /// The bubbles that exist at the moment, for tests.
+    int bubbleCount() const { return m_bubbles.size(); }
+
+Q_SIGNALS:
+    void turnActivated(int turn);
+
+protected:
+    bool viewportEvent(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    struct Entry
+    {
+        int turn = 0;
+        Bubble::Role role = Bubble::Said;
+        QString text;
+        bool isQueued = false;
+        QPointer<QWidget> card;
+        Bubble *bubble = nullptr; ///< while in sight
+        bool isSized = false;
+        int naturalWidth = 0;
+        QSize textSize; ///< empty without a text
+        QSize cardSize; ///< empty without a card
+        int top = 0;
+
+        int height() const;
+        int bottom() const { return top + height(); }
+    };
+
+    void insert(const Entry &entry);
+    int positionAfter(int turn) const;
+    int saidPosition(int turn) const;
+    int columnWidth() const;
+    int columnLeft() const;
+    void measure(Entry &entry) const;
+    void measureCard(Entry &entry) const;
+    int contentHeight() const;
+    /// Gives the entries from @p first on their places. Keeps the position, or the end when @p wasAtEnd.
+    void layOut(int first, bool wasAtEnd);
+    void place();
+    void placeEntry(Entry &entry, int offset);
+    void release(Entry &entry);
+    Bubble *takeBubble();
+    void cardChanged(const QObject *card);
+    void updateEndButton();
+
+    QVector<Entry> m_entries;
+    QVector<Bubble *> m_bubbles; ///< all; children of the viewport
+    QVector<Bubble *> m_spare;
+    WaitingDots *m_dots;
+    int m_waitingTurn = 0;
+    QToolButton *m_endButton;
+    bool m_isPlacing = false;
+    bool m_isRelayoutPending = false;
+};
+
+} // namespace devhost

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "inputline.h"
+
+#include <QtGui/QKeyEvent>
+
+namespace devhost {
+
+InputLine::InputLine(QWidget *parent) : QLineEdit(parent)
+{
+    setAccessibleName(QStringLiteral("输入"));
+    setClearButtonEnabled(true);
+    setMaxLength(1 << 20);
+    setSecret(false);
+}
+
+QString InputLine::takeText()
+{
+    const QString taken = text().trimmed();
+    clear();
+    return taken;
+}
+
+void InputLine::setSecret(bool isSecret)
+{
+    setEchoMode(isSecret ? QLineEdit::Password : QLineEdit::Normal);
+    setPlaceholderText(isSecret ? QStringLiteral("请输入密码") : QStringLiteral("对助手说点什么…"));
+}
+
+void InputLine::keyPressEvent(QKeyEvent *event)
+{
+    const bool isSecret = echoMode() == QLineEdit::Password;
+    if (event->key() == Qt::Key_Escape)
+        clear();
+    else if (event->key() == Qt::Key_Up && !isSecret)
+        setText(m_history.older(text()));
+    else if (event->key() == Qt::Key_Down && !isSecret)
+        setText(m_history.newer(text()));
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+} // namespace devhost

@@ -1,0 +1,311 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "mainwindow.h"
+
+#include "appearance.h"
+#include "cleantext.h"
+#include "conversationview.h"
+#include "inputline.h"
+#include "inspector.h"
+#include "speaker.h"
+#include "welcomepage.h"
+
+#include <lumo/lsuggestbutton.h>
+
+#include <QtCore/QSettings>
+#include <QtGui/QCloseEvent>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QActionGroup>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QSplitter>
+#include <QtWidgets/QStackedWidget>
+#include <QtWidgets/QVBoxLayout>
+
+namespace devhost {
+
+namespace {
+
+constexpr QSize FirstSize(1080, 760);
+
+QString geometryKey()
+{
+    return QStringLiteral("window/geometry");
+}
+
+QString splitterKey()
+{
+    return QStringLiteral("window/splitter");
+}
+
+QString inspectorKey()
+{
+    return QStringLiteral("window/inspector");
+}
+
+QString speechKey()
+{
+    return QStringLiteral("speech/on");
+}
+
+} // namespace
+
+MainWindow::MainWindow(Conversation &conversation, Appearance &appearance, QWidget *parent)
+    : QMainWindow(parent)
+    , m_conversation(conversation)
+    , m_appearance(appearance)
+    , m_speaker(new Speaker(this))
+    , m_problem(new QLabel)
+    , m_pages(new QStackedWidget)
+    , m_view(new ConversationView)
+    , m_input(new InputLine)
+    , m_send(new LSuggestButton(QStringLiteral("发送")))
+    , m_splitter(new QSplitter)
+    , m_inspector(new Inspector)
+{
+    setWindowTitle(QStringLiteral("语音助手 · 插件开发"));
+    build();
+    buildMenus();
+    follow();
+    restore();
+    m_input->setFocus();
+}
+
+void MainWindow::build()
+{
+    m_problem->setTextFormat(Qt::PlainText);
+    m_problem->setWordWrap(true);
+    m_problem->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_problem->setObjectName(QStringLiteral("problem"));
+    m_problem->setMargin(12);
+    m_problem->setFrameShape(QFrame::StyledPanel);
+    m_problem->hide();
+    auto *welcome = new WelcomePage;
+    connect(welcome, &WelcomePage::exampleChosen, this, &MainWindow::submit);
+    m_pages->addWidget(welcome);
+    m_pages->addWidget(m_view);
+    m_input->setMinimumHeight(38);
+    m_send->setMinimumSize(84, 38);
+
+    auto *row = new QHBoxLayout;
+    row->setContentsMargins(16, 8, 16, 16);
+    row->setSpacing(10);
+    row->addWidget(m_input, 1);
+    row->addWidget(m_send);
+    auto *desk = new QWidget;
+    auto *column = new QVBoxLayout(desk);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_problem);
+    column->addWidget(m_pages, 1);
+    column->addLayout(row);
+    m_splitter->addWidget(desk);
+    m_splitter->addWidget(m_inspector);
+    m_splitter->setStretchFactor(0, 3);
+    m_splitter->setStretchFactor(1, 2);
+    m_splitter->setChildrenCollapsible(false);
+    setCentralWidget(m_splitter);
+}
+
+void MainWindow::buildMenus()
+{
+    QMenu *talk = menuBar()->addMenu(QStringLiteral("对话(&D)"));
+    talk->addAction(QStringLiteral("到最新一轮(&E)"), m_view, &ConversationView::scrollToEnd,
+                    QKeySequence(Qt::CTRL | Qt::Key_End));
+    talk->addSeparator();
+    talk->addAction(QStringLiteral("退出(&Q)"), this, &QWidget::close, QKeySequence(QKeySequence::Quit));
+
+    QMenu *view = menuBar()->addMenu(QStringLiteral("视图(&V)"));
+    m_inspectorAction = view->addAction(QStringLiteral("检查器(&I)"));
+    m_inspectorAction->setCheckable(true);
+    m_inspectorAction->setShortcut(Qt::Key_F12);
+    connect(m_inspectorAction, &QAction::toggled, m_inspector, &QWidget::setVisible);
+    view->addSeparator();
+    buildThemeMenu(*view->addMenu(QStringLiteral("主题(&T)")));
+    buildFontMenu(*view->addMenu(QStringLiteral("字号(&F)")));
+    view->addSeparator();
+    m_speechAction = view->addAction(QStringLiteral("朗读回复(&S)"));
+    m_speechAction->setCheckable(true);
+    m_speechAction->setEnabled(Speaker::isAvailable());
+    connect(m_speechAction, &QAction::toggled, m_speaker, &Speaker::setOn);
+
+    QMenu *help = menuBar()->addMenu(QStringLiteral("帮助(&H)"));
+    help->addAction(QStringLiteral("关于(&A)"), this, [this] {
+        auto *box = new QMessageBox(
+            QMessageBox::NoIcon, QStringLiteral("关于"),
+            QStringLiteral("语音助手插件的开发主机 %1").arg(QApplication::applicationVersion()),
+            QMessageBox::Ok, this);
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->open();
+    });
+}
+
+void MainWindow::buildThemeMenu(QMenu &menu)
+{
+    const struct
+    {
+        QString text;
+        Appearance::Theme theme;
+    } themes[] = {{QStringLiteral("跟随系统"), Appearance::System},
+                  {QStringLiteral("浅色"), Appearance::Light},
+                  {QStringLiteral("深色"), Appearance::Dark}};
+    auto *group = new QActionGroup(this);
+    for (const auto &entry : themes) {
+        QAction *action = menu.addAction(entry.text);
+        action->setCheckable(true);
+        action->setChecked(entry.theme == m_appearance.theme());
+        group->addAction(action);
+        connect(action, &QAction::triggered, this,
+                [this, theme = entry.theme] { m_appearance.setTheme(theme); });
+    }
+}
+
+void MainWindow::buildFontMenu(QMenu &menu)
+{
+    menu.addAction(
+        QStringLiteral("放大"), this, [this] { m_appearance.setFontStep(m_appearance.fontStep() + 1); },
+        QKeySequence(QKeySequence::ZoomIn));
+    menu.addAction(
+        QStringLiteral("缩小"), this, [this] { m_appearance.setFontStep(m_appearance.fontStep() - 1); },
+        QKeySequence(QKeySequence::ZoomOut));
+    menu.addAction(
+        QStringLiteral("原来大小"), this, [this] { m_appearance.setFontStep(0); },
+        QKeySequence(Qt::CTRL | Qt::Key_0));
+}
+
+void MainWindow::follow()
+{
+    const auto send = [this] {
+        submit(m_input->takeText());
+    };
+    connect(m_input, &QLineEdit::returnPressed, this, send);
+    connect(m_send, &QPushButton::clicked, this, send);
+    connect(m_view, &ConversationView::turnActivated, this, [this](int turn) {
+        m_followsLast = turn == m_conversation.lastTurn();
+        inspect(turn);
+    });
+    connect(m_inspector, &Inspector::semanticEntered, this, [this](const QString &semantic) {
+        m_followsLast = true;
+        m_conversation.sendSemantic(semantic);
+    });
+    connect(&m_conversation, &Conversation::said, this, &MainWindow::said);
+    connect(&m_conversation, &Conversation::saidChanged, this, [this](int turn, const QString &shown) {
+        m_view->changeSaid(turn, shown);
+        m_input->history().remove(m_typed.value(turn));
+    });
+    connect(&m_conversation, &Conversation::started, this, [this](int turn) {
+        m_view->setStarted(turn);
+        m_view->setWaiting(turn);
+    });
+    connect(&m_conversation, &Conversation::replied, this, [this](int turn, const Reply &answer) {
+        m_view->setWaiting(0);
+        reply(turn, answer);
+    });
+    connect(&m_conversation, &Conversation::repliedLater, this, [this](int turn, const Reply &answer) {
+        reply(turn, answer);
+        if (m_inspector->shownTurn() == turn)
+            inspect(turn);
+    });
+    connect(&m_conversation, &Conversation::failed, this, [this](int turn, const QString &reason) {
+        m_view->setWaiting(0);
+        m_view->addNotice(turn, reason);
+    });
+    connect(&m_conversation, &Conversation::finished, this, [this](int turn) {
+        m_typed.remove(turn);
+        m_input->setSecret(m_conversation.expectsSecret());
+        if (m_followsLast)
+            inspect(turn);
+    });
+}
+
+void MainWindow::showProblem(const QString &problem)
+{
+    m_problem->setText(problem);
+    m_problem->show();
+}
+
+void MainWindow::submit(const QString &text)
+{
+    if (text.isEmpty())
+        return;
+    m_followsLast = true;
+    const bool isSecret = m_conversation.expectsSecret();
+    const int turn = m_conversation.say(text);
+    // A text that is not shown as it is holds a secret.
+    const bool isPlain = !isSecret && m_conversation.turn(turn).said == cleanText(text);
+    if (isPlain) {
+        m_input->history().add(text);
+        m_typed.insert(turn, text);
+    }
+    m_input->setFocus();
+}
+
+void MainWindow::said(int turn, const QString &shown)
+{
+    m_pages->setCurrentWidget(m_view);
+    m_view->addSaid(turn, shown, m_view->isWaiting());
+}
+
+void MainWindow::reply(int turn, const Reply &reply)
+{
+    m_paintMsecs = 0;
+    m_sinceReply.start();
+    const QString text = cleanText(reply.displayText.toString());
+    QWidget *card = cardOf(reply);
+    const QString shown = text.isEmpty() && card == nullptr
+                              ? QStringLiteral("（没有文字的回复，代码 %1）").arg(reply.code.toInt())
+                              : text;
+    m_view->addReply(turn, shown, card);
+    m_speaker->say(reply.speechText.toString());
+}
+
+void MainWindow::inspect(int turn)
+{
+    const Turn shown = m_conversation.turn(turn);
+    if (shown.id != 0)
+        m_inspector->show(shown);
+}
+
+bool MainWindow::event(QEvent *event)
+{
+    const bool isHandled = QMainWindow::event(event);
+    // The first repaint after a reply is the one that brings it to the screen.
+    if (event->type() == QEvent::UpdateRequest && m_sinceReply.isValid()) {
+        m_paintMsecs = static_cast<double>(m_sinceReply.nsecsElapsed()) / 1e6;
+        m_sinceReply.invalidate();
+    }
+    return isHandled;
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    remember();
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::remember() const
+{
+    QSettings settings;
+    settings.setValue(geometryKey(), saveGeometry());
+    settings.setValue(splitterKey(), m_splitter->saveState());
+    settings.setValue(inspectorKey(), m_inspectorAction->isChecked());
+    settings.setValue(speechKey(), m_speechAction->isChecked());
+}
+
+void MainWindow::restore()
+{
+    const QSettings settings;
+    if (!restoreGeometry(settings.value(geometryKey()).toByteArray()))
+        resize(FirstSize);
+    if (!m_splitter->restoreState(settings.value(splitterKey()).toByteArray()))
+        m_splitter->setSizes({FirstSize.width() * 3 / 5, FirstSize.width() * 2 / 5});
+    m_inspectorAction->setChecked(settings.value(inspectorKey(), true).toBool());
+    m_inspector->setVisible(m_inspectorAction->isChecked());
+    m_speechAction->setChecked(m_speechAction->isEnabled() && settings.value(speechKey(), false).toBool());
+}
+
+} // namespace devhost

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QObject>
+
+namespace devhost {
+
+/**
+ * Reads replies aloud where the desktop has an engine for it; elsewhere it does nothing, without complaint.
+ * Off at first. The engine is only started when it is wanted.
+ */
+class Speaker final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Speaker(QObject *parent = nullptr);
+
+    static bool isAvailable();
+    bool isOn() const { return m_isOn; }
+    void setOn(bool isOn);
+    void say(const QString &text);
+
+private:
+    bool m_isOn = false;
+    QObject *m_engine = nullptr; ///< a child; null until it is needed
+};
+
+} // namespace devhost

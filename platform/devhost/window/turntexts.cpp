@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "turntexts.h"
+
+#include <QtCore/QDateTime>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QStringList>
+
+namespace devhost {
+namespace turntexts {
+
+namespace {
+
+/// A longer answer would make the pane slow; its whole length is said.
+constexpr int LongestText = 100000;
+
+QString indented(const QString &json)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(json.toUtf8());
+    const QString text =
+        document.isNull() ? json : QString::fromUtf8(document.toJson(QJsonDocument::Indented)).trimmed();
+    if (text.size() <= LongestText)
+        return text;
+    return text.left(LongestText) + QStringLiteral("\n… (%1 characters)").arg(text.size());
+}
+
+QString msecs(double value)
+{
+    return QString::number(value, 'f', value < 10 ? 2 : 0) + QStringLiteral(" ms");
+}
+
+} // namespace
+
+QString semantic(const Turn &turn)
+{
+    return indented(turn.semantic);
+}
+
+QString requests(const Turn &turn)
+{
+    QStringList lines;
+    for (const AbilityCall &call : turn.calls) {
+        lines << QStringLiteral("▸ %1    %2    code %3").arg(call.action, msecs(call.msecs)).arg(call.code)
+              << (call.parameters.isEmpty() ? QStringLiteral("(no parameters)") : indented(call.parameters))
+              << QStringLiteral("◂ answer")
+              << (call.answer.isEmpty() ? QStringLiteral("(none)") : indented(call.answer)) << QString();
+    }
+    if (turn.calls.isEmpty())
+        lines << QStringLiteral("(no requests)") << QString();
+    lines << QStringLiteral("understanding   %1").arg(msecs(turn.understandingMsecs))
+          << QStringLiteral("service()       %1, requests %2 of it")
+                 .arg(msecs(turn.serviceMsecs), msecs(turn.requestMsecs()))
+          << QStringLiteral("reply and card  %1").arg(msecs(turn.replyMsecs));
+    return lines.join(QLatin1Char('\n'));
+}
+
+QString reply(const Turn &turn)
+{
+    QStringList lines;
+    if (!turn.failure.isEmpty())
+        lines << QStringLiteral("failure   %1").arg(turn.failure);
+    lines << QStringLiteral("service() %1").arg(turn.status) << QStringLiteral("code      %1").arg(turn.code)
+          << QStringLiteral("display   ") + turn.display << QStringLiteral("speech    ") + turn.speech
+          << QStringLiteral("type      %1").arg(turn.type)
+          << QStringLiteral("card      ") +
+                 (turn.cardClass.isEmpty() ? QStringLiteral("none") : turn.cardClass)
+          << QStringLiteral("end       %1")
+                 .arg(turn.endOfSession ? QStringLiteral("true") : QStringLiteral("false"));
+    return lines.join(QLatin1Char('\n'));
+}
+
+QString log(const Turn &turn)
+{
+    QStringList lines;
+    for (const LogRecord &record : turn.logs)
+        lines << QDateTime::fromMSecsSinceEpoch(record.atMsecs).toString(QStringLiteral("hh:mm:ss.zzz ")) +
+                     record.toText();
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace turntexts
+} // namespace devhost

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QBasicTimer>
+#include <QtWidgets/QWidget>
+
+namespace devhost {
+
+/// Three dots that move while an answer is on its way.
+class WaitingDots final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit WaitingDots(QWidget *parent = nullptr);
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    QBasicTimer m_timer;
+    int m_step = 0;
+};
+
+} // namespace devhost

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "welcomepage.h"
+
+#include <lumo/lfontsizemanager.h>
+
+#include <QtGui/QIcon>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+namespace devhost {
+
+namespace {
+
+constexpr int IconSize = 72;
+
+QStringList examples()
+{
+    return {QStringLiteral("发起视频会议，叫上孙丽和赵磊"), QStringLiteral("预约明天下午三点的视频会议"),
+            QStringLiteral("查询今天的会议"), QStringLiteral("加入会议880100002"),
+            QStringLiteral("添加好友200001")};
+}
+
+} // namespace
+
+WelcomePage::WelcomePage(QWidget *parent) : QWidget(parent)
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->addStretch(2);
+    auto *icon = new QLabel(this);
+    icon->setPixmap(QIcon(QStringLiteral(":/devhost/speakmate-devhost.svg")).pixmap(IconSize));
+    layout->addWidget(icon, 0, Qt::AlignHCenter);
+    auto *greeting = new QLabel(QStringLiteral("您好，有什么可以帮您？"), this);
+    greeting->setFont(LFontSizeManager::instance()->get(LFontSizeManager::T4, font()));
+    layout->addWidget(greeting, 0, Qt::AlignHCenter);
+    auto *hint = new QLabel(QStringLiteral("在下面输入，或者点一个例子："), this);
+    hint->setEnabled(false);
+    layout->addWidget(hint, 0, Qt::AlignHCenter);
+    layout->addSpacing(12);
+    for (const QString &example : examples()) {
+        auto *button = new QPushButton(example, this);
+        button->setObjectName(QStringLiteral("example"));
+        button->setMinimumSize(320, 36);
+        connect(button, &QPushButton::clicked, this, [this, example] { Q_EMIT exampleChosen(example); });
+        layout->addWidget(button, 0, Qt::AlignHCenter);
+    }
+    layout->addStretch(3);
+}
+
+} // namespace devhost

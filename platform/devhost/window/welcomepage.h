@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtWidgets/QWidget>
+
+namespace devhost {
+
+/// What stands there before anything was said: a greeting and sentences to click on.
+class WelcomePage final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit WelcomePage(QWidget *parent = nullptr);
+
+Q_SIGNALS:
+    void exampleChosen(const QString &sentence);
+};
+
+} // namespace devhost

@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "windowscript.h"
+
+#include "conversation.h"
+#include "conversationview.h"
+#include "mainwindow.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QTimer>
+#include <QtGui/QPixmap>
+#include <QtWidgets/QAbstractButton>
+
+namespace devhost {
+
+namespace {
+
+/// Long enough for a late reply, a layout and a repaint.
+constexpr int SettleMsecs = 150;
+
+} // namespace
+
+WindowScript::WindowScript(MainWindow &window, Conversation &conversation, std::istream &input,
+                           const QString &folder, QObject *parent)
+    : QObject(parent)
+    , m_window(window)
+    , m_conversation(conversation)
+    , m_reader(input)
+    , m_folder(folder)
+{
+}
+
+void WindowScript::start()
+{
+    connect(&m_conversation, &Conversation::idle, this, &WindowScript::settle);
+    QTimer::singleShot(SettleMsecs, this, &WindowScript::settle);
+}
+
+void WindowScript::settle()
+{
+    QTimer::singleShot(SettleMsecs, this, [this] {
+        if (!m_folder.isEmpty()) {
+            const QString name = QStringLiteral("window-%1.png").arg(m_pictures++, 2, 10, QLatin1Char('0'));
+            m_isFine = m_window.grab().save(QDir(m_folder).filePath(name)) && m_isFine;
+        }
+        next();
+    });
+}
+
+void WindowScript::next()
+{
+    QString line;
+    LineReader::Outcome outcome = LineReader::Line;
+    do {
+        outcome = m_reader.read(line);
+        line = line.trimmed();
+    } while (outcome != LineReader::End && (line.isEmpty() || line.startsWith(QLatin1Char('#'))));
+    const QString press = QStringLiteral("@press ");
+    if (outcome == LineReader::End)
+        Q_EMIT finished(m_isFine);
+    else if (line.startsWith(press))
+        this->press(line.mid(press.size()));
+    else
+        m_window.submit(line);
+}
+
+void WindowScript::press(const QString &text)
+{
+    const auto buttons = m_window.view()->findChildren<QAbstractButton *>();
+    QAbstractButton *last = nullptr;
+    for (QAbstractButton *button : buttons) {
+        if (button->text() == text && button->isEnabled())
+            last = button;
+    }
+    if (last != nullptr)
+        last->click();
+    else
+        m_isFine = false;
+    settle();
+}
+
+} // namespace devhost

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "windowmode.h"
+
+#include "appearance.h"
+#include "mainwindow.h"
+#include "textmodes.h"
+#include "warmup.h"
+#include "windowscript.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
+
+#include <fstream>
+#include <iostream>
+
+namespace devhost {
+
+namespace {
+
+constexpr int IdleMsecs = 300;
+
+void complain(const QString &message)
+{
+    std::cerr << "speakmate-devhost: " << qUtf8Printable(message) << std::endl;
+}
+
+void choose(Appearance &appearance, Options::Theme theme)
+{
+    switch (theme) {
+    case Options::Theme::Remembered:
+        return;
+    case Options::Theme::System:
+        return appearance.setTheme(Appearance::System);
+    case Options::Theme::Light:
+        return appearance.setTheme(Appearance::Light);
+    case Options::Theme::Dark:
+        return appearance.setTheme(Appearance::Dark);
+    }
+}
+
+} // namespace
+
+int runWindow(const Options &options, PluginHost &host, LogRecorder &logs)
+{
+    QStringList names;
+    if (!readContactNames(options.contacts, names)) {
+        complain(QStringLiteral("%1 cannot be read.").arg(options.contacts));
+        return WrongUsage;
+    }
+    std::ifstream script;
+    if (!options.input.isEmpty()) {
+        script.open(QFile::encodeName(options.input).constData(), std::ios::binary);
+        if (!script || (!options.screenshots.isEmpty() && !QDir().mkpath(options.screenshots))) {
+            complain(QStringLiteral("%1 cannot be read, or the folder for pictures not be made.")
+                         .arg(options.input));
+            return WrongUsage;
+        }
+    }
+    Appearance appearance;
+    choose(appearance, options.theme);
+    Conversation conversation(host, logs);
+    conversation.setContactNames(names);
+    MainWindow window(conversation, appearance);
+    if (!host.isLoaded())
+        window.showProblem(host.problem().toText());
+    window.show();
+    QTimer::singleShot(IdleMsecs, &window, &warmUp);
+
+    int status = EverythingAnswered;
+    WindowScript player(window, conversation, script, options.screenshots);
+    if (script.is_open()) {
+        QObject::connect(&player, &WindowScript::finished, &player, [&status](bool isFine) {
+            status = isFine ? EverythingAnswered : SomethingBroken;
+            QApplication::quit();
+        });
+        player.start();
+    }
+    QApplication::exec();
+    // The wait for a request that is under way is not for the user's eyes.
+    window.hide();
+    return status;
+}
+
+} // namespace devhost

@@ -47,10 +47,10 @@ bool governsConference(const QString &text, const Tokens &tokens, std::size_t ve
         const Token &token = tokens[at];
         if (isConference(token))
             return true;
-        constexpr WordClasses describing = WordClass::Measure | WordClass::OpenParticle | WordClass::Filler |
-                                           WordClass::Topic | WordClass::UnclearDay | WordClass::UnclearSoon |
-                                           WordClass::Recurring | WordClass::Zone | WordClass::Lunar |
-                                           WordClass::Festival | WordClass::Question;
+        constexpr WordClasses describing =
+            WordClass::NameTail | WordClass::Measure | WordClass::OpenParticle | WordClass::Filler |
+            WordClass::Topic | WordClass::UnclearDay | WordClass::UnclearSoon | WordClass::Recurring |
+            WordClass::Zone | WordClass::Lunar | WordClass::Festival | WordClass::Question;
         if (token.kind == Token::Kind::Time || token.kind == Token::Kind::Duration ||
             token.isAny(describing)) {
             described = true;
@@ -121,8 +121,26 @@ void settleOpening(const QString &text, Tokens &tokens)
                                 tokens[at - 1].length == 1 &&
                                 tokens[at - 2].isAny(WordClass::Trigger | WordClass::Separator) &&
                                 at + 1 < tokens.size() && tokens[at + 1].kind == Token::Kind::Other;
-        if (insideName || !(governsConference(text, tokens, at) || followsConference(tokens, at)))
+        // 请李静来一下会议室: somebody else comes.
+        const bool comes =
+            text.at(token.position) == QChar(u'来') && at > 0 &&
+            (tokens[at - 1].kind == Token::Kind::Name || tokens[at - 1].kind == Token::Kind::Other);
+        if (insideName || comes || !(governsConference(text, tokens, at) || followsConference(tokens, at)))
             token.classes.remove(WordClass::WeakOpen);
+    }
+}
+
+/// 把张伟请进会议 calls somebody in, 请进会议 only asks politely.
+void settleCalls(const QString &text, Tokens &tokens)
+{
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        const bool somebodyBefore = at > 0 && (tokens[at - 1].kind == Token::Kind::Name ||
+                                               tokens[at - 1].kind == Token::Kind::Other ||
+                                               tokens[at - 1].kind == Token::Kind::Latin ||
+                                               tokens[at - 1].isAny(WordClass::Title | WordClass::NameTail));
+        if (tokens[at].is(WordClass::Arrive) && text.at(tokens[at].position) == QChar(u'请') &&
+            !somebodyBefore)
+            tokens[at].classes.remove(WordClass::Arrive);
     }
 }
 
@@ -159,6 +177,7 @@ void settleWords(const QString &text, Tokens &tokens)
     settleQuestions(tokens);
     settleConferences(text, tokens);
     settleOpening(text, tokens);
+    settleCalls(text, tokens);
     settleTopics(tokens);
 }
 

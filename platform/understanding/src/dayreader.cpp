@@ -4,6 +4,7 @@
 #include "dayreader.h"
 
 #include "chinesenumber.h"
+#include "clockreader.h"
 #include "dayparts.h"
 #include "rulefile.h"
 #include "scan.h"
@@ -128,6 +129,27 @@ int readDayNumber(const QString &text, int position, bool monthSaid, int &day)
         return 0;
     day = number.value;
     return at + sign - position;
+}
+
+/// 6.18下午: a date only before a part of the day or an hour, else a decimal.
+int readDottedDay(const QString &text, int position, TimeExpression &expression)
+{
+    const NumberMatch month = readQuantity(text, position);
+    const int mark = position + month.length;
+    if (!month || month.value > 12 || charAt(text, mark) != QLatin1Char('.'))
+        return 0;
+    const NumberMatch day = readQuantity(text, mark + 1);
+    const int end = mark + 1 + day.length;
+    if (!day || day.value < 1 || day.value > 31)
+        return 0;
+    const int next = skipSpaces(text, end);
+    TimeExpression clock;
+    if (dayPartAt(text, next, true) < 0 && readClock(text, next, clock) == 0)
+        return 0;
+    expression.day = TimeExpression::Day::MonthAndDay;
+    expression.month = month.value;
+    expression.dayOfMonth = day.value;
+    return end - position;
 }
 
 int readMonthAndDay(const QString &text, int position, TimeExpression &expression, bool &unclear)
@@ -257,6 +279,8 @@ int readDay(const QString &text, int position, TimeExpression &expression, bool 
     if (const int length = readNamedDay(text, position, expression))
         return length;
     if (const int length = readMonthAndDay(text, position, expression, unclear))
+        return length;
+    if (const int length = readDottedDay(text, position, expression))
         return length;
     int day = 0;
     if (const int length = readDayNumber(text, position, false, day)) {

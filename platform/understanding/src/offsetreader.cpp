@@ -48,6 +48,12 @@ int readAmount(const QString &text, int position, int &tenths)
         tenths = 5;
         return 1;
     }
+    // 俩小时, 仨小时: the measure is in the number.
+    const QChar contracted = charAt(text, position);
+    if (contracted == QChar(u'俩') || contracted == QChar(u'仨')) {
+        tenths = contracted == QChar(u'俩') ? 20 : 30;
+        return 1;
+    }
     const NumberMatch whole = readQuantity(text, position);
     if (!whole)
         return 0;

@@ -10,6 +10,12 @@
 
 namespace understanding {
 
+namespace {
+
+constexpr int shortestNumber = 3; // 3号会议室 has no number of a conference
+
+} // namespace
+
 Reading::Reading(const QString &sentence, const ContactIndex &contacts) : m_sentence(sentence)
 {
     m_tokens = tokenize(m_sentence.text(), contacts);
@@ -54,6 +60,20 @@ Said Reading::digitsOf(const Token &token) const
                 digitString(m_sentence.text().mid(token.position, token.length)));
 }
 
+/// 会议号是12: said to be a number, however short.
+bool Reading::isLabelled(std::size_t number) const
+{
+    std::size_t at = number;
+    while (at > 0) {
+        const Token &before = m_tokens[--at];
+        if (before.isAny(WordClass::IdLabel | WordClass::Conference))
+            return true;
+        if (!before.isAny(WordClass::LabelLink | WordClass::Punctuation) && before.kind != Token::Kind::Space)
+            return false;
+    }
+    return false;
+}
+
 bool Reading::takePassword(std::size_t label)
 {
     for (std::size_t at = label + 1; at < m_tokens.size(); ++at) {
@@ -89,7 +109,7 @@ void Reading::collectNumbers()
             continue;
         if (m_account.isEmpty())
             m_account = digitsOf(token);
-        if (isNumber && m_number.isEmpty())
+        if (isNumber && m_number.isEmpty() && (token.length >= shortestNumber || isLabelled(at)))
             m_number = digitsOf(token);
     }
 }

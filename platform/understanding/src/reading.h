@@ -53,6 +53,7 @@ private:
     void collectClasses();
     void collectTimes();
     void collectNumbers();
+    bool isLabelled(std::size_t number) const;
     bool takePassword(std::size_t label);
     void collectOpenVerb();
 

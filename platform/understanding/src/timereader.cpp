@@ -19,7 +19,7 @@ bool canBegin(QChar character)
 {
     static const QString starts =
         QStringLiteral("零〇一二两三四五六七八九十百廿卅半今明后昨前去大当上下中正晌这本周星礼早清晨"
-                       "凌午傍黄晚夜深差过再隔等");
+                       "凌午傍黄晚夜深差过再隔等俩仨");
     return (character >= QLatin1Char('0') && character <= QLatin1Char('9')) ||
            (character.unicode() >= 0x80 && starts.contains(character));
 }
@@ -48,8 +48,7 @@ int readMoment(const QString &text, int position, TimeExpression &expression, bo
             length = readClock(text, at, next);
         }
         if (length == 0 && expression.part < 0) {
-            const bool afterDay = expression.day != TimeExpression::Day::None;
-            const int part = dayPartAt(text, at, afterDay);
+            const int part = dayPartAt(text, at, true);
             if (part >= 0) {
                 const DayPart &found = dayParts()[static_cast<std::size_t>(part)];
                 length = found.word.size();

@@ -21,19 +21,25 @@ private:
         return QStringLiteral(CONTACT_SOURCE_DIR "/tests/understanding/") + name;
     }
 
-    static void addRows(const QString &name)
+    static void addRows(const QStringList &names)
     {
         QTest::addColumn<QString>("sentence");
         QTest::addColumn<QDateTime>("now");
         QTest::addColumn<QStringList>("contacts");
         QTest::addColumn<QString>("meaning");
-        for (const LabelledSentence &row : readSentences(file(name)))
-            QTest::addRow("%s:%d %s", qPrintable(name), row.line, row.sentence.toUtf8().constData())
-                << row.sentence << row.now << row.contacts << row.meaning;
+        for (const QString &name : names) {
+            const std::vector<LabelledSentence> rows = readSentences(file(name));
+            for (const LabelledSentence &row : rows)
+                QTest::addRow("%s:%d %s", qPrintable(name), row.line, row.sentence.toUtf8().constData())
+                    << row.sentence << row.now << row.contacts << row.meaning;
+        }
     }
 
 private Q_SLOTS:
-    void everySentenceMeansWhatItsRowSays_data() { addRows(QStringLiteral("sentences.tsv")); }
+    void everySentenceMeansWhatItsRowSays_data()
+    {
+        addRows({QStringLiteral("sentences.tsv"), QStringLiteral("sentences-more.tsv")});
+    }
     void everySentenceMeansWhatItsRowSays()
     {
         QFETCH(QString, sentence);

@@ -25,14 +25,14 @@ void makePlain(Token &token)
 /// 会 is a conference unless it is "can" or "will": 会唱歌.
 void settleConferences(const QString &text, Tokens &tokens)
 {
-    static const QString mayFollow = QStringLiteral("的在要需得完没总定");
+    static const QString mayFollow = QStringLiteral("的在要需得完没总定开");
     for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
         Token &token = tokens[at];
         if (token.length != 1 || !token.is(WordClass::Conference))
             continue;
         const Token &next = tokens[at + 1];
-        const bool verbFollows =
-            next.kind == Token::Kind::Other && !mayFollow.contains(text.at(next.position));
+        const bool verbFollows = (next.kind == Token::Kind::Other || next.is(WordClass::Plain)) &&
+                                 !mayFollow.contains(text.at(next.position));
         const bool opened = at > 0 && tokens[at - 1].isAny(WordClass::WeakOpen | WordClass::Measure);
         if (verbFollows && !opened)
             makePlain(token);

@@ -101,7 +101,7 @@ int readHalfDay(const QString &text, int position, TimeExpression &expression)
 /// 差一刻, 差五分: what is taken off the hour that follows.
 int readLess(const QString &text, int position, int &minutes)
 {
-    if (charAt(text, position) != QChar(u'差'))
+    if (firstOf(text, position, {u"差", u"欠"}) == 0)
         return 0;
     int at = position + 1;
     if (const int length = readQuarters(text, at, minutes)) {

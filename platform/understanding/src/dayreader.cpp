@@ -123,6 +123,9 @@ int readDayNumber(const QString &text, int position, bool monthSaid, int &day)
     const int sign = firstOf(text, at, {u"号", u"日"});
     if (sign == 0 && (!monthSaid || firstOf(text, at, {u"点", u":", u"个", u"月", u"人"}) > 0))
         return 0;
+    if (!monthSaid && firstOf(text, at + sign, {u"后", u"以后", u"之后"}) > 0 &&
+        firstOf(text, at, {u"日"}) > 0)
+        return 0; // 三日后 counts days
     // 5号线 and 3号会议室 are no days.
     if (!monthSaid &&
         (number.value > 31 || firstOf(text, at + sign, {u"会议室", u"线", u"楼", u"码", u"房"}) > 0))

@@ -80,7 +80,7 @@ constexpr struct
 
 bool isClauseEnd(const QString &text, int position)
 {
-    static const QString ends = QStringLiteral(",.!?;、 。~吧呢啊呀了哦啦嘛哈");
+    static const QString ends = QStringLiteral(",.!?;、 。~吧呢啊呀了哦啦嘛哈吗么");
     return position >= text.size() || ends.contains(text.at(position));
 }
 

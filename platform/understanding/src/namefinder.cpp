@@ -106,33 +106,46 @@ private:
             addChunk(left.position, left.end(), true, true);
     }
 
-    /// 赵云参加, 赵云也来: a subject of its own, before what only people do.
+    bool standsApartBefore(std::size_t at) const
+    {
+        return at == 0 || m_tokens[at - 1].kind == Token::Kind::Space ||
+               m_tokens[at - 1].isAny(WordClass::Punctuation | WordClass::Separator);
+    }
+
+    bool standsApartBehind(std::size_t at) const
+    {
+        return at + 1 == m_tokens.size() || m_tokens[at + 1].kind == Token::Kind::Space ||
+               m_tokens[at + 1].isAny(WordClass::Punctuation | WordClass::Separator);
+    }
+
+    bool hasConference() const
+    {
+        return std::any_of(m_tokens.cbegin(), m_tokens.cend(), [](const Token &token) {
+            return token.is(WordClass::Conference) && !token.inTopic;
+        });
+    }
+
+    /// Somebody whom no word calls: 赵云参加, 赵云也来, 赵云明天三点开会, 发起会议 赵云.
     void takeSubject(std::size_t at)
     {
         const Token &token = m_tokens[at];
         std::size_t next = at + 1;
-        if (next >= m_tokens.size()) {
-            // 发起会议 赵云: the last word of a sentence that has its conference.
-            const bool hasConference =
-                std::any_of(m_tokens.cbegin(), m_tokens.cend(), [](const Token &other) {
-                    return other.is(WordClass::Conference) && !other.inTopic;
-                });
-            const bool apart =
-                at > 0 && (m_tokens[at - 1].kind == Token::Kind::Space ||
-                           m_tokens[at - 1].isAny(WordClass::Punctuation | WordClass::Conference) ||
-                           m_tokens[at - 1].kind == Token::Kind::Time);
-            if (hasConference && apart)
-                addChunk(token.position, token.end(), true, false);
-            return;
-        }
         while (next < m_tokens.size() && m_tokens[next].is(WordClass::Filler) && m_tokens[next].length == 1)
             ++next;
         const bool joins =
             next < m_tokens.size() && m_tokens[next].isAny(WordClass::Join | WordClass::Arrive);
-        const bool listed = m_tokens[at + 1].kind == Token::Kind::Space && at > 0 &&
-                            m_tokens[at - 1].kind == Token::Kind::Space;
-        if (joins || listed)
-            addChunk(token.position, token.end(), true, joins && m_tokens[next].is(WordClass::Arrive));
+        if (joins) {
+            addChunk(token.position, token.end(), true, m_tokens[next].is(WordClass::Arrive));
+            return;
+        }
+        const bool last = at + 1 == m_tokens.size();
+        const bool afterOpening =
+            last && at > 0 &&
+            (m_tokens[at - 1].is(WordClass::Conference) || m_tokens[at - 1].kind == Token::Kind::Time);
+        const bool beforeTime = at == 0 && !last && m_tokens[1].kind == Token::Kind::Time;
+        const bool apart = at > 0 && standsApartBefore(at) && standsApartBehind(at);
+        if ((afterOpening || beforeTime || apart) && hasConference())
+            addChunk(token.position, token.end(), true, false);
     }
 
     bool isSmallWordInName(std::size_t at) const
@@ -146,7 +159,7 @@ private:
     std::size_t skipToNames(std::size_t lead) const
     {
         std::size_t at = lead + 1;
-        constexpr WordClasses between = WordClass::Measure | WordClass::OpenParticle;
+        constexpr WordClasses between = WordClass::Measure;
         const bool label = m_tokens[lead].isAny(WordClass::NameLabel);
         while (at < m_tokens.size()) {
             const Token &token = m_tokens[at];

@@ -6,9 +6,10 @@
 #include "lexicon.h"
 #include "rulefile.h"
 
-#include <QSet>
+#include <QHash>
 
 #include <algorithm>
+#include <limits>
 
 namespace understanding {
 
@@ -16,18 +17,26 @@ namespace {
 
 constexpr int longestFullName = 4;
 
-bool isSurname(QChar character)
+/// How common \a character is as a family name, 0 being the most common; -1 for none.
+int surnameRank(QChar character)
 {
-    static const QSet<QChar> surnames = [] {
-        QSet<QChar> loaded;
+    static const QHash<QChar, int> ranks = [] {
+        QHash<QChar, int> loaded;
         const QStringList lines = ruleLines(QStringLiteral("surnames.txt"));
         for (const QString &line : lines) {
-            for (const QChar surname : line)
-                loaded.insert(surname);
+            for (const QChar surname : line) {
+                if (!loaded.contains(surname))
+                    loaded.insert(surname, loaded.size());
+            }
         }
         return loaded;
     }();
-    return surnames.contains(character);
+    return ranks.value(character, -1);
+}
+
+bool isSurname(QChar character)
+{
+    return surnameRank(character) >= 0;
 }
 
 bool isLatinName(const QString &text)
@@ -39,11 +48,13 @@ bool isLatinName(const QString &text)
 bool endsLikeName(const QString &text)
 {
     static const QStringList endings = {
-        QStringLiteral("部"),   QStringLiteral("部门"), QStringLiteral("组"),   QStringLiteral("团队"),
-        QStringLiteral("中心"), QStringLiteral("总"),   QStringLiteral("工"),   QStringLiteral("老师"),
-        QStringLiteral("经理"), QStringLiteral("主任"), QStringLiteral("哥"),   QStringLiteral("姐"),
-        QStringLiteral("博士"), QStringLiteral("教授"), QStringLiteral("科"),   QStringLiteral("处"),
-        QStringLiteral("同学"), QStringLiteral("先生"), QStringLiteral("女士"), QStringLiteral("总监")};
+        QStringLiteral("部"),     QStringLiteral("部门"), QStringLiteral("组"),     QStringLiteral("团队"),
+        QStringLiteral("中心"),   QStringLiteral("总"),   QStringLiteral("工"),     QStringLiteral("老师"),
+        QStringLiteral("经理"),   QStringLiteral("主任"), QStringLiteral("哥"),     QStringLiteral("姐"),
+        QStringLiteral("博士"),   QStringLiteral("教授"), QStringLiteral("科"),     QStringLiteral("处"),
+        QStringLiteral("同学"),   QStringLiteral("先生"), QStringLiteral("女士"),   QStringLiteral("总监"),
+        QStringLiteral("公司"),   QStringLiteral("总部"), QStringLiteral("办公室"), QStringLiteral("集团"),
+        QStringLiteral("事业部"), QStringLiteral("学院"), QStringLiteral("小组")};
     return std::any_of(endings.cbegin(), endings.cend(), [&](const QString &ending) {
         return text.size() > ending.size() && text.endsWith(ending);
     });
@@ -76,24 +87,40 @@ bool looksLikeName(const QString &text)
            (isSurname(text.at(0)) || (text.size() <= 3 && prefixes.contains(text.at(0))));
 }
 
+namespace {
+
+/// The length of the name at \a at when names stand side by side: the next one begins with a family name, the
+/// more common one where both lengths are possible (李雷韩梅梅). 0 for no name.
+int nameLengthAt(const QString &text, int at)
+{
+    int length = 0;
+    int bestRank = std::numeric_limits<int>::max();
+    for (const int candidate : {2, 3}) {
+        const int end = at + candidate;
+        const bool isLast = end == text.size();
+        const int rank = isLast ? 0 : end + 2 <= text.size() ? surnameRank(text.at(end)) : -1;
+        if (rank >= 0 && rank < bestRank) {
+            bestRank = rank;
+            length = candidate;
+        }
+    }
+    return length;
+}
+
+} // namespace
+
 QStringList splitNames(const QString &text)
 {
-    // Two and two or more; a name of four characters with a family name of two is one.
-    if (text.size() < 4 || text.size() > 12 || startsTwoCharacterSurname(text) || endsLikeName(text) ||
-        !isSurname(text.at(0)))
+    static const QString titles = QStringLiteral("总工哥姐");
+    // A name of four characters with a family name of two is one.
+    if (text.size() < 4 || text.size() > 12 || startsTwoCharacterSurname(text) || !isSurname(text.at(0)))
+        return {text};
+    if (endsLikeName(text) && !titles.contains(text.at(1))) // 张总李总 are two, 孙中山中心 is one
         return {text};
     QStringList names;
     int at = 0;
     while (at < text.size()) {
-        int length = 0;
-        for (const int candidate : {3, 2}) {
-            const int end = at + candidate;
-            const bool fits = end == text.size() || (end + 2 <= text.size() && isSurname(text.at(end)));
-            if (end <= text.size() && fits) {
-                length = candidate;
-                break;
-            }
-        }
+        const int length = nameLengthAt(text, at);
         if (length == 0)
             return {text};
         names.append(text.mid(at, length));
@@ -104,7 +131,7 @@ QStringList splitNames(const QString &text)
 
 QString withoutParticles(const QString &text)
 {
-    static const QString leading = QStringLiteral("的也都再就先在要想了个请给对着还又把将跟是有于帮替");
+    static const QString leading = QStringLiteral("的也都再就先在要想了个请给对着还又把将跟是有帮替");
     static const QString trailing = QStringLiteral(
         "也都来去再就先在要想的给吧呢啊呀了过到于得能可需将又还会用里并且吗嘛上下把做成为参加");
     int start = 0;

@@ -5,8 +5,9 @@
 
 #include "guarded.h"
 
+#include <lumo/lstyle.h>
+
 #include <QtGui/QIcon>
-#include <QtWidgets/QStyleFactory>
 
 namespace devhost {
 
@@ -26,8 +27,8 @@ HostApplication::HostApplication(std::unique_ptr<Arguments> arguments)
     setDesktopFileName(QStringLiteral("speakmate-devhost"));
     setAttribute(Qt::AA_UseHighDpiPixmaps);
     setWindowIcon(QIcon(QStringLiteral(":/devhost/speakmate-devhost.svg")));
-    // The one style that follows the toolkit's palettes on every desktop.
-    setStyle(QStyleFactory::create(QStringLiteral("fusion")));
+    // The desktop's look, also where the cards are shown on another desktop.
+    setStyle(new LStyle);
 }
 
 bool HostApplication::notify(QObject *receiver, QEvent *event)

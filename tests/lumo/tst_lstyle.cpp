@@ -179,6 +179,7 @@ void TestLStyle::theKeyboardsFocusIsSeen_data()
 {
     QTest::addColumn<QString>("control");
     QTest::newRow("a button") << "button";
+    QTest::newRow("a flat button") << "flat";
     QTest::newRow("the suggested button") << "suggested";
     QTest::newRow("a combo box") << "combo";
     QTest::newRow("a spin box") << "spin";
@@ -189,7 +190,7 @@ void TestLStyle::theKeyboardsFocusIsSeen()
     QFETCH(QString, control);
     QWidget window;
     QWidget *widget = nullptr;
-    if (control == QLatin1String("button"))
+    if (control == QLatin1String("button") || control == QLatin1String("flat"))
         widget = new QPushButton(&window);
     else if (control == QLatin1String("suggested"))
         widget = new LSuggestButton(&window);
@@ -197,6 +198,8 @@ void TestLStyle::theKeyboardsFocusIsSeen()
         widget = new LComboBox(&window);
     else
         widget = new LSpinBox(&window);
+    if (auto *button = qobject_cast<QPushButton *>(widget))
+        button->setFlat(control == QLatin1String("flat"));
     window.show();
     window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));

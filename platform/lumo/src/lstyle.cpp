@@ -10,8 +10,18 @@
 #include <QtWidgets/QStyleOption>
 
 namespace {
+
 constexpr int ControlHeight = 32;
 constexpr int IndicatorExtent = 18;
+
+/// Only for who uses the keyboard.
+void drawFocusRing(const QStyleOption *option, QPainter *painter)
+{
+    if (option->state.testFlag(QStyle::State_HasFocus) &&
+        option->state.testFlag(QStyle::State_KeyboardFocusChange))
+        StylePainting::focusRing(*painter, *option);
+}
+
 } // namespace
 
 LStyle::LStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -24,17 +34,14 @@ void LStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
         const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
         const bool flat = button != nullptr && button->features.testFlag(QStyleOptionButton::Flat);
         StylePainting::button(*painter, *option, flat);
-        if (option->state.testFlag(State_HasFocus) && option->state.testFlag(State_KeyboardFocusChange))
-            StylePainting::focusRing(*painter, *option);
         return;
     }
     case PE_FrameDefaultButton:
         return;
     case PE_FrameFocusRect:
-        // The ring of a button goes around its panel and is drawn with that.
-        if (qobject_cast<const QPushButton *>(widget) == nullptr &&
-            option->state.testFlag(State_KeyboardFocusChange))
-            StylePainting::focusRing(*painter, *option);
+        // The ring of a button goes around all of it, not around its text as this would.
+        if (qobject_cast<const QPushButton *>(widget) == nullptr)
+            drawFocusRing(option, painter);
         return;
     case PE_IndicatorCheckBox:
         StylePainting::checkMark(*painter, *option);
@@ -42,6 +49,14 @@ void LStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
     default:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
+}
+
+void LStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                         const QWidget *widget) const
+{
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (element == CE_PushButton)
+        drawFocusRing(option, painter);
 }
 
 void LStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
@@ -63,8 +78,7 @@ void LStyle::drawComboBox(const QStyleOptionComboBox &option, QPainter *painter,
     const QRect arrow = proxy()->subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, widget);
     StylePainting::sign(*painter, option, arrow, StylePainting::Sign::Down,
                         option.state.testFlag(State_Enabled));
-    if (option.state.testFlag(State_HasFocus))
-        proxy()->drawPrimitive(PE_FrameFocusRect, &option, painter, widget);
+    drawFocusRing(&option, painter);
 }
 
 void LStyle::drawSpinBox(const QStyleOptionSpinBox &option, QPainter *painter, const QWidget *widget) const
@@ -79,8 +93,7 @@ void LStyle::drawSpinBox(const QStyleOptionSpinBox &option, QPainter *painter, c
     };
     drawButton(SC_SpinBoxUp, QAbstractSpinBox::StepUpEnabled, arrows ? Sign::Up : Sign::Plus);
     drawButton(SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled, arrows ? Sign::Down : Sign::Minus);
-    if (option.state.testFlag(State_HasFocus))
-        proxy()->drawPrimitive(PE_FrameFocusRect, &option, painter, widget);
+    drawFocusRing(&option, painter);
 }
 
 QSize LStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,

@@ -60,13 +60,12 @@ QRectF inside(const QRect &rect, qreal lineWidth)
 
 void StylePainting::button(QPainter &painter, const QStyleOption &option, bool flat)
 {
-    const PainterState state(painter);
-    QColor ground = groundOf(option, QPalette::Button);
     const bool touched = is(option, QStyle::State_MouseOver) || is(option, QStyle::State_Sunken);
     if (flat && !touched)
         return;
+    const PainterState state(painter);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(ground);
+    painter.setBrush(groundOf(option, QPalette::Button));
     painter.drawRoundedRect(option.rect, Radius, Radius);
 }
 

@@ -45,6 +45,8 @@ bool governsConference(const QString &text, const Tokens &tokens, std::size_t ve
     bool described = false;
     for (std::size_t at = verb + 1; at < tokens.size(); ++at) {
         const Token &token = tokens[at];
+        if (token.inTopic)
+            continue;
         if (isConference(token))
             return true;
         constexpr WordClasses describing =
@@ -125,7 +127,8 @@ void settleOpening(const QString &text, Tokens &tokens)
         const bool comes =
             text.at(token.position) == QChar(u'来') && at > 0 &&
             (tokens[at - 1].kind == Token::Kind::Name || tokens[at - 1].kind == Token::Kind::Other);
-        if (insideName || comes || !(governsConference(text, tokens, at) || followsConference(tokens, at)))
+        if (insideName || (comes && startsAt(text, token.end(), QStringLiteral("一下"))) ||
+            !(governsConference(text, tokens, at) || followsConference(tokens, at)))
             token.classes.remove(WordClass::WeakOpen);
     }
 }
@@ -176,9 +179,9 @@ void settleWords(const QString &text, Tokens &tokens)
 {
     settleQuestions(tokens);
     settleConferences(text, tokens);
+    settleTopics(tokens);
     settleOpening(text, tokens);
     settleCalls(text, tokens);
-    settleTopics(tokens);
 }
 
 } // namespace understanding

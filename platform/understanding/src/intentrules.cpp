@@ -55,7 +55,13 @@ bool isNegated(const Reading &reading)
                (tokens[next].is(WordClass::Filler) || tokens[next].kind == Token::Kind::Time ||
                 tokens[next].is(WordClass::Nobody)))
             ++next;
-        if (tokens[next].isAny(deeds))
+        // 不开会了，结束会议: what is wanted is the end.
+        const bool endFollows = !tokens[next].is(WordClass::Close) &&
+                                std::any_of(tokens.cbegin() + static_cast<std::ptrdiff_t>(next),
+                                            tokens.cend(), [](const Token &token) {
+                                                return token.isAny(WordClass::Close | WordClass::CloseAlone);
+                                            });
+        if (tokens[next].isAny(deeds) && !endFollows)
             return true;
     }
     return false;

@@ -67,7 +67,7 @@ private:
     /// A name that nobody knows may begin like a time: 和周一鸣, 和高明早上.
     bool isInUnknownName(const TimeMatch &match) const
     {
-        if (match.kind != TimeMatch::Kind::Time || m_tokens.empty())
+        if (match.kind == TimeMatch::Kind::None || m_tokens.empty())
             return false;
         const Token &before = m_tokens.back();
         constexpr WordClasses leadsToNames = WordClass::Trigger | WordClass::Separator | WordClass::NameLabel;
@@ -78,12 +78,20 @@ private:
                    Lexicon::instance().longestAt(m_text, end).length == 0 && m_text.at(end) != QChar(u'的') &&
                    m_text.at(end) != QLatin1Char(' ') && !isLatinLetterOrDigit(m_text.at(end));
         }
-        if (m_tokens.size() < 2 || before.kind != Token::Kind::Other || before.length != 1)
+        if (before.kind != Token::Kind::Other)
             return false;
-        const Token &lead = m_tokens[m_tokens.size() - 2];
-        const bool mayBeGivenName = m_text.at(m_at) == QChar(u'明') || m_text.at(m_at) == QChar(u'晨');
-        return lead.isAny(leadsToNames) && mayBeGivenName &&
-               readTime(m_text, m_at + 1).kind == TimeMatch::Kind::Time;
+        const TimeMatch later = readTime(m_text, m_at + 1);
+        const bool laterIsTime = later.kind == TimeMatch::Kind::Time && !later.expression.impossible;
+        // 李四四点; 张三周三 holds no three weeks.
+        const bool unlikely =
+            match.expression.impossible || (match.kind == TimeMatch::Kind::Duration && before.length == 1);
+        if (unlikely)
+            return laterIsTime;
+        // One character is no name: 和高明早上 is 高明, 和王五十分钟后 is 王五.
+        const bool alone =
+            before.length == 1 && m_tokens.size() > 1 && m_tokens[m_tokens.size() - 2].isAny(leadsToNames);
+        static const QString givenNames = QStringLiteral("明晨一二三四五六七八九");
+        return alone && laterIsTime && givenNames.contains(m_text.at(m_at));
     }
 
     bool takeTimeOrNumberOrWord()

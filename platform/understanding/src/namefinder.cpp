@@ -56,8 +56,8 @@ private:
         }
         if (token.kind == Token::Kind::Name)
             addKnown(token, false);
-        else if (token.kind == Token::Kind::Other)
-            takeSubject(at);
+        else if (token.kind == Token::Kind::Other || isSmallWordInName(at))
+            return takeSubject(at);
         return at;
     }
 
@@ -125,27 +125,48 @@ private:
         });
     }
 
-    /// Somebody whom no word calls: 赵云参加, 赵云也来, 赵云明天三点开会, 发起会议 赵云.
-    void takeSubject(std::size_t at)
+    /// The last token of the run of characters that begins at \a at: 关羽 is a word and a character.
+    std::size_t lastOfRun(std::size_t at) const
+    {
+        while (at + 1 < m_tokens.size() && !m_tokens[at + 1].inTopic &&
+               (m_tokens[at + 1].kind == Token::Kind::Other || isSmallWordInName(at + 1)))
+            ++at;
+        return at;
+    }
+
+    /// Somebody whom no word calls: 赵云参加, 赵云也来, 赵云明天三点开会, 发起会议 赵云. Returns the last
+    /// token taken.
+    std::size_t takeSubject(std::size_t at)
     {
         const Token &token = m_tokens[at];
-        std::size_t next = at + 1;
+        std::size_t last = token.kind == Token::Kind::Other ? at : lastOfRun(at);
+        if (last > at && m_tokens[last].kind != Token::Kind::Other)
+            --last; // 关羽也: the word behind is none of the name's
+        if (m_tokens[last].kind != Token::Kind::Other)
+            return at;
+        std::size_t next = last + 1;
         while (next < m_tokens.size() && m_tokens[next].is(WordClass::Filler) && m_tokens[next].length == 1)
             ++next;
+        const int end = m_tokens[last].end();
         const bool joins =
             next < m_tokens.size() && m_tokens[next].isAny(WordClass::Join | WordClass::Arrive);
-        if (joins) {
-            addChunk(token.position, token.end(), true, m_tokens[next].is(WordClass::Arrive));
-            return;
-        }
-        const bool last = at + 1 == m_tokens.size();
+        const bool isLast = last + 1 == m_tokens.size();
         const bool afterOpening =
-            last && at > 0 &&
+            isLast && at > 0 &&
             (m_tokens[at - 1].is(WordClass::Conference) || m_tokens[at - 1].kind == Token::Kind::Time);
-        const bool beforeTime = at == 0 && !last && m_tokens[1].kind == Token::Kind::Time;
-        const bool apart = at > 0 && standsApartBefore(at) && standsApartBehind(at);
-        if ((afterOpening || beforeTime || apart) && hasConference())
-            addChunk(token.position, token.end(), true, false);
+        const bool beforeTime = at == 0 && !isLast && m_tokens[last + 1].kind == Token::Kind::Time;
+        const bool beforeOpening = at == 0 && !isLast &&
+                                   m_tokens[last + 1].isAny(WordClass::WeakOpen | WordClass::StrongOpen) &&
+                                   splitNames(m_text.mid(token.position, end - token.position)).size() > 1;
+        const bool apart = at > 0 && standsApartBefore(at) && standsApartBehind(last);
+        const std::size_t before = m_names.size();
+        if (joins)
+            addChunk(token.position, end, true, m_tokens[next].is(WordClass::Arrive));
+        else if (beforeOpening)
+            addChunk(token.position, end, false, false);
+        else if ((afterOpening || beforeTime || apart) && hasConference())
+            addChunk(token.position, end, true, false);
+        return m_names.size() > before ? last : at;
     }
 
     bool isSmallWordInName(std::size_t at) const
@@ -177,7 +198,13 @@ private:
     std::size_t takeZone(std::size_t lead, bool mustLookLikeName)
     {
         const std::size_t before = m_names.size();
-        const std::size_t end = takeNames(skipToNames(lead), mustLookLikeName);
+        std::size_t end = takeNames(skipToNames(lead), mustLookLikeName);
+        // What follows tells that it is somebody, however unlikely the name: 把加藤拉进来.
+        constexpr WordClasses takesPeople =
+            WordClass::Arrive | WordClass::Buddy | WordClass::BuddyNoun | WordClass::InviteNoun;
+        if (mustLookLikeName && m_names.size() == before && end < m_tokens.size() &&
+            m_tokens[end].isAny(takesPeople))
+            end = takeNames(skipToNames(lead), false);
         // Where nobody stood, nothing is used up: 约 in 约个会.
         return m_names.size() > before ? end - 1 : lead;
     }
@@ -193,11 +220,7 @@ private:
             } else if (token.kind == Token::Kind::Latin) {
                 addUnknown(token.position, m_text.mid(token.position, token.length), true);
             } else if (token.kind == Token::Kind::Other || isSmallWordInName(at)) {
-                std::size_t last = at;
-                while (last + 1 < m_tokens.size() &&
-                       (m_tokens[last + 1].kind == Token::Kind::Other || isSmallWordInName(last + 1)) &&
-                       !m_tokens[last + 1].inTopic)
-                    ++last;
+                std::size_t last = lastOfRun(at);
                 if (last + 1 < m_tokens.size() && m_tokens[last + 1].is(WordClass::Title)) // 张主任
                     ++last;
                 addChunk(token.position, m_tokens[last].end(), mustLookLikeName || afterComma, true);

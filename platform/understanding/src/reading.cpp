@@ -8,6 +8,8 @@
 #include "lexer.h"
 #include "scan.h"
 
+#include <algorithm>
+
 namespace understanding {
 
 namespace {
@@ -35,7 +37,12 @@ Said Reading::part(int position, int length, const QString &normValue) const
 void Reading::collectClasses()
 {
     for (const Token &token : m_tokens) {
-        if (!token.inTopic)
+        // 关羽 closes nothing.
+        const bool inName =
+            token.length == 1 && std::any_of(m_names.cbegin(), m_names.cend(), [&](const FoundName &name) {
+                return token.position >= name.position && token.end() <= name.position + name.said.size();
+            });
+        if (!token.inTopic && !inName)
             m_classes.add(token.classes);
     }
 }

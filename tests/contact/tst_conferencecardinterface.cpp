@@ -128,6 +128,12 @@ private:
     ConferenceCardInterface &m_gateway = *ConferenceCardInterface::instance();
     std::unique_ptr<FakeProcessTable> m_table;
 
+    void showProcesses(int matches)
+    {
+        m_table.reset(); // takes its PATH back before the next one sets another
+        m_table = std::make_unique<FakeProcessTable>(matches);
+    }
+
 private Q_SLOTS:
     void initTestCase()
     {
@@ -138,7 +144,7 @@ private Q_SLOTS:
     void init()
     {
         m_script.reset();
-        m_table = std::make_unique<FakeProcessTable>(1);
+        showProcesses(1);
     }
     void cleanup()
     {
@@ -204,7 +210,7 @@ private Q_SLOTS:
         m_script.enqueue(0, answerOf(QStringLiteral("OK")));
         m_script.enqueue(0, answerOf(QStringLiteral("OK")));
         m_gateway.closeVideoConference();
-        m_table = std::make_unique<FakeProcessTable>(0);
+        showProcesses(0);
         m_gateway.closeVideoConference();
         QCOMPARE(kindsOf(m_script.events()), oneRequest + oneRequest);
         QCOMPARE(m_script.requests().at(0).timeout, 800);
@@ -293,7 +299,7 @@ private Q_SLOTS:
 
     void withoutTheApplicationNobodyIsInAMeeting()
     {
-        m_table = std::make_unique<FakeProcessTable>(0);
+        showProcesses(0);
         QVERIFY(!m_gateway.isInMeetingCheck());
         QVERIFY(m_script.events().isEmpty());
     }

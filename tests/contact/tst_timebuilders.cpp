@@ -239,7 +239,7 @@ private Q_SLOTS:
     void startTimeIsLoggedAsDateAndTime()
     {
         if (clockOfThisRun() != QString::fromUtf8(shanghaiMorning)) {
-            QSKIP("The texts are those of one clock.");
+            return QTest::qSkip("The texts are those of one clock.", __FILE__, __LINE__);
         }
         bool isSchedule = true;
         qint64 msecs = 0;
@@ -267,7 +267,7 @@ private Q_SLOTS:
     void fullHourThatComesTwiceIsInTheFuture()
     {
         if (clockOfThisRun() != QString::fromUtf8(berlinBeforeTheRepeatedHour)) {
-            QSKIP("The hour comes twice on one clock only.");
+            return QTest::qSkip("The hour comes twice on one clock only.", __FILE__, __LINE__);
         }
         bool isSchedule = true;
         qint64 msecs = 0;

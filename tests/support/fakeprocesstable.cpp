@@ -45,6 +45,9 @@ FakeProcessTable::FakeProcessTable(NoPs) : m_path(qgetenv(PathVariable))
 
 FakeProcessTable::~FakeProcessTable()
 {
+    if (!qgetenv(PathVariable).startsWith(QFile::encodeName(m_folder.path()))) {
+        qFatal("Process tables must go in the reverse order of their coming.");
+    }
     qputenv(PathVariable, m_path);
 }
 

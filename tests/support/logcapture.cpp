@@ -7,6 +7,7 @@
 #include <QtTest/QTest>
 
 #include <algorithm>
+#include <cstdio>
 
 namespace {
 
@@ -142,6 +143,9 @@ QString LogCapture::levelName(QtMsgType level)
 
 void LogCapture::handle(QtMsgType level, const QMessageLogContext &context, const QString &text)
 {
+    if (level == QtFatalMsg) {
+        std::fprintf(stderr, "%s\n", qPrintable(text)); // the program ends now, and should say why
+    }
     const QMutexLocker locker(&activeMutex());
     if (active != nullptr) {
         active->take({level, text, context.category, context.file, context.function, context.line});

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include <QtCore/QObject>
+#include <QtCore/QtPlugin>
+
+/// A plugin of another host.
+class OtherPlugin : public QObject
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "org.example.other.1")
+};
+
+#include "otherplugin.moc"

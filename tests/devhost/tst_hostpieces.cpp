@@ -1,0 +1,208 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "abilitycall.h"
+#include "cardpicture.h"
+#include "cardsummary.h"
+#include "cleantext.h"
+#include "inputhistory.h"
+#include "linereader.h"
+#include "replyjson.h"
+#include "secrets.h"
+#include "textlayout.h"
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets>
+
+#include <sstream>
+
+using namespace devhost;
+
+/// The small units of the host that need neither a plugin nor a window.
+class TestHostPieces : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void textsAreShownWithoutWhatHides_data();
+    void textsAreShownWithoutWhatHides();
+    void endlessTextsEnd();
+    void linesAreReadWithinBounds();
+    void passwordsAreFoundInSlotsOnly();
+    void passwordsAreBlottedOut();
+    void historyGoesUpAndDownAndKeepsTheBegunLine();
+    void historyForgetsSecrets();
+    void replyKeysStandInOrder();
+    void cardIsDescribedInTheReply();
+    void textsWrapByTheirWidthInATerminal();
+    void traceIsReadAsARequest();
+    void cardIsSummarisedRowByRow();
+};
+
+void TestHostPieces::textsAreShownWithoutWhatHides_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("plain text stays") << QStringLiteral("张伟 <b>x</b>") << QStringLiteral("张伟 <b>x</b>");
+    QTest::newRow("line breaks stay, tabs become blanks")
+        << QStringLiteral("a\nb\tc") << QStringLiteral("a\nb c");
+    QTest::newRow("control characters go")
+        << QStringLiteral("a\x01\x1b[31mb\x7f") << QStringLiteral("a[31mb");
+    QTest::newRow("an override of the direction goes")
+        << QStringLiteral("a\u202eb\u2066c") << QStringLiteral("abc");
+    QTest::newRow("invisible blanks go") << QStringLiteral("a\u200bb\ufeffc") << QStringLiteral("abc");
+    QTest::newRow("a joined emoji stays whole") << QStringLiteral("👩\u200d💻") << QStringLiteral("👩\u200d💻");
+    QTest::newRow("half a character goes")
+        << QString(QChar(0xd83d)) + QLatin1Char('a') << QStringLiteral("a");
+}
+
+void TestHostPieces::textsAreShownWithoutWhatHides()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, shown);
+    if (QByteArray(QTest::currentDataTag()).startsWith("half")) {
+        QVERIFY(cleanText(text).endsWith(QLatin1Char('a')));
+        return;
+    }
+    QCOMPARE(cleanText(text), shown);
+}
+
+void TestHostPieces::endlessTextsEnd()
+{
+    const QString shown = cleanText(QString(1000000, QLatin1Char('x')));
+    QCOMPARE(shown.size(), 20001);
+    QVERIFY(shown.endsWith(QChar(0x2026)));
+}
+
+void TestHostPieces::linesAreReadWithinBounds()
+{
+    std::istringstream input("\xef\xbb\xbf"
+                             "first\r\n"
+                             "0123456789A\n"
+                             "\xff\xfe\n"
+                             "0123456789\n\nlast");
+    LineReader reader(input, 10);
+    QString line;
+    QCOMPARE(reader.read(line), LineReader::Line);
+    QCOMPARE(line, QStringLiteral("first"));
+    QCOMPARE(reader.lineNumber(), 1);
+    QCOMPARE(reader.read(line), LineReader::TooLong);
+    QVERIFY(line.isEmpty());
+    QCOMPARE(reader.read(line), LineReader::NotUtf8);
+    QCOMPARE(reader.read(line), LineReader::Line);
+    QCOMPARE(line, QStringLiteral("0123456789"));
+    QCOMPARE(reader.read(line), LineReader::Line);
+    QVERIFY(line.isEmpty());
+    QCOMPARE(reader.read(line), LineReader::Line);
+    QCOMPARE(line, QStringLiteral("last"));
+    QCOMPARE(reader.lineNumber(), 6);
+    QCOMPARE(reader.read(line), LineReader::End);
+}
+
+void TestHostPieces::passwordsAreFoundInSlotsOnly()
+{
+    const QString semantic = QStringLiteral(
+        R"({"intent":{"semantic":[{"intent":"X","slots":[{"name":"id","value":"880"},{"name":"password","value":"24 68","normValue":"2468"}]}]}})");
+    QCOMPARE(secretsIn(semantic), QStringList({QStringLiteral("24 68"), QStringLiteral("2468")}));
+    QVERIFY(secretsIn(QStringLiteral("no json")).isEmpty());
+    QVERIFY(secretsIn(QStringLiteral("{\"name\":\"password\",\"value\":\"\"}")).isEmpty());
+}
+
+void TestHostPieces::passwordsAreBlottedOut()
+{
+    QCOMPARE(withoutSecrets(QStringLiteral("pass 2468, again 2468"), {QStringLiteral("2468")}),
+             QStringLiteral("pass ••••, again ••••"));
+}
+
+void TestHostPieces::historyGoesUpAndDownAndKeepsTheBegunLine()
+{
+    InputHistory history;
+    QCOMPARE(history.older(QStringLiteral("begun")), QStringLiteral("begun"));
+    history.add(QStringLiteral("one"));
+    history.add(QStringLiteral("two"));
+    history.add(QStringLiteral("two"));
+    QCOMPARE(history.older(QStringLiteral("begun")), QStringLiteral("two"));
+    QCOMPARE(history.older(QStringLiteral("two")), QStringLiteral("one"));
+    QCOMPARE(history.older(QStringLiteral("one")), QStringLiteral("one"));
+    QCOMPARE(history.newer(QStringLiteral("one")), QStringLiteral("two"));
+    QCOMPARE(history.newer(QStringLiteral("two")), QStringLiteral("begun"));
+    QCOMPARE(history.newer(QStringLiteral("begun")), QStringLiteral("begun"));
+}
+
+void TestHostPieces::historyForgetsSecrets()
+{
+    InputHistory history;
+    history.add(QStringLiteral("one"));
+    history.add(QStringLiteral("2468"));
+    history.remove(QStringLiteral("2468"));
+    QCOMPARE(history.older(QString()), QStringLiteral("one"));
+}
+
+void TestHostPieces::replyKeysStandInOrder()
+{
+    Reply reply(-16007, QStringLiteral("\"引号\"\n"), Reply::Texts);
+    reply.speechText = QStringLiteral("说");
+    QCOMPARE(
+        replyJson(reply, nullptr),
+        QByteArray(
+            "{\"code\":-16007,\"display\":\"\\\"引号\\\"\\n\",\"speech\":\"说\",\"type\":3,\"card\":null}"));
+}
+
+void TestHostPieces::cardIsDescribedInTheReply()
+{
+    CardNote note{QStringLiteral("Card"), 10, 20, QString()};
+    const Reply reply(0, QStringLiteral("x"), Reply::TextsAndCard);
+    QVERIFY(replyJson(reply, &note)
+                .endsWith(",\"type\":11,\"card\":{\"class\":\"Card\",\"width\":10,\"height\":20}}"));
+    note.screenshot = QStringLiteral("a.png");
+    QVERIFY(replyJson(reply, &note).endsWith("\"height\":20,\"screenshot\":\"a.png\"}}"));
+}
+
+void TestHostPieces::textsWrapByTheirWidthInATerminal()
+{
+    QCOMPARE(terminalWidth(QStringLiteral("会a，")), 5);
+    QCOMPARE(wrapped(QStringLiteral("会议abc"), 5),
+             QStringList({QStringLiteral("会议a"), QStringLiteral("bc")}));
+    QCOMPARE(wrapped(QStringLiteral("a\nb"), 5), QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+    QCOMPARE(wrapped(QString(), 5), QStringList({QString()}));
+}
+
+void TestHostPieces::traceIsReadAsARequest()
+{
+    LogRecord record;
+    record.category = "kelvane.ability";
+    record.text = QStringLiteral(
+        R"({"action":"Join Conference","answer":"{}","code":-16020,"ms":12.5,"parameters":"{\"a\":1}"})");
+    AbilityCall call;
+    QVERIFY(AbilityCall::read(record, call));
+    QCOMPARE(call.action, QStringLiteral("Join Conference"));
+    QCOMPARE(call.parameters, QStringLiteral("{\"a\":1}"));
+    QCOMPARE(call.code, -16020);
+    QCOMPARE(call.msecs, 12.5);
+    record.category = "default";
+    QVERIFY(!AbilityCall::read(record, call));
+}
+
+void TestHostPieces::cardIsSummarisedRowByRow()
+{
+    QWidget card;
+    auto *form = new QFormLayout(&card);
+    auto *title = new QLabel(QStringLiteral("<b>标题</b>"), &card);
+    title->setTextFormat(Qt::PlainText);
+    form->addRow(title);
+    auto *combo = new QComboBox(&card);
+    combo->addItem(QStringLiteral("1小时"));
+    form->addRow(QStringLiteral("时长"), combo);
+    auto *hidden = new QLabel(QStringLiteral("藏着"), &card);
+    hidden->hide();
+    form->addRow(hidden);
+    form->addRow(new QPushButton(QStringLiteral("确定(&O)"), &card));
+    giveCardItsSize(card);
+    const QImage picture = cardPicture(card);
+    QCOMPARE(picture.size(), card.size());
+    QCOMPARE(cardSummary(card), QStringList({QStringLiteral("<b>标题</b>"), QStringLiteral("时长  <1小时>"),
+                                             QStringLiteral("[确定(O)]")}));
+}
+
+QTEST_MAIN(TestHostPieces)
+#include "tst_hostpieces.moc"

@@ -1,0 +1,330 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "appearance.h"
+#include "conversationview.h"
+#include "inputline.h"
+#include "inspector.h"
+#include "logrecorder.h"
+#include "mainwindow.h"
+#include "semantics.h"
+#include "stallmeter.h"
+
+#include <lumo/lguiapplicationhelper.h>
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets>
+
+using namespace devhost;
+
+namespace {
+
+/// A window on the test plugin, as main() puts it together.
+struct Desk
+{
+    LogRecorder logs;
+    PluginHost host;
+    bool isLoaded = host.load(QStringLiteral(TEST_PLUGIN));
+    Appearance appearance;
+    Conversation conversation{host, logs};
+    MainWindow window{conversation, appearance};
+
+    Desk()
+    {
+        window.resize(1000, 700);
+        window.show();
+    }
+
+    void type(const QString &text)
+    {
+        window.input()->setText(text);
+        QTest::keyClick(window.input(), Qt::Key_Return);
+    }
+
+    bool isIdle() const { return !conversation.isBusy(); }
+
+    QStringList shownTexts() const
+    {
+        QVector<QPair<int, QString>> placed;
+        for (const Bubble *bubble : window.view()->findChildren<Bubble *>()) {
+            if (bubble->isVisible())
+                placed.append({bubble->y(), bubble->text()});
+        }
+        std::sort(placed.begin(), placed.end());
+        QStringList texts;
+        for (const auto &bubble : placed)
+            texts << bubble.second;
+        return texts;
+    }
+};
+
+} // namespace
+
+/// The window, driven as a person would, with a plugin that answers slowly, late and with cards.
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void exampleIsSentByAClick();
+    void windowStaysAliveWhileARequestRuns();
+    void laterInputQueuesAndAnswersStandWithTheirTurn();
+    void cardIsLiveAndItsReplyStandsBelow();
+    void viewStaysAtTheEndUnlessTheUserScrolledUp();
+    void thousandsOfTurnsStayFluid();
+    void keysGoThroughTheHistoryAndClearTheLine();
+    void inspectorShowsTheTurnAndSendsSemantics();
+    void themeAndFontAreAppliedAndRemembered();
+    void windowRemembersItself();
+    void problemIsShown();
+    void namesAreShownWithoutWhatHides();
+
+private:
+    QTemporaryDir m_settings;
+};
+
+void TestMainWindow::init()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("test"));
+    QCoreApplication::setApplicationName(QString::fromLatin1(QTest::currentTestFunction()));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
+}
+
+void TestMainWindow::exampleIsSentByAClick()
+{
+    Desk desk;
+    QVERIFY(desk.isLoaded);
+    auto *example = desk.window.findChild<QPushButton *>(QStringLiteral("example"));
+    QVERIFY(example != nullptr && example->isVisible());
+    QTest::mouseClick(example, Qt::LeftButton);
+    QTRY_VERIFY(desk.isIdle() && desk.shownTexts().size() == 2);
+    QCOMPARE(desk.shownTexts().first(), example->text());
+    QVERIFY(!example->isVisible());
+}
+
+void TestMainWindow::windowStaysAliveWhileARequestRuns()
+{
+    Desk desk;
+    const QTemporaryDir folder;
+    const QString gate = folder.filePath(QStringLiteral("go"));
+    desk.type(semantic("WAIT", gate));
+    QTRY_VERIFY(desk.window.view()->isWaiting());
+    StallMeter meter;
+    // Typing works meanwhile.
+    QTest::keyClicks(desk.window.input(), QStringLiteral("abcdefghij"));
+    int ticks = 0;
+    QTimer ticker;
+    connect(&ticker, &QTimer::timeout, this, [&ticks] { ++ticks; });
+    ticker.start(5);
+    QTRY_VERIFY(ticks > 40);
+    QVERIFY(desk.window.view()->isWaiting());
+    QVERIFY2(meter.longestMsecs() < 150, qPrintable(QString::number(meter.longestMsecs())));
+    QCOMPARE(desk.window.input()->text(), QStringLiteral("abcdefghij"));
+    QFile go(gate);
+    QVERIFY(go.open(QIODevice::WriteOnly));
+    go.close();
+    QTRY_VERIFY(desk.isIdle());
+    QVERIFY(!desk.window.view()->isWaiting());
+}
+
+void TestMainWindow::laterInputQueuesAndAnswersStandWithTheirTurn()
+{
+    Desk desk;
+    desk.type(semantic("SLOW", QStringLiteral("60")));
+    desk.type(semantic("ECHO", QStringLiteral("zwei")));
+    desk.type(semantic("ECHO", QStringLiteral("drei")));
+    QTRY_COMPARE(desk.shownTexts().size(), 3);
+    QTRY_VERIFY(desk.isIdle() && desk.shownTexts().size() == 6);
+    QCOMPARE(desk.shownTexts(), QStringList({QStringLiteral("语义 JSON SLOW"), QStringLiteral("60"),
+                                             QStringLiteral("语义 JSON ECHO"), QStringLiteral("zwei"),
+                                             QStringLiteral("语义 JSON ECHO"), QStringLiteral("drei")}));
+}
+
+void TestMainWindow::cardIsLiveAndItsReplyStandsBelow()
+{
+    Desk desk;
+    desk.type(semantic("CARD", QStringLiteral("卡片")));
+    QPushButton *button = nullptr;
+    const auto findButton = [&] {
+        for (auto *found : desk.window.view()->findChildren<QPushButton *>()) {
+            if (found->text() == QStringLiteral("按我"))
+                button = found;
+        }
+        return button != nullptr && button->isVisible();
+    };
+    QTRY_VERIFY(findButton());
+    QWidget *card = button->parentWidget();
+    const int heightBefore = card->height();
+    QTest::mouseClick(button, Qt::LeftButton);
+    QTRY_COMPARE(desk.shownTexts().value(2), QStringLiteral("按过了"));
+    QTRY_VERIFY(card->height() >= heightBefore + 200);
+    for (const Bubble *bubble : desk.window.view()->findChildren<Bubble *>()) {
+        if (bubble->text() == QStringLiteral("按过了"))
+            QTRY_VERIFY(bubble->y() >= card->geometry().bottom());
+    }
+    // A card that deletes itself leaves no hole and no dangling pointer.
+    delete card;
+    desk.type(semantic("ECHO", QStringLiteral("weiter")));
+    QTRY_VERIFY(desk.shownTexts().contains(QStringLiteral("weiter")));
+}
+
+void TestMainWindow::viewStaysAtTheEndUnlessTheUserScrolledUp()
+{
+    Desk desk;
+    ConversationView *view = desk.window.view();
+    for (int i = 0; i < 40; ++i)
+        desk.type(semantic("ECHO", QStringLiteral("Antwort %1").arg(i)));
+    QTRY_VERIFY(desk.isIdle() && view->count() == 80);
+    QVERIFY(view->isAtEnd());
+    QVERIFY(desk.shownTexts().contains(QStringLiteral("Antwort 39")));
+
+    view->verticalScrollBar()->setValue(200);
+    const QStringList before = desk.shownTexts();
+    view->addReply(40, QStringLiteral("spät"), nullptr);
+    QCOMPARE(view->verticalScrollBar()->value(), 200);
+    QCOMPARE(desk.shownTexts(), before);
+
+    // Something that is said oneself leads back to the end.
+    desk.type(semantic("ECHO", QStringLiteral("Ende")));
+    QTRY_VERIFY(desk.shownTexts().contains(QStringLiteral("Ende")));
+    QVERIFY(view->isAtEnd());
+    view->verticalScrollBar()->setValue(0);
+    QTest::keyClick(view, Qt::Key_End);
+    QVERIFY(view->isAtEnd());
+}
+
+void TestMainWindow::thousandsOfTurnsStayFluid()
+{
+    ConversationView view;
+    view.resize(700, 600);
+    view.show();
+    const QString longText(300, QChar(0x4f1a));
+    QElapsedTimer timer;
+    timer.start();
+    for (int turn = 1; turn <= 3000; ++turn) {
+        view.addSaid(turn, QStringLiteral("第 %1 句").arg(turn), false);
+        view.addReply(turn, turn % 10 == 0 ? longText : QStringLiteral("好的。"), nullptr);
+    }
+    qInfo("6000 bubbles in %lld ms", timer.elapsed());
+    QVERIFY2(timer.elapsed() < 15000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(view.bubbleCount() < 100, qPrintable(QString::number(view.bubbleCount())));
+    timer.restart();
+    for (int i = 0; i < 200; ++i)
+        view.verticalScrollBar()->setValue(i * 400);
+    qInfo("one scroll step: %.3f ms", double(timer.nsecsElapsed()) / 200e6);
+    QVERIFY(timer.elapsed() < 4000);
+    timer.restart();
+    view.resize(500, 600);
+    qInfo("one resize: %lld ms", timer.elapsed());
+    QVERIFY(timer.elapsed() < 1000);
+}
+
+void TestMainWindow::keysGoThroughTheHistoryAndClearTheLine()
+{
+    Desk desk;
+    InputLine *input = desk.window.input();
+    // Sentences, so that they are shown as typed.
+    desk.type(QStringLiteral("第一句"));
+    desk.type(QStringLiteral("第二句"));
+    input->setText(QStringLiteral("开始"));
+    QTest::keyClick(input, Qt::Key_Up);
+    QCOMPARE(input->text(), QStringLiteral("第二句"));
+    QTest::keyClick(input, Qt::Key_Up);
+    QCOMPARE(input->text(), QStringLiteral("第一句"));
+    QTest::keyClick(input, Qt::Key_Down);
+    QTest::keyClick(input, Qt::Key_Down);
+    QCOMPARE(input->text(), QStringLiteral("开始"));
+    QTest::keyClick(input, Qt::Key_Escape);
+    QVERIFY(input->text().isEmpty());
+    QTRY_VERIFY(desk.isIdle());
+    const int turns = desk.conversation.lastTurn();
+    QTest::keyClick(input, Qt::Key_Return);
+    QCOMPARE(desk.conversation.lastTurn(), turns);
+}
+
+void TestMainWindow::inspectorShowsTheTurnAndSendsSemantics()
+{
+    Desk desk;
+    const auto text = [&desk](const char *name) {
+        return desk.window.findChild<QPlainTextEdit *>(QLatin1String(name))->toPlainText();
+    };
+    desk.type(semantic("ECHO", QStringLiteral("回声")));
+    QTRY_VERIFY(text("inspectorReply").contains(QStringLiteral("回声")));
+    QVERIFY(text("inspectorSemantic").contains(QStringLiteral("\"intent\": \"ECHO\"")));
+    QVERIFY(text("inspectorReply").contains(QStringLiteral("type      3")));
+    QVERIFY(text("inspectorLog").contains(QStringLiteral("debug default: service ECHO on another thread")));
+    QVERIFY(text("inspectorRequests").contains(QStringLiteral("(no requests)")));
+
+    desk.window.findChild<QPlainTextEdit *>(QStringLiteral("inspectorEntry"))
+        ->setPlainText(semantic("ECHO", QStringLiteral("原样")));
+    desk.window.findChild<QPushButton *>(QStringLiteral("inspectorSend"))->click();
+    QTRY_VERIFY(text("inspectorReply").contains(QStringLiteral("原样")));
+
+    // A click on an earlier turn brings it back.
+    for (Bubble *bubble : desk.window.view()->findChildren<Bubble *>()) {
+        if (bubble->text() == QStringLiteral("回声"))
+            QTest::mouseClick(bubble, Qt::LeftButton);
+    }
+    QCOMPARE(desk.window.inspector()->shownTurn(), 1);
+    QVERIFY(text("inspectorReply").contains(QStringLiteral("回声")));
+}
+
+void TestMainWindow::themeAndFontAreAppliedAndRemembered()
+{
+    const qreal size = QApplication::font().pointSizeF();
+    {
+        Appearance appearance;
+        appearance.setTheme(Appearance::Dark);
+        QCOMPARE(LGuiApplicationHelper::instance()->themeType(), LGuiApplicationHelper::DarkType);
+        appearance.setFontStep(3);
+        QCOMPARE(QApplication::font().pointSizeF(), size + 3);
+        appearance.setFontStep(1000);
+        QCOMPARE(appearance.fontStep(), int(Appearance::LargestStep));
+        appearance.setFontStep(0);
+        QCOMPARE(QApplication::font().pointSizeF(), size);
+    }
+    {
+        Appearance appearance;
+        QCOMPARE(int(appearance.theme()), int(Appearance::Dark));
+        appearance.setTheme(Appearance::Light);
+        QCOMPARE(LGuiApplicationHelper::instance()->themeType(), LGuiApplicationHelper::LightType);
+        appearance.setTheme(Appearance::System);
+    }
+}
+
+void TestMainWindow::windowRemembersItself()
+{
+    {
+        Desk desk;
+        desk.window.resize(777, 555);
+        desk.window.close();
+    }
+    LogRecorder logs;
+    PluginHost host;
+    Appearance appearance;
+    Conversation conversation(host, logs);
+    const MainWindow window(conversation, appearance);
+    QCOMPARE(window.size(), QSize(777, 555));
+}
+
+void TestMainWindow::problemIsShown()
+{
+    Desk desk;
+    auto *problem = desk.window.findChild<QLabel *>(QStringLiteral("problem"));
+    QVERIFY(!problem->isVisible());
+    desk.window.showProblem(QStringLiteral("<b>没有插件</b>"));
+    QVERIFY(problem->isVisible());
+    QCOMPARE(problem->text(), QStringLiteral("<b>没有插件</b>"));
+    QCOMPARE(problem->textFormat(), Qt::PlainText);
+}
+
+void TestMainWindow::namesAreShownWithoutWhatHides()
+{
+    Desk desk;
+    desk.type(semantic("ECHO", QStringLiteral("a\u202eb")));
+    QTRY_COMPARE(desk.shownTexts().value(1), QStringLiteral("ab"));
+}
+
+QTEST_MAIN(TestMainWindow)
+#include "tst_mainwindow.moc"

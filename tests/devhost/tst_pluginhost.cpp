@@ -1,0 +1,256 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "conversation.h"
+#include "logrecorder.h"
+#include "pluginhost.h"
+#include "semantics.h"
+
+#include <QtTest/QtTest>
+
+using namespace devhost;
+
+namespace {
+
+const QString testPlugin = QStringLiteral(TEST_PLUGIN);
+
+} // namespace
+
+/// Loading plugins that work and that do not, and putting turns to one.
+class TestPluginHost : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void unusablePluginIsExplained_data();
+    void unusablePluginIsExplained();
+    void nameIsLookedUpInTheInstalledFolder();
+    void serviceRunsOnAnotherThreadAndReplyIsFetched();
+    void everyTurnGetsAFreshService();
+    void failingTurnIsToldAndTheNextGoesOn_data();
+    void failingTurnIsToldAndTheNextGoesOn();
+    void inputQueuesInOrder();
+    void replyFromAnotherThreadArrivesLater();
+    void replyAfterTheHostHasGoneIsDropped();
+    void passwordIsNeitherShownNorLogged();
+    void tooLongTextIsRefused();
+    void withoutPluginEveryTurnFails();
+};
+
+void TestPluginHost::cleanup()
+{
+    qunsetenv("TESTPLUGIN_INIT");
+    qunsetenv("TESTPLUGIN_SERVICES");
+}
+
+void TestPluginHost::unusablePluginIsExplained_data()
+{
+    QTest::addColumn<QString>("plugin");
+    QTest::addColumn<QByteArray>("init");
+    QTest::addColumn<QByteArray>("services");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("named");
+    const QByteArray none;
+    QTest::newRow("a file that is not there")
+        << QStringLiteral("/nowhere/x.so") << none << none << int(PluginProblem::Missing)
+        << QStringLiteral("/nowhere/x.so");
+    QTest::newRow("a folder") << QStringLiteral("/") << none << none << int(PluginProblem::Missing)
+                              << QStringLiteral("/");
+    QTest::newRow("a text") << QStringLiteral(CONTACT_SOURCE_DIR "/CMakeLists.txt") << none << none
+                            << int(PluginProblem::NotAPlugin) << QStringLiteral("no Qt plugin");
+    QTest::newRow("a library") << QStringLiteral(PLAIN_LIBRARY) << none << none
+                               << int(PluginProblem::NotAPlugin) << QStringLiteral("no Qt plugin");
+    QTest::newRow("another interface")
+        << QStringLiteral(OTHER_PLUGIN) << none << none << int(PluginProblem::OtherInterface)
+        << QStringLiteral("org.example.other.1");
+    QTest::newRow("init() fails") << testPlugin << QByteArray("fail") << none
+                                  << int(PluginProblem::InitFailed) << QStringLiteral("-3");
+    QTest::newRow("init() throws") << testPlugin << QByteArray("throw") << none
+                                   << int(PluginProblem::InitFailed) << QStringLiteral("no start");
+    QTest::newRow("no service") << testPlugin << none << QByteArray("none") << int(PluginProblem::NoService)
+                                << QStringLiteral("no service");
+}
+
+void TestPluginHost::unusablePluginIsExplained()
+{
+    QFETCH(QString, plugin);
+    QFETCH(QByteArray, init);
+    QFETCH(QByteArray, services);
+    QFETCH(int, kind);
+    QFETCH(QString, named);
+    qputenv("TESTPLUGIN_INIT", init);
+    qputenv("TESTPLUGIN_SERVICES", services);
+    PluginHost host;
+    QVERIFY(!host.load(plugin));
+    QVERIFY(!host.isLoaded());
+    QCOMPARE(int(host.problem().kind), kind);
+    QVERIFY2(host.problem().what.contains(named), qUtf8Printable(host.problem().what));
+    QVERIFY(!host.problem().whatToDo.isEmpty());
+}
+
+void TestPluginHost::nameIsLookedUpInTheInstalledFolder()
+{
+    PluginHost host;
+    QVERIFY(!host.load(QStringLiteral("surely-not-installed")));
+    QVERIFY2(host.problem().what.contains(PluginHost::installedFolder() +
+                                          QStringLiteral("/libsurely-not-installed.so")),
+             qUtf8Printable(host.problem().what));
+}
+
+void TestPluginHost::serviceRunsOnAnotherThreadAndReplyIsFetched()
+{
+    LogRecorder logs;
+    PluginHost host;
+    QVERIFY(host.load(testPlugin));
+    Conversation conversation(host, logs);
+    QSignalSpy finished(&conversation, &Conversation::finished);
+    const int id = conversation.sendSemantic(semantic("ECHO", QStringLiteral("你好")));
+    QVERIFY(finished.wait());
+    const Turn turn = conversation.turn(id);
+    QCOMPARE(turn.state, Turn::Done);
+    QCOMPARE(turn.display, QStringLiteral("你好"));
+    QCOMPARE(turn.code, 0);
+    QCOMPARE(turn.type, 3);
+    QVERIFY(turn.failure.isEmpty());
+    QCOMPARE(turn.logs.size(), 1);
+    QCOMPARE(turn.logs.first().text, QStringLiteral("service ECHO on another thread"));
+    QVERIFY(!conversation.isBusy());
+}
+
+void TestPluginHost::everyTurnGetsAFreshService()
+{
+    LogRecorder logs;
+    PluginHost host;
+    QVERIFY(host.load(testPlugin));
+    Conversation conversation(host, logs);
+    QSignalSpy idle(&conversation, &Conversation::idle);
+    conversation.sendSemantic(semantic("COUNT"));
+    const int second = conversation.sendSemantic(semantic("COUNT"));
+    QVERIFY(idle.wait());
+    QCOMPARE(conversation.turn(second).display, QStringLiteral("use 1"));
+}
+
+void TestPluginHost::failingTurnIsToldAndTheNextGoesOn_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("service() throws") << semantic("THROW") << QStringLiteral("thrown on purpose");
+    QTest::newRow("getServiceReply() throws")
+        << semantic("THROWREPLY") << QStringLiteral("thrown in the reply");
+    QTest::newRow("no reply") << semantic("NOREPLY") << QStringLiteral("gave no reply");
+}
+
+void TestPluginHost::failingTurnIsToldAndTheNextGoesOn()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, told);
+    LogRecorder logs;
+    PluginHost host;
+    QVERIFY(host.load(testPlugin));
+    Conversation conversation(host, logs);
+    QSignalSpy idle(&conversation, &Conversation::idle);
+    QSignalSpy failed(&conversation, &Conversation::failed);
+    const int bad = conversation.sendSemantic(text);
+    const int good = conversation.sendSemantic(semantic("ECHO", QStringLiteral("weiter")));
+    QVERIFY(idle.wait());
+    QCOMPARE(failed.size(), 1);
+    QVERIFY2(conversation.turn(bad).failure.contains(told), qUtf8Printable(conversation.turn(bad).failure));
+    QCOMPARE(conversation.turn(good).display, QStringLiteral("weiter"));
+}
+
+void TestPluginHost::inputQueuesInOrder()
+{
+    LogRecorder logs;
+    PluginHost host;
+    QVERIFY(host.load(testPlugin));
+    Conversation conversation(host, logs);
+    QStringList order;
+    connect(&conversation, &Conversation::started, this,
+            [&](int turn) { order << QStringLiteral("+%1").arg(turn); });
+    connect(&conversation, &Conversation::finished, this,
+            [&](int turn) { order << QStringLiteral("-%1").arg(turn); });
+    QSignalSpy idle(&conversation, &Conversation::idle);
+    for (int i = 0; i < 3; ++i)
+        conversation.sendSemantic(semantic("SLOW", QStringLiteral("20")));
+    QVERIFY(conversation.isBusy());
+    QVERIFY(order.isEmpty());
+    QVERIFY(idle.wait());
+    QCOMPARE(order.join(QLatin1Char(' ')), QStringLiteral("+1 -1 +2 -2 +3 -3"));
+    QCOMPARE(idle.size(), 1);
+}
+
+void TestPluginHost::replyFromAnotherThreadArrivesLater()
+{
+    LogRecorder logs;
+    PluginHost host;
+    QVERIFY(host.load(testPlugin));
+    Conversation conversation(host, logs);
+    QSignalSpy later(&conversation, &Conversation::repliedLater);
+    QThread *thread = nullptr;
+    connect(&conversation, &Conversation::repliedLater, this, [&] { thread = QThread::currentThread(); });
+    conversation.sendSemantic(semantic("LATE", QStringLiteral("x")));
+    QVERIFY(later.wait());
+    QCOMPARE(later.first().at(0).toInt(), 1);
+    QCOMPARE(later.first().at(1).value<Reply>().displayText.toString(), QStringLiteral("later"));
+    QCOMPARE(thread, this->thread());
+}
+
+void TestPluginHost::replyAfterTheHostHasGoneIsDropped()
+{
+    // Many times, since the late reply races with the end of the host.
+    for (int i = 0; i < 50; ++i) {
+        LogRecorder logs;
+        PluginHost host;
+        QVERIFY(host.load(testPlugin));
+        Conversation conversation(host, logs);
+        QSignalSpy idle(&conversation, &Conversation::idle);
+        conversation.sendSemantic(semantic("LATE", QStringLiteral("x")));
+        QVERIFY(idle.wait());
+    }
+}
+
+void TestPluginHost::passwordIsNeitherShownNorLogged()
+{
+    LogRecorder logs;
+    PluginHost host;
+    QVERIFY(host.load(testPlugin));
+    Conversation conversation(host, logs);
+    QSignalSpy idle(&conversation, &Conversation::idle);
+    QSignalSpy said(&conversation, &Conversation::said);
+    const int id = conversation.sendSemantic(QStringLiteral(
+        R"({"intent":{"semantic":[{"intent":"PW2468","slots":[{"name":"password","value":"2468"}]}]}})"));
+    QVERIFY(idle.wait());
+    const Turn turn = conversation.turn(id);
+    QVERIFY2(!turn.semantic.contains(QLatin1String("2468")), qUtf8Printable(turn.semantic));
+    QVERIFY(turn.semantic.contains(QStringLiteral("••••")));
+    QVERIFY(!turn.logs.isEmpty());
+    for (const LogRecord &record : turn.logs)
+        QVERIFY2(!record.text.contains(QLatin1String("2468")), qUtf8Printable(record.text));
+}
+
+void TestPluginHost::tooLongTextIsRefused()
+{
+    LogRecorder logs;
+    PluginHost host;
+    QVERIFY(host.load(testPlugin));
+    Conversation conversation(host, logs);
+    QSignalSpy idle(&conversation, &Conversation::idle);
+    const int id = conversation.say(QString(Conversation::LongestInput + 1, QLatin1Char('x')));
+    QVERIFY(idle.wait());
+    QVERIFY(conversation.turn(id).failure.contains(QLatin1String("too long")));
+}
+
+void TestPluginHost::withoutPluginEveryTurnFails()
+{
+    LogRecorder logs;
+    PluginHost host;
+    Conversation conversation(host, logs);
+    QSignalSpy idle(&conversation, &Conversation::idle);
+    const int id = conversation.say(QStringLiteral("你好"));
+    QVERIFY(idle.wait());
+    QCOMPARE(conversation.turn(id).failure, QStringLiteral("No plugin is loaded."));
+}
+
+QTEST_MAIN(TestPluginHost)
+#include "tst_pluginhost.moc"

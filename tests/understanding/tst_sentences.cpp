@@ -53,6 +53,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("name");
         QTest::newRow("written before the rules") << QStringLiteral("sentences-heldout.tsv");
+        QTest::newRow("written last") << QStringLiteral("sentences-heldout-2.tsv");
     }
     void sentencesKeptApartAreUnderstood()
     {

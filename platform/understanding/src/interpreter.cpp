@@ -49,14 +49,15 @@ void fillSaidTime(Outcome &outcome, const Reading &reading, const QDateTime &now
         outcome.answer = QStringLiteral("which-day");
     else if (!reading.timeSaid().isEmpty())
         fillTime(outcome, reading.time(), reading.timeSaid(), now);
-    else if (reading.has(WordClass::UnclearSoon))
-        outcome.answer = QStringLiteral("which-time");
 }
 
 void fillConference(Outcome &outcome, const Reading &reading, const QDateTime &now)
 {
     fillNames(outcome, reading);
     fillSaidTime(outcome, reading, now);
+    // To look at what comes "soon" is to look at everything to come; to open one soon needs the hour.
+    if (outcome.answer.isEmpty() && reading.timeSaid().isEmpty() && reading.has(WordClass::UnclearSoon))
+        outcome.answer = QStringLiteral("which-time");
     fillOpenVerb(outcome, reading, now);
 }
 

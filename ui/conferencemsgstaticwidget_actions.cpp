@@ -153,7 +153,9 @@ void ConferenceMsgStaticWidget::slotCancleConference()
     becomeStatic();
 
     const QPointer<ConferenceMsgStaticWidget> alive(this);
-    const int code = gateway()->deleteVideoConference(m_conferences.first().confId);
+    // A copy: the card's own may be gone before the request is done with it.
+    const QString conferenceId = m_conferences.first().confId;
+    const int code = gateway()->deleteVideoConference(conferenceId);
     qDebug() << "Cancle conference code:" << code;
     if (!alive.isNull())
         reply(CardReplies::cancelled(code));
@@ -273,9 +275,11 @@ void ConferenceMsgStaticWidget::confirm(const Confirmation &confirmation)
         members += m_inviteDetail.normalUsers;
 
     const QPointer<ConferenceMsgStaticWidget> alive(this);
+    // A copy: the card's own may be gone before the request is done with it.
+    const qint64 startTime = m_startTime;
     const int code =
         confirmation.purpose == CardReplies::Purpose::Create
-            ? gateway()->createVideoConference(CardRequests::create(members, m_startTime), m_startTime)
+            ? gateway()->createVideoConference(CardRequests::create(members, startTime), startTime)
             : gateway()->inviteVideoConference(CardRequests::invite(members));
     if (alive.isNull())
         return;

@@ -18,6 +18,8 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
+#include <array>
+
 namespace {
 
 constexpr int Margin = 20;
@@ -32,7 +34,7 @@ constexpr int MostPersonsOfPayingUser = 100;
 constexpr int MonthsOfYear = 12;
 constexpr int LastHour = 23;
 constexpr qint64 MsecsPerMinute = 60000;
-constexpr int OfferedMinutes[] = {15, 30};
+constexpr std::array OfferedMinutes = {15, 30};
 
 QString minutesText(qint64 minutes)
 {

@@ -48,8 +48,8 @@ private:
     void addRow(const QString &caption, QWidget *control);
     void addButtons();
     void fillDays();
-    QDateTime chosenStart() const;
-    ContactDetailMsg changedConference(const QDateTime &start) const;
+    [[nodiscard]] QDateTime chosenStart() const;
+    [[nodiscard]] ContactDetailMsg changedConference(const QDateTime &start) const;
 
     QGridLayout *m_grid;
     LComboBox *m_month = nullptr;

@@ -26,7 +26,7 @@ public:
     ~CustomizeComboBox() override;
 
     /// Invalid until a day was chosen or set.
-    QDate getConferenceDate() const;
+    [[nodiscard]] QDate getConferenceDate() const;
 
     /// Opens the calendar: the list has only the one line that is shown anyway.
     void showPopup() override;

@@ -13,7 +13,7 @@ public:
     /// So many that every row can be selected.
     static constexpr int PracticallyUnlimited = 65535;
 
-    int remaining() const { return m_remaining; }
+    [[nodiscard]] int remaining() const { return m_remaining; }
 
     /// To be called before anything is selected; a negative number counts as 0.
     void limitTo(int selections) { m_remaining = selections > 0 ? selections : 0; }

@@ -34,8 +34,8 @@ public:
     /// Shows only the name that was asked for. To be called once.
     void insertSinglePersonName(const UserInfo &user);
 
-    UserInfo getUserInfo() const;
-    bool isSelected() const;
+    [[nodiscard]] UserInfo getUserInfo() const;
+    [[nodiscard]] bool isSelected() const;
 
     /// What a click does: selects the row if the card's budget allows, or takes that back.
     void toggleSelection();

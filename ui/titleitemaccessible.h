@@ -17,13 +17,13 @@ public:
 
     explicit TiTleItemAccessible(TiTleItem *item);
 
-    QAccessible::State state() const override;
-    QStringList actionNames() const override;
+    [[nodiscard]] QAccessible::State state() const override;
+    [[nodiscard]] QStringList actionNames() const override;
     void doAction(const QString &actionName) override;
 
     /// Tells who listens that the row was selected, or is not any more.
     static void announceSelection(TiTleItem *item);
 
 private:
-    TiTleItem *item() const;
+    [[nodiscard]] TiTleItem *item() const;
 };

@@ -5,8 +5,6 @@
 
 #include "core/statement.h"
 
-#include <kelvane/kelvaneabilitymanager.h>
-
 #include <benchmark/benchmark.h>
 
 #include <QtCore/QCoreApplication>
@@ -113,20 +111,6 @@ void createScheduled(benchmark::State &state)
     }
 }
 BENCHMARK(createScheduled)->Unit(benchmark::kMicrosecond);
-
-/// A request through the ability library to the running application and back.
-void roundTrip(benchmark::State &state)
-{
-    for (auto _ : state) {
-        const std::unique_ptr<ContactAbility> ability(KelvaneAbilityManager::instance()->createContact());
-        QString answer;
-        if (ability->request(QStringLiteral("Is Conference Host"), QString(), answer) != 0) {
-            state.SkipWithError("the application cannot be reached; run this on a bus that can start it");
-            break;
-        }
-    }
-}
-BENCHMARK(roundTrip)->Unit(benchmark::kMicrosecond)->UseRealTime();
 
 } // namespace
 

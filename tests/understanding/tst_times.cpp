@@ -164,6 +164,13 @@ private Q_SLOTS:
         row("a span gives its start", "三点到四点", "2026-03-07T15:00:00");
         row("a span whose end comes first gives its start", "四点到三点", "2026-03-07T16:00:00");
         row("a span in digits", "14:00-15:00", "2026-03-07T14:00:00");
+        row("a span with one 点", "三到四点", "2026-03-07T15:00:00");
+        row("a span with one 点 and a half at its end", "三到四点半", "2026-03-07T15:00:00");
+        row("of two days the first is meant", "明天后天", "2026-03-08");
+        row("a date with dots before an hour", "6.18下午三点", "2026-06-18T15:00:00");
+        row("a date with a dash before an hour", "6-18 15:00", "2026-06-18T15:00:00");
+        row("contracted hours on", "俩小时后", "2026-03-07T12:20:00");
+        row("days on", "三日后", "2026-03-10T10:20:00");
         row("a span of days", "周一到周三", "2026-03-09");
     }
     void aTimeMeans()

@@ -140,6 +140,11 @@ int readClock(const QString &text, int position, TimeExpression &expression)
             return at + length - position;
         }
     }
+    // 三到四点: both hours share their 点, the first is meant.
+    const int joint = firstOf(text, at, {u"到", u"至", u"-", u"~"});
+    const NumberMatch last = joint > 0 ? readQuantity(text, at + joint) : NumberMatch();
+    if (last && last.length <= 3 && firstOf(text, at + joint + last.length, {u"点"}) > 0)
+        at += joint + last.length;
     const int afterHours = skipSpaces(text, at);
     const QChar mark = charAt(text, afterHours);
     if (mark != QChar(u'点') && mark != QChar(u'时'))
@@ -163,6 +168,10 @@ int readClock(const QString &text, int position, TimeExpression &expression)
     if (!hasLess) {
         const int afterLess = at + readLess(text, at, expression.minutesLess);
         at = afterLess > at ? afterLess : at + readMinutes(text, at, expression.minute);
+    }
+    if (last) { // 三到四点半: the half belongs to the end
+        expression.minute = 0;
+        expression.minutesLess = less;
     }
     at += firstOf(text, at, {u"钟", u"整"});
     return at - position;

@@ -134,12 +134,13 @@ int readDayNumber(const QString &text, int position, bool monthSaid, int &day)
     return at + sign - position;
 }
 
-/// 6.18下午: a date only before a part of the day or an hour, else a decimal.
+/// 6.18下午, 6-18 9:00: a date only before a part of the day or an hour, else a decimal.
 int readDottedDay(const QString &text, int position, TimeExpression &expression)
 {
     const NumberMatch month = readQuantity(text, position);
     const int mark = position + month.length;
-    if (!month || month.value > 12 || charAt(text, mark) != QLatin1Char('.'))
+    const QChar sign = charAt(text, mark);
+    if (!month || month.value > 12 || (sign != QLatin1Char('.') && sign != QLatin1Char('-')))
         return 0;
     const NumberMatch day = readQuantity(text, mark + 1);
     const int end = mark + 1 + day.length;

@@ -101,6 +101,17 @@ bool isOfConference(const Reading &reading)
     });
 }
 
+/// Nothing but words of the rules and times: 查一下下周三.
+bool isBare(const Reading &reading)
+{
+    static const QString particles = QStringLiteral("的了");
+    return std::all_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+        return token.kind == Token::Kind::Word || token.kind == Token::Kind::Time ||
+               token.kind == Token::Kind::Space ||
+               (token.length == 1 && particles.contains(reading.sentence().text().at(token.position)));
+    });
+}
+
 struct Finding
 {
     const char *name;
@@ -140,6 +151,7 @@ constexpr Finding findings[] = {
     {"my-own", isMyOwn},
     {"whether", asksWhether},
     {"of", isOfConference},
+    {"bare", isBare},
 };
 
 /// One alternative of a condition: a class of words or a finding.

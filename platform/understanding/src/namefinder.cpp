@@ -174,7 +174,8 @@ private:
         const Token &token = m_tokens[at];
         constexpr WordClasses hard = WordClass::Separator | WordClass::WeakOpen | WordClass::Conference |
                                      WordClass::Punctuation | WordClass::Nobody;
-        return token.kind == Token::Kind::Word && token.length == 1 && !token.isAny(hard);
+        const bool measure = m_text.at(token.position) == QChar(u'个'); // in no name, and in 约个时间
+        return token.kind == Token::Kind::Word && token.length == 1 && !token.isAny(hard) && !measure;
     }
 
     std::size_t skipToNames(std::size_t lead) const

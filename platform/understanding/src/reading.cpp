@@ -139,6 +139,14 @@ void Reading::collectOpenVerb()
     }
     if (best > 0)
         return;
+    // 上午的会，帮我约张伟: the verb takes people, the conference came before.
+    for (const Token &token : m_tokens) {
+        const bool meets = token.length == 1 && m_sentence.text().at(token.position) == QChar(u'约');
+        if (meets && token.is(WordClass::Trigger) && !token.inTopic && has(WordClass::Conference)) {
+            m_openVerb = part(token.position, 1, m_sentence.rawPart(token.position, 1));
+            return;
+        }
+    }
     for (const Token &token : m_tokens) {
         const int open = m_sentence.text().indexOf(QChar(u'开'), token.position);
         if (token.is(WordClass::ComeMeet) && !token.inTopic && open >= 0 && open < token.end()) {

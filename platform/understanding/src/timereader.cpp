@@ -34,14 +34,15 @@ int readMoment(const QString &text, int position, TimeExpression &expression, bo
         bool noDay = false;
         bool isOffset = false;
         int length = 0;
-        // A second day explains the first (3月20号周五).
+        // A second day explains the first (3月20号周五, 周五3月20号), of two different ones the first is
+        // meant.
         if (!expression.hasOffset)
             length = readDay(text, at, next, noDay);
         if (length > 0 && noDay) {
             unclear = true;
             next = expression;
         } else if (length > 0 && expression.day != TimeExpression::Day::None &&
-                   next.day == TimeExpression::Day::Weekday) {
+                   next.day != TimeExpression::Day::MonthAndDay) {
             next = expression;
         }
         if (length == 0 && !expression.hasClock) {

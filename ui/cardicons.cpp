@@ -4,6 +4,7 @@
 #include "cardicons.h"
 
 #include <QtGui/QImageReader>
+#include <QtGui/QPixmapCache>
 #include <QtWidgets/QWidget>
 
 // Not in a namespace: the macro declares the function that it calls where it stands.
@@ -15,12 +16,18 @@ static void registerResources()
 
 QPixmap CardIcons::pixmap(const char *path, const QWidget &widget)
 {
-    registerResources();
     const qreal ratio = widget.devicePixelRatioF();
+    // Reading a vector image costs more than all labels of a card together.
+    const QString key = QStringLiteral("%1@%2").arg(QString::fromLatin1(path)).arg(ratio);
+    QPixmap picture;
+    if (QPixmapCache::find(key, &picture))
+        return picture;
+    registerResources();
     QImageReader reader(QString::fromLatin1(path));
     // A vector image is read in the size that is asked for, not read and then stretched.
     reader.setScaledSize(QSize(Extent, Extent) * ratio);
-    QPixmap picture = QPixmap::fromImageReader(&reader);
+    picture = QPixmap::fromImageReader(&reader);
     picture.setDevicePixelRatio(ratio);
+    QPixmapCache::insert(key, picture);
     return picture;
 }

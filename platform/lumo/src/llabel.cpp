@@ -79,5 +79,8 @@ QString LLabel::shownText() const
 {
     if (m_elideMode == Qt::ElideNone || wordWrap())
         return text();
+    // QLabel remembers its size, and eliding would shape the text once more.
+    if (QLabel::sizeHint().width() <= width())
+        return text();
     return fontMetrics().elidedText(text(), m_elideMode, contentsRect().width() - 2 * margin());
 }

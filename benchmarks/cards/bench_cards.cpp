@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "conferencemsgstaticwidget.h"
+#include "plainwidgets.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QtGui/QImage>
+#include <QtWidgets/QApplication>
+
+#include <ctime>
+
+namespace {
+
+constexpr QSize ViewSize(372, 480);
+constexpr double NanosecondsPerSecond = 1e9;
+constexpr double NanosecondsPerMicrosecond = 1e3;
+
+UserInfo user(int number)
+{
+    UserInfo user;
+    user.name = QStringLiteral("张三");
+    user.remarkName = QStringLiteral("张三%1").arg(number);
+    user.userId = QStringLiteral("u%1").arg(number);
+    user.account = QStringLiteral("zhangsan%1").arg(number);
+    return user;
+}
+
+QVector<ContactDetailMsg> conferences(int count)
+{
+    ContactDetailMsg one;
+    one.title = QStringLiteral("周例会");
+    one.participants = {user(1), user(2)};
+    one.duration = 900000;
+    one.startTime = Q_INT64_C(1709774400000);
+    one.confId = QStringLiteral("c-1");
+    one.conferenceDialNumber = QStringLiteral("902 118 34");
+    one.participantLimit = 20;
+    one.isPayingUser = true;
+    return QVector<ContactDetailMsg>(count, one);
+}
+
+ContactInviteMemberDetail people(int count)
+{
+    ContactInviteMemberDetail detail;
+    DuplicateUsers group;
+    group.name = QStringLiteral("张三");
+    for (int i = 0; i < count; ++i)
+        group.users.append(user(i));
+    detail.duplicateUsers = {group};
+    return detail;
+}
+
+using Card = std::unique_ptr<ConferenceMsgStaticWidget>;
+
+Card single()
+{
+    auto card = std::make_unique<ConferenceMsgStaticWidget>();
+    card->singleInit(conferences(1));
+    return card;
+}
+
+Card list(const QVector<ContactDetailMsg> &found)
+{
+    auto card = std::make_unique<ConferenceMsgStaticWidget>();
+    card->multipleInit(found);
+    return card;
+}
+
+Card editable()
+{
+    QVector<ContactDetailMsg> created = conferences(1);
+    auto card = std::make_unique<ConferenceMsgStaticWidget>();
+    card->createInviteConference(created);
+    return card;
+}
+
+Card candidates(const ContactInviteMemberDetail &detail)
+{
+    auto card = std::make_unique<ConferenceMsgStaticWidget>();
+    card->inviteMultiplePerson(detail);
+    return card;
+}
+
+/// Of this thread, so that whatever else the machine does is not counted.
+qint64 cpuNanoseconds()
+{
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return qint64(now.tv_sec) * 1000000000 + now.tv_nsec;
+}
+
+/// Nanoseconds until the first picture of what @p build gives; its end does not count.
+template <typename Build>
+qint64 untilPainted(const Build &build)
+{
+    QImage image(ViewSize, QImage::Format_ARGB32_Premultiplied);
+    const qint64 start = cpuNanoseconds();
+    const auto widget = build();
+    widget->resize(ViewSize);
+    widget->render(&image);
+    const qint64 elapsed = cpuNanoseconds() - start;
+    benchmark::DoNotOptimize(image.bits());
+    return elapsed;
+}
+
+/// The card and, in turn with it, the same from Qt's own widgets; the time is the card's.
+template <typename Build>
+void againstPlainWidgets(benchmark::State &state, const Build &build)
+{
+    const auto read = [&build] {
+        const auto card = build();
+        card->grab();
+        return PlainWidgets(*card);
+    };
+    const PlainWidgets plain = read();
+    qint64 cardTotal = 0;
+    qint64 plainTotal = 0;
+    bool cardFirst = true;
+    for ([[maybe_unused]] auto iteration : state) {
+        // In turns also within a pair: whoever is second finds the caches warm.
+        qint64 card = 0;
+        if (cardFirst)
+            card = untilPainted(build);
+        plainTotal += untilPainted([&plain] { return plain.build(); });
+        if (!cardFirst)
+            card = untilPainted(build);
+        cardFirst = !cardFirst;
+        cardTotal += card;
+        state.SetIterationTime(double(card) / NanosecondsPerSecond);
+    }
+    const auto iterations = double(state.iterations());
+    state.counters["widgets"] = plain.count();
+    state.counters["card_us"] = double(cardTotal) / iterations / NanosecondsPerMicrosecond;
+    state.counters["plain_us"] = double(plainTotal) / iterations / NanosecondsPerMicrosecond;
+    state.counters["ratio"] = double(cardTotal) / double(plainTotal);
+}
+
+void oneConference(benchmark::State &state)
+{
+    againstPlainWidgets(state, single);
+}
+
+void listOfConferences(benchmark::State &state)
+{
+    const QVector<ContactDetailMsg> found = conferences(int(state.range(0)));
+    againstPlainWidgets(state, [&found] { return list(found); });
+}
+
+void editableConference(benchmark::State &state)
+{
+    againstPlainWidgets(state, editable);
+}
+
+void candidatesToPick(benchmark::State &state)
+{
+    const ContactInviteMemberDetail detail = people(int(state.range(0)));
+    againstPlainWidgets(state, [&detail] { return candidates(detail); });
+}
+
+} // namespace
+
+BENCHMARK(oneConference)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(listOfConferences)->Arg(3)->Arg(4)->Arg(10000)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(editableConference)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(candidatesToPick)->Arg(5)->Arg(50)->UseManualTime()->Unit(benchmark::kMicrosecond);
+
+int main(int argc, char **argv)
+{
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtCore/QMargins>
+#include <QtCore/QStringList>
+#include <QtGui/QFont>
+#include <QtGui/QPalette>
+#include <QtGui/QPixmap>
+
+#include <memory>
+#include <vector>
+
+QT_BEGIN_NAMESPACE
+class QBoxLayout;
+class QWidget;
+QT_END_NAMESPACE
+
+/**
+ * A card as somebody would put it together from Qt's own widgets: the same number of the same kinds, with the
+ * same texts, fonts, colours and layouts, and nothing of ours. Read from a card once, and built as often as
+ * wanted.
+ */
+class PlainWidgets
+{
+public:
+    explicit PlainWidgets(const QWidget &card);
+    ~PlainWidgets();
+    PlainWidgets(PlainWidgets &&) noexcept;
+
+    std::unique_ptr<QWidget> build() const;
+
+    /// How many widgets it is made of.
+    int count() const;
+
+private:
+    enum class Kind { Panel, Label, Button, ComboBox, DateBox, SpinBox, CheckBox, Space, Layout };
+
+    void readWidget(const QWidget &widget);
+    void readLayout(const QBoxLayout &layout);
+    QWidget *buildWidget(QWidget *parent) const;
+    void buildLayout(QBoxLayout &layout, QWidget *parent) const;
+
+    Kind m_kind = Kind::Panel;
+    QStringList m_texts;
+    QPixmap m_pixmap;
+    QFont m_font;
+    QPalette m_palette;
+    bool m_hasPalette = false;
+    bool m_isHidden = false;
+    QSize m_minimumSize;
+    QSize m_maximumSize;
+    int m_stretch = 0;
+    int m_space = 0;
+
+    // Of what has a layout.
+    bool m_isVertical = false;
+    bool m_hasLayout = false;
+    QMargins m_margins;
+    int m_spacing = 0;
+    std::vector<PlainWidgets> m_children;
+    PlainWidgets() = default;
+};

@@ -13,7 +13,7 @@ class AddBuddyIntent : public QObject, public IReplyableIntent
     Q_OBJECT
 
 public:
-    static constexpr char IntentName[] = "ADD_BUDDY";
+    static constexpr const char *IntentName = "ADD_BUDDY";
 
     explicit AddBuddyIntent(QObject *parent = nullptr);
 

@@ -13,7 +13,7 @@ class CloseConferenceIntent : public QObject, public IReplyableIntent
     Q_OBJECT
 
 public:
-    static constexpr char IntentName[] = "CLOSE_CONFERENCE";
+    static constexpr const char *IntentName = "CLOSE_CONFERENCE";
 
     explicit CloseConferenceIntent(QObject *parent = nullptr);
 

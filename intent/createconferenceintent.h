@@ -14,7 +14,7 @@ class CreateConferenceIntent : public QObject, public IReplyableIntent
     Q_OBJECT
 
 public:
-    static constexpr char IntentName[] = "CREATE_CONFERENCE";
+    static constexpr const char *IntentName = "CREATE_CONFERENCE";
 
     explicit CreateConferenceIntent(QObject *parent = nullptr);
 

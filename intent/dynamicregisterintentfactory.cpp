@@ -19,6 +19,6 @@ bool DynamicRegisterIntentFactory::registerIntent(const QString &name,
     if (m_creators.contains(name)) {
         return false;
     }
-    m_creators.insert(name, std::move(creator));
+    m_creators[name] = std::move(creator);
     return true;
 }

@@ -14,7 +14,7 @@ class InviteConferenceIntent : public QObject, public IReplyableIntent
     Q_OBJECT
 
 public:
-    static constexpr char IntentName[] = "INVITE_CONFERENCE";
+    static constexpr const char *IntentName = "INVITE_CONFERENCE";
 
     explicit InviteConferenceIntent(QObject *parent = nullptr);
 

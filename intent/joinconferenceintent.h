@@ -15,7 +15,7 @@ class JoinConferenceIntent : public QObject, public IReplyableIntent
 
 public:
     /// The understanding service spells it so.
-    static constexpr char IntentName[] = "ENETR_ID_CONFERENCE";
+    static constexpr const char *IntentName = "ENETR_ID_CONFERENCE";
 
     explicit JoinConferenceIntent(QObject *parent = nullptr);
 

@@ -14,7 +14,7 @@ class JoinMyConferenceIntent : public QObject, public IReplyableIntent
     Q_OBJECT
 
 public:
-    static constexpr char IntentName[] = "ENTER_MY_CONFERENCE";
+    static constexpr const char *IntentName = "ENTER_MY_CONFERENCE";
 
     explicit JoinMyConferenceIntent(QObject *parent = nullptr);
 

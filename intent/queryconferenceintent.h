@@ -14,7 +14,7 @@ class QueryConferenceIntent : public QObject, public IReplyableIntent
     Q_OBJECT
 
 public:
-    static constexpr char IntentName[] = "QUERY_CONFERENCE";
+    static constexpr const char *IntentName = "QUERY_CONFERENCE";
 
     explicit QueryConferenceIntent(QObject *parent = nullptr);
 

@@ -11,12 +11,12 @@ class CloudSlot;
 
 /// The slots that the handlers read.
 namespace SlotName {
-constexpr char Account[] = "account";
-constexpr char Datetime[] = "datetime";
-constexpr char Id[] = "id";
-constexpr char Name[] = "name";
-constexpr char Open[] = "open";
-constexpr char Password[] = "password";
+constexpr const char *Account = "account";
+constexpr const char *Datetime = "datetime";
+constexpr const char *Id = "id";
+constexpr const char *Name = "name";
+constexpr const char *Open = "open";
+constexpr const char *Password = "password";
 } // namespace SlotName
 
 /// How handlers read slots: a slot is found by its "name" entry, and its text is chosen in one place.

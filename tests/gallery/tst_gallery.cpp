@@ -30,7 +30,7 @@ Run runGallery(const QStringList &arguments, int scale)
     environment.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("*.debug=false"));
     gallery.setProcessEnvironment(environment);
     gallery.start(QStringLiteral(CARD_GALLERY), arguments);
-    if (!gallery.waitForFinished(60000) || gallery.exitStatus() != QProcess::NormalExit)
+    if (!gallery.waitForFinished(250000) || gallery.exitStatus() != QProcess::NormalExit)
         return {};
     QStringList lines = QString::fromUtf8(gallery.readAllStandardOutput()).split(QLatin1Char('\n'));
     lines.removeAll(QString());

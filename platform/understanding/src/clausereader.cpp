@@ -10,6 +10,7 @@ namespace understanding {
 namespace {
 
 constexpr int longestConferenceName = 8;
+constexpr std::size_t farthestConference = 30; // tokens behind its verb; keeps long sentences linear
 
 bool isConference(const Token &token)
 {
@@ -43,7 +44,7 @@ void settleConferences(const QString &text, Tokens &tokens)
 bool governsConference(const QString &text, const Tokens &tokens, std::size_t verb)
 {
     bool described = false;
-    for (std::size_t at = verb + 1; at < tokens.size(); ++at) {
+    for (std::size_t at = verb + 1; at < qMin(tokens.size(), verb + farthestConference); ++at) {
         const Token &token = tokens[at];
         if (token.inTopic)
             continue;

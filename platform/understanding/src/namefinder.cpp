@@ -126,9 +126,9 @@ private:
     }
 
     /// The last token of the run of characters that begins at \a at: 关羽 is a word and a character.
-    std::size_t lastOfRun(std::size_t at) const
+    std::size_t lastOfRun(std::size_t at, std::size_t limit) const
     {
-        while (at + 1 < m_tokens.size() && !m_tokens[at + 1].inTopic &&
+        while (at + 1 < m_tokens.size() && at < limit && !m_tokens[at + 1].inTopic &&
                (m_tokens[at + 1].kind == Token::Kind::Other || isSmallWordInName(at + 1)))
             ++at;
         return at;
@@ -139,7 +139,7 @@ private:
     std::size_t takeSubject(std::size_t at)
     {
         const Token &token = m_tokens[at];
-        std::size_t last = token.kind == Token::Kind::Other ? at : lastOfRun(at);
+        std::size_t last = token.kind == Token::Kind::Other ? at : lastOfRun(at, at + longestName);
         if (last > at && m_tokens[last].kind != Token::Kind::Other)
             --last; // 关羽也: the word behind is none of the name's
         if (m_tokens[last].kind != Token::Kind::Other)
@@ -221,7 +221,7 @@ private:
             } else if (token.kind == Token::Kind::Latin) {
                 addUnknown(token.position, m_text.mid(token.position, token.length), true);
             } else if (token.kind == Token::Kind::Other || isSmallWordInName(at)) {
-                std::size_t last = lastOfRun(at);
+                std::size_t last = lastOfRun(at, m_tokens.size());
                 if (last + 1 < m_tokens.size() && m_tokens[last + 1].is(WordClass::Title)) // 张主任
                     ++last;
                 addChunk(token.position, m_tokens[last].end(), mustLookLikeName || afterComma, true);

@@ -110,6 +110,6 @@ void ContactsWindow::addShortcuts()
     connect(find, &QShortcut::activated, this, [this] {
         static_cast<TablePage *>(m_pages->currentWidget())->filter()->setFocus(Qt::ShortcutFocusReason);
     });
-    auto *hide = new QShortcut(Qt::CTRL + Qt::Key_W, this);
+    auto *hide = new QShortcut(QKeySequence(QStringLiteral("Ctrl+W")), this);
     connect(hide, &QShortcut::activated, this, &QWidget::close);
 }

@@ -32,7 +32,7 @@ public:
     ConferenceValues &working() { return m_working; }
 
     /// Whether the working values differ. The start is compared in whole seconds.
-    bool isChanged() const;
+    [[nodiscard]] bool isChanged() const;
 
     /// Writes the working values into @p conference.
     void applyTo(ContactDetailMsg &conference) const;

@@ -14,7 +14,7 @@ public:
     ConferenceDurations();
 
     /// What may be chosen, the shortest first. Who does not pay gets those below an hour.
-    QStringList choices(bool isPayingUser) const;
+    [[nodiscard]] QStringList choices(bool isPayingUser) const;
 
     /**
      * How @p duration is called. A duration that the table does not know joins it under an empty name, and
@@ -23,7 +23,7 @@ public:
     QString label(qint64 duration);
 
     /// The duration that is called @p label.
-    qint64 duration(const QString &label) const;
+    [[nodiscard]] qint64 duration(const QString &label) const;
 
 private:
     QMap<qint64, QString> m_labels;

@@ -28,7 +28,7 @@ public:
 
     /// Takes the values of @p conference as those that an edit is compared with.
     void setReference(const ContactDetailMsg &conference) { m_draft.setReference(conference); }
-    bool isChanged() const { return m_draft.isChanged(); }
+    [[nodiscard]] bool isChanged() const { return m_draft.isChanged(); }
     /// Writes what the controls were set to into @p conference.
     void applyTo(ContactDetailMsg &conference) const { m_draft.applyTo(conference); }
 
@@ -44,7 +44,7 @@ Q_SIGNALS:
 private:
     QWidget *datePicker(const ContactDetailMsg &conference, QWidget *row, QObject *eventFilter);
     QWidget *hourBox(const ContactDetailMsg &conference, QWidget *row, QObject *eventFilter);
-    int scaled(int width) const;
+    [[nodiscard]] int scaled(int width) const;
 
     const double m_widthScale;
     ConferenceDurations m_durations;

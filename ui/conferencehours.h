@@ -15,11 +15,11 @@ public:
     ConferenceHours();
 
     /// From midnight on.
-    QStringList choices() const;
+    [[nodiscard]] QStringList choices() const;
     /// How the hour of @p time is called; empty for an invalid time.
-    QString label(const QTime &time) const;
+    [[nodiscard]] QString label(const QTime &time) const;
     /// The full hour that is called @p label, invalid for any other text.
-    QTime time(const QString &label) const;
+    [[nodiscard]] QTime time(const QString &label) const;
 
 private:
     QMap<int, QString> m_labels;

@@ -128,7 +128,7 @@ private:
     void addCandidates(const QVector<DuplicateUsers> &groups);
     void addCandidate(const UserInfo &user);
     void addConfirmButton(void (ConferenceMsgStaticWidget::*slot)());
-    QVector<UserInfo> pickedUsers() const;
+    [[nodiscard]] QVector<UserInfo> pickedUsers() const;
 
     void activate(QObject *control);
     void confirm(const Confirmation &confirmation);

@@ -15,11 +15,9 @@ find_program(CONTACT_FAKETIME faketime REQUIRED)
 find_program(CONTACT_DBUS_RUN_SESSION dbus-run-session REQUIRED)
 
 set(CONTACT_TEST_BUS_DIR ${CMAKE_SOURCE_DIR}/tests/support/bus)
-set(CONTACT_TEST_SERVICES_DIR ${CONTACT_BUS_SERVICES_DIR})
-configure_file(${CONTACT_TEST_BUS_DIR}/private-bus.conf.in ${CMAKE_BINARY_DIR}/private-bus.conf @ONLY)
-set(CONTACT_TEST_SERVICES_DIR ${CMAKE_BINARY_DIR}/no-bus-services)
-file(MAKE_DIRECTORY ${CONTACT_TEST_SERVICES_DIR})
-configure_file(${CONTACT_TEST_BUS_DIR}/private-bus.conf.in ${CMAKE_BINARY_DIR}/empty-bus.conf @ONLY)
+set(services ${CMAKE_BINARY_DIR}/no-bus-services)
+file(MAKE_DIRECTORY ${services})
+configure_file(${CMAKE_SOURCE_DIR}/platform/contacts/session-bus.conf.in ${CMAKE_BINARY_DIR}/empty-bus.conf @ONLY)
 
 set(CONTACT_TEST_ENVIRONMENT
     QT_QPA_PLATFORM=offscreen LANG=C.UTF-8 LC_ALL=C.UTF-8

@@ -1,0 +1,35 @@
+# SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+# SPDX-License-Identifier: LGPL-2.1-or-later
+#
+# The platform as the desktop has it installed, under the same target names as the bundled one. CMAKE_PREFIX_PATH leads
+# to it when it is not in the usual places.
+
+# contact_find_platform(TARGET t HEADER h [LIBRARY l]): the imported target t with the headers around h and the library l.
+function(contact_find_platform)
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" "TARGET;HEADER;LIBRARY" "LINKS")
+    string(MAKE_C_IDENTIFIER "CONTACT_${arg_TARGET}" variable)
+    find_path(${variable}_INCLUDE_DIR ${arg_HEADER})
+    if(NOT ${variable}_INCLUDE_DIR)
+        message(FATAL_ERROR "The installed platform lacks the header <${arg_HEADER}>. "
+            "Set CMAKE_PREFIX_PATH to where it is installed, or build with -DCONTACT_PLATFORM=bundled.")
+    endif()
+    if(NOT arg_LIBRARY)
+        add_library(${arg_TARGET} INTERFACE IMPORTED GLOBAL)
+    else()
+        find_library(${variable}_LIBRARY ${arg_LIBRARY})
+        if(NOT ${variable}_LIBRARY)
+            message(FATAL_ERROR "The installed platform lacks lib${arg_LIBRARY}.so. "
+                "Set CMAKE_PREFIX_PATH to where it is installed, or build with -DCONTACT_PLATFORM=bundled.")
+        endif()
+        add_library(${arg_TARGET} SHARED IMPORTED GLOBAL)
+        set_target_properties(${arg_TARGET} PROPERTIES IMPORTED_LOCATION ${${variable}_LIBRARY})
+    endif()
+    set_target_properties(${arg_TARGET} PROPERTIES
+        INTERFACE_INCLUDE_DIRECTORIES ${${variable}_INCLUDE_DIR} INTERFACE_LINK_LIBRARIES "${arg_LINKS}")
+endfunction()
+
+contact_find_platform(TARGET Speakmate::speakmate HEADER speakmate/iserviceplugin.h LINKS Qt5::Core)
+contact_find_platform(TARGET Lumo::lumo HEADER lumo/llabel.h LIBRARY lumo LINKS Qt5::Widgets)
+contact_find_platform(TARGET Kelvane::system-ability HEADER kelvane/kelvaneabilitymanager.h LIBRARY kelvane-system-ability
+    LINKS Qt5::Core)
+set(SPEAKMATE_MOC_HEADERS ${CONTACT_Speakmate__speakmate_INCLUDE_DIR}/speakmate/iservice.h)

@@ -1,0 +1,101 @@
+# shellcheck shell=bash disable=SC2034,SC2154
+# SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+# SPDX-License-Identifier: LGPL-2.1-or-later
+#
+# What ./run, ./test and .ci/run share: packages, quiet builds, the configuration file. To be sourced; works in $root.
+
+export LC_ALL=C.UTF-8
+log=$root/build/setup.log
+
+# What building and running takes.
+packages_run=(
+    cmake ninja-build g++ ccache qtbase5-dev qtbase5-dev-tools libqt5svg5 libqt5sql5-sqlite libqt5texttospeech5-dev
+    dbus dbus-daemon procps fonts-noto-cjk
+)
+# What the tests take on top.
+packages_test=(faketime python3 sqlite3 binutils man-db)
+# What the benchmarks take on top.
+packages_bench=(libbenchmark-dev)
+# What the checks of .ci/run take on top.
+packages_ci=(clang clang-format clang-tidy libclang-rt-14-dev)
+
+say() { printf '%s\n' "$*" >&2; }
+die() {
+    say "$@"
+    exit 1
+}
+
+# step TEXT COMMAND...: runs quietly; shows what it printed only when it fails.
+step() {
+    local text=$1
+    shift
+    mkdir -p "${log%/*}"
+    [ -t 2 ] && printf '%s …\r' "$text" >&2
+    if ! "$@" >"$log" 2>&1; then
+        say "$text: failed. The end of $log:"
+        tail -n 40 "$log" >&2
+        exit 1
+    fi
+    [ -t 2 ] && printf '\033[K' >&2
+    return 0
+}
+
+missing_packages() {
+    local name
+    for name in "$@"; do
+        [ "$(dpkg-query -W -f '${db:Status-Status}' "$name" 2>/dev/null)" = installed ] || printf '%s ' "$name"
+    done
+}
+
+as_root() {
+    if [ "$(id -u)" = 0 ]; then
+        "$@"
+    else
+        sudo "$@"
+    fi
+}
+
+may_become_root() { [ "$(id -u)" = 0 ] || command -v sudo >/dev/null; }
+
+# need_packages NAME...: installs those that are missing.
+need_packages() {
+    if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+        say "This is no Debian system, so nothing is installed. These Debian packages are needed: $*"
+        return 0
+    fi
+    local missing
+    missing=$(missing_packages "$@")
+    [ -n "$missing" ] || return 0
+    may_become_root || die "These packages are missing, and installing them needs root:" \
+        "    apt-get install --no-install-recommends $missing"
+    say "Installing packages: $missing"
+    # A terminal is kept for sudo's question; apt itself asks nothing.
+    [ "$(id -u)" = 0 ] || sudo -v || die "Installing the packages needs root."
+    step "Reading the package lists" as_root apt-get update -qq
+    # shellcheck disable=SC2086
+    step "Installing packages" as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends $missing
+}
+
+# build PRESET: configures when needed and builds.
+build() {
+    local preset=$1
+    if [ ! -f "$root/build/$preset/build.ninja" ]; then
+        [ -t 2 ] || say "Building (the first time takes some minutes) …"
+        step "Configuring" cmake -S "$root" --preset "$preset"
+    fi
+    step "Building (the first time takes some minutes)" cmake --build "$root/build/$preset"
+}
+
+config_file=/etc/xdg/kelvane-speakmate-plugins/contact-plugin.json
+
+# The plugin reads its configuration from a fixed place. A file that is there is the user's and stays.
+need_configuration() {
+    [ -e "$config_file" ] && return 0
+    local install=(install -D -m 644 "$root/data/contact-plugin.json" "$config_file")
+    if may_become_root && as_root "${install[@]}" 2>/dev/null; then
+        say "Put the plugin's configuration into $config_file"
+    else
+        die "The plugin needs its configuration in $config_file. As root, once:" "    ${install[*]}"
+    fi
+}

@@ -123,7 +123,10 @@ void TestGallery::theDocumentationShowsPicturesOfTheGallery()
 {
     const QDir shown(QStringLiteral(CONTACT_SOURCE_DIR "/docs/pictures"));
     const QStringList known = runGallery({QStringLiteral("--list")}, 1).names;
-    const QStringList files = shown.entryList(QDir::Files);
+    QStringList files = shown.entryList(QDir::Files);
+    // The development host makes these itself.
+    for (const QString &file : shown.entryList({QStringLiteral("desk-*.png")}, QDir::Files))
+        files.removeOne(file);
     QVERIFY(!files.isEmpty());
     for (const QString &file : files)
         QVERIFY2(known.contains(file), qPrintable(file));

@@ -17,7 +17,7 @@ QString MemberPhrases::joinedNames(const QVector<UserInfo> &users)
 
 QString MemberPhrases::choicePrompt(const QVector<QString> &notExistUsers)
 {
-    const QString question = QStringLiteral("您需要邀请以下哪位好友:");
+    QString question = QStringLiteral("您需要邀请以下哪位好友:");
     if (notExistUsers.isEmpty()) {
         return question;
     }

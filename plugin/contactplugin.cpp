@@ -13,6 +13,7 @@
 #include <QtCore/QMutexLocker>
 
 #include <exception>
+#include <utility>
 
 namespace {
 
@@ -81,7 +82,7 @@ void ContactPlugin::slotMessageHandle(Reply reply)
         return;
     }
     try {
-        messageHandle(this, reply);
+        messageHandle(this, std::move(reply));
     } catch (const std::exception &error) {
         qCritical() << "The host's message handle threw:" << error.what();
     } catch (...) {

@@ -3,7 +3,6 @@
 
 #include "contactplugin.h"
 
-#include "conferencecardinterface.h"
 #include "configmanager.h"
 #include "contactintentfactory.h"
 #include "contactreplywidget.h"
@@ -36,7 +35,7 @@ ContactPlugin::~ContactPlugin()
 {
     // The dispatcher stays for the cards that are still shown, but must not build any more: after the next
     // loading another one does.
-    disconnect(ConferenceCardInterface::instance(), nullptr, m_replyWidget, nullptr);
+    m_replyWidget->stopListening();
 }
 
 int ContactPlugin::init()

@@ -4,7 +4,7 @@
 #include "conferencedurations.h"
 
 namespace {
-constexpr qint64 Minute = 60 * 1000;
+constexpr qint64 Minute = Q_INT64_C(60) * 1000;
 constexpr qint64 Hour = 60 * Minute;
 } // namespace
 

@@ -3,7 +3,6 @@
 
 #include "contactreplywidget.h"
 
-#include "conferencecardinterface.h"
 #include "conferencemsgstaticwidget.h"
 #include "signalactiontype.h"
 
@@ -65,6 +64,12 @@ ContactReplyWidget::ContactReplyWidget(QObject *parent)
     qRegisterMetaType<Reply>();
     connect(m_interface, &ConferenceCardInterface::sentActionSignals, this,
             &ContactReplyWidget::slotNoticeAction, Qt::DirectConnection);
+}
+
+void ContactReplyWidget::stopListening()
+{
+    if (!m_interface.isNull())
+        disconnect(m_interface, nullptr, this, nullptr);
 }
 
 void ContactReplyWidget::slotNoticeAction(const int &actionType, const QVariant &data, Reply *reply)

@@ -3,13 +3,14 @@
 
 #pragma once
 
+#include "conferencecardinterface.h"
 #include "conferencerecords.h"
 
 #include <speakmate/reply.h>
 
 #include <QtCore/QObject>
+#include <QtCore/QPointer>
 
-class ConferenceCardInterface;
 class ConferenceMsgStaticWidget;
 
 /**
@@ -24,6 +25,9 @@ class ContactReplyWidget : public QObject
 public:
     explicit ContactReplyWidget(QObject *parent = nullptr);
 
+    /// Builds no more cards; replies of those that are still shown go on being passed on.
+    void stopListening();
+
 public Q_SLOTS:
     /// @p actionType is a SignalActionType; @p data holds the record that belongs to it.
     void slotNoticeAction(const int &actionType, const QVariant &data, Reply *reply);
@@ -35,7 +39,8 @@ Q_SIGNALS:
 private:
     void build(int actionType, const QVariant &data);
 
-    ConferenceCardInterface *m_interface;
+    // At the process's end the gateway may go before the plugin.
+    QPointer<ConferenceCardInterface> m_interface;
     /// The latest one. It may long be deleted; nothing but its building is done with it.
     ConferenceMsgStaticWidget *m_card = nullptr;
     ContactCreatedConferenceDetail m_created;

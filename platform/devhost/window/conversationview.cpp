@@ -53,8 +53,11 @@ ConversationView::ConversationView(QWidget *parent)
 ConversationView::~ConversationView()
 {
     for (const Entry &entry : qAsConst(m_entries)) {
-        if (entry.card != nullptr)
+        if (entry.card != nullptr) {
+            // The base class deletes the cards, when there are no entries any more to note it in.
             entry.card->removeEventFilter(this);
+            disconnect(entry.card, nullptr, this, nullptr);
+        }
     }
 }
 

@@ -3,9 +3,9 @@
 
 #include "conferencecardinterface.h"
 
-#include "abilityaction.h"
 #include "contactutils.h"
-#include "resultcodes.h"
+#include "wire/abilityaction.h"
+#include "wire/resultcodes.h"
 
 #include <kelvane/kelvaneabilitymanager.h>
 

@@ -5,7 +5,7 @@
 
 #include "contactutils.h"
 #include "jsonsource.h"
-#include "resultcodes.h"
+#include "wire/resultcodes.h"
 
 #include <QtCore/QJsonDocument>
 

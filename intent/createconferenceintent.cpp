@@ -4,11 +4,11 @@
 #include "createconferenceintent.h"
 
 #include "contactutils.h"
-#include "jsontext.h"
 #include "memberphrases.h"
 #include "replytable.h"
-#include "requestkeys.h"
 #include "slotreader.h"
+#include "wire/jsontext.h"
+#include "wire/requestkeys.h"
 
 #include <QtCore/QDateTime>
 #include <QtCore/QDebug>

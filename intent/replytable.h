@@ -5,8 +5,8 @@
 
 #include "conferencecardinterface.h"
 #include "ireplyableintent.h"
-#include "resultcodes.h"
 #include "signalactiontype.h"
+#include "wire/resultcodes.h"
 
 #include <QtCore/QStringList>
 #include <QtCore/QVector>

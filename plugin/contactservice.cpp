@@ -6,8 +6,8 @@
 #include "contactutils.h"
 #include "iintentfactory.h"
 #include "ireplyableintent.h"
-#include "resultcodes.h"
 #include "semantic/semanticparser.h"
+#include "wire/resultcodes.h"
 
 #include <QtCore/QDebug>
 #include <QtCore/QJsonDocument>

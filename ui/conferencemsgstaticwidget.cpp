@@ -3,10 +3,10 @@
 
 #include "conferencemsgstaticwidget.h"
 
-#include "cardtext.h"
+#include "card/cardtext.h"
+#include "card/conferenceeditor.h"
+#include "card/conferencerows.h"
 #include "conferencecardinterface.h"
-#include "conferenceeditor.h"
-#include "conferencerows.h"
 #include "customizeitem.h"
 
 #include <lumo/lcommandlinkbutton.h>

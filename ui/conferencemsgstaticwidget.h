@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "cardreplies.h"
+#include "card/cardreplies.h"
+#include "card/selectionbudget.h"
 #include "conferencerecords.h"
-#include "selectionbudget.h"
 
 #include <speakmate/reply.h>
 

@@ -5,11 +5,11 @@
 
 #include "conferencemsgstaticwidget.h"
 
-#include "cardrequests.h"
-#include "cardtext.h"
+#include "card/cardrequests.h"
+#include "card/cardtext.h"
+#include "card/conferenceeditor.h"
+#include "card/conferencerows.h"
 #include "conferencecardinterface.h"
-#include "conferenceeditor.h"
-#include "conferencerows.h"
 #include "titleitem.h"
 
 #include <lumo/lsuggestbutton.h>

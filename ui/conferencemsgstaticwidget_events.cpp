@@ -5,7 +5,7 @@
 
 #include "conferencemsgstaticwidget.h"
 
-#include "conferenceeditor.h"
+#include "card/conferenceeditor.h"
 
 #include <lumo/lguiapplicationhelper.h>
 #include <lumo/lsuggestbutton.h>

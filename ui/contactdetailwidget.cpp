@@ -3,7 +3,7 @@
 
 #include "contactdetailwidget.h"
 
-#include "cardrequests.h"
+#include "card/cardrequests.h"
 #include "conferencecardinterface.h"
 
 #include <lumo/lcombobox.h>

@@ -3,10 +3,10 @@
 
 #include "titleitem.h"
 
-#include "cardtext.h"
+#include "card/cardtext.h"
+#include "card/selectionbudget.h"
+#include "card/titleitemaccessible.h"
 #include "conferencemsgstaticwidget.h"
-#include "selectionbudget.h"
-#include "titleitemaccessible.h"
 
 #include <lumo/lguiapplicationhelper.h>
 #include <lumo/llabel.h>

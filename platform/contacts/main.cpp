@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "book/administration.h"
+#include "book/contactsbook.h"
 #include "core/databaseerror.h"
-#include "service/administration.h"
 #include "service/busservice.h"
-#include "service/contactsbook.h"
 #include "service/display.h"
 #include "window/contactswindow.h"
 

@@ -3,7 +3,7 @@
 
 #include "contactutils.h"
 #include "logcapture.h"
-#include "resultcodes.h"
+#include "wire/resultcodes.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "answerwords.h"
 #include "contactutils.h"
 #include "logcapture.h"
 #include "signalactiontype.h"
+#include "wire/answerwords.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>

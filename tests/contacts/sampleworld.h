@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "service/administration.h"
-#include "service/contactsbook.h"
+#include "book/administration.h"
+#include "book/contactsbook.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>

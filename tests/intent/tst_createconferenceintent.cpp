@@ -6,9 +6,9 @@
 #include "conferencerecords.h"
 #include "handlerrun.h"
 #include "logcapture.h"
-#include "resultcodes.h"
 #include "signalactiontype.h"
 #include "sourcerecords.h"
+#include "wire/resultcodes.h"
 
 #include <QtCore/QDateTime>
 #include <QtCore/QThread>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "conferencedraft.h"
+#include "card/conferencedraft.h"
 
 #include <QtCore/QDateTime>
 #include <QtTest/QtTest>

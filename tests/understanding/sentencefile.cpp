@@ -3,7 +3,7 @@
 
 #include "sentencefile.h"
 
-#include "rulefile.h"
+#include "text/rulefile.h"
 
 #include <QFile>
 #include <QHash>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "timereader.h"
-#include "timeresolver.h"
+#include "time/timereader.h"
+#include "time/timeresolver.h"
 
 #include <QtTest>
 

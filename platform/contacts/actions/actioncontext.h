@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "../core/conferencerepository.h"
-#include "../core/peoplerepository.h"
-#include "../core/sessionrepository.h"
+#include "core/conferencerepository.h"
+#include "core/peoplerepository.h"
+#include "core/sessionrepository.h"
 
 #include <functional>
 

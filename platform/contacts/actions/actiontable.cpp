@@ -1,19 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "actiontable.h"
+#include "actions/actiontable.h"
 
-#include "addfriends.h"
-#include "createconference.h"
-#include "deleteconference.h"
-#include "exitconference.h"
-#include "invitemembers.h"
-#include "isconferencehost.h"
-#include "joinconference.h"
-#include "joinmyconference.h"
-#include "openconferencelist.h"
-#include "searchconference.h"
-#include "updateconference.h"
+#include "actions/actions.h"
 
 #include <QtCore/QVector>
 

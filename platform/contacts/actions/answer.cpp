@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "answer.h"
+#include "actions/answer.h"
 
-#include "membermatch.h"
+#include "actions/membermatch.h"
 
-#include "../core/displaytext.h"
-#include "../core/jsonkeys.h"
-#include "../core/outcome.h"
+#include "core/displaytext.h"
+#include "core/jsonkeys.h"
+#include "core/outcome.h"
 
 namespace {
 

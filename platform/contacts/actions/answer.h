@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "../core/conference.h"
-#include "../core/person.h"
+#include "core/conference.h"
+#include "core/person.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>

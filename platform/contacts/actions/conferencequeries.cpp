@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "conferencequeries.h"
+#include "actions/conferencequeries.h"
 
-#include "actioncontext.h"
+#include "actions/actioncontext.h"
+#include "core/outcome.h"
 
-#include "../core/conferencerules.h"
+#include "core/conferencerules.h"
 
 #include <algorithm>
 
@@ -44,4 +45,15 @@ std::optional<Conference> hostedConference(const ActionContext &context, const Q
     if (conference && conference->hostId != context.user.userId)
         return std::nullopt;
     return conference;
+}
+
+QLatin1String takeSeat(const ActionContext &context, const Conference &conference)
+{
+    const Attendance attendance =
+        context.conferences.attendance(conference.id, context.user.userId).value_or(Attendance::Left);
+    if (attendance == Attendance::Left &&
+        context.conferences.takenSeats(conference.id) >= conference.participantLimit)
+        return Outcome::ParticipantsFull;
+    context.conferences.setAttendance(conference.id, context.user.userId, Attendance::Joined);
+    return Outcome::Ok;
 }

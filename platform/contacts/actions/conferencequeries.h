@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "../core/conference.h"
+#include "core/conference.h"
 
 #include <optional>
 
@@ -21,3 +21,6 @@ std::optional<Conference> currentConference(const ActionContext &context);
 bool isInAnyConference(const ActionContext &context);
 /// The conference that a request wants to change, by "conferenceId"; nothing unless the user is its host.
 std::optional<Conference> hostedConference(const ActionContext &context, const QString &confId);
+/// Lets the user into a running conference: "OK", or "Participant Out Limit" for somebody without a seat when
+/// all are taken.
+QLatin1String takeSeat(const ActionContext &context, const Conference &conference);

@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "invitemembers.h"
+#include "actions/actions.h"
 
-#include "actioncontext.h"
-#include "answer.h"
-#include "conferencequeries.h"
-#include "membermatch.h"
-#include "requestparameters.h"
+#include "actions/actioncontext.h"
+#include "actions/answer.h"
+#include "actions/conferencequeries.h"
+#include "actions/membermatch.h"
+#include "actions/requestparameters.h"
 
-#include "../core/jsonkeys.h"
-#include "../core/outcome.h"
+#include "core/jsonkeys.h"
+#include "core/outcome.h"
 
 namespace {
 

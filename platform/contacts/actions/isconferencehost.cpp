@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "isconferencehost.h"
+#include "actions/actions.h"
 
-#include "actioncontext.h"
-#include "answer.h"
-#include "conferencequeries.h"
-#include "requestparameters.h"
+#include "actions/actioncontext.h"
+#include "actions/answer.h"
+#include "actions/conferencequeries.h"
+#include "actions/requestparameters.h"
 
-#include "../core/outcome.h"
+#include "core/outcome.h"
 
 QJsonObject isConferenceHost(const ActionContext &context, const RequestParameters &)
 {

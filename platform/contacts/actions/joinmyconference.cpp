@@ -1,15 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "joinmyconference.h"
+#include "actions/actions.h"
 
-#include "actioncontext.h"
-#include "answer.h"
-#include "conferencequeries.h"
-#include "requestparameters.h"
-#include "seat.h"
+#include "actions/actioncontext.h"
+#include "actions/answer.h"
+#include "actions/conferencequeries.h"
+#include "actions/requestparameters.h"
 
-#include "../core/outcome.h"
+#include "core/outcome.h"
 
 QJsonObject joinMyConference(const ActionContext &context, const RequestParameters &)
 {

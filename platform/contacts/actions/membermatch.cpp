@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "membermatch.h"
+#include "actions/membermatch.h"
 
-#include "../core/peoplerepository.h"
+#include "core/peoplerepository.h"
 
 #include <algorithm>
 

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "requestparameters.h"
+#include "actions/requestparameters.h"
 
-#include "../core/person.h"
+#include "core/person.h"
 
 class PeopleRepository;
 

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "openconferencelist.h"
+#include "actions/actions.h"
 
-#include "actioncontext.h"
-#include "answer.h"
-#include "requestparameters.h"
+#include "actions/actioncontext.h"
+#include "actions/answer.h"
+#include "actions/requestparameters.h"
 
-#include "../core/outcome.h"
+#include "core/outcome.h"
 
 QJsonObject openConferenceList(const ActionContext &context, const RequestParameters &)
 {

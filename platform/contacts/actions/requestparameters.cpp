@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "requestparameters.h"
+#include "actions/requestparameters.h"
 
-#include "../core/conferencerules.h"
-#include "../core/jsonkeys.h"
+#include "core/conferencerules.h"
+#include "core/jsonkeys.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>

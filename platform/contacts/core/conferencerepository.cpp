@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "conferencerepository.h"
+#include "core/conferencerepository.h"
 
-#include "conferencerules.h"
-#include "databaseerror.h"
-#include "statement.h"
+#include "core/conferencerules.h"
+#include "core/databaseerror.h"
+#include "core/statement.h"
 
 #include <QtCore/QRandomGenerator>
 #include <QtCore/QUuid>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "conference.h"
+#include "core/conference.h"
 
 #include <QtSql/QSqlDatabase>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "person.h"
+#include "core/person.h"
 
 /// What conferences of an account may be like. The reply cards offer durations up to 30 minutes to free
 /// accounts and up to four hours and 100 people to paying ones, so these are the limits.

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "database.h"
+#include "core/database.h"
 
-#include "databaseerror.h"
-#include "migrations.h"
-#include "statement.h"
+#include "core/databaseerror.h"
+#include "core/migrations.h"
+#include "core/statement.h"
 
 #include <QtCore/QDateTime>
 #include <QtCore/QDebug>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "peoplerepository.h"
+#include "core/peoplerepository.h"
 
-#include "conferencerules.h"
-#include "statement.h"
+#include "core/conferencerules.h"
+#include "core/statement.h"
 
 namespace {
 

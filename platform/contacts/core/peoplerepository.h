@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "person.h"
+#include "core/person.h"
 
 #include <QtCore/QVector>
 #include <QtSql/QSqlDatabase>

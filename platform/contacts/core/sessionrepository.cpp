@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "sessionrepository.h"
+#include "core/sessionrepository.h"
 
-#include "statement.h"
+#include "core/statement.h"
 
 std::optional<Person> SessionRepository::user() const
 {

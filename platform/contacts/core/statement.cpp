@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "statement.h"
+#include "core/statement.h"
 
-#include "databaseerror.h"
+#include "core/databaseerror.h"
 
 #include <QtCore/QVariant>
 #include <QtSql/QSqlError>

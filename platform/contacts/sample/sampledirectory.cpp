@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "sampledirectory.h"
+#include "sample/sampledirectory.h"
 
-#include "../core/conferencerepository.h"
-#include "../core/databaseerror.h"
-#include "../core/peoplerepository.h"
-#include "../core/sessionrepository.h"
+#include "core/conferencerepository.h"
+#include "core/databaseerror.h"
+#include "core/peoplerepository.h"
+#include "core/sessionrepository.h"
 
 #include <QtCore/QDateTime>
 #include <QtCore/QFile>

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "busservice.h"
+#include "service/busservice.h"
 
-#include "administration.h"
-#include "busnames.h"
-#include "contactrequests.h"
+#include "book/administration.h"
+#include "service/busnames.h"
+#include "service/contactrequests.h"
 
 #include "admin1adaptor.h"
 #include "contact1adaptor.h"

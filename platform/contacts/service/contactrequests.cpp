@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "contactrequests.h"
+#include "service/contactrequests.h"
 
-#include "contactsbook.h"
+#include "book/contactsbook.h"
 
 ContactRequests::ContactRequests(ContactsBook &book, QObject *parent) : QObject(parent), m_book(book) {}
 

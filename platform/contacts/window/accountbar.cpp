@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "accountbar.h"
+#include "window/accountbar.h"
 
-#include "../core/displaytext.h"
-#include "../service/administration.h"
-#include "../service/contactsbook.h"
+#include "book/administration.h"
+#include "book/contactsbook.h"
+#include "core/displaytext.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QHBoxLayout>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "conferencemodel.h"
+#include "window/conferencemodel.h"
 
-#include "../core/displaytext.h"
-#include "../service/contactsbook.h"
+#include "book/contactsbook.h"
+#include "core/displaytext.h"
 
 #include <lumo/plaintooltip.h>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "../core/conference.h"
+#include "core/conference.h"
 
 #include <QtCore/QAbstractTableModel>
 #include <QtCore/QTimer>

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "conferencepage.h"
+#include "window/conferencepage.h"
 
-#include "outcometext.h"
+#include "window/outcometext.h"
 
-#include "../core/conference.h"
-#include "../core/jsonkeys.h"
-#include "../service/administration.h"
-#include "../service/contactsbook.h"
+#include "book/administration.h"
+#include "book/contactsbook.h"
+#include "core/conference.h"
+#include "core/jsonkeys.h"
 
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>

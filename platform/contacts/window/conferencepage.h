@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "conferencemodel.h"
-#include "tablepage.h"
+#include "window/conferencemodel.h"
+#include "window/tablepage.h"
 
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QPushButton>

@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "contactswindow.h"
+#include "window/contactswindow.h"
 
-#include "accountbar.h"
-#include "conferencepage.h"
-#include "outcometext.h"
-#include "peoplemodel.h"
+#include "window/accountbar.h"
+#include "window/conferencepage.h"
+#include "window/outcometext.h"
+#include "window/peoplemodel.h"
 
-#include "../core/jsonkeys.h"
-#include "../service/administration.h"
-#include "../service/contactsbook.h"
+#include "book/administration.h"
+#include "book/contactsbook.h"
+#include "core/jsonkeys.h"
 
 #include <lumo/lguiapplicationhelper.h>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "outcometext.h"
+#include "window/outcometext.h"
 
-#include "../core/outcome.h"
+#include "core/outcome.h"
 
 #include <QtCore/QHash>
 

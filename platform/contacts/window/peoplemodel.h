@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "../core/person.h"
+#include "core/person.h"
 
 #include <QtCore/QAbstractTableModel>
 #include <QtCore/QVector>

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "answer/abilityanswer.h"
+
+#include "wire/answerwords.h"
+
+#include <QtCore/QDebug>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonParseError>
+
+#include <algorithm>
+
+AbilityAnswer::AbilityAnswer(const QString &text, const char *errorText)
+{
+    // The ability's texts have always been taken in the locale's encoding. In any but UTF-8 this loses what
+    // the encoding cannot hold, but keeps the JSON's own characters, and with them the outcome.
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(text.toLocal8Bit(), &error);
+    if (error.error != QJsonParseError::NoError) {
+        qWarning() << errorText << error.error;
+        return;
+    }
+    m_object = document.object();
+    m_outcome = m_object.value(AnswerKey::Outcome).toString();
+    m_isReadable = true;
+}
+
+int AbilityAnswer::code(OutcomeTable table, int otherwise) const
+{
+    const auto row = std::find_if(table.begin(), table.end(), [this](const OutcomeCode &candidate) {
+        return m_outcome == candidate.word;
+    });
+    return row == table.end() ? otherwise : row->code;
+}

@@ -1,0 +1,189 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+// How ContactUtils reads the contacts application's answers.
+
+#include "answer/abilityanswer.h"
+#include "contactutils.h"
+#include "wire/answerwords.h"
+#include "wire/resultcodes.h"
+
+#include <QtCore/QDebug>
+#include <QtCore/QJsonArray>
+
+namespace {
+
+// The same word means different things to different requests, so each kind of request has its own table.
+
+constexpr OutcomeTable generalCodes = {
+    {OutcomeWord::Ok, ResultCode::Success},
+    {OutcomeWord::Success, ResultCode::Success},
+    {OutcomeWord::NoConference, ResultCode::NoConference},
+    {OutcomeWord::NotFound, ResultCode::NotFound},
+    {OutcomeWord::AlreadyFriend, ResultCode::AlreadyFriend},
+    {OutcomeWord::FriendLimit, ResultCode::FriendLimit},
+    {OutcomeWord::False, ResultCode::False},
+    {OutcomeWord::True, ResultCode::True},
+    {OutcomeWord::NotLoggedIn, ResultCode::NotLoggedIn},
+    {OutcomeWord::Oneself, ResultCode::Oneself},
+};
+
+constexpr OutcomeTable inviteCodes = {
+    {OutcomeWord::Ok, ResultCode::Success},
+    {OutcomeWord::NotFound, ResultCode::NobodyFound},
+    {OutcomeWord::NotStarted, ResultCode::NoConference},
+    {OutcomeWord::MembersLimit, ResultCode::MembersLimit},
+    {OutcomeWord::TooFrequent, ResultCode::TooFrequent},
+    {OutcomeWord::InOtherConference, ResultCode::InOtherConference},
+    {OutcomeWord::NotLoggedIn, ResultCode::NotLoggedIn},
+};
+
+constexpr OutcomeTable joinCodes = {
+    {OutcomeWord::Ok, ResultCode::Success},
+    {OutcomeWord::NotStarted, ResultCode::NoConference},
+    {OutcomeWord::NotFound, ResultCode::ConferenceNotFound},
+    {OutcomeWord::InvalidPasscode, ResultCode::InvalidPasscode},
+    {OutcomeWord::InOtherConference, ResultCode::InOtherConference},
+    {OutcomeWord::TimeOverlap, ResultCode::TimeOverlap},
+    {OutcomeWord::NotLoggedIn, ResultCode::NotLoggedIn},
+    {OutcomeWord::ParticipantsFull, ResultCode::ParticipantsFull},
+};
+
+constexpr OutcomeTable queryCodes = {
+    {OutcomeWord::NotLoggedIn, ResultCode::NotLoggedIn},
+    {OutcomeWord::NotFound, ResultCode::ConferenceNotFound},
+    {OutcomeWord::Ok, ResultCode::Success},
+};
+
+constexpr OutcomeTable updateCodes = {
+    {OutcomeWord::Ok, ResultCode::Success},
+    {OutcomeWord::NotFound, ResultCode::ConferenceNotFound},
+    {OutcomeWord::UpdateFailed, ResultCode::Malformed},
+    {OutcomeWord::NotLoggedIn, ResultCode::NotLoggedIn},
+};
+
+constexpr const char *readErrorText = "response error.error:";
+constexpr const char *memberReadErrorText = "response ret error.error:";
+
+QVector<ContactDetailMsg> conferencesOf(const AbilityAnswer &answer)
+{
+    return ContactUtils::parseContactMsg(answer.object().value(AnswerKey::Conferences).toArray());
+}
+
+/// What "Return" means, which is decided name by name.
+int codeOf(const ContactInviteMemberDetail &detail)
+{
+    if (!detail.duplicateUsers.isEmpty()) {
+        return ResultCode::DuplicateNames;
+    }
+    if (detail.notExistUsers.isEmpty()) {
+        return ResultCode::Success;
+    }
+    return detail.normalUsers.isEmpty() ? ResultCode::NobodyFound : ResultCode::SomeNotFound;
+}
+
+int analyzeMembers(const AbilityAnswer &answer, const QVector<QString> &memberNames,
+                   ContactInviteMemberDetail &detail)
+{
+    if (answer.outcome() == OutcomeWord::Return) {
+        detail =
+            ContactUtils::analyzeReturnUsers(answer.object().value(AnswerKey::Users).toArray(), memberNames);
+        return codeOf(detail);
+    }
+    const int code = answer.code(inviteCodes, ResultCode::Malformed);
+    if (code == ResultCode::MembersLimit) {
+        detail = ContactUtils::analyzeReturnUsers(answer.object().value(AnswerKey::NotJoined).toArray(),
+                                                  memberNames);
+        detail.canInviteNum = answer.object().value(AnswerKey::CanInvite).toInt();
+    }
+    return code;
+}
+
+} // namespace
+
+int ContactUtils::analyzeReturnContext(const QString &answer)
+{
+    const AbilityAnswer parsed(answer, readErrorText);
+    return parsed.isReadable() ? parsed.code(generalCodes, ResultCode::Malformed) : ResultCode::Malformed;
+}
+
+int ContactUtils::analyzeResultContext(const QString &answer, const QVector<QString> &memberNames,
+                                       const bool &isSchedule, const qint64 &startMsecs,
+                                       ContactCreatedConferenceDetail &detail)
+{
+    const AbilityAnswer parsed(answer, memberReadErrorText);
+    if (!parsed.isReadable()) {
+        return ResultCode::Malformed;
+    }
+    detail.isSchedule = isSchedule;
+    detail.scheduleTimeMsecs = startMsecs;
+    if (parsed.outcome() == OutcomeWord::Ok) {
+        // A conference that starts at once is already on the screen; only a scheduled one is shown.
+        if (isSchedule) {
+            detail.conferences = conferencesOf(parsed);
+        }
+        return ResultCode::Success;
+    }
+    if (parsed.outcome() == OutcomeWord::TimeOverlap) {
+        detail.conferences = conferencesOf(parsed);
+        return ResultCode::TimeOverlap;
+    }
+    if (parsed.outcome() == OutcomeWord::Return) {
+        detail.conferences = conferencesOf(parsed);
+    }
+    return analyzeMembers(parsed, memberNames, detail.inviteDetail);
+}
+
+int ContactUtils::analyzeResultContext(const QString &answer, const QVector<QString> &memberNames,
+                                       ContactInviteMemberDetail &detail)
+{
+    const AbilityAnswer parsed(answer, memberReadErrorText);
+    return parsed.isReadable() ? analyzeMembers(parsed, memberNames, detail) : ResultCode::Malformed;
+}
+
+int ContactUtils::analyzeJoinReturnContext(const QString &answer, QVector<ContactDetailMsg> &conferences)
+{
+    const AbilityAnswer parsed(answer, readErrorText);
+    if (!parsed.isReadable()) {
+        return ResultCode::Malformed;
+    }
+    // Here, unlike everywhere else, an unknown word means that there is nothing to join.
+    const int code = parsed.code(joinCodes, ResultCode::NoConference);
+    if (code == ResultCode::TimeOverlap) {
+        conferences = conferencesOf(parsed); // several are running, the user has to choose
+    }
+    return code;
+}
+
+int ContactUtils::analyzeQueryResultContext(const QString &answer, const qint64 & /*queryStartMsecs*/,
+                                            QVector<ContactDetailMsg> &conferences)
+{
+    const AbilityAnswer parsed(answer, readErrorText);
+    if (!parsed.isReadable()) {
+        return ResultCode::Malformed;
+    }
+    const int code = parsed.code(queryCodes, ResultCode::Malformed);
+    if (code != ResultCode::Success) {
+        return code;
+    }
+    const QVector<ContactDetailMsg> found = conferencesOf(parsed);
+    if (found.isEmpty()) {
+        return ResultCode::ConferenceNotFound;
+    }
+    conferences = found;
+    return ResultCode::Success;
+}
+
+int ContactUtils::analyzeUpdateReturnContext(const QString &answer, ContactCreatedConferenceDetail &detail)
+{
+    const AbilityAnswer parsed(answer, readErrorText);
+    if (!parsed.isReadable()) {
+        return ResultCode::Malformed;
+    }
+    const int code = parsed.code(updateCodes, ResultCode::Malformed);
+    if (code == ResultCode::Success) {
+        detail.conferences = conferencesOf(parsed);
+        qDebug() << "MeetingDetail size() =" << detail.conferences.size();
+    }
+    return code;
+}

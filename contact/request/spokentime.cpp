@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "request/spokentime.h"
+
+#include "wire/latin1literal.h"
+
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+
+#include <algorithm>
+
+namespace {
+
+constexpr QLatin1String suggestDatetimeKey = "suggestDatetime"_latin1;
+constexpr QLatin1Char timeMark('T');
+
+/// Whether @p text has a digit where @p shape has a zero, and is the same elsewhere.
+bool hasShape(const QString &text, QLatin1String shape)
+{
+    return text.size() == shape.size() &&
+           std::equal(text.cbegin(), text.cend(), shape.begin(), [](QChar character, char expected) {
+               const ushort code = character.unicode();
+               return expected == '0' ? code >= '0' && code <= '9' : character == QLatin1Char(expected);
+           });
+}
+
+// By hand, because Qt's format strings cost more than all the rest of a request.
+
+QDate dateOf(const QString &text)
+{
+    if (!hasShape(text, "0000-00-00"_latin1)) {
+        return {};
+    }
+    return {text.leftRef(4).toInt(), text.midRef(5, 2).toInt(), text.midRef(8, 2).toInt()};
+}
+
+QTime timeOf(const QString &text)
+{
+    if (!hasShape(text, "00:00:00"_latin1)) {
+        return {};
+    }
+    return {text.leftRef(2).toInt(), text.midRef(3, 2).toInt(), text.midRef(6, 2).toInt()};
+}
+
+} // namespace
+
+SpokenTime SpokenTime::fromSlot(const QString &slotText, QJsonParseError *error)
+{
+    SpokenTime result;
+    const QJsonDocument document = QJsonDocument::fromJson(slotText.toUtf8(), error);
+    result.m_text = document.object().value(suggestDatetimeKey).toString();
+    result.m_hasTime = result.m_text.contains(timeMark);
+    if (result.m_hasTime) {
+        // Each for itself: whether the two exist together is LocalTime's question.
+        const int mark = result.m_text.indexOf(timeMark);
+        result.m_time = timeOf(result.m_text.mid(mark + 1));
+        if (result.m_time.isValid()) {
+            result.m_date = dateOf(result.m_text.left(mark));
+        }
+    } else {
+        result.m_date = dateOf(result.m_text);
+    }
+    return result;
+}
+
+QDateTime SpokenTime::exact() const
+{
+    return LocalTime::at(m_date, m_time);
+}
+
+QDateTime LocalTime::at(const QDate &date, const QTime &time)
+{
+    if (!date.isValid() || !time.isValid()) {
+        return {}; // QDateTime would take midnight for an invalid time
+    }
+    QDateTime wanted(date, time);
+    if (wanted.isValid()) {
+        return wanted;
+    }
+    // Counted on as if the clock had not been put forward. Qt's own milliseconds for such a time lie before
+    // the change, which for a missing midnight is the day before.
+    const int offset = QDateTime(date.addDays(-1), time).offsetFromUtc();
+    return QDateTime(date, time, Qt::UTC).addSecs(-offset).toLocalTime();
+}
+
+QDateTime LocalTime::startOfDay(const QDate &date)
+{
+    return at(date, QTime(0, 0));
+}
+
+QDateTime LocalTime::nextFullHour(const QDateTime &now)
+{
+    constexpr int lastHour = 23;
+    const int hour = now.time().hour();
+    return hour == lastHour ? startOfDay(now.date().addDays(1)) : at(now.date(), QTime(hour + 1, 0));
+}
+
+qint64 LocalTime::msecs(const QDateTime &dateTime)
+{
+    return dateTime.isValid() ? dateTime.toMSecsSinceEpoch() : 0;
+}

@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "book/contactsbook.h"
+
+#include "actions/actioncontext.h"
+#include "actions/actiontable.h"
+#include "actions/answer.h"
+#include "actions/requestparameters.h"
+#include "core/databaseerror.h"
+#include "core/outcome.h"
+#include "sample/sampledirectory.h"
+
+#include <QtCore/QDateTime>
+#include <QtCore/QDebug>
+#include <QtCore/QJsonDocument>
+
+namespace {
+
+QString toText(const QJsonObject &answer)
+{
+    return QString::fromUtf8(QJsonDocument(answer).toJson(QJsonDocument::Compact));
+}
+
+} // namespace
+
+ContactsBook::ContactsBook(const QString &databaseFile, Clock clock, QObject *parent)
+    : QObject(parent)
+    , m_clock(clock ? std::move(clock) : Clock(&QDateTime::currentMSecsSinceEpoch))
+    , m_database(databaseFile)
+    , m_people(m_database.handle())
+    , m_conferences(m_database.handle())
+    , m_session(m_database.handle())
+{
+    Transaction transaction(m_database.handle());
+    if (!m_session.isSeeded()) {
+        SampleDirectory::load(m_people, m_conferences, m_session, nowMsecs());
+        m_session.setSeeded();
+    }
+    transaction.commit();
+}
+
+QString ContactsBook::perform(const QString &action, const QString &parameters)
+{
+    const Action *known = findAction(action);
+    if (!known)
+        return toText(answerWord(Outcome::UnknownAction));
+    try {
+        const RequestParameters request(parameters);
+        bool windowWanted = false;
+        const qint64 writtenBefore = m_database.writtenRows();
+        QJsonObject answer;
+        {
+            Transaction transaction(m_database.handle());
+            const std::optional<Person> user = m_session.user();
+            const ActionContext context{
+                m_people, m_conferences, m_session, nowMsecs(), user.value_or(Person()), [&windowWanted] {
+                    windowWanted = true;
+                }};
+            if (!user && known->access == ActionAccess::LoggedInUser) {
+                answer = answerWord(Outcome::NotLoggedIn);
+                windowWanted = true; // logging in is done there
+            } else {
+                answer = known->handler(context, request);
+            }
+            transaction.commit();
+        }
+        if (m_database.writtenRows() != writtenBefore)
+            Q_EMIT changed();
+        if (windowWanted)
+            Q_EMIT this->windowWanted();
+        return toText(answer);
+    } catch (const InvalidParameters &error) {
+        qWarning() << "Refused parameters for" << action << ":" << error.what();
+        return toText(answerWord(Outcome::InvalidParameters));
+    } catch (const std::exception &error) {
+        qCritical() << "Action" << action << "failed:" << error.what();
+        return toText(answerWord(Outcome::InternalError));
+    }
+}
+
+bool ContactsBook::change(const std::function<bool()> &change)
+{
+    try {
+        Transaction transaction(m_database.handle());
+        if (!change())
+            return false;
+        transaction.commit();
+    } catch (const std::exception &error) {
+        qCritical() << "A change failed:" << error.what();
+        return false;
+    }
+    Q_EMIT changed();
+    return true;
+}

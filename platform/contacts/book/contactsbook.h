@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "core/conferencerepository.h"
+#include "core/database.h"
+#include "core/peoplerepository.h"
+#include "core/sessionrepository.h"
+
+#include <QtCore/QObject>
+
+#include <functional>
+
+/**
+ * The application's whole state and the one door to it: actions, the administration and the window all come
+ * through here. Lives on one thread, together with its database.
+ */
+class ContactsBook : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Milliseconds since the epoch.
+    using Clock = std::function<qint64()>;
+
+    /// Opens the database, and loads the sample directory into a fresh one. Throws DatabaseError.
+    explicit ContactsBook(const QString &databaseFile, Clock clock = {}, QObject *parent = nullptr);
+
+    /// Performs one action and answers with a JSON object, whatever came in. What it did is on disk then.
+    /// Never throws.
+    QString perform(const QString &action, const QString &parameters);
+
+    /// Runs @p change in a transaction of its own and tells who shows the state. Does not throw: false when
+    /// it fails, and then nothing has changed; also when @p change answers false.
+    bool change(const std::function<bool()> &change);
+
+    qint64 nowMsecs() const { return m_clock(); }
+    PeopleRepository &people() { return m_people; }
+    ConferenceRepository &conferences() { return m_conferences; }
+    SessionRepository &session() { return m_session; }
+    Database &database() { return m_database; }
+
+Q_SIGNALS:
+    /// The state may be another than before.
+    void changed();
+    /// The user is to see the window: asked for it, or has to log in.
+    void windowWanted();
+
+private:
+    Clock m_clock;
+    Database m_database;
+    PeopleRepository m_people;
+    ConferenceRepository m_conferences;
+    SessionRepository m_session;
+};

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "book/worldsnapshot.h"
+
+#include "book/contactsbook.h"
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+
+namespace {
+
+const QString AttendanceWords[] = {QStringLiteral("invited"), QStringLiteral("joined"),
+                                   QStringLiteral("left")};
+const QString FriendshipWords[] = {QStringLiteral("colleague"), QStringLiteral("requested"),
+                                   QStringLiteral("friend")};
+const QString StateWords[] = {QStringLiteral("notStarted"), QStringLiteral("running"),
+                              QStringLiteral("ended")};
+
+constexpr int SnapshotLimit = 10000;
+
+QJsonObject personToJson(const Person &person)
+{
+    return {{QStringLiteral("userId"), person.userId},
+            {QStringLiteral("account"), person.account},
+            {QStringLiteral("name"), person.name},
+            {QStringLiteral("kind"),
+             person.kind == AccountKind::Paying ? QStringLiteral("paying") : QStringLiteral("free")}};
+}
+
+QJsonArray contactsToJson(ContactsBook &book, const QString &ownerId)
+{
+    QJsonArray contacts;
+    for (const Person &person : book.people().contacts(ownerId)) {
+        contacts.append(QJsonObject{
+            {QStringLiteral("account"), person.account},
+            {QStringLiteral("remark"), person.remarkName},
+            {QStringLiteral("friendship"), FriendshipWords[static_cast<int>(person.friendship)]},
+        });
+    }
+    return contacts;
+}
+
+QJsonObject conferenceToJson(const Conference &conference, const QString &hostAccount, qint64 nowMsecs)
+{
+    QJsonArray participants;
+    for (const Participant &participant : conference.participants) {
+        participants.append(QJsonObject{
+            {QStringLiteral("account"), participant.account},
+            {QStringLiteral("attendance"), AttendanceWords[static_cast<int>(participant.attendance)]},
+        });
+    }
+    return {{QStringLiteral("conferenceId"), conference.confId},
+            {QStringLiteral("number"), conference.dialNumber},
+            {QStringLiteral("title"), conference.title},
+            {QStringLiteral("host"), hostAccount},
+            {QStringLiteral("startTime"), conference.startMsecs},
+            {QStringLiteral("duration"), conference.durationMsecs},
+            {QStringLiteral("participantLimit"), conference.participantLimit},
+            {QStringLiteral("passcode"), conference.passcode},
+            {QStringLiteral("state"), StateWords[static_cast<int>(conference.stateAt(nowMsecs))]},
+            {QStringLiteral("participants"), participants}};
+}
+
+} // namespace
+
+QString worldSnapshot(ContactsBook &book)
+{
+    QJsonObject contacts;
+    QJsonArray people;
+    for (const Person &person : book.people().all()) {
+        people.append(personToJson(person));
+        contacts.insert(person.account, contactsToJson(book, person.userId));
+    }
+    QJsonArray conferences;
+    for (const Conference &conference : book.conferences().startingAfter(-1, QString(), SnapshotLimit)) {
+        const std::optional<Person> host = book.people().byUserId(conference.hostId);
+        conferences.append(conferenceToJson(conference, host ? host->account : QString(), book.nowMsecs()));
+    }
+    const std::optional<Person> user = book.session().user();
+    const QJsonObject world{{QStringLiteral("user"), user ? user->account : QString()},
+                            {QStringLiteral("engagedElsewhere"), book.session().isEngagedElsewhere()},
+                            {QStringLiteral("people"), people},
+                            {QStringLiteral("contacts"), contacts},
+                            {QStringLiteral("conferences"), conferences}};
+    return QString::fromUtf8(QJsonDocument(world).toJson(QJsonDocument::Compact));
+}

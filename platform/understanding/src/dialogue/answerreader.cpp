@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "dialogue/answerreader.h"
+
+#include "meaning/interpreter.h"
+#include "text/chinesenumber.h"
+
+#include <algorithm>
+
+namespace understanding {
+
+namespace {
+
+/// Words that may stand around an answer: 嗯，会议号是…吧.
+constexpr WordClasses around =
+    WordClass::Filler | WordClass::Punctuation | WordClass::LabelLink | WordClass::IdLabel |
+    WordClass::PasswordLabel | WordClass::AccountLabel | WordClass::NameLabel | WordClass::Measure |
+    WordClass::Separator | WordClass::Trigger | WordClass::Pull | WordClass::Nobody | WordClass::NameTail |
+    WordClass::Title | WordClass::Conference | WordClass::NoPassword;
+
+bool isSmallTalkParticle(const Sentence &sentence, const Token &token)
+{
+    static const QString particles = QStringLiteral("的号是呢哦啊呀吧");
+    const QString text = sentence.text().mid(token.position, token.length);
+    return std::all_of(text.cbegin(), text.cend(),
+                       [](QChar character) { return particles.contains(character); });
+}
+
+/// True when the sentence holds nothing but what \a answers accepts and words around it.
+template <typename Answers>
+bool holdsOnly(const Reading &reading, Answers answers)
+{
+    return std::all_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+        return token.kind == Token::Kind::Space || answers(token) || token.isAny(around) ||
+               (token.kind == Token::Kind::Other && isSmallTalkParticle(reading.sentence(), token));
+    });
+}
+
+bool isCode(const Token &token)
+{
+    return token.kind == Token::Kind::Number || token.kind == Token::Kind::Latin;
+}
+
+bool takeNumber(const Reading &reading, Outcome &outcome)
+{
+    if (reading.conferenceNumber().isEmpty() || !holdsOnly(reading, isCode))
+        return false;
+    const QString number = reading.conferenceNumber().normValue;
+    outcome.addSlot(idSlot, number, number);
+    const Said &password = reading.password();
+    if (!password.isEmpty() && !outcome.hasSlot(passwordSlot))
+        outcome.addSlot(passwordSlot, password.value, password.normValue);
+    return true;
+}
+
+bool takePassword(const Reading &reading, Outcome &outcome)
+{
+    // Said with its label or alone.
+    const Said &said = reading.password().isEmpty() ? reading.account() : reading.password();
+    if (said.isEmpty() || !holdsOnly(reading, isCode))
+        return false;
+    outcome.addSlot(passwordSlot, said.value, said.normValue);
+    return true;
+}
+
+/// The names of an answer, when it consists of names.
+std::vector<FoundName> answeredNames(const Reading &reading)
+{
+    const Sentence &sentence = reading.sentence();
+    std::vector<FoundName> names = findAnsweredNames(sentence.raw(), sentence.text(), reading.tokens());
+    if (names.size() < reading.names().size())
+        names = reading.names();
+    const bool onlyNames = holdsOnly(reading, [&](const Token &token) {
+        return token.kind == Token::Kind::Name ||
+               std::any_of(names.cbegin(), names.cend(), [&](const FoundName &name) {
+                   return name.position < token.end() && token.position < name.position + name.said.size();
+               });
+    });
+    return onlyNames ? names : std::vector<FoundName>();
+}
+
+bool takeAccount(const Reading &reading, Outcome &outcome)
+{
+    const Said &account = reading.account();
+    if (!account.isEmpty() && holdsOnly(reading, isCode)) {
+        outcome.addSlot(accountSlot, account.value, account.normValue);
+        return true;
+    }
+    const std::vector<FoundName> names = answeredNames(reading);
+    if (names.empty())
+        return false;
+    outcome.addSlot(accountSlot, names.front().said, names.front().name);
+    return true;
+}
+
+bool takeNames(const Reading &reading, Outcome &outcome)
+{
+    const std::vector<FoundName> names = answeredNames(reading);
+    for (const FoundName &name : names)
+        outcome.addSlot(nameSlot, name.said, name.name);
+    return !names.empty();
+}
+
+/// What may be kept of a time that could not be resolved: its day when the hour was wrong, its hour when the
+/// day was.
+TimeExpression usableRest(const QString &question, const TimeExpression &before)
+{
+    TimeExpression rest;
+    if (question == QLatin1String("contradiction") || question == QLatin1String("which-time")) {
+        rest = before;
+        rest.part = -1;
+        rest.hasClock = false;
+        rest.impossible = false;
+    } else {
+        rest.part = before.part;
+        rest.hasClock = before.hasClock;
+        rest.hour = before.hour;
+        rest.minute = before.minute;
+        rest.minutesLess = before.minutesLess;
+    }
+    return rest;
+}
+
+} // namespace
+
+bool isGiveUp(const Reading &reading)
+{
+    constexpr WordClasses harmless = WordClass::GiveUp | WordClass::Filler | WordClass::Punctuation;
+    return reading.has(WordClass::GiveUp) &&
+           std::all_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+               return token.isAny(harmless) || token.kind == Token::Kind::Space ||
+                      (token.kind == Token::Kind::Other && token.length == 1);
+           });
+}
+
+bool takeAnswer(const QString &question, const Reading &reading, const QDateTime &now,
+                const TimeExpression &timeBefore, Outcome &outcome)
+{
+    constexpr struct
+    {
+        const char *question;
+        bool (*take)(const Reading &, Outcome &);
+    } takers[] = {{"which-conference", takeNumber},
+                  {"which-password", takePassword},
+                  {"whom-to-add", takeAccount},
+                  {"whom-to-invite", takeNames}};
+    for (const auto &taker : takers) {
+        if (question == QLatin1String(taker.question))
+            return taker.take(reading, outcome);
+    }
+    // Every other question is about the time.
+    if (reading.timeSaid().isEmpty() ||
+        !holdsOnly(reading, [](const Token &token) { return token.kind == Token::Kind::Time; }))
+        return false;
+    TimeExpression time = reading.time();
+    time.complete(usableRest(question, timeBefore));
+    outcome.answer.clear();
+    fillTime(outcome, time, reading.timeSaid(), now);
+    return true;
+}
+
+} // namespace understanding

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "meaning/outcome.h"
+#include "meaning/reading.h"
+
+#include <QDateTime>
+
+namespace understanding {
+
+/// True for a sentence that only ends a question: 算了, 取消吧.
+bool isGiveUp(const Reading &reading);
+
+/// Takes \a reading as the answer to \a question (a row of answers.tsv) and adds the slot to \a outcome. Only
+/// a sentence that holds nothing but an answer is one: chit-chat never fills a slot. \a timeBefore is what
+/// was said of the time so far. Returns false when nothing was answered; a new problem with the answer is set
+/// as the outcome's answer.
+bool takeAnswer(const QString &question, const Reading &reading, const QDateTime &now,
+                const TimeExpression &timeBefore, Outcome &outcome);
+
+} // namespace understanding

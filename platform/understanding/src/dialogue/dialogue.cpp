@@ -1,0 +1,203 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "understanding/dialogue.h"
+
+#include "dialogue/answerreader.h"
+#include "dialogue/answers.h"
+#include "dialogue/semanticwriter.h"
+#include "meaning/interpreter.h"
+#include "words/contactindex.h"
+
+namespace understanding {
+
+namespace {
+
+constexpr int passwordNeeded = -16014;
+const QLatin1String passwordQuestion("which-password");
+const QLatin1String tooManyPasswords("passwords-tried");
+
+/// The one question that is open: what it is for and what was asked.
+struct OpenQuestion
+{
+    Outcome outcome; ///< the intent with the slots said so far; its answer is the question
+    TimeExpression time;
+    int tries = 0; ///< 0: nothing is asked
+
+    bool isOpen() const { return tries > 0; }
+};
+
+Said conferenceNumberOf(const Outcome &outcome)
+{
+    for (const Slot &slot : outcome.slotList) {
+        if (slot.name == QLatin1String(idSlot))
+            return {0, 0, slot.value, slot.normValue};
+    }
+    return {};
+}
+
+} // namespace
+
+class Dialogue::Private
+{
+public:
+    explicit Private(const QStringList &names) : contacts(names) {}
+
+    QString carryOut(const Outcome &outcome);
+    QString ask(const Outcome &outcome, const TimeExpression &time);
+    QString askAgain();
+    QString close(const char *answer);
+    QString reply(const Outcome &outcome, const TimeExpression &time);
+    bool startsSomethingNew(const Outcome &fresh) const;
+    QString answerQuestion(const Reading &reading, const Outcome &fresh, const QDateTime &now);
+    void askForPassword();
+
+    ContactIndex contacts;
+    OpenQuestion question;
+    Outcome lastCommand;
+    QString passwordFor; ///< the number whose password was asked for last
+    int passwordRounds = 0;
+};
+
+QString Dialogue::Private::carryOut(const Outcome &outcome)
+{
+    question = OpenQuestion();
+    lastCommand = outcome;
+    return commandJson(outcome);
+}
+
+QString Dialogue::Private::ask(const Outcome &outcome, const TimeExpression &time)
+{
+    question.outcome = outcome;
+    question.time = time;
+    question.tries = 1;
+    return answerJson(answerText(outcome.answer));
+}
+
+QString Dialogue::Private::askAgain()
+{
+    if (question.tries >= mostTries)
+        return close("given-up");
+    ++question.tries;
+    return answerJson(answerText(question.outcome.answer, question.tries));
+}
+
+QString Dialogue::Private::close(const char *answer)
+{
+    question = OpenQuestion();
+    return answerJson(answerText(QLatin1String(answer)));
+}
+
+/// Carries out, asks or refuses; a refusal without an intent leaves nothing open.
+QString Dialogue::Private::reply(const Outcome &outcome, const TimeExpression &time)
+{
+    if (outcome.isCommand())
+        return carryOut(outcome);
+    if (!outcome.intent.isEmpty())
+        return ask(outcome, time);
+    question = OpenQuestion();
+    return answerJson(answerText(outcome.answer));
+}
+
+/// A full command, or one that is incomplete but for something else.
+bool Dialogue::Private::startsSomethingNew(const Outcome &fresh) const
+{
+    if (fresh.intent.isEmpty())
+        return false;
+    return fresh.isCommand() || fresh.intent != question.outcome.intent;
+}
+
+QString Dialogue::Private::answerQuestion(const Reading &reading, const Outcome &fresh, const QDateTime &now)
+{
+    Outcome answered = question.outcome;
+    const QString asked = answered.answer;
+    answered.answer.clear();
+    const bool taken = asked != tooManyPasswords && takeAnswer(asked, reading, now, question.time, answered);
+    if (!taken) {
+        if (startsSomethingNew(fresh))
+            return reply(fresh, reading.time());
+        return asked == tooManyPasswords ? close("passwords-tried") : askAgain();
+    }
+    if (!answered.answer.isEmpty()) { // the time is still not one
+        question.outcome.answer = answered.answer;
+        return askAgain();
+    }
+    answered.answer = missingSlotQuestion(answered);
+    return reply(answered, question.time);
+}
+
+void Dialogue::Private::askForPassword()
+{
+    const Said number = conferenceNumberOf(lastCommand);
+    passwordRounds = number.normValue == passwordFor ? passwordRounds + 1 : 1;
+    passwordFor = number.normValue;
+    Outcome outcome;
+    // A password for "my" conference can only be carried with its number, which is asked for next.
+    outcome.intent = QLatin1String(enterConferenceById);
+    if (!number.isEmpty())
+        outcome.addSlot(idSlot, number.value, number.normValue);
+    outcome.answer = passwordRounds > mostTries ? tooManyPasswords : passwordQuestion;
+    question = OpenQuestion();
+    question.outcome = outcome;
+    question.tries = 1; // the plugin has put it
+}
+
+Dialogue::Dialogue(QStringList contactNames) : d(std::make_unique<Private>(contactNames)) {}
+
+Dialogue::~Dialogue() = default;
+
+void Dialogue::setContactNames(const QStringList &names)
+{
+    d->contacts = ContactIndex(names);
+}
+
+QString Dialogue::turn(const QString &sentence, const QDateTime &now)
+{
+    if (sentence.size() > longestSentence)
+        return answerJson(answerText(QStringLiteral("too-long")));
+    const Reading reading(sentence, d->contacts);
+    const Outcome fresh = interpret(reading, now);
+    if (!d->question.isOpen())
+        return d->reply(fresh, reading.time());
+    if (isGiveUp(reading))
+        return d->close("cancelled");
+    return d->answerQuestion(reading, fresh, now);
+}
+
+void Dialogue::noteReply(int code, const QString &)
+{
+    const bool joined = d->lastCommand.intent == QLatin1String(enterConferenceById) ||
+                        d->lastCommand.intent == QLatin1String(enterMyConference);
+    if (code == passwordNeeded && joined) {
+        d->askForPassword();
+    } else {
+        d->passwordFor.clear();
+        d->passwordRounds = 0;
+    }
+}
+
+bool Dialogue::nextIsSecret() const
+{
+    const QString &asked = d->question.outcome.answer;
+    return d->question.isOpen() && (asked == passwordQuestion || asked == tooManyPasswords);
+}
+
+QString Dialogue::masked(const QString &sentence) const
+{
+    constexpr QChar bullet(0x2022);
+    if (sentence.size() > longestSentence)
+        return nextIsSecret() ? QString(sentence.size(), bullet) : sentence;
+    const Reading reading(sentence, d->contacts);
+    QString shown = sentence;
+    const auto hide = [&](int position, int length) {
+        shown.replace(position, length, QString(length, bullet));
+    };
+    if (!reading.password().isEmpty())
+        hide(reading.password().position, reading.password().length);
+    else if (nextIsSecret() && !isGiveUp(reading) &&
+             interpret(reading, QDateTime::currentDateTime()).intent.isEmpty())
+        hide(0, shown.size());
+    return shown;
+}
+
+} // namespace understanding

@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "meaning/interpreter.h"
+
+#include "meaning/intentrules.h"
+#include "time/timeresolver.h"
+
+namespace understanding {
+
+namespace {
+
+/// {"suggestDatetime":"2026-03-08T15:00:00"}, which the builders of requests read.
+QString suggestedDatetime(const ResolvedTime &time)
+{
+    return QStringLiteral("{\"suggestDatetime\":\"%1\"}").arg(time.toString());
+}
+
+QString problemAnswer(ResolvedTime::Problem problem)
+{
+    switch (problem) {
+    case ResolvedTime::Problem::NoSuchDate:
+        return QStringLiteral("no-such-date");
+    case ResolvedTime::Problem::Contradiction:
+        return QStringLiteral("contradiction");
+    case ResolvedTime::Problem::NoHour:
+        return QStringLiteral("which-time");
+    case ResolvedTime::Problem::None:
+        break;
+    }
+    return {};
+}
+
+void fillNames(Outcome &outcome, const Reading &reading)
+{
+    for (const FoundName &name : reading.names())
+        outcome.addSlot(nameSlot, name.said, name.name);
+}
+
+void fillOpenVerb(Outcome &outcome, const Reading &reading, const QDateTime &)
+{
+    if (!reading.openVerb().isEmpty())
+        outcome.addSlot(openSlot, reading.openVerb().value, reading.openVerb().normValue);
+}
+
+void fillSaidTime(Outcome &outcome, const Reading &reading, const QDateTime &now)
+{
+    if (reading.has(WordClass::UnclearDay) || reading.has(WordClass::Festival))
+        outcome.answer = QStringLiteral("which-day");
+    else if (!reading.timeSaid().isEmpty())
+        fillTime(outcome, reading.time(), reading.timeSaid(), now);
+}
+
+void fillConference(Outcome &outcome, const Reading &reading, const QDateTime &now)
+{
+    fillNames(outcome, reading);
+    fillSaidTime(outcome, reading, now);
+    // To look at what comes "soon" is to look at everything to come; to open one soon needs the hour.
+    if (outcome.answer.isEmpty() && reading.timeSaid().isEmpty() && reading.has(WordClass::UnclearSoon))
+        outcome.answer = QStringLiteral("which-time");
+    fillOpenVerb(outcome, reading, now);
+}
+
+void fillInvitation(Outcome &outcome, const Reading &reading, const QDateTime &)
+{
+    fillNames(outcome, reading);
+}
+
+void fillNumber(Outcome &outcome, const Reading &reading, const QDateTime &)
+{
+    // The handler reads the number's "value", so both are digits.
+    const Said &number = reading.conferenceNumber();
+    if (!number.isEmpty() && !outcome.hasSlot(idSlot))
+        outcome.addSlot(idSlot, number.normValue, number.normValue);
+    const Said &password = reading.password();
+    if (!password.isEmpty() && !outcome.hasSlot(passwordSlot))
+        outcome.addSlot(passwordSlot, password.value, password.normValue);
+}
+
+void fillAccount(Outcome &outcome, const Reading &reading, const QDateTime &)
+{
+    const Said &account = reading.account();
+    if (!account.isEmpty()) {
+        outcome.addSlot(accountSlot, account.value, account.normValue);
+    } else if (!reading.names().empty()) {
+        const FoundName &name = reading.names().front();
+        outcome.addSlot(accountSlot, name.said, name.name);
+    }
+}
+
+void fillNothing(Outcome &, const Reading &, const QDateTime &) {}
+
+/// What each intent takes from a sentence, and what it asks for when that is missing.
+constexpr struct
+{
+    const char *intent;
+    void (*fill)(Outcome &, const Reading &, const QDateTime &);
+    const char *required;
+    const char *question;
+} intentTable[] = {
+    {createConference, fillConference, nullptr, nullptr},
+    {inviteConference, fillInvitation, nameSlot, "whom-to-invite"},
+    {enterConferenceById, fillNumber, idSlot, "which-conference"},
+    {enterMyConference, fillNothing, nullptr, nullptr},
+    {closeConference, fillNothing, nullptr, nullptr},
+    {queryConference, fillSaidTime, nullptr, nullptr},
+    {addBuddy, fillAccount, accountSlot, "whom-to-add"},
+};
+
+} // namespace
+
+void fillTime(Outcome &outcome, const TimeExpression &time, const QString &said, const QDateTime &now)
+{
+    const ResolvedTime resolved = resolveTime(time, now);
+    if (resolved.problem == ResolvedTime::Problem::None)
+        outcome.addSlot(datetimeSlot, said, suggestedDatetime(resolved));
+    else
+        outcome.answer = problemAnswer(resolved.problem);
+}
+
+QString missingSlotQuestion(const Outcome &outcome)
+{
+    for (const auto &row : intentTable) {
+        if (outcome.intent == QLatin1String(row.intent) && row.required != nullptr &&
+            !outcome.hasSlot(row.required))
+            return QLatin1String(row.question);
+    }
+    return {};
+}
+
+Outcome interpret(const QString &sentence, const QDateTime &now, const ContactIndex &contacts)
+{
+    Outcome outcome;
+    if (sentence.size() > longestSentence) {
+        outcome.answer = QStringLiteral("too-long");
+        return outcome;
+    }
+    return interpret(Reading(sentence, contacts), now);
+}
+
+Outcome interpret(const Reading &reading, const QDateTime &now)
+{
+    Outcome outcome;
+    const QString decision = decideIntent(reading);
+    if (decision.startsWith(QLatin1Char('?'))) {
+        outcome.answer = decision.mid(2);
+        return outcome;
+    }
+    outcome.intent = decision;
+    for (const auto &row : intentTable) {
+        if (outcome.intent == QLatin1String(row.intent))
+            row.fill(outcome, reading, now);
+    }
+    if (outcome.answer.isEmpty())
+        outcome.answer = missingSlotQuestion(outcome);
+    return outcome;
+}
+
+} // namespace understanding

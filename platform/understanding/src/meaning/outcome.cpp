@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "meaning/outcome.h"
+
+#include <algorithm>
+
+namespace understanding {
+
+bool Outcome::hasSlot(const char *name) const
+{
+    return std::any_of(slotList.cbegin(), slotList.cend(),
+                       [name](const Slot &slot) { return slot.name == QLatin1String(name); });
+}
+
+void Outcome::addSlot(const char *name, const QString &value, const QString &normValue)
+{
+    slotList.append({QLatin1String(name), value, normValue});
+}
+
+} // namespace understanding

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "names/namefinder.h"
+#include "text/sentence.h"
+#include "time/timeresolver.h"
+#include "words/contactindex.h"
+#include "words/token.h"
+
+#include <QDateTime>
+
+namespace understanding {
+
+/// A piece of a sentence that a slot may hold.
+struct Said
+{
+    int position = 0;
+    int length = 0;
+    QString value;     ///< as it was typed; empty for nothing
+    QString normValue; ///< as it is meant
+
+    bool isEmpty() const { return normValue.isEmpty(); }
+};
+
+/// Everything that can be found in one sentence before anybody decides what it wants.
+class Reading final
+{
+public:
+    Reading(const QString &sentence, const ContactIndex &contacts);
+
+    const Sentence &sentence() const { return m_sentence; }
+    const Tokens &tokens() const { return m_tokens; }
+    const std::vector<FoundName> &names() const { return m_names; }
+    const Said &conferenceNumber() const { return m_number; }
+    const Said &password() const { return m_password; }
+    /// A string of digits, letters or a mail address, whatever it is for.
+    const Said &account() const { return m_account; }
+    /// The word that opens the conference, as it was said.
+    const Said &openVerb() const { return m_openVerb; }
+    /// How the times of the sentence were said, together; empty where there is none.
+    const QString &timeSaid() const { return m_timeSaid; }
+    const TimeExpression &time() const { return m_time; }
+    int timeCount() const { return m_timeCount; }
+
+    /// True for a class of word that stands outside of what the conference is about.
+    bool has(WordClass wordClass) const { return m_classes.has(wordClass); }
+
+private:
+    Said part(int position, int length, const QString &normValue) const;
+    Said digitsOf(const Token &token) const;
+    void collectClasses();
+    void collectTimes();
+    void collectNumbers();
+    bool isLabelled(std::size_t number) const;
+    bool takePassword(std::size_t label);
+    void collectOpenVerb();
+
+    Sentence m_sentence;
+    Tokens m_tokens;
+    std::vector<FoundName> m_names;
+    WordClasses m_classes;
+    Said m_number;
+    Said m_password;
+    Said m_account;
+    Said m_openVerb;
+    QString m_timeSaid;
+    TimeExpression m_time;
+    int m_timeCount = 0;
+};
+
+} // namespace understanding

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "words/token.h"
+
+#include <QStringList>
+
+namespace understanding {
+
+/// Somebody a sentence names.
+struct FoundName
+{
+    int position = 0;
+    QString said;               ///< as it was typed
+    QString name;               ///< as the contacts spell it
+    bool behindTrigger = false; ///< somebody is called, not only mentioned
+};
+
+/// The people of a sentence in their order: known contacts wherever they stand, unknown ones behind the words
+/// that call people (叫上, 和, 参会人).
+std::vector<FoundName> findNames(const QString &raw, const QString &text, const Tokens &tokens);
+
+/// The people of a sentence that answers "whom?", where no word calls them: 赵云和马超.
+std::vector<FoundName> findAnsweredNames(const QString &raw, const QString &text, const Tokens &tokens);
+
+} // namespace understanding

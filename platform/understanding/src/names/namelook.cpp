@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "names/namelook.h"
+
+#include "text/rulefile.h"
+#include "words/lexicon.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <limits>
+
+namespace understanding {
+
+namespace {
+
+constexpr int longestFullName = 4;
+
+/// How common \a character is as a family name, 0 being the most common; -1 for none.
+int surnameRank(QChar character)
+{
+    static const QHash<QChar, int> ranks = [] {
+        QHash<QChar, int> loaded;
+        const QStringList lines = ruleLines(QStringLiteral("surnames.txt"));
+        for (const QString &line : lines) {
+            for (const QChar surname : line) {
+                if (!loaded.contains(surname))
+                    loaded.insert(surname, loaded.size());
+            }
+        }
+        return loaded;
+    }();
+    return ranks.value(character, -1);
+}
+
+bool isSurname(QChar character)
+{
+    return surnameRank(character) >= 0;
+}
+
+bool isLatinName(const QString &text)
+{
+    return std::all_of(text.cbegin(), text.cend(),
+                       [](QChar character) { return character.unicode() < 0x80; });
+}
+
+bool endsLikeName(const QString &text)
+{
+    static const QStringList endings = {
+        QStringLiteral("部"),     QStringLiteral("部门"), QStringLiteral("组"),     QStringLiteral("团队"),
+        QStringLiteral("中心"),   QStringLiteral("总"),   QStringLiteral("工"),     QStringLiteral("老师"),
+        QStringLiteral("经理"),   QStringLiteral("主任"), QStringLiteral("哥"),     QStringLiteral("姐"),
+        QStringLiteral("博士"),   QStringLiteral("教授"), QStringLiteral("科"),     QStringLiteral("处"),
+        QStringLiteral("同学"),   QStringLiteral("先生"), QStringLiteral("女士"),   QStringLiteral("总监"),
+        QStringLiteral("公司"),   QStringLiteral("总部"), QStringLiteral("办公室"), QStringLiteral("集团"),
+        QStringLiteral("事业部"), QStringLiteral("学院"), QStringLiteral("小组")};
+    return std::any_of(endings.cbegin(), endings.cend(), [&](const QString &ending) {
+        return text.size() > ending.size() && text.endsWith(ending);
+    });
+}
+
+bool startsTwoCharacterSurname(const QString &text)
+{
+    static const QStringList surnames = {
+        QStringLiteral("欧阳"), QStringLiteral("司马"), QStringLiteral("诸葛"), QStringLiteral("上官"),
+        QStringLiteral("司徒"), QStringLiteral("东方"), QStringLiteral("夏侯"), QStringLiteral("皇甫"),
+        QStringLiteral("令狐"), QStringLiteral("尉迟"), QStringLiteral("公孙"), QStringLiteral("慕容"),
+        QStringLiteral("端木"), QStringLiteral("南宫"), QStringLiteral("独孤"), QStringLiteral("百里"),
+        QStringLiteral("宇文"), QStringLiteral("长孙")};
+    return std::any_of(surnames.cbegin(), surnames.cend(),
+                       [&](const QString &name) { return text.startsWith(name); });
+}
+
+} // namespace
+
+bool looksLikeName(const QString &text)
+{
+    static const QString prefixes = QStringLiteral("小老阿大");
+    if (text.size() < 2)
+        return false;
+    if (isLatinName(text))
+        return text.at(0).isLetter();
+    if (endsLikeName(text) || startsTwoCharacterSurname(text))
+        return true;
+    return text.size() <= longestFullName &&
+           (isSurname(text.at(0)) || (text.size() <= 3 && prefixes.contains(text.at(0))));
+}
+
+namespace {
+
+/// The length of the name at \a at when names stand side by side: the next one begins with a family name, the
+/// more common one where both lengths are possible (李雷韩梅梅). 0 for no name.
+int nameLengthAt(const QString &text, int at)
+{
+    int length = 0;
+    int bestRank = std::numeric_limits<int>::max();
+    for (const int candidate : {2, 3}) {
+        const int end = at + candidate;
+        const bool isLast = end == text.size();
+        const int rank = isLast ? 0 : end + 2 <= text.size() ? surnameRank(text.at(end)) : -1;
+        if (rank >= 0 && rank < bestRank) {
+            bestRank = rank;
+            length = candidate;
+        }
+    }
+    return length;
+}
+
+} // namespace
+
+QStringList splitNames(const QString &text)
+{
+    static const QString titles = QStringLiteral("总工哥姐");
+    // A name of four characters with a family name of two is one.
+    if (text.size() < 4 || text.size() > 12 || startsTwoCharacterSurname(text) || !isSurname(text.at(0)))
+        return {text};
+    if (endsLikeName(text) && !titles.contains(text.at(1))) // 张总李总 are two, 孙中山中心 is one
+        return {text};
+    QStringList names;
+    int at = 0;
+    while (at < text.size()) {
+        const int length = nameLengthAt(text, at);
+        if (length == 0)
+            return {text};
+        names.append(text.mid(at, length));
+        at += length;
+    }
+    return names;
+}
+
+QString withoutParticles(const QString &text)
+{
+    static const QString leading = QStringLiteral("的也都再就先在要想了个请给对着还又把将跟是有帮替");
+    static const QString trailing = QStringLiteral(
+        "也都来去再就先在要想的给吧呢啊呀了过到于得能可需将又还会用里并且吗嘛上下把做成为参加");
+    int start = 0;
+    int end = text.size();
+    // What is left has two characters at least: 王来 is a name.
+    while (end - start > 2 && leading.contains(text.at(start)))
+        ++start;
+    while (end - start > 2 && trailing.contains(text.at(end - 1)))
+        --end;
+    const QString rest = text.mid(start, end - start);
+    if (rest.size() > 2 || rest.isEmpty())
+        return rest;
+    const bool onlyParticles = std::all_of(rest.cbegin(), rest.cend(), [&](QChar character) {
+        return leading.contains(character) || trailing.contains(character);
+    });
+    return onlyParticles ? QString() : rest;
+}
+
+} // namespace understanding

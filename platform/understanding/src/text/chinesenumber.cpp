@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "text/chinesenumber.h"
+
+namespace understanding {
+
+namespace {
+
+const QString &digitCharacters()
+{
+    static const QString characters = QStringLiteral("零一二三四五六七八九");
+    return characters;
+}
+
+constexpr QChar ten(0x5341);       // 十
+constexpr QChar hundred(0x767e);   // 百
+constexpr QChar twenty(0x5eff);    // 廿
+constexpr QChar thirty(0x5345);    // 卅
+constexpr QChar two(0x4e24);       // 两
+constexpr QChar one(0x5e7a);       // 幺
+constexpr QChar zero(0x3007);      // 〇
+constexpr QChar pieces(0x4e2a);    // 个
+constexpr int longestQuantity = 8; // 九百九十九 is five, 2026 four; more is no quantity
+
+bool isAsciiDigit(QChar character)
+{
+    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
+}
+
+NumberMatch readAsciiQuantity(const QString &text, int position)
+{
+    NumberMatch match;
+    int at = position;
+    while (at < text.size() && isAsciiDigit(text.at(at))) {
+        if (at - position == 4)
+            return {};
+        match.value = match.value * 10 + text.at(at).digitValue();
+        ++at;
+    }
+    match.length = at - position;
+    return match;
+}
+
+/// 二十五, 一百零五, 十: digits are multiplied by what follows them.
+NumberMatch readMultiplied(const QString &text, int position)
+{
+    int total = 0;
+    int pending = -1;
+    int smallestUnit = 1000;
+    int at = position;
+    for (; at < text.size() && at - position < longestQuantity; ++at) {
+        const QChar character = text.at(at);
+        const int unit = character == hundred ? 100 : character == ten ? 10 : 0;
+        if (unit != 0) {
+            if (unit >= smallestUnit || (pending == 0 && unit != 10))
+                break;
+            total += (pending < 0 ? 1 : pending) * unit;
+            smallestUnit = unit;
+            pending = -1;
+        } else if ((character == twenty || character == thirty) && at == position) {
+            total = character == twenty ? 20 : 30;
+            smallestUnit = 10;
+        } else {
+            const int digit = character == two ? 2 : digitValue(character);
+            if (digit < 0 || isAsciiDigit(character) || character == one || pending > 0 ||
+                (pending == 0 && digit == 0))
+                break;
+            pending = digit;
+        }
+    }
+    if (at == position)
+        return {};
+    return {total + qMax(pending, 0), at - position};
+}
+
+} // namespace
+
+int digitValue(QChar character)
+{
+    if (isAsciiDigit(character))
+        return character.digitValue();
+    if (character == one)
+        return 1;
+    if (character == zero)
+        return 0;
+    return digitCharacters().indexOf(character);
+}
+
+NumberMatch readQuantity(const QString &text, int position)
+{
+    if (position >= text.size())
+        return {};
+    if (isAsciiDigit(text.at(position)))
+        return readAsciiQuantity(text, position);
+    // Digits side by side are read one by one: 二零二六, 三零.
+    int digits = 0;
+    int value = 0;
+    while (digits < 4 && position + digits < text.size()) {
+        const QChar character = text.at(position + digits);
+        const int digit = digitValue(character);
+        if (digit < 0 || character == one || isAsciiDigit(character))
+            break;
+        value = value * 10 + digit;
+        ++digits;
+    }
+    const QChar next = position + digits < text.size() ? text.at(position + digits) : QChar();
+    if (digits >= 2 && next != ten && next != hundred)
+        return {value, digits};
+    return readMultiplied(text, position);
+}
+
+int digitStringEnd(const QString &text, int position)
+{
+    int end = position;
+    int at = position;
+    while (at < text.size()) {
+        const QChar character = text.at(at);
+        const bool repeated = at + 2 < text.size() && text.at(at + 1) == pieces &&
+                              digitValue(text.at(at + 2)) >= 0 &&
+                              (character == two || digitValue(character) >= 2);
+        if (repeated) {
+            at += 3;
+            end = at;
+        } else if (digitValue(character) >= 0) {
+            end = ++at;
+        } else if (end > position && (character == QLatin1Char(' ') || character == QLatin1Char('-'))) {
+            ++at;
+        } else {
+            break;
+        }
+    }
+    return end;
+}
+
+QString digitString(const QString &said)
+{
+    QString digits;
+    bool onlyDigits = true;
+    for (int at = 0; at < said.size(); ++at) {
+        const QChar character = said.at(at);
+        const int value = character == two ? 2 : digitValue(character);
+        if (at + 2 < said.size() && said.at(at + 1) == pieces && value >= 2 &&
+            digitValue(said.at(at + 2)) >= 0) {
+            digits += QString(value, QChar(u'0' + digitValue(said.at(at + 2))));
+            at += 2;
+        } else if (digitValue(character) >= 0) {
+            digits += QChar(u'0' + digitValue(character));
+        } else if (character != QLatin1Char(' ')) {
+            onlyDigits = onlyDigits && character == QLatin1Char('-');
+            digits += character;
+        }
+    }
+    // Dashes group the digits of a number; in an account they belong to it.
+    return onlyDigits ? digits.remove(QLatin1Char('-')) : digits;
+}
+
+} // namespace understanding

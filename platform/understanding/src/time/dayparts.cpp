@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "time/dayparts.h"
+
+#include "text/rulefile.h"
+
+#include <algorithm>
+
+namespace understanding {
+
+namespace {
+
+DayPart parsePart(const QString &line)
+{
+    const QStringList fields = line.split(QLatin1Char('\t'));
+    DayPart part;
+    part.word = fields.at(0);
+    part.firstHour = fields.at(1).toInt();
+    part.lastHour = fields.at(2).toInt();
+    const QStringList shifted = fields.at(3).split(QLatin1Char('-'), Qt::SkipEmptyParts);
+    if (shifted.size() == 2) {
+        part.firstShifted = shifted.at(0).toInt();
+        part.lastShifted = shifted.at(1).toInt();
+    }
+    part.start = QTime::fromString(fields.at(4), QStringLiteral("hh:mm"));
+    return part;
+}
+
+std::vector<DayPart> loadParts()
+{
+    std::vector<DayPart> parts;
+    const QStringList lines = ruleLines(QStringLiteral("dayparts.tsv"));
+    for (const QString &line : lines)
+        parts.push_back(parsePart(line));
+    // Longest first, so that the first hit is the longest.
+    std::stable_sort(parts.begin(), parts.end(),
+                     [](const DayPart &a, const DayPart &b) { return a.word.size() > b.word.size(); });
+    return parts;
+}
+
+} // namespace
+
+int DayPart::hourFor(int saidHour) const
+{
+    constexpr int halfDay = 12;
+    constexpr int wholeDay = 24;
+    int hour = saidHour;
+    if (saidHour >= firstShifted && saidHour <= lastShifted)
+        hour += halfDay;
+    else if (lastHour >= wholeDay && saidHour <= lastHour - wholeDay)
+        hour += wholeDay;
+    return hour >= firstHour && hour <= lastHour ? hour : -1;
+}
+
+const std::vector<DayPart> &dayParts()
+{
+    static const std::vector<DayPart> parts = loadParts();
+    return parts;
+}
+
+int dayPartAt(const QString &text, int position, bool shortForms)
+{
+    const std::vector<DayPart> &parts = dayParts();
+    for (std::size_t row = 0; row < parts.size(); ++row) {
+        const QString &word = parts[row].word;
+        if ((shortForms || word.size() > 1) && text.midRef(position, word.size()) == word)
+            return static_cast<int>(row);
+    }
+    return -1;
+}
+
+} // namespace understanding

@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "time/timeexpression.h"
+
+#include <QString>
+
+namespace understanding {
+
+/// Reads a day (明天, 下周三, 3月20号, 2026-03-20) at \a position into \a expression and returns how many
+/// characters it takes, 0 for none. A day that cannot be told (下周, 三月) sets \a unclear.
+int readDay(const QString &text, int position, TimeExpression &expression, bool &unclear);
+
+} // namespace understanding

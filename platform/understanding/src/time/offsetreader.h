@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "time/timeexpression.h"
+
+#include <QString>
+
+namespace understanding {
+
+/// Reads a length of time (一个半小时, 1.5小时, 二十分钟, 两天) at \a position; \a isOffset becomes true
+/// where it is counted from now (半小时后, 过二十分钟). Returns how many characters it takes, 0 for none.
+int readLengthOfTime(const QString &text, int position, TimeExpression &expression, bool &isOffset);
+
+} // namespace understanding

@@ -1,0 +1,188 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "words/clausereader.h"
+
+#include "text/scan.h"
+
+namespace understanding {
+
+namespace {
+
+constexpr int longestConferenceName = 8;
+constexpr std::size_t farthestConference = 30; // tokens behind its verb; keeps long sentences linear
+
+bool isConference(const Token &token)
+{
+    return token.isAny(WordClass::Conference | WordClass::Video);
+}
+
+void makePlain(Token &token)
+{
+    token.kind = Token::Kind::Other;
+    token.classes = WordClasses();
+}
+
+/// 会 is a conference unless it is "can" or "will": 会唱歌.
+void settleConferences(const QString &text, Tokens &tokens)
+{
+    static const QString mayFollow = QStringLiteral("的在要需得完没总定开");
+    for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
+        Token &token = tokens[at];
+        if (token.length != 1 || !token.is(WordClass::Conference))
+            continue;
+        const Token &next = tokens[at + 1];
+        const bool verbFollows = (next.kind == Token::Kind::Other || next.is(WordClass::Plain)) &&
+                                 !mayFollow.contains(text.at(next.position));
+        const bool opened = at > 0 && tokens[at - 1].isAny(WordClass::WeakOpen | WordClass::Measure);
+        if (verbFollows && !opened)
+            makePlain(token);
+    }
+}
+
+/// True when a conference follows the verb at \a verb, with nothing but its description between.
+bool governsConference(const QString &text, const Tokens &tokens, std::size_t verb)
+{
+    bool described = false;
+    for (std::size_t at = verb + 1; at < qMin(tokens.size(), verb + farthestConference); ++at) {
+        const Token &token = tokens[at];
+        if (token.inTopic)
+            continue;
+        if (isConference(token))
+            return true;
+        constexpr WordClasses describing =
+            WordClass::NameTail | WordClass::Measure | WordClass::OpenParticle | WordClass::Filler |
+            WordClass::Topic | WordClass::UnclearDay | WordClass::UnclearSoon | WordClass::Recurring |
+            WordClass::Zone | WordClass::Lunar | WordClass::Festival | WordClass::Question;
+        if (token.kind == Token::Kind::Time || token.kind == Token::Kind::Duration ||
+            token.isAny(describing)) {
+            described = true;
+            if (token.is(WordClass::Topic)) // 开个讨论预算的会
+                continue;
+            continue;
+        }
+        const bool companions =
+            token.isAny(WordClass::Trigger | WordClass::Separator) || token.kind == Token::Kind::Name;
+        if (described && companions) // 开个和张伟的会
+            continue;
+        // 约张伟明天的会: the one verb that takes people first.
+        const bool meets = charAt(text, tokens[verb].position) == QChar(u'约') && tokens[verb].length == 1;
+        if (meets && (companions || token.kind == Token::Kind::Other || token.kind == Token::Kind::Latin))
+            continue;
+        const bool ownName = token.kind == Token::Kind::Other && token.length <= longestConferenceName;
+        if (ownName && (described || (at == verb + 1 && text.at(token.position) != QChar(u'的'))))
+            continue;
+        return false;
+    }
+    return false;
+}
+
+bool isAtClauseEnd(const Tokens &tokens, std::size_t at)
+{
+    return at >= tokens.size() || tokens[at].is(WordClass::Punctuation) ||
+           tokens[at].kind == Token::Kind::Space;
+}
+
+/// 项目周会，帮我建一下: the conference stands before its verb.
+bool followsConference(const Tokens &tokens, std::size_t verb)
+{
+    std::size_t at = verb + 1;
+    while (at < tokens.size() &&
+           tokens[at].isAny(WordClass::Measure | WordClass::OpenParticle | WordClass::Filler))
+        ++at;
+    if (at == verb + 1 || !isAtClauseEnd(tokens, at))
+        return false;
+    for (std::size_t before = 0; before < verb; ++before) {
+        if (tokens[before].is(WordClass::Conference))
+            return true;
+    }
+    return false;
+}
+
+bool isFollowedByDe(const QString &text, const Token &token)
+{
+    return charAt(text, token.end()) == QChar(u'的');
+}
+
+void settleOpening(const QString &text, Tokens &tokens)
+{
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        Token &token = tokens[at];
+        if (token.is(WordClass::StrongOpen)) {
+            // 会议安排 is a noun, 预约的会议 one that exists already.
+            const bool noun = isFollowedByDe(text, token) ||
+                              (at > 0 && tokens[at - 1].is(WordClass::Conference) &&
+                               token.is(WordClass::WeakTrigger) && isAtClauseEnd(tokens, at + 1));
+            if (noun)
+                token.classes.remove(WordClass::StrongOpen);
+        }
+        if (token.is(WordClass::GoverningOpen) && !governsConference(text, tokens, at))
+            token.classes.remove(WordClass::GoverningOpen);
+        if (!token.is(WordClass::WeakOpen))
+            continue;
+        const bool insideName = at > 1 && tokens[at - 1].kind == Token::Kind::Other &&
+                                tokens[at - 1].length == 1 &&
+                                tokens[at - 2].isAny(WordClass::Trigger | WordClass::Separator) &&
+                                at + 1 < tokens.size() && tokens[at + 1].kind == Token::Kind::Other;
+        // 请李静来一下会议室: somebody else comes.
+        const bool comes =
+            text.at(token.position) == QChar(u'来') && at > 0 &&
+            (tokens[at - 1].kind == Token::Kind::Name || tokens[at - 1].kind == Token::Kind::Other);
+        if (insideName || (comes && startsAt(text, token.end(), QStringLiteral("一下"))) ||
+            !(governsConference(text, tokens, at) || followsConference(tokens, at)))
+            token.classes.remove(WordClass::WeakOpen);
+    }
+}
+
+/// 把张伟请进会议 calls somebody in, 请进会议 only asks politely.
+void settleCalls(const QString &text, Tokens &tokens)
+{
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        const bool somebodyBefore = at > 0 && (tokens[at - 1].kind == Token::Kind::Name ||
+                                               tokens[at - 1].kind == Token::Kind::Other ||
+                                               tokens[at - 1].kind == Token::Kind::Latin ||
+                                               tokens[at - 1].isAny(WordClass::Title | WordClass::NameTail));
+        if (tokens[at].is(WordClass::Arrive) && text.at(tokens[at].position) == QChar(u'请') &&
+            !somebodyBefore)
+            tokens[at].classes.remove(WordClass::Arrive);
+    }
+}
+
+/// What a conference is about runs to the end of its clause or to the conference: 关于预算的会议.
+void settleTopics(Tokens &tokens)
+{
+    bool inTopic = false;
+    for (Token &token : tokens) {
+        const bool newTrigger =
+            token.is(WordClass::Trigger) && !token.is(WordClass::WeakTrigger) && token.length > 1;
+        if (token.is(WordClass::Conference) || token.is(WordClass::Punctuation) || newTrigger ||
+            token.is(WordClass::NameLabel))
+            inTopic = false;
+        token.inTopic = inTopic;
+        if (token.is(WordClass::Topic))
+            inTopic = true;
+    }
+}
+
+/// 明天三点开会如何 proposes, 如何开会 asks for help.
+void settleQuestions(Tokens &tokens)
+{
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        if (tokens[at].is(WordClass::HowTo) && tokens[at].is(WordClass::Filler) &&
+            isAtClauseEnd(tokens, at + 1))
+            tokens[at].classes.remove(WordClass::HowTo);
+    }
+}
+
+} // namespace
+
+void settleWords(const QString &text, Tokens &tokens)
+{
+    settleQuestions(tokens);
+    settleConferences(text, tokens);
+    settleTopics(tokens);
+    settleOpening(text, tokens);
+    settleCalls(text, tokens);
+}
+
+} // namespace understanding

@@ -1,0 +1,198 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "words/lexer.h"
+
+#include "text/chinesenumber.h"
+#include "text/scan.h"
+#include "time/timereader.h"
+#include "words/lexicon.h"
+
+namespace understanding {
+
+namespace {
+
+constexpr int shortestSpokenNumber = 3; // 一下, 二三 are no numbers yet
+
+bool isLatinLetterOrDigit(QChar character)
+{
+    return character.unicode() < 0x80 && character.isLetterOrNumber();
+}
+
+class Lexer final
+{
+public:
+    Lexer(const QString &text, const ContactIndex &contacts) : m_text(text), m_contacts(contacts) {}
+
+    Tokens run()
+    {
+        while (m_at < m_text.size()) {
+            if (!takeName() && !takeTimeOrNumberOrWord())
+                takeOther();
+        }
+        return std::move(m_tokens);
+    }
+
+private:
+    Token &append(Token::Kind kind, int length)
+    {
+        Token token;
+        token.kind = kind;
+        token.position = m_at;
+        token.length = length;
+        m_tokens.push_back(std::move(token));
+        m_at += length;
+        return m_tokens.back();
+    }
+
+    void takeOther()
+    {
+        if (m_text.at(m_at) == QLatin1Char(' '))
+            append(Token::Kind::Space, 1);
+        else if (!m_tokens.empty() && m_tokens.back().kind == Token::Kind::Other)
+            ++m_tokens.back().length, ++m_at;
+        else
+            append(Token::Kind::Other, 1);
+    }
+
+    bool takeName()
+    {
+        const QString name = m_contacts.longestAt(m_text, m_at);
+        if (name.isEmpty())
+            return false;
+        append(Token::Kind::Name, name.size()).name = name;
+        return true;
+    }
+
+    /// A name that nobody knows may begin like a time: 和周一鸣, 和高明早上.
+    bool isInUnknownName(const TimeMatch &match) const
+    {
+        if (match.kind == TimeMatch::Kind::None || m_tokens.empty())
+            return false;
+        const Token &before = m_tokens.back();
+        constexpr WordClasses leadsToNames = WordClass::Trigger | WordClass::Separator | WordClass::NameLabel;
+        const bool afterLead = before.isAny(leadsToNames);
+        if (afterLead && match.expression.isBareWeekday()) {
+            const int end = m_at + match.length;
+            return end < m_text.size() && readTime(m_text, end).kind == TimeMatch::Kind::None &&
+                   Lexicon::instance().longestAt(m_text, end).length == 0 && m_text.at(end) != QChar(u'的') &&
+                   m_text.at(end) != QLatin1Char(' ') && !isLatinLetterOrDigit(m_text.at(end));
+        }
+        if (before.kind != Token::Kind::Other)
+            return false;
+        const TimeMatch later = readTime(m_text, m_at + 1);
+        const bool laterIsTime = later.kind == TimeMatch::Kind::Time && !later.expression.impossible;
+        // 李四四点; 张三周三 holds no three weeks.
+        const bool unlikely =
+            match.expression.impossible || (match.kind == TimeMatch::Kind::Duration && before.length == 1);
+        if (unlikely)
+            return laterIsTime;
+        // One character is no name: 和高明早上 is 高明, 和王五十分钟后 is 王五.
+        const bool alone =
+            before.length == 1 && m_tokens.size() > 1 && m_tokens[m_tokens.size() - 2].isAny(leadsToNames);
+        static const QString givenNames = QStringLiteral("明晨一二三四五六七八九");
+        return alone && laterIsTime && givenNames.contains(m_text.at(m_at));
+    }
+
+    bool takeTimeOrNumberOrWord()
+    {
+        const WordMatch word = Lexicon::instance().longestAt(m_text, m_at);
+        const TimeMatch time = readTime(m_text, m_at);
+        if (time.kind != TimeMatch::Kind::None && time.length >= word.length && !isInUnknownName(time)) {
+            takeTime(time);
+            return true;
+        }
+        if (takeNumberOrLatin(word.length))
+            return true;
+        if (word.length == 0)
+            return false;
+        append(Token::Kind::Word, word.length).classes = word.classes;
+        return true;
+    }
+
+    void takeTime(const TimeMatch &time)
+    {
+        switch (time.kind) {
+        case TimeMatch::Kind::UnclearDay: {
+            // 下周下午三点: the hour is kept for when the day is known.
+            Token &token = append(Token::Kind::Word, time.length);
+            token.classes = WordClass::UnclearDay;
+            token.time = time.expression;
+            break;
+        }
+        case TimeMatch::Kind::Duration:
+            append(Token::Kind::Duration, time.length);
+            break;
+        default:
+            append(Token::Kind::Time, time.length).time = time.expression;
+        }
+    }
+
+    bool takeNumberOrLatin(int wordLength)
+    {
+        const int digits = numberEnd() - m_at;
+        const int latin = latinEnd() - m_at;
+        if (latin > digits && latin >= wordLength) {
+            append(Token::Kind::Latin, latin);
+            return true;
+        }
+        const bool ascii = m_text.at(m_at).unicode() < 0x80;
+        if (digits == 0 || digits <= wordLength || (!ascii && digits < shortestSpokenNumber))
+            return false;
+        append(Token::Kind::Number, digits);
+        return true;
+    }
+
+    /// The end of a string of digits; a group of digits that is a time of its own does not belong to it.
+    int numberEnd() const
+    {
+        const int end = digitStringEnd(m_text, m_at);
+        for (int at = m_at + 1; at < end; ++at) {
+            const QChar before = m_text.at(at - 1);
+            const bool groupStart = before == QLatin1Char(' ') && m_text.at(at) != QLatin1Char(' ');
+            if (groupStart && readTime(m_text, at).kind == TimeMatch::Kind::Time)
+                return digitStringEnd(m_text.left(at - 1), m_at);
+        }
+        return end;
+    }
+
+    /// The end of an account or a Latin name: letters, digits and the signs of a mail address, digits read
+    /// aloud behind.
+    int latinEnd() const
+    {
+        int at = m_at;
+        int end = m_at;
+        bool letters = false;
+        while (at < m_text.size()) {
+            const QChar character = m_text.at(at);
+            if (isLatinLetterOrDigit(character)) {
+                letters = letters || character.isLetter();
+                end = ++at;
+            } else if (at > m_at && QStringLiteral("@._-+").contains(character)) {
+                ++at;
+            } else {
+                break;
+            }
+        }
+        if (!letters)
+            return m_at;
+        const int spoken = digitStringEnd(m_text, end);
+        return spoken - end >= 2 && m_text.at(end) != QLatin1Char(' ') && m_text.at(end) != QLatin1Char('-')
+                   ? spoken
+                   : end;
+    }
+
+    const QString &m_text;
+    const ContactIndex &m_contacts;
+    Tokens m_tokens;
+    int m_at = 0;
+};
+
+} // namespace
+
+Tokens tokenize(const QString &text, const ContactIndex &contacts)
+{
+    return Lexer(text, contacts).run();
+}
+
+} // namespace understanding

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "words/wordclass.h"
+
+#include <QHash>
+#include <QString>
+
+#include <vector>
+
+namespace understanding {
+
+/// The class that the rule files call \a name, WordClass::Count for none.
+WordClass wordClassNamed(const QString &name);
+
+/// A word found in a text.
+struct WordMatch
+{
+    int length = 0;
+    WordClasses classes;
+};
+
+/// The words of the rule file words.txt, found by their first character and longest first.
+class Lexicon final
+{
+public:
+    static const Lexicon &instance();
+
+    /// The longest word at \a position; length 0 for none.
+    WordMatch longestAt(const QString &text, int position) const;
+
+    /// The classes of exactly \a word, none for a word that is not listed.
+    WordClasses classesOf(const QString &word) const { return m_words.value(word); }
+
+private:
+    Lexicon();
+    void addPattern(const QString &pattern, WordClass wordClass);
+    void addWord(const QString &word, WordClass wordClass);
+
+    struct Entry
+    {
+        QString word;
+        WordClasses classes;
+        WordClasses classesAtClauseEnd; ///< those marked with "$"
+    };
+    QHash<QString, WordClasses> m_words;
+    QHash<QString, WordClasses> m_wordsAtClauseEnd;
+    std::vector<std::vector<Entry>> m_byFirst;
+    std::vector<quint16> m_bucket; ///< by character; 0 is the empty bucket
+};
+
+} // namespace understanding

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "time/timeexpression.h"
+#include "words/wordclass.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace understanding {
+
+/// One piece of a sentence.
+struct Token
+{
+    enum class Kind {
+        Other,    ///< characters that no rule knows: the stuff of names and topics
+        Word,     ///< a word of the rules
+        Name,     ///< a known contact
+        Time,     ///< a moment or a day
+        Duration, ///< how long
+        Number,   ///< a string of digits
+        Latin,    ///< letters, perhaps with digits: a name or an account
+        Space
+    };
+    Kind kind = Kind::Other;
+    int position = 0;
+    int length = 0;
+    WordClasses classes;
+    QString name; ///< of a known contact
+    TimeExpression time;
+    bool inTopic = false; ///< part of what a conference is about
+
+    int end() const { return position + length; }
+    bool is(WordClass wordClass) const { return classes.has(wordClass); }
+    bool isAny(WordClasses any) const { return classes.intersects(any); }
+};
+
+using Tokens = std::vector<Token>;
+
+} // namespace understanding

@@ -1,0 +1,187 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "card/conferencerows.h"
+
+#include "card/cardicons.h"
+#include "card/cardtext.h"
+#include "card/conferencestate.h"
+
+#include <lumo/llabel.h>
+
+#include <QtCore/QDateTime>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QPushButton>
+
+namespace {
+
+constexpr int CaptionWidth = 60;
+constexpr int CaptionMinimumHeight = 20;
+constexpr int SpaceAfterCaption = 10;
+constexpr int TitleSpacing = 10;
+constexpr int SpaceBeforeState = 10;
+constexpr int StateSpacing = 5;
+constexpr qint64 MsecsPerMinute = 60000;
+constexpr int LineAlpha = 26;
+
+constexpr Qt::Alignment ContentLeft = Qt::AlignLeft | Qt::AlignVCenter;
+constexpr Qt::Alignment ContentRight = Qt::AlignRight | Qt::AlignVCenter;
+
+// Alignments in the place of a stretch, 129 and 130. They have settled how the width is shared since the
+// first card: the icon keeps its own and the text gets the rest. Numbers that are easier to explain would
+// move them.
+constexpr int TitleIconStretch = 1;
+constexpr int TitleTextStretch = static_cast<int>(ContentLeft);
+constexpr int StateStretch = static_cast<int>(ContentRight);
+static_assert(TitleTextStretch == 129 && StateStretch == 130, "the cards are laid out with these");
+
+LLabel *valueLabel(const QString &text, QWidget *parent)
+{
+    return CardText::label(text, LFontSizeManager::T6, CardText::ValueAlpha, parent);
+}
+
+QLabel *iconLabel(const char *icon, QWidget *parent)
+{
+    auto *label = new LLabel(parent);
+    label->setPixmap(CardIcons::pixmap(icon, *label));
+    return label;
+}
+
+LLabel *addValue(const ConferenceRows::CaptionedRow &row, const QString &text)
+{
+    LLabel *value = valueLabel(text, row.widget);
+    // A long text takes the width that there is, and none that it does not need.
+    const int needed = value->fontMetrics().horizontalAdvance(value->text());
+    value->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    value->setMaximumWidth(qMin(QWIDGETSIZE_MAX, qMax(value->sizeHint().width(), needed)));
+    row.layout->addWidget(value);
+    return value;
+}
+
+QWidget *valueRow(const QString &caption, const QString &value, QWidget *parent)
+{
+    const ConferenceRows::CaptionedRow row = ConferenceRows::captioned(caption, parent);
+    addValue(row, value);
+    return row.widget;
+}
+
+QLayout *stateLayout(const ConferenceState &state, QWidget *parent)
+{
+    auto *layout = new QHBoxLayout;
+    layout->setSpacing(StateSpacing);
+    QLabel *icon = iconLabel(state.icon, parent);
+    icon->setAlignment(ContentRight);
+    layout->addWidget(icon, StateStretch);
+    LLabel *text = CardText::coloredLabel(state.text, LFontSizeManager::T8, state.color, parent);
+    text->setElideMode(Qt::ElideNone);
+    text->setAlignment(ContentRight);
+    layout->addWidget(text, StateStretch);
+    return layout;
+}
+
+} // namespace
+
+QWidget *ConferenceRows::title(QWidget *parent)
+{
+    auto *row = new QWidget(parent);
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(TitleSpacing);
+    layout->addWidget(iconLabel(CardIcons::Contacts, row), TitleIconStretch);
+    LLabel *text = CardText::label(QStringLiteral("联系人"), LFontSizeManager::T8, CardText::TitleAlpha, row);
+    text->setAlignment(ContentLeft);
+    layout->addWidget(text, TitleTextStretch);
+    return row;
+}
+
+QWidget *ConferenceRows::status(const ContactDetailMsg &conference, bool isStatic, QWidget *parent)
+{
+    auto *row = new QWidget(parent);
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(SpaceBeforeState);
+    layout->setAlignment(Qt::AlignLeft);
+    layout->addWidget(valueLabel(conference.title, row), 1);
+    if (isStatic)
+        layout->addLayout(stateLayout(ConferenceState::of(conference.status), row));
+    return row;
+}
+
+QWidget *ConferenceRows::number(const ContactDetailMsg &conference, QWidget *parent)
+{
+    const CaptionedRow row = captioned(QStringLiteral("会议号"), parent);
+    addValue(row, conference.conferenceDialNumber)->setAlignment(ContentRight);
+    return row.widget;
+}
+
+QWidget *ConferenceRows::beginTime(const ContactDetailMsg &conference, QWidget *parent)
+{
+    const QDateTime start = QDateTime::fromMSecsSinceEpoch(conference.startTime);
+    const QString text = QStringLiteral("%1月%2日    %3")
+                             .arg(QString::number(start.date().month()), QString::number(start.date().day()),
+                                  start.time().toString(QStringLiteral("hh:mm:ss")));
+    return valueRow(beginTimeCaption(), text, parent);
+}
+
+QWidget *ConferenceRows::timeLength(const ContactDetailMsg &conference, QWidget *parent)
+{
+    const QString text = QStringLiteral("%1分钟").arg(conference.duration / MsecsPerMinute);
+    return valueRow(timeLengthCaption(), text, parent);
+}
+
+QWidget *ConferenceRows::personNum(const ContactDetailMsg &conference, QWidget *parent)
+{
+    return valueRow(personNumCaption(), QStringLiteral("%1人").arg(conference.participantLimit), parent);
+}
+
+QWidget *ConferenceRows::participants(const ContactDetailMsg &conference, QWidget *parent)
+{
+    QString names;
+    for (const UserInfo &participant : conference.participants)
+        names += participant.name + QLatin1Char(' ');
+    return valueRow(QStringLiteral("参与人"), names, parent);
+}
+
+ConferenceRows::CaptionedRow ConferenceRows::captioned(const QString &caption, QWidget *parent)
+{
+    auto *row = new QWidget(parent);
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->setAlignment(Qt::AlignLeft);
+    LLabel *label = CardText::label(caption, LFontSizeManager::T7, CardText::CaptionAlpha, row);
+    label->setFixedWidth(CaptionWidth);
+    label->setMinimumHeight(CaptionMinimumHeight);
+    layout->addWidget(label);
+    layout->addSpacing(SpaceAfterCaption);
+    return {row, layout, label};
+}
+
+QPushButton *ConferenceRows::line(QWidget *parent)
+{
+    auto *line = new QPushButton(parent);
+    line->setFlat(true);
+    line->setFocusPolicy(Qt::NoFocus);
+    line->setAttribute(Qt::WA_TransparentForMouseEvents);
+    line->setAccessibleName(QStringLiteral("分隔线"));
+    // A flat button shows nothing of its own.
+    line->setAutoFillBackground(true);
+    line->setBackgroundRole(QPalette::WindowText);
+    CardText::setColor(*line, LineAlpha);
+    return line;
+}
+
+QString ConferenceRows::beginTimeCaption()
+{
+    return QStringLiteral("时间");
+}
+
+QString ConferenceRows::timeLengthCaption()
+{
+    return QStringLiteral("时长");
+}
+
+QString ConferenceRows::personNumCaption()
+{
+    return QStringLiteral("人数");
+}

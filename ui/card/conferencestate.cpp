@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "card/conferencestate.h"
+
+#include "card/cardicons.h"
+
+namespace {
+constexpr int NotStarted = 0;
+constexpr int Ended = 2;
+} // namespace
+
+ConferenceState ConferenceState::of(int status)
+{
+    switch (status) {
+    case NotStarted:
+        return {QStringLiteral("未开始"), CardIcons::Waiting, QColor(0, 129, 255)};
+    case Ended:
+        return {QStringLiteral("已结束"), CardIcons::Ended, QColor(0, 0, 0, 77)};
+    default:
+        return {QStringLiteral("进行中"), CardIcons::InProgress, QColor(89, 190, 45)};
+    }
+}

@@ -3,25 +3,25 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QLibrary>
-#include <QtCore/QPluginLoader>
-#include <QtCore/QProcess>
-#include <QtWidgets/QApplication>
+#include <QApplication>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QLibrary>
+#include <QPluginLoader>
+#include <QProcess>
 
 #include <cstdio>
 #include <cstring>
 
 namespace {
 
-const char loadOption[] = "--load";
+const char LoadOption[] = "--load";
 /// Of a desktop where other programs' parts have loaded the platform's libraries already.
-const char loadOnDesktopOption[] = "--load-on-desktop";
+const char LoadOnDesktopOption[] = "--load-on-desktop";
 
 bool isLoadOption(const char *argument)
 {
-    return std::strcmp(argument, loadOption) == 0 || std::strcmp(argument, loadOnDesktopOption) == 0;
+    return std::strcmp(argument, LoadOption) == 0 || std::strcmp(argument, LoadOnDesktopOption) == 0;
 }
 
 /// In a process of its own, because a library is only loaded once: loads and instantiates, and prints
@@ -29,7 +29,7 @@ bool isLoadOption(const char *argument)
 int loadOnce(int argc, char **argv)
 {
     const QApplication application(argc, argv);
-    if (std::strcmp(argv[1], loadOnDesktopOption) == 0) {
+    if (std::strcmp(argv[1], LoadOnDesktopOption) == 0) {
         for (const char *library : {TOOLKIT_FILE, ABILITY_FILE}) {
             if (!QLibrary(QString::fromLocal8Bit(library)).load()) {
                 return 1;
@@ -82,11 +82,11 @@ void loadingAgainstAnEmptyPlugin(benchmark::State &state, const char *option)
     state.counters["empty_us"] = empty / count / 1000;
     state.counters["ratio"] = plugin / empty;
 }
-BENCHMARK_CAPTURE(loadingAgainstAnEmptyPlugin, withThePlatformsLibraries, loadOption)
+BENCHMARK_CAPTURE(loadingAgainstAnEmptyPlugin, withThePlatformsLibraries, LoadOption)
     ->UseManualTime()
     ->Iterations(40)
     ->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(loadingAgainstAnEmptyPlugin, alone, loadOnDesktopOption)
+BENCHMARK_CAPTURE(loadingAgainstAnEmptyPlugin, alone, LoadOnDesktopOption)
     ->UseManualTime()
     ->Iterations(40)
     ->Unit(benchmark::kMicrosecond);

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include <QtCore/QtPlugin>
-#include <QtWidgets/QWidget>
+#include <QWidget>
+#include <QtPlugin>
 
 /// The least that a plugin with widgets can be: what loading costs without us.
 class EmptyPlugin : public QObject

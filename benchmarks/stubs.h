@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QString>
+#include <QString>
 
 /**
  * What stands around the measured code: an ability that answers at once and a process check that costs

@@ -3,9 +3,9 @@
 
 #include "configmanager.h"
 
-#include <QtCore/QDebug>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
+#include <QDebug>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace {
 

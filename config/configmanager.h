@@ -6,8 +6,8 @@
 #include "iconfig.h"
 #include "jsonconfigloader.h"
 
-#include <QtCore/QMap>
-#include <QtCore/QObject>
+#include <QMap>
+#include <QObject>
 
 /**
  * The plugin's configuration: a JSON object of strings and objects, kept as a flat map from paths to strings.

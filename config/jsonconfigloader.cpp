@@ -3,9 +3,9 @@
 
 #include "jsonconfigloader.h"
 
-#include <QtCore/QDebug>
-#include <QtCore/QFile>
-#include <QtCore/QJsonDocument>
+#include <QDebug>
+#include <QFile>
+#include <QJsonDocument>
 
 JsonConfigLoader::JsonConfigLoader(QObject *parent) : QObject(parent) {}
 

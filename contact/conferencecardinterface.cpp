@@ -9,7 +9,7 @@
 
 #include <kelvane/kelvaneabilitymanager.h>
 
-#include <QtCore/QDebug>
+#include <QDebug>
 
 #include <exception>
 #include <memory>

@@ -7,7 +7,7 @@
 
 #include <speakmate/reply.h>
 
-#include <QtCore/QObject>
+#include <QObject>
 
 /**
  * The one gateway to the contacts application. Each operation is one request that blocks the calling thread

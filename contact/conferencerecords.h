@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <QtCore/QMetaType>
-#include <QtCore/QString>
-#include <QtCore/QVector>
+#include <QMetaType>
+#include <QString>
+#include <QVector>
 
 /**
  * @file

@@ -5,7 +5,7 @@
 
 #include "conferencerecords.h"
 
-#include <QtCore/QObject>
+#include <QObject>
 
 QT_BEGIN_NAMESPACE
 class QJsonArray;

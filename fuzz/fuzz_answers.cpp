@@ -7,11 +7,11 @@
 #include "jsonsource.h"
 #include "wire/resultcodes.h"
 
-#include <QtCore/QJsonDocument>
+#include <QJsonDocument>
 
 namespace {
 
-const JsonSource::Words keys = {"ret",           "ret",
+const JsonSource::Words Keys = {"ret",           "ret",
                                 "list",          "users",
                                 "not_join_list", "can_invite_num",
                                 "confId",        "conferenceDialNumber",
@@ -21,29 +21,29 @@ const JsonSource::Words keys = {"ret",           "ret",
                                 "participants",  "name",
                                 "remarkName",    "userId",
                                 "account",       "duplicate_list"};
-const JsonSource::Words words = {"OK",
-                                 "Success",
-                                 "Return",
-                                 "Duplicate",
-                                 "Not Found",
-                                 "No Conference",
-                                 "Conference Not Start",
-                                 "In Other Conference",
-                                 "Conference Create Too Frequently",
-                                 "Exceed Members Limit",
-                                 "Participant Out Limit",
-                                 "Time Overlap",
-                                 "Invalid Passcode",
-                                 "Update Failed",
-                                 "Is Your Friend",
-                                 "Exceed Friend Limit",
-                                 "Is Yourself",
-                                 "User Not Login",
-                                 "True",
-                                 "False",
-                                 "2",
-                                 "\\ud800",
-                                 "周会"};
+const JsonSource::Words OutcomeWords = {"OK",
+                                        "Success",
+                                        "Return",
+                                        "Duplicate",
+                                        "Not Found",
+                                        "No Conference",
+                                        "Conference Not Start",
+                                        "In Other Conference",
+                                        "Conference Create Too Frequently",
+                                        "Exceed Members Limit",
+                                        "Participant Out Limit",
+                                        "Time Overlap",
+                                        "Invalid Passcode",
+                                        "Update Failed",
+                                        "Is Your Friend",
+                                        "Exceed Friend Limit",
+                                        "Is Yourself",
+                                        "User Not Login",
+                                        "True",
+                                        "False",
+                                        "2",
+                                        "\\ud800",
+                                        "周会"};
 
 bool isCode(int code)
 {
@@ -61,7 +61,7 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    JsonSource source(data, size, keys, words);
+    JsonSource source(data, size, Keys, OutcomeWords);
     const QString answer = QString::fromUtf8(source.text());
     const bool isReadable = !QJsonDocument::fromJson(answer.toUtf8()).isNull();
 

@@ -7,27 +7,27 @@
 #include "jsonsource.h"
 #include "semantic/semanticparser.h"
 
-#include <QtCore/QJsonDocument>
+#include <QJsonDocument>
 
 namespace {
 
-const JsonSource::Words keys = {
+const JsonSource::Words Keys = {
     "intent", "intent",  "semantic",       "semantic",         "slots",  "slots", "name",
     "name",   "value",   "normValue",      "shouldEndSession", "answer", "text",  "voice_answer",
     "type",   "content", "suggestDatetime"};
-const JsonSource::Words words = {"CREATE_CONFERENCE",
-                                 "ADD_BUDDY",
-                                 "name",
-                                 "datetime",
-                                 "TTS",
-                                 "李雷",
-                                 "\\ud800",
-                                 "2026-03-07",
-                                 "2026-03-07T10:20:00",
-                                 "2026-02-29",
-                                 "9999-12-31T23:59:59",
-                                 "T",
-                                 "{\\\"suggestDatetime\\\": \\\"2026-03-08\\\"}"};
+const JsonSource::Words SlotWords = {"CREATE_CONFERENCE",
+                                     "ADD_BUDDY",
+                                     "name",
+                                     "datetime",
+                                     "TTS",
+                                     "李雷",
+                                     "\\ud800",
+                                     "2026-03-07",
+                                     "2026-03-07T10:20:00",
+                                     "2026-02-29",
+                                     "9999-12-31T23:59:59",
+                                     "T",
+                                     "{\\\"suggestDatetime\\\": \\\"2026-03-08\\\"}"};
 
 void readIntents(const QString &text)
 {
@@ -65,7 +65,7 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    JsonSource source(data, size, keys, words);
+    JsonSource source(data, size, Keys, SlotWords);
     const QString text = QString::fromUtf8(source.text());
     readIntents(text);
     readTime(text);

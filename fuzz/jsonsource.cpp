@@ -3,14 +3,14 @@
 
 #include "jsonsource.h"
 
-#include <QtCore/QtGlobal>
+#include <QtGlobal>
 
 #include <cstdlib>
 
 namespace {
 
-constexpr int deepest = 6;
-constexpr int mostMembers = 8;
+constexpr int Deepest = 6;
+constexpr int MostMembers = 8;
 
 } // namespace
 
@@ -36,7 +36,7 @@ QByteArray JsonSource::text()
 
 QByteArray JsonSource::value(int depth)
 {
-    switch (m_bytes.ConsumeIntegralInRange(0, depth < deepest ? 9 : 5)) {
+    switch (m_bytes.ConsumeIntegralInRange(0, depth < Deepest ? 9 : 5)) {
     case 0:
         return "null";
     case 1:
@@ -58,7 +58,7 @@ QByteArray JsonSource::value(int depth)
 QByteArray JsonSource::object(int depth)
 {
     QByteArray result = "{";
-    const int members = m_bytes.ConsumeIntegralInRange(0, mostMembers);
+    const int members = m_bytes.ConsumeIntegralInRange(0, MostMembers);
     for (int index = 0; index < members; ++index) {
         result += index == 0 ? "\"" : ",\"";
         result += pick(m_keys);
@@ -70,7 +70,7 @@ QByteArray JsonSource::object(int depth)
 QByteArray JsonSource::array(int depth)
 {
     QByteArray result = "[";
-    const int elements = m_bytes.ConsumeIntegralInRange(0, mostMembers);
+    const int elements = m_bytes.ConsumeIntegralInRange(0, MostMembers);
     for (int index = 0; index < elements; ++index) {
         result += (index == 0 ? "" : ",") + value(depth);
     }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QByteArray>
+#include <QByteArray>
 
 #include <fuzzer/FuzzedDataProvider.h>
 

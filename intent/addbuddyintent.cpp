@@ -6,19 +6,19 @@
 #include "replytable.h"
 #include "slotreader.h"
 
-#include <QtCore/QDebug>
+#include <QDebug>
 
 namespace {
 
 const QVector<ReplyRow<NoRecord>> &replies()
 {
     static const QVector<ReplyRow<NoRecord>> rows{
-        {ResultCode::Success, nullptr, QStringLiteral("已成功发送好友申请。"), nullptr, textOnly},
-        {ResultCode::AlreadyFriend, nullptr, QStringLiteral("您已经添加过该好友。"), nullptr, textOnly},
+        {ResultCode::Success, nullptr, QStringLiteral("已成功发送好友申请。"), nullptr, TextOnly},
+        {ResultCode::AlreadyFriend, nullptr, QStringLiteral("您已经添加过该好友。"), nullptr, TextOnly},
         {ResultCode::FriendLimit, nullptr, QStringLiteral("抱歉，您的好友已超过最大限制。"), nullptr,
-         textOnly},
-        {ResultCode::NotFound, nullptr, QStringLiteral("抱歉，没有找到该联系人。"), nullptr, textOnly},
-        {ResultCode::Oneself, nullptr, QStringLiteral("抱歉，无法添加自己为好友。"), nullptr, textOnly},
+         TextOnly},
+        {ResultCode::NotFound, nullptr, QStringLiteral("抱歉，没有找到该联系人。"), nullptr, TextOnly},
+        {ResultCode::Oneself, nullptr, QStringLiteral("抱歉，无法添加自己为好友。"), nullptr, TextOnly},
     };
     return rows;
 }

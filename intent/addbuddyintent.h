@@ -5,7 +5,7 @@
 
 #include "ireplyableintent.h"
 
-#include <QtCore/QObject>
+#include <QObject>
 
 /// Sends a friend request to an account.
 class AddBuddyIntent : public QObject, public IReplyableIntent

@@ -10,9 +10,9 @@ namespace {
 const QVector<ReplyRow<NoRecord>> &replies()
 {
     static const QVector<ReplyRow<NoRecord>> rows{
-        {ResultCode::Success, nullptr, QStringLiteral("好的。"), nullptr, textOnly},
+        {ResultCode::Success, nullptr, QStringLiteral("好的。"), nullptr, TextOnly},
         // Not the words that inviting uses for the same outcome.
-        {ResultCode::NoConference, nullptr, QStringLiteral("您没有正在开始的视频会议。"), nullptr, textOnly},
+        {ResultCode::NoConference, nullptr, QStringLiteral("您没有正在开始的视频会议。"), nullptr, TextOnly},
     };
     return rows;
 }

@@ -5,7 +5,7 @@
 
 #include "ireplyableintent.h"
 
-#include <QtCore/QObject>
+#include <QObject>
 
 /// Leaves the conference that runs.
 class CloseConferenceIntent : public QObject, public IReplyableIntent

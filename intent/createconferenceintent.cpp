@@ -10,11 +10,11 @@
 #include "wire/jsontext.h"
 #include "wire/requestkeys.h"
 
-#include <QtCore/QDateTime>
-#include <QtCore/QDebug>
-#include <QtCore/QJsonArray>
-#include <QtCore/QSet>
-#include <QtCore/QThread>
+#include <QDateTime>
+#include <QDebug>
+#include <QJsonArray>
+#include <QSet>
+#include <QThread>
 
 namespace {
 
@@ -91,35 +91,35 @@ const QVector<ReplyRow<Detail>> &replies()
     using namespace ResultCode;
     // Of the rows of one code the first whose condition holds is taken, so the narrow ones come first.
     static const QVector<ReplyRow<Detail>> rows{
-        {Success, isImmediate, QStringLiteral("好的，现在为您%1视频会议。"), verb, textOnly},
+        {Success, isImmediate, QStringLiteral("好的，现在为您%1视频会议。"), verb, TextOnly},
         {Success, isScheduledAndListed, QStringLiteral("好的，为您预约如下。"), nullptr,
          cardBeforeText(Create_Success)},
-        {Success, nullptr, QStringLiteral("好的，已成功为您预约。"), nullptr, textOnly},
+        {Success, nullptr, QStringLiteral("好的，已成功为您预约。"), nullptr, TextOnly},
 
         {NobodyFound, missesSeveralScheduled, QStringLiteral("已为您预约视频会议，未找到%1。"), missing,
          cardBeforeText(Create_Success)},
         {NobodyFound, missesSeveral, QStringLiteral("已为您%1视频会议，未找到%2。"), verbAndMissing,
-         textOnly},
-        {NobodyFound, isScheduled, QStringLiteral("抱歉，没有找到该联系人。"), nullptr, textOnly},
-        {NobodyFound, nullptr, QStringLiteral("抱歉,无法为您%1视频会议。"), verb, textOnly},
+         TextOnly},
+        {NobodyFound, isScheduled, QStringLiteral("抱歉，没有找到该联系人。"), nullptr, TextOnly},
+        {NobodyFound, nullptr, QStringLiteral("抱歉,无法为您%1视频会议。"), verb, TextOnly},
 
         {DuplicateNames, nullptr, QStringLiteral("%1"), choicePrompt, cardAfterText(Create_Duplicate)},
 
         {SomeNotFound, isScheduledAndListed, QStringLiteral("好的，已为您预约和%1的视频会议，未找到%2。"),
          foundAndMissing, cardBeforeText(Create_Success)},
-        {SomeNotFound, nullptr, MemberPhrases::startedWithSome(), foundAndMissing, textOnly},
+        {SomeNotFound, nullptr, MemberPhrases::startedWithSome(), foundAndMissing, TextOnly},
 
         {MembersLimit, isScheduled, QStringLiteral("已为您预约视频会议，会议人数已达上限。"), nullptr,
-         textOnly},
-        {MembersLimit, nullptr, QStringLiteral("已为您%1视频会议，会议人数已达上限。"), verb, textOnly},
+         TextOnly},
+        {MembersLimit, nullptr, QStringLiteral("已为您%1视频会议，会议人数已达上限。"), verb, TextOnly},
 
         {TimeOverlap, isListed, QStringLiteral("您已有重复时间会议。"), nullptr,
          cardAfterText(Create_TimeOverlap)},
-        {TimeOverlap, nullptr, QStringLiteral("您已有重复时间会议。"), nullptr, textOnly},
+        {TimeOverlap, nullptr, QStringLiteral("您已有重复时间会议。"), nullptr, TextOnly},
 
-        {PastTime, nullptr, QStringLiteral("抱歉，无法为您预约过去的视频会议。"), nullptr, textOnly},
-        {InOtherConference, nullptr, QStringLiteral("正在会议中。"), nullptr, thenConferenceList},
-        {TooFrequent, nullptr, QStringLiteral("抱歉，操作太频繁，请稍候重试。"), nullptr, textOnly},
+        {PastTime, nullptr, QStringLiteral("抱歉，无法为您预约过去的视频会议。"), nullptr, TextOnly},
+        {InOtherConference, nullptr, QStringLiteral("正在会议中。"), nullptr, ThenConferenceList},
+        {TooFrequent, nullptr, QStringLiteral("抱歉，操作太频繁，请稍候重试。"), nullptr, TextOnly},
     };
     return rows;
 }

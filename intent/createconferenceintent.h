@@ -6,7 +6,7 @@
 #include "conferencerecords.h"
 #include "ireplyableintent.h"
 
-#include <QtCore/QObject>
+#include <QObject>
 
 /// Starts or books a video conference with the people named.
 class CreateConferenceIntent : public QObject, public IReplyableIntent

@@ -5,8 +5,8 @@
 
 #include "iintentfactory.h"
 
-#include <QtCore/QMap>
-#include <QtCore/QObject>
+#include <QMap>
+#include <QObject>
 
 #include <functional>
 

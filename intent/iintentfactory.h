@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QString>
+#include <QString>
 
 class IBusinessIntent;
 

@@ -8,7 +8,7 @@
 #include "replytable.h"
 #include "slotreader.h"
 
-#include <QtCore/QDebug>
+#include <QDebug>
 
 namespace {
 
@@ -36,17 +36,17 @@ QStringList remainingCount(const ContactInviteMemberDetail &detail, const CloudI
 const QVector<ReplyRow<ContactInviteMemberDetail>> &replies()
 {
     static const QVector<ReplyRow<ContactInviteMemberDetail>> rows{
-        {ResultCode::Success, nullptr, QStringLiteral("好的，已为您发出邀请。"), nullptr, textOnly},
-        {ResultCode::NobodyFound, nullptr, QStringLiteral("抱歉，没有找到该联系人。"), nullptr, textOnly},
+        {ResultCode::Success, nullptr, QStringLiteral("好的，已为您发出邀请。"), nullptr, TextOnly},
+        {ResultCode::NobodyFound, nullptr, QStringLiteral("抱歉，没有找到该联系人。"), nullptr, TextOnly},
         {ResultCode::DuplicateNames, nullptr, QStringLiteral("%1"), choicePrompt,
          cardAfterText(Invite_Duplicate)},
-        {ResultCode::SomeNotFound, nullptr, MemberPhrases::startedWithSome(), foundAndMissing, textOnly},
+        {ResultCode::SomeNotFound, nullptr, MemberPhrases::startedWithSome(), foundAndMissing, TextOnly},
         {ResultCode::NoConference, nullptr, QStringLiteral("抱歉，您没有正在开始的视频会议。"), nullptr,
-         textOnly},
+         TextOnly},
         // "[k1]" is part of what the host is given.
         {ResultCode::MembersLimit, someStillFit, QStringLiteral("抱歉，您还可以邀请[k1]%1位成员。"),
          remainingCount, cardAfterText(Invite_ExceedLimit)},
-        {ResultCode::MembersLimit, nullptr, QStringLiteral("抱歉，会议人数已达上限。"), nullptr, textOnly},
+        {ResultCode::MembersLimit, nullptr, QStringLiteral("抱歉，会议人数已达上限。"), nullptr, TextOnly},
     };
     return rows;
 }

@@ -6,7 +6,7 @@
 #include "conferencerecords.h"
 #include "ireplyableintent.h"
 
-#include <QtCore/QObject>
+#include <QObject>
 
 /// Invites the people named into the conference that runs.
 class InviteConferenceIntent : public QObject, public IReplyableIntent

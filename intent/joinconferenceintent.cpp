@@ -6,20 +6,20 @@
 #include "replytable.h"
 #include "slotreader.h"
 
-#include <QtCore/QDebug>
+#include <QDebug>
 
 namespace {
 
 const QVector<ReplyRow<NoRecord>> &replies()
 {
     static const QVector<ReplyRow<NoRecord>> rows{
-        {ResultCode::Success, nullptr, QStringLiteral("好的，您已成功加入会议。"), nullptr, textOnly},
-        {ResultCode::NoConference, nullptr, QStringLiteral("会议还未开始。"), nullptr, textOnly},
+        {ResultCode::Success, nullptr, QStringLiteral("好的，您已成功加入会议。"), nullptr, TextOnly},
+        {ResultCode::NoConference, nullptr, QStringLiteral("会议还未开始。"), nullptr, TextOnly},
         {ResultCode::ConferenceNotFound, nullptr, QStringLiteral("抱歉，未查询到视频会议。"), nullptr,
-         textOnly},
-        {ResultCode::InOtherConference, nullptr, QStringLiteral("正在会议中。"), nullptr, thenConferenceList},
-        {ResultCode::InvalidPasscode, nullptr, QStringLiteral("请输入密码:"), nullptr, textOnly},
-        {ResultCode::ParticipantsFull, nullptr, QStringLiteral("会议人数已满。"), nullptr, textOnly},
+         TextOnly},
+        {ResultCode::InOtherConference, nullptr, QStringLiteral("正在会议中。"), nullptr, ThenConferenceList},
+        {ResultCode::InvalidPasscode, nullptr, QStringLiteral("请输入密码:"), nullptr, TextOnly},
+        {ResultCode::ParticipantsFull, nullptr, QStringLiteral("会议人数已满。"), nullptr, TextOnly},
     };
     return rows;
 }

@@ -5,7 +5,7 @@
 
 #include "ireplyableintent.h"
 
-#include <QtCore/QObject>
+#include <QObject>
 
 /// Joins a conference by its number. A password that is asked for comes with a new intent that holds the
 /// number again.

@@ -10,14 +10,14 @@ namespace {
 const QVector<ReplyRow<ContactQueryConferenceDetail>> &replies()
 {
     static const QVector<ReplyRow<ContactQueryConferenceDetail>> rows{
-        {ResultCode::Success, nullptr, QStringLiteral("好的，您已成功加入会议。"), nullptr, textOnly},
+        {ResultCode::Success, nullptr, QStringLiteral("好的，您已成功加入会议。"), nullptr, TextOnly},
         {ResultCode::ConferenceNotFound, nullptr, QStringLiteral("抱歉，未查询到视频会议。"), nullptr,
-         textOnly},
+         TextOnly},
         // The application answers so with the conferences that could be meant.
         {ResultCode::TimeOverlap, nullptr, QStringLiteral("以下是您要参与的视频会议:"), nullptr,
          cardAfterText(JoinMy_List)},
-        {ResultCode::InOtherConference, nullptr, QStringLiteral("正在会议中。"), nullptr, thenConferenceList},
-        {ResultCode::InvalidPasscode, nullptr, QStringLiteral("请输入密码:"), nullptr, textOnly},
+        {ResultCode::InOtherConference, nullptr, QStringLiteral("正在会议中。"), nullptr, ThenConferenceList},
+        {ResultCode::InvalidPasscode, nullptr, QStringLiteral("请输入密码:"), nullptr, TextOnly},
     };
     return rows;
 }

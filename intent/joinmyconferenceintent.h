@@ -6,7 +6,7 @@
 #include "conferencerecords.h"
 #include "ireplyableintent.h"
 
-#include <QtCore/QObject>
+#include <QObject>
 
 /// Joins the user's own conference, or offers those that could be meant.
 class JoinMyConferenceIntent : public QObject, public IReplyableIntent

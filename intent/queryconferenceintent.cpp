@@ -7,7 +7,7 @@
 #include "replytable.h"
 #include "slotreader.h"
 
-#include <QtCore/QDebug>
+#include <QDebug>
 
 namespace {
 
@@ -21,9 +21,9 @@ const QVector<ReplyRow<ContactQueryConferenceDetail>> &replies()
     static const QVector<ReplyRow<ContactQueryConferenceDetail>> rows{
         {ResultCode::Success, foundAny, QStringLiteral("以下是您查询的视频会议:"), nullptr,
          cardByItself(Query_List)},
-        {ResultCode::Success, nullptr, QStringLiteral("抱歉，未查询到视频会议。"), nullptr, textOnly},
+        {ResultCode::Success, nullptr, QStringLiteral("抱歉，未查询到视频会议。"), nullptr, TextOnly},
         {ResultCode::ConferenceNotFound, nullptr, QStringLiteral("抱歉，未查询到视频会议。"), nullptr,
-         textOnly},
+         TextOnly},
     };
     return rows;
 }

@@ -6,7 +6,7 @@
 #include "conferencerecords.h"
 #include "ireplyableintent.h"
 
-#include <QtCore/QObject>
+#include <QObject>
 
 /// Shows the user's conferences, of a day or from now on.
 class QueryConferenceIntent : public QObject, public IReplyableIntent

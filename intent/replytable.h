@@ -8,8 +8,8 @@
 #include "signalactiontype.h"
 #include "wire/resultcodes.h"
 
-#include <QtCore/QStringList>
-#include <QtCore/QVector>
+#include <QStringList>
+#include <QVector>
 
 /// The record of a handler that has none.
 struct NoRecord
@@ -32,8 +32,8 @@ struct Companion
     int card = 0; ///< a SignalActionType
 };
 
-constexpr Companion textOnly{};
-constexpr Companion thenConferenceList{Companion::ConferenceList};
+constexpr Companion TextOnly{};
+constexpr Companion ThenConferenceList{Companion::ConferenceList};
 
 constexpr Companion cardBeforeText(SignalActionType card)
 {

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <QtCore/QString>
-#include <QtCore/QVector>
+#include <QString>
+#include <QVector>
 
 class CloudIntent;
 class CloudSlot;

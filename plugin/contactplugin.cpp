@@ -8,8 +8,8 @@
 #include "contactreplywidget.h"
 #include "contactservice.h"
 
-#include <QtCore/QDebug>
-#include <QtCore/QMutexLocker>
+#include <QDebug>
+#include <QMutexLocker>
 
 #include <exception>
 #include <utility>

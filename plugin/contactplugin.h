@@ -5,9 +5,9 @@
 
 #include <speakmate/iserviceplugin.h>
 
-#include <QtCore/QMutex>
-#include <QtCore/QObject>
-#include <QtCore/QSet>
+#include <QMutex>
+#include <QObject>
+#include <QSet>
 
 class ContactReplyWidget;
 

@@ -9,8 +9,8 @@
 #include "semantic/semanticparser.h"
 #include "wire/resultcodes.h"
 
-#include <QtCore/QDebug>
-#include <QtCore/QJsonDocument>
+#include <QDebug>
+#include <QJsonDocument>
 
 #include <exception>
 

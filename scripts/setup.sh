@@ -17,7 +17,7 @@ packages_test=(faketime python3 sqlite3 binutils man-db)
 # What the benchmarks take on top.
 packages_bench=(libbenchmark-dev)
 # What the checks of .ci/run take on top.
-packages_ci=(clang clang-format clang-tidy libclang-rt-14-dev)
+packages_ci=(clang clang-format-16 clang-tidy libclang-rt-14-dev)
 
 say() { printf '%s\n' "$*" >&2; }
 die() {

@@ -5,8 +5,8 @@
 
 #include "conferencemsgstaticwidget.h"
 
-#include <QtWidgets/QScrollArea>
-#include <QtWidgets/QVBoxLayout>
+#include <QScrollArea>
+#include <QVBoxLayout>
 
 namespace {
 constexpr int TopOffset = 70;
@@ -60,6 +60,7 @@ void ConferenceListWidget::resizeEvent(QResizeEvent *event)
 
 void ConferenceListWidget::placeScrollArea()
 {
-    if (m_scrollArea != nullptr)
+    if (m_scrollArea != nullptr) {
         m_scrollArea->setGeometry(0, TopOffset, width(), qMax(0, height() - TopOffset));
+    }
 }

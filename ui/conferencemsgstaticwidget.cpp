@@ -13,10 +13,10 @@
 #include <lumo/lguiapplicationhelper.h>
 #include <lumo/lsuggestbutton.h>
 
-#include <QtGui/QGuiApplication>
-#include <QtGui/QScreen>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QVBoxLayout>
+#include <QGuiApplication>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -33,8 +33,9 @@ constexpr int FooterWidth = 200;
 double widthScale()
 {
     const QScreen *screen = QGuiApplication::primaryScreen();
-    if (screen == nullptr)
+    if (screen == nullptr) {
         return 1.0;
+    }
     return screen->availableGeometry().width() / PlannedScreenWidth / screen->devicePixelRatio();
 }
 
@@ -61,8 +62,9 @@ ConferenceMsgStaticWidget::ConferenceMsgStaticWidget(QWidget *parent)
 
 void ConferenceMsgStaticWidget::singleInit(const QVector<ContactDetailMsg> &list)
 {
-    if (list.isEmpty())
+    if (list.isEmpty()) {
         return;
+    }
     m_rows.clear();
     m_mode = Single;
     const ContactDetailMsg &conference = list.first();
@@ -80,14 +82,17 @@ void ConferenceMsgStaticWidget::singleInit(const QVector<ContactDetailMsg> &list
 
 void ConferenceMsgStaticWidget::multipleInit(const QVector<ContactDetailMsg> &list)
 {
-    if (list.isEmpty())
+    if (list.isEmpty()) {
         return;
+    }
     m_mode = List;
     addRow(getConferenceTitleWidget());
-    for (int i = 0; i < qMin(list.size(), ShownConferences); ++i)
+    for (int i = 0; i < qMin(list.size(), ShownConferences); ++i) {
         addRow(conferenceItem(list.at(i)));
-    if (list.size() > ShownConferences)
+    }
+    if (list.size() > ShownConferences) {
         addRow(footer(list.size()));
+    }
     takeOwnSize();
     update();
 }
@@ -165,8 +170,9 @@ void ConferenceMsgStaticWidget::addRow(QWidget *row)
 {
     m_layout->addWidget(row);
     // On a card that is on the screen a new row would be shown later only, and not be counted in its size.
-    if (isVisible())
+    if (isVisible()) {
         row->show();
+    }
 }
 
 void ConferenceMsgStaticWidget::takeOwnSize()
@@ -218,8 +224,9 @@ QWidget *ConferenceMsgStaticWidget::footer(int count)
 
 void ConferenceMsgStaticWidget::updateModifyButton()
 {
-    if (!m_modifyButton.isNull())
+    if (!m_modifyButton.isNull()) {
         m_modifyButton->setEnabled(getConferenceMsgState());
+    }
 }
 
 void ConferenceMsgStaticWidget::followTheme()

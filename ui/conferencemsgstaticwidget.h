@@ -9,8 +9,8 @@
 
 #include <speakmate/reply.h>
 
-#include <QtCore/QPointer>
-#include <QtWidgets/QWidget>
+#include <QPointer>
+#include <QWidget>
 
 QT_BEGIN_NAMESPACE
 class QPushButton;

@@ -14,11 +14,11 @@
 
 #include <lumo/lsuggestbutton.h>
 
-#include <QtCore/QDebug>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QVBoxLayout>
+#include <QApplication>
+#include <QDebug>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
 
 #include <utility>
 
@@ -42,8 +42,9 @@ QStringList namesOf(const QVector<UserInfo> &users, bool distinct)
 {
     QStringList names;
     for (const UserInfo &user : users) {
-        if (!distinct || !names.contains(user.name))
+        if (!distinct || !names.contains(user.name)) {
             names.append(user.name);
+        }
     }
     return names;
 }
@@ -54,8 +55,9 @@ void ConferenceMsgStaticWidget::createInviteConference(QVector<ContactDetailMsg>
 {
     m_conferences = list;
     m_rows.clear();
-    if (m_conferences.isEmpty())
+    if (m_conferences.isEmpty()) {
         return;
+    }
     const ContactDetailMsg conference = m_conferences.first();
     setConstConferenceMsg(conference);
     addRow(getConferenceTitleWidget());
@@ -76,8 +78,9 @@ void ConferenceMsgStaticWidget::createMultiplePerson(const ContactCreatedConfere
     m_startTime = detail.scheduleTimeMsecs;
     addSelectionTitle();
     addCandidates(m_inviteDetail.duplicateUsers);
-    if (isConfirmable)
+    if (isConfirmable) {
         addConfirmButton(&ConferenceMsgStaticWidget::slotMultipleSelectBtn);
+    }
     takeOwnSize();
 }
 
@@ -94,11 +97,13 @@ void ConferenceMsgStaticWidget::invitePersonLimit(const ContactInviteMemberDetai
 {
     m_inviteDetail = detail;
     // 0 is also what an answer that does not say comes to; then the application decides.
-    if (detail.canInviteNum > 0)
+    if (detail.canInviteNum > 0) {
         m_selectionBudget.limitTo(detail.canInviteNum);
+    }
     addSelectionTitle();
-    for (const UserInfo &user : detail.normalUsers)
+    for (const UserInfo &user : detail.normalUsers) {
         addCandidate(user);
+    }
     addCandidates(detail.duplicateUsers);
     addConfirmButton(&ConferenceMsgStaticWidget::slotReserverConferencepersonLimit);
     takeOwnSize();
@@ -132,8 +137,9 @@ QWidget *ConferenceMsgStaticWidget::getCreateConferenceBtn()
 
 void ConferenceMsgStaticWidget::slotModifyConference()
 {
-    if (m_conferences.isEmpty())
+    if (m_conferences.isEmpty()) {
         return;
+    }
     m_editor->applyTo(m_conferences.first());
     // What was asked for is shown before the application has answered, and stays when it refuses.
     becomeStatic();
@@ -142,14 +148,16 @@ void ConferenceMsgStaticWidget::slotModifyConference()
     const QPointer<ConferenceMsgStaticWidget> alive(this);
     const int code = gateway()->UpdateVideoConference(CardRequests::update(m_conferences.first()));
     qDebug() << "create conference code:" << code;
-    if (!alive.isNull())
+    if (!alive.isNull()) {
         reply(CardReplies::modified(code));
+    }
 }
 
 void ConferenceMsgStaticWidget::slotCancleConference()
 {
-    if (m_conferences.isEmpty())
+    if (m_conferences.isEmpty()) {
         return;
+    }
     becomeStatic();
 
     const QPointer<ConferenceMsgStaticWidget> alive(this);
@@ -157,18 +165,21 @@ void ConferenceMsgStaticWidget::slotCancleConference()
     const QString conferenceId = m_conferences.first().confId;
     const int code = gateway()->deleteVideoConference(conferenceId);
     qDebug() << "Cancle conference code:" << code;
-    if (!alive.isNull())
+    if (!alive.isNull()) {
         reply(CardReplies::cancelled(code));
-    if (!alive.isNull())
+    }
+    if (!alive.isNull()) {
         setEnabled(false);
+    }
 }
 
 void ConferenceMsgStaticWidget::slotInviteConference()
 {
     const QPointer<ConferenceMsgStaticWidget> alive(this);
     slotModifyConference();
-    if (!alive.isNull())
+    if (!alive.isNull()) {
         openContactApp();
+    }
 }
 
 void ConferenceMsgStaticWidget::slotMultipleSelectBtn()
@@ -188,8 +199,9 @@ void ConferenceMsgStaticWidget::slotReserverConferencepersonLimit()
 
 void ConferenceMsgStaticWidget::becomeStatic()
 {
-    while (!m_rows.isEmpty())
+    while (!m_rows.isEmpty()) {
         removeLastRow();
+    }
     singleInit(m_conferences);
 }
 
@@ -205,8 +217,9 @@ void ConferenceMsgStaticWidget::removeLastRow()
     // It lives until the event loop has its turn, and must not ask once more.
     row->disconnect(this);
     const auto buttons = row->findChildren<QPushButton *>();
-    for (QPushButton *button : buttons)
+    for (QPushButton *button : buttons) {
         button->disconnect(this);
+    }
     m_layout->removeWidget(row);
     row->deleteLater();
 }
@@ -231,8 +244,9 @@ void ConferenceMsgStaticWidget::addSelectionTitle()
 void ConferenceMsgStaticWidget::addCandidates(const QVector<DuplicateUsers> &groups)
 {
     for (const DuplicateUsers &group : groups) {
-        for (const UserInfo &user : group.users)
+        for (const UserInfo &user : group.users) {
             addCandidate(user);
+        }
     }
 }
 
@@ -259,8 +273,9 @@ QVector<UserInfo> ConferenceMsgStaticWidget::pickedUsers() const
     QVector<UserInfo> users;
     for (const QWidget *row : m_rows) {
         const auto *candidate = qobject_cast<const TiTleItem *>(row);
-        if (candidate != nullptr && candidate->isSelected())
+        if (candidate != nullptr && candidate->isSelected()) {
             users.append(candidate->getUserInfo());
+        }
     }
     return users;
 }
@@ -268,11 +283,13 @@ QVector<UserInfo> ConferenceMsgStaticWidget::pickedUsers() const
 void ConferenceMsgStaticWidget::confirm(const Confirmation &confirmation)
 {
     // A library that lets events through while it waits could bring a second click.
-    if (std::exchange(m_isConfirming, true))
+    if (std::exchange(m_isConfirming, true)) {
         return;
+    }
     QVector<UserInfo> members = pickedUsers();
-    if (confirmation.withResolvedUsers)
+    if (confirmation.withResolvedUsers) {
         members += m_inviteDetail.normalUsers;
+    }
 
     const QPointer<ConferenceMsgStaticWidget> alive(this);
     // A copy: the card's own may be gone before the request is done with it.
@@ -281,8 +298,9 @@ void ConferenceMsgStaticWidget::confirm(const Confirmation &confirmation)
         confirmation.purpose == CardReplies::Purpose::Create
             ? gateway()->createVideoConference(CardRequests::create(members, startTime), startTime)
             : gateway()->inviteVideoConference(CardRequests::invite(members));
-    if (alive.isNull())
+    if (alive.isNull()) {
         return;
+    }
     m_isConfirming = false;
     if (!m_confirmButton.isNull()) {
         m_confirmButton.clear();
@@ -290,8 +308,9 @@ void ConferenceMsgStaticWidget::confirm(const Confirmation &confirmation)
     }
     takeOwnSize();
     reply(CardReplies::confirmed(confirmation.purpose, namesOf(members, confirmation.distinctNames), code));
-    if (!alive.isNull() && confirmation.disablesCard)
+    if (!alive.isNull() && confirmation.disablesCard) {
         setEnabled(false);
+    }
 }
 
 void ConferenceMsgStaticWidget::reply(const QString &text)

@@ -10,11 +10,11 @@
 #include <lumo/lguiapplicationhelper.h>
 #include <lumo/lsuggestbutton.h>
 
-#include <QtCore/QDebug>
-#include <QtGui/QKeyEvent>
-#include <QtGui/QPainter>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QPushButton>
+#include <QComboBox>
+#include <QDebug>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPushButton>
 
 namespace {
 
@@ -33,8 +33,9 @@ bool isOpenKey(const QKeyEvent &event)
 
 QColor backgroundColor()
 {
-    if (LGuiApplicationHelper::instance()->themeType() == LGuiApplicationHelper::LightType)
+    if (LGuiApplicationHelper::instance()->themeType() == LGuiApplicationHelper::LightType) {
         return QColor(247, 247, 247, 200);
+    }
     QColor color(QStringLiteral("#191919"));
     color.setAlpha(204);
     return color;
@@ -44,16 +45,19 @@ QColor backgroundColor()
 
 bool ConferenceMsgStaticWidget::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::FocusIn)
+    if (event->type() == QEvent::FocusIn) {
         m_controlFocusReason = static_cast<QFocusEvent *>(event)->reason();
+    }
     if (event->type() == QEvent::KeyPress) {
         const auto &key = static_cast<const QKeyEvent &>(*event);
         const QPointer<QObject> alive(watched);
-        if (isConfirmKey(key) && !key.isAutoRepeat())
+        if (isConfirmKey(key) && !key.isAutoRepeat()) {
             activate(watched);
+        }
         // Deleted with the card by whoever heard of the click: there is nobody left to give the event to.
-        if (alive.isNull())
+        if (alive.isNull()) {
             return true;
+        }
     }
     return QWidget::eventFilter(watched, event);
 }
@@ -89,18 +93,21 @@ void ConferenceMsgStaticWidget::keyReleaseEvent(QKeyEvent *event)
         QWidget::keyReleaseEvent(event);
         return;
     }
-    if (event->isAutoRepeat() || !isEnabled())
+    if (event->isAutoRepeat() || !isEnabled()) {
         return;
-    if (m_ignoresNextRelease)
+    }
+    if (m_ignoresNextRelease) {
         m_ignoresNextRelease = false;
-    else
+    } else {
         openContactApp();
+    }
 }
 
 void ConferenceMsgStaticWidget::mouseReleaseEvent(QMouseEvent * /*event*/)
 {
-    if (isEnabled())
+    if (isEnabled()) {
         openContactApp();
+    }
 }
 
 void ConferenceMsgStaticWidget::paintEvent(QPaintEvent * /*event*/)
@@ -129,17 +136,20 @@ void ConferenceMsgStaticWidget::activate(QObject *control)
     if (auto *button = qobject_cast<QPushButton *>(control)) {
         const bool isAction = button == m_cancelButton || button == m_modifyButton ||
                               button == m_confirmButton || button == m_footerButton;
-        if (!isAction || !button->isEnabled())
+        if (!isAction || !button->isEnabled()) {
             return;
+        }
         const QPointer<ConferenceMsgStaticWidget> alive(this);
         Q_EMIT button->clicked();
         // The button may be gone and the focus with the card, which then hears of the key being let go.
-        if (!alive.isNull())
+        if (!alive.isNull()) {
             m_ignoresNextRelease = hasFocus();
+        }
         return;
     }
     auto *box = qobject_cast<QComboBox *>(control);
     if (box != nullptr && (box->windowTitle() == ConferenceEditor::hourBoxTag() ||
-                           box->windowTitle() == ConferenceEditor::durationBoxTag()))
+                           box->windowTitle() == ConferenceEditor::durationBoxTag())) {
         box->showPopup();
+    }
 }

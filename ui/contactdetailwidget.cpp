@@ -11,12 +11,12 @@
 #include <lumo/llabel.h>
 #include <lumo/lspinbox.h>
 
-#include <QtCore/QDateTime>
-#include <QtCore/QDebug>
-#include <QtWidgets/QGridLayout>
-#include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPushButton>
+#include <QDateTime>
+#include <QDebug>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
 
 #include <array>
 
@@ -70,8 +70,9 @@ QHBoxLayout *makeRow(QWidget *row)
 LComboBox *makeNumberCombo(int first, int last, int current, const QString &accessibleName, QWidget *parent)
 {
     auto *combo = new LComboBox(parent);
-    for (int number = first; number <= last; ++number)
+    for (int number = first; number <= last; ++number) {
         combo->addItem(QString::number(number));
+    }
     combo->setCurrentText(QString::number(current));
     combo->setAccessibleName(accessibleName);
     return combo;
@@ -87,8 +88,9 @@ void ContactDetailWidget::gridLayout(const QVector<ContactDetailMsg> &list)
 {
     m_grid->setContentsMargins(Margin, Margin, Margin, Margin);
     m_grid->setSpacing(Spacing);
-    if (list.isEmpty())
+    if (list.isEmpty()) {
         return;
+    }
     m_conference = list.first();
 
     LLabel *title = makeLabel(m_conference.title, LFontSizeManager::T6, this);
@@ -129,8 +131,9 @@ QWidget *ContactDetailWidget::createMeetingTimeLengthWidget(const ContactDetailM
     m_duration->setEditable(true);
     m_duration->setInsertPolicy(QComboBox::NoInsert);
     m_duration->lineEdit()->setReadOnly(true);
-    for (const int minutes : OfferedMinutes)
+    for (const int minutes : OfferedMinutes) {
         m_duration->addItem(minutesText(minutes));
+    }
     m_duration->setCurrentText(minutesText(conference.duration / MsecsPerMinute));
     return m_duration;
 }
@@ -154,8 +157,9 @@ QWidget *ContactDetailWidget::createConferenceInvite(const QVector<ContactDetail
 {
     QStringList names;
     if (!list.isEmpty()) {
-        for (const UserInfo &participant : list.first().participants)
+        for (const UserInfo &participant : list.first().participants) {
             names.append(participant.name);
+        }
     }
     LLabel *label = makeLabel(names.join(QLatin1Char(' ')), LFontSizeManager::T6, this);
     label->setElideMode(Qt::ElideRight);
@@ -205,12 +209,15 @@ void ContactDetailWidget::fillDays()
 {
     const int year = QDateTime::fromMSecsSinceEpoch(m_conference.startTime).date().year();
     const int days = QDate(year, m_month->currentText().toInt(), 1).daysInMonth();
-    while (m_day->count() > days)
+    while (m_day->count() > days) {
         m_day->removeItem(m_day->count() - 1);
-    for (int day = m_day->count() + 1; day <= days; ++day)
+    }
+    for (int day = m_day->count() + 1; day <= days; ++day) {
         m_day->addItem(QString::number(day));
-    if (m_day->currentIndex() < 0)
+    }
+    if (m_day->currentIndex() < 0) {
         m_day->setCurrentIndex(days - 1);
+    }
 }
 
 QDateTime ContactDetailWidget::chosenStart() const

@@ -5,7 +5,7 @@
 
 #include "conferencerecords.h"
 
-#include <QtWidgets/QWidget>
+#include <QWidget>
 
 QT_BEGIN_NAMESPACE
 class QDateTime;

@@ -6,7 +6,7 @@
 #include "conferencemsgstaticwidget.h"
 #include "signalactiontype.h"
 
-#include <QtCore/QDebug>
+#include <QDebug>
 
 #include <array>
 
@@ -37,10 +37,11 @@ void buildCandidatesWithinLimit(ConferenceMsgStaticWidget &card, const QVariant 
 void buildFound(ConferenceMsgStaticWidget &card, const QVariant &data)
 {
     const QVector<ContactDetailMsg> found = data.value<ContactQueryConferenceDetail>().conferences;
-    if (found.size() > 1)
+    if (found.size() > 1) {
         card.multipleInit(found);
-    else
+    } else {
         card.singleInit(found);
+    }
 }
 
 /// By SignalActionType. The first is missing: its record is kept by the dispatcher.
@@ -68,14 +69,16 @@ ContactReplyWidget::ContactReplyWidget(QObject *parent)
 
 void ContactReplyWidget::stopListening()
 {
-    if (!m_interface.isNull())
+    if (!m_interface.isNull()) {
         disconnect(m_interface, nullptr, this, nullptr);
+    }
 }
 
 void ContactReplyWidget::slotNoticeAction(const int &actionType, const QVariant &data, Reply *reply)
 {
-    if (reply == nullptr)
+    if (reply == nullptr) {
         return;
+    }
     reply->type |= Reply::Card;
     reply->widget = nullptr;
     // Whoever shows the reply takes the card over.

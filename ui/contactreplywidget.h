@@ -8,8 +8,8 @@
 
 #include <speakmate/reply.h>
 
-#include <QtCore/QObject>
-#include <QtCore/QPointer>
+#include <QObject>
+#include <QPointer>
 
 class ConferenceMsgStaticWidget;
 

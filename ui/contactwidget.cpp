@@ -7,7 +7,7 @@
 #include "contactdetailwidget.h"
 #include "titleitem.h"
 
-#include <QtWidgets/QVBoxLayout>
+#include <QVBoxLayout>
 
 namespace {
 constexpr int EditorTitleHeight = 60;

@@ -3,7 +3,7 @@
 
 #include "customizecalendar.h"
 
-#include <QtCore/QDebug>
+#include <QDebug>
 
 CustomizeCalendar::CustomizeCalendar(QWidget *parent) : QCalendarWidget(parent)
 {

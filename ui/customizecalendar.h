@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtWidgets/QCalendarWidget>
+#include <QCalendarWidget>
 
 /// A calendar in a tool window that stays on top. The date field does not use it; it is kept beside it.
 class CustomizeCalendar : public QCalendarWidget

@@ -3,11 +3,11 @@
 
 #include "customizecombobox.h"
 
-#include <QtCore/QDebug>
-#include <QtCore/QPointer>
-#include <QtGui/QKeyEvent>
-#include <QtGui/QMouseEvent>
-#include <QtWidgets/QCalendarWidget>
+#include <QCalendarWidget>
+#include <QDebug>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
 
 #include <array>
 
@@ -22,8 +22,9 @@ bool isConfirmKey(const QEvent &event)
 /// A frameless window has no button to close it.
 bool isDismissal(const QEvent &event)
 {
-    if (event.type() == QEvent::KeyPress)
+    if (event.type() == QEvent::KeyPress) {
         return static_cast<const QKeyEvent &>(event).key() == Qt::Key_Escape;
+    }
     return event.type() == QEvent::WindowDeactivate;
 }
 
@@ -34,8 +35,9 @@ QString weekdayName(const QDate &date)
         QStringLiteral("周四"), QStringLiteral("周五"), QStringLiteral("周六"),
     };
     const int day = date.dayOfWeek();
-    if (day < Qt::Monday || day > Qt::Saturday)
+    if (day < Qt::Monday || day > Qt::Saturday) {
         return QStringLiteral("周日");
+    }
     return fromMonday.at(static_cast<std::size_t>(day - Qt::Monday));
 }
 
@@ -55,8 +57,9 @@ CustomizeComboBox::~CustomizeComboBox()
 {
     // The field may be deleted because a day was picked; the calendar is then still at work.
     m_calendar->removeEventFilter(this);
-    if (m_selecting)
+    if (m_selecting) {
         m_calendar.release()->deleteLater();
+    }
 }
 
 QDate CustomizeComboBox::getConferenceDate() const
@@ -80,17 +83,19 @@ void CustomizeComboBox::slotSelectionData(const QDate &date)
     const QPointer<CustomizeComboBox> self(this);
     m_selecting = true;
     Q_EMIT signalSelectionDate(date);
-    if (self.isNull())
+    if (self.isNull()) {
         return;
+    }
     m_selecting = false;
     m_date = date;
     const QString text =
         QStringLiteral("%1月%2日 %3")
             .arg(QString::number(date.month()), QString::number(date.day()), weekdayName(date));
-    if (count() == 0)
+    if (count() == 0) {
         insertItem(0, text);
-    else
+    } else {
         setItemText(0, text);
+    }
     m_calendar->hide();
 }
 
@@ -100,8 +105,9 @@ bool CustomizeComboBox::eventFilter(QObject *watched, QEvent *event)
         if (event->type() == QEvent::KeyRelease && isConfirmKey(*event)) {
             const QPointer<CustomizeComboBox> self(this);
             Q_EMIT m_calendar->clicked(m_calendar->selectedDate());
-            if (self.isNull())
+            if (self.isNull()) {
                 return true;
+            }
         } else if (isDismissal(*event)) {
             m_calendar->hide();
         }
@@ -130,8 +136,9 @@ void CustomizeComboBox::hideEvent(QHideEvent *event)
 
 void CustomizeComboBox::keyReleaseEvent(QKeyEvent *event)
 {
-    if (isConfirmKey(*event) && !event->isAutoRepeat())
+    if (isConfirmKey(*event) && !event->isAutoRepeat()) {
         openCalendar();
+    }
     LComboBox::keyReleaseEvent(event);
 }
 
@@ -144,8 +151,9 @@ void CustomizeComboBox::mousePressEvent(QMouseEvent *event)
 void CustomizeComboBox::mouseReleaseEvent(QMouseEvent *event)
 {
     LComboBox::mouseReleaseEvent(event);
-    if (event->button() != Qt::LeftButton || !rect().contains(event->pos()))
+    if (event->button() != Qt::LeftButton || !rect().contains(event->pos())) {
         return;
+    }
     openCalendar();
     Q_EMIT signalMouseClicked();
 }

@@ -5,7 +5,7 @@
 
 #include <lumo/lcombobox.h>
 
-#include <QtCore/QDate>
+#include <QDate>
 
 #include <memory>
 

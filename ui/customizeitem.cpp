@@ -3,7 +3,7 @@
 
 #include "customizeitem.h"
 
-#include <QtGui/QPainter>
+#include <QPainter>
 
 CustomizeItem::CustomizeItem(QWidget *parent) : QWidget(parent)
 {
@@ -41,8 +41,9 @@ void CustomizeItem::paintEvent(QPaintEvent *event)
     painter.setBrush(m_backGroundColor);
     painter.setPen(Qt::transparent);
     painter.drawRoundedRect(rect(), m_radius, m_radius);
-    if (!m_bottomRadius)
+    if (!m_bottomRadius) {
         painter.drawRect(0, height() - m_radius, width(), m_radius);
+    }
     painter.end();
     QWidget::paintEvent(event);
 }

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <QtGui/QColor>
-#include <QtWidgets/QWidget>
+#include <QColor>
+#include <QWidget>
 
 /// A rounded panel. It takes the focus with the Tab key only.
 class CustomizeItem : public QWidget

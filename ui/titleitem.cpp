@@ -11,11 +11,11 @@
 #include <lumo/lguiapplicationhelper.h>
 #include <lumo/llabel.h>
 
-#include <QtGui/QKeyEvent>
-#include <QtGui/QMouseEvent>
-#include <QtGui/QPainter>
-#include <QtWidgets/QCheckBox>
-#include <QtWidgets/QHBoxLayout>
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
 
 namespace {
 
@@ -102,12 +102,13 @@ bool TiTleItem::isSelected() const
 
 void TiTleItem::toggleSelection()
 {
-    if (m_selected)
+    if (m_selected) {
         deselect();
-    else if (m_card != nullptr && m_card->selectionBudget().take())
+    } else if (m_card != nullptr && m_card->selectionBudget().take()) {
         select();
-    else
+    } else {
         return;
+    }
     TiTleItemAccessible::announceSelection(this);
 }
 
@@ -122,14 +123,16 @@ void TiTleItem::keyPressEvent(QKeyEvent *event)
         CustomizeItem::keyPressEvent(event);
         return;
     }
-    if (!event->isAutoRepeat())
+    if (!event->isAutoRepeat()) {
         toggleSelection();
+    }
 }
 
 void TiTleItem::keyReleaseEvent(QKeyEvent *event)
 {
-    if (!isToggleKey(*event))
+    if (!isToggleKey(*event)) {
         CustomizeItem::keyReleaseEvent(event);
+    }
 }
 
 void TiTleItem::mousePressEvent(QMouseEvent *event)
@@ -140,16 +143,18 @@ void TiTleItem::mousePressEvent(QMouseEvent *event)
 void TiTleItem::mouseReleaseEvent(QMouseEvent *event)
 {
     event->accept();
-    if (event->button() == Qt::LeftButton && rect().contains(event->pos()))
+    if (event->button() == Qt::LeftButton && rect().contains(event->pos())) {
         toggleSelection();
+    }
 }
 
 void TiTleItem::paintEvent(QPaintEvent *event)
 {
     CustomizeItem::paintEvent(event);
     // Rows take the focus with the Tab key only, so that the frame is never seen by who uses the mouse.
-    if (!hasFocus())
+    if (!hasFocus()) {
         return;
+    }
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor(FocusColor), FocusWidth));

@@ -6,8 +6,8 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QtGui/QImage>
-#include <QtWidgets/QApplication>
+#include <QApplication>
+#include <QImage>
 
 #include <ctime>
 
@@ -46,8 +46,9 @@ ContactInviteMemberDetail people(int count)
     ContactInviteMemberDetail detail;
     DuplicateUsers group;
     group.name = QStringLiteral("张三");
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         group.users.append(user(i));
+    }
     detail.duplicateUsers = {group};
     return detail;
 }
@@ -121,11 +122,13 @@ void againstPlainWidgets(benchmark::State &state, const Build &build)
     for ([[maybe_unused]] auto iteration : state) {
         // In turns also within a pair: whoever is second finds the caches warm.
         qint64 card = 0;
-        if (cardFirst)
+        if (cardFirst) {
             card = untilPainted(build);
+        }
         plainTotal += untilPainted([&plain] { return plain.build(); });
-        if (!cardFirst)
+        if (!cardFirst) {
             card = untilPainted(build);
+        }
         cardFirst = !cardFirst;
         cardTotal += card;
         state.SetIterationTime(double(card) / NanosecondsPerSecond);
@@ -170,8 +173,9 @@ int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 1;
+    }
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;

@@ -5,13 +5,13 @@
 
 #include "customizecombobox.h"
 
-#include <QtWidgets/QBoxLayout>
-#include <QtWidgets/QCalendarWidget>
-#include <QtWidgets/QCheckBox>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QSpinBox>
+#include <QBoxLayout>
+#include <QCalendarWidget>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSpinBox>
 
 PlainWidgets::PlainWidgets(const QWidget &card)
 {
@@ -29,8 +29,9 @@ std::unique_ptr<QWidget> PlainWidgets::build() const
 int PlainWidgets::count() const
 {
     int count = m_kind == Kind::Space || m_kind == Kind::Layout ? 0 : 1;
-    for (const PlainWidgets &child : m_children)
+    for (const PlainWidgets &child : m_children) {
         count += child.count();
+    }
     return count;
 }
 
@@ -48,8 +49,9 @@ void PlainWidgets::readWidget(const QWidget &widget)
         m_texts.append(button->text());
     } else if (const auto *box = qobject_cast<const QComboBox *>(&widget)) {
         m_kind = qobject_cast<const CustomizeComboBox *>(box) != nullptr ? Kind::DateBox : Kind::ComboBox;
-        for (int i = 0; i < box->count(); ++i)
+        for (int i = 0; i < box->count(); ++i) {
             m_texts.append(box->itemText(i));
+        }
     } else if (qobject_cast<const QSpinBox *>(&widget) != nullptr) {
         m_kind = Kind::SpinBox;
     }
@@ -59,8 +61,9 @@ void PlainWidgets::readWidget(const QWidget &widget)
     m_isHidden = widget.isHidden();
     m_minimumSize = widget.minimumSize();
     m_maximumSize = widget.maximumSize();
-    if (const auto *layout = qobject_cast<const QBoxLayout *>(widget.layout()))
+    if (const auto *layout = qobject_cast<const QBoxLayout *>(widget.layout())) {
         readLayout(*layout);
+    }
 }
 
 void PlainWidgets::readLayout(const QBoxLayout &layout)
@@ -93,10 +96,11 @@ QWidget *PlainWidgets::buildWidget(QWidget *parent) const
     case Kind::Label: {
         auto *label = new QLabel(parent);
         label->setTextFormat(Qt::PlainText);
-        if (m_pixmap.isNull())
+        if (m_pixmap.isNull()) {
             label->setText(m_texts.first());
-        else
+        } else {
             label->setPixmap(m_pixmap);
+        }
         widget = label;
         break;
     }
@@ -125,15 +129,18 @@ QWidget *PlainWidgets::buildWidget(QWidget *parent) const
         break;
     }
     widget->setFont(m_font);
-    if (m_hasPalette)
+    if (m_hasPalette) {
         widget->setPalette(m_palette);
+    }
     widget->setMinimumSize(m_minimumSize);
     widget->setMaximumSize(m_maximumSize);
-    if (m_hasLayout)
+    if (m_hasLayout) {
         buildLayout(*new QBoxLayout(m_isVertical ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, widget),
                     widget);
-    if (m_isHidden && parent != nullptr)
+    }
+    if (m_isHidden && parent != nullptr) {
         widget->hide();
+    }
     return widget;
 }
 

@@ -3,11 +3,11 @@
 
 #pragma once
 
-#include <QtCore/QMargins>
-#include <QtCore/QStringList>
-#include <QtGui/QFont>
-#include <QtGui/QPalette>
-#include <QtGui/QPixmap>
+#include <QFont>
+#include <QMargins>
+#include <QPalette>
+#include <QPixmap>
+#include <QStringList>
 
 #include <memory>
 #include <vector>

@@ -7,9 +7,9 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QDateTime>
-#include <QtCore/QTemporaryDir>
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QTemporaryDir>
 
 #include <map>
 #include <memory>
@@ -76,8 +76,9 @@ FullBook &fullBook(qint64 count)
 {
     static std::map<qint64, std::unique_ptr<FullBook>> books;
     std::unique_ptr<FullBook> &book = books[count];
-    if (!book)
+    if (!book) {
         book = std::make_unique<FullBook>(count);
+    }
     return *book;
 }
 
@@ -88,8 +89,9 @@ void searchDay(benchmark::State &state)
     const QString parameters = FullBook::tomorrow();
     for (auto _ : state) {
         const QString answer = full.book.perform(QStringLiteral("Search Conference"), parameters);
-        if (answer.count(QStringLiteral("confId")) != 10)
+        if (answer.count(QStringLiteral("confId")) != 10) {
             state.SkipWithError("the day has not ten conferences");
+        }
         benchmark::DoNotOptimize(answer);
     }
 }
@@ -105,8 +107,9 @@ void createScheduled(benchmark::State &state)
         const QString answer = full.book.perform(
             QStringLiteral("Create Conference"),
             QStringLiteral("{\"members\":[{\"name\":\"赵磊\"}],\"startTime\":%1}").arg(start));
-        if (!answer.contains(QStringLiteral("\"OK\"")))
+        if (!answer.contains(QStringLiteral("\"OK\""))) {
             state.SkipWithError("not created");
+        }
         start += HourMsecs;
     }
 }

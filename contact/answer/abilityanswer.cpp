@@ -5,9 +5,9 @@
 
 #include "wire/answerwords.h"
 
-#include <QtCore/QDebug>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonParseError>
+#include <QDebug>
+#include <QJsonDocument>
+#include <QJsonParseError>
 
 #include <algorithm>
 

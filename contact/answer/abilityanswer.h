@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <QtCore/QJsonObject>
-#include <QtCore/QString>
+#include <QJsonObject>
+#include <QString>
 
 #include <initializer_list>
 

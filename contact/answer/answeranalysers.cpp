@@ -8,14 +8,14 @@
 #include "wire/answerwords.h"
 #include "wire/resultcodes.h"
 
-#include <QtCore/QDebug>
-#include <QtCore/QJsonArray>
+#include <QDebug>
+#include <QJsonArray>
 
 namespace {
 
 // The same word means different things to different requests, so each kind of request has its own table.
 
-constexpr OutcomeTable generalCodes = {
+constexpr OutcomeTable GeneralCodes = {
     {OutcomeWord::Ok, ResultCode::Success},
     {OutcomeWord::Success, ResultCode::Success},
     {OutcomeWord::NoConference, ResultCode::NoConference},
@@ -28,7 +28,7 @@ constexpr OutcomeTable generalCodes = {
     {OutcomeWord::Oneself, ResultCode::Oneself},
 };
 
-constexpr OutcomeTable inviteCodes = {
+constexpr OutcomeTable InviteCodes = {
     {OutcomeWord::Ok, ResultCode::Success},
     {OutcomeWord::NotFound, ResultCode::NobodyFound},
     {OutcomeWord::NotStarted, ResultCode::NoConference},
@@ -38,7 +38,7 @@ constexpr OutcomeTable inviteCodes = {
     {OutcomeWord::NotLoggedIn, ResultCode::NotLoggedIn},
 };
 
-constexpr OutcomeTable joinCodes = {
+constexpr OutcomeTable JoinCodes = {
     {OutcomeWord::Ok, ResultCode::Success},
     {OutcomeWord::NotStarted, ResultCode::NoConference},
     {OutcomeWord::NotFound, ResultCode::ConferenceNotFound},
@@ -49,21 +49,21 @@ constexpr OutcomeTable joinCodes = {
     {OutcomeWord::ParticipantsFull, ResultCode::ParticipantsFull},
 };
 
-constexpr OutcomeTable queryCodes = {
+constexpr OutcomeTable QueryCodes = {
     {OutcomeWord::NotLoggedIn, ResultCode::NotLoggedIn},
     {OutcomeWord::NotFound, ResultCode::ConferenceNotFound},
     {OutcomeWord::Ok, ResultCode::Success},
 };
 
-constexpr OutcomeTable updateCodes = {
+constexpr OutcomeTable UpdateCodes = {
     {OutcomeWord::Ok, ResultCode::Success},
     {OutcomeWord::NotFound, ResultCode::ConferenceNotFound},
     {OutcomeWord::UpdateFailed, ResultCode::Malformed},
     {OutcomeWord::NotLoggedIn, ResultCode::NotLoggedIn},
 };
 
-constexpr const char *readErrorText = "response error.error:";
-constexpr const char *memberReadErrorText = "response ret error.error:";
+constexpr const char *ReadErrorText = "response error.error:";
+constexpr const char *MemberReadErrorText = "response ret error.error:";
 
 QVector<ContactDetailMsg> conferencesOf(const AbilityAnswer &answer)
 {
@@ -90,7 +90,7 @@ int analyzeMembers(const AbilityAnswer &answer, const QVector<QString> &memberNa
             ContactUtils::analyzeReturnUsers(answer.object().value(AnswerKey::Users).toArray(), memberNames);
         return codeOf(detail);
     }
-    const int code = answer.code(inviteCodes, ResultCode::Malformed);
+    const int code = answer.code(InviteCodes, ResultCode::Malformed);
     if (code == ResultCode::MembersLimit) {
         detail = ContactUtils::analyzeReturnUsers(answer.object().value(AnswerKey::NotJoined).toArray(),
                                                   memberNames);
@@ -103,15 +103,15 @@ int analyzeMembers(const AbilityAnswer &answer, const QVector<QString> &memberNa
 
 int ContactUtils::analyzeReturnContext(const QString &answer)
 {
-    const AbilityAnswer parsed(answer, readErrorText);
-    return parsed.isReadable() ? parsed.code(generalCodes, ResultCode::Malformed) : ResultCode::Malformed;
+    const AbilityAnswer parsed(answer, ReadErrorText);
+    return parsed.isReadable() ? parsed.code(GeneralCodes, ResultCode::Malformed) : ResultCode::Malformed;
 }
 
 int ContactUtils::analyzeResultContext(const QString &answer, const QVector<QString> &memberNames,
                                        const bool &isSchedule, const qint64 &startMsecs,
                                        ContactCreatedConferenceDetail &detail)
 {
-    const AbilityAnswer parsed(answer, memberReadErrorText);
+    const AbilityAnswer parsed(answer, MemberReadErrorText);
     if (!parsed.isReadable()) {
         return ResultCode::Malformed;
     }
@@ -137,18 +137,18 @@ int ContactUtils::analyzeResultContext(const QString &answer, const QVector<QStr
 int ContactUtils::analyzeResultContext(const QString &answer, const QVector<QString> &memberNames,
                                        ContactInviteMemberDetail &detail)
 {
-    const AbilityAnswer parsed(answer, memberReadErrorText);
+    const AbilityAnswer parsed(answer, MemberReadErrorText);
     return parsed.isReadable() ? analyzeMembers(parsed, memberNames, detail) : ResultCode::Malformed;
 }
 
 int ContactUtils::analyzeJoinReturnContext(const QString &answer, QVector<ContactDetailMsg> &conferences)
 {
-    const AbilityAnswer parsed(answer, readErrorText);
+    const AbilityAnswer parsed(answer, ReadErrorText);
     if (!parsed.isReadable()) {
         return ResultCode::Malformed;
     }
     // Here, unlike everywhere else, an unknown word means that there is nothing to join.
-    const int code = parsed.code(joinCodes, ResultCode::NoConference);
+    const int code = parsed.code(JoinCodes, ResultCode::NoConference);
     if (code == ResultCode::TimeOverlap) {
         conferences = conferencesOf(parsed); // several are running, the user has to choose
     }
@@ -158,11 +158,11 @@ int ContactUtils::analyzeJoinReturnContext(const QString &answer, QVector<Contac
 int ContactUtils::analyzeQueryResultContext(const QString &answer, const qint64 & /*queryStartMsecs*/,
                                             QVector<ContactDetailMsg> &conferences)
 {
-    const AbilityAnswer parsed(answer, readErrorText);
+    const AbilityAnswer parsed(answer, ReadErrorText);
     if (!parsed.isReadable()) {
         return ResultCode::Malformed;
     }
-    const int code = parsed.code(queryCodes, ResultCode::Malformed);
+    const int code = parsed.code(QueryCodes, ResultCode::Malformed);
     if (code != ResultCode::Success) {
         return code;
     }
@@ -176,11 +176,11 @@ int ContactUtils::analyzeQueryResultContext(const QString &answer, const qint64 
 
 int ContactUtils::analyzeUpdateReturnContext(const QString &answer, ContactCreatedConferenceDetail &detail)
 {
-    const AbilityAnswer parsed(answer, readErrorText);
+    const AbilityAnswer parsed(answer, ReadErrorText);
     if (!parsed.isReadable()) {
         return ResultCode::Malformed;
     }
-    const int code = parsed.code(updateCodes, ResultCode::Malformed);
+    const int code = parsed.code(UpdateCodes, ResultCode::Malformed);
     if (code == ResultCode::Success) {
         detail.conferences = conferencesOf(parsed);
         qDebug() << "MeetingDetail size() =" << detail.conferences.size();

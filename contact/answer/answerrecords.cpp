@@ -6,9 +6,9 @@
 #include "contactutils.h"
 #include "wire/answerwords.h"
 
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonObject>
-#include <QtCore/QVariant>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QVariant>
 
 namespace {
 

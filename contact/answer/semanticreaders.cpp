@@ -6,23 +6,23 @@
 #include "contactutils.h"
 #include "wire/latin1literal.h"
 
-#include <QtCore/QDebug>
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
+#include <QDebug>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace {
 
 // {"intent": {"shouldEndSession": false, "answer": {"text": "几点开始？"},
 //             "voice_answer": [{"type": "TTS", "content": "请问几点开始？"}]}}
-constexpr QLatin1String intentKey = "intent"_latin1;
-constexpr QLatin1String shouldEndSessionKey = "shouldEndSession"_latin1;
-constexpr QLatin1String answerKey = "answer"_latin1;
-constexpr QLatin1String textKey = "text"_latin1;
-constexpr QLatin1String voiceAnswerKey = "voice_answer"_latin1;
-constexpr QLatin1String typeKey = "type"_latin1;
-constexpr QLatin1String contentKey = "content"_latin1;
-constexpr QLatin1String spokenType = "TTS"_latin1;
+constexpr QLatin1String IntentKey = "intent"_latin1;
+constexpr QLatin1String ShouldEndSessionKey = "shouldEndSession"_latin1;
+constexpr QLatin1String AnswerKey = "answer"_latin1;
+constexpr QLatin1String TextKey = "text"_latin1;
+constexpr QLatin1String VoiceAnswerKey = "voice_answer"_latin1;
+constexpr QLatin1String TypeKey = "type"_latin1;
+constexpr QLatin1String ContentKey = "content"_latin1;
+constexpr QLatin1String SpokenType = "TTS"_latin1;
 
 /// Overwrites @p text only when there is a string to write.
 bool assignString(const QJsonValue &value, QString &text)
@@ -47,7 +47,7 @@ bool ContactUtils::analyzeIsShouldEndSession(const QJsonDocument &semantic)
         qDebug() << "doc.isNull()";
         return true;
     }
-    const QJsonValue intentValue = semantic.object().value(intentKey);
+    const QJsonValue intentValue = semantic.object().value(IntentKey);
     if (intentValue.isUndefined()) {
         qDebug() << "intent not exist";
         return true;
@@ -57,7 +57,7 @@ bool ContactUtils::analyzeIsShouldEndSession(const QJsonDocument &semantic)
         qDebug() << "intentObject.empty()";
         return true;
     }
-    const QJsonValue shouldEnd = intent.value(shouldEndSessionKey);
+    const QJsonValue shouldEnd = intent.value(ShouldEndSessionKey);
     if (shouldEnd.isUndefined()) {
         qDebug() << "shouldEndSession not exist";
         return true;
@@ -69,13 +69,13 @@ bool ContactUtils::analyzeIsShouldEndSession(const QJsonDocument &semantic)
 void ContactUtils::getVoiceAnswerContext(const QString &semanticJson, QString &first, QString &second)
 {
     const QJsonDocument document = QJsonDocument::fromJson(semanticJson.toUtf8());
-    const QJsonObject intent = document.object().value(intentKey).toObject();
-    assignString(intent.value(answerKey).toObject().value(textKey), first);
-    const QJsonArray voiceAnswers = intent.value(voiceAnswerKey).toArray();
+    const QJsonObject intent = document.object().value(IntentKey).toObject();
+    assignString(intent.value(AnswerKey).toObject().value(TextKey), first);
+    const QJsonArray voiceAnswers = intent.value(VoiceAnswerKey).toArray();
     for (const QJsonValue value : voiceAnswers) {
         const QJsonObject voiceAnswer = value.toObject();
-        if (voiceAnswer.value(typeKey).toString() == spokenType &&
-            assignString(voiceAnswer.value(contentKey), second)) {
+        if (voiceAnswer.value(TypeKey).toString() == SpokenType &&
+            assignString(voiceAnswer.value(ContentKey), second)) {
             return;
         }
     }

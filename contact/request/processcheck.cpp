@@ -12,20 +12,20 @@
 
 namespace {
 
-constexpr const char *processName = "meetlynx";
-constexpr std::size_t lineSize = 256;
+constexpr const char *ProcessName = "meetlynx";
+constexpr std::size_t LineSize = 256;
 
 } // namespace
 
 bool ContactUtils::contactAppIsRunning()
 {
-    std::array<char, lineSize> command{};
-    std::snprintf(command.data(), command.size(), "ps -ef | grep -w %s | grep -v grep | wc -l", processName);
+    std::array<char, LineSize> command{};
+    std::snprintf(command.data(), command.size(), "ps -ef | grep -w %s | grep -v grep | wc -l", ProcessName);
     FILE *pipe = popen(command.data(), "re"); // "e": no child started meanwhile inherits it
     if (pipe == nullptr) {
         return false;
     }
-    std::array<char, lineSize> line{};
+    std::array<char, LineSize> line{};
     const bool isRead = std::fgets(line.data(), static_cast<int>(line.size()), pipe) != nullptr;
     pclose(pipe);
     // Exactly one, on purpose: with two it is not clear which of them would answer.

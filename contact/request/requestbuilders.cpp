@@ -7,9 +7,9 @@
 #include "wire/jsontext.h"
 #include "wire/requestkeys.h"
 
-#include <QtCore/QDebug>
-#include <QtCore/QJsonArray>
-#include <QtCore/QSet>
+#include <QDebug>
+#include <QJsonArray>
+#include <QSet>
 
 QString ContactUtils::addbuddyParamInit(const QString &name)
 {

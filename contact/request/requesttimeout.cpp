@@ -10,13 +10,13 @@
 
 namespace {
 
-constexpr QLatin1String timeOutKey = "/Contact/TimeOut"_latin1;
-constexpr QLatin1String maxTimeOutKey = "/Contact/MaxTimeOut"_latin1;
+constexpr QLatin1String TimeOutKey = "/Contact/TimeOut"_latin1;
+constexpr QLatin1String MaxTimeOutKey = "/Contact/MaxTimeOut"_latin1;
 
 // Milliseconds.
-constexpr int shortestTimeOut = 500; ///< anything up to it is taken for a mistake
-constexpr int defaultTimeOut = 5000;
-constexpr int defaultMaxTimeOut = 15000;
+constexpr int ShortestTimeOut = 500; ///< anything up to it is taken for a mistake
+constexpr int DefaultTimeOut = 5000;
+constexpr int DefaultMaxTimeOut = 15000;
 
 /// The configured number when it is greater than @p limit, else @p otherwise. A text that is no number is 0.
 int configuredAbove(int limit, QLatin1String key, int otherwise)
@@ -33,11 +33,11 @@ int configuredAbove(int limit, QLatin1String key, int otherwise)
 
 int ContactUtils::timeoutInit()
 {
-    const int timeOut = configuredAbove(shortestTimeOut, timeOutKey, defaultTimeOut);
+    const int timeOut = configuredAbove(ShortestTimeOut, TimeOutKey, DefaultTimeOut);
     if (contactAppIsRunning()) {
         return timeOut;
     }
     // The application has to be started first. A maximum that is not above the normal time-out is replaced by
     // the default one, not by the normal time-out, on purpose.
-    return configuredAbove(timeOut, maxTimeOutKey, defaultMaxTimeOut);
+    return configuredAbove(timeOut, MaxTimeOutKey, DefaultMaxTimeOut);
 }

@@ -5,14 +5,14 @@
 
 #include "wire/latin1literal.h"
 
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <algorithm>
 
 namespace {
 
-constexpr QLatin1String suggestDatetimeKey = "suggestDatetime"_latin1;
+constexpr QLatin1String SuggestDatetimeKey = "suggestDatetime"_latin1;
 constexpr QLatin1Char timeMark('T');
 
 /// Whether @p text has a digit where @p shape has a zero, and is the same elsewhere.
@@ -49,7 +49,7 @@ SpokenTime SpokenTime::fromSlot(const QString &slotText, QJsonParseError *error)
 {
     SpokenTime result;
     const QJsonDocument document = QJsonDocument::fromJson(slotText.toUtf8(), error);
-    result.m_text = document.object().value(suggestDatetimeKey).toString();
+    result.m_text = document.object().value(SuggestDatetimeKey).toString();
     result.m_hasTime = result.m_text.contains(timeMark);
     if (result.m_hasTime) {
         // Each for itself: whether the two exist together is LocalTime's question.

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <QtCore/QDateTime>
-#include <QtCore/QString>
+#include <QDateTime>
+#include <QString>
 
 QT_BEGIN_NAMESPACE
 struct QJsonParseError;

@@ -8,8 +8,8 @@
 #include "wire/jsontext.h"
 #include "wire/requestkeys.h"
 
-#include <QtCore/QDebug>
-#include <QtCore/QJsonParseError>
+#include <QDebug>
+#include <QJsonParseError>
 
 namespace {
 

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtCore/QString>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QString>
 
 /// @p object without blanks and line breaks, as requests carry it.
 inline QString compactText(const QJsonObject &object)

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QLatin1String>
+#include <QLatin1String>
 
 #include <cstddef>
 

@@ -8,9 +8,9 @@
 #include "service/display.h"
 #include "window/contactswindow.h"
 
-#include <QtCore/QCommandLineParser>
-#include <QtCore/QDebug>
-#include <QtWidgets/QApplication>
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDebug>
 
 #include <memory>
 
@@ -20,8 +20,9 @@ enum ExitStatus { Served = 0, DatabaseUnusable = 1, NoSessionBus = 2 };
 
 std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv, bool withWindow)
 {
-    if (withWindow)
+    if (withWindow) {
         return std::make_unique<QApplication>(argc, argv);
+    }
     return std::make_unique<QCoreApplication>(argc, argv);
 }
 
@@ -51,15 +52,17 @@ int serve(QCoreApplication &application, FirstSight firstSight)
     std::unique_ptr<ContactsWindow> window; // made when it is first wanted: most of the time nobody looks
     if (qobject_cast<QApplication *>(&application)) {
         const auto showWindow = [&] {
-            if (!window)
+            if (!window) {
                 window = std::make_unique<ContactsWindow>(*book, administration);
+            }
             window->bringUp();
         };
         // Not within the request that wants it: the answer goes first.
         QObject::connect(book.get(), &ContactsBook::windowWanted, book.get(), showWindow,
                          Qt::QueuedConnection);
-        if (firstSight == FirstSight::Window)
+        if (firstSight == FirstSight::Window) {
             showWindow();
+        }
     }
     return QCoreApplication::exec();
 }

@@ -7,7 +7,7 @@
 
 #include <lumo/lstyle.h>
 
-#include <QtGui/QIcon>
+#include <QIcon>
 
 namespace devhost {
 
@@ -35,8 +35,9 @@ bool HostApplication::notify(QObject *receiver, QEvent *event)
 {
     bool isHandled = false;
     const QString thrown = guarded([&] { isHandled = QApplication::notify(receiver, event); });
-    if (!thrown.isEmpty())
+    if (!thrown.isEmpty()) {
         qCritical("An event handler threw: %s", qUtf8Printable(thrown));
+    }
     return isHandled;
 }
 

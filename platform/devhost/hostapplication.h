@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtWidgets/QApplication>
+#include <QApplication>
 
 #include <memory>
 

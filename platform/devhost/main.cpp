@@ -11,7 +11,7 @@
 
 #include <lumo/lguiapplicationhelper.h>
 
-#include <QtCore/QLoggingCategory>
+#include <QLoggingCategory>
 
 #include <iostream>
 
@@ -22,8 +22,9 @@ namespace {
 /// Windows are never shown in the text modes, so no display is needed; what the user asks for wins.
 void choosePlatform(bool wantsWindow)
 {
-    if (!wantsWindow && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    if (!wantsWindow && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", QByteArrayLiteral("offscreen"));
+    }
 }
 
 bool hasDisplay()
@@ -40,10 +41,11 @@ void complain(const QString &message)
 void applyTheme(Options::Theme theme)
 {
     auto *helper = LGuiApplicationHelper::instance();
-    if (theme == Options::Theme::Light)
+    if (theme == Options::Theme::Light) {
         helper->setPaletteType(LGuiApplicationHelper::LightType);
-    else if (theme == Options::Theme::Dark)
+    } else if (theme == Options::Theme::Dark) {
         helper->setPaletteType(LGuiApplicationHelper::DarkType);
+    }
 }
 
 int run(const Options &options)
@@ -52,8 +54,9 @@ int run(const Options &options)
     QLoggingCategory::setFilterRules(AbilityCall::category() + QStringLiteral(".debug=true"));
     PluginHost host;
     host.load(options.plugin);
-    if (options.mode == Options::Mode::Window)
+    if (options.mode == Options::Mode::Window) {
         return runWindow(options, host, logs);
+    }
     if (!host.isLoaded()) {
         complain(host.problem().toText());
         return NoPlugin;
@@ -68,8 +71,9 @@ int run(const Options &options)
 int main(int argc, char **argv)
 {
     QStringList arguments;
-    for (int i = 0; i < argc; ++i)
+    for (int i = 0; i < argc; ++i) {
         arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
     const bool wantsWindow = Options::wantsWindow(arguments);
     choosePlatform(wantsWindow);
     if (wantsWindow && !hasDisplay()) {

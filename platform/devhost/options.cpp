@@ -3,7 +3,7 @@
 
 #include "options.h"
 
-#include <QtCore/QCommandLineParser>
+#include <QCommandLineParser>
 
 namespace devhost {
 
@@ -69,14 +69,18 @@ private:
 
 Options::Mode modeOf(Parser &parser)
 {
-    if (parser->isSet(parser.help))
+    if (parser->isSet(parser.help)) {
         return Options::Mode::Help;
-    if (parser->isSet(parser.version))
+    }
+    if (parser->isSet(parser.version)) {
         return Options::Mode::Version;
-    if (parser->isSet(parser.batch))
+    }
+    if (parser->isSet(parser.batch)) {
         return Options::Mode::Batch;
-    if (parser->isSet(parser.converse))
+    }
+    if (parser->isSet(parser.converse)) {
         return Options::Mode::Converse;
+    }
     return Options::Mode::Window;
 }
 
@@ -114,21 +118,23 @@ Options Options::read(const QStringList &arguments)
     options.contacts = parser->value(parser.contacts);
     options.isVerbose = parser->isSet(parser.verbose);
     const QStringList files = parser->positionalArguments();
-    if (options.mode == Mode::Batch)
+    if (options.mode == Mode::Batch) {
         options.input = parser->value(parser.batch);
-    else if (options.mode == Mode::Window)
+    } else if (options.mode == Mode::Window) {
         options.input = parser->value(parser.script);
-    else if (options.mode == Mode::Converse)
+    } else if (options.mode == Mode::Converse) {
         options.input = files.value(0, QStringLiteral("-"));
+    }
 
     const int modes = int(parser->isSet(parser.batch)) + int(parser->isSet(parser.converse)) +
                       int(parser->isSet(parser.script));
-    if (modes > 1)
+    if (modes > 1) {
         options.usageError = QStringLiteral("--batch, --converse and --script exclude each other.");
-    else if (files.size() > (options.mode == Mode::Converse ? 1 : 0))
+    } else if (files.size() > (options.mode == Mode::Converse ? 1 : 0)) {
         options.usageError = QStringLiteral("Unexpected argument '%1'.").arg(files.last());
-    else if (parser->isSet(parser.theme) && !readTheme(parser->value(parser.theme), options.theme))
+    } else if (parser->isSet(parser.theme) && !readTheme(parser->value(parser.theme), options.theme)) {
         options.usageError = QStringLiteral("--theme takes light, dark or system.");
+    }
     return options;
 }
 

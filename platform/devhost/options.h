@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <QtCore/QString>
-#include <QtCore/QStringList>
+#include <QString>
+#include <QStringList>
 
 QT_BEGIN_NAMESPACE
 class QCommandLineParser;

@@ -6,8 +6,8 @@
 #include "batch.h"
 #include "terminalconversation.h"
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
+#include <QCoreApplication>
+#include <QFile>
 
 #include <fstream>
 #include <iostream>
@@ -35,19 +35,22 @@ int complain(const QString &message)
 
 bool readContactNames(const QString &file, QStringList &names)
 {
-    if (file.isEmpty())
+    if (file.isEmpty()) {
         return true;
+    }
     std::ifstream input(QFile::encodeName(file).constData(), std::ios::binary);
-    if (!input)
+    if (!input) {
         return false;
+    }
     constexpr int longestName = 400;
     LineReader reader(input, longestName);
     QString line;
     for (LineReader::Outcome outcome = reader.read(line); outcome != LineReader::End;
          outcome = reader.read(line)) {
         const QString name = line.trimmed();
-        if (!name.isEmpty() && !name.startsWith(QLatin1Char('#')))
+        if (!name.isEmpty() && !name.startsWith(QLatin1Char('#'))) {
             names.append(name);
+        }
     }
     return true;
 }

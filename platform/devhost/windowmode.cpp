@@ -9,10 +9,10 @@
 #include "warmup.h"
 #include "windowscript.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QFile>
-#include <QtCore/QTimer>
-#include <QtWidgets/QApplication>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTimer>
 
 #include <fstream>
 #include <iostream>
@@ -65,8 +65,9 @@ int runWindow(const Options &options, PluginHost &host, LogRecorder &logs)
     Conversation conversation(host, logs);
     conversation.setContactNames(names);
     MainWindow window(conversation, appearance);
-    if (!host.isLoaded())
+    if (!host.isLoaded()) {
         window.showProblem(host.problem().toText());
+    }
     window.show();
     QTimer::singleShot(IdleMsecs, &window, &warmUp);
 

@@ -5,8 +5,8 @@
 
 #include "semantic.h"
 
-#include <QtCore/QJsonDocument>
-#include <QtCore/QObject>
+#include <QJsonDocument>
+#include <QObject>
 
 #include <memory>
 

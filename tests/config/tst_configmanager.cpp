@@ -5,11 +5,11 @@
 #include "logcapture.h"
 #include "virtualplace.h"
 
-#include <QtCore/QFile>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QtTest>
 
 #include <type_traits>
 
@@ -18,8 +18,8 @@ static_assert(std::is_base_of_v<QObject, ConfigManager> && std::is_base_of_v<ICo
 
 namespace {
 
-const QString stringsOnly = QStringLiteral("This config can only contain string&dict");
-const QString rootMustBeObject = QStringLiteral("config root must be a object.");
+const QString StringsOnly = QStringLiteral("This config can only contain string&dict");
+const QString RootMustBeObject = QStringLiteral("config root must be a object.");
 
 QJsonObject objectOf(const char *json)
 {
@@ -61,7 +61,7 @@ public:
 
 } // namespace
 
-class ConfigManagerTest : public QObject
+class TestConfigManager : public QObject
 {
     Q_OBJECT
 
@@ -159,10 +159,10 @@ private Q_SLOTS:
         ConfigManager config;
         LogCapture log;
         const QString failed = QStringLiteral("Parse Config failed:  \"%1\"").arg(path);
-        log.expect(QtCriticalMsg, stringsOnly);
+        log.expect(QtCriticalMsg, StringsOnly);
         log.expect(QtCriticalMsg, failed);
         QVERIFY(!config.init(path));
-        QCOMPARE(log.texts(QtCriticalMsg), QStringList({stringsOnly, failed}));
+        QCOMPARE(log.texts(QtCriticalMsg), QStringList({StringsOnly, failed}));
         QVERIFY(config.contains(QStringLiteral("/A")));
         QVERIFY(!config.contains(QStringLiteral("/Z")));
     }
@@ -190,21 +190,21 @@ private Q_SLOTS:
         QFETCH(QByteArray, content);
         ConfigManager config;
         LogCapture log;
-        log.expect(QtCriticalMsg, rootMustBeObject);
+        log.expect(QtCriticalMsg, RootMustBeObject);
         QVERIFY(!config.init(fileWith(content)));
-        QCOMPARE(log.lines(), QStringList{QStringLiteral("critical: ") + rootMustBeObject});
+        QCOMPARE(log.lines(), QStringList{QStringLiteral("critical: ") + RootMustBeObject});
     }
 
     void missingFileIsReported()
     {
         ConfigManager config;
         LogCapture log;
-        log.expect(QtCriticalMsg, rootMustBeObject);
+        log.expect(QtCriticalMsg, RootMustBeObject);
         QVERIFY(!config.init(QStringLiteral("/nowhere/config.json")));
         QCOMPARE(log.lines(),
                  QStringList({QStringLiteral(
                                   "debug: Load config failed, can not open file: \"/nowhere/config.json\""),
-                              QStringLiteral("critical: ") + rootMustBeObject}));
+                              QStringLiteral("critical: ") + RootMustBeObject}));
     }
 
     void fileIsReadAsUtf8()
@@ -296,7 +296,7 @@ private Q_SLOTS:
 
         using OwnStringQuery = bool (ConfigManager::*)(const QString &, QString &);
         using OwnListQuery = bool (ConfigManager::*)(const QString &, QStringList &);
-        const auto first = firstPlaceAfterQObject;
+        const auto first = FirstPlaceAfterQObject;
         QCOMPARE(virtualPlaceOf(&ConfigManager::contains), first);
         QCOMPARE(virtualPlaceOf(OwnStringQuery(&ConfigManager::query)), first + 1);
         QCOMPARE(virtualPlaceOf(OwnListQuery(&ConfigManager::query)), first + 2);
@@ -325,6 +325,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ConfigManagerTest)
+QTEST_GUILESS_MAIN(TestConfigManager)
 
 #include "tst_configmanager.moc"

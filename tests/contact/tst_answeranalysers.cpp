@@ -5,16 +5,16 @@
 #include "logcapture.h"
 #include "wire/resultcodes.h"
 
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtTest/QtTest>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QtTest>
 
 namespace {
 
 /// A different list for each of the words, to see whether it was read.
-const QByteArray oneConference = R"("list": [{"confId": "7"}])";
+const QByteArray OneConference = R"("list": [{"confId": "7"}])";
 
-QString answerOf(const char *word, const QByteArray &rest = oneConference)
+QString answerOf(const char *word, const QByteArray &rest = OneConference)
 {
     return QString::fromUtf8(QByteArray("{\"ret\": \"") + word + "\"" + (rest.isEmpty() ? "" : ", ") + rest +
                              "}");
@@ -27,7 +27,7 @@ struct Row
 };
 
 /// Every word that any of the analysers knows.
-const char *const allWords[] = {
+const char *const AllWords[] = {
     "OK", "Success", "Return", "Duplicate", "Not Found", "No Conference", "Conference Not Start",
     "In Other Conference", "Conference Create Too Frequently", "Exceed Members Limit",
     "Participant Out Limit", "Time Overlap", "Invalid Passcode", "Update Failed", "Is Your Friend",
@@ -41,7 +41,7 @@ void addRows(const Row (&table)[Size], int otherwise)
 {
     QTest::addColumn<QString>("word");
     QTest::addColumn<int>("code");
-    for (const char *word : allWords) {
+    for (const char *word : AllWords) {
         int code = otherwise;
         for (const Row &row : table) {
             if (qstrcmp(row.word, word) == 0) {
@@ -66,7 +66,7 @@ ContactCreatedConferenceDetail filledDetail()
 
 } // namespace
 
-class AnswerAnalysersTest : public QObject
+class TestAnswerAnalysers : public QObject
 {
     Q_OBJECT
 
@@ -266,7 +266,7 @@ private Q_SLOTS:
             users += (users.isEmpty() ? "" : ",") + QByteArray(R"({"name": "n", "status": ")") +
                      status.toUtf8() + "\"}";
         }
-        const QString answer = answerOf("Return", oneConference + ", \"users\": [" + users + "]");
+        const QString answer = answerOf("Return", OneConference + ", \"users\": [" + users + "]");
 
         ContactInviteMemberDetail invited = filledDetail().inviteDetail;
         QCOMPARE(ContactUtils::analyzeResultContext(answer, {}, invited), code);
@@ -385,6 +385,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(AnswerAnalysersTest)
+QTEST_GUILESS_MAIN(TestAnswerAnalysers)
 
 #include "tst_answeranalysers.moc"

@@ -6,11 +6,11 @@
 #include "signalactiontype.h"
 #include "wire/answerwords.h"
 
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtCore/QTextCodec>
-#include <QtTest/QtTest>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTextCodec>
+#include <QtTest>
 
 #include <cstddef>
 #include <limits>
@@ -70,7 +70,7 @@ QString titleOfAnAnswer()
 
 } // namespace
 
-class AnswerRecordsTest : public QObject
+class TestAnswerRecords : public QObject
 {
     Q_OBJECT
 
@@ -267,6 +267,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(AnswerRecordsTest)
+QTEST_GUILESS_MAIN(TestAnswerRecords)
 
 #include "tst_answerrecords.moc"

@@ -9,9 +9,9 @@
 #include "scriptedability.h"
 #include "signalactiontype.h"
 
-#include <QtCore/QJsonObject>
-#include <QtCore/QThread>
-#include <QtTest/QtTest>
+#include <QJsonObject>
+#include <QThread>
+#include <QtTest>
 
 #include <functional>
 #include <memory>
@@ -22,7 +22,7 @@ Q_DECLARE_METATYPE(Operation)
 
 namespace {
 
-const QString params = QStringLiteral("{\"as\":\"given\"}");
+const QString Params = QStringLiteral("{\"as\":\"given\"}");
 
 void addOperations()
 {
@@ -42,26 +42,26 @@ void addOperations()
         "create with members",
         [](Gateway &gateway) {
             ContactCreatedConferenceDetail detail;
-            return gateway.createVideoConference(params, {}, false, 0, detail);
+            return gateway.createVideoConference(Params, {}, false, 0, detail);
         },
-        "Create Conference", params, "Time Overlap", -16008);
+        "Create Conference", Params, "Time Overlap", -16008);
     row(
-        "create at once", [](Gateway &gateway) { return gateway.createVideoConference(params, 0); },
-        "Create Conference", params, "Conference Create Too Frequently", -16019);
+        "create at once", [](Gateway &gateway) { return gateway.createVideoConference(Params, 0); },
+        "Create Conference", Params, "Conference Create Too Frequently", -16019);
     row(
         "create for later",
-        [](Gateway &gateway) { return gateway.createVideoConference(params, 1700000000000); },
-        "Create Conference", params, "Time Overlap", -16008);
+        [](Gateway &gateway) { return gateway.createVideoConference(Params, 1700000000000); },
+        "Create Conference", Params, "Time Overlap", -16008);
     row(
         "invite with members",
         [](Gateway &gateway) {
             ContactInviteMemberDetail detail;
-            return gateway.inviteVideoConference(params, {}, detail);
+            return gateway.inviteVideoConference(Params, {}, detail);
         },
-        "Invite Members", params, "Not Found", -16002);
+        "Invite Members", Params, "Not Found", -16002);
     row(
-        "invite", [](Gateway &gateway) { return gateway.inviteVideoConference(params); }, "Invite Members",
-        params, "Exceed Members Limit", -16006);
+        "invite", [](Gateway &gateway) { return gateway.inviteVideoConference(Params); }, "Invite Members",
+        Params, "Exceed Members Limit", -16006);
     row(
         "join my conference",
         [](Gateway &gateway) {
@@ -73,9 +73,9 @@ void addOperations()
         "query",
         [](Gateway &gateway) {
             QVector<ContactDetailMsg> conferences;
-            return gateway.QueryVideoConference(params, 5, conferences);
+            return gateway.QueryVideoConference(Params, 5, conferences);
         },
-        "Search Conference", params, "OK", -16007);
+        "Search Conference", Params, "OK", -16007);
     row(
         "delete", [](Gateway &gateway) { return gateway.deleteVideoConference(QStringLiteral("7")); },
         "Delete Conference", QStringLiteral(R"({"conferenceId":"7"})"), "Not Found", -16011);
@@ -89,8 +89,8 @@ void addOperations()
         "open the list", [](Gateway &gateway) { return gateway.openConferenceList(); },
         "Open Conference List", QString(), "Success", 0);
     row(
-        "update", [](Gateway &gateway) { return gateway.UpdateVideoConference(params); }, "Update Conference",
-        params, "Not Found", -16007);
+        "update", [](Gateway &gateway) { return gateway.UpdateVideoConference(Params); }, "Update Conference",
+        Params, "Not Found", -16007);
     row(
         "join",
         [](Gateway &gateway) {
@@ -114,12 +114,12 @@ QVector<AbilityEvent::Kind> kindsOf(const QVector<AbilityEvent> &events)
     return kinds;
 }
 
-const QVector<AbilityEvent::Kind> oneRequest{AbilityEvent::Created, AbilityEvent::TimeoutSet,
+const QVector<AbilityEvent::Kind> OneRequest{AbilityEvent::Created, AbilityEvent::TimeoutSet,
                                              AbilityEvent::Requested, AbilityEvent::Deleted};
 
 } // namespace
 
-class ConferenceCardInterfaceTest : public QObject
+class TestConferenceCardInterface : public QObject
 {
     Q_OBJECT
 
@@ -161,7 +161,7 @@ private Q_SLOTS:
         const LogCapture log;
         QTEST(operation(m_gateway), "code");
         const QVector<AbilityEvent> events = m_script.events();
-        QCOMPARE(kindsOf(events), oneRequest);
+        QCOMPARE(kindsOf(events), OneRequest);
         QCOMPARE(events.at(1).timeout, 800);
         QTEST(events.at(2).action, "action");
         QTEST(events.at(2).parameters, "parameters");
@@ -180,7 +180,7 @@ private Q_SLOTS:
             m_script.reset();
             m_script.enqueue(code, QStringLiteral("not JSON"));
             QCOMPARE(operation(m_gateway), code);
-            QCOMPARE(kindsOf(m_script.events()), oneRequest);
+            QCOMPARE(kindsOf(m_script.events()), OneRequest);
         }
     }
 
@@ -193,7 +193,7 @@ private Q_SLOTS:
         LogCapture log;
         log.expect(QtWarningMsg, QStringLiteral("The contact ability failed: \"%1\" broken").arg(action));
         QCOMPARE(operation(m_gateway), -1);
-        QCOMPARE(kindsOf(m_script.events()), oneRequest);
+        QCOMPARE(kindsOf(m_script.events()), OneRequest);
     }
 
     void libraryWithoutAnAbilityIsAFailedCall_data() { addOperations(); }
@@ -212,7 +212,7 @@ private Q_SLOTS:
         m_gateway.closeVideoConference();
         showProcesses(0);
         m_gateway.closeVideoConference();
-        QCOMPARE(kindsOf(m_script.events()), oneRequest + oneRequest);
+        QCOMPARE(kindsOf(m_script.events()), OneRequest + OneRequest);
         QCOMPARE(m_script.requests().at(0).timeout, 800);
         QCOMPARE(m_script.requests().at(1).timeout, 9000);
         QCOMPARE(m_script.requests().at(1).ability, 2);
@@ -222,7 +222,7 @@ private Q_SLOTS:
     {
         m_script.enqueue(0, QStringLiteral(R"({"ret": "OK", "list": [{"confId": "7"}]})"));
         ContactCreatedConferenceDetail detail;
-        QCOMPARE(m_gateway.createVideoConference(params, {QStringLiteral("A")}, true, 77, detail), 0);
+        QCOMPARE(m_gateway.createVideoConference(Params, {QStringLiteral("A")}, true, 77, detail), 0);
         QCOMPARE(detail.isSchedule, true);
         QCOMPARE(detail.scheduleTimeMsecs, qint64(77));
         QCOMPARE(detail.conferences.size(), 1);
@@ -233,7 +233,7 @@ private Q_SLOTS:
         m_script.enqueue(
             0, QStringLiteral(R"({"ret": "Return", "users": [{"name": "A", "status": "Not Found"}]})"));
         ContactInviteMemberDetail detail;
-        QCOMPARE(m_gateway.inviteVideoConference(params, {QStringLiteral("A")}, detail), -16002);
+        QCOMPARE(m_gateway.inviteVideoConference(Params, {QStringLiteral("A")}, detail), -16002);
         QCOMPARE(detail.notExistUsers, QVector<QString>{QStringLiteral("A")});
     }
 
@@ -250,7 +250,7 @@ private Q_SLOTS:
     {
         m_script.enqueue(0, QStringLiteral(R"({"ret": "OK", "list": [{"confId": "7"}]})"));
         QVector<ContactDetailMsg> conferences;
-        QCOMPARE(m_gateway.QueryVideoConference(params, 0, conferences), 0);
+        QCOMPARE(m_gateway.QueryVideoConference(Params, 0, conferences), 0);
         QCOMPARE(conferences.size(), 1);
     }
 
@@ -279,7 +279,7 @@ private Q_SLOTS:
         QCOMPARE(m_script.onlyRequest().action, QStringLiteral("Is Conference Host"));
         QCOMPARE(m_script.onlyRequest().parameters, QString());
         QCOMPARE(m_script.onlyRequest().timeout, 800);
-        QCOMPARE(kindsOf(m_script.events()), oneRequest);
+        QCOMPARE(kindsOf(m_script.events()), OneRequest);
     }
 
     void unreadableAnswerCountsAsInMeeting()
@@ -354,6 +354,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ConferenceCardInterfaceTest)
+QTEST_GUILESS_MAIN(TestConferenceCardInterface)
 
 #include "tst_conferencecardinterface.moc"

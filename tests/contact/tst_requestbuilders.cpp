@@ -4,11 +4,11 @@
 #include "contactutils.h"
 #include "logcapture.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 Q_DECLARE_METATYPE(QVector<QString>)
 
-class RequestBuildersTest : public QObject
+class TestRequestBuilders : public QObject
 {
     Q_OBJECT
 
@@ -94,6 +94,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(RequestBuildersTest)
+QTEST_GUILESS_MAIN(TestRequestBuilders)
 
 #include "tst_requestbuilders.moc"

@@ -6,9 +6,9 @@
 #include "fakeprocesstable.h"
 #include "logcapture.h"
 
-#include <QtCore/QJsonObject>
-#include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QtTest>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -42,7 +42,7 @@ private:
 
 } // namespace
 
-class RequestTimeoutTest : public QObject
+class TestRequestTimeout : public QObject
 {
     Q_OBJECT
 
@@ -171,6 +171,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(RequestTimeoutTest)
+QTEST_GUILESS_MAIN(TestRequestTimeout)
 
 #include "tst_requesttimeout.moc"

@@ -4,9 +4,9 @@
 #include "contactutils.h"
 #include "logcapture.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
-class SemanticReadersTest : public QObject
+class TestSemanticReaders : public QObject
 {
     Q_OBJECT
 
@@ -94,6 +94,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(SemanticReadersTest)
+QTEST_GUILESS_MAIN(TestSemanticReaders)
 
 #include "tst_semanticreaders.moc"

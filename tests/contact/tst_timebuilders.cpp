@@ -4,10 +4,10 @@
 #include "contactutils.h"
 #include "logcapture.h"
 
-#include <QtCore/QDateTime>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtTest/QtTest>
+#include <QDateTime>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtTest>
 
 namespace {
 
@@ -27,16 +27,16 @@ QString utcText(qint64 msecs)
     return QDateTime::fromMSecsSinceEpoch(msecs, Qt::UTC).toString(Qt::ISODate);
 }
 
-constexpr char shanghaiMorning[] = "2026-03-07 09:30:00 Asia/Shanghai";
-constexpr char shanghaiNight[] = "2026-03-07 23:40:00 Asia/Shanghai";
-constexpr char monthEnd[] = "2026-04-30 23:40:00 Asia/Shanghai";
-constexpr char yearEnd[] = "2026-12-31 23:40:00 Asia/Shanghai";
-constexpr char beforeLeapDay[] = "2028-02-28 23:40:00 Asia/Shanghai";
-constexpr char leapDay[] = "2028-02-29 23:40:00 Asia/Shanghai";
-constexpr char berlinBeforeTheMissingHour[] = "2026-03-29 01:30:00 Europe/Berlin";
-constexpr char berlinDayBefore[] = "2026-03-28 23:40:00 Europe/Berlin";
-constexpr char berlinBeforeTheRepeatedHour[] = "2026-10-25 01:30:00 Europe/Berlin";
-constexpr char beirutBeforeTheMissingMidnight[] = "2026-03-28 23:40:00 Asia/Beirut";
+constexpr char ShanghaiMorning[] = "2026-03-07 09:30:00 Asia/Shanghai";
+constexpr char ShanghaiNight[] = "2026-03-07 23:40:00 Asia/Shanghai";
+constexpr char MonthEnd[] = "2026-04-30 23:40:00 Asia/Shanghai";
+constexpr char YearEnd[] = "2026-12-31 23:40:00 Asia/Shanghai";
+constexpr char BeforeLeapDay[] = "2028-02-28 23:40:00 Asia/Shanghai";
+constexpr char LeapDay[] = "2028-02-29 23:40:00 Asia/Shanghai";
+constexpr char BerlinBeforeTheMissingHour[] = "2026-03-29 01:30:00 Europe/Berlin";
+constexpr char BerlinDayBefore[] = "2026-03-28 23:40:00 Europe/Berlin";
+constexpr char BerlinBeforeTheRepeatedHour[] = "2026-10-25 01:30:00 Europe/Berlin";
+constexpr char BeirutBeforeTheMissingMidnight[] = "2026-03-28 23:40:00 Asia/Beirut";
 
 struct Schedule
 {
@@ -51,75 +51,75 @@ QVector<Schedule> schedules()
 {
     const QString none;
     return {
-        {"no time: the next full hour", shanghaiMorning, none, "2026-03-07T02:00:00Z", true},
-        {"today: the next full hour", shanghaiMorning, slotWith("2026-03-07"), "2026-03-07T02:00:00Z", true},
-        {"tomorrow: nine o'clock", shanghaiMorning, slotWith("2026-03-08"), "2026-03-08T01:00:00Z", true},
-        {"yesterday: past", shanghaiMorning, slotWith("2026-03-06"), "2026-03-06T01:00:00Z", false},
-        {"a time to come", shanghaiMorning, slotWith("2026-03-07T10:20:00"), "2026-03-07T02:20:00Z", true},
-        {"a time to come, with seconds", shanghaiMorning, slotWith("2026-03-07T10:20:07"),
+        {"no time: the next full hour", ShanghaiMorning, none, "2026-03-07T02:00:00Z", true},
+        {"today: the next full hour", ShanghaiMorning, slotWith("2026-03-07"), "2026-03-07T02:00:00Z", true},
+        {"tomorrow: nine o'clock", ShanghaiMorning, slotWith("2026-03-08"), "2026-03-08T01:00:00Z", true},
+        {"yesterday: past", ShanghaiMorning, slotWith("2026-03-06"), "2026-03-06T01:00:00Z", false},
+        {"a time to come", ShanghaiMorning, slotWith("2026-03-07T10:20:00"), "2026-03-07T02:20:00Z", true},
+        {"a time to come, with seconds", ShanghaiMorning, slotWith("2026-03-07T10:20:07"),
          "2026-03-07T02:20:07Z", true},
-        {"a past time", shanghaiMorning, slotWith("2026-03-07T09:00:00"), "2026-03-07T01:00:00Z", false},
-        {"last year's leap day", shanghaiMorning, slotWith("2024-02-29"), "2024-02-29T01:00:00Z", false},
-        {"no such day", shanghaiMorning, slotWith("2026-02-29"), "1970-01-01T00:00:00Z", false},
-        {"no such day, with a time", shanghaiMorning, slotWith("2026-13-45T10:00:00"), "1970-01-01T00:00:00Z",
+        {"a past time", ShanghaiMorning, slotWith("2026-03-07T09:00:00"), "2026-03-07T01:00:00Z", false},
+        {"last year's leap day", ShanghaiMorning, slotWith("2024-02-29"), "2024-02-29T01:00:00Z", false},
+        {"no such day", ShanghaiMorning, slotWith("2026-02-29"), "1970-01-01T00:00:00Z", false},
+        {"no such day, with a time", ShanghaiMorning, slotWith("2026-13-45T10:00:00"), "1970-01-01T00:00:00Z",
          false},
-        {"no such time", shanghaiMorning, slotWith("2026-03-08T25:00:00"), "1970-01-01T00:00:00Z", false},
-        {"a time without seconds", shanghaiMorning, slotWith("2026-03-08T10:00"), "1970-01-01T00:00:00Z",
+        {"no such time", ShanghaiMorning, slotWith("2026-03-08T25:00:00"), "1970-01-01T00:00:00Z", false},
+        {"a time without seconds", ShanghaiMorning, slotWith("2026-03-08T10:00"), "1970-01-01T00:00:00Z",
          false},
-        {"a day of one digit", shanghaiMorning, slotWith("2026-03-8"), "1970-01-01T00:00:00Z", false},
-        {"a day with other separators", shanghaiMorning, slotWith("2026/03/08"), "1970-01-01T00:00:00Z",
+        {"a day of one digit", ShanghaiMorning, slotWith("2026-03-8"), "1970-01-01T00:00:00Z", false},
+        {"a day with other separators", ShanghaiMorning, slotWith("2026/03/08"), "1970-01-01T00:00:00Z",
          false},
-        {"a day with more after it", shanghaiMorning, slotWith("2026-03-08 "), "1970-01-01T00:00:00Z", false},
-        {"a day in Arabic digits", shanghaiMorning, slotWith("٢٠٢٦-٠٣-٠٨"), "1970-01-01T00:00:00Z", false},
-        {"a year with a sign", shanghaiMorning, slotWith("+026-03-08"), "1970-01-01T00:00:00Z", false},
-        {"a time with a zone", shanghaiMorning, slotWith("2026-03-08T10:00:00Z"), "1970-01-01T00:00:00Z",
+        {"a day with more after it", ShanghaiMorning, slotWith("2026-03-08 "), "1970-01-01T00:00:00Z", false},
+        {"a day in Arabic digits", ShanghaiMorning, slotWith("٢٠٢٦-٠٣-٠٨"), "1970-01-01T00:00:00Z", false},
+        {"a year with a sign", ShanghaiMorning, slotWith("+026-03-08"), "1970-01-01T00:00:00Z", false},
+        {"a time with a zone", ShanghaiMorning, slotWith("2026-03-08T10:00:00Z"), "1970-01-01T00:00:00Z",
          false},
-        {"a time with a fraction", shanghaiMorning, slotWith("2026-03-08T10:00:00.5"), "1970-01-01T00:00:00Z",
+        {"a time with a fraction", ShanghaiMorning, slotWith("2026-03-08T10:00:00.5"), "1970-01-01T00:00:00Z",
          false},
-        {"a blank for the mark", shanghaiMorning, slotWith("2026-03-08 10:00:00"), "1970-01-01T00:00:00Z",
+        {"a blank for the mark", ShanghaiMorning, slotWith("2026-03-08 10:00:00"), "1970-01-01T00:00:00Z",
          false},
-        {"the mark alone", shanghaiMorning, slotWith("T"), "1970-01-01T00:00:00Z", false},
-        {"a word", shanghaiMorning, slotWith("tomorrow"), "1970-01-01T00:00:00Z", false},
+        {"the mark alone", ShanghaiMorning, slotWith("T"), "1970-01-01T00:00:00Z", false},
+        {"a word", ShanghaiMorning, slotWith("tomorrow"), "1970-01-01T00:00:00Z", false},
 
-        {"no time: midnight", shanghaiNight, none, "2026-03-07T16:00:00Z", true},
-        {"today: midnight", shanghaiNight, slotWith("2026-03-07"), "2026-03-07T16:00:00Z", true},
-        {"tomorrow: nine o'clock, not midnight", shanghaiNight, slotWith("2026-03-08"),
+        {"no time: midnight", ShanghaiNight, none, "2026-03-07T16:00:00Z", true},
+        {"today: midnight", ShanghaiNight, slotWith("2026-03-07"), "2026-03-07T16:00:00Z", true},
+        {"tomorrow: nine o'clock, not midnight", ShanghaiNight, slotWith("2026-03-08"),
          "2026-03-08T01:00:00Z", true},
 
-        {"no time: the next month", monthEnd, none, "2026-04-30T16:00:00Z", true},
-        {"today: the next month", monthEnd, slotWith("2026-04-30"), "2026-04-30T16:00:00Z", true},
-        {"tomorrow: the next month", monthEnd, slotWith("2026-05-01"), "2026-05-01T01:00:00Z", true},
+        {"no time: the next month", MonthEnd, none, "2026-04-30T16:00:00Z", true},
+        {"today: the next month", MonthEnd, slotWith("2026-04-30"), "2026-04-30T16:00:00Z", true},
+        {"tomorrow: the next month", MonthEnd, slotWith("2026-05-01"), "2026-05-01T01:00:00Z", true},
 
-        {"no time: the next year", yearEnd, none, "2026-12-31T16:00:00Z", true},
-        {"today: the next year", yearEnd, slotWith("2026-12-31"), "2026-12-31T16:00:00Z", true},
-        {"tomorrow: the next year", yearEnd, slotWith("2027-01-01"), "2027-01-01T01:00:00Z", true},
+        {"no time: the next year", YearEnd, none, "2026-12-31T16:00:00Z", true},
+        {"today: the next year", YearEnd, slotWith("2026-12-31"), "2026-12-31T16:00:00Z", true},
+        {"tomorrow: the next year", YearEnd, slotWith("2027-01-01"), "2027-01-01T01:00:00Z", true},
 
-        {"no time: the leap day", beforeLeapDay, none, "2028-02-28T16:00:00Z", true},
-        {"tomorrow: the leap day", beforeLeapDay, slotWith("2028-02-29"), "2028-02-29T01:00:00Z", true},
-        {"no time: after the leap day", leapDay, none, "2028-02-29T16:00:00Z", true},
-        {"today: after the leap day", leapDay, slotWith("2028-02-29"), "2028-02-29T16:00:00Z", true},
+        {"no time: the leap day", BeforeLeapDay, none, "2028-02-28T16:00:00Z", true},
+        {"tomorrow: the leap day", BeforeLeapDay, slotWith("2028-02-29"), "2028-02-29T01:00:00Z", true},
+        {"no time: after the leap day", LeapDay, none, "2028-02-29T16:00:00Z", true},
+        {"today: after the leap day", LeapDay, slotWith("2028-02-29"), "2028-02-29T16:00:00Z", true},
 
         // 02:00 to 03:00 is missing.
-        {"no time: after the missing hour", berlinBeforeTheMissingHour, none, "2026-03-29T01:00:00Z", true},
-        {"today: after the missing hour", berlinBeforeTheMissingHour, slotWith("2026-03-29"),
+        {"no time: after the missing hour", BerlinBeforeTheMissingHour, none, "2026-03-29T01:00:00Z", true},
+        {"today: after the missing hour", BerlinBeforeTheMissingHour, slotWith("2026-03-29"),
          "2026-03-29T01:00:00Z", true},
-        {"in the missing hour", berlinBeforeTheMissingHour, slotWith("2026-03-29T02:30:00"),
+        {"in the missing hour", BerlinBeforeTheMissingHour, slotWith("2026-03-29T02:30:00"),
          "2026-03-29T01:30:00Z", true},
-        {"after the missing hour", berlinBeforeTheMissingHour, slotWith("2026-03-29T03:30:00"),
+        {"after the missing hour", BerlinBeforeTheMissingHour, slotWith("2026-03-29T03:30:00"),
          "2026-03-29T01:30:00Z", true},
-        {"nine o'clock in summer", berlinBeforeTheMissingHour, slotWith("2026-03-30"), "2026-03-30T07:00:00Z",
+        {"nine o'clock in summer", BerlinBeforeTheMissingHour, slotWith("2026-03-30"), "2026-03-30T07:00:00Z",
          true},
-        {"no time: midnight in winter", berlinDayBefore, none, "2026-03-28T23:00:00Z", true},
-        {"nine o'clock on the short day", berlinDayBefore, slotWith("2026-03-29"), "2026-03-29T07:00:00Z",
+        {"no time: midnight in winter", BerlinDayBefore, none, "2026-03-28T23:00:00Z", true},
+        {"nine o'clock on the short day", BerlinDayBefore, slotWith("2026-03-29"), "2026-03-29T07:00:00Z",
          true},
-        {"nine o'clock on the long day", berlinDayBefore, slotWith("2026-10-25"), "2026-10-25T08:00:00Z",
+        {"nine o'clock on the long day", BerlinDayBefore, slotWith("2026-10-25"), "2026-10-25T08:00:00Z",
          true},
-        {"nine o'clock in winter", berlinBeforeTheRepeatedHour, slotWith("2026-10-26"),
+        {"nine o'clock in winter", BerlinBeforeTheRepeatedHour, slotWith("2026-10-26"),
          "2026-10-26T08:00:00Z", true},
 
         // 00:00 to 01:00 is missing.
-        {"no time: no midnight", beirutBeforeTheMissingMidnight, none, "2026-03-28T22:00:00Z", true},
-        {"nine o'clock without a midnight", beirutBeforeTheMissingMidnight, slotWith("2026-03-29"),
+        {"no time: no midnight", BeirutBeforeTheMissingMidnight, none, "2026-03-28T22:00:00Z", true},
+        {"nine o'clock without a midnight", BeirutBeforeTheMissingMidnight, slotWith("2026-03-29"),
          "2026-03-29T06:00:00Z", true},
     };
 }
@@ -138,50 +138,50 @@ struct Query
 QVector<Query> queries()
 {
     return {
-        {"today: from now", shanghaiMorning, slotWith("2026-03-07"), 0, "now", "2026-03-07T16:00:00Z", ""},
-        {"tomorrow", shanghaiMorning, slotWith("2026-03-08"), 0, "2026-03-07T16:00:00Z",
+        {"today: from now", ShanghaiMorning, slotWith("2026-03-07"), 0, "now", "2026-03-07T16:00:00Z", ""},
+        {"tomorrow", ShanghaiMorning, slotWith("2026-03-08"), 0, "2026-03-07T16:00:00Z",
          "2026-03-08T16:00:00Z", ""},
-        {"yesterday", shanghaiMorning, slotWith("2026-03-06"), 0, "", "", ""},
-        {"a time to come", shanghaiMorning, slotWith("2026-03-07T15:00:00"), 0, "2026-03-07T07:00:00Z",
+        {"yesterday", ShanghaiMorning, slotWith("2026-03-06"), 0, "", "", ""},
+        {"a time to come", ShanghaiMorning, slotWith("2026-03-07T15:00:00"), 0, "2026-03-07T07:00:00Z",
          "2026-03-07T16:00:00Z", "2026-03-07T07:00:00Z"},
-        {"a time that is past today", shanghaiMorning, slotWith("2026-03-07T08:00:00"), 0,
+        {"a time that is past today", ShanghaiMorning, slotWith("2026-03-07T08:00:00"), 0,
          "2026-03-07T00:00:00Z", "2026-03-07T16:00:00Z", "2026-03-07T00:00:00Z"},
-        {"a time yesterday", shanghaiMorning, slotWith("2026-03-06T23:59:59"), 0, "", "",
+        {"a time yesterday", ShanghaiMorning, slotWith("2026-03-06T23:59:59"), 0, "", "",
          "2026-03-06T15:59:59Z"},
-        {"a time replaces what came in", shanghaiMorning, slotWith("2026-03-08T15:00:00"), 5,
+        {"a time replaces what came in", ShanghaiMorning, slotWith("2026-03-08T15:00:00"), 5,
          "2026-03-08T07:00:00Z", "2026-03-08T16:00:00Z", "2026-03-08T07:00:00Z"},
-        {"a positive start comes in", shanghaiMorning, slotWith("2026-03-08"), 1000, "1970-01-01T00:00:01Z",
+        {"a positive start comes in", ShanghaiMorning, slotWith("2026-03-08"), 1000, "1970-01-01T00:00:01Z",
          "2026-03-08T16:00:00Z", ""},
-        {"a negative start comes in", shanghaiMorning, slotWith("2026-03-08"), -1000, "2026-03-07T16:00:00Z",
+        {"a negative start comes in", ShanghaiMorning, slotWith("2026-03-08"), -1000, "2026-03-07T16:00:00Z",
          "2026-03-08T16:00:00Z", ""},
-        {"no such day", shanghaiMorning, slotWith("2026-02-29"), 0, "", "", ""},
-        {"no such time", shanghaiMorning, slotWith("2026-03-08T24:00:00"), 5, "", "", "1970-01-01T00:00:00Z"},
-        {"no text", shanghaiMorning, QString(), 0, "", "", ""},
-        {"not JSON", shanghaiMorning, QStringLiteral("2026-03-08"), 0, "", "", ""},
-        {"no date in it", shanghaiMorning, QStringLiteral("{}"), 0, "", "", ""},
-        {"date that is a number", shanghaiMorning, QStringLiteral(R"({"suggestDatetime": 20260308})"), 0, "",
+        {"no such day", ShanghaiMorning, slotWith("2026-02-29"), 0, "", "", ""},
+        {"no such time", ShanghaiMorning, slotWith("2026-03-08T24:00:00"), 5, "", "", "1970-01-01T00:00:00Z"},
+        {"no text", ShanghaiMorning, QString(), 0, "", "", ""},
+        {"not JSON", ShanghaiMorning, QStringLiteral("2026-03-08"), 0, "", "", ""},
+        {"no date in it", ShanghaiMorning, QStringLiteral("{}"), 0, "", "", ""},
+        {"date that is a number", ShanghaiMorning, QStringLiteral(R"({"suggestDatetime": 20260308})"), 0, "",
          "", ""},
-        {"array", shanghaiMorning, QStringLiteral(R"(["2026-03-08"])"), 0, "", "", ""},
+        {"array", ShanghaiMorning, QStringLiteral(R"(["2026-03-08"])"), 0, "", "", ""},
 
-        {"today at night", shanghaiNight, slotWith("2026-03-07"), 0, "now", "2026-03-07T16:00:00Z", ""},
-        {"the month's last day", monthEnd, slotWith("2026-04-30"), 0, "now", "2026-04-30T16:00:00Z", ""},
-        {"the year's last day", yearEnd, slotWith("2026-12-31"), 0, "now", "2026-12-31T16:00:00Z", ""},
-        {"the next year's first", yearEnd, slotWith("2027-01-01"), 0, "2026-12-31T16:00:00Z",
+        {"today at night", ShanghaiNight, slotWith("2026-03-07"), 0, "now", "2026-03-07T16:00:00Z", ""},
+        {"the month's last day", MonthEnd, slotWith("2026-04-30"), 0, "now", "2026-04-30T16:00:00Z", ""},
+        {"the year's last day", YearEnd, slotWith("2026-12-31"), 0, "now", "2026-12-31T16:00:00Z", ""},
+        {"the next year's first", YearEnd, slotWith("2027-01-01"), 0, "2026-12-31T16:00:00Z",
          "2027-01-01T16:00:00Z", ""},
-        {"the leap day tomorrow", beforeLeapDay, slotWith("2028-02-29"), 0, "2028-02-28T16:00:00Z",
+        {"the leap day tomorrow", BeforeLeapDay, slotWith("2028-02-29"), 0, "2028-02-28T16:00:00Z",
          "2028-02-29T16:00:00Z", ""},
-        {"the leap day today", leapDay, slotWith("2028-02-29"), 0, "now", "2028-02-29T16:00:00Z", ""},
-        {"the short day", berlinDayBefore, slotWith("2026-03-29"), 0, "2026-03-28T23:00:00Z",
+        {"the leap day today", LeapDay, slotWith("2028-02-29"), 0, "now", "2028-02-29T16:00:00Z", ""},
+        {"the short day", BerlinDayBefore, slotWith("2026-03-29"), 0, "2026-03-28T23:00:00Z",
          "2026-03-29T22:00:00Z", ""},
-        {"in the missing hour", berlinBeforeTheMissingHour, slotWith("2026-03-29T02:30:00"), 0,
+        {"in the missing hour", BerlinBeforeTheMissingHour, slotWith("2026-03-29T02:30:00"), 0,
          "2026-03-29T01:30:00Z", "2026-03-29T22:00:00Z", "2026-03-29T01:30:00Z"},
-        {"the long day", berlinDayBefore, slotWith("2026-10-25"), 0, "2026-10-24T22:00:00Z",
+        {"the long day", BerlinDayBefore, slotWith("2026-10-25"), 0, "2026-10-24T22:00:00Z",
          "2026-10-25T23:00:00Z", ""},
-        {"today, the long day", berlinBeforeTheRepeatedHour, slotWith("2026-10-25"), 0, "now",
+        {"today, the long day", BerlinBeforeTheRepeatedHour, slotWith("2026-10-25"), 0, "now",
          "2026-10-25T23:00:00Z", ""},
-        {"a day without midnight", beirutBeforeTheMissingMidnight, slotWith("2026-03-29"), 0,
+        {"a day without midnight", BeirutBeforeTheMissingMidnight, slotWith("2026-03-29"), 0,
          "2026-03-28T22:00:00Z", "2026-03-29T21:00:00Z", ""},
-        {"the day before one without midnight", beirutBeforeTheMissingMidnight, slotWith("2026-03-28"), 0,
+        {"the day before one without midnight", BeirutBeforeTheMissingMidnight, slotWith("2026-03-28"), 0,
          "now", "2026-03-28T22:00:00Z", ""},
     };
 }
@@ -189,7 +189,7 @@ QVector<Query> queries()
 } // namespace
 
 /// Runs once per clock; each run takes the rows that belong to its clock.
-class TimeBuildersTest : public QObject
+class TestTimeBuilders : public QObject
 {
     Q_OBJECT
 
@@ -238,7 +238,7 @@ private Q_SLOTS:
 
     void startTimeIsLoggedAsDateAndTime()
     {
-        if (clockOfThisRun() != QString::fromUtf8(shanghaiMorning)) {
+        if (clockOfThisRun() != QString::fromUtf8(ShanghaiMorning)) {
             return QTest::qSkip("The texts are those of one clock.", __FILE__, __LINE__);
         }
         bool isSchedule = true;
@@ -266,7 +266,7 @@ private Q_SLOTS:
 
     void fullHourThatComesTwiceIsInTheFuture()
     {
-        if (clockOfThisRun() != QString::fromUtf8(berlinBeforeTheRepeatedHour)) {
+        if (clockOfThisRun() != QString::fromUtf8(BerlinBeforeTheRepeatedHour)) {
             return QTest::qSkip("The hour comes twice on one clock only.", __FILE__, __LINE__);
         }
         bool isSchedule = true;
@@ -370,6 +370,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TimeBuildersTest)
+QTEST_GUILESS_MAIN(TestTimeBuilders)
 
 #include "tst_timebuilders.moc"

@@ -3,8 +3,8 @@
 
 #include "sampleworld.h"
 
-#include <QtCore/QDateTime>
-#include <QtCore/QJsonDocument>
+#include <QDateTime>
+#include <QJsonDocument>
 
 SampleWorld::SampleWorld()
     : nowMsecs(at("2026-03-07T10:20"))
@@ -37,8 +37,9 @@ QJsonObject SampleWorld::conference(const QString &number)
 {
     const QJsonArray all = conferences();
     for (const QJsonValue &value : all) {
-        if (value.toObject().value(QLatin1String("number")).toString() == number)
+        if (value.toObject().value(QLatin1String("number")).toString() == number) {
             return value.toObject();
+        }
     }
     return {};
 }
@@ -57,7 +58,8 @@ qint64 at(const char *localTime)
 QJsonObject membersNamed(const QStringList &names)
 {
     QJsonArray members;
-    for (const QString &name : names)
+    for (const QString &name : names) {
         members.append(QJsonObject{{QStringLiteral("name"), name}, {QStringLiteral("userId"), QString()}});
+    }
     return {{QStringLiteral("members"), members}};
 }

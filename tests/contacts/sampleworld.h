@@ -6,9 +6,9 @@
 #include "book/administration.h"
 #include "book/contactsbook.h"
 
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonObject>
-#include <QtCore/QTemporaryDir>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QTemporaryDir>
 
 /// The sample directory in a database of its own, on 7 March 2026 at 10:20 unless the test moves the clock.
 class SampleWorld

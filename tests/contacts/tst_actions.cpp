@@ -3,8 +3,8 @@
 
 #include "sampleworld.h"
 
-#include <QtCore/QJsonDocument>
-#include <QtTest/QtTest>
+#include <QJsonDocument>
+#include <QtTest>
 
 #include <functional>
 
@@ -65,8 +65,9 @@ Parameters userId(const char *said)
 Parameters names(const QStringList &asked, qint64 startMsecs = 0)
 {
     QJsonObject parameters = membersNamed(asked);
-    if (startMsecs != 0)
+    if (startMsecs != 0) {
         parameters.insert(QStringLiteral("startTime"), startMsecs);
+    }
     return fixed(parameters);
 }
 
@@ -441,8 +442,9 @@ void TestActions::outcome()
     SampleWorld world;
     arrange(world);
     const QJsonObject asked = parameters(world);
-    if (expected == QLatin1String("Invalid Parameters"))
+    if (expected == QLatin1String("Invalid Parameters")) {
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Refused parameters for")));
+    }
     const QString word = ret(asked.isEmpty() ? world.ask(action) : world.ask(action, asked));
     QCOMPARE(word, expected);
     m_reached.insert(word);
@@ -690,8 +692,9 @@ void TestActions::theCreationLimitIsOfOneMinute()
         parameters.insert(QStringLiteral("startTime"), at("2026-04-01T10:00") + day * 86400000LL);
         return ret(world.ask(Create, parameters));
     };
-    for (int day = 0; day < 10; ++day)
+    for (int day = 0; day < 10; ++day) {
         QCOMPARE(schedule(day), QStringLiteral("OK"));
+    }
     QCOMPARE(schedule(10), QStringLiteral("Conference Create Too Frequently"));
     world.nowMsecs += 59999;
     QCOMPARE(schedule(10), QStringLiteral("Conference Create Too Frequently"));
@@ -732,8 +735,9 @@ void TestActions::aSearchWithoutParametersFindsEverythingFromNowOn()
     SampleWorld world;
     QStringList numbers;
     const QJsonArray found = list(world.ask(Search));
-    for (const QJsonValue &value : found)
+    for (const QJsonValue &value : found) {
         numbers.append(value.toObject().value(QLatin1String("conferenceDialNumber")).toString());
+    }
     // By their start: the running one first, the ended one not at all.
     QCOMPARE(numbers, QStringList({QStringLiteral("880100001"), QStringLiteral("880100005"),
                                    QStringLiteral("880100006"), QStringLiteral("880100007")}));

@@ -5,16 +5,16 @@
 
 #include <kelvane/kelvaneabilitymanager.h>
 
-#include <QtCore/QDir>
-#include <QtCore/QFileInfo>
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtCore/QProcess>
-#include <QtCore/QRandomGenerator>
-#include <QtCore/QTemporaryDir>
-#include <QtDBus/QDBusConnectionInterface>
-#include <QtTest/QtTest>
+#include <QDBusConnectionInterface>
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QtTest>
 
 #include <atomic>
 #include <csignal>
@@ -52,8 +52,9 @@ bool isAlive(pid_t pid)
 {
     // A process that nobody has collected yet is dead all the same.
     QFile status(QStringLiteral("/proc/%1/stat").arg(pid));
-    if (!status.open(QIODevice::ReadOnly))
+    if (!status.open(QIODevice::ReadOnly)) {
         return false;
+    }
     const QByteArray line = status.readAll();
     return line.mid(line.lastIndexOf(')') + 2, 1) != "Z";
 }
@@ -61,8 +62,9 @@ bool isAlive(pid_t pid)
 void stopService()
 {
     const pid_t pid = servicePid();
-    if (pid != 0)
+    if (pid != 0) {
         kill(pid, SIGKILL);
+    }
     QTRY_VERIFY(servicePid() == 0);
 }
 
@@ -110,8 +112,9 @@ void TestApplication::whatWasAnsweredSurvivesBeingKilled()
                           QJsonArray{QJsonObject{{QStringLiteral("name"), QStringLiteral("赵磊")}}}}},
                         code);
                 start += HourMsecs;
-                if (code != 0)
+                if (code != 0) {
                     break;
+                }
                 answered.append(created.value(QLatin1String("list"))
                                     .toArray()
                                     .at(0)
@@ -141,8 +144,9 @@ void TestApplication::whatWasAnsweredSurvivesBeingKilled()
         QVERIFY(conference.value(QLatin1String("participants")).toArray().size() >=
                 (conference.value(QLatin1String("number")).toString() == QLatin1String("880100004") ? 1 : 2));
     }
-    for (const QString &confId : qAsConst(answered))
+    for (const QString &confId : qAsConst(answered)) {
         QVERIFY2(kept.contains(confId), qPrintable(confId));
+    }
 }
 
 void TestApplication::theAdministrationIsOnTheBus()

@@ -11,15 +11,15 @@
 
 #include <lumo/lguiapplicationhelper.h>
 
-#include <QtCore/QDir>
-#include <QtGui/QAccessible>
-#include <QtTest/QtTest>
-#include <QtWidgets/QCheckBox>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QHeaderView>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QTabWidget>
+#include <QAccessible>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QtTest>
 
 /// The window over the sample directory, driven as a person would.
 class TestContactsWindow : public QObject
@@ -209,8 +209,9 @@ void TestContactsWindow::everyButtonCanBeReachedWithTheKeyboard()
         reached.insert(QApplication::focusWidget()->objectName());
     }
     for (const char *name : {"account", "kind", "logout", "elsewhere", "scope", "passcode", "join", "leave",
-                             "create", "start", "delete", "sample"})
+                             "create", "start", "delete", "sample"}) {
         QVERIFY2(reached.contains(QString::fromLatin1(name)), name);
+    }
 }
 
 void TestContactsWindow::loggingInAndOutChangesWhatIsShown()
@@ -280,8 +281,9 @@ void TestContactsWindow::everyControlHasANameForScreenReaders()
     const QList<QWidget *> widgets = m_window->findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
         if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible() ||
-            widget->objectName().startsWith(QLatin1String("qt_")))
+            widget->objectName().startsWith(QLatin1String("qt_"))) {
             continue;
+        }
         QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
         QVERIFY2(accessible && !accessible->text(QAccessible::Name).isEmpty(),
                  widget->metaObject()->className());
@@ -323,11 +325,13 @@ void TestContactsWindow::pictures()
         QStringLiteral("1"),
         QStringLiteral("一个标题非常非常长的会议，长得任何一列都放不下，所以要省略").repeated(2),
         QStringLiteral("100001"), m_world->nowMsecs + 86400000LL * 3, 1800000, 5, QString(), {});
-    if (!loggedIn)
+    if (!loggedIn) {
         m_world->admin.Logout();
+    }
     m_window->findChild<QTabWidget *>()->setCurrentIndex(tab);
-    if (tab == 0 && loggedIn)
+    if (tab == 0 && loggedIn) {
         selectNumber("880100001");
+    }
     QCoreApplication::processEvents();
     const QImage picture = m_window->grab().toImage();
     QCOMPARE(picture.pixelColor(2, 2).lightness() > 128, theme == LGuiApplicationHelper::LightType);

@@ -8,8 +8,8 @@
 #include "core/databaseerror.h"
 #include "core/statement.h"
 
-#include <QtCore/QDir>
-#include <QtTest/QtTest>
+#include <QDir>
+#include <QtTest>
 
 namespace {
 
@@ -141,13 +141,15 @@ void TestDatabase::aDaysQueryWalksOneIndex()
     Statement query(database, QStringLiteral("EXPLAIN QUERY PLAN ") + ConferenceRepository::ofUserSql());
     query.bind(QString()).bind(0).bind(0).bind(0).bind(0).run();
     QStringList plan;
-    while (query.next())
+    while (query.next()) {
         plan.append(query.text(3));
+    }
     QVERIFY2(plan.at(0).contains(QLatin1String("participant_by_time")),
              qPrintable(plan.join(QLatin1Char('\n'))));
     QVERIFY(plan.at(0).contains(QLatin1String("user_id=? AND start_msecs>? AND start_msecs<?")));
-    for (const QString &step : qAsConst(plan))
+    for (const QString &step : qAsConst(plan)) {
         QVERIFY2(step.startsWith(QLatin1String("SEARCH")), qPrintable(step));
+    }
 }
 
 void TestDatabase::anAdministrationThatFailsChangesNothing()

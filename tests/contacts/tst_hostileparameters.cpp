@@ -7,7 +7,7 @@
 
 #include "actions/requestparameters.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 namespace {
 
@@ -20,8 +20,9 @@ QString nested(int depth)
 QString manyMembers(int count)
 {
     QStringList members;
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         members.append(QStringLiteral("{\"name\":\"%1\"}").arg(i));
+    }
     return QStringLiteral("{\"members\":[%1]}").arg(members.join(QLatin1Char(',')));
 }
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include <QtCore/QObject>
-#include <QtCore/QtPlugin>
+#include <QObject>
+#include <QtPlugin>
 
 /// A plugin of another host.
 class OtherPlugin : public QObject

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QString>
+#include <QString>
 
 /// The semantic text for the test plugin: one intent with at most one slot.
 inline QString semantic(const char *intent, const QString &value = QString())

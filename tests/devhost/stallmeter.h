@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QObject>
-#include <QtCore/QTimer>
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
 
 /// Measures the longest time for which the event loop did nothing else, by a timer that should fire at once.
 class StallMeter : public QObject

@@ -3,14 +3,14 @@
 
 #include "testplugin.h"
 
-#include <QtCore/QFile>
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtCore/QThread>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QVBoxLayout>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLabel>
+#include <QPushButton>
+#include <QThread>
+#include <QVBoxLayout>
 
 #include <stdexcept>
 #include <thread>
@@ -29,8 +29,9 @@ public:
     IRet service(const QString &semantic) override
     {
         const QJsonObject root = QJsonDocument::fromJson(semantic.toUtf8()).object();
-        if (!root.contains(QLatin1String("intent")))
+        if (!root.contains(QLatin1String("intent"))) {
             return -100;
+        }
         const QJsonObject intent = root.value(QLatin1String("intent"))
                                        .toObject()
                                        .value(QLatin1String("semantic"))
@@ -47,30 +48,38 @@ public:
         ++m_uses;
         qDebug("service %s on %s thread", qUtf8Printable(m_name),
                QThread::currentThread() == m_plugin.thread() ? "the GUI" : "another");
-        if (m_name == QLatin1String("SLOW"))
+        if (m_name == QLatin1String("SLOW")) {
             QThread::msleep(m_slot.toULong());
-        for (int i = 0; m_name == QLatin1String("WAIT") && !QFile::exists(m_slot) && i < 20000; ++i)
+        }
+        for (int i = 0; m_name == QLatin1String("WAIT") && !QFile::exists(m_slot) && i < 20000; ++i) {
             QThread::msleep(1);
-        if (m_name == QLatin1String("THROW"))
+        }
+        if (m_name == QLatin1String("THROW")) {
             throw std::runtime_error("thrown on purpose");
+        }
         return 0;
     }
 
     Reply *getServiceReply() override
     {
-        if (m_name == QLatin1String("THROWREPLY"))
+        if (m_name == QLatin1String("THROWREPLY")) {
             throw std::runtime_error("thrown in the reply");
-        if (m_name == QLatin1String("NOREPLY"))
+        }
+        if (m_name == QLatin1String("NOREPLY")) {
             return nullptr;
+        }
         m_reply = Reply(0, m_slot.isEmpty() ? QStringLiteral("use %1").arg(m_uses) : m_slot, Reply::Texts);
-        if (m_name == QLatin1String("ASKPASSWORD"))
+        if (m_name == QLatin1String("ASKPASSWORD")) {
             m_reply = Reply(-16014, QStringLiteral("请输入密码:"), Reply::Texts);
-        if (m_name == QLatin1String("CARD"))
+        }
+        if (m_name == QLatin1String("CARD")) {
             attachCard();
-        if (m_name == QLatin1String("LATE"))
+        }
+        if (m_name == QLatin1String("LATE")) {
             std::thread([&plugin = m_plugin] {
                 plugin.answerLater(Reply(0, QStringLiteral("later"), Reply::Texts));
             }).detach();
+        }
         return &m_reply;
     }
 
@@ -105,8 +114,9 @@ private:
 int TestPlugin::init()
 {
     const QByteArray how = qgetenv("TESTPLUGIN_INIT");
-    if (how == "throw")
+    if (how == "throw") {
         throw std::runtime_error("no start");
+    }
     return how == "fail" ? -3 : 0;
 }
 
@@ -127,6 +137,7 @@ void TestPlugin::releaseService(IService *service)
 
 void TestPlugin::answerLater(const Reply &reply)
 {
-    if (messageHandle)
+    if (messageHandle) {
         messageHandle(this, reply);
+    }
 }

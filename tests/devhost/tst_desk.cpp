@@ -9,10 +9,10 @@
 #include "redirectedfile.h"
 #include "stallmeter.h"
 
-#include <QtSql/QSqlDatabase>
-#include <QtSql/QSqlQuery>
-#include <QtTest/QtTest>
-#include <QtWidgets/QtWidgets>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <algorithm>
 #include <iostream>
@@ -110,8 +110,9 @@ QString TestDesk::lastText() const
 {
     const Bubble *last = nullptr;
     for (const Bubble *bubble : m_window->view()->findChildren<Bubble *>()) {
-        if (bubble->isVisible() && (last == nullptr || bubble->y() > last->y()))
+        if (bubble->isVisible() && (last == nullptr || bubble->y() > last->y())) {
             last = bubble;
+        }
     }
     return last == nullptr ? QString() : last->text();
 }
@@ -120,8 +121,9 @@ template <typename Control>
 Control *TestDesk::shown(const QString &text) const
 {
     for (Control *control : m_window->view()->findChildren<Control *>()) {
-        if (control->isVisible() && control->text() == text)
+        if (control->isVisible() && control->text() == text) {
             return control;
+        }
     }
     return nullptr;
 }
@@ -161,8 +163,9 @@ void TestDesk::durationIsChangedOnTheCard()
     QTRY_VERIFY(shown<QPushButton>(QStringLiteral("修 改")) != nullptr);
     QComboBox *duration = nullptr;
     for (auto *combo : m_window->view()->findChildren<QComboBox *>()) {
-        if (combo->currentText() == QStringLiteral("1小时"))
+        if (combo->currentText() == QStringLiteral("1小时")) {
             duration = combo;
+        }
     }
     QVERIFY(duration != nullptr);
     duration->setFocus();
@@ -211,14 +214,18 @@ void TestDesk::conferenceIsJoinedWithAPasswordInTwoTurns()
     const Turn turn = m_conversation->turn(2);
     QStringList seen{turn.said, turn.semantic};
     QVERIFY(!turn.calls.isEmpty());
-    for (const AbilityCall &call : turn.calls)
+    for (const AbilityCall &call : turn.calls) {
         seen << call.parameters << call.answer;
-    for (const LogRecord &record : turn.logs)
+    }
+    for (const LogRecord &record : turn.logs) {
         seen << record.text;
-    for (const Bubble *bubble : m_window->view()->findChildren<Bubble *>())
+    }
+    for (const Bubble *bubble : m_window->view()->findChildren<Bubble *>()) {
         seen << bubble->text();
-    for (const QString &text : qAsConst(seen))
+    }
+    for (const QString &text : qAsConst(seen)) {
         QVERIFY2(!text.contains(QLatin1String("246810")), qUtf8Printable(text));
+    }
     QTest::keyClick(m_window->input(), Qt::Key_Up);
     QCOMPARE(m_window->input()->text(), QStringLiteral("加入会议880100002"));
 }

@@ -3,9 +3,9 @@
 
 #include "semantics.h"
 
-#include <QtCore/QProcess>
-#include <QtGui/QImage>
-#include <QtTest/QtTest>
+#include <QImage>
+#include <QProcess>
+#include <QtTest>
 
 namespace {
 
@@ -23,12 +23,14 @@ Run run(const QStringList &arguments, const QByteArray &input = QByteArray())
     process.write(input);
     process.closeWriteChannel();
     Run result;
-    if (!process.waitForFinished(60000))
+    if (!process.waitForFinished(60000)) {
         return result;
+    }
     result.status = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -2;
     result.output = process.readAllStandardOutput().split('\n');
-    if (result.output.last().isEmpty())
+    if (result.output.last().isEmpty()) {
         result.output.removeLast();
+    }
     result.errors = process.readAllStandardError();
     return result;
 }
@@ -92,9 +94,10 @@ void TestDevhostProgram::brokenLinesAreNamedAndTheRestGoesOn()
     QCOMPARE(result.output.size(), 2);
     QVERIFY(result.output.at(1).contains("\"b\""));
     QCOMPARE(result.status, 1);
-    for (const char *message :
-         {"line 1: not JSON", "line 3: not a JSON object", "line 4: not UTF-8", "line 5: longer than 1 MiB"})
+    for (const char *message : {"line 1: not JSON", "line 3: not a JSON object", "line 4: not UTF-8",
+                                "line 5: longer than 1 MiB"}) {
         QVERIFY2(result.errors.contains(message), result.errors.constData());
+    }
     QVERIFY(!result.errors.contains("line 2"));
 }
 
@@ -189,8 +192,9 @@ void TestDevhostProgram::helpAndVersionNeedNothing()
     const Run help = run({QStringLiteral("--help")});
     QCOMPARE(help.status, 0);
     for (const char *option : {"--batch", "--converse", "--plugin", "--screenshots", "--theme", "--verbose",
-                               "--script", "--contacts"})
+                               "--script", "--contacts"}) {
         QVERIFY2(help.output.join('\n').contains(option), option);
+    }
     const Run version = run({QStringLiteral("--version")});
     QCOMPARE(version.status, 0);
     QVERIFY(version.output.first().startsWith("speakmate-devhost "));

@@ -11,8 +11,8 @@
 #include "secrets.h"
 #include "textlayout.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QtWidgets>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <sstream>
 
@@ -51,7 +51,8 @@ void TestHostPieces::textsAreShownWithoutWhatHides_data()
     QTest::newRow("an override of the direction goes")
         << QStringLiteral("a\u202eb\u2066c") << QStringLiteral("abc");
     QTest::newRow("invisible blanks go") << QStringLiteral("a\u200bb\ufeffc") << QStringLiteral("abc");
-    QTest::newRow("a joined emoji stays whole") << QStringLiteral("👩\u200d💻") << QStringLiteral("👩\u200d💻");
+    QTest::newRow("a joined emoji stays whole")
+        << QStringLiteral("👩\u200d💻") << QStringLiteral("👩\u200d💻");
     QTest::newRow("half a character goes")
         << QString(QChar(0xd83d)) + QLatin1Char('a') << QStringLiteral("a");
 }

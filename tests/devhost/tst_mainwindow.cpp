@@ -12,8 +12,8 @@
 
 #include <lumo/lguiapplicationhelper.h>
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QtWidgets>
+#include <QtTest>
+#include <QtWidgets>
 
 using namespace devhost;
 
@@ -47,13 +47,15 @@ struct Desk
     {
         QVector<QPair<int, QString>> placed;
         for (const Bubble *bubble : window.view()->findChildren<Bubble *>()) {
-            if (bubble->isVisible())
+            if (bubble->isVisible()) {
                 placed.append({bubble->y(), bubble->text()});
+            }
         }
         std::sort(placed.begin(), placed.end());
         QStringList texts;
-        for (const auto &bubble : placed)
+        for (const auto &bubble : placed) {
             texts << bubble.second;
+        }
         return texts;
     }
 };
@@ -148,8 +150,9 @@ void TestMainWindow::cardIsLiveAndItsReplyStandsBelow()
     QPushButton *button = nullptr;
     const auto findButton = [&] {
         for (auto *found : desk.window.view()->findChildren<QPushButton *>()) {
-            if (found->text() == QStringLiteral("按我"))
+            if (found->text() == QStringLiteral("按我")) {
                 button = found;
+            }
         }
         return button != nullptr && button->isVisible();
     };
@@ -160,8 +163,9 @@ void TestMainWindow::cardIsLiveAndItsReplyStandsBelow()
     QTRY_COMPARE(desk.shownTexts().value(2), QStringLiteral("按过了"));
     QTRY_VERIFY(card->height() >= heightBefore + 200);
     for (const Bubble *bubble : desk.window.view()->findChildren<Bubble *>()) {
-        if (bubble->text() == QStringLiteral("按过了"))
+        if (bubble->text() == QStringLiteral("按过了")) {
             QTRY_VERIFY(bubble->y() >= card->geometry().bottom());
+        }
     }
     // A card that deletes itself leaves no hole and no dangling pointer.
     delete card;
@@ -173,8 +177,9 @@ void TestMainWindow::viewStaysAtTheEndUnlessTheUserScrolledUp()
 {
     Desk desk;
     ConversationView *view = desk.window.view();
-    for (int i = 0; i < 40; ++i)
+    for (int i = 0; i < 40; ++i) {
         desk.type(semantic("ECHO", QStringLiteral("Antwort %1").arg(i)));
+    }
     QTRY_VERIFY(desk.isIdle() && view->count() == 80);
     QVERIFY(view->isAtEnd());
     QVERIFY(desk.shownTexts().contains(QStringLiteral("Antwort 39")));
@@ -210,8 +215,9 @@ void TestMainWindow::thousandsOfTurnsStayFluid()
     QVERIFY2(timer.elapsed() < 15000, qPrintable(QString::number(timer.elapsed())));
     QVERIFY2(view.bubbleCount() < 100, qPrintable(QString::number(view.bubbleCount())));
     timer.restart();
-    for (int i = 0; i < 200; ++i)
+    for (int i = 0; i < 200; ++i) {
         view.verticalScrollBar()->setValue(i * 400);
+    }
     qInfo("one scroll step: %.3f ms", double(timer.nsecsElapsed()) / 200e6);
     QVERIFY(timer.elapsed() < 4000);
     timer.restart();
@@ -263,8 +269,9 @@ void TestMainWindow::inspectorShowsTheTurnAndSendsSemantics()
 
     // A click on an earlier turn brings it back.
     for (Bubble *bubble : desk.window.view()->findChildren<Bubble *>()) {
-        if (bubble->text() == QStringLiteral("回声"))
+        if (bubble->text() == QStringLiteral("回声")) {
             QTest::mouseClick(bubble, Qt::LeftButton);
+        }
     }
     QCOMPARE(desk.window.inspector()->shownTurn(), 1);
     QVERIFY(text("inspectorReply").contains(QStringLiteral("回声")));

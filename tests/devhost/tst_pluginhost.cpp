@@ -6,13 +6,13 @@
 #include "pluginhost.h"
 #include "semantics.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 using namespace devhost;
 
 namespace {
 
-const QString testPlugin = QStringLiteral(TEST_PLUGIN);
+const QString TestPlugin = QStringLiteral(TEST_PLUGIN);
 
 } // namespace
 
@@ -64,11 +64,11 @@ void TestPluginHost::unusablePluginIsExplained_data()
     QTest::newRow("another interface")
         << QStringLiteral(OTHER_PLUGIN) << none << none << int(PluginProblem::OtherInterface)
         << QStringLiteral("org.example.other.1");
-    QTest::newRow("init() fails") << testPlugin << QByteArray("fail") << none
+    QTest::newRow("init() fails") << TestPlugin << QByteArray("fail") << none
                                   << int(PluginProblem::InitFailed) << QStringLiteral("-3");
-    QTest::newRow("init() throws") << testPlugin << QByteArray("throw") << none
+    QTest::newRow("init() throws") << TestPlugin << QByteArray("throw") << none
                                    << int(PluginProblem::InitFailed) << QStringLiteral("no start");
-    QTest::newRow("no service") << testPlugin << none << QByteArray("none") << int(PluginProblem::NoService)
+    QTest::newRow("no service") << TestPlugin << none << QByteArray("none") << int(PluginProblem::NoService)
                                 << QStringLiteral("no service");
 }
 
@@ -102,7 +102,7 @@ void TestPluginHost::serviceRunsOnAnotherThreadAndReplyIsFetched()
 {
     LogRecorder logs;
     PluginHost host;
-    QVERIFY(host.load(testPlugin));
+    QVERIFY(host.load(TestPlugin));
     Conversation conversation(host, logs);
     QSignalSpy finished(&conversation, &Conversation::finished);
     const int id = conversation.sendSemantic(semantic("ECHO", QStringLiteral("你好")));
@@ -122,7 +122,7 @@ void TestPluginHost::everyTurnGetsAFreshService()
 {
     LogRecorder logs;
     PluginHost host;
-    QVERIFY(host.load(testPlugin));
+    QVERIFY(host.load(TestPlugin));
     Conversation conversation(host, logs);
     QSignalSpy idle(&conversation, &Conversation::idle);
     conversation.sendSemantic(semantic("COUNT"));
@@ -147,7 +147,7 @@ void TestPluginHost::failingTurnIsToldAndTheNextGoesOn()
     QFETCH(QString, told);
     LogRecorder logs;
     PluginHost host;
-    QVERIFY(host.load(testPlugin));
+    QVERIFY(host.load(TestPlugin));
     Conversation conversation(host, logs);
     QSignalSpy idle(&conversation, &Conversation::idle);
     QSignalSpy failed(&conversation, &Conversation::failed);
@@ -163,7 +163,7 @@ void TestPluginHost::inputQueuesInOrder()
 {
     LogRecorder logs;
     PluginHost host;
-    QVERIFY(host.load(testPlugin));
+    QVERIFY(host.load(TestPlugin));
     Conversation conversation(host, logs);
     QStringList order;
     connect(&conversation, &Conversation::started, this,
@@ -171,8 +171,9 @@ void TestPluginHost::inputQueuesInOrder()
     connect(&conversation, &Conversation::finished, this,
             [&](int turn) { order << QStringLiteral("-%1").arg(turn); });
     QSignalSpy idle(&conversation, &Conversation::idle);
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         conversation.sendSemantic(semantic("SLOW", QStringLiteral("20")));
+    }
     QVERIFY(conversation.isBusy());
     QVERIFY(order.isEmpty());
     QVERIFY(idle.wait());
@@ -184,7 +185,7 @@ void TestPluginHost::replyFromAnotherThreadArrivesLater()
 {
     LogRecorder logs;
     PluginHost host;
-    QVERIFY(host.load(testPlugin));
+    QVERIFY(host.load(TestPlugin));
     Conversation conversation(host, logs);
     QSignalSpy later(&conversation, &Conversation::repliedLater);
     QThread *thread = nullptr;
@@ -202,7 +203,7 @@ void TestPluginHost::replyAfterTheHostHasGoneIsDropped()
     for (int i = 0; i < 50; ++i) {
         LogRecorder logs;
         PluginHost host;
-        QVERIFY(host.load(testPlugin));
+        QVERIFY(host.load(TestPlugin));
         Conversation conversation(host, logs);
         QSignalSpy idle(&conversation, &Conversation::idle);
         conversation.sendSemantic(semantic("LATE", QStringLiteral("x")));
@@ -214,7 +215,7 @@ void TestPluginHost::passwordIsNeitherShownNorLogged()
 {
     LogRecorder logs;
     PluginHost host;
-    QVERIFY(host.load(testPlugin));
+    QVERIFY(host.load(TestPlugin));
     Conversation conversation(host, logs);
     QSignalSpy idle(&conversation, &Conversation::idle);
     QSignalSpy said(&conversation, &Conversation::said);
@@ -225,15 +226,16 @@ void TestPluginHost::passwordIsNeitherShownNorLogged()
     QVERIFY2(!turn.semantic.contains(QLatin1String("2468")), qUtf8Printable(turn.semantic));
     QVERIFY(turn.semantic.contains(QStringLiteral("••••")));
     QVERIFY(!turn.logs.isEmpty());
-    for (const LogRecord &record : turn.logs)
+    for (const LogRecord &record : turn.logs) {
         QVERIFY2(!record.text.contains(QLatin1String("2468")), qUtf8Printable(record.text));
+    }
 }
 
 void TestPluginHost::tooLongTextIsRefused()
 {
     LogRecorder logs;
     PluginHost host;
-    QVERIFY(host.load(testPlugin));
+    QVERIFY(host.load(TestPlugin));
     Conversation conversation(host, logs);
     QSignalSpy idle(&conversation, &Conversation::idle);
     const int id = conversation.say(QString(Conversation::LongestInput + 1, QLatin1Char('x')));

@@ -13,8 +13,8 @@
 #include <lumo/lcombobox.h>
 #include <lumo/lspinbox.h>
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QPushButton>
+#include <QPushButton>
+#include <QtTest>
 
 namespace {
 
@@ -78,8 +78,9 @@ void answerRequests(bool successfully)
     const int code = successfully ? 0 : -16020;
     const QString answer = successfully ? QStringLiteral("{\"ret\":\"OK\"}") : QString();
     for (const char *action :
-         {"Update Conference", "Delete Conference", "Create Conference", "Invite Members"})
+         {"Update Conference", "Delete Conference", "Create Conference", "Invite Members"}) {
         ability.setAnswer(QString::fromLatin1(action), code, answer);
+    }
 }
 
 void press(const QWidget &card, const QString &text)
@@ -98,8 +99,9 @@ void changeDuration(QWidget &card)
 {
     const auto combos = card.findChildren<LComboBox *>();
     for (LComboBox *combo : combos) {
-        if (combo->windowTitle() == QLatin1String("timeLengthBox"))
+        if (combo->windowTitle() == QLatin1String("timeLengthBox")) {
             combo->setCurrentIndex(3);
+        }
     }
 }
 
@@ -132,15 +134,17 @@ void cancelInVain(QWidget &card)
 void pickTwo(QWidget &card)
 {
     const auto rows = card.findChildren<TiTleItem *>();
-    for (const int index : {0, 3})
+    for (const int index : {0, 3}) {
         QTest::mouseClick(rows.at(index), Qt::LeftButton);
+    }
 }
 
 void pickAsManyAsPossible(QWidget &card)
 {
     const auto rows = card.findChildren<TiTleItem *>();
-    for (TiTleItem *row : rows)
+    for (TiTleItem *row : rows) {
         QTest::mouseClick(row, Qt::LeftButton);
+    }
 }
 
 void pickTwoAndConfirm(QWidget &card)
@@ -181,8 +185,9 @@ void focusModifyButton(QWidget &card)
     changeDuration(card);
     const auto buttons = card.findChildren<QPushButton *>();
     for (QPushButton *button : buttons) {
-        if (button->text() == QStringLiteral("修 改"))
+        if (button->text() == QStringLiteral("修 改")) {
             focusByKeyboard(*button);
+        }
     }
 }
 

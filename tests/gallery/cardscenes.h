@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QVector>
+#include <QVector>
 
 #include <memory>
 

@@ -7,11 +7,11 @@
 #include <lumo/lguiapplicationhelper.h>
 #include <lumo/lstyle.h>
 
-#include <QtCore/QCommandLineParser>
-#include <QtCore/QDir>
-#include <QtCore/QTextStream>
-#include <QtTest/QtTest>
-#include <QtWidgets/QApplication>
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QTextStream>
+#include <QtTest>
 
 /**
  * @file
@@ -42,10 +42,12 @@ bool paint(const CardScene &scene, const QString &path)
     CardFrame frame(scene.make());
     frame.show();
     frame.activateWindow();
-    if (!QTest::qWaitForWindowActive(&frame))
+    if (!QTest::qWaitForWindowActive(&frame)) {
         return false;
-    if (scene.act != nullptr)
+    }
+    if (scene.act != nullptr) {
         scene.act(frame.card());
+    }
     // What a button has thrown out of its card goes with the next turn of the event loop.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
@@ -75,11 +77,13 @@ int main(int argc, char *argv[])
     parser.process(application);
     QStringList wanted = parser.positionalArguments();
     const bool onlyList = parser.isSet(list);
-    if (wanted.isEmpty() && !onlyList)
+    if (wanted.isEmpty() && !onlyList) {
         parser.showHelp(2);
+    }
     const QDir folder(wanted.isEmpty() ? QStringLiteral(".") : wanted.takeFirst());
-    if (!folder.mkpath(QStringLiteral(".")))
+    if (!folder.mkpath(QStringLiteral("."))) {
         qFatal("Cannot make the folder %s", qPrintable(folder.path()));
+    }
     const bool all = wanted.isEmpty();
 
     QTextStream out(stdout);
@@ -89,10 +93,12 @@ int main(int argc, char *argv[])
         for (const CardScene &scene : scenes) {
             const QString name = fileName(scene, theme);
             const bool isWanted = all || wanted.removeAll(name) > 0;
-            if (!isWanted)
+            if (!isWanted) {
                 continue;
-            if (!onlyList && !paint(scene, folder.filePath(name)))
+            }
+            if (!onlyList && !paint(scene, folder.filePath(name))) {
                 qFatal("Cannot paint %s", qPrintable(name));
+            }
             out << name << '\n';
         }
     }

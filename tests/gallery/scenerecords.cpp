@@ -3,7 +3,7 @@
 
 #include "scenerecords.h"
 
-#include <QtCore/QDateTime>
+#include <QDateTime>
 
 namespace {
 
@@ -68,8 +68,9 @@ ContactDetailMsg SceneRecords::crowdedConference(int participants)
     ContactDetailMsg crowded = conference(1);
     crowded.participantLimit = participants;
     crowded.participants.clear();
-    for (int i = 1; i <= participants; ++i)
+    for (int i = 1; i <= participants; ++i) {
         crowded.participants.append(participant(QStringLiteral("同事%1").arg(i)));
+    }
     return crowded;
 }
 

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include <QtCore/QDir>
-#include <QtCore/QProcess>
-#include <QtCore/QTemporaryDir>
-#include <QtGui/QImage>
-#include <QtTest/QtTest>
+#include <QDir>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
 
 #include <set>
 
@@ -30,8 +30,9 @@ Run runGallery(const QStringList &arguments, int scale)
     environment.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("*.debug=false"));
     gallery.setProcessEnvironment(environment);
     gallery.start(QStringLiteral(CARD_GALLERY), arguments);
-    if (!gallery.waitForFinished(250000) || gallery.exitStatus() != QProcess::NormalExit)
+    if (!gallery.waitForFinished(250000) || gallery.exitStatus() != QProcess::NormalExit) {
         return {};
+    }
     QStringList lines = QString::fromUtf8(gallery.readAllStandardOutput()).split(QLatin1Char('\n'));
     lines.removeAll(QString());
     return {gallery.exitCode(), lines};
@@ -41,8 +42,9 @@ int countColors(const QImage &image)
 {
     std::set<QRgb> colors;
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
+        for (int x = 0; x < image.width(); ++x) {
             colors.insert(image.pixel(x, y));
+        }
     }
     return static_cast<int>(colors.size());
 }
@@ -125,11 +127,13 @@ void TestGallery::theDocumentationShowsPicturesOfTheGallery()
     const QStringList known = runGallery({QStringLiteral("--list")}, 1).names;
     QStringList files = shown.entryList(QDir::Files);
     // The development host makes these itself.
-    for (const QString &file : shown.entryList({QStringLiteral("desk-*.png")}, QDir::Files))
+    for (const QString &file : shown.entryList({QStringLiteral("desk-*.png")}, QDir::Files)) {
         files.removeOne(file);
+    }
     QVERIFY(!files.isEmpty());
-    for (const QString &file : files)
+    for (const QString &file : files) {
         QVERIFY2(known.contains(file), qPrintable(file));
+    }
 }
 
 QTEST_GUILESS_MAIN(TestGallery)

@@ -4,10 +4,10 @@
 #include "handlerrun.h"
 
 #include "conferencecardinterface.h"
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtTest/QTest>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
 
 #include <limits>
 

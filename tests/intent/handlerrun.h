@@ -8,8 +8,8 @@
 #include "scriptedability.h"
 #include "semantic/semantic.h"
 
-#include <QtCore/QMetaType>
-#include <QtCore/QStringList>
+#include <QMetaType>
+#include <QStringList>
 
 #include <memory>
 

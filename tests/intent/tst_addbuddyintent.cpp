@@ -7,11 +7,11 @@
 #include "logcapture.h"
 #include "sourcerecords.h"
 
-#include <QtTest/QTest>
+#include <QTest>
 
 namespace {
 
-const char usualSlots[] = "[{'name':'account','value':'zhang'}]";
+const char UsualSlots[] = "[{'name':'account','value':'zhang'}]";
 
 } // namespace
 
@@ -64,7 +64,7 @@ void TestAddBuddyIntent::eachOutcomeHasItsReply()
 {
     QFETCH(const Script, script);
     QFETCH(const Expected, expected);
-    compareRun(runHandler(new AddBuddyIntent(nullptr), intentWith(usualSlots), script), expected);
+    compareRun(runHandler(new AddBuddyIntent(nullptr), intentWith(UsualSlots), script), expected);
 }
 
 void TestAddBuddyIntent::eachOtherCodeLeavesTheReply_data()
@@ -86,7 +86,7 @@ void TestAddBuddyIntent::requestHoldsWhatWasSaid_data()
         QTest::newRow(name) << QString::fromUtf8(slotArray) << QString::fromUtf8(parameters);
     };
 
-    row("as it was said", usualSlots, R"({"userId":"zhang"})");
+    row("as it was said", UsualSlots, R"({"userId":"zhang"})");
     row("the normal form goes before what was said",
         "[{'name':'account','value':'zhang three','normValue':'zhang3'}]", R"({"userId":"zhang3"})");
     row("the first account counts", "[{'name':'account','value':'a'},{'name':'account','value':'b'}]",

@@ -7,11 +7,11 @@
 #include "logcapture.h"
 #include "sourcerecords.h"
 
-#include <QtTest/QTest>
+#include <QTest>
 
 namespace {
 
-const char usualSlots[] = "[]";
+const char UsualSlots[] = "[]";
 
 } // namespace
 
@@ -61,7 +61,7 @@ void TestCloseConferenceIntent::eachOutcomeHasItsReply()
 {
     QFETCH(const Script, script);
     QFETCH(const Expected, expected);
-    compareRun(runHandler(new CloseConferenceIntent(nullptr), intentWith(usualSlots), script), expected);
+    compareRun(runHandler(new CloseConferenceIntent(nullptr), intentWith(UsualSlots), script), expected);
 }
 
 void TestCloseConferenceIntent::eachOtherCodeLeavesTheReply_data()
@@ -83,7 +83,7 @@ void TestCloseConferenceIntent::requestHoldsWhatWasSaid_data()
         QTest::newRow(name) << QString::fromUtf8(slotArray) << QString::fromUtf8(parameters);
     };
 
-    row("nothing", usualSlots, "");
+    row("nothing", UsualSlots, "");
     row("slots are not read", "[{'name':'id','value':'4001'},{'name':'name','value':'a'}]", "");
 }
 

@@ -11,7 +11,7 @@
 #include "queryconferenceintent.h"
 #include "semantic/semantic.h"
 
-#include <QtTest/QTest>
+#include <QTest>
 
 #include <memory>
 

@@ -5,8 +5,8 @@
 
 #include "handlerrun.h"
 
-#include <QtCore/QDateTime>
-#include <QtTest/QTest>
+#include <QDateTime>
+#include <QTest>
 
 /// The clock stands at 1970-01-01 07:00 in Shanghai, an hour before milliseconds begin to be positive.
 class TestCreateBeforeTheEpoch : public QObject

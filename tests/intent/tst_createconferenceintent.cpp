@@ -10,40 +10,40 @@
 #include "sourcerecords.h"
 #include "wire/resultcodes.h"
 
-#include <QtCore/QDateTime>
-#include <QtCore/QThread>
-#include <QtTest/QTest>
+#include <QDateTime>
+#include <QTest>
+#include <QThread>
 
 namespace {
 
 // The clock stands at 2026-03-07 10:20, see the test's CMake line.
-const char noSlots[] = "[]";
-const char scheduled[] =
+const char NoSlots[] = "[]";
+const char Scheduled[] =
     "[{'name':'datetime','value':'{\\\"suggestDatetime\\\":\\\"2026-03-08T10:00:00\\\"}'}]";
-const char verbStart[] = "[{'name':'open','value':'开始'}]";
-const char scheduledVerbStart[] =
+const char VerbStart[] = "[{'name':'open','value':'开始'}]";
+const char ScheduledVerbStart[] =
     "[{'name':'open','value':'开始'},"
     "{'name':'datetime','value':'{\\\"suggestDatetime\\\":\\\"2026-03-08T10:00:00\\\"}'}]";
-const qint64 scheduledMsecs = 1772935200000; // 2026-03-08 10:00 in Shanghai
+const qint64 ScheduledMsecs = 1772935200000; // 2026-03-08 10:00 in Shanghai
 
-const char oneFoundTwoMissing[] = "{'ret':'Return','users':[{'name':'张三','status':'OK'},"
+const char OneFoundTwoMissing[] = "{'ret':'Return','users':[{'name':'张三','status':'OK'},"
                                   "{'name':'甲','status':'Not Found'},{'name':'乙','status':'Not Found'}]}";
-const char twoFoundOneMissing[] =
+const char TwoFoundOneMissing[] =
     "{'ret':'Return','users':[{'name':'张三','status':'OK'},{'name':'李四','status':'OK'},"
     "{'name':'甲','status':'Not Found'}],'list':[]}";
-const char twoFoundOneMissingListed[] =
+const char TwoFoundOneMissingListed[] =
     "{'ret':'Return','users':[{'name':'张三','status':'OK'},{'name':'李四','status':'OK'},"
     "{'name':'甲','status':'Not Found'}],'list':[{'confId':'c1'}]}";
-const char twoMissing[] = "{'ret':'Return','list':[{'confId':'c1'}],"
+const char TwoMissing[] = "{'ret':'Return','list':[{'confId':'c1'}],"
                           "'users':[{'name':'甲','status':'Not Found'},{'name':'乙','status':'Not Found'}]}";
-const char oneMissing[] = "{'ret':'Return','users':[{'name':'甲','status':'Not Found'}]}";
-const char duplicateOnly[] =
+const char OneMissing[] = "{'ret':'Return','users':[{'name':'甲','status':'Not Found'}]}";
+const char DuplicateOnly[] =
     "{'ret':'Return','users':[{'name':'张三','status':'Duplicate','duplicate_list':"
     "[{'name':'张三','userId':'u1','account':'a1'},{'name':'张三','userId':'u2','account':'a2'}]}]}";
-const char duplicateAndTwoMissing[] =
+const char DuplicateAndTwoMissing[] =
     "{'ret':'Return','users':[{'name':'张三','status':'Duplicate','duplicate_list':[]},"
     "{'name':'甲','status':'Not Found'},{'name':'乙','status':'Not Found'}]}";
-const char namesWithPlaceholders[] =
+const char NamesWithPlaceholders[] =
     "{'ret':'Return','users':[{'name':'%2','status':'OK'},{'name':'%1','status':'Not Found'}]}";
 
 ContactCreatedConferenceDetail recordOf(const Announcement &card)
@@ -87,81 +87,81 @@ void TestCreateConferenceIntent::eachOutcomeHasItsReply_data()
         QTest::newRow(name) << QString::fromUtf8(slotArray) << script << expected;
     };
 
-    row("created at once, no verb said", noSlots, answers("{'ret':'OK'}"),
+    row("created at once, no verb said", NoSlots, answers("{'ret':'OK'}"),
         texts(0, "好的，现在为您发起视频会议。"));
-    row("created at once, with the verb that was said", verbStart, answers("{'ret':'OK'}"),
+    row("created at once, with the verb that was said", VerbStart, answers("{'ret':'OK'}"),
         texts(0, "好的，现在为您开始视频会议。"));
-    row("created at once, the answer's list does not matter", noSlots,
+    row("created at once, the answer's list does not matter", NoSlots,
         answers("{'ret':'OK','list':[{'confId':'c1'}]}"), texts(0, "好的，现在为您发起视频会议。"));
-    row("booked, and the answer shows it", scheduled, answers("{'ret':'OK','list':[{'confId':'c1'}]}"),
+    row("booked, and the answer shows it", Scheduled, answers("{'ret':'OK','list':[{'confId':'c1'}]}"),
         cardBefore(0, "好的，为您预约如下。", Create_Success));
-    row("booked, and the answer shows nothing", scheduled, answers("{'ret':'OK','list':[]}"),
+    row("booked, and the answer shows nothing", Scheduled, answers("{'ret':'OK','list':[]}"),
         texts(0, "好的，已成功为您预约。"));
 
-    row("two names not found, booked", scheduled, answers(twoMissing),
+    row("two names not found, booked", Scheduled, answers(TwoMissing),
         cardBefore(-16002, "已为您预约视频会议，未找到甲、乙。", Create_Success));
-    row("two names not found, booked, nothing listed", scheduled,
+    row("two names not found, booked, nothing listed", Scheduled,
         answers("{'ret':'Return','users':[{'name':'甲','status':'Not Found'},{'name':'乙','status':'Not "
                 "Found'}]}"),
         cardBefore(-16002, "已为您预约视频会议，未找到甲、乙。", Create_Success));
-    row("two names not found, started", verbStart, answers(twoMissing),
+    row("two names not found, started", VerbStart, answers(TwoMissing),
         texts(-16002, "已为您开始视频会议，未找到甲、乙。"));
-    row("two names not found, started, no verb said", noSlots, answers(twoMissing),
+    row("two names not found, started, no verb said", NoSlots, answers(TwoMissing),
         texts(-16002, "已为您发起视频会议，未找到甲、乙。"));
-    row("one name not found, to be booked", scheduled, answers(oneMissing),
+    row("one name not found, to be booked", Scheduled, answers(OneMissing),
         texts(-16002, "抱歉，没有找到该联系人。"));
-    row("one name not found, to be started", verbStart, answers(oneMissing),
+    row("one name not found, to be started", VerbStart, answers(OneMissing),
         texts(-16002, "抱歉,无法为您开始视频会议。"));
-    row("nobody found and nobody named, to be booked", scheduled, answers("{'ret':'Not Found'}"),
+    row("nobody found and nobody named, to be booked", Scheduled, answers("{'ret':'Not Found'}"),
         texts(-16002, "抱歉，没有找到该联系人。"));
-    row("nobody found and nobody named, to be started", noSlots, answers("{'ret':'Not Found'}"),
+    row("nobody found and nobody named, to be started", NoSlots, answers("{'ret':'Not Found'}"),
         texts(-16002, "抱歉,无法为您发起视频会议。"));
 
-    row("a name of several people", noSlots, answers(duplicateOnly),
+    row("a name of several people", NoSlots, answers(DuplicateOnly),
         cardAfter(-16003, "您需要邀请以下哪位好友:", Create_Duplicate));
-    row("a name of several people, booked", scheduled, answers(duplicateOnly),
+    row("a name of several people, booked", Scheduled, answers(DuplicateOnly),
         cardAfter(-16003, "您需要邀请以下哪位好友:", Create_Duplicate));
-    row("a name of several people and two names not found", noSlots, answers(duplicateAndTwoMissing),
+    row("a name of several people and two names not found", NoSlots, answers(DuplicateAndTwoMissing),
         cardAfter(-16003, "未找到甲、乙，您需要邀请以下哪位好友:", Create_Duplicate));
 
-    row("some found, started", noSlots, answers(twoFoundOneMissing),
+    row("some found, started", NoSlots, answers(TwoFoundOneMissing),
         texts(-16004, "好的，已为您发起和张三、李四的视频会议，未找到甲。"));
-    row("some found, started whatever the verb", verbStart, answers(twoFoundOneMissingListed),
+    row("some found, started whatever the verb", VerbStart, answers(TwoFoundOneMissingListed),
         texts(-16004, "好的，已为您发起和张三、李四的视频会议，未找到甲。"));
-    row("some found, booked but not listed", scheduled, answers(twoFoundOneMissing),
+    row("some found, booked but not listed", Scheduled, answers(TwoFoundOneMissing),
         texts(-16004, "好的，已为您发起和张三、李四的视频会议，未找到甲。"));
-    row("some found, booked and listed", scheduled, answers(twoFoundOneMissingListed),
+    row("some found, booked and listed", Scheduled, answers(TwoFoundOneMissingListed),
         cardBefore(-16004, "好的，已为您预约和张三、李四的视频会议，未找到甲。", Create_Success));
-    row("one found, two missing", noSlots, answers(oneFoundTwoMissing),
+    row("one found, two missing", NoSlots, answers(OneFoundTwoMissing),
         texts(-16004, "好的，已为您发起和张三的视频会议，未找到甲、乙。"));
-    row("names that look like placeholders stay as they are", noSlots, answers(namesWithPlaceholders),
+    row("names that look like placeholders stay as they are", NoSlots, answers(NamesWithPlaceholders),
         texts(-16004, "好的，已为您发起和%2的视频会议，未找到%1。"));
 
-    row("members' limit, booked", scheduledVerbStart, answers("{'ret':'Exceed Members Limit'}"),
+    row("members' limit, booked", ScheduledVerbStart, answers("{'ret':'Exceed Members Limit'}"),
         texts(-16006, "已为您预约视频会议，会议人数已达上限。"));
-    row("members' limit, started", verbStart, answers("{'ret':'Exceed Members Limit'}"),
+    row("members' limit, started", VerbStart, answers("{'ret':'Exceed Members Limit'}"),
         texts(-16006, "已为您开始视频会议，会议人数已达上限。"));
-    row("members' limit, started, no verb said", noSlots, answers("{'ret':'Exceed Members Limit'}"),
+    row("members' limit, started, no verb said", NoSlots, answers("{'ret':'Exceed Members Limit'}"),
         texts(-16006, "已为您发起视频会议，会议人数已达上限。"));
 
-    row("overlap that is listed", scheduled, answers("{'ret':'Time Overlap','list':[{'confId':'c1'}]}"),
+    row("overlap that is listed", Scheduled, answers("{'ret':'Time Overlap','list':[{'confId':'c1'}]}"),
         cardAfter(-16008, "您已有重复时间会议。", Create_TimeOverlap));
-    row("overlap that is not listed", scheduled, answers("{'ret':'Time Overlap','list':[]}"),
+    row("overlap that is not listed", Scheduled, answers("{'ret':'Time Overlap','list':[]}"),
         texts(-16008, "您已有重复时间会议。"));
 
-    row("in another conference", noSlots, answers("{'ret':'In Other Conference'}"),
+    row("in another conference", NoSlots, answers("{'ret':'In Other Conference'}"),
         textsThenList(-16013, "正在会议中。"));
-    row("not logged in", noSlots, answers("{'ret':'User Not Login'}"), texts(-16017, "已为您打开联系人。"));
-    row("created too often", noSlots, answers("{'ret':'Conference Create Too Frequently'}"),
+    row("not logged in", NoSlots, answers("{'ret':'User Not Login'}"), texts(-16017, "已为您打开联系人。"));
+    row("created too often", NoSlots, answers("{'ret':'Conference Create Too Frequently'}"),
         texts(-16019, "抱歉，操作太频繁，请稍候重试。"));
-    row("timed out", noSlots, callFails(-16020), texts(-16020, "抱歉，请求响应超时。"));
-    row("the call failed, first code", noSlots, callFails(-1),
+    row("timed out", NoSlots, callFails(-16020), texts(-16020, "抱歉，请求响应超时。"));
+    row("the call failed, first code", NoSlots, callFails(-1),
         texts(-1, "已尝试执行，但操作失败，请稍后重试。"));
-    row("the call failed, last code", noSlots, callFails(-9999),
+    row("the call failed, last code", NoSlots, callFails(-9999),
         texts(-9999, "已尝试执行，但操作失败，请稍后重试。"));
-    row("malformed answer", noSlots, answers("nonsense"), untouched());
-    row("unknown outcome word", noSlots, answers("{'ret':'Perhaps'}"), untouched());
-    row("no conference", noSlots, answers("{'ret':'Conference Not Start'}"), untouched());
+    row("malformed answer", NoSlots, answers("nonsense"), untouched());
+    row("unknown outcome word", NoSlots, answers("{'ret':'Perhaps'}"), untouched());
+    row("no conference", NoSlots, answers("{'ret':'Conference Not Start'}"), untouched());
 }
 
 void TestCreateConferenceIntent::eachOutcomeHasItsReply()
@@ -194,7 +194,7 @@ void TestCreateConferenceIntent::requestHoldsMembersAndTime_data()
         QTest::newRow(name) << QString::fromUtf8(slotArray) << QString::fromUtf8(parameters);
     };
 
-    row("nobody, now", noSlots, R"({"members":[]})");
+    row("nobody, now", NoSlots, R"({"members":[]})");
     row("two people, now", "[{'name':'name','value':'张三'},{'name':'name','value':'李四'}]",
         R"({"members":[{"name":"张三","userId":""},{"name":"李四","userId":""}]})");
     row("the normal form goes before what was said", "[{'name':'name','value':'老张','normValue':'张三'}]",
@@ -204,7 +204,7 @@ void TestCreateConferenceIntent::requestHoldsMembersAndTime_data()
     row("a repeated name once, case matters",
         "[{'name':'name','value':'a'},{'name':'name','value':'A'},{'name':'name','value':'a'}]",
         R"({"members":[{"name":"a","userId":""},{"name":"A","userId":""}]})");
-    row("nobody, tomorrow", scheduled, R"({"members":[],"startTime":1772935200000})");
+    row("nobody, tomorrow", Scheduled, R"({"members":[],"startTime":1772935200000})");
     row("the first time counts",
         "[{'name':'datetime','value':'{\\\"suggestDatetime\\\":\\\"2026-03-08T10:00:00\\\"}'},"
         "{'name':'datetime','value':'{\\\"suggestDatetime\\\":\\\"2026-03-09T10:00:00\\\"}'}]",
@@ -248,23 +248,23 @@ void TestCreateConferenceIntent::pastOrUnreadableTimeSendsNothing()
 
 void TestCreateConferenceIntent::cardCarriesTheRecord()
 {
-    const HandlerRun booked = runHandler(new CreateConferenceIntent(nullptr), intentWith(scheduled),
+    const HandlerRun booked = runHandler(new CreateConferenceIntent(nullptr), intentWith(Scheduled),
                                          answers("{'ret':'OK','list':[{'confId':'c1','title':'周会'}]}"));
     QCOMPARE(booked.cards.size(), 1);
     QVERIFY(recordOf(booked.cards.first()).isSchedule);
-    QCOMPARE(recordOf(booked.cards.first()).scheduleTimeMsecs, scheduledMsecs);
+    QCOMPARE(recordOf(booked.cards.first()).scheduleTimeMsecs, ScheduledMsecs);
     QCOMPARE(recordOf(booked.cards.first()).conferences.size(), 1);
     QCOMPARE(recordOf(booked.cards.first()).conferences.first().title, QStringLiteral("周会"));
 
     const HandlerRun doubtful =
-        runHandler(new CreateConferenceIntent(nullptr), intentWith(noSlots), answers(duplicateOnly));
+        runHandler(new CreateConferenceIntent(nullptr), intentWith(NoSlots), answers(DuplicateOnly));
     QCOMPARE(doubtful.cards.size(), 1);
     const ContactInviteMemberDetail people = recordOf(doubtful.cards.first()).inviteDetail;
     QCOMPARE(people.duplicateUsers.size(), 1);
     QCOMPARE(people.duplicateUsers.first().users.size(), 2);
     QCOMPARE(people.duplicateUsers.first().users.last().userId, QStringLiteral("u2"));
 
-    const HandlerRun overlapping = runHandler(new CreateConferenceIntent(nullptr), intentWith(scheduled),
+    const HandlerRun overlapping = runHandler(new CreateConferenceIntent(nullptr), intentWith(Scheduled),
                                               answers("{'ret':'Time Overlap','list':[{'confId':'c9'}]}"));
     QCOMPARE(overlapping.cards.size(), 1);
     QCOMPARE(recordOf(overlapping.cards.first()).conferences.first().confId, QStringLiteral("c9"));
@@ -274,7 +274,7 @@ void TestCreateConferenceIntent::recordsOfARun()
 {
     const QString worker =
         QStringLiteral("virtual int CreateConferenceIntent::handleCreateVideoMeeting(const CloudIntent&)");
-    runHandler(new CreateConferenceIntent(nullptr), intentWith(noSlots), answers("{'ret':'OK'}"));
+    runHandler(new CreateConferenceIntent(nullptr), intentWith(NoSlots), answers("{'ret':'OK'}"));
     const QString thread = streamed("handleCreateVideoMeeting", QThread::currentThreadId());
     compareRecords(*m_log, "intent/createconferenceintent.cpp",
                    {{QtDebugMsg, thread, worker},
@@ -282,8 +282,8 @@ void TestCreateConferenceIntent::recordsOfARun()
                     {QtWarningMsg, QStringLiteral("Create Conference not contain slot:  name"), worker}});
 
     m_log->clear();
-    runHandler(new CreateConferenceIntent(nullptr), intentWith(scheduled), answers("{'ret':'OK'}"));
-    const QString start = streamed("startTime:", QDateTime::fromMSecsSinceEpoch(scheduledMsecs));
+    runHandler(new CreateConferenceIntent(nullptr), intentWith(Scheduled), answers("{'ret':'OK'}"));
+    const QString start = streamed("startTime:", QDateTime::fromMSecsSinceEpoch(ScheduledMsecs));
     compareRecords(*m_log, "intent/createconferenceintent.cpp",
                    {{QtDebugMsg, thread, worker},
                     {QtWarningMsg, QStringLiteral("Create Conference not contain slot:  name"), worker},
@@ -298,7 +298,7 @@ void TestCreateConferenceIntent::recordsOfARun()
 
     m_log->clear();
     runHandler(new CreateConferenceIntent(nullptr),
-               intentWith("[{'name':'datetime'},{'name':'name','value':'a'}]"), answers(twoFoundOneMissing));
+               intentWith("[{'name':'datetime'},{'name':'name','value':'a'}]"), answers(TwoFoundOneMissing));
     compareRecords(
         *m_log, "intent/createconferenceintent.cpp",
         {{QtDebugMsg, thread, worker},

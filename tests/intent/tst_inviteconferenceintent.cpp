@@ -9,11 +9,11 @@
 #include "signalactiontype.h"
 #include "sourcerecords.h"
 
-#include <QtTest/QTest>
+#include <QTest>
 
 namespace {
 
-const char somebody[] = "[{'name':'name','value':'张三'}]";
+const char Somebody[] = "[{'name':'name','value':'张三'}]";
 
 ContactInviteMemberDetail recordOf(const Announcement &card)
 {
@@ -101,7 +101,7 @@ void TestInviteConferenceIntent::eachOutcomeHasItsReply()
 {
     QFETCH(const Script, script);
     QFETCH(const Expected, expected);
-    compareRun(runHandler(new InviteConferenceIntent(nullptr), intentWith(somebody), script), expected);
+    compareRun(runHandler(new InviteConferenceIntent(nullptr), intentWith(Somebody), script), expected);
 }
 
 void TestInviteConferenceIntent::eachOtherCodeLeavesTheReply_data()
@@ -122,7 +122,7 @@ void TestInviteConferenceIntent::requestHoldsTheMembers_data()
     const auto row = [](const char *name, const char *slotArray, const char *parameters) {
         QTest::newRow(name) << QString::fromUtf8(slotArray) << QString::fromUtf8(parameters);
     };
-    row("one", somebody, R"({"members":[{"name":"张三","userId":""}]})");
+    row("one", Somebody, R"({"members":[{"name":"张三","userId":""}]})");
     row("two in the order said",
         "[{'name':'name','value':'李四'},{'name':'open','value':'拉'},{'name':'name','value':'张三'}]",
         R"({"members":[{"name":"李四","userId":""},{"name":"张三","userId":""}]})");
@@ -159,7 +159,7 @@ void TestInviteConferenceIntent::withoutANameNothingIsSent()
 void TestInviteConferenceIntent::cardCarriesTheRecord()
 {
     const HandlerRun doubtful =
-        runHandler(new InviteConferenceIntent(nullptr), intentWith(somebody),
+        runHandler(new InviteConferenceIntent(nullptr), intentWith(Somebody),
                    answers("{'ret':'Return','users':[{'name':'张三','status':'Duplicate','duplicate_list':[{'"
                            "name':'张三','userId':'u1'}]}]}"));
     QCOMPARE(doubtful.cards.size(), 1);
@@ -167,7 +167,7 @@ void TestInviteConferenceIntent::cardCarriesTheRecord()
              QStringLiteral("u1"));
 
     const HandlerRun full =
-        runHandler(new InviteConferenceIntent(nullptr), intentWith(somebody),
+        runHandler(new InviteConferenceIntent(nullptr), intentWith(Somebody),
                    answers("{'ret':'Exceed Members "
                            "Limit','can_invite_num':2,'not_join_list':[{'name':'李四','status':'OK'}]}"));
     QCOMPARE(full.cards.size(), 1);
@@ -178,7 +178,7 @@ void TestInviteConferenceIntent::cardCarriesTheRecord()
 void TestInviteConferenceIntent::someNotFoundIsLogged()
 {
     runHandler(
-        new InviteConferenceIntent(nullptr), intentWith(somebody),
+        new InviteConferenceIntent(nullptr), intentWith(Somebody),
         answers(
             "{'ret':'Return','users':[{'name':'张三','status':'OK'},{'name':'甲','status':'Not Found'}]}"));
     compareRecords(

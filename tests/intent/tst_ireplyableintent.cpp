@@ -4,7 +4,7 @@
 #include "ireplyableintent.h"
 #include "semantic/semantic.h"
 
-#include <QtTest/QTest>
+#include <QTest>
 
 namespace {
 

@@ -7,11 +7,11 @@
 #include "logcapture.h"
 #include "sourcerecords.h"
 
-#include <QtTest/QTest>
+#include <QTest>
 
 namespace {
 
-const char usualSlots[] = "[{'name':'id','value':'4001'}]";
+const char UsualSlots[] = "[{'name':'id','value':'4001'}]";
 
 } // namespace
 
@@ -67,7 +67,7 @@ void TestJoinConferenceIntent::eachOutcomeHasItsReply()
 {
     QFETCH(const Script, script);
     QFETCH(const Expected, expected);
-    compareRun(runHandler(new JoinConferenceIntent(nullptr), intentWith(usualSlots), script), expected);
+    compareRun(runHandler(new JoinConferenceIntent(nullptr), intentWith(UsualSlots), script), expected);
 }
 
 void TestJoinConferenceIntent::eachOtherCodeLeavesTheReply_data()
@@ -89,7 +89,7 @@ void TestJoinConferenceIntent::requestHoldsWhatWasSaid_data()
         QTest::newRow(name) << QString::fromUtf8(slotArray) << QString::fromUtf8(parameters);
     };
 
-    row("number alone", usualSlots, R"({"conferenceId":"4001","password":""})");
+    row("number alone", UsualSlots, R"({"conferenceId":"4001","password":""})");
     row("number and password", "[{'name':'password','value':'12'},{'name':'id','value':'4001'}]",
         R"({"conferenceId":"4001","password":"12"})");
     row("the password's normal form goes before what was said",

@@ -9,11 +9,11 @@
 #include "signalactiontype.h"
 #include "sourcerecords.h"
 
-#include <QtTest/QTest>
+#include <QTest>
 
 namespace {
 
-const char usualSlots[] = "[]";
+const char UsualSlots[] = "[]";
 
 } // namespace
 
@@ -68,7 +68,7 @@ void TestJoinMyConferenceIntent::eachOutcomeHasItsReply()
 {
     QFETCH(const Script, script);
     QFETCH(const Expected, expected);
-    compareRun(runHandler(new JoinMyConferenceIntent(nullptr), intentWith(usualSlots), script), expected);
+    compareRun(runHandler(new JoinMyConferenceIntent(nullptr), intentWith(UsualSlots), script), expected);
 }
 
 void TestJoinMyConferenceIntent::eachOtherCodeLeavesTheReply_data()
@@ -90,7 +90,7 @@ void TestJoinMyConferenceIntent::requestHoldsWhatWasSaid_data()
         QTest::newRow(name) << QString::fromUtf8(slotArray) << QString::fromUtf8(parameters);
     };
 
-    row("nothing", usualSlots, "");
+    row("nothing", UsualSlots, "");
     row("slots are not read", "[{'name':'id','value':'4001'}]", "");
 }
 

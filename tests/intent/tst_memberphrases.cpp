@@ -3,7 +3,7 @@
 
 #include "memberphrases.h"
 
-#include <QtTest/QTest>
+#include <QTest>
 
 class TestMemberPhrases : public QObject
 {

@@ -9,11 +9,11 @@
 #include "signalactiontype.h"
 #include "sourcerecords.h"
 
-#include <QtTest/QTest>
+#include <QTest>
 
 namespace {
 
-const char usualSlots[] = "[{'name':'datetime','value':'{\\\"suggestDatetime\\\":\\\"2026-03-08\\\"}'}]";
+const char UsualSlots[] = "[{'name':'datetime','value':'{\\\"suggestDatetime\\\":\\\"2026-03-08\\\"}'}]";
 
 } // namespace
 
@@ -69,7 +69,7 @@ void TestQueryConferenceIntent::eachOutcomeHasItsReply()
 {
     QFETCH(const Script, script);
     QFETCH(const Expected, expected);
-    compareRun(runHandler(new QueryConferenceIntent(nullptr), intentWith(usualSlots), script), expected);
+    compareRun(runHandler(new QueryConferenceIntent(nullptr), intentWith(UsualSlots), script), expected);
 }
 
 void TestQueryConferenceIntent::eachOtherCodeLeavesTheReply_data()
@@ -91,7 +91,7 @@ void TestQueryConferenceIntent::requestHoldsWhatWasSaid_data()
         QTest::newRow(name) << QString::fromUtf8(slotArray) << QString::fromUtf8(parameters);
     };
 
-    row("a day", usualSlots, R"({"endTime":1772985600000,"startTime":1772899200000})");
+    row("a day", UsualSlots, R"({"endTime":1772985600000,"startTime":1772899200000})");
     row("a time", "[{'name':'datetime','normValue':'{\\\"suggestDatetime\\\":\\\"2026-03-08T10:00:00\\\"}'}]",
         R"({"endTime":1772985600000,"startTime":1772935200000})");
     row("the first time counts",
@@ -132,7 +132,7 @@ void TestQueryConferenceIntent::successWithoutAnyIsAnsweredAsNotFound()
 
 void TestQueryConferenceIntent::cardCarriesTheRecord()
 {
-    const HandlerRun run = runHandler(new QueryConferenceIntent(nullptr), intentWith(usualSlots),
+    const HandlerRun run = runHandler(new QueryConferenceIntent(nullptr), intentWith(UsualSlots),
                                       answers("{'ret':'OK','list':[{'confId':'c1'},{'confId':'c2'}]}"));
     QCOMPARE(run.cards.size(), 1);
     const auto record = run.cards.first().payload.value<ContactQueryConferenceDetail>();

@@ -4,9 +4,9 @@
 #include "semantic/semantic.h"
 #include "slotreader.h"
 
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtTest/QTest>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
 
 namespace {
 

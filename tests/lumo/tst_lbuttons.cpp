@@ -5,9 +5,9 @@
 #include <lumo/lguiapplicationhelper.h>
 #include <lumo/lsuggestbutton.h>
 
-#include <QtGui/QHelpEvent>
-#include <QtTest/QtTest>
-#include <QtWidgets/QToolTip>
+#include <QHelpEvent>
+#include <QToolTip>
+#include <QtTest>
 
 namespace {
 
@@ -17,8 +17,9 @@ int countPixels(QWidget &widget, const QColor &color)
     const QImage image = widget.grab().toImage();
     int count = 0;
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
+        for (int x = 0; x < image.width(); ++x) {
             count += image.pixelColor(x, y) == color ? 1 : 0;
+        }
     }
     return count;
 }
@@ -56,8 +57,9 @@ void TestLButtons::theSuggestedButtonHasTheAccentColour()
     LGuiApplicationHelper::instance()->setPaletteType(static_cast<LGuiApplicationHelper::ColorType>(theme));
     LSuggestButton suggested(QStringLiteral("x"));
     QPushButton plain(QStringLiteral("x"));
-    for (QPushButton *button : {static_cast<QPushButton *>(&suggested), &plain})
+    for (QPushButton *button : {static_cast<QPushButton *>(&suggested), &plain}) {
         button->resize(80, 30);
+    }
 
     const QColor accent = suggested.palette().color(QPalette::Highlight);
     const QColor pixel = suggested.grab().toImage().pixelColor(12, 15);

@@ -4,8 +4,8 @@
 #include <lumo/lcombobox.h>
 #include <lumo/lspinbox.h>
 
-#include <QtGui/QWheelEvent>
-#include <QtTest/QtTest>
+#include <QWheelEvent>
+#include <QtTest>
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <lumo/lfontsizemanager.h>
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 class TestLFontSizeManager : public QObject
 {

@@ -3,9 +3,9 @@
 
 #include <lumo/lguiapplicationhelper.h>
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QWidget>
+#include <QApplication>
+#include <QWidget>
+#include <QtTest>
 
 using Helper = LGuiApplicationHelper;
 

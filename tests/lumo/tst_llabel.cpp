@@ -4,10 +4,10 @@
 #include <lumo/llabel.h>
 #include <lumo/plaintooltip.h>
 
-#include <QtGui/QHelpEvent>
-#include <QtGui/QTextDocument>
-#include <QtTest/QtTest>
-#include <QtWidgets/QToolTip>
+#include <QHelpEvent>
+#include <QTextDocument>
+#include <QToolTip>
+#include <QtTest>
 
 namespace {
 const QString Markup = QStringLiteral("<b>x</b><img src=\"file:///etc/hostname\">");
@@ -72,8 +72,9 @@ void TestLLabel::aTextWiderThanItsLabelIsElided()
     QCOMPARE(label.minimumSizeHint().width() < whole / 4, mayShrink);
     QCOMPARE(label.sizeHint().width(), whole);
     QCOMPARE(label.text(), text);
-    if (!mayShrink)
+    if (!mayShrink) {
         return;
+    }
 
     label.resize(100, label.sizeHint().height());
     QLabel expected(label.fontMetrics().elidedText(text, mode, 100));

@@ -7,8 +7,8 @@
 #include <lumo/lstyle.h>
 #include <lumo/lsuggestbutton.h>
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QCheckBox>
+#include <QCheckBox>
+#include <QtTest>
 
 namespace {
 
@@ -30,8 +30,9 @@ int count(const QImage &image, const QColor &color)
 {
     int found = 0;
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
+        for (int x = 0; x < image.width(); ++x) {
             found += image.pixelColor(x, y) == color ? 1 : 0;
+        }
     }
     return found;
 }
@@ -91,8 +92,10 @@ void TestLStyle::buttonsAreFlatRoundedAndInThePalettesColour()
     QCOMPARE(image.pixelColor(0, 0), Ground);
     QCOMPARE(image.pixelColor(99, 31), Ground);
     const QColor face = button.palette().color(QPalette::Button);
-    for (const QPoint &point : {QPoint(50, 0), QPoint(0, 16), QPoint(50, 16), QPoint(99, 16), QPoint(50, 31)})
+    for (const QPoint &point :
+         {QPoint(50, 0), QPoint(0, 16), QPoint(50, 16), QPoint(99, 16), QPoint(50, 31)}) {
         QCOMPARE(image.pixelColor(point), face);
+    }
 
     button.setDown(true);
     const QColor pressed = paint(button).pixelColor(50, 16);
@@ -156,8 +159,9 @@ void TestLStyle::aStepThatIsNotPossibleIsFaint()
     const auto darkest = [&image](const QRect &room) {
         int found = 255;
         for (int y = room.top(); y <= room.bottom(); ++y) {
-            for (int x = room.left(); x <= room.right(); ++x)
+            for (int x = room.left(); x <= room.right(); ++x) {
                 found = qMin(found, image.pixelColor(x, y).lightness());
+            }
         }
         return found;
     };
@@ -190,16 +194,18 @@ void TestLStyle::theKeyboardsFocusIsSeen()
     QFETCH(QString, control);
     QWidget window;
     QWidget *widget = nullptr;
-    if (control == QLatin1String("button") || control == QLatin1String("flat"))
+    if (control == QLatin1String("button") || control == QLatin1String("flat")) {
         widget = new QPushButton(&window);
-    else if (control == QLatin1String("suggested"))
+    } else if (control == QLatin1String("suggested")) {
         widget = new LSuggestButton(&window);
-    else if (control == QLatin1String("combo"))
+    } else if (control == QLatin1String("combo")) {
         widget = new LComboBox(&window);
-    else
+    } else {
         widget = new LSpinBox(&window);
-    if (auto *button = qobject_cast<QPushButton *>(widget))
+    }
+    if (auto *button = qobject_cast<QPushButton *>(widget)) {
         button->setFlat(control == QLatin1String("flat"));
+    }
     window.show();
     window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
@@ -207,8 +213,9 @@ void TestLStyle::theKeyboardsFocusIsSeen()
     window.setAttribute(Qt::WA_KeyboardFocusChange, false);
     const QImage without = paint(*widget);
     widget->setFocus(Qt::MouseFocusReason);
-    if (qobject_cast<QPushButton *>(widget) != nullptr)
+    if (qobject_cast<QPushButton *>(widget) != nullptr) {
         QCOMPARE(paint(*widget), without);
+    }
     window.setAttribute(Qt::WA_KeyboardFocusChange);
     const QImage with = paint(*widget);
     const QColor ring = widget->palette().color(
@@ -223,8 +230,9 @@ void TestLStyle::controlsAreTallEnough()
     LComboBox combo;
     LSpinBox box;
     for (const QWidget *widget :
-         {static_cast<QWidget *>(&button), static_cast<QWidget *>(&combo), static_cast<QWidget *>(&box)})
+         {static_cast<QWidget *>(&button), static_cast<QWidget *>(&combo), static_cast<QWidget *>(&box)}) {
         QVERIFY(widget->sizeHint().height() >= 32);
+    }
 }
 
 QTEST_MAIN(TestLStyle)

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QString>
+#include <QString>
 
 /// The understanding service's answers that these tests send.
 namespace SemanticText {

@@ -3,10 +3,10 @@
 
 #include "documented/documentedinterfaces.h"
 
-#include <QtCore/QLibrary>
-#include <QtCore/QPluginLoader>
-#include <QtTest/QTest>
-#include <QtWidgets/QApplication>
+#include <QApplication>
+#include <QLibrary>
+#include <QPluginLoader>
+#include <QTest>
 
 /**
  * The plugin with a host and an ability library that were built from the documentation alone: every function

@@ -8,11 +8,11 @@
 #include "logcapture.h"
 #include "redirectedfile.h"
 
-#include <QtCore/QPointer>
-#include <QtCore/QTemporaryDir>
-#include <QtCore/QThread>
-#include <QtTest/QTest>
-#include <QtWidgets/QWidget>
+#include <QPointer>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+#include <QWidget>
 
 #include <memory>
 #include <stdexcept>
@@ -20,7 +20,7 @@
 
 namespace {
 
-const char configurationPath[] = "/etc/xdg/kelvane-speakmate-plugins/contact-plugin.json";
+const char ConfigurationPath[] = "/etc/xdg/kelvane-speakmate-plugins/contact-plugin.json";
 
 QString contact()
 {
@@ -168,7 +168,7 @@ void TestContactPlugin::initReadsTheConfiguration()
     file.close();
 
     const LogCapture log;
-    const RedirectedFile redirected(configurationPath, file.fileName().toUtf8());
+    const RedirectedFile redirected(ConfigurationPath, file.fileName().toUtf8());
     ContactPlugin plugin;
     QCOMPARE(plugin.init(), 0);
     QCOMPARE(redirected.opened(), 1);
@@ -202,7 +202,7 @@ void TestContactPlugin::initFailsWithoutAReadableConfiguration()
         file.close();
     }
     const LogCapture log(LogCapture::Unexpected::Passes);
-    const RedirectedFile redirected(configurationPath, file.fileName().toUtf8());
+    const RedirectedFile redirected(ConfigurationPath, file.fileName().toUtf8());
     ContactPlugin plugin;
     QCOMPARE(plugin.init(), -3);
     QCOMPARE(redirected.opened(), 1);

@@ -9,14 +9,14 @@
 #include "semantictext.h"
 #include "sourcerecords.h"
 
-#include <QtCore/QPointer>
-#include <QtTest/QTest>
+#include <QPointer>
+#include <QTest>
 
 #include <stdexcept>
 
 namespace {
 
-const char sourceName[] = "plugin/contactservice.cpp";
+const char SourceName[] = "plugin/contactservice.cpp";
 
 QString serviceSignature()
 {
@@ -191,7 +191,7 @@ void TestContactService::withoutAFactoryItCannotDoAnything()
     QCOMPARE(service.service(SemanticText::openDialogue("a", "b")), -20);
     const SourceRecord record{QtCriticalMsg, QStringLiteral("This service cannot do anything."),
                               serviceSignature()};
-    compareRecords(*m_log, sourceName, {record, record, record});
+    compareRecords(*m_log, SourceName, {record, record, record});
     QVERIFY(service.getServiceReply() != nullptr);
 }
 
@@ -226,7 +226,7 @@ void TestContactService::unreadableTextIsLogged()
 {
     QCOMPARE(m_service->service(QStringLiteral("你好")), -100);
     compareRecords(
-        *m_log, sourceName,
+        *m_log, SourceName,
         {{QtDebugMsg, QStringLiteral("Parse the semantic json error: \"你好\""), serviceSignature()}});
 }
 
@@ -236,7 +236,7 @@ void TestContactService::openDialogueGivesTheVoiceAnswer()
     QCOMPARE(m_service->service(semantic), 0);
     compareReply(m_service->getServiceReply(), 0, "几点？", "请问几点？", 3);
     const QString text = streamed("Parse the semantic json analyzeIsShouldEndSession is false", semantic);
-    compareRecords(*m_log, sourceName, {{QtDebugMsg, text, serviceSignature()}});
+    compareRecords(*m_log, SourceName, {{QtDebugMsg, text, serviceSignature()}});
 }
 
 void TestContactService::openDialogueAnswersFromThenOn()
@@ -266,7 +266,7 @@ void TestContactService::unknownIntentIsAnsweredByTheService()
     compareReply(m_service->getServiceReply(), -21, "对不起，暂不支持该功能。", "对不起，暂不支持该功能。",
                  3);
     compareRecords(
-        *m_log, sourceName,
+        *m_log, SourceName,
         {{QtCriticalMsg, QStringLiteral("Unsupport this intent:  \"scripted\""), handleIntentSignature()},
          {QtCriticalMsg, QStringLiteral("Handle specify intent failed:  -21"), serviceSignature()}});
 }
@@ -277,7 +277,7 @@ void TestContactService::noIntentIsAnsweredAsAnUnknownOne()
     compareReply(m_service->getServiceReply(), -21, "对不起，暂不支持该功能。", "对不起，暂不支持该功能。",
                  3);
     compareRecords(
-        *m_log, sourceName,
+        *m_log, SourceName,
         {{QtCriticalMsg, QStringLiteral("Unsupport this intent:  \"\""), handleIntentSignature()},
          {QtCriticalMsg, QStringLiteral("Handle specify intent failed:  -21"), serviceSignature()}});
 }
@@ -291,7 +291,7 @@ void TestContactService::unsupportedPhrasingIsAnsweredByTheService()
                  3);
     QCOMPARE(handler->replies, 0);
     compareRecords(
-        *m_log, sourceName,
+        *m_log, SourceName,
         {{QtCriticalMsg, QStringLiteral("Handle specify intent failed:  -24"), serviceSignature()}});
 }
 
@@ -306,7 +306,7 @@ void TestContactService::onlyTheFirstIntentIsCarriedOut()
     QCOMPARE(handler->actedOn, QStringLiteral("SCRIPTED"));
     compareReply(m_service->getServiceReply(), 0, "好的。", "好的。", 3);
     QCOMPARE(handler->repliedTo, QStringLiteral("SCRIPTED"));
-    compareRecords(*m_log, sourceName, {});
+    compareRecords(*m_log, SourceName, {});
 }
 
 void TestContactService::handlersReplyIsCopiedWhole()
@@ -348,7 +348,7 @@ void TestContactService::failedIntentIsLoggedAndAnswered()
     compareReply(m_service->getServiceReply(), -16005, "没有。", "没有。", 3);
     QCOMPARE(handler->repliedCode, -16005);
     compareRecords(
-        *m_log, sourceName,
+        *m_log, SourceName,
         {{QtCriticalMsg, QStringLiteral("Handle specify intent failed:  -16005"), serviceSignature()}});
 }
 

@@ -8,14 +8,14 @@
 
 #include <speakmate/iserviceplugin.h>
 
-#include <QtCore/QJsonObject>
-#include <QtCore/QPluginLoader>
-#include <QtCore/QPointer>
-#include <QtCore/QTemporaryDir>
-#include <QtCore/QThread>
-#include <QtTest/QTest>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QWidget>
+#include <QApplication>
+#include <QJsonObject>
+#include <QPluginLoader>
+#include <QPointer>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+#include <QWidget>
 
 #include <atomic>
 #include <memory>
@@ -61,8 +61,8 @@ private:
 
 namespace {
 
-const char tomorrow[] = "{'name':'datetime','value':'{\\\"suggestDatetime\\\":\\\"2026-03-08T10:00:00\\\"}'}";
-const char aConference[] =
+const char Tomorrow[] = "{'name':'datetime','value':'{\\\"suggestDatetime\\\":\\\"2026-03-08T10:00:00\\\"}'}";
+const char AConference[] =
     "[{'confId':'c1','title':'周会','startTime':1772935200000,'duration':3600000,"
     "'conferenceDialNumber':'4001','participantLimit':10,'status':'0','participants':[]}]";
 
@@ -91,7 +91,7 @@ Reply *askForTwoConferences(IService *service)
     ScriptedAbility::instance().enqueue(
         0, quoted("{'ret':'OK','list':[{'confId':'a','title':'甲'},{'confId':'b','title':'乙'}]}"));
     service->service(
-        SemanticText::of("QUERY_CONFERENCE", QByteArray("[").append(tomorrow).append("]").constData()));
+        SemanticText::of("QUERY_CONFERENCE", QByteArray("[").append(Tomorrow).append("]").constData()));
     return service->getServiceReply();
 }
 
@@ -177,8 +177,8 @@ void TestLoadedPlugin::eachIntentEndToEnd_data()
         QTest::newRow(name) << semantic << QString::fromUtf8(action) << QString::fromUtf8(parameters)
                             << quoted(answer) << ret << code << QString::fromUtf8(text) << hasCard;
     };
-    const QByteArray atTomorrow = QByteArray("[{'name':'name','value':'张三'},") + tomorrow + "]";
-    const QByteArray listed = QByteArray("{'ret':'OK','list':") + aConference + "}";
+    const QByteArray atTomorrow = QByteArray("[{'name':'name','value':'张三'},") + Tomorrow + "]";
+    const QByteArray listed = QByteArray("{'ret':'OK','list':") + AConference + "}";
 
     row("create at once",
         SemanticText::of("CREATE_CONFERENCE", "[{'name':'name','value':'张三'},{'name':'datetime'}]"),

@@ -4,8 +4,8 @@
 #include "logcapture.h"
 #include "semantic/semanticparser.h"
 
-#include <QtCore/QJsonDocument>
-#include <QtTest/QtTest>
+#include <QJsonDocument>
+#include <QtTest>
 
 #include <cstddef>
 
@@ -16,13 +16,13 @@ static_assert(sizeof(CloudSlot) == sizeof(QVariantMap) &&
 
 namespace {
 
-const QString noSemantic = QStringLiteral("debug: Can not parse semantic, root name must be:  semantic");
-const QString badIntent = QStringLiteral("debug: Parse intent failed, please check intent.");
-const QString incompleteIntent =
+const QString NoSemantic = QStringLiteral("debug: Can not parse semantic, root name must be:  semantic");
+const QString BadIntent = QStringLiteral("debug: Parse intent failed, please check intent.");
+const QString IncompleteIntent =
     QStringLiteral("debug: Parse intent failed, json must contain:  intent ,  slots");
-const QString slotIsNoObject = QStringLiteral("critical: Parse slot failed, slot is not a object");
-const QString slotWithoutName = QStringLiteral("critical: Every slot must contain a name");
-const QString badSlot = QStringLiteral("debug: Parse slot failed, please check slot.");
+const QString SlotIsNoObject = QStringLiteral("critical: Parse slot failed, slot is not a object");
+const QString SlotWithoutName = QStringLiteral("critical: Every slot must contain a name");
+const QString BadSlot = QStringLiteral("debug: Parse slot failed, please check slot.");
 
 QString answerWith(const QByteArray &semantic)
 {
@@ -31,7 +31,7 @@ QString answerWith(const QByteArray &semantic)
 
 } // namespace
 
-class SemanticParserTest : public QObject
+class TestSemanticParser : public QObject
 {
     Q_OBJECT
 
@@ -84,7 +84,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("json");
         QTest::addColumn<QStringList>("lines");
-        const QStringList rejected{noSemantic};
+        const QStringList rejected{NoSemantic};
         QTest::newRow("empty text") << QString() << rejected;
         QTest::newRow("not JSON") << QStringLiteral("create a conference") << rejected;
         QTest::newRow("broken off") << QStringLiteral(R"({"intent": {"semantic": [)") << rejected;
@@ -98,7 +98,7 @@ private Q_SLOTS:
         QTest::newRow("two thousand levels deep")
             << answerWith(QByteArray("[").repeated(2000) + QByteArray("]").repeated(2000)) << rejected;
 
-        const QStringList incomplete{incompleteIntent, badIntent};
+        const QStringList incomplete{IncompleteIntent, BadIntent};
         QTest::newRow("slots missing") << answerWith(R"([{"intent": "A"}])") << incomplete;
         QTest::newRow("slots an object") << answerWith(R"([{"intent": "A", "slots": {}}])") << incomplete;
         QTest::newRow("intent name missing") << answerWith(R"([{"slots": []}])") << incomplete;
@@ -107,15 +107,15 @@ private Q_SLOTS:
 
         const auto slotRow = [](const char *name, const char *slot, const QString &cause) {
             QTest::newRow(name) << answerWith(QByteArray(R"([{"intent": "A", "slots": [)") + slot + "]}]")
-                                << QStringList({cause, badSlot, badIntent});
+                                << QStringList({cause, BadSlot, BadIntent});
         };
-        slotRow("slot without a name", R"({"value": "x"})", slotWithoutName);
-        slotRow("slot whose name is a number", R"({"name": 7})", slotWithoutName);
-        slotRow("slot whose name is null", R"({"name": null})", slotWithoutName);
-        slotRow("empty slot", "{}", slotWithoutName);
-        slotRow("second slot without a name", R"({"name": "a"}, {})", slotWithoutName);
-        slotRow("slot a string", R"("name")", slotIsNoObject);
-        slotRow("slot an array", "[]", slotIsNoObject);
+        slotRow("slot without a name", R"({"value": "x"})", SlotWithoutName);
+        slotRow("slot whose name is a number", R"({"name": 7})", SlotWithoutName);
+        slotRow("slot whose name is null", R"({"name": null})", SlotWithoutName);
+        slotRow("empty slot", "{}", SlotWithoutName);
+        slotRow("second slot without a name", R"({"name": "a"}, {})", SlotWithoutName);
+        slotRow("slot a string", R"("name")", SlotIsNoObject);
+        slotRow("slot an array", "[]", SlotIsNoObject);
     }
     void failuresAreLogged()
     {
@@ -149,16 +149,16 @@ private Q_SLOTS:
         QTest::addColumn<QString>("json");
         QTest::addColumn<QString>("text");
         QTest::addColumn<QByteArray>("function");
-        QTest::newRow("semantic") << QString() << noSemantic
+        QTest::newRow("semantic") << QString() << NoSemantic
                                   << QByteArray("bool CloudSemantic::parse(const QJsonValue&)");
         QTest::newRow("intent in the semantic")
-            << answerWith("[{}]") << badIntent << QByteArray("bool CloudSemantic::parse(const QJsonValue&)");
-        QTest::newRow("intent") << answerWith("[{}]") << incompleteIntent
+            << answerWith("[{}]") << BadIntent << QByteArray("bool CloudSemantic::parse(const QJsonValue&)");
+        QTest::newRow("intent") << answerWith("[{}]") << IncompleteIntent
                                 << QByteArray("bool CloudIntent::parse(const QJsonValue&)");
         QTest::newRow("slot in the intent")
-            << answerWith(R"([{"intent": "A", "slots": [7]}])") << slotIsNoObject
+            << answerWith(R"([{"intent": "A", "slots": [7]}])") << SlotIsNoObject
             << QByteArray("bool CloudIntent::parse(const QJsonValue&)");
-        QTest::newRow("slot") << answerWith(R"([{"intent": "A", "slots": [{}]}])") << slotWithoutName
+        QTest::newRow("slot") << answerWith(R"([{"intent": "A", "slots": [{}]}])") << SlotWithoutName
                               << QByteArray("bool CloudSlot::parse(const QJsonValue&)");
     }
     void recordsNameTheirSource()
@@ -183,6 +183,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(SemanticParserTest)
+QTEST_GUILESS_MAIN(TestSemanticParser)
 
 #include "tst_semanticparser.moc"

@@ -3,8 +3,8 @@
 
 #include "fakeprocesstable.h"
 
-#include <QtCore/QFile>
-#include <QtCore/QStandardPaths>
+#include <QFile>
+#include <QStandardPaths>
 
 namespace {
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <QtCore/QByteArray>
-#include <QtCore/QTemporaryDir>
+#include <QByteArray>
+#include <QTemporaryDir>
 
 /**
  * A `ps` of our own, first in this process's PATH for as long as it lives, so that a test decides what the

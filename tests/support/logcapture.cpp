@@ -3,8 +3,8 @@
 
 #include "logcapture.h"
 
-#include <QtCore/QMutexLocker>
-#include <QtTest/QTest>
+#include <QMutexLocker>
+#include <QTest>
 
 #include <algorithm>
 #include <cstdio>

@@ -3,12 +3,12 @@
 
 #pragma once
 
-#include <QtCore/QByteArray>
-#include <QtCore/QMutex>
-#include <QtCore/QString>
-#include <QtCore/QStringList>
-#include <QtCore/QVector>
-#include <QtCore/QtGlobal>
+#include <QByteArray>
+#include <QMutex>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+#include <QtGlobal>
 
 /// One record of the Qt message logger, copied. Source fields are null when the record carried none.
 struct LogRecord

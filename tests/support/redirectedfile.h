@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QByteArray>
+#include <QByteArray>
 
 /**
  * Makes this process open another file in one path's place while it lives, so that a file at a fixed place

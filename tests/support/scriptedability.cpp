@@ -3,7 +3,7 @@
 
 #include "scriptedability.h"
 
-#include <QtTest/QTest>
+#include <QTest>
 
 #include <dlfcn.h>
 

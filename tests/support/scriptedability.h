@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <QtCore/QString>
-#include <QtCore/QStringList>
-#include <QtCore/QVector>
+#include <QString>
+#include <QStringList>
+#include <QVector>
 
 #include <functional>
 

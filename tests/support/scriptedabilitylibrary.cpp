@@ -7,12 +7,12 @@
 
 #include <kelvane/kelvaneabilitymanager.h>
 
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QHash>
-#include <QtCore/QMutexLocker>
-#include <QtCore/QQueue>
-#include <QtCore/QThread>
-#include <QtCore/QWaitCondition>
+#include <QElapsedTimer>
+#include <QHash>
+#include <QMutexLocker>
+#include <QQueue>
+#include <QThread>
+#include <QWaitCondition>
 
 #include <stdexcept>
 #include <utility>

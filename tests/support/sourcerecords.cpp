@@ -3,7 +3,7 @@
 
 #include "sourcerecords.h"
 
-#include <QtTest/QTest>
+#include <QTest>
 
 void compareRecords(const LogCapture &log, const char *file, const QVector<SourceRecord> &expected)
 {

@@ -5,7 +5,7 @@
 
 #include "logcapture.h"
 
-#include <QtCore/QDebug>
+#include <QDebug>
 
 /// What a log record must look like that a source file is expected to write.
 struct SourceRecord

@@ -7,9 +7,9 @@
 
 #include <kelvane/kelvaneabilitymanager.h>
 
-#include <QtCore/QProcess>
-#include <QtCore/QtDebug>
-#include <QtTest/QtTest>
+#include <QProcess>
+#include <QtDebug>
+#include <QtTest>
 
 #include <memory>
 #include <stdexcept>
@@ -34,7 +34,7 @@ QByteArray outputOf(const QString &program, const QStringList &arguments)
 } // namespace
 
 /// The tests' own tools must work, or what they show is worth nothing.
-class TestSupportTest : public QObject
+class TestSupport : public QObject
 {
     Q_OBJECT
 
@@ -50,7 +50,7 @@ private Q_SLOTS:
         QCOMPARE(record.category, QByteArray("default"));
         QCOMPARE(record.file, QByteArray("tests/support/tst_testsupport.cpp"));
         QCOMPARE(LogCapture::signatureOf(record.function),
-                 QByteArray("void TestSupportTest::captureKeepsEverythingOfARecord()"));
+                 QByteArray("void TestSupport::captureKeepsEverythingOfARecord()"));
         QVERIFY(record.line > 0);
     }
 
@@ -188,6 +188,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestSupportTest)
+QTEST_GUILESS_MAIN(TestSupport)
 
 #include "tst_testsupport.moc"

@@ -23,4 +23,4 @@ std::ptrdiff_t virtualPlaceOf(Function function)
 }
 
 /// The first place after QObject's own virtual functions.
-constexpr std::ptrdiff_t firstPlaceAfterQObject = 12;
+constexpr std::ptrdiff_t FirstPlaceAfterQObject = 12;

@@ -3,7 +3,7 @@
 
 #include <kelvane/kelvaneabilitymanager.h>
 
-#include <QtCore/QCoreApplication>
+#include <QCoreApplication>
 
 #include <cstdio>
 #include <iostream>

@@ -5,8 +5,8 @@
 
 #include "contact1adaptor.h"
 
-#include <QtCore/QCoreApplication>
-#include <QtDBus/QDBusConnection>
+#include <QCoreApplication>
+#include <QDBusConnection>
 
 #include <cstdio>
 
@@ -18,8 +18,9 @@ int main(int argc, char **argv)
     new Contact1Adaptor(&requests);
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.registerObject(QStringLiteral("/com/kelvane/meetlynx"), &requests) ||
-        !bus.registerService(QStringLiteral("com.kelvane.meetlynx")))
+        !bus.registerService(QStringLiteral("com.kelvane.meetlynx"))) {
         return 1;
+    }
     // Ends with its bus, like the application itself.
     bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
                 QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"),

@@ -3,18 +3,20 @@
 
 #include "scriptedrequests.h"
 
-#include <QtCore/QTimer>
-#include <QtDBus/QDBusConnection>
-#include <QtDBus/QDBusMessage>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QTimer>
 
 #include <unistd.h>
 
 QString ScriptedRequests::Request(const QString &action, const QString &parameters)
 {
-    if (action == QLatin1String("Echo"))
+    if (action == QLatin1String("Echo")) {
         return parameters;
-    if (action == QLatin1String("Die"))
+    }
+    if (action == QLatin1String("Die")) {
         _exit(0);
+    }
     if (action == QLatin1String("Fail")) {
         sendErrorReply(QStringLiteral("org.example.Error.NotToday"), QStringLiteral("not today"));
         return {};

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <QtCore/QObject>
-#include <QtDBus/QDBusContext>
+#include <QDBusContext>
+#include <QObject>
 
 /// An application that does with a request what the request's action says, for the ability library's tests:
 /// "Echo" answers with the parameters, "Late" after as many milliseconds as they say, "Never" not at all,

@@ -6,10 +6,10 @@
 #include <kelvane/abilitycodes.h>
 #include <kelvane/kelvaneabilitymanager.h>
 
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QProcess>
-#include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
 
 #include <csignal>
 #include <memory>
@@ -280,10 +280,12 @@ void TestContactAbility::threadsDoNotWaitForEachOther()
     timer.start();
     std::vector<int> codes(Threads, 1);
     std::vector<std::thread> threads;
-    for (int &code : codes)
+    for (int &code : codes) {
         threads.emplace_back([&code] { code = ask(QStringLiteral("Late"), QStringLiteral("500")).code; });
-    for (std::thread &thread : threads)
+    }
+    for (std::thread &thread : threads) {
         thread.join();
+    }
     QCOMPARE(codes, std::vector<int>(Threads, 0));
     QVERIFY2(timer.elapsed() < Threads * 500, qPrintable(QString::number(timer.elapsed())));
 }

@@ -3,9 +3,9 @@
 
 #include <kelvane/kelvaneabilitymanager.h>
 
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtTest/QtTest>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtTest>
 
 #include <memory>
 #include <thread>
@@ -60,13 +60,15 @@ private Q_SLOTS:
                 for (int i = 0; i < Requests; ++i) {
                     QString answer;
                     if (ask(QStringLiteral("Is Conference Host"), QString(), answer) == 0 &&
-                        outcome(answer) == QLatin1String("No Conference"))
+                        outcome(answer) == QLatin1String("No Conference")) {
                         ++count;
+                    }
                 }
             });
         }
-        for (std::thread &thread : threads)
+        for (std::thread &thread : threads) {
             thread.join();
+        }
         QCOMPARE(answered, std::vector<int>(Threads, Requests));
     }
 };

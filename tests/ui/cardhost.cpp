@@ -5,8 +5,8 @@
 
 #include "conferencemsgstaticwidget.h"
 
-#include <QtTest/QTest>
-#include <QtWidgets/QVBoxLayout>
+#include <QTest>
+#include <QVBoxLayout>
 
 namespace {
 constexpr int OneInstance = 1;
@@ -17,8 +17,9 @@ CardHost::CardHost() : m_processes(OneInstance), m_card(new ConferenceMsgStaticW
 {
     ScriptedAbility::instance().reset();
     for (const char *action : {"Create Conference", "Invite Members", "Update Conference",
-                               "Delete Conference", "Open Conference List"})
+                               "Delete Conference", "Open Conference List"}) {
         answer(QString::fromLatin1(action), QStringLiteral("OK"));
+    }
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_card);
     setFixedWidth(HostWidth);
@@ -38,8 +39,9 @@ bool CardHost::activate()
 QStringList CardHost::replyTexts() const
 {
     QStringList texts;
-    for (const Reply &reply : m_replies)
+    for (const Reply &reply : m_replies) {
         texts.append(reply.displayText.toString());
+    }
     return texts;
 }
 

@@ -9,9 +9,9 @@
 
 #include <speakmate/reply.h>
 
-#include <QtCore/QPointer>
-#include <QtCore/QVector>
-#include <QtWidgets/QDialog>
+#include <QDialog>
+#include <QPointer>
+#include <QVector>
 
 class ConferenceMsgStaticWidget;
 

@@ -3,8 +3,8 @@
 
 #include "cardsamples.h"
 
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
+#include <QLabel>
+#include <QPushButton>
 
 #include <algorithm>
 
@@ -86,16 +86,18 @@ QStringList CardSamples::texts(const QWidget &parent)
                        [](const QLabel *label) { return label->pixmap(Qt::ReturnByValue).width() > 0; }),
         labels.end());
     QStringList result;
-    for (const QLabel *label : qAsConst(labels))
+    for (const QLabel *label : qAsConst(labels)) {
         result.append(label->text());
+    }
     return result;
 }
 
 QPushButton *CardSamples::button(const QWidget &parent, const QString &text)
 {
     for (QPushButton *candidate : shown<QPushButton>(parent)) {
-        if (candidate->text() == text)
+        if (candidate->text() == text) {
             return candidate;
+        }
     }
     return nullptr;
 }

@@ -5,8 +5,8 @@
 
 #include "conferencerecords.h"
 
-#include <QtCore/QDateTime>
-#include <QtWidgets/QWidget>
+#include <QDateTime>
+#include <QWidget>
 
 QT_BEGIN_NAMESPACE
 class QPushButton;
@@ -39,8 +39,9 @@ QVector<Widget *> shown(const QWidget &parent)
     QVector<Widget *> result;
     const auto all = parent.findChildren<Widget *>();
     for (Widget *widget : all) {
-        if (widget->isVisibleTo(&parent))
+        if (widget->isVisibleTo(&parent)) {
             result.append(widget);
+        }
     }
     return result;
 }
@@ -53,8 +54,9 @@ template <typename Widget>
 Widget *named(const QWidget &parent, const QString &name)
 {
     for (Widget *widget : shown<Widget>(parent)) {
-        if (widget->accessibleName() == name)
+        if (widget->accessibleName() == name) {
             return widget;
+        }
     }
     return nullptr;
 }

@@ -8,9 +8,9 @@
 
 #include <lumo/lspinbox.h>
 
-#include <QtGui/QAccessible>
-#include <QtTest/QtTest>
-#include <QtWidgets/QPushButton>
+#include <QAccessible>
+#include <QPushButton>
+#include <QtTest>
 
 #include <functional>
 
@@ -40,8 +40,9 @@ void forEach(QAccessibleInterface *interface, const std::function<void(QAccessib
     visit(interface);
     for (int i = 0; i < interface->childCount(); ++i) {
         QAccessibleInterface *child = interface->child(i);
-        if (child != nullptr)
+        if (child != nullptr) {
             forEach(child, visit);
+        }
     }
 }
 
@@ -59,8 +60,9 @@ QAccessibleInterface *controlNamed(QWidget &parent, const QString &name)
         // The name of a combo box is its current text on this platform; what it is for is its description.
         const auto text =
             interface->role() == QAccessible::ComboBox ? QAccessible::Description : QAccessible::Name;
-        if (found == nullptr && interface->state().focusable && interface->text(text) == name)
+        if (found == nullptr && interface->state().focusable && interface->text(text) == name) {
             found = interface;
+        }
     });
     return found;
 }
@@ -122,8 +124,9 @@ void TestCardAccessibility::everyControlHasANameAndATurn()
     // And as assistive technology sees it: nothing that can be used is without a name.
     forEach(QAccessible::queryAccessibleInterface(host.card()), [](QAccessibleInterface *interface) {
         const QAccessible::Role role = interface->role();
-        if (interface->state().invisible)
+        if (interface->state().invisible) {
             return;
+        }
         if (role == QAccessible::PushButton || role == QAccessible::ComboBox ||
             role == QAccessible::SpinBox || role == QAccessible::CheckBox) {
             QVERIFY2(!interface->text(QAccessible::Name).isEmpty(),
@@ -185,8 +188,9 @@ void TestCardAccessibility::textsAreReadAsTheyAre()
     QVERIFY(host.activate());
     QStringList read;
     forEach(QAccessible::queryAccessibleInterface(host.card()), [&read](QAccessibleInterface *interface) {
-        if (interface->role() == QAccessible::StaticText)
+        if (interface->role() == QAccessible::StaticText) {
             read.append(interface->text(QAccessible::Name));
+        }
     });
     // Whole, although the label shows dots.
     QVERIFY(read.contains(one.title));

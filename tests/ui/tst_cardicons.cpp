@@ -3,9 +3,9 @@
 
 #include "card/cardicons.h"
 
-#include <QtCore/QFile>
-#include <QtTest/QtTest>
-#include <QtWidgets/QWidget>
+#include <QFile>
+#include <QWidget>
+#include <QtTest>
 
 // What the resource compiler makes of image.qrc; others may register and release it.
 extern int qInitResources_image();
@@ -60,9 +60,10 @@ void TestCardIcons::eachIconIsThere()
     QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
     int white = 0;
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
+        for (int x = 0; x < image.width(); ++x) {
             white +=
                 image.pixelColor(x, y).lightness() > 200 && image.pixelColor(x, y).alpha() == 255 ? 1 : 0;
+        }
     }
     QVERIFY2(white >= 8 * ratio * ratio, qPrintable(QString::number(white)));
 }

@@ -10,12 +10,12 @@
 
 #include <lumo/lguiapplicationhelper.h>
 
-#include <QtCore/QDir>
-#include <QtTest/QtTest>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QVBoxLayout>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <QtTest>
 
 using namespace CardSamples;
 
@@ -46,8 +46,9 @@ ContactDetailMsg longWinded()
     one.title = QStringLiteral("关于下半年产品路线图与跨部门协作流程优化的第十七次专题讨论会（含预算评审）");
     one.conferenceDialNumber = QStringLiteral("902118340000111122223333444455556666");
     one.participants.clear();
-    for (int i = 0; i < 100; ++i)
+    for (int i = 0; i < 100; ++i) {
         one.participants.append(user(QStringLiteral("参会人%1").arg(i + 1), {}, {}, {}));
+    }
     one.status = 1;
     return one;
 }
@@ -152,8 +153,9 @@ public:
         setFixedWidth(state.width);
         show();
         state.build(*card);
-        if (isFocused)
+        if (isFocused) {
             card->setFocus(Qt::TabFocusReason);
+        }
         layout->activate();
         resize(state.width, layout->sizeHint().height());
         m_card = card;
@@ -204,8 +206,9 @@ void TestCardPictures::everyCard()
     // Fixed texts are never cut off where the card is as wide as planned.
     if (state.width >= HostWidth) {
         for (const QLabel *label : shown<QLabel>(*host.card())) {
-            if (label->text() == QStringLiteral("参与人") || label->text() == QStringLiteral("进行中"))
+            if (label->text() == QStringLiteral("参与人") || label->text() == QStringLiteral("进行中")) {
                 QVERIFY(label->width() >= label->fontMetrics().horizontalAdvance(label->text()));
+            }
         }
     }
     const QString path =

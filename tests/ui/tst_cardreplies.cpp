@@ -3,7 +3,7 @@
 
 #include "card/cardreplies.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 using CardReplies::Purpose;
 
@@ -107,15 +107,17 @@ void TestCardReplies::aJoinedList()
 void TestCardReplies::whatAChangeSays()
 {
     QCOMPARE(CardReplies::modified(0), QStringLiteral("会议信息修改成功。"));
-    for (const int code : {-16001, -1, 5})
+    for (const int code : {-16001, -1, 5}) {
         QCOMPARE(CardReplies::modified(code), QStringLiteral("修改失败，请前往联系人应用修改。"));
+    }
 }
 
 void TestCardReplies::whatACancellationSays()
 {
     QCOMPARE(CardReplies::cancelled(0), QStringLiteral("已为您取消会议。"));
-    for (const int code : {-16001, -1, 5})
+    for (const int code : {-16001, -1, 5}) {
         QCOMPARE(CardReplies::cancelled(code), QStringLiteral("会议取消失败，请前往联系人应用取消。"));
+    }
 }
 
 QTEST_APPLESS_MAIN(TestCardReplies)

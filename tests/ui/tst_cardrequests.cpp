@@ -5,7 +5,7 @@
 
 #include "cardsamples.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 using namespace CardSamples;
 

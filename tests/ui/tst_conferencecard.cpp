@@ -16,11 +16,11 @@
 #include <lumo/lspinbox.h>
 #include <lumo/lsuggestbutton.h>
 
-#include <QtGui/QScreen>
-#include <QtTest/QtTest>
-#include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QVBoxLayout>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <QtTest>
 
 using namespace CardSamples;
 
@@ -86,8 +86,9 @@ std::unique_ptr<ConferenceMsgStaticWidget> singleCard(const ContactDetailMsg &co
 LLabel *labelWith(const QWidget &parent, const QString &text)
 {
     for (LLabel *label : shown<LLabel>(parent)) {
-        if (label->text() == text)
+        if (label->text() == text) {
             return label;
+        }
     }
     return nullptr;
 }
@@ -338,8 +339,9 @@ void TestConferenceCard::participants()
     ConferenceMsgStaticWidget card;
     ContactDetailMsg one = conference();
     one.participants.clear();
-    for (const QString &name : names)
+    for (const QString &name : names) {
         one.participants.append(user(name, QStringLiteral("别名"), {}, QStringLiteral("account")));
+    }
     QTEST(texts(*card.getConferenceparticipateNameWidget(one)).last(), "text");
 }
 
@@ -348,8 +350,9 @@ void TestConferenceCard::theFontsAndColoursOfTheTexts()
     ConferenceMsgStaticWidget card;
     QLabel label;
     card.setWidgetColor(&label, 42);
-    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         QCOMPARE(label.palette().color(group, QPalette::WindowText), QColor(0, 0, 0, 42));
+    }
     LGuiApplicationHelper::instance()->setPaletteType(LGuiApplicationHelper::DarkType);
     card.setWidgetColor(&label, 255);
     QCOMPARE(textColor(label), QColor(255, 255, 255, 255));
@@ -376,11 +379,13 @@ void TestConferenceCard::howManyConferencesAListShows()
     card.multipleInit(conferences(count));
     QCOMPARE(shown<CustomizeItem>(card).size(), items);
     QCOMPARE(card.layout()->count(), 1 + items + (footer.isEmpty() ? 0 : 1));
-    for (int i = 0; i < items; ++i)
+    for (int i = 0; i < items; ++i) {
         QVERIFY(texts(*shown<CustomizeItem>(card).at(i)).contains(QStringLiteral("会议%1").arg(i + 1)));
+    }
     QCOMPARE(shown<LCommandLinkButton>(card).size(), footer.isEmpty() ? 0 : 1);
-    if (!footer.isEmpty())
+    if (!footer.isEmpty()) {
         QCOMPARE(shown<LCommandLinkButton>(card).first()->text(), footer);
+    }
 }
 
 void TestConferenceCard::anItemOfTheList()
@@ -457,13 +462,15 @@ void TestConferenceCard::markupIsShownAsItIs()
     one.participants = {user(markup, {}, {}, {})};
     for (int i = 0; i < 2; ++i) {
         ConferenceMsgStaticWidget card;
-        if (i == 0)
+        if (i == 0) {
             card.singleInit({one});
-        else
+        } else {
             card.multipleInit({one, one});
+        }
         QVERIFY(texts(card).contains(markup));
-        for (const QLabel *label : shown<QLabel>(card))
+        for (const QLabel *label : shown<QLabel>(card)) {
             QCOMPARE(label->textFormat(), Qt::PlainText);
+        }
     }
 }
 
@@ -570,8 +577,9 @@ void TestConferenceCard::noStyleSheetIsUsed()
     ConferenceMsgStaticWidget card;
     QVector<ContactDetailMsg> list = conferences(1);
     card.createInviteConference(list);
-    for (const QWidget *widget : card.findChildren<QWidget *>())
+    for (const QWidget *widget : card.findChildren<QWidget *>()) {
         QVERIFY(widget->styleSheet().isEmpty());
+    }
 }
 
 QTEST_MAIN(TestConferenceCard)

@@ -10,9 +10,9 @@
 #include <lumo/lcombobox.h>
 #include <lumo/lspinbox.h>
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QVBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <QtTest>
 
 using namespace CardSamples;
 
@@ -93,8 +93,9 @@ QPushButton *confirmButton(const CardHost &host)
 
 void pick(const CardHost &host, const QVector<int> &rows)
 {
-    for (const int row : rows)
+    for (const int row : rows) {
         QTest::mouseClick(shown<TiTleItem>(*host.card()).at(row), Qt::LeftButton);
+    }
 }
 
 QStringList staticTexts(const QString &start, const QString &duration, const QString &people)
@@ -164,10 +165,11 @@ void TestConferenceCardActions::modify()
     QFETCH(QString, text);
     CardHost host;
     buildEditable(*host.card());
-    if (callCode == 0)
+    if (callCode == 0) {
         CardHost::answer(QStringLiteral("Update Conference"), outcome);
-    else
+    } else {
         CardHost::fail(QStringLiteral("Update Conference"), callCode);
+    }
     named<LSpinBox>(*host.card(), QStringLiteral("人数"))->setValue(7);
     QTest::mouseClick(button(*host.card(), QStringLiteral("修 改")), Qt::LeftButton);
 
@@ -255,10 +257,11 @@ void TestConferenceCardActions::cancel()
     QFETCH(QString, text);
     CardHost host;
     buildEditable(*host.card());
-    if (callCode == 0)
+    if (callCode == 0) {
         CardHost::answer(QStringLiteral("Delete Conference"), outcome);
-    else
+    } else {
         CardHost::fail(QStringLiteral("Delete Conference"), callCode);
+    }
     QTest::mouseClick(button(*host.card(), QStringLiteral("取 消")), Qt::LeftButton);
 
     QCOMPARE(CardHost::actions(), QStringList{QStringLiteral("Delete Conference")});
@@ -366,8 +369,9 @@ void TestConferenceCardActions::theMeasuresOfASelectionCard()
     QCOMPARE(layout->itemAt(7)->widget(), confirmButton(host));
     QCOMPARE(confirmButton(host)->minimumHeight(), 36);
     QCOMPARE(confirmButton(host)->maximumHeight(), 36);
-    for (const TiTleItem *row : shown<TiTleItem>(*host.card()))
+    for (const TiTleItem *row : shown<TiTleItem>(*host.card())) {
         QCOMPARE(row->parentWidget(), host.card());
+    }
 }
 
 void TestConferenceCardActions::aCardThatCannotBeConfirmed()
@@ -470,8 +474,9 @@ void TestConferenceCardActions::confirm()
     CardHost host;
     build(*host.card());
     QVERIFY(host.activate());
-    if (code != 0)
+    if (code != 0) {
         CardHost::fail(action, code);
+    }
     pick(host, picks);
     QTest::mouseClick(confirmButton(host), Qt::LeftButton);
 
@@ -627,8 +632,9 @@ void TestConferenceCardActions::howManyCanBePicked()
     host.card()->invitePersonLimit(detail);
     pick(host, {0, 1, 2, 3, 4, 5});
     int selected = 0;
-    for (const TiTleItem *row : shown<TiTleItem>(*host.card()))
+    for (const TiTleItem *row : shown<TiTleItem>(*host.card())) {
         selected += row->isSelected() ? 1 : 0;
+    }
     QTEST(selected, "selected");
 }
 

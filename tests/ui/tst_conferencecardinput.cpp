@@ -9,10 +9,10 @@
 #include <lumo/lcombobox.h>
 #include <lumo/lcommandlinkbutton.h>
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QAbstractItemView>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
+#include <QAbstractItemView>
+#include <QLabel>
+#include <QPushButton>
+#include <QtTest>
 
 using namespace CardSamples;
 
@@ -92,8 +92,9 @@ void TestConferenceCardInput::aClickOpensTheContacts()
     QVERIFY(host.activate());
     QWidget *target = host.card();
     for (QLabel *candidate : shown<QLabel>(*host.card())) {
-        if (!label.isEmpty() && candidate->text() == label)
+        if (!label.isEmpty() && candidate->text() == label) {
             target = candidate;
+        }
     }
     QTest::mousePress(target, Qt::LeftButton, {}, QPoint(2, 2));
     QCOMPARE(CardHost::actions(), QStringList());
@@ -169,8 +170,9 @@ void TestConferenceCardInput::aKeyForAControlIsNotOneForTheCard()
     QVERIFY(host.activate());
     auto *people = named<QWidget>(*host.card(), QStringLiteral("人数"));
     people->setFocus(Qt::TabFocusReason);
-    for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space})
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
         QTest::keyRelease(people, key);
+    }
     QCOMPARE(CardHost::actions(), QStringList());
 }
 
@@ -194,8 +196,9 @@ void TestConferenceCardInput::aClickOnAControlIsNotOneOnTheCard()
     QMouseEvent release(QEvent::MouseButtonRelease, QPointF(1, 1), static_cast<Qt::MouseButton>(mouseButton),
                         Qt::NoButton, {});
     QApplication::sendEvent(box, &release);
-    if (mouseButton == Qt::RightButton)
+    if (mouseButton == Qt::RightButton) {
         QTest::mouseClick(button(*host.card(), QStringLiteral("取 消")), Qt::RightButton);
+    }
     QCOMPARE(CardHost::actions(), QStringList());
 }
 
@@ -375,8 +378,9 @@ void TestConferenceCardInput::otherKeysDoNotClick()
     QVERIFY(host.activate());
     QPushButton *cancel = button(*host.card(), QStringLiteral("取 消"));
     cancel->setFocus();
-    for (const auto key : {Qt::Key_A, Qt::Key_Down, Qt::Key_Escape})
+    for (const auto key : {Qt::Key_A, Qt::Key_Down, Qt::Key_Escape}) {
         QTest::keyPress(cancel, key);
+    }
     QTest::keyRelease(cancel, Qt::Key_Return);
     QCOMPARE(CardHost::actions(), QStringList());
 }

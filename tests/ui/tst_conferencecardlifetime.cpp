@@ -12,8 +12,8 @@
 #include <lumo/lguiapplicationhelper.h>
 #include <lumo/lspinbox.h>
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QPushButton>
+#include <QPushButton>
+#include <QtTest>
 
 using namespace CardSamples;
 
@@ -201,10 +201,11 @@ void TestConferenceCardLifetime::deletedWhileItOpensTheContacts()
     QPushButton *footer = shown<LCommandLinkButton>(*host.card()).first();
     QWidget *target = way < 2 ? static_cast<QWidget *>(host.card()) : footer;
     target->setFocus(Qt::TabFocusReason);
-    if (way % 2 == 0)
+    if (way % 2 == 0) {
         QTest::mouseClick(target, Qt::LeftButton);
-    else
+    } else {
         QTest::keyClick(host.windowHandle(), Qt::Key_Return);
+    }
     QVERIFY(host.card() == nullptr);
     QCOMPARE(CardHost::actions(), QStringList{QStringLiteral("Open Conference List")});
 }

@@ -3,8 +3,8 @@
 
 #include "card/conferencedraft.h"
 
-#include <QtCore/QDateTime>
-#include <QtTest/QtTest>
+#include <QDateTime>
+#include <QtTest>
 
 namespace {
 

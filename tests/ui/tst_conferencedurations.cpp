@@ -3,7 +3,7 @@
 
 #include "card/conferencedurations.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 class TestConferenceDurations : public QObject
 {

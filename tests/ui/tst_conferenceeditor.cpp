@@ -11,10 +11,10 @@
 #include <lumo/lspinbox.h>
 #include <lumo/lsuggestbutton.h>
 
-#include <QtGui/QScreen>
-#include <QtTest/QtTest>
-#include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QPushButton>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QScreen>
+#include <QtTest>
 
 using namespace CardSamples;
 
@@ -65,8 +65,9 @@ struct Editor
     /// The modify button and the card must always agree.
     bool isChanged() const
     {
-        if (modify->isEnabled() != host.card()->getConferenceMsgState())
+        if (modify->isEnabled() != host.card()->getConferenceMsgState()) {
             QTest::qFail("The modify button does not follow the card.", __FILE__, __LINE__);
+        }
         return host.card()->getConferenceMsgState();
     }
 
@@ -82,8 +83,9 @@ struct Editor
 QStringList items(const QComboBox &box)
 {
     QStringList result;
-    for (int i = 0; i < box.count(); ++i)
+    for (int i = 0; i < box.count(); ++i) {
         result.append(box.itemText(i));
+    }
     return result;
 }
 

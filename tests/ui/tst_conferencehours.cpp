@@ -3,7 +3,7 @@
 
 #include "card/conferencehours.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 class TestConferenceHours : public QObject
 {
@@ -44,8 +44,9 @@ void TestConferenceHours::minutesDoNotChangeTheLabel()
 
 void TestConferenceHours::anyOtherTextIsNoTime()
 {
-    for (const QString &text : {QString(), QStringLiteral("24:00"), QStringLiteral("9:00")})
+    for (const QString &text : {QString(), QStringLiteral("24:00"), QStringLiteral("9:00")}) {
         QVERIFY2(!ConferenceHours().time(text).isValid(), qPrintable(text));
+    }
 }
 
 void TestConferenceHours::anInvalidTimeHasNoLabel()

@@ -5,10 +5,10 @@
 
 #include "conferencemsgstaticwidget.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QScrollArea>
-#include <QtWidgets/QScrollBar>
-#include <QtWidgets/QVBoxLayout>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+#include <QtTest>
 
 class TestConferenceListWidget : public QObject
 {

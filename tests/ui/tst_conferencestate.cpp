@@ -3,7 +3,7 @@
 
 #include "card/conferencestate.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 class TestConferenceState : public QObject
 {

@@ -10,12 +10,12 @@
 #include <lumo/llabel.h>
 #include <lumo/lspinbox.h>
 
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtTest/QtTest>
-#include <QtWidgets/QGridLayout>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPushButton>
+#include <QGridLayout>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QtTest>
 
 namespace {
 
@@ -35,16 +35,18 @@ ContactDetailMsg conference()
 QStringList items(const QComboBox &combo)
 {
     QStringList texts;
-    for (int i = 0; i < combo.count(); ++i)
+    for (int i = 0; i < combo.count(); ++i) {
         texts.append(combo.itemText(i));
+    }
     return texts;
 }
 
 QStringList numbers(int first, int last)
 {
     QStringList texts;
-    for (int number = first; number <= last; ++number)
+    for (int number = first; number <= last; ++number) {
         texts.append(QString::number(number));
+    }
     return texts;
 }
 
@@ -57,8 +59,9 @@ struct Form
     {
         const auto combos = widget.findChildren<LComboBox *>();
         for (LComboBox *combo : combos) {
-            if (combo->accessibleName() == name)
+            if (combo->accessibleName() == name) {
                 return combo;
+            }
         }
         return nullptr;
     }
@@ -71,8 +74,9 @@ struct Form
     {
         const auto buttons = widget.findChildren<QPushButton *>();
         for (QPushButton *button : buttons) {
-            if (button->text() == text)
+            if (button->text() == text) {
                 return button;
+            }
         }
         return nullptr;
     }
@@ -161,8 +165,9 @@ void TestContactDetailWidget::onlyTheFirstConferenceIsShown()
     ContactDetailMsg second = conference();
     second.title = QStringLiteral("other");
     const Form form({conference(), second});
-    for (const LLabel *label : form.widget.findChildren<LLabel *>())
+    for (const LLabel *label : form.widget.findChildren<LLabel *>()) {
         QVERIFY(label->text() != second.title);
+    }
 }
 
 void TestContactDetailWidget::withoutConferenceTheFormIsEmpty()
@@ -287,8 +292,9 @@ void TestContactDetailWidget::theParticipantsAreNamed()
         return label->text() == QStringLiteral("李雷 韩梅梅");
     };
     QCOMPARE(std::count_if(labels.begin(), labels.end(), isNames), 1);
-    for (const LLabel *label : labels)
+    for (const LLabel *label : labels) {
         QCOMPARE(label->textFormat(), Qt::PlainText);
+    }
 
     ContactDetailWidget empty;
     const auto *nobody = qobject_cast<LLabel *>(empty.createConferenceInvite({}));
@@ -332,15 +338,18 @@ void TestContactDetailWidget::confirmingSendsTheChange()
     QFETCH(QDateTime, start);
     QFETCH(int, minutes);
     ContactDetailMsg edited = conference();
-    if (durationIndex < 0)
+    if (durationIndex < 0) {
         edited.duration = 45 * 60000;
+    }
     const Form form({edited});
     form.month()->setCurrentText(month);
-    if (!day.isEmpty())
+    if (!day.isEmpty()) {
         form.day()->setCurrentText(day);
+    }
     form.hour()->setCurrentText(hour);
-    if (durationIndex >= 0)
+    if (durationIndex >= 0) {
         form.duration()->setCurrentIndex(durationIndex);
+    }
     form.persons()->setValue(persons);
 
     const LogCapture log;

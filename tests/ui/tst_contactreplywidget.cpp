@@ -10,8 +10,8 @@
 #include "scriptedability.h"
 #include "signalactiontype.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QPushButton>
+#include <QPushButton>
+#include <QtTest>
 
 #include <limits>
 #include <memory>
@@ -25,12 +25,15 @@ enum class Kind { Empty, Editable, Single, List, Candidates };
 
 Kind kindOf(const ConferenceMsgStaticWidget &card)
 {
-    if (card.findChildren<QWidget *>().isEmpty())
+    if (card.findChildren<QWidget *>().isEmpty()) {
         return Kind::Empty;
-    if (button(card, QStringLiteral("修 改")) != nullptr)
+    }
+    if (button(card, QStringLiteral("修 改")) != nullptr) {
         return Kind::Editable;
-    if (button(card, QStringLiteral("确 认")) != nullptr)
+    }
+    if (button(card, QStringLiteral("确 认")) != nullptr) {
         return Kind::Candidates;
+    }
     return card.mode() == ConferenceMsgStaticWidget::Single ? Kind::Single : Kind::List;
 }
 
@@ -131,8 +134,9 @@ void TestContactReplyWidget::theCardOfEachAction()
     QVERIFY(card);
     QCOMPARE(card->parent(), nullptr);
     QCOMPARE(kindOf(*card), kind);
-    if (!shownText.isEmpty())
+    if (!shownText.isEmpty()) {
         QVERIFY2(texts(*card).contains(shownText), qPrintable(texts(*card).join(QLatin1Char('|'))));
+    }
 }
 
 void TestContactReplyWidget::onlyTheCardBitIsAdded_data()

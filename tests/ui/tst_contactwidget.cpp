@@ -7,17 +7,18 @@
 #include "contactdetailwidget.h"
 #include "titleitem.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QVBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+#include <QtTest>
 
 namespace {
 
 QVector<ContactDetailMsg> conferences(int count)
 {
     QVector<ContactDetailMsg> list(count);
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         list[i].title = QStringLiteral("conference %1").arg(i);
+    }
     return list;
 }
 
@@ -97,8 +98,9 @@ void TestContactWidget::theCardStandsUnderATitle()
     QVERIFY(showsText(*card, QStringLiteral("conference 0")));
     QCOMPARE(showsText(*card, QStringLiteral("conference 1")), count > 1);
     // Until the layout is at work, the card of a list stands where it was put.
-    if (count > 1)
+    if (count > 1) {
         QCOMPARE(card->pos(), QPoint(0, (500 - 62) / 2));
+    }
 }
 
 void TestContactWidget::withoutConferencesItIsEmpty()

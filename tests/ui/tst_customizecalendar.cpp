@@ -3,8 +3,8 @@
 
 #include "customizecalendar.h"
 
-#include <QtGui/QFocusEvent>
-#include <QtTest/QtTest>
+#include <QFocusEvent>
+#include <QtTest>
 
 class TestCustomizeCalendar : public QObject
 {

@@ -3,10 +3,10 @@
 
 #include "customizecombobox.h"
 
-#include <QtCore/QPointer>
-#include <QtTest/QtTest>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QCalendarWidget>
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QPointer>
+#include <QtTest>
 
 namespace {
 
@@ -182,10 +182,11 @@ void TestCustomizeComboBox::theCalendarOpens()
     m_field->slotSelectionData(Thursday);
     const QSignalSpy mouseClicked(m_field, &CustomizeComboBox::signalMouseClicked);
     m_field->setFocus();
-    if (key == 0)
+    if (key == 0) {
         QTest::mouseClick(m_field, Qt::LeftButton);
-    else
+    } else {
         QTest::keyClick(m_field, static_cast<Qt::Key>(key));
+    }
     QVERIFY(calendar()->isVisible());
     QCOMPARE(mouseClicked.count(), clicked ? 1 : 0);
     QVERIFY(QTest::qWaitForWindowActive(calendar()));
@@ -314,10 +315,11 @@ void TestCustomizeComboBox::theFieldMayBeDeletedByItsOwnSelection()
     QVERIFY(QTest::qWaitForWindowActive(calendar()));
     const QPointer<CustomizeComboBox> field(m_field);
     connect(m_field, &CustomizeComboBox::signalSelectionDate, this, [this] { m_window.reset(); });
-    if (byKey)
+    if (byKey) {
         QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Return);
-    else
+    } else {
         Q_EMIT calendar()->clicked(Thursday);
+    }
     QVERIFY(field.isNull());
 }
 

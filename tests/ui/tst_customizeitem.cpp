@@ -3,7 +3,7 @@
 
 #include "customizeitem.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 namespace {
 
@@ -45,8 +45,9 @@ void TestCustomizeItem::theColourAtFirst()
     const QColor color = paint(item).pixelColor(30, 20);
     QCOMPARE(color.alpha(), 204);
     // The painter stores colours multiplied with their alpha, which costs a digit.
-    for (const int channel : {color.red(), color.green(), color.blue()})
+    for (const int channel : {color.red(), color.green(), color.blue()}) {
         QVERIFY2(qAbs(channel - 247) <= 1, qPrintable(color.name()));
+    }
 }
 
 void TestCustomizeItem::theColourThatWasSet()
@@ -79,8 +80,9 @@ void TestCustomizeItem::theCorners()
     QFETCH(bool, upperRound);
     QFETCH(bool, lowerRound);
     CustomizeItem item;
-    if (radius != 8)
+    if (radius != 8) {
         item.setRaidus(radius);
+    }
     item.setBackGroundColor(Qt::red);
     item.setBottomRadius(bottomRadius);
     item.setTopRadius(topRadius);

@@ -7,10 +7,10 @@
 #include <lumo/lguiapplicationhelper.h>
 #include <lumo/llabel.h>
 
-#include <QtGui/QAccessible>
-#include <QtTest/QtTest>
-#include <QtWidgets/QBoxLayout>
-#include <QtWidgets/QCheckBox>
+#include <QAccessible>
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QtTest>
 
 namespace {
 
@@ -22,8 +22,9 @@ QStringList shownTexts(const TiTleItem &item)
     QStringList texts;
     for (int i = 0; i < item.layout()->count(); ++i) {
         const auto *label = qobject_cast<QLabel *>(item.layout()->itemAt(i)->widget());
-        if (label != nullptr)
+        if (label != nullptr) {
             texts.append(label->text());
+        }
     }
     return texts;
 }
@@ -34,10 +35,11 @@ QVector<int> spacings(const TiTleItem &item)
     QVector<int> widths;
     for (int i = 0; i < item.layout()->count(); ++i) {
         QLayoutItem *entry = item.layout()->itemAt(i);
-        if (entry->spacerItem() != nullptr)
+        if (entry->spacerItem() != nullptr) {
             widths.append(entry->sizeHint().width());
-        else if (qobject_cast<QLabel *>(entry->widget()) != nullptr)
+        } else if (qobject_cast<QLabel *>(entry->widget()) != nullptr) {
             widths.append(-1);
+        }
     }
     return widths;
 }
@@ -242,8 +244,9 @@ void TestTiTleItem::theColoursFollowTheTheme()
     for (int i = 0; i < labels.size(); ++i) {
         QColor expected = text;
         expected.setAlpha(alphas.at(i));
-        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
             QCOMPARE(labels.at(i)->palette().color(group, QPalette::WindowText), expected);
+        }
     }
     QLabel other;
     m_row->setWidgetColor(&other, 33);

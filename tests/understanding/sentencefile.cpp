@@ -20,8 +20,9 @@ QString answerName(const QString &text)
     const QStringList lines = understanding::ruleLines(QStringLiteral("answers.tsv"));
     for (const QString &line : lines) {
         const QStringList fields = line.split(QLatin1Char('\t'));
-        if (fields.mid(1).contains(text))
+        if (fields.mid(1).contains(text)) {
             return fields.at(0);
+        }
     }
     return QStringLiteral("no such answer: ") + text;
 }
@@ -29,8 +30,9 @@ QString answerName(const QString &text)
 QString slotValue(const QJsonObject &slot)
 {
     const QString text = slot.value(QStringLiteral("normValue")).toString();
-    if (slot.value(QStringLiteral("name")).toString() != QLatin1String("datetime"))
+    if (slot.value(QStringLiteral("name")).toString() != QLatin1String("datetime")) {
         return text;
+    }
     const QJsonObject time = QJsonDocument::fromJson(text.toUtf8()).object();
     constexpr int toTheMinute = 16; // yyyy-MM-ddThh:mm
     return time.value(QStringLiteral("suggestDatetime")).toString().left(toTheMinute);
@@ -41,8 +43,9 @@ QString slotValue(const QJsonObject &slot)
 std::vector<LabelledSentence> readSentences(const QString &fileName)
 {
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         qFatal("%s cannot be read.", qPrintable(fileName));
+    }
     std::vector<LabelledSentence> sentences;
     LabelledSentence current;
     const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
@@ -54,8 +57,9 @@ std::vector<LabelledSentence> readSentences(const QString &fileName)
             current.contacts = line.mid(9).split(QLatin1Char(' '), Qt::SkipEmptyParts);
         } else if (!line.isEmpty() && !line.startsWith(QLatin1Char('#'))) {
             const QStringList fields = line.split(QLatin1Char('\t'));
-            if (fields.size() != 2 || !current.now.isValid())
+            if (fields.size() != 2 || !current.now.isValid()) {
                 qFatal("%s:%d: not a sentence, a tab and a meaning.", qPrintable(fileName), current.line);
+            }
             current.sentence = fields.at(0);
             current.meaning = inOrder(fields.at(1));
             sentences.push_back(current);
@@ -68,11 +72,12 @@ QString meaningOf(const QString &semanticJson)
 {
     const QJsonObject result =
         QJsonDocument::fromJson(semanticJson.toUtf8()).object().value(QStringLiteral("intent")).toObject();
-    if (!result.value(QStringLiteral("shouldEndSession")).toBool())
+    if (!result.value(QStringLiteral("shouldEndSession")).toBool()) {
         return QStringLiteral("? ") + answerName(result.value(QStringLiteral("answer"))
                                                      .toObject()
                                                      .value(QStringLiteral("text"))
                                                      .toString());
+    }
     const QJsonObject semantic = result.value(QStringLiteral("semantic")).toArray().at(0).toObject();
     QStringList words{semantic.value(QStringLiteral("intent")).toString()};
     const QJsonArray slotArray = semantic.value(QStringLiteral("slots")).toArray();
@@ -85,8 +90,9 @@ QString meaningOf(const QString &semanticJson)
 
 QString inOrder(const QString &meaning)
 {
-    if (meaning.startsWith(QLatin1Char('?')))
+    if (meaning.startsWith(QLatin1Char('?'))) {
         return meaning;
+    }
     QStringList words = meaning.split(QLatin1Char(' '));
     const auto slotName = [](const QString &word) {
         return word.section(QLatin1Char('='), 0, 0);

@@ -19,14 +19,14 @@ struct LabelledSentence
     int line = 0;
 };
 
-/// The rows of \a fileName, which docs/understanding.md explains. Ends the program on a row that cannot be
+/// The rows of @p fileName, which docs/understanding.md explains. Ends the program on a row that cannot be
 /// read.
 std::vector<LabelledSentence> readSentences(const QString &fileName);
 
-/// \a semanticJson in the notation of the files: "CREATE_CONFERENCE open=开 name=张伟
+/// @p semanticJson in the notation of the files: "CREATE_CONFERENCE open=开 name=张伟
 /// datetime=2026-03-08T15:00", or "? " and the row of answers.tsv. Names keep their order, the other slots
 /// are sorted.
 QString meaningOf(const QString &semanticJson);
 
-/// \a meaning with its slots in the order of meaningOf().
+/// @p meaning with its slots in the order of meaningOf().
 QString inOrder(const QString &meaning);

@@ -30,8 +30,9 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("turns");
         const auto row = [](const char *name, std::initializer_list<const char *> turns) {
             QStringList list;
-            for (const char *turn : turns)
+            for (const char *turn : turns) {
                 list.append(QString::fromUtf8(turn));
+            }
             QTest::newRow(name) << list;
         };
         row("a missing number is asked for and taken",
@@ -187,8 +188,9 @@ private Q_SLOTS:
         Dialogue dialogue;
         dialogue.turn(QStringLiteral("加入会议123456"), m_now);
         QVERIFY(!dialogue.nextIsSecret());
-        if (asked)
+        if (asked) {
             dialogue.noteReply(passwordNeeded, QStringLiteral("请输入密码:"));
+        }
         QCOMPARE(dialogue.masked(sentence), shown);
     }
 

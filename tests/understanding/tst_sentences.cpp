@@ -29,9 +29,10 @@ private:
         QTest::addColumn<QString>("meaning");
         for (const QString &name : names) {
             const std::vector<LabelledSentence> rows = readSentences(file(name));
-            for (const LabelledSentence &row : rows)
+            for (const LabelledSentence &row : rows) {
                 QTest::addRow("%s:%d %s", qPrintable(name), row.line, row.sentence.toUtf8().constData())
                     << row.sentence << row.now << row.contacts << row.meaning;
+            }
         }
     }
 
@@ -63,8 +64,9 @@ private Q_SLOTS:
         const std::vector<LabelledSentence> rows = readSentences(file(name));
         for (const LabelledSentence &row : rows) {
             const QString meaning = meaningOf(understanding::understand(row.sentence, row.now, row.contacts));
-            if (meaning == row.meaning)
+            if (meaning == row.meaning) {
                 ++right;
+            }
         }
         const int all = static_cast<int>(rows.size());
         qInfo("%d of %d sentences (%.1f percent) are fully right.", right, all, 100.0 * right / all);

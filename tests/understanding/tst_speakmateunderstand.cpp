@@ -34,8 +34,9 @@ private:
         process.write(input);
         process.closeWriteChannel();
         Run result;
-        if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit)
+        if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit) {
             result.exitCode = process.exitCode();
+        }
         result.output = process.readAllStandardOutput();
         result.errors = process.readAllStandardError();
         return result;
@@ -77,8 +78,9 @@ private Q_SLOTS:
         QCOMPARE(result.exitCode, 0);
         QCOMPARE(result.errors, QByteArray());
         QStringList found;
-        for (const QByteArray &line : result.lines())
+        for (const QByteArray &line : result.lines()) {
             found.append(meaningOf(QString::fromUtf8(line)));
+        }
         QCOMPARE(found, meanings);
     }
 
@@ -154,8 +156,9 @@ private Q_SLOTS:
         const auto rows =
             readSentences(QStringLiteral(CONTACT_SOURCE_DIR "/tests/understanding/sentences.tsv"));
         while (count < 20000) {
-            for (const LabelledSentence &row : rows)
+            for (const LabelledSentence &row : rows) {
                 input += row.sentence.toUtf8() + '\n';
+            }
             count += static_cast<int>(rows.size());
         }
         QElapsedTimer timer;

@@ -183,10 +183,11 @@ private Q_SLOTS:
         QCOMPARE(match.length, said.size());
         const ResolvedTime resolved = resolveTime(match.expression, QDateTime::fromString(now, Qt::ISODate));
         const char *problems[] = {"", "no such date", "contradiction", "no hour"};
-        if (resolved.problem != ResolvedTime::Problem::None)
+        if (resolved.problem != ResolvedTime::Problem::None) {
             QCOMPARE(QString::fromLatin1(problems[static_cast<int>(resolved.problem)]), meant);
-        else
+        } else {
             QCOMPARE(resolved.toString(), meant);
+        }
     }
 
     void noTimeIsRead_data()
@@ -194,8 +195,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("said");
         for (const char *said :
              {"一点都不想", "一点儿", "三点建议", "两点意见", "3.14", "2.5版本", "几点", "123456", "会议",
-              "三点五个小时", "一周三次", "一起", "一下", "十个人", "15:3", "三"})
+              "三点五个小时", "一周三次", "一起", "一下", "十个人", "15:3", "三"}) {
             QTest::newRow(said) << QString::fromUtf8(said);
+        }
     }
     void noTimeIsRead()
     {
@@ -206,8 +208,9 @@ private Q_SLOTS:
     void lengthsOfTimeAreNoMoments_data()
     {
         QTest::addColumn<QString>("said");
-        for (const char *said : {"一个小时", "半小时", "两个半小时", "二十分钟", "一刻钟", "3天"})
+        for (const char *said : {"一个小时", "半小时", "两个半小时", "二十分钟", "一刻钟", "3天"}) {
             QTest::newRow(said) << QString::fromUtf8(said);
+        }
     }
     void lengthsOfTimeAreNoMoments()
     {
@@ -220,8 +223,9 @@ private Q_SLOTS:
     void daysThatCannotBeToldAreUnclear_data()
     {
         QTest::addColumn<QString>("said");
-        for (const char *said : {"下周", "这个星期", "周末", "下周末", "下个月", "三月", "明年"})
+        for (const char *said : {"下周", "这个星期", "周末", "下周末", "下个月", "三月", "明年"}) {
             QTest::newRow(said) << QString::fromUtf8(said);
+        }
     }
     void daysThatCannotBeToldAreUnclear()
     {

@@ -52,16 +52,18 @@ private Q_SLOTS:
              {"一",   "下",   "下周", "三点到", "和",   "张",     "和张伟", "开",     "开个", "会",
               "1",    "1 ",   "1-",   "三个八", "明天", "过",     "半",     "差一刻", "约",   "的",
               "讨论", ",",    "、",   "a",      "@",    "开一个", "邀请",   "密码",   "十",   "不想",
-              "(",    "周一", "赵云", "上",     "年",   "3月",    "一百",   "大",     "再",   "没"})
+              "(",    "周一", "赵云", "上",     "年",   "3月",    "一百",   "大",     "再",   "没"}) {
             QTest::newRow(pattern) << QString::fromUtf8(pattern);
+        }
     }
     void theTimeGrowsWithTheLength()
     {
         QFETCH(QString, pattern);
         const QStringList contacts{QStringLiteral("张伟")};
         QString sentence = pattern;
-        while (sentence.size() + pattern.size() <= 500)
+        while (sentence.size() + pattern.size() <= 500) {
             sentence += pattern;
+        }
         // The best of several runs, for a machine under load; ten milliseconds are a hundred times what a
         // usual sentence of this length takes and a hundredth of what a quadratic reader with backtracking
         // did.
@@ -82,8 +84,9 @@ private Q_SLOTS:
         QStringList pieces;
         for (const LabelledSentence &row :
              readSentences(QStringLiteral(CONTACT_SOURCE_DIR "/tests/understanding/sentences.tsv"))) {
-            for (int at = 0; at < row.sentence.size(); at += 3)
+            for (int at = 0; at < row.sentence.size(); at += 3) {
                 pieces.append(row.sentence.mid(at, 3));
+            }
         }
         std::mt19937 random(20260307); // NOLINT: the same sentences in every run
         const auto below = [&](int count) {
@@ -94,15 +97,17 @@ private Q_SLOTS:
             QString sentence;
             const int length = below(12);
             for (int at = 0; at < length; ++at) {
-                if (below(8) == 0)
+                if (below(8) == 0) {
                     sentence += QChar(static_cast<ushort>(below(0x10000)));
-                else
+                } else {
                     sentence += pieces.at(below(pieces.size()));
+                }
             }
             QVERIFY2(isSemantic(dialogue.turn(sentence, m_now)), qPrintable(sentence));
             QCOMPARE(dialogue.masked(sentence).size(), sentence.size());
-            if (below(4) == 0)
+            if (below(4) == 0) {
                 dialogue.noteReply(-16014, QString());
+            }
         }
     }
 };

@@ -3,9 +3,9 @@
 
 #include "card/cardicons.h"
 
-#include <QtGui/QImageReader>
-#include <QtGui/QPixmapCache>
-#include <QtWidgets/QWidget>
+#include <QImageReader>
+#include <QPixmapCache>
+#include <QWidget>
 
 // Not in a namespace: the macro declares the function that it calls where it stands.
 static void registerResources()
@@ -20,8 +20,9 @@ QPixmap CardIcons::pixmap(const char *path, const QWidget &widget)
     // Reading a vector image costs more than all labels of a card together.
     const QString key = QStringLiteral("%1@%2").arg(QString::fromLatin1(path)).arg(ratio);
     QPixmap picture;
-    if (QPixmapCache::find(key, &picture))
+    if (QPixmapCache::find(key, &picture)) {
         return picture;
+    }
     registerResources();
     QImageReader reader(QString::fromLatin1(path));
     // A vector image is read in the size that is asked for, not read and then stretched.

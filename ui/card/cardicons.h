@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <QtCore/QString>
-#include <QtGui/QPixmap>
+#include <QPixmap>
+#include <QString>
 
 QT_BEGIN_NAMESPACE
 class QWidget;

@@ -53,8 +53,9 @@ QString CardReplies::cancelled(int code)
 QString CardReplies::confirmed(Purpose purpose, const QStringList &names, int code)
 {
     const ConfirmationTexts &texts = textsOf(purpose);
-    if (code != ResultCode::Success)
+    if (code != ResultCode::Success) {
         return texts.failure;
+    }
     switch (names.size()) {
     case 0:
         return texts.nobody;
@@ -71,7 +72,8 @@ QString CardReplies::confirmed(Purpose purpose, const QStringList &names, int co
 
 QString CardReplies::joined(const QStringList &names)
 {
-    if (names.size() < 2)
+    if (names.size() < 2) {
         return names.join(QString());
+    }
     return names.mid(0, names.size() - 1).join(QStringLiteral("、")) + QStringLiteral("和") + names.last();
 }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QStringList>
+#include <QStringList>
 
 /// What a card says when one of its buttons has done its work. A result code of 0 is success.
 namespace CardReplies {

@@ -3,9 +3,9 @@
 
 #include "card/cardrequests.h"
 
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace {
 
@@ -20,8 +20,9 @@ const QLatin1String UserId("userId");
 QJsonArray memberArray(const QVector<UserInfo> &members)
 {
     QJsonArray array;
-    for (const UserInfo &member : members)
+    for (const UserInfo &member : members) {
         array.append(QJsonObject{{UserId, member.userId}, {Name, member.name}});
+    }
     return array;
 }
 

@@ -8,8 +8,8 @@
 #include <lumo/legibleground.h>
 #include <lumo/llabel.h>
 
-#include <QtCore/QVariant>
-#include <QtGui/QPainter>
+#include <QPainter>
+#include <QVariant>
 
 namespace {
 
@@ -98,7 +98,8 @@ void CardText::followTheme(const QWidget &card)
     const auto widgets = card.findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
         const QVariant alpha = widget->property(AlphaProperty);
-        if (alpha.isValid())
+        if (alpha.isValid()) {
             ThemeColor::applyText(*widget, alpha.toInt());
+        }
     }
 }

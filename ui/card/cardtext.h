@@ -5,7 +5,7 @@
 
 #include <lumo/lfontsizemanager.h>
 
-#include <QtCore/QString>
+#include <QString>
 
 QT_BEGIN_NAMESPACE
 class QWidget;

@@ -3,7 +3,7 @@
 
 #include "card/conferencedraft.h"
 
-#include <QtCore/QDateTime>
+#include <QDateTime>
 
 namespace {
 
@@ -40,6 +40,7 @@ void ConferenceDraft::applyTo(ContactDetailMsg &conference) const
     // An hour that clocks go through twice has two starts with the same date and time: who did not touch
     // the start keeps the right one.
     const ConferenceValues known = ConferenceValues::of(conference);
-    if (m_working.startDate != known.startDate || m_working.startTime != known.startTime)
+    if (m_working.startDate != known.startDate || m_working.startTime != known.startTime) {
         conference.startTime = start(m_working).toMSecsSinceEpoch();
+    }
 }

@@ -5,8 +5,8 @@
 
 #include "conferencerecords.h"
 
-#include <QtCore/QDate>
-#include <QtCore/QTime>
+#include <QDate>
+#include <QTime>
 
 /// What a person may change about a conference. Date and time are local; the duration is in milliseconds.
 struct ConferenceValues

@@ -22,8 +22,9 @@ QStringList ConferenceDurations::choices(bool isPayingUser) const
 {
     QStringList choices;
     for (auto row = m_labels.constBegin(); row != m_labels.constEnd(); ++row) {
-        if (row.key() >= Hour && !isPayingUser)
+        if (row.key() >= Hour && !isPayingUser) {
             break;
+        }
         choices.append(row.value());
     }
     return choices;

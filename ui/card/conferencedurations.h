@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <QtCore/QMap>
-#include <QtCore/QString>
-#include <QtCore/QStringList>
+#include <QMap>
+#include <QString>
+#include <QStringList>
 
 /// The durations that a conference card offers, in milliseconds, and how it calls them.
 class ConferenceDurations

@@ -9,8 +9,8 @@
 
 #include <lumo/lspinbox.h>
 
-#include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QLabel>
+#include <QHBoxLayout>
+#include <QLabel>
 
 namespace {
 

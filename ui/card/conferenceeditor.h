@@ -7,7 +7,7 @@
 #include "card/conferencedurations.h"
 #include "card/conferencehours.h"
 
-#include <QtCore/QObject>
+#include <QObject>
 
 QT_BEGIN_NAMESPACE
 class QWidget;

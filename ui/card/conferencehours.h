@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include <QtCore/QMap>
-#include <QtCore/QString>
-#include <QtCore/QStringList>
-#include <QtCore/QTime>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <QTime>
 
 /// The hours at which a conference card lets a conference start, and how it calls them.
 class ConferenceHours

@@ -9,9 +9,9 @@
 
 #include <lumo/llabel.h>
 
-#include <QtCore/QDateTime>
-#include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QPushButton>
+#include <QDateTime>
+#include <QHBoxLayout>
+#include <QPushButton>
 
 namespace {
 
@@ -102,8 +102,9 @@ QWidget *ConferenceRows::status(const ContactDetailMsg &conference, bool isStati
     layout->setSpacing(SpaceBeforeState);
     layout->setAlignment(Qt::AlignLeft);
     layout->addWidget(valueLabel(conference.title, row), 1);
-    if (isStatic)
+    if (isStatic) {
         layout->addLayout(stateLayout(ConferenceState::of(conference.status), row));
+    }
     return row;
 }
 
@@ -137,8 +138,9 @@ QWidget *ConferenceRows::personNum(const ContactDetailMsg &conference, QWidget *
 QWidget *ConferenceRows::participants(const ContactDetailMsg &conference, QWidget *parent)
 {
     QString names;
-    for (const UserInfo &participant : conference.participants)
+    for (const UserInfo &participant : conference.participants) {
         names += participant.name + QLatin1Char(' ');
+    }
     return valueRow(QStringLiteral("参与人"), names, parent);
 }
 

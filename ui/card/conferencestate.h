@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <QtCore/QString>
-#include <QtGui/QColor>
+#include <QColor>
+#include <QString>
 
 /// How a card shows the state that a conference is in.
 struct ConferenceState

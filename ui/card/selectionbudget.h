@@ -21,8 +21,9 @@ public:
     /// @return false when nothing is left; then nothing changes.
     [[nodiscard]] bool take()
     {
-        if (m_remaining <= 0)
+        if (m_remaining <= 0) {
             return false;
+        }
         --m_remaining;
         return true;
     }

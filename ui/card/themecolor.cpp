@@ -5,7 +5,7 @@
 
 #include <lumo/lguiapplicationhelper.h>
 
-#include <QtWidgets/QWidget>
+#include <QWidget>
 
 QColor ThemeColor::text(int alpha)
 {

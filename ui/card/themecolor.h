@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtGui/QColor>
+#include <QColor>
 
 QT_BEGIN_NAMESPACE
 class QWidget;

@@ -38,10 +38,11 @@ QStringList TiTleItemAccessible::actionNames() const
 
 void TiTleItemAccessible::doAction(const QString &actionName)
 {
-    if (actionName == toggleAction())
+    if (actionName == toggleAction()) {
         item()->toggleSelection();
-    else
+    } else {
         QAccessibleWidget::doAction(actionName);
+    }
 }
 
 void TiTleItemAccessible::announceSelection(TiTleItem *item)

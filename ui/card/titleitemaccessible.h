@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtWidgets/QAccessibleWidget>
+#include <QAccessibleWidget>
 
 class TiTleItem;
 

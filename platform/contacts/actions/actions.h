@@ -8,8 +8,9 @@
 struct ActionContext;
 class RequestParameters;
 
-// The actions that the application performs, one source file each. Every action answers with the JSON object that the
-// caller gets, runs inside the transaction of its context, and throws DatabaseError when that has to be rolled back.
+// The actions that the application performs, one source file each. Every action answers with the JSON object
+// that the caller gets, runs inside the transaction of its context, and throws DatabaseError when that has to
+// be rolled back.
 
 /**
  * "Create Conference" {"members", "startTime"}: now without a start time or with 0, else scheduled. A name

@@ -5,7 +5,7 @@
 
 #include "actions/actions.h"
 
-#include <QtCore/QVector>
+#include <QVector>
 
 #include <algorithm>
 

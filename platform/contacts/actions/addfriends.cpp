@@ -14,12 +14,15 @@ namespace {
 
 std::optional<Person> resolve(const ActionContext &context, const QString &said)
 {
-    if (said.isEmpty())
+    if (said.isEmpty()) {
         return std::nullopt;
-    if (std::optional<Person> person = context.people.byAccount(said))
+    }
+    if (std::optional<Person> person = context.people.byAccount(said)) {
         return person;
-    if (std::optional<Person> person = context.people.byUserId(said))
+    }
+    if (std::optional<Person> person = context.people.byUserId(said)) {
         return person;
+    }
     const QVector<Person> namesakes = context.people.byName(said, 2);
     return namesakes.size() == 1 ? std::make_optional(namesakes.constFirst()) : std::nullopt;
 }
@@ -29,14 +32,18 @@ std::optional<Person> resolve(const ActionContext &context, const QString &said)
 QJsonObject addFriends(const ActionContext &context, const RequestParameters &parameters)
 {
     const std::optional<Person> person = resolve(context, parameters.text(JsonKey::UserId).trimmed());
-    if (!person)
+    if (!person) {
         return answerWord(Outcome::NotFound);
-    if (person->userId == context.user.userId)
+    }
+    if (person->userId == context.user.userId) {
         return answerWord(Outcome::IsYourself);
-    if (context.people.friendship(context.user.userId, person->userId) != Friendship::None)
+    }
+    if (context.people.friendship(context.user.userId, person->userId) != Friendship::None) {
         return answerWord(Outcome::IsYourFriend);
-    if (context.people.friendCount(context.user.userId) >= context.session.friendLimit())
+    }
+    if (context.people.friendCount(context.user.userId) >= context.session.friendLimit()) {
         return answerWord(Outcome::ExceedFriendLimit);
+    }
     context.people.addFriendRequest(context.user.userId, person->userId);
     return answerWord(Outcome::Ok);
 }

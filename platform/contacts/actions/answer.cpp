@@ -58,10 +58,12 @@ QJsonObject duplicateToJson(const MemberMatch &match)
 
 QJsonObject matchToJson(const MemberMatch &match)
 {
-    if (match.isFound())
+    if (match.isFound()) {
         return foundToJson(match);
-    if (match.isDuplicate())
+    }
+    if (match.isDuplicate()) {
         return duplicateToJson(match);
+    }
     return {{JsonKey::Name, match.asked.name}, {JsonKey::Status, MemberStatus::NotFound}};
 }
 
@@ -85,15 +87,17 @@ QJsonObject answerUsers(const MemberMatches &matches)
 QJsonArray conferencesToJson(const QVector<Conference> &conferences, qint64 nowMsecs)
 {
     QJsonArray list;
-    for (const Conference &conference : conferences)
+    for (const Conference &conference : conferences) {
         list.append(conferenceToJson(conference, nowMsecs));
+    }
     return list;
 }
 
 QJsonArray matchesToJson(const QVector<MemberMatch> &matches)
 {
     QJsonArray users;
-    for (const MemberMatch &match : matches)
+    for (const MemberMatch &match : matches) {
         users.append(matchToJson(match));
+    }
     return users;
 }

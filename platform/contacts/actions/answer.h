@@ -6,8 +6,8 @@
 #include "core/conference.h"
 #include "core/person.h"
 
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonObject>
+#include <QJsonArray>
+#include <QJsonObject>
 
 struct MemberMatch;
 class MemberMatches;

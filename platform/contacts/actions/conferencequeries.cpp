@@ -42,8 +42,9 @@ bool isInAnyConference(const ActionContext &context)
 std::optional<Conference> hostedConference(const ActionContext &context, const QString &confId)
 {
     std::optional<Conference> conference = context.conferences.byConfId(confId, context.user.userId);
-    if (conference && conference->hostId != context.user.userId)
+    if (conference && conference->hostId != context.user.userId) {
         return std::nullopt;
+    }
     return conference;
 }
 
@@ -52,8 +53,9 @@ QLatin1String takeSeat(const ActionContext &context, const Conference &conferenc
     const Attendance attendance =
         context.conferences.attendance(conference.id, context.user.userId).value_or(Attendance::Left);
     if (attendance == Attendance::Left &&
-        context.conferences.takenSeats(conference.id) >= conference.participantLimit)
+        context.conferences.takenSeats(conference.id) >= conference.participantLimit) {
         return Outcome::ParticipantsFull;
+    }
     context.conferences.setAttendance(conference.id, context.user.userId, Attendance::Joined);
     return Outcome::Ok;
 }

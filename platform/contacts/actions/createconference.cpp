@@ -30,25 +30,29 @@ QJsonObject createConference(const ActionContext &context, const RequestParamete
     const qint64 startMsecs = parameters.number(JsonKey::StartTime).value_or(0);
     const QVector<RequestedMember> members = parameters.members();
     const bool scheduled = startMsecs > 0;
-    if (scheduled && startMsecs + ConferenceRules::LateStartMsecs < context.nowMsecs)
+    if (scheduled && startMsecs + ConferenceRules::LateStartMsecs < context.nowMsecs) {
         throw InvalidParameters("the start is past");
-    if (isTooFrequent(context))
+    }
+    if (isTooFrequent(context)) {
         return answerWord(Outcome::TooFrequent);
+    }
 
     const ConferenceRules rules = ConferenceRules::forKind(context.user.kind);
     if (scheduled) {
         const QVector<Conference> overlapping =
             overlappingConferences(context, startMsecs, startMsecs + rules.defaultDurationMsecs);
-        if (!overlapping.isEmpty())
+        if (!overlapping.isEmpty()) {
             return answerConferences(Outcome::TimeOverlap, overlapping, context.nowMsecs);
+        }
     } else if (isInAnyConference(context)) {
         return answerWord(Outcome::InOtherConference);
     }
 
     const MemberMatches matches(context.people, context.user.userId, members);
     const QVector<Person> found = matches.found();
-    if (matches.hasDuplicates() || (members.size() == 1 && found.isEmpty()))
+    if (matches.hasDuplicates() || (members.size() == 1 && found.isEmpty())) {
         return answerUsers(matches);
+    }
 
     Conference conference;
     conference.title = QStringLiteral("%1的视频会议").arg(context.user.name);
@@ -62,8 +66,9 @@ QJsonObject createConference(const ActionContext &context, const RequestParamete
                                       scheduled ? Attendance::Invited : Attendance::Joined);
     // One seat is the host's own.
     const int fitting = qMin(found.size(), conference.participantLimit - 1);
-    for (const Person &person : found.mid(0, fitting))
+    for (const Person &person : found.mid(0, fitting)) {
         context.conferences.setAttendance(conference.id, person.userId, Attendance::Invited);
+    }
 
     const QVector<Conference> created{*context.conferences.byId(conference.id, context.user.userId)};
     if (fitting < found.size()) {
@@ -72,8 +77,9 @@ QJsonObject createConference(const ActionContext &context, const RequestParamete
         answer.insert(JsonKey::CanInviteNum, 0);
         return answer;
     }
-    if (matches.isEverybodyFound())
+    if (matches.isEverybodyFound()) {
         return answerConferences(Outcome::Ok, created, context.nowMsecs);
+    }
     QJsonObject answer = answerUsers(matches);
     answer.insert(JsonKey::List, conferencesToJson(created, context.nowMsecs));
     return answer;

@@ -15,10 +15,12 @@ QJsonObject deleteConference(const ActionContext &context, const RequestParamete
 {
     const std::optional<Conference> conference =
         hostedConference(context, parameters.text(JsonKey::ConferenceId));
-    if (!conference)
+    if (!conference) {
         return answerWord(Outcome::NotFound);
-    if (conference->stateAt(context.nowMsecs) == ConferenceState::Ended)
+    }
+    if (conference->stateAt(context.nowMsecs) == ConferenceState::Ended) {
         return answerWord(Outcome::NoConference);
+    }
     context.conferences.remove(conference->id);
     return answerWord(Outcome::Ok);
 }

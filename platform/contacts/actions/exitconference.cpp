@@ -13,12 +13,14 @@
 QJsonObject exitConference(const ActionContext &context, const RequestParameters &)
 {
     const std::optional<Conference> conference = currentConference(context);
-    if (!conference)
+    if (!conference) {
         return answerWord(Outcome::NoConference);
-    if (conference->hostId == context.user.userId)
+    }
+    if (conference->hostId == context.user.userId) {
         context.conferences.setTimes(conference->id, conference->startMsecs,
                                      context.nowMsecs - conference->startMsecs);
-    else
+    } else {
         context.conferences.setAttendance(conference->id, context.user.userId, Attendance::Left);
+    }
     return answerWord(Outcome::Ok);
 }

@@ -20,8 +20,9 @@ QVector<Person> withoutSeat(const ActionContext &context, const Conference &conf
     QVector<Person> newcomers;
     for (const Person &person : people) {
         if (context.conferences.attendance(conference.id, person.userId).value_or(Attendance::Left) ==
-            Attendance::Left)
+            Attendance::Left) {
             newcomers.append(person);
+        }
     }
     return newcomers;
 }
@@ -32,16 +33,19 @@ QJsonObject inviteMembers(const ActionContext &context, const RequestParameters 
 {
     const QVector<RequestedMember> members = parameters.members();
     const std::optional<Conference> conference = currentConference(context);
-    if (!conference)
+    if (!conference) {
         return answerWord(context.session.isEngagedElsewhere() ? Outcome::InOtherConference
                                                                : Outcome::ConferenceNotStarted);
+    }
 
     const MemberMatches matches(context.people, context.user.userId, members);
-    if (matches.hasDuplicates())
+    if (matches.hasDuplicates()) {
         return answerUsers(matches);
+    }
     const QVector<Person> found = matches.found();
-    if (members.size() == 1 && found.isEmpty())
+    if (members.size() == 1 && found.isEmpty()) {
         return answerWord(Outcome::NotFound);
+    }
 
     const QVector<Person> newcomers = withoutSeat(context, *conference, found);
     const int free = conference->participantLimit - context.conferences.takenSeats(conference->id);
@@ -51,7 +55,8 @@ QJsonObject inviteMembers(const ActionContext &context, const RequestParameters 
         answer.insert(JsonKey::CanInviteNum, free);
         return answer;
     }
-    for (const Person &person : newcomers)
+    for (const Person &person : newcomers) {
         context.conferences.setAttendance(conference->id, person.userId, Attendance::Invited);
+    }
     return matches.isEverybodyFound() ? answerWord(Outcome::Ok) : answerUsers(matches);
 }

@@ -13,7 +13,8 @@
 QJsonObject isConferenceHost(const ActionContext &context, const RequestParameters &)
 {
     const std::optional<Conference> conference = currentConference(context);
-    if (!conference)
+    if (!conference) {
         return answerWord(context.session.isEngagedElsewhere() ? Outcome::False : Outcome::NoConference);
+    }
     return answerWord(conference->hostId == context.user.userId ? Outcome::True : Outcome::False);
 }

@@ -18,8 +18,9 @@ QString dialNumber(const QString &said)
 {
     QString number;
     for (const QChar c : said) {
-        if (!c.isSpace() && c != QLatin1Char('-'))
+        if (!c.isSpace() && c != QLatin1Char('-')) {
             number.append(c);
+        }
     }
     return number;
 }
@@ -32,18 +33,23 @@ QJsonObject joinConference(const ActionContext &context, const RequestParameters
     const QString passcode = parameters.text(JsonKey::Password);
     const std::optional<Conference> conference =
         context.conferences.byDialNumber(number, context.user.userId);
-    if (!conference || conference->stateAt(context.nowMsecs) == ConferenceState::Ended)
+    if (!conference || conference->stateAt(context.nowMsecs) == ConferenceState::Ended) {
         return answerWord(Outcome::NotFound);
-    if (conference->stateAt(context.nowMsecs) == ConferenceState::NotStarted)
+    }
+    if (conference->stateAt(context.nowMsecs) == ConferenceState::NotStarted) {
         return answerWord(Outcome::ConferenceNotStarted);
+    }
 
     const std::optional<Attendance> attendance =
         context.conferences.attendance(conference->id, context.user.userId);
-    if (attendance == Attendance::Joined)
+    if (attendance == Attendance::Joined) {
         return answerWord(Outcome::Ok);
-    if (isInAnyConference(context))
+    }
+    if (isInAnyConference(context)) {
         return answerWord(Outcome::InOtherConference);
-    if (!attendance && passcode != conference->passcode && !conference->passcode.isEmpty())
+    }
+    if (!attendance && passcode != conference->passcode && !conference->passcode.isEmpty()) {
         return answerWord(Outcome::InvalidPasscode);
+    }
     return answerWord(takeSeat(context, *conference));
 }

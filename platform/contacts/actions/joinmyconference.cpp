@@ -12,12 +12,15 @@
 
 QJsonObject joinMyConference(const ActionContext &context, const RequestParameters &)
 {
-    if (isInAnyConference(context))
+    if (isInAnyConference(context)) {
         return answerWord(Outcome::InOtherConference);
+    }
     const QVector<Conference> running = runningConferences(context);
-    if (running.isEmpty())
+    if (running.isEmpty()) {
         return answerWord(Outcome::NotFound);
-    if (running.size() > 1)
+    }
+    if (running.size() > 1) {
         return answerConferences(Outcome::TimeOverlap, running, context.nowMsecs);
+    }
     return answerWord(takeSeat(context, running.constFirst()));
 }

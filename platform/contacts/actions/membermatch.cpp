@@ -31,8 +31,9 @@ MemberMatches::MemberMatches(const PeopleRepository &people, const QString &owne
                              const QVector<RequestedMember> &members)
 {
     m_matches.reserve(members.size());
-    for (const RequestedMember &member : members)
+    for (const RequestedMember &member : members) {
         m_matches.append({member, lookUp(people, ownerId, member)});
+    }
 }
 
 bool MemberMatches::hasDuplicates() const
@@ -51,8 +52,9 @@ QVector<Person> MemberMatches::found() const
 {
     QVector<Person> people;
     for (const MemberMatch &match : m_matches) {
-        if (match.isFound() && !isAmong(people, match.people.constFirst().userId))
+        if (match.isFound() && !isAmong(people, match.people.constFirst().userId)) {
             people.append(match.people.constFirst());
+        }
     }
     return people;
 }
@@ -62,8 +64,9 @@ QVector<MemberMatch> MemberMatches::of(const QVector<Person> &people) const
     QVector<MemberMatch> matches;
     QVector<Person> missing = people;
     for (const MemberMatch &match : m_matches) {
-        if (!match.isFound() || !isAmong(missing, match.people.constFirst().userId))
+        if (!match.isFound() || !isAmong(missing, match.people.constFirst().userId)) {
             continue;
+        }
         matches.append(match);
         const QString userId = match.people.constFirst().userId;
         missing.erase(std::remove_if(missing.begin(), missing.end(),

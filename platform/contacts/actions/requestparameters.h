@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include <QtCore/QJsonObject>
-#include <QtCore/QLatin1String>
-#include <QtCore/QString>
-#include <QtCore/QVector>
+#include <QJsonObject>
+#include <QLatin1String>
+#include <QString>
+#include <QVector>
 
 #include <optional>
 #include <stdexcept>

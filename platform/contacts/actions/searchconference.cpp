@@ -19,7 +19,8 @@ QJsonObject searchConference(const ActionContext &context, const RequestParamete
     const qint64 to = parameters.number(JsonKey::EndTime).value_or(std::numeric_limits<qint64>::max());
     const QVector<Conference> conferences =
         context.conferences.ofUser(context.user.userId, from, to, ConferenceRules::ListLimit);
-    if (conferences.isEmpty())
+    if (conferences.isEmpty()) {
         return answerWord(Outcome::NotFound);
+    }
     return answerConferences(Outcome::Ok, conferences, context.nowMsecs);
 }

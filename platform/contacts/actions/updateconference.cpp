@@ -29,24 +29,29 @@ bool isTimeAllowed(const ActionContext &context, const Conference &conference, c
     const qint64 start = change.startMsecs.value_or(conference.startMsecs);
     const qint64 duration = change.durationMsecs.value_or(conference.durationMsecs);
     if (conference.stateAt(context.nowMsecs) == ConferenceState::Ended ||
-        start + duration <= context.nowMsecs)
+        start + duration <= context.nowMsecs) {
         return false;
+    }
     if (start != conference.startMsecs &&
-        (conference.stateAt(context.nowMsecs) == ConferenceState::Running || start < context.nowMsecs))
+        (conference.stateAt(context.nowMsecs) == ConferenceState::Running || start < context.nowMsecs)) {
         return false;
+    }
     const bool longer = duration > conference.durationMsecs;
-    if (longer && duration > ConferenceRules::forKind(context.user.kind).maxDurationMsecs)
+    if (longer && duration > ConferenceRules::forKind(context.user.kind).maxDurationMsecs) {
         return false;
-    if (duration < MinuteMsecs)
+    }
+    if (duration < MinuteMsecs) {
         return false;
+    }
     const bool moved = start != conference.startMsecs || longer;
     return !moved || overlappingConferences(context, start, start + duration, conference.id).isEmpty();
 }
 
 bool isLimitAllowed(const ActionContext &context, const Conference &conference, const Change &change)
 {
-    if (!change.participantLimit || *change.participantLimit == conference.participantLimit)
+    if (!change.participantLimit || *change.participantLimit == conference.participantLimit) {
         return true;
+    }
     const qint64 limit = *change.participantLimit;
     const int most =
         qMax(conference.participantLimit, ConferenceRules::forKind(context.user.kind).maxParticipantLimit);
@@ -65,14 +70,17 @@ QJsonObject updateConference(const ActionContext &context, const RequestParamete
     change.startMsecs = parameters.number(JsonKey::StartTime);
     change.durationMsecs = parameters.number(JsonKey::Duration);
     change.participantLimit = parameters.number(JsonKey::ParticipantLimit);
-    if (!conference)
+    if (!conference) {
         return answerWord(Outcome::NotFound);
-    if (!isTimeAllowed(context, *conference, change) || !isLimitAllowed(context, *conference, change))
+    }
+    if (!isTimeAllowed(context, *conference, change) || !isLimitAllowed(context, *conference, change)) {
         return answerWord(Outcome::UpdateFailed);
+    }
     context.conferences.setTimes(conference->id, change.startMsecs.value_or(conference->startMsecs),
                                  change.durationMsecs.value_or(conference->durationMsecs));
-    if (change.participantLimit)
+    if (change.participantLimit) {
         context.conferences.setParticipantLimit(conference->id, static_cast<int>(*change.participantLimit));
+    }
     return answerConferences(Outcome::Ok, {*context.conferences.byId(conference->id, context.user.userId)},
                              context.nowMsecs);
 }

@@ -10,8 +10,8 @@
 #include "core/displaytext.h"
 #include "sample/sampledirectory.h"
 
-#include <QtCore/QDebug>
-#include <QtCore/QUuid>
+#include <QDebug>
+#include <QUuid>
 
 #include <algorithm>
 
@@ -21,10 +21,12 @@ constexpr qint64 HourMsecs = 60 * 60 * 1000;
 
 std::optional<AccountKind> kindOf(const QString &word)
 {
-    if (word == QLatin1String("paying"))
+    if (word == QLatin1String("paying")) {
         return AccountKind::Paying;
-    if (word == QLatin1String("free"))
+    }
+    if (word == QLatin1String("free")) {
         return AccountKind::Free;
+    }
     return std::nullopt;
 }
 
@@ -43,16 +45,18 @@ bool moveTo(Conference &conference, const QString &state, qint64 now)
     } else if (state == QLatin1String("running")) {
         conference.startMsecs = now;
     } else if (state == QLatin1String("ended")) {
-        if (conference.stateAt(now) == ConferenceState::NotStarted)
+        if (conference.stateAt(now) == ConferenceState::NotStarted) {
             conference.startMsecs = now - conference.durationMsecs;
-        else if (conference.stateAt(now) == ConferenceState::Running)
+        } else if (conference.stateAt(now) == ConferenceState::Running) {
             conference.durationMsecs = now - conference.startMsecs;
+        }
     } else {
         return false;
     }
     // One that was ended at its very start has nothing left to run for.
-    if (state != QLatin1String("ended") && conference.durationMsecs < HourMsecs / 60)
+    if (state != QLatin1String("ended") && conference.durationMsecs < HourMsecs / 60) {
         conference.durationMsecs = ConferenceRules::forKind(AccountKind::Free).defaultDurationMsecs;
+    }
     return true;
 }
 
@@ -64,8 +68,9 @@ bool Administration::Login(const QString &account)
 {
     return m_book.change([this, &account] {
         const std::optional<Person> person = m_book.people().byAccount(account);
-        if (person)
+        if (person) {
             m_book.session().login(person->userId);
+        }
         return person.has_value();
     });
 }
@@ -83,8 +88,9 @@ bool Administration::SetAccountKind(const QString &account, const QString &kind)
     return m_book.change([this, &account, &kind] {
         const std::optional<Person> person = m_book.people().byAccount(account);
         const std::optional<AccountKind> known = kindOf(kind);
-        if (!person || !known)
+        if (!person || !known) {
             return false;
+        }
         m_book.people().setKind(person->userId, *known);
         return true;
     });
@@ -118,8 +124,9 @@ bool Administration::AddPerson(const QString &account, const QString &name, cons
         const QString cleanName = cleanDisplayText(name);
         const QString cleanAccount = cleanDisplayText(account);
         if (!known || cleanName.isEmpty() || cleanAccount.isEmpty() ||
-            m_book.people().byAccount(cleanAccount))
+            m_book.people().byAccount(cleanAccount)) {
             return false;
+        }
         Person person;
         person.userId = QUuid::createUuid().toString(QUuid::WithoutBraces);
         person.account = cleanAccount;
@@ -136,15 +143,17 @@ bool Administration::AddContact(const QString &ownerAccount, const QString &acco
     return m_book.change([this, &ownerAccount, &account, &remark, &friendship] {
         const std::optional<Person> owner = m_book.people().byAccount(ownerAccount);
         const std::optional<Person> person = m_book.people().byAccount(account);
-        if (!owner || !person || owner->userId == person->userId)
+        if (!owner || !person || owner->userId == person->userId) {
             return false;
+        }
         if (friendship == QLatin1String("requested")) {
             m_book.people().addFriendRequest(owner->userId, person->userId);
             return true;
         }
         const bool isFriend = friendship == QLatin1String("friend");
-        if (!isFriend && friendship != QLatin1String("colleague"))
+        if (!isFriend && friendship != QLatin1String("colleague")) {
             return false;
+        }
         m_book.people().setContact(owner->userId, person->userId, cleanDisplayText(remark), isFriend);
         return true;
     });
@@ -159,8 +168,9 @@ QString Administration::AddConference(const QString &number, const QString &titl
         const std::optional<Person> host = m_book.people().byAccount(hostAccount);
         if (!host || !isDialNumber(number) || startMsecs < 0 || durationMsecs < 0 ||
             durationMsecs > ConferenceRules::LongestMsecs ||
-            m_book.conferences().byDialNumber(number, QString()).has_value())
+            m_book.conferences().byDialNumber(number, QString()).has_value()) {
             return false;
+        }
         conference.dialNumber = number;
         conference.title = cleanDisplayText(title);
         conference.hostId = host->userId;
@@ -172,10 +182,12 @@ QString Administration::AddConference(const QString &number, const QString &titl
         m_book.conferences().setAttendance(conference.id, host->userId, Attendance::Invited);
         for (const QString &account : participants) {
             const std::optional<Person> person = m_book.people().byAccount(account);
-            if (!person)
+            if (!person) {
                 return false;
-            if (person->userId != host->userId)
+            }
+            if (person->userId != host->userId) {
                 m_book.conferences().setAttendance(conference.id, person->userId, Attendance::Invited);
+            }
         }
         return m_book.conferences().takenSeats(conference.id) <= participantLimit;
     });
@@ -186,8 +198,9 @@ bool Administration::SetConferenceState(const QString &number, const QString &st
 {
     return m_book.change([this, &number, &state] {
         std::optional<Conference> conference = m_book.conferences().byDialNumber(number, QString());
-        if (!conference || !moveTo(*conference, state, m_book.nowMsecs()))
+        if (!conference || !moveTo(*conference, state, m_book.nowMsecs())) {
             return false;
+        }
         m_book.conferences().setTimes(conference->id, conference->startMsecs, conference->durationMsecs);
         return true;
     });

@@ -5,8 +5,8 @@
 
 #include "core/person.h"
 
-#include <QtCore/QObject>
-#include <QtCore/QStringList>
+#include <QObject>
+#include <QStringList>
 
 class ContactsBook;
 

@@ -11,9 +11,9 @@
 #include "core/outcome.h"
 #include "sample/sampledirectory.h"
 
-#include <QtCore/QDateTime>
-#include <QtCore/QDebug>
-#include <QtCore/QJsonDocument>
+#include <QDateTime>
+#include <QDebug>
+#include <QJsonDocument>
 
 namespace {
 
@@ -43,8 +43,9 @@ ContactsBook::ContactsBook(const QString &databaseFile, Clock clock, QObject *pa
 QString ContactsBook::perform(const QString &action, const QString &parameters)
 {
     const Action *known = findAction(action);
-    if (!known)
+    if (!known) {
         return toText(answerWord(Outcome::UnknownAction));
+    }
     try {
         const RequestParameters request(parameters);
         bool windowWanted = false;
@@ -65,10 +66,12 @@ QString ContactsBook::perform(const QString &action, const QString &parameters)
             }
             transaction.commit();
         }
-        if (m_database.writtenRows() != writtenBefore)
+        if (m_database.writtenRows() != writtenBefore) {
             Q_EMIT changed();
-        if (windowWanted)
+        }
+        if (windowWanted) {
             Q_EMIT this->windowWanted();
+        }
         return toText(answer);
     } catch (const InvalidParameters &error) {
         qWarning() << "Refused parameters for" << action << ":" << error.what();
@@ -83,8 +86,9 @@ bool ContactsBook::change(const std::function<bool()> &change)
 {
     try {
         Transaction transaction(m_database.handle());
-        if (!change())
+        if (!change()) {
             return false;
+        }
         transaction.commit();
     } catch (const std::exception &error) {
         qCritical() << "A change failed:" << error.what();

@@ -8,7 +8,7 @@
 #include "core/peoplerepository.h"
 #include "core/sessionrepository.h"
 
-#include <QtCore/QObject>
+#include <QObject>
 
 #include <functional>
 

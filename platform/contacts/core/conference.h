@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <QtCore/QString>
-#include <QtCore/QVector>
+#include <QString>
+#include <QVector>
 
 /// Follows from the clock alone. The numbers are sent.
 enum class ConferenceState { NotStarted = 0, Running = 1, Ended = 2 };
@@ -39,8 +39,9 @@ struct Conference
     qint64 endMsecs() const { return startMsecs + durationMsecs; }
     ConferenceState stateAt(qint64 nowMsecs) const
     {
-        if (nowMsecs < startMsecs)
+        if (nowMsecs < startMsecs) {
             return ConferenceState::NotStarted;
+        }
         return nowMsecs < endMsecs() ? ConferenceState::Running : ConferenceState::Ended;
     }
 };

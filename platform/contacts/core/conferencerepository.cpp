@@ -7,8 +7,8 @@
 #include "core/databaseerror.h"
 #include "core/statement.h"
 
-#include <QtCore/QRandomGenerator>
-#include <QtCore/QUuid>
+#include <QRandomGenerator>
+#include <QUuid>
 
 namespace {
 
@@ -46,8 +46,9 @@ Conference readConference(const Statement &row)
 std::optional<Conference> ConferenceRepository::byId(qint64 id, const QString &viewerId) const
 {
     Statement query(m_database, conferenceQuery(QLatin1String("WHERE conference.id = ?")));
-    if (!query.bind(id).run().next())
+    if (!query.bind(id).run().next()) {
         return std::nullopt;
+    }
     Conference conference = readConference(query);
     conference.participants = participants(id, viewerId);
     return conference;
@@ -56,8 +57,9 @@ std::optional<Conference> ConferenceRepository::byId(qint64 id, const QString &v
 std::optional<Conference> ConferenceRepository::byConfId(const QString &confId, const QString &viewerId) const
 {
     Statement query(m_database, QStringLiteral("SELECT id FROM conference WHERE conf_id = ?"));
-    if (!query.bind(confId).run().next())
+    if (!query.bind(confId).run().next()) {
         return std::nullopt;
+    }
     return byId(query.number(0), viewerId);
 }
 
@@ -65,8 +67,9 @@ std::optional<Conference> ConferenceRepository::byDialNumber(const QString &dial
                                                              const QString &viewerId) const
 {
     Statement query(m_database, QStringLiteral("SELECT id FROM conference WHERE dial_number = ?"));
-    if (!query.bind(dialNumber).run().next())
+    if (!query.bind(dialNumber).run().next()) {
         return std::nullopt;
+    }
     return byId(query.number(0), viewerId);
 }
 
@@ -81,10 +84,12 @@ QVector<Conference> ConferenceRepository::ofUser(const QString &userId, qint64 f
         .bind(limit)
         .run();
     QVector<Conference> conferences;
-    while (query.next())
+    while (query.next()) {
         conferences.append(readConference(query));
-    for (Conference &conference : conferences)
+    }
+    for (Conference &conference : conferences) {
         conference.participants = participants(conference.id, userId);
+    }
     return conferences;
 }
 
@@ -110,10 +115,12 @@ QVector<Conference> ConferenceRepository::startingAfter(qint64 fromMsecs, const 
                         "WHERE conference.start_msecs > ? ORDER BY conference.start_msecs LIMIT ?")));
     query.bind(fromMsecs).bind(limit).run();
     QVector<Conference> conferences;
-    while (query.next())
+    while (query.next()) {
         conferences.append(readConference(query));
-    for (Conference &conference : conferences)
+    }
+    for (Conference &conference : conferences) {
         conference.participants = participants(conference.id, viewerId);
+    }
     return conferences;
 }
 
@@ -127,8 +134,9 @@ std::optional<Conference> ConferenceRepository::joinedBy(const QString &userId, 
                                    " AND conference.start_msecs + duration_msecs > ?"
                                    " ORDER BY participant.start_msecs DESC LIMIT 1"));
     query.bind(userId).bind(nowMsecs - ConferenceRules::LongestMsecs).bind(nowMsecs).bind(nowMsecs);
-    if (!query.run().next())
+    if (!query.run().next()) {
         return std::nullopt;
+    }
     return byId(query.number(0), userId);
 }
 
@@ -137,8 +145,9 @@ std::optional<Attendance> ConferenceRepository::attendance(qint64 conferenceId, 
     Statement query(
         m_database,
         QStringLiteral("SELECT attendance FROM participant WHERE conference_id = ? AND user_id = ?"));
-    if (!query.bind(conferenceId).bind(userId).run().next())
+    if (!query.bind(conferenceId).bind(userId).run().next()) {
         return std::nullopt;
+    }
     return static_cast<Attendance>(query.smallNumber(0));
 }
 
@@ -153,10 +162,12 @@ int ConferenceRepository::takenSeats(qint64 conferenceId) const
 
 Conference ConferenceRepository::add(Conference conference)
 {
-    if (conference.confId.isEmpty())
+    if (conference.confId.isEmpty()) {
         conference.confId = QUuid::createUuid().toString(QUuid::WithoutBraces);
-    if (conference.dialNumber.isEmpty())
+    }
+    if (conference.dialNumber.isEmpty()) {
         conference.dialNumber = freeDialNumber();
+    }
     Statement insert(
         m_database,
         QStringLiteral("INSERT INTO conference (conf_id, dial_number, title, host_id, start_msecs,"
@@ -245,8 +256,9 @@ QString ConferenceRepository::freeDialNumber() const
     for (int attempt = 0; attempt < 100; ++attempt) {
         const QString number = QString::number(QRandomGenerator::global()->bounded(100000000, 1000000000));
         Statement query(m_database, QStringLiteral("SELECT 1 FROM conference WHERE dial_number = ?"));
-        if (!query.bind(number).run().next())
+        if (!query.bind(number).run().next()) {
             return number;
+        }
     }
     throw DatabaseError(QStringLiteral("no free conference number"));
 }

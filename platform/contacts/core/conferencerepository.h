@@ -5,7 +5,7 @@
 
 #include "core/conference.h"
 
-#include <QtSql/QSqlDatabase>
+#include <QSqlDatabase>
 
 #include <optional>
 

@@ -7,13 +7,13 @@
 #include "core/migrations.h"
 #include "core/statement.h"
 
-#include <QtCore/QDateTime>
-#include <QtCore/QDebug>
-#include <QtCore/QDir>
-#include <QtCore/QFileInfo>
-#include <QtCore/QStandardPaths>
-#include <QtCore/QUuid>
-#include <QtSql/QSqlError>
+#include <QDateTime>
+#include <QDebug>
+#include <QDir>
+#include <QFileInfo>
+#include <QSqlError>
+#include <QStandardPaths>
+#include <QUuid>
 
 namespace {
 
@@ -21,16 +21,18 @@ void runPragma(const QSqlDatabase &database, const QString &sql, const QString &
 {
     Statement pragma(database, sql);
     pragma.run();
-    if (!expected.isEmpty() && (!pragma.next() || pragma.text(0) != expected))
+    if (!expected.isEmpty() && (!pragma.next() || pragma.text(0) != expected)) {
         throw DatabaseError(sql + QStringLiteral(" had no effect"));
+    }
 }
 
 /// Keeps a damaged file for whoever wants to rescue it, with its journal.
 void setAside(const QString &fileName)
 {
     const QString stamp = QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMddThhmmsszzz"));
-    for (const QLatin1String suffix : {QLatin1String(""), QLatin1String("-wal"), QLatin1String("-shm")})
+    for (const QLatin1String suffix : {QLatin1String(""), QLatin1String("-wal"), QLatin1String("-shm")}) {
         QFile::rename(fileName + suffix, fileName + QStringLiteral(".damaged-") + stamp + suffix);
+    }
 }
 
 } // namespace
@@ -76,8 +78,9 @@ void Database::open(const QString &fileName)
 {
     m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connectionName);
     m_database.setDatabaseName(fileName);
-    if (!m_database.open())
+    if (!m_database.open()) {
         throw DatabaseError(m_database.lastError().text() + QStringLiteral(" for ") + fileName);
+    }
 }
 
 bool Database::isReadable() const
@@ -103,15 +106,18 @@ void Database::migrate()
     version.run().next();
     const int seen = version.smallNumber(0);
     const QVector<QStringList> &steps = databaseMigrations();
-    if (seen < 0 || seen > steps.size())
+    if (seen < 0 || seen > steps.size()) {
         throw DatabaseError(QStringLiteral("the database was written by a newer version of the application"));
+    }
     for (int step = seen; step < steps.size(); ++step) {
-        for (const QString &sql : steps.at(step))
+        for (const QString &sql : steps.at(step)) {
             Statement(m_database, sql).run();
+        }
     }
     // A pragma takes no bound value; the number is ours.
-    if (seen != steps.size())
+    if (seen != steps.size()) {
         Statement(m_database, QStringLiteral("PRAGMA user_version = %1").arg(steps.size())).run();
+    }
     transaction.commit();
 }
 
@@ -130,8 +136,9 @@ Transaction::Transaction(const QSqlDatabase &database) : m_database(database)
 
 Transaction::~Transaction()
 {
-    if (m_open)
+    if (m_open) {
         QSqlQuery(m_database).exec(QStringLiteral("ROLLBACK"));
+    }
 }
 
 void Transaction::commit()

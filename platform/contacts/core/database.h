@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtSql/QSqlDatabase>
+#include <QSqlDatabase>
 
 /**
  * The application's database file, brought up to date when it is opened. What is committed is on disk. Lives

@@ -25,8 +25,9 @@ QString cleanDisplayText(const QString &text)
         } else if (c.isHighSurrogate()) {
             if (i + 1 < text.size() && text.at(i + 1).isLowSurrogate() && clean.size() + 2 <= MaxLength) {
                 const QChar low = text.at(++i);
-                if (QChar::category(QChar::surrogateToUcs4(c, low)) != QChar::Other_Format)
+                if (QChar::category(QChar::surrogateToUcs4(c, low)) != QChar::Other_Format) {
                     clean.append(c).append(low);
+                }
             }
         } else if (!c.isLowSurrogate() && c.category() != QChar::Other_Control &&
                    (c.category() != QChar::Other_Format || isJoiner(c))) {

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QString>
+#include <QString>
 
 /**
  * A name or title as other people may see it: without control characters and without the invisible and

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QLatin1String>
+#include <QLatin1String>
 
 /// The keys of requests and answers.
 namespace JsonKey {

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <QtCore/QStringList>
-#include <QtCore/QVector>
+#include <QStringList>
+#include <QVector>
 
 /**
  * The steps that bring a database up to date; the n-th leads from version n to n + 1, and the database's

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QLatin1String>
+#include <QLatin1String>
 
 /// The words that an answer's "ret" says.
 namespace Outcome {

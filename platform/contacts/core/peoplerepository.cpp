@@ -39,18 +39,20 @@ Person readContact(const Statement &row)
 {
     Person person = readPerson(row);
     person.remarkName = row.text(4);
-    if (row.smallNumber(5) != 0)
+    if (row.smallNumber(5) != 0) {
         person.friendship = Friendship::Friend;
-    else if (row.smallNumber(6) != 0)
+    } else if (row.smallNumber(6) != 0) {
         person.friendship = Friendship::Requested;
+    }
     return person;
 }
 
 template <typename Read>
 std::optional<Person> firstOf(Statement &query, Read read)
 {
-    if (!query.run().next())
+    if (!query.run().next()) {
         return std::nullopt;
+    }
     return read(query);
 }
 
@@ -59,8 +61,9 @@ QVector<Person> allOf(Statement &query, Read read)
 {
     QVector<Person> people;
     query.run();
-    while (query.next())
+    while (query.next()) {
         people.append(read(query));
+    }
     return people;
 }
 
@@ -112,8 +115,9 @@ QVector<Person> PeopleRepository::contacts(const QString &ownerId) const
 Friendship PeopleRepository::friendship(const QString &ownerId, const QString &personId) const
 {
     const std::optional<Person> contact = contactByUserId(ownerId, personId);
-    if (contact && contact->friendship != Friendship::None)
+    if (contact && contact->friendship != Friendship::None) {
         return contact->friendship;
+    }
     Statement query(m_database,
                     QStringLiteral("SELECT 1 FROM friend_request WHERE owner_id = ? AND person_id = ?"));
     return query.bind(ownerId).bind(personId).run().next() ? Friendship::Requested : Friendship::None;

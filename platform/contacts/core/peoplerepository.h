@@ -5,8 +5,8 @@
 
 #include "core/person.h"
 
-#include <QtCore/QVector>
-#include <QtSql/QSqlDatabase>
+#include <QSqlDatabase>
+#include <QVector>
 
 #include <optional>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QString>
+#include <QString>
 
 /// What an account may do with its conferences. The numbers are stored.
 enum class AccountKind { Free = 0, Paying = 1 };

@@ -9,8 +9,9 @@ std::optional<Person> SessionRepository::user() const
 {
     Statement query(m_database, QStringLiteral("SELECT person.user_id, account, name, kind FROM session"
                                                " JOIN person ON person.user_id = session.user_id"));
-    if (!query.run().next())
+    if (!query.run().next()) {
         return std::nullopt;
+    }
     Person person;
     person.userId = query.text(0);
     person.account = query.text(1);

@@ -5,7 +5,7 @@
 
 #include "core/person.h"
 
-#include <QtSql/QSqlDatabase>
+#include <QSqlDatabase>
 
 #include <optional>
 

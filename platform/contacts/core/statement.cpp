@@ -5,14 +5,15 @@
 
 #include "core/databaseerror.h"
 
-#include <QtCore/QVariant>
-#include <QtSql/QSqlError>
+#include <QSqlError>
+#include <QVariant>
 
 Statement::Statement(const QSqlDatabase &database, const QString &sql) : m_query(database)
 {
     m_query.setForwardOnly(true);
-    if (!m_query.prepare(sql))
+    if (!m_query.prepare(sql)) {
         throw DatabaseError(m_query.lastError().text() + QStringLiteral(" in ") + sql);
+    }
 }
 
 Statement &Statement::bind(const QString &value)
@@ -36,8 +37,9 @@ Statement &Statement::bind(int value)
 
 Statement &Statement::run()
 {
-    if (!m_query.exec())
+    if (!m_query.exec()) {
         throw DatabaseError(m_query.lastError().text() + QStringLiteral(" in ") + m_query.lastQuery());
+    }
     return *this;
 }
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtSql/QSqlQuery>
+#include <QSqlQuery>
 
 /// One prepared statement whose values are bound, never written into the text. Throws DatabaseError.
 class Statement

@@ -8,12 +8,12 @@
 #include "core/peoplerepository.h"
 #include "core/sessionrepository.h"
 
-#include <QtCore/QDateTime>
-#include <QtCore/QFile>
-#include <QtCore/QHash>
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
+#include <QDateTime>
+#include <QFile>
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 /// A static library's resources are not there by themselves. Outside any namespace, as the macro demands.
 static void registerSample()
@@ -29,12 +29,14 @@ QJsonObject readSample()
 {
     registerSample();
     QFile file(QStringLiteral(":/contacts/sample.json"));
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         throw DatabaseError(QStringLiteral("the sample directory is missing"));
+    }
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
-    if (error.error != QJsonParseError::NoError)
+    if (error.error != QJsonParseError::NoError) {
         throw DatabaseError(QStringLiteral("the sample directory cannot be read: ") + error.errorString());
+    }
     return document.object();
 }
 
@@ -42,8 +44,9 @@ QJsonObject readSample()
 qint64 startOf(const QJsonObject &conference, qint64 nowMsecs)
 {
     const QJsonValue startsIn = conference.value(QLatin1String("startsIn"));
-    if (startsIn.isDouble())
+    if (startsIn.isDouble()) {
         return nowMsecs + startsIn.toInt() * MinuteMsecs;
+    }
     const QDate day = QDateTime::fromMSecsSinceEpoch(nowMsecs).date().addDays(
         conference.value(QLatin1String("day")).toInt());
     const QTime time =
@@ -97,18 +100,21 @@ public:
         conference.passcode = entry.value(QLatin1String("passcode")).toString();
         conference = m_conferences.add(conference);
         const QJsonArray there = entry.value(QLatin1String("there")).toArray();
-        for (const QJsonValue &account : there)
+        for (const QJsonValue &account : there) {
             m_conferences.setAttendance(conference.id, userId(account.toString()), Attendance::Joined);
+        }
         const QJsonArray invited = entry.value(QLatin1String("invited")).toArray();
-        for (const QJsonValue &account : invited)
+        for (const QJsonValue &account : invited) {
             m_conferences.setAttendance(conference.id, userId(account.toString()), Attendance::Invited);
+        }
     }
 
     QString userId(const QString &account) const
     {
         const auto found = m_userIds.constFind(account);
-        if (found == m_userIds.constEnd())
+        if (found == m_userIds.constEnd()) {
             throw DatabaseError(QStringLiteral("the sample directory has no account ") + account);
+        }
         return *found;
     }
 
@@ -127,13 +133,16 @@ void SampleDirectory::load(PeopleRepository &people, ConferenceRepository &confe
     const QJsonObject sample = readSample();
     SampleLoader loader(people, conferences, nowMsecs);
     const QJsonArray personEntries = sample.value(QLatin1String("people")).toArray();
-    for (const QJsonValue &entry : personEntries)
+    for (const QJsonValue &entry : personEntries) {
         loader.addPerson(entry.toObject());
+    }
     const QJsonObject contacts = sample.value(QLatin1String("contacts")).toObject();
-    for (auto owner = contacts.constBegin(); owner != contacts.constEnd(); ++owner)
+    for (auto owner = contacts.constBegin(); owner != contacts.constEnd(); ++owner) {
         loader.addContacts(owner.key(), owner.value().toArray());
+    }
     const QJsonArray conferenceEntries = sample.value(QLatin1String("conferences")).toArray();
-    for (const QJsonValue &entry : conferenceEntries)
+    for (const QJsonValue &entry : conferenceEntries) {
         loader.addConference(entry.toObject());
+    }
     session.login(loader.userId(sample.value(QLatin1String("user")).toString()));
 }

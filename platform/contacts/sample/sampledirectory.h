@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QtGlobal>
+#include <QtGlobal>
 
 class ConferenceRepository;
 class PeopleRepository;

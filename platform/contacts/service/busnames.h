@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QString>
+#include <QString>
 
 /// Where the application is found on the session bus.
 namespace BusName {

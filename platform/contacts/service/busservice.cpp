@@ -10,7 +10,7 @@
 #include "admin1adaptor.h"
 #include "contact1adaptor.h"
 
-#include <QtDBus/QDBusMessage>
+#include <QDBusMessage>
 
 BusService::BusService(ContactsBook &book, QObject *parent)
     : QObject(parent)
@@ -25,16 +25,18 @@ BusService::BusService(ContactsBook &book, QObject *parent)
 
 BusService::Start BusService::start()
 {
-    if (!m_connection.isConnected())
+    if (!m_connection.isConnected()) {
         return Start::NoBus;
+    }
     m_connection.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
                          QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
                          SIGNAL(disconnected()));
     // The objects first: whoever waits for the name calls at once.
     m_connection.registerObject(BusName::contactPath(), m_requests);
     m_connection.registerObject(BusName::adminPath(), m_administration);
-    if (m_connection.registerService(BusName::service()))
+    if (m_connection.registerService(BusName::service())) {
         return Start::Done;
+    }
     askOtherForWindow();
     return Start::AlreadyRunning;
 }

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <QtDBus/QDBusConnection>
+#include <QDBusConnection>
 
-#include <QtCore/QObject>
+#include <QObject>
 
 class Administration;
 class ContactRequests;

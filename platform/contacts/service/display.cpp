@@ -3,9 +3,9 @@
 
 #include "service/display.h"
 
-#include <QtCore/QByteArray>
-#include <QtCore/QDir>
-#include <QtCore/QLibraryInfo>
+#include <QByteArray>
+#include <QDir>
+#include <QLibraryInfo>
 
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -19,13 +19,15 @@ namespace {
 bool answers(const QByteArray &path)
 {
     sockaddr_un address{};
-    if (path.size() >= static_cast<int>(sizeof(address.sun_path)))
+    if (path.size() >= static_cast<int>(sizeof(address.sun_path))) {
         return false;
+    }
     address.sun_family = AF_UNIX;
     std::memcpy(address.sun_path, path.constData(), static_cast<size_t>(path.size()));
     const int descriptor = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (descriptor < 0)
+    if (descriptor < 0) {
         return false;
+    }
     // A file's name ends with its NUL, an abstract name with its length.
     const size_t length =
         offsetof(sockaddr_un, sun_path) + static_cast<size_t>(path.size()) + (path.startsWith('\0') ? 0 : 1);
@@ -38,10 +40,12 @@ bool answers(const QByteArray &path)
 bool hasX11()
 {
     const QByteArray display = qgetenv("DISPLAY");
-    if (display.isEmpty())
+    if (display.isEmpty()) {
         return false;
-    if (!display.startsWith(':'))
+    }
+    if (!display.startsWith(':')) {
         return true; // on another machine; only Qt itself can tell
+    }
     const QByteArray path = "/tmp/.X11-unix/X" + display.mid(1, display.indexOf('.') - 1);
     return answers(path) || answers('\0' + path);
 }
@@ -49,11 +53,13 @@ bool hasX11()
 bool hasWayland()
 {
     const QByteArray display = qgetenv("WAYLAND_DISPLAY");
-    if (display.isEmpty())
+    if (display.isEmpty()) {
         return false;
+    }
     const QDir plugins(QLibraryInfo::location(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"));
-    if (plugins.entryList({QStringLiteral("libqwayland*")}).isEmpty())
+    if (plugins.entryList({QStringLiteral("libqwayland*")}).isEmpty()) {
         return false;
+    }
     return answers(display.startsWith('/') ? display : qgetenv("XDG_RUNTIME_DIR") + '/' + display);
 }
 

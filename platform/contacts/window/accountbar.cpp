@@ -7,9 +7,9 @@
 #include "book/contactsbook.h"
 #include "core/displaytext.h"
 
-#include <QtCore/QSignalBlocker>
-#include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QLabel>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSignalBlocker>
 
 AccountBar::AccountBar(ContactsBook &book, Administration &administration, QWidget *parent)
     : QWidget(parent)

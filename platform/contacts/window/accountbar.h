@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <QtWidgets/QCheckBox>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QPushButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPushButton>
 
 class Administration;
 class ContactsBook;

@@ -8,8 +8,8 @@
 
 #include <lumo/plaintooltip.h>
 
-#include <QtCore/QDateTime>
-#include <QtGui/QColor>
+#include <QColor>
+#include <QDateTime>
 
 #include <algorithm>
 #include <array>
@@ -51,8 +51,9 @@ QString headerText(int column)
 QString hostName(const Conference &conference)
 {
     for (const Participant &participant : conference.participants) {
-        if (participant.userId == conference.hostId)
+        if (participant.userId == conference.hostId) {
             return cleanDisplayText(participant.name);
+        }
     }
     return {};
 }
@@ -65,8 +66,9 @@ QString startText(qint64 startMsecs)
 QString participantNames(const Conference &conference)
 {
     QStringList names;
-    for (const Participant &participant : conference.participants)
+    for (const Participant &participant : conference.participants) {
         names.append(cleanDisplayText(participant.name));
+    }
     return names.join(QStringLiteral("、"));
 }
 
@@ -100,8 +102,9 @@ void ConferenceModel::reload()
     // Rows that stay keep their selection.
     if (hasSameRows(conferences, m_conferences)) {
         m_conferences = std::move(conferences);
-        if (!m_conferences.isEmpty())
+        if (!m_conferences.isEmpty()) {
             Q_EMIT dataChanged(index(0, 0), index(m_conferences.size() - 1, ColumnCount - 1));
+        }
     } else {
         beginResetModel();
         m_conferences = std::move(conferences);
@@ -122,8 +125,9 @@ int ConferenceModel::columnCount(const QModelIndex &parent) const
 
 QVariant ConferenceModel::data(const QModelIndex &index, int role) const
 {
-    if (!index.isValid() || index.row() >= m_conferences.size())
+    if (!index.isValid() || index.row() >= m_conferences.size()) {
         return {};
+    }
     const Conference &conference = m_conferences.at(index.row());
     const ConferenceState state = conference.stateAt(m_book.nowMsecs());
     switch (role) {
@@ -156,8 +160,9 @@ QVariant ConferenceModel::data(const QModelIndex &index, int role) const
 
 QVariant ConferenceModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= ColumnCount)
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= ColumnCount) {
         return {};
+    }
     return headerText(section);
 }
 
@@ -178,8 +183,9 @@ QVector<Conference> ConferenceModel::load() const
 
 void ConferenceModel::followClock()
 {
-    if (!m_conferences.isEmpty())
+    if (!m_conferences.isEmpty()) {
         Q_EMIT dataChanged(index(0, 0), index(m_conferences.size() - 1, ColumnCount - 1));
+    }
     waitForNextChange();
 }
 
@@ -190,8 +196,9 @@ void ConferenceModel::waitForNextChange()
     qint64 next = now + MinuteMsecs;
     for (const Conference &conference : qAsConst(m_conferences)) {
         for (const qint64 change : {conference.startMsecs, conference.endMsecs()}) {
-            if (change > now)
+            if (change > now) {
                 next = qMin(next, change);
+            }
         }
     }
     m_clock.start(static_cast<int>(next - now));

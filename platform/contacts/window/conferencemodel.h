@@ -5,8 +5,8 @@
 
 #include "core/conference.h"
 
-#include <QtCore/QAbstractTableModel>
-#include <QtCore/QTimer>
+#include <QAbstractTableModel>
+#include <QTimer>
 
 class ContactsBook;
 

@@ -10,10 +10,10 @@
 #include "core/conference.h"
 #include "core/jsonkeys.h"
 
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QHeaderView>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 ConferencePage::ConferencePage(ConferenceModel *model, ContactsBook &book, Administration &administration,
                                QWidget *parent)
@@ -101,8 +101,9 @@ void ConferencePage::perform(const QString &action, const QJsonObject &parameter
 void ConferencePage::join()
 {
     const QVariant number = selected(ConferenceModel::NumberRole);
-    if (!number.isValid())
+    if (!number.isValid()) {
         return;
+    }
     perform(QStringLiteral("Join Conference"),
             {{JsonKey::ConferenceId, number.toString()}, {JsonKey::Password, m_passcode->text()}});
     m_passcode->clear();
@@ -111,9 +112,10 @@ void ConferencePage::join()
 void ConferencePage::setState(const QString &state)
 {
     const QVariant number = selected(ConferenceModel::NumberRole);
-    if (number.isValid() && m_administration.SetConferenceState(number.toString(), state))
+    if (number.isValid() && m_administration.SetConferenceState(number.toString(), state)) {
         Q_EMIT told(state == QLatin1String("ended") ? QStringLiteral("会议已结束。")
                                                     : QStringLiteral("会议已开始。"));
+    }
 }
 
 void ConferencePage::showWhatIsPossible()

@@ -6,8 +6,8 @@
 #include "window/conferencemodel.h"
 #include "window/tablepage.h"
 
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QPushButton>
+#include <QComboBox>
+#include <QPushButton>
 
 class Administration;
 

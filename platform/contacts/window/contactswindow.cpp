@@ -14,14 +14,14 @@
 
 #include <lumo/lguiapplicationhelper.h>
 
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QHeaderView>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QShortcut>
-#include <QtWidgets/QTabWidget>
-#include <QtWidgets/QVBoxLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLabel>
+#include <QShortcut>
+#include <QTabWidget>
+#include <QVBoxLayout>
 
 ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administration)
     : m_pages(new QTabWidget)

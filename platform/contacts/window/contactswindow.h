@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtWidgets/QWidget>
+#include <QWidget>
 
 QT_BEGIN_NAMESPACE
 class QLabel;

@@ -5,7 +5,7 @@
 
 #include "core/outcome.h"
 
-#include <QtCore/QHash>
+#include <QHash>
 
 QString outcomeText(const QString &word)
 {

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QString>
+#include <QString>
 
 /// What the window says to its user about the outcome word of an action.
 QString outcomeText(const QString &word);

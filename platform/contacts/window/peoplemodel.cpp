@@ -68,8 +68,9 @@ void PeopleModel::reload()
     beginResetModel();
     m_people.clear();
     try {
-        if (const std::optional<Person> user = m_book.session().user())
+        if (const std::optional<Person> user = m_book.session().user()) {
             m_people = m_book.people().contacts(user->userId);
+        }
     } catch (const std::exception &error) {
         qWarning("The people cannot be shown: %s", error.what());
     }
@@ -88,8 +89,9 @@ int PeopleModel::columnCount(const QModelIndex &parent) const
 
 QVariant PeopleModel::data(const QModelIndex &index, int role) const
 {
-    if (!index.isValid() || index.row() >= m_people.size())
+    if (!index.isValid() || index.row() >= m_people.size()) {
         return {};
+    }
     const Person &person = m_people.at(index.row());
     switch (role) {
     case Qt::DisplayRole:
@@ -109,7 +111,8 @@ QVariant PeopleModel::data(const QModelIndex &index, int role) const
 
 QVariant PeopleModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= ColumnCount)
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= ColumnCount) {
         return {};
+    }
     return headerText(section);
 }

@@ -5,8 +5,8 @@
 
 #include "core/person.h"
 
-#include <QtCore/QAbstractTableModel>
-#include <QtCore/QVector>
+#include <QAbstractTableModel>
+#include <QVector>
 
 class ContactsBook;
 

@@ -3,11 +3,11 @@
 
 #include "window/tablepage.h"
 
-#include <QtGui/QPainter>
-#include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QHeaderView>
-#include <QtWidgets/QShortcut>
-#include <QtWidgets/QVBoxLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QPainter>
+#include <QShortcut>
+#include <QVBoxLayout>
 
 void HintedTable::setHint(const QString &hint)
 {
@@ -19,8 +19,9 @@ void HintedTable::setHint(const QString &hint)
 void HintedTable::paintEvent(QPaintEvent *event)
 {
     QTableView::paintEvent(event);
-    if (model() && model()->rowCount() > 0)
+    if (model() && model()->rowCount() > 0) {
         return;
+    }
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
     painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_hint);
@@ -86,8 +87,9 @@ QVariant TablePage::selected(int role) const
 
 void TablePage::select(const QVariant &key)
 {
-    if (!key.isValid())
+    if (!key.isValid()) {
         return;
+    }
     for (int row = 0; row < m_proxy.rowCount(); ++row) {
         if (m_proxy.index(row, 0).data(m_keyRole) == key) {
             m_table->selectRow(row);

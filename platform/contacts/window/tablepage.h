@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include <QtCore/QSortFilterProxyModel>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QTableView>
-#include <QtWidgets/QWidget>
+#include <QLineEdit>
+#include <QSortFilterProxyModel>
+#include <QTableView>
+#include <QWidget>
 
 QT_BEGIN_NAMESPACE
 class QHBoxLayout;

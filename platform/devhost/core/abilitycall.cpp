@@ -3,8 +3,8 @@
 
 #include "abilitycall.h"
 
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace devhost {
 
@@ -15,11 +15,13 @@ QString AbilityCall::category()
 
 bool AbilityCall::read(const LogRecord &record, AbilityCall &call)
 {
-    if (QString::fromUtf8(record.category) != category())
+    if (QString::fromUtf8(record.category) != category()) {
         return false;
+    }
     const QJsonObject trace = QJsonDocument::fromJson(record.text.toUtf8()).object();
-    if (!trace.contains(QLatin1String("action")))
+    if (!trace.contains(QLatin1String("action"))) {
         return false;
+    }
     call.action = trace.value(QLatin1String("action")).toString();
     call.parameters = trace.value(QLatin1String("parameters")).toString();
     call.answer = trace.value(QLatin1String("answer")).toString();

@@ -5,7 +5,7 @@
 
 #include "logrecord.h"
 
-#include <QtCore/QString>
+#include <QString>
 
 namespace devhost {
 

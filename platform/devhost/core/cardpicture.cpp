@@ -3,8 +3,8 @@
 
 #include "cardpicture.h"
 
-#include <QtGui/QPainter>
-#include <QtWidgets/QWidget>
+#include <QPainter>
+#include <QWidget>
 
 namespace devhost {
 
@@ -18,8 +18,9 @@ void giveCardItsSize(QWidget &card)
 {
     card.ensurePolished();
     QSize size = card.sizeHint().expandedTo(card.minimumSizeHint()).boundedTo(LargestCard);
-    if (card.hasHeightForWidth())
+    if (card.hasHeightForWidth()) {
         size.setHeight(qBound(1, card.heightForWidth(size.width()), LargestCard.height()));
+    }
     card.resize(size);
 }
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtGui/QImage>
+#include <QImage>
 
 QT_BEGIN_NAMESPACE
 class QWidget;

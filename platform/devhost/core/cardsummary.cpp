@@ -5,11 +5,11 @@
 
 #include "cleantext.h"
 
-#include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QAbstractSpinBox>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
 
 #include <algorithm>
 
@@ -35,15 +35,19 @@ QString withoutMnemonic(QString text)
 /// What one control says; empty for those that say nothing by themselves.
 QString textOf(const QWidget &widget)
 {
-    if (const auto *label = qobject_cast<const QLabel *>(&widget))
+    if (const auto *label = qobject_cast<const QLabel *>(&widget)) {
         return label->text();
-    if (const auto *button = qobject_cast<const QAbstractButton *>(&widget))
+    }
+    if (const auto *button = qobject_cast<const QAbstractButton *>(&widget)) {
         return button->text().isEmpty() ? QString()
                                         : QStringLiteral("[%1]").arg(withoutMnemonic(button->text()));
-    if (const auto *combo = qobject_cast<const QComboBox *>(&widget))
+    }
+    if (const auto *combo = qobject_cast<const QComboBox *>(&widget)) {
         return QStringLiteral("<%1>").arg(combo->currentText());
-    if (const auto *spinBox = qobject_cast<const QAbstractSpinBox *>(&widget))
+    }
+    if (const auto *spinBox = qobject_cast<const QAbstractSpinBox *>(&widget)) {
         return QStringLiteral("<%1>").arg(spinBox->text());
+    }
     return QString();
 }
 
@@ -51,13 +55,15 @@ void collect(const QWidget &widget, const QWidget &card, QVector<Piece> &pieces)
 {
     for (QObject *object : widget.children()) {
         const auto *child = qobject_cast<const QWidget *>(object);
-        if (child == nullptr || child->isWindow() || !child->isVisibleTo(&card))
+        if (child == nullptr || child->isWindow() || !child->isVisibleTo(&card)) {
             continue;
+        }
         const QString text = cleanText(textOf(*child)).simplified();
-        if (!text.isEmpty())
+        if (!text.isEmpty()) {
             pieces.append({QRect(child->mapTo(&card, QPoint(0, 0)), child->size()), text});
-        else
+        } else {
             collect(*child, card, pieces);
+        }
     }
 }
 
@@ -74,13 +80,15 @@ QStringList cardSummary(const QWidget &card)
     for (int i = 0; i < pieces.size() && lines.size() < MostLines;) {
         // What starts above the middle of the first piece's lower half stands in one row with it.
         int end = i + 1;
-        while (end < pieces.size() && pieces.at(end).place.center().y() <= pieces.at(i).place.bottom())
+        while (end < pieces.size() && pieces.at(end).place.center().y() <= pieces.at(i).place.bottom()) {
             ++end;
+        }
         std::stable_sort(pieces.begin() + i, pieces.begin() + end,
                          [](const Piece &a, const Piece &b) { return a.place.x() < b.place.x(); });
         QStringList row;
-        for (; i < end; ++i)
+        for (; i < end; ++i) {
             row.append(pieces.at(i).text);
+        }
         lines.append(row.join(QStringLiteral("  ")));
     }
     return lines;

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QStringList>
+#include <QStringList>
 
 QT_BEGIN_NAMESPACE
 class QWidget;

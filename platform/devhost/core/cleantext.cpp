@@ -3,7 +3,7 @@
 
 #include "cleantext.h"
 
-#include <QtCore/QVector>
+#include <QVector>
 
 namespace devhost {
 
@@ -38,14 +38,16 @@ QString cleanText(const QString &text)
     QString clean;
     clean.reserve(qMin(text.size(), LongestText));
     for (const uint character : text.toUcs4()) {
-        if (clean.size() >= LongestText)
+        if (clean.size() >= LongestText) {
             return clean + QChar(0x2026);
-        if (character == '\n')
+        }
+        if (character == '\n') {
             clean.append(QLatin1Char('\n'));
-        else if (character == '\t')
+        } else if (character == '\t') {
             clean.append(QLatin1Char(' '));
-        else if (isShown(character))
+        } else if (isShown(character)) {
             clean.append(QString::fromUcs4(&character, 1));
+        }
     }
     return clean;
 }

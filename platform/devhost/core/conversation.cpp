@@ -7,10 +7,10 @@
 #include "logrecorder.h"
 #include "secrets.h"
 
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
+#include <QElapsedTimer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace devhost {
 
@@ -29,8 +29,9 @@ QString semanticTitle(const QString &semantic)
     const QJsonObject intent =
         QJsonDocument::fromJson(semantic.toUtf8()).object().value(QLatin1String("intent")).toObject();
     const QJsonArray items = intent.value(QLatin1String("semantic")).toArray();
-    for (const QJsonValue item : items)
+    for (const QJsonValue item : items) {
         title += QLatin1Char(' ') + item.toObject().value(QLatin1String("intent")).toString();
+    }
     return cleanText(title.left(ShownInputLength));
 }
 
@@ -102,8 +103,9 @@ QString Conversation::shownSentence(const QString &sentence) const
 
 void Conversation::startNext()
 {
-    if (m_running != 0 || m_queue.isEmpty())
+    if (m_running != 0 || m_queue.isEmpty()) {
         return;
+    }
     collectLogs(m_latest);
     Input input = m_queue.dequeue();
     m_running = m_latest = input.turn;
@@ -152,10 +154,12 @@ void Conversation::takeResult(const TurnResult &result)
     turn.speech = cleanText(result.reply.speechText.toString());
     turn.type = result.reply.type;
     turn.endOfSession = result.reply.endOfSession;
-    if (const QWidget *card = cardOf(result.reply))
+    if (const QWidget *card = cardOf(result.reply)) {
         turn.cardClass = QString::fromLatin1(card->metaObject()->className());
-    if (m_runningIsSentence)
+    }
+    if (m_runningIsSentence) {
         m_dialogue.noteReply(turn.code, turn.display);
+    }
     if (result.isUnread() && turn.display.isEmpty()) {
         end(QStringLiteral("The plugin cannot read this as a semantic JSON (service() answered -100)."));
         return;
@@ -176,27 +180,31 @@ void Conversation::end(const QString &failure)
     collectLogs(id);
     m_turns[id].state = Turn::Done;
     m_turns[id].failure = failure;
-    if (!failure.isEmpty())
+    if (!failure.isEmpty()) {
         Q_EMIT failed(id, failure);
+    }
     m_running = 0;
     Q_EMIT finished(id);
-    if (m_queue.isEmpty())
+    if (m_queue.isEmpty()) {
         Q_EMIT idle();
-    else
+    } else {
         QMetaObject::invokeMethod(this, &Conversation::startNext, Qt::QueuedConnection);
+    }
 }
 
 void Conversation::collectLogs(int turn)
 {
     const QVector<LogRecord> records = m_logs.take();
     const auto entry = m_turns.find(turn);
-    if (entry == m_turns.end())
+    if (entry == m_turns.end()) {
         return;
+    }
     for (const LogRecord &record : records) {
         AbilityCall call;
         if (AbilityCall::read(record, call)) {
-            if (entry->calls.size() < MostRecords)
+            if (entry->calls.size() < MostRecords) {
                 entry->calls.append(call);
+            }
         } else if (entry->logs.size() < MostRecords) {
             entry->logs.append(record);
         }

@@ -8,13 +8,13 @@
 
 #include <understanding/dialogue.h>
 
-#include <QtCore/QDateTime>
-#include <QtCore/QHash>
-#include <QtCore/QObject>
-#include <QtCore/QPointer>
-#include <QtCore/QQueue>
-#include <QtCore/QStringList>
-#include <QtWidgets/QWidget>
+#include <QDateTime>
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+#include <QQueue>
+#include <QStringList>
+#include <QWidget>
 
 #include <functional>
 

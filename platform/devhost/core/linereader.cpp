@@ -3,8 +3,8 @@
 
 #include "linereader.h"
 
-#include <QtCore/QByteArray>
-#include <QtCore/QTextCodec>
+#include <QByteArray>
+#include <QTextCodec>
 
 namespace devhost {
 
@@ -19,27 +19,34 @@ LineReader::Outcome LineReader::read(QString &line)
     constexpr int end = std::istream::traits_type::eof();
     for (int c = m_input.rdbuf()->sbumpc(); c != end; c = m_input.rdbuf()->sbumpc()) {
         isAnything = true;
-        if (c == '\n')
+        if (c == '\n') {
             break;
-        if (bytes.size() < m_longest)
+        }
+        if (bytes.size() < m_longest) {
             bytes.append(static_cast<char>(c));
-        else
+        } else {
             isTooLong = true;
+        }
     }
-    if (!isAnything)
+    if (!isAnything) {
         return End;
+    }
     ++m_lineNumber;
-    if (isTooLong)
+    if (isTooLong) {
         return TooLong;
-    if (bytes.endsWith('\r'))
+    }
+    if (bytes.endsWith('\r')) {
         bytes.chop(1);
-    if (m_lineNumber == 1 && bytes.startsWith("\xef\xbb\xbf"))
+    }
+    if (m_lineNumber == 1 && bytes.startsWith("\xef\xbb\xbf")) {
         bytes.remove(0, 3);
+    }
     QTextCodec::ConverterState state;
     const QString text =
         QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    if (state.invalidChars > 0 || state.remainingChars > 0)
+    if (state.invalidChars > 0 || state.remainingChars > 0) {
         return NotUtf8;
+    }
     line = text;
     return Line;
 }

@@ -30,8 +30,9 @@ QString LogRecord::toText() const
 {
     QString shown =
         levelName(level) + QLatin1Char(' ') + QString::fromUtf8(category) + QLatin1String(": ") + text;
-    if (!file.isEmpty())
+    if (!file.isEmpty()) {
         shown += QStringLiteral(" (%1:%2)").arg(QString::fromUtf8(file)).arg(line);
+    }
     return shown;
 }
 

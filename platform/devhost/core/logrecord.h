@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <QtCore/QByteArray>
-#include <QtCore/QString>
-#include <QtCore/QtGlobal>
+#include <QByteArray>
+#include <QString>
+#include <QtGlobal>
 
 namespace devhost {
 

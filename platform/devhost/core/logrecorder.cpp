@@ -5,8 +5,8 @@
 
 #include "secrets.h"
 
-#include <QtCore/QDateTime>
-#include <QtCore/QReadWriteLock>
+#include <QDateTime>
+#include <QReadWriteLock>
 
 namespace devhost {
 
@@ -56,8 +56,9 @@ void LogRecorder::setSecrets(const QStringList &secrets)
 void LogRecorder::handle(QtMsgType level, const QMessageLogContext &context, const QString &text)
 {
     const QReadLocker locker(&currentLock());
-    if (current != nullptr)
+    if (current != nullptr) {
         current->add(level, context, text);
+    }
 }
 
 void LogRecorder::add(QtMsgType level, const QMessageLogContext &context, const QString &text)
@@ -72,13 +73,15 @@ void LogRecorder::add(QtMsgType level, const QMessageLogContext &context, const 
     {
         const QMutexLocker locker(&m_mutex);
         record.text = withoutSecrets(text.left(LongestText), m_secrets);
-        if (m_records.size() >= MostRecords)
+        if (m_records.size() >= MostRecords) {
             m_records.removeFirst();
+        }
         m_records.append(record);
     }
     const bool isForTerminal = m_terminal == Terminal::Verbose || level == QtFatalMsg;
-    if (isForTerminal && m_previous != nullptr)
+    if (isForTerminal && m_previous != nullptr) {
         m_previous(level, context, record.text);
+    }
 }
 
 } // namespace devhost

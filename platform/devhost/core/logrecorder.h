@@ -5,9 +5,9 @@
 
 #include "logrecord.h"
 
-#include <QtCore/QMutex>
-#include <QtCore/QStringList>
-#include <QtCore/QVector>
+#include <QMutex>
+#include <QStringList>
+#include <QVector>
 
 namespace devhost {
 

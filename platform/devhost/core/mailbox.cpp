@@ -14,8 +14,9 @@ Mailbox::Mailbox(QObject *receiver, std::function<void(const Reply &)> deliver)
 void Mailbox::post(const Reply &reply)
 {
     const QMutexLocker locker(&m_mutex);
-    if (m_receiver == nullptr)
+    if (m_receiver == nullptr) {
         return;
+    }
     QMetaObject::invokeMethod(
         m_receiver, [deliver = m_deliver, reply] { deliver(reply); }, Qt::QueuedConnection);
 }

@@ -5,8 +5,8 @@
 
 #include <speakmate/reply.h>
 
-#include <QtCore/QMutex>
-#include <QtCore/QObject>
+#include <QMutex>
+#include <QObject>
 
 #include <functional>
 

@@ -6,48 +6,53 @@
 #include "guarded.h"
 #include "mailbox.h"
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QDir>
-#include <QtCore/QFileInfo>
-#include <QtCore/QJsonObject>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonObject>
 
 namespace devhost {
 
 void ServiceReleaser::operator()(IService *service) const
 {
     const QString thrown = guarded([this, service] { plugin->releaseService(service); });
-    if (!thrown.isEmpty())
+    if (!thrown.isEmpty()) {
         qWarning("The plugin's releaseService() threw: %s", qUtf8Printable(thrown));
+    }
 }
 
 PluginHost::PluginHost(QObject *parent) : QObject(parent) {}
 
 PluginHost::~PluginHost()
 {
-    if (m_plugin == nullptr)
+    if (m_plugin == nullptr) {
         return;
+    }
     m_mailbox->close();
     const QString thrown = guarded([this] {
         m_plugin->setMessageHandle({});
         m_plugin->uninit();
     });
-    if (!thrown.isEmpty())
+    if (!thrown.isEmpty()) {
         qWarning("The plugin's uninit() threw: %s", qUtf8Printable(thrown));
+    }
 }
 
 bool PluginHost::load(const QString &plugin)
 {
     Q_ASSERT(m_plugin == nullptr);
-    if (!find(plugin) || !check())
+    if (!find(plugin) || !check()) {
         return false;
+    }
     QObject *root = nullptr;
     const QString thrown = guarded([this, &root] { root = m_loader.instance(); });
-    if (root == nullptr)
+    if (root == nullptr) {
         return fail(
             PluginProblem::CannotLoad,
             QStringLiteral("The plugin %1 cannot be loaded: %2")
                 .arg(m_path, thrown.isEmpty() ? m_loader.errorString() : thrown),
             QStringLiteral("Install the libraries that it names; \"ldd\" lists those that are missing."));
+    }
     return start(root);
 }
 
@@ -68,12 +73,14 @@ bool PluginHost::find(const QString &plugin)
 {
     QFileInfo file(plugin);
     const bool isName = !plugin.contains(QLatin1Char('/')) && !file.exists();
-    if (isName)
+    if (isName) {
         file.setFile(QDir(installedFolder()), QStringLiteral("lib%1.so").arg(plugin));
-    if (!file.isFile())
+    }
+    if (!file.isFile()) {
         return fail(PluginProblem::Missing, QStringLiteral("There is no plugin %1.").arg(file.filePath()),
                     isName ? QStringLiteral("Install it there, or give its file with --plugin PATH.")
                            : QStringLiteral("Check the path after --plugin."));
+    }
     m_path = file.absoluteFilePath();
     return true;
 }
@@ -82,35 +89,39 @@ bool PluginHost::check()
 {
     m_loader.setFileName(m_path);
     const QJsonObject metaData = m_loader.metaData();
-    if (metaData.isEmpty())
+    if (metaData.isEmpty()) {
         return fail(PluginProblem::NotAPlugin, QStringLiteral("%1 is no Qt plugin.").arg(m_path),
                     QStringLiteral("Give the plugin's own file, such as libcontact-plugin.so; "
                                    "its class needs Q_PLUGIN_METADATA."));
+    }
     const QString interfaceId = metaData.value(QLatin1String("IID")).toString();
-    if (interfaceId != QLatin1String(IServicePlugin_iid))
+    if (interfaceId != QLatin1String(IServicePlugin_iid)) {
         return fail(
             PluginProblem::OtherInterface,
             QStringLiteral("The plugin %1 has the interface \"%2\"; this host speaks \"%3\".")
                 .arg(m_path, interfaceId, QLatin1String(IServicePlugin_iid)),
             QStringLiteral("Build the plugin with this host's headers, or use the host it was built for."));
+    }
     return true;
 }
 
 bool PluginHost::start(QObject *root)
 {
     auto *plugin = qobject_cast<IServicePlugin *>(root);
-    if (plugin == nullptr)
+    if (plugin == nullptr) {
         return fail(PluginProblem::OtherInterface,
                     QStringLiteral("The root object of %1 is no IServicePlugin.").arg(m_path),
                     QStringLiteral("Its class needs Q_INTERFACES(IServicePlugin)."));
+    }
     int code = 0;
     QStringList names;
     const QString thrown = guarded([&code, &names, plugin] {
         code = plugin->init();
-        if (code == 0)
+        if (code == 0) {
             names = plugin->getSupportService();
+        }
     });
-    if (!thrown.isEmpty() || code != 0)
+    if (!thrown.isEmpty() || code != 0) {
         return fail(
             PluginProblem::InitFailed,
             thrown.isEmpty()
@@ -119,9 +130,11 @@ bool PluginHost::start(QObject *root)
             QStringLiteral(
                 "A missing or broken configuration file is the usual cause; the contact plugin reads "
                 "/etc/xdg/kelvane-speakmate-plugins/contact-plugin.json. --verbose shows its log."));
-    if (names.isEmpty())
+    }
+    if (names.isEmpty()) {
         return fail(PluginProblem::NoService, QStringLiteral("The plugin %1 offers no service.").arg(m_path),
                     QStringLiteral("Its getSupportService() has to name at least one."));
+    }
     m_plugin = plugin;
     m_serviceName = names.first();
     m_mailbox = std::make_shared<Mailbox>(this, [this](const Reply &reply) { Q_EMIT repliedLater(reply); });
@@ -129,16 +142,18 @@ bool PluginHost::start(QObject *root)
         m_plugin->setMessageHandle(
             [mailbox = m_mailbox](IServicePlugin *, const Reply &reply) { mailbox->post(reply); });
     });
-    if (!handleThrown.isEmpty())
+    if (!handleThrown.isEmpty()) {
         qWarning("The plugin's setMessageHandle() threw: %s", qUtf8Printable(handleThrown));
+    }
     return true;
 }
 
 bool PluginHost::needsOwnThread() const
 {
     bool needs = true;
-    if (m_plugin != nullptr)
+    if (m_plugin != nullptr) {
         guarded([this, &needs] { needs = m_plugin->needRunInDifferentThread(); });
+    }
     return needs;
 }
 
@@ -148,13 +163,15 @@ ServicePtr PluginHost::createService()
     if (m_plugin != nullptr) {
         const QString thrown =
             guarded([this, &service] { service = m_plugin->createService(m_serviceName); });
-        if (!thrown.isEmpty())
+        if (!thrown.isEmpty()) {
             qWarning("The plugin's createService() threw: %s", qUtf8Printable(thrown));
+        }
     }
-    if (service != nullptr)
+    if (service != nullptr) {
         connect(
             service, &IService::signalSendShowMessage, this,
             [mailbox = m_mailbox](const Reply &reply) { mailbox->post(reply); }, Qt::DirectConnection);
+    }
     return ServicePtr(service, ServiceReleaser{m_plugin});
 }
 

@@ -7,8 +7,8 @@
 
 #include <speakmate/iserviceplugin.h>
 
-#include <QtCore/QObject>
-#include <QtCore/QPluginLoader>
+#include <QObject>
+#include <QPluginLoader>
 
 #include <memory>
 

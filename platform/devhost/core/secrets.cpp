@@ -3,9 +3,9 @@
 
 #include "secrets.h"
 
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace devhost {
 
@@ -15,21 +15,24 @@ void collect(const QJsonValue &value, QStringList &secrets)
 {
     if (value.isArray()) {
         const QJsonArray items = value.toArray();
-        for (const QJsonValue item : items)
+        for (const QJsonValue item : items) {
             collect(item, secrets);
+        }
         return;
     }
     const QJsonObject object = value.toObject();
     if (object.value(QLatin1String("name")).toString() == QLatin1String("password")) {
         for (const QLatin1String key : {QLatin1String("value"), QLatin1String("normValue")}) {
             const QString secret = object.value(key).toString();
-            if (!secret.isEmpty() && !secrets.contains(secret))
+            if (!secret.isEmpty() && !secrets.contains(secret)) {
                 secrets.append(secret);
+            }
         }
         return;
     }
-    for (const QJsonValue member : object)
+    for (const QJsonValue member : object) {
         collect(member, secrets);
+    }
 }
 
 } // namespace
@@ -43,17 +46,19 @@ QStringList secretsIn(const QString &semantic)
 {
     const QJsonDocument document = QJsonDocument::fromJson(semantic.toUtf8());
     QStringList secrets;
-    if (document.isArray())
+    if (document.isArray()) {
         collect(document.array(), secrets);
-    else
+    } else {
         collect(document.object(), secrets);
+    }
     return secrets;
 }
 
 QString withoutSecrets(QString text, const QStringList &secrets)
 {
-    for (const QString &secret : secrets)
+    for (const QString &secret : secrets) {
         text.replace(secret, secretMask());
+    }
     return text;
 }
 

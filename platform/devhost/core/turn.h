@@ -6,8 +6,8 @@
 #include "abilitycall.h"
 #include "logrecord.h"
 
-#include <QtCore/QString>
-#include <QtCore/QVector>
+#include <QString>
+#include <QVector>
 
 namespace devhost {
 

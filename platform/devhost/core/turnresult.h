@@ -5,7 +5,7 @@
 
 #include <speakmate/reply.h>
 
-#include <QtCore/QString>
+#include <QString>
 
 namespace devhost {
 

@@ -5,7 +5,7 @@
 
 #include "guarded.h"
 
-#include <QtCore/QElapsedTimer>
+#include <QElapsedTimer>
 
 namespace devhost {
 
@@ -61,8 +61,9 @@ void TurnRunner::call(IService &service, const QString &semantic, TurnResult &re
     timer.start();
     const QString thrown = guarded([&] { result.status = service.service(semantic); });
     result.serviceMsecs = msecsOf(timer);
-    if (!thrown.isEmpty())
+    if (!thrown.isEmpty()) {
         result.failure = QStringLiteral("The plugin's service() threw: %1").arg(thrown);
+    }
 }
 
 void TurnRunner::fetchReply(TurnResult result)
@@ -72,12 +73,13 @@ void TurnRunner::fetchReply(TurnResult result)
         timer.start();
         const Reply *reply = nullptr;
         const QString thrown = guarded([this, &reply] { reply = m_service->getServiceReply(); });
-        if (!thrown.isEmpty())
+        if (!thrown.isEmpty()) {
             result.failure = QStringLiteral("The plugin's getServiceReply() threw: %1").arg(thrown);
-        else if (reply == nullptr)
+        } else if (reply == nullptr) {
             result.failure = QStringLiteral("The plugin's getServiceReply() gave no reply.");
-        else
+        } else {
             result.reply = *reply;
+        }
         result.replyMsecs = msecsOf(timer);
     }
     finish(result);

@@ -6,8 +6,8 @@
 #include "pluginhost.h"
 #include "turnresult.h"
 
-#include <QtCore/QObject>
-#include <QtCore/QThread>
+#include <QObject>
+#include <QThread>
 
 namespace devhost {
 

@@ -6,7 +6,7 @@
 #include "conversation.h"
 #include "replyjson.h"
 
-#include <QtCore/QJsonDocument>
+#include <QJsonDocument>
 
 #include <memory>
 
@@ -51,11 +51,13 @@ void Batch::next()
         case LineReader::Line:
             break;
         }
-        if (line.trimmed().isEmpty())
+        if (line.trimmed().isEmpty()) {
             continue;
+        }
         QString reason;
-        if (isSemantic(line, reason))
+        if (isSemantic(line, reason)) {
             break;
+        }
         complain(reason);
     }
     m_runner.run(line);
@@ -65,10 +67,11 @@ bool Batch::isSemantic(const QString &line, QString &reason)
 {
     QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(line.toUtf8(), &error);
-    if (error.error != QJsonParseError::NoError)
+    if (error.error != QJsonParseError::NoError) {
         reason = QStringLiteral("not JSON: %1 at byte %2").arg(error.errorString()).arg(error.offset);
-    else if (!document.isObject())
+    } else if (!document.isObject()) {
         reason = QStringLiteral("not a JSON object");
+    }
     return reason.isEmpty();
 }
 
@@ -77,8 +80,9 @@ void Batch::answer(const TurnResult &result)
     if (!result.failure.isEmpty()) {
         complain(result.failure);
     } else {
-        if (result.isUnread())
+        if (result.isUnread()) {
             complain(QStringLiteral("the plugin cannot read this as a semantic (service() answered -100)"));
+        }
         const QString picture = QStringLiteral("line-%1").arg(m_reader.lineNumber(), 4, 10, QLatin1Char('0'));
         m_streams.output << describe(result.reply, picture).constData() << std::endl;
     }
@@ -88,13 +92,15 @@ void Batch::answer(const TurnResult &result)
 QByteArray Batch::describe(const Reply &reply, const QString &pictureName)
 {
     const std::unique_ptr<QWidget> card(cardOf(reply));
-    if (card == nullptr)
+    if (card == nullptr) {
         return replyJson(reply, nullptr);
+    }
     CardNote note;
     note.screenshot = m_screenshots.take(*card, pictureName);
-    if (m_screenshots.isOn() && note.screenshot.isEmpty())
+    if (m_screenshots.isOn() && note.screenshot.isEmpty()) {
         complain(
             QStringLiteral("the picture of the card could not be written to %1").arg(m_screenshots.folder()));
+    }
     note.className = QString::fromLatin1(card->metaObject()->className());
     note.width = card->width();
     note.height = card->height();

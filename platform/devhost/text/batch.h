@@ -8,7 +8,7 @@
 #include "screenshots.h"
 #include "turnrunner.h"
 
-#include <QtCore/QObject>
+#include <QObject>
 
 #include <ostream>
 

@@ -10,8 +10,9 @@ namespace devhost {
 EchoOff::EchoOff()
 {
     m_isTerminal = tcgetattr(STDIN_FILENO, &m_before) == 0;
-    if (!m_isTerminal)
+    if (!m_isTerminal) {
         return;
+    }
     termios silent = m_before;
     silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
     // The end of the line stays visible, or the answer would stand behind the question.
@@ -21,8 +22,9 @@ EchoOff::EchoOff()
 
 EchoOff::~EchoOff()
 {
-    if (m_isTerminal)
+    if (m_isTerminal) {
         tcsetattr(STDIN_FILENO, TCSANOW, &m_before);
+    }
 }
 
 } // namespace devhost

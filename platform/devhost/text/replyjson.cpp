@@ -3,8 +3,8 @@
 
 #include "replyjson.h"
 
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
+#include <QJsonArray>
+#include <QJsonDocument>
 
 namespace devhost {
 
@@ -22,8 +22,9 @@ QByteArray cardJson(const CardNote &card)
     QByteArray json = "{\"class\":" + quoted(card.className) +
                       ",\"width\":" + QByteArray::number(card.width) +
                       ",\"height\":" + QByteArray::number(card.height);
-    if (!card.screenshot.isEmpty())
+    if (!card.screenshot.isEmpty()) {
         json += ",\"screenshot\":" + quoted(card.screenshot);
+    }
     return json + '}';
 }
 

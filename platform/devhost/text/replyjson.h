@@ -5,8 +5,8 @@
 
 #include <speakmate/reply.h>
 
-#include <QtCore/QByteArray>
-#include <QtCore/QString>
+#include <QByteArray>
+#include <QString>
 
 namespace devhost {
 

@@ -5,8 +5,8 @@
 
 #include "cardpicture.h"
 
-#include <QtCore/QDir>
-#include <QtWidgets/QWidget>
+#include <QDir>
+#include <QWidget>
 
 namespace devhost {
 
@@ -21,8 +21,9 @@ QString Screenshots::take(QWidget &card, const QString &baseName) const
 {
     giveCardItsSize(card);
     const QImage picture = cardPicture(card);
-    if (!isOn())
+    if (!isOn()) {
         return QString();
+    }
     const QString name = baseName + QStringLiteral(".png");
     return picture.save(QDir(m_folder).filePath(name)) ? name : QString();
 }

@@ -40,8 +40,9 @@ TerminalConversation::TerminalConversation(Conversation &conversation, const Ter
 {
     connect(&m_conversation, &Conversation::started, this, [this](int turn) {
         // With an echoing terminal the sentence stands there already.
-        if (!m_terminal.isPrompting)
+        if (!m_terminal.isPrompting) {
             printSaid(turn);
+        }
     });
     connect(&m_conversation, &Conversation::replied, this,
             [this](int turn, const Reply &reply) { printReply(turn, reply, turnPicture(turn)); });
@@ -63,8 +64,9 @@ void TerminalConversation::start()
 void TerminalConversation::next()
 {
     for (;;) {
-        if (m_terminal.isPrompting)
+        if (m_terminal.isPrompting) {
             m_terminal.output << (m_conversation.expectsSecret() ? "密码> " : "你> ") << std::flush;
+        }
         QString line;
         const std::unique_ptr<EchoOff> echoOff =
             m_terminal.isPrompting && m_conversation.expectsSecret() ? std::make_unique<EchoOff>() : nullptr;
@@ -79,8 +81,9 @@ void TerminalConversation::next()
             continue;
         }
         line = line.trimmed();
-        if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
+        if (line.isEmpty() || line.startsWith(QLatin1Char('#'))) {
             continue;
+        }
         m_conversation.say(line);
         return;
     }
@@ -101,31 +104,37 @@ void TerminalConversation::printReply(int turn, const Reply &reply, const QStrin
 {
     const int code = reply.code.toInt();
     QStringList lines = wrapped(cleanText(reply.displayText.toString()), TextColumns);
-    if (code != 0)
+    if (code != 0) {
         lines.last() += QStringLiteral("  (%1)").arg(code);
-    for (int i = 0; i < lines.size(); ++i)
+    }
+    for (int i = 0; i < lines.size(); ++i) {
         printLine(ReplyColour, (i == 0 ? QStringLiteral("助手：") : QStringLiteral("      ")) + lines.at(i));
+    }
 
     const std::unique_ptr<QWidget> card(cardOf(reply));
-    if (card == nullptr)
+    if (card == nullptr) {
         return;
+    }
     const QString picture = m_screenshots.take(*card, pictureName);
-    for (const QString &line : cardSummary(*card))
+    for (const QString &line : cardSummary(*card)) {
         printLine(CardColour, QStringLiteral("      │ ") + line);
-    if (!picture.isEmpty())
+    }
+    if (!picture.isEmpty()) {
         printLine(CardColour, QStringLiteral("      └ %1/%2").arg(m_screenshots.folder(), picture));
-    else if (m_screenshots.isOn())
+    } else if (m_screenshots.isOn()) {
         complain(QStringLiteral("the picture of turn %1 could not be written to %2")
                      .arg(turn)
                      .arg(m_screenshots.folder()));
+    }
 }
 
 void TerminalConversation::printLine(const char *colour, const QString &line)
 {
-    if (m_terminal.isColoured)
+    if (m_terminal.isColoured) {
         m_terminal.output << colour << qUtf8Printable(line) << PlainColour << std::endl;
-    else
+    } else {
         m_terminal.output << qUtf8Printable(line) << std::endl;
+    }
 }
 
 void TerminalConversation::complain(const QString &message)

@@ -8,7 +8,7 @@
 #include "linereader.h"
 #include "screenshots.h"
 
-#include <QtCore/QObject>
+#include <QObject>
 
 #include <ostream>
 

@@ -3,7 +3,7 @@
 
 #include "textlayout.h"
 
-#include <QtCore/QVector>
+#include <QVector>
 
 namespace devhost {
 
@@ -19,8 +19,9 @@ bool isWide(uint c)
 int widthOf(uint c)
 {
     const QChar::Category category = QChar::category(c);
-    if (category == QChar::Mark_NonSpacing || category == QChar::Other_Format)
+    if (category == QChar::Mark_NonSpacing || category == QChar::Other_Format) {
         return 0;
+    }
     return isWide(c) ? 2 : 1;
 }
 
@@ -29,8 +30,9 @@ int widthOf(uint c)
 int terminalWidth(const QString &text)
 {
     int width = 0;
-    for (const uint c : text.toUcs4())
+    for (const uint c : text.toUcs4()) {
         width += widthOf(c);
+    }
     return width;
 }
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <QtCore/QString>
-#include <QtCore/QStringList>
+#include <QString>
+#include <QStringList>
 
 namespace devhost {
 

@@ -5,9 +5,9 @@
 
 #include <lumo/lguiapplicationhelper.h>
 
-#include <QtCore/QSettings>
-#include <QtGui/QFont>
-#include <QtWidgets/QApplication>
+#include <QApplication>
+#include <QFont>
+#include <QSettings>
 
 namespace devhost {
 
@@ -29,8 +29,9 @@ Appearance::Appearance(QObject *parent)
     : QObject(parent)
     , m_desktopPointSize(QApplication::font().pointSizeF())
 {
-    if (m_desktopPointSize <= 0)
+    if (m_desktopPointSize <= 0) {
         m_desktopPointSize = QApplication::font().pixelSize() * 0.75;
+    }
     const QSettings settings;
     m_theme = Theme(qBound(int(System), settings.value(themeKey(), int(System)).toInt(), int(Dark)));
     m_fontStep = qBound(SmallestStep, settings.value(fontStepKey(), 0).toInt(), LargestStep);

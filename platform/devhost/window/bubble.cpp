@@ -3,12 +3,12 @@
 
 #include "bubble.h"
 
-#include <QtGui/QClipboard>
-#include <QtGui/QContextMenuEvent>
-#include <QtGui/QGuiApplication>
-#include <QtGui/QPainter>
-#include <QtGui/QTextLayout>
-#include <QtWidgets/QMenu>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QPainter>
+#include <QTextLayout>
 
 #include <cmath>
 
@@ -72,8 +72,9 @@ QSize Bubble::sizeFor(const QString &text, const QFont &font, int maximumWidth, 
         return int(std::ceil(width)) + 2 * HorizontalPadding;
     };
     naturalWidth = padded(extent.width());
-    if (naturalWidth > maximumWidth)
+    if (naturalWidth > maximumWidth) {
         extent = breakLines(layout, qMax(1, maximumWidth - 2 * HorizontalPadding));
+    }
     return {qMin(padded(extent.width()), maximumWidth),
             int(std::ceil(extent.height())) + 2 * VerticalPadding};
 }
@@ -83,8 +84,9 @@ void Bubble::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const bool isSaid = m_role == Said;
-    if (m_isDimmed)
+    if (m_isDimmed) {
         painter.setOpacity(0.55);
+    }
     if (m_role == Notice) {
         painter.setPen(palette().color(QPalette::Mid));
         painter.setBrush(Qt::NoBrush);
@@ -101,8 +103,9 @@ void Bubble::paintEvent(QPaintEvent *)
 
 void Bubble::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::LeftButton)
+    if (event->button() == Qt::LeftButton) {
         Q_EMIT clicked();
+    }
 }
 
 void Bubble::contextMenuEvent(QContextMenuEvent *event)

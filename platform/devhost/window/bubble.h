@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtWidgets/QWidget>
+#include <QWidget>
 
 namespace devhost {
 

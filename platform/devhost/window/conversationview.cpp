@@ -5,10 +5,10 @@
 
 #include "waitingdots.h"
 
-#include <QtCore/QEvent>
-#include <QtGui/QKeyEvent>
-#include <QtWidgets/QScrollBar>
-#include <QtWidgets/QToolButton>
+#include <QEvent>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -75,8 +75,9 @@ void ConversationView::addSaid(int turn, const QString &text, bool isQueued)
 void ConversationView::changeSaid(int turn, const QString &text)
 {
     const int position = saidPosition(turn);
-    if (position < 0)
+    if (position < 0) {
         return;
+    }
     const bool wasAtEnd = isAtEnd();
     m_entries[position].text = text;
     m_entries[position].isSized = false;
@@ -86,8 +87,9 @@ void ConversationView::changeSaid(int turn, const QString &text)
 void ConversationView::setStarted(int turn)
 {
     const int position = saidPosition(turn);
-    if (position < 0)
+    if (position < 0) {
         return;
+    }
     m_entries[position].isQueued = false;
     place();
 }
@@ -152,16 +154,18 @@ void ConversationView::insert(const Entry &entry)
 int ConversationView::positionAfter(int turn) const
 {
     int position = m_entries.size();
-    while (position > 0 && m_entries.at(position - 1).turn > turn)
+    while (position > 0 && m_entries.at(position - 1).turn > turn) {
         --position;
+    }
     return position;
 }
 
 int ConversationView::saidPosition(int turn) const
 {
     for (int i = positionAfter(turn) - 1; i >= 0 && m_entries.at(i).turn == turn; --i) {
-        if (m_entries.at(i).role == Bubble::Said)
+        if (m_entries.at(i).role == Bubble::Said) {
             return i;
+        }
     }
     return -1;
 }
@@ -229,10 +233,11 @@ void ConversationView::layOut(int first, bool wasAtEnd)
     const int height = contentHeight();
     const int page = viewport()->height();
     int value = offset;
-    if (wasAtEnd)
+    if (wasAtEnd) {
         value = qMax(0, height - page);
-    else if (anchorIndex >= 0)
+    } else if (anchorIndex >= 0) {
         value += m_entries.at(anchorIndex).top - anchorTop;
+    }
     m_isPlacing = true;
     verticalScrollBar()->setPageStep(page);
     verticalScrollBar()->setSingleStep(QFontMetrics(font()).lineSpacing() * 2);
@@ -252,11 +257,13 @@ void ConversationView::place()
                                            [](const Entry &entry, int y) { return entry.top < y; });
     // Bubbles first become free, then are used again.
     for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry) {
-        if (entry < firstShown || entry >= endShown)
+        if (entry < firstShown || entry >= endShown) {
             release(*entry);
+        }
     }
-    for (auto entry = firstShown; entry != endShown; ++entry)
+    for (auto entry = firstShown; entry != endShown; ++entry) {
         placeEntry(*entry, offset);
+    }
     if (m_waitingTurn != 0) {
         const int position = positionAfter(m_waitingTurn);
         const int top = position == 0 ? Margin : m_entries.at(position - 1).bottom() + Gap;
@@ -270,8 +277,9 @@ void ConversationView::placeEntry(Entry &entry, int offset)
     const int top = entry.top - offset;
     const bool isSaid = entry.role == Bubble::Said;
     if (!entry.textSize.isEmpty()) {
-        if (entry.bubble == nullptr)
+        if (entry.bubble == nullptr) {
             entry.bubble = takeBubble();
+        }
         const int left = isSaid ? columnLeft() + columnWidth() - entry.textSize.width() : columnLeft();
         entry.bubble->setGeometry(QRect(QPoint(left, top), entry.textSize));
         entry.bubble->setProperty("turn", entry.turn);
@@ -291,14 +299,16 @@ void ConversationView::release(Entry &entry)
         m_spare.append(entry.bubble);
         entry.bubble = nullptr;
     }
-    if (entry.card != nullptr && entry.card->isVisibleTo(viewport()))
+    if (entry.card != nullptr && entry.card->isVisibleTo(viewport())) {
         entry.card->hide();
+    }
 }
 
 Bubble *ConversationView::takeBubble()
 {
-    if (!m_spare.isEmpty())
+    if (!m_spare.isEmpty()) {
         return m_spare.takeLast();
+    }
     auto *bubble = new Bubble(viewport());
     connect(bubble, &Bubble::clicked, this,
             [this, bubble] { Q_EMIT turnActivated(bubble->property("turn").toInt()); });
@@ -309,8 +319,9 @@ Bubble *ConversationView::takeBubble()
 void ConversationView::cardChanged(const QObject *)
 {
     // A card changes several times before it is shown again; one layout for all of it.
-    if (m_isRelayoutPending)
+    if (m_isRelayoutPending) {
         return;
+    }
     m_isRelayoutPending = true;
     QMetaObject::invokeMethod(
         this,
@@ -330,15 +341,17 @@ void ConversationView::updateEndButton()
 
 bool ConversationView::viewportEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LayoutRequest)
+    if (event->type() == QEvent::LayoutRequest) {
         cardChanged(nullptr);
+    }
     return QAbstractScrollArea::viewportEvent(event);
 }
 
 bool ConversationView::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::LayoutRequest)
+    if (event->type() == QEvent::LayoutRequest) {
         cardChanged(watched);
+    }
     return QAbstractScrollArea::eventFilter(watched, event);
 }
 
@@ -352,29 +365,33 @@ void ConversationView::resizeEvent(QResizeEvent *event)
 
 void ConversationView::scrollContentsBy(int, int)
 {
-    if (!m_isPlacing)
+    if (!m_isPlacing) {
         place();
+    }
 }
 
 void ConversationView::changeEvent(QEvent *event)
 {
     QAbstractScrollArea::changeEvent(event);
-    if (event->type() != QEvent::FontChange)
+    if (event->type() != QEvent::FontChange) {
         return;
+    }
     const bool wasAtEnd = isAtEnd();
-    for (Entry &entry : m_entries)
+    for (Entry &entry : m_entries) {
         entry.isSized = false;
+    }
     layOut(0, wasAtEnd);
 }
 
 void ConversationView::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_End)
+    if (event->key() == Qt::Key_End) {
         scrollToEnd();
-    else if (event->key() == Qt::Key_Home)
+    } else if (event->key() == Qt::Key_Home) {
         verticalScrollBar()->setValue(0);
-    else
+    } else {
         QAbstractScrollArea::keyPressEvent(event);
+    }
 }
 
 } // namespace devhost

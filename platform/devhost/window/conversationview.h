@@ -5,9 +5,9 @@
 
 #include "bubble.h"
 
-#include <QtCore/QPointer>
-#include <QtCore/QVector>
-#include <QtWidgets/QAbstractScrollArea>
+#include <QAbstractScrollArea>
+#include <QPointer>
+#include <QVector>
 
 QT_BEGIN_NAMESPACE
 class QToolButton;

@@ -3,7 +3,7 @@
 
 #include "inputline.h"
 
-#include <QtGui/QKeyEvent>
+#include <QKeyEvent>
 
 namespace devhost {
 
@@ -31,14 +31,15 @@ void InputLine::setSecret(bool isSecret)
 void InputLine::keyPressEvent(QKeyEvent *event)
 {
     const bool isSecret = echoMode() == QLineEdit::Password;
-    if (event->key() == Qt::Key_Escape)
+    if (event->key() == Qt::Key_Escape) {
         clear();
-    else if (event->key() == Qt::Key_Up && !isSecret)
+    } else if (event->key() == Qt::Key_Up && !isSecret) {
         setText(m_history.older(text()));
-    else if (event->key() == Qt::Key_Down && !isSecret)
+    } else if (event->key() == Qt::Key_Down && !isSecret) {
         setText(m_history.newer(text()));
-    else
+    } else {
         QLineEdit::keyPressEvent(event);
+    }
 }
 
 } // namespace devhost

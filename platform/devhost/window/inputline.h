@@ -5,7 +5,7 @@
 
 #include "inputhistory.h"
 
-#include <QtWidgets/QLineEdit>
+#include <QLineEdit>
 
 namespace devhost {
 

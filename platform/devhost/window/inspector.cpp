@@ -7,15 +7,15 @@
 
 #include <lumo/lsuggestbutton.h>
 
-#include <QtGui/QClipboard>
-#include <QtGui/QFontDatabase>
-#include <QtGui/QGuiApplication>
-#include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QPlainTextEdit>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QTabWidget>
-#include <QtWidgets/QVBoxLayout>
+#include <QClipboard>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
 
 namespace devhost {
 
@@ -102,8 +102,9 @@ void Inspector::copyShown() const
 void Inspector::send()
 {
     const QString semantic = m_entry->toPlainText().trimmed();
-    if (!semantic.isEmpty())
+    if (!semantic.isEmpty()) {
         Q_EMIT semanticEntered(semantic);
+    }
 }
 
 } // namespace devhost

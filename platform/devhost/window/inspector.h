@@ -5,7 +5,7 @@
 
 #include "turn.h"
 
-#include <QtWidgets/QWidget>
+#include <QWidget>
 
 QT_BEGIN_NAMESPACE
 class QLabel;

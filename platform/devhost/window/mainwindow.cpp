@@ -13,18 +13,18 @@
 
 #include <lumo/lsuggestbutton.h>
 
-#include <QtCore/QSettings>
-#include <QtGui/QCloseEvent>
-#include <QtWidgets/QAction>
-#include <QtWidgets/QActionGroup>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QMenuBar>
-#include <QtWidgets/QMessageBox>
-#include <QtWidgets/QSplitter>
-#include <QtWidgets/QStackedWidget>
-#include <QtWidgets/QVBoxLayout>
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSettings>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QVBoxLayout>
 
 namespace devhost {
 
@@ -207,8 +207,9 @@ void MainWindow::follow()
     });
     connect(&m_conversation, &Conversation::repliedLater, this, [this](int turn, const Reply &answer) {
         reply(turn, answer);
-        if (m_inspector->shownTurn() == turn)
+        if (m_inspector->shownTurn() == turn) {
             inspect(turn);
+        }
     });
     connect(&m_conversation, &Conversation::failed, this, [this](int turn, const QString &reason) {
         m_view->setWaiting(0);
@@ -217,8 +218,9 @@ void MainWindow::follow()
     connect(&m_conversation, &Conversation::finished, this, [this](int turn) {
         m_typed.remove(turn);
         m_input->setSecret(m_conversation.expectsSecret());
-        if (m_followsLast)
+        if (m_followsLast) {
             inspect(turn);
+        }
     });
 }
 
@@ -230,8 +232,9 @@ void MainWindow::showProblem(const QString &problem)
 
 void MainWindow::submit(const QString &text)
 {
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         return;
+    }
     m_followsLast = true;
     const bool isSecret = m_conversation.expectsSecret();
     const int turn = m_conversation.say(text);
@@ -266,8 +269,9 @@ void MainWindow::reply(int turn, const Reply &reply)
 void MainWindow::inspect(int turn)
 {
     const Turn shown = m_conversation.turn(turn);
-    if (shown.id != 0)
+    if (shown.id != 0) {
         m_inspector->show(shown);
+    }
 }
 
 bool MainWindow::event(QEvent *event)
@@ -299,10 +303,12 @@ void MainWindow::remember() const
 void MainWindow::restore()
 {
     const QSettings settings;
-    if (!restoreGeometry(settings.value(geometryKey()).toByteArray()))
+    if (!restoreGeometry(settings.value(geometryKey()).toByteArray())) {
         resize(FirstSize);
-    if (!m_splitter->restoreState(settings.value(splitterKey()).toByteArray()))
+    }
+    if (!m_splitter->restoreState(settings.value(splitterKey()).toByteArray())) {
         m_splitter->setSizes({FirstSize.width() * 3 / 5, FirstSize.width() * 2 / 5});
+    }
     m_inspectorAction->setChecked(settings.value(inspectorKey(), true).toBool());
     m_inspector->setVisible(m_inspectorAction->isChecked());
     m_speechAction->setChecked(m_speechAction->isEnabled() && settings.value(speechKey(), false).toBool());

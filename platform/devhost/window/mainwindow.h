@@ -5,8 +5,8 @@
 
 #include "conversation.h"
 
-#include <QtCore/QElapsedTimer>
-#include <QtWidgets/QMainWindow>
+#include <QElapsedTimer>
+#include <QMainWindow>
 
 QT_BEGIN_NAMESPACE
 class QLabel;

@@ -4,7 +4,7 @@
 #include "speaker.h"
 
 #if defined(DEVHOST_HAS_SPEECH)
-#include <QtTextToSpeech/QTextToSpeech>
+#include <QTextToSpeech>
 #endif
 
 namespace devhost {
@@ -21,16 +21,19 @@ bool Speaker::isAvailable()
 void Speaker::setOn(bool isOn)
 {
     m_isOn = isOn && isAvailable();
-    if (!m_isOn && m_engine != nullptr)
+    if (!m_isOn && m_engine != nullptr) {
         qobject_cast<QTextToSpeech *>(m_engine)->stop();
+    }
 }
 
 void Speaker::say(const QString &text)
 {
-    if (!m_isOn || text.isEmpty())
+    if (!m_isOn || text.isEmpty()) {
         return;
-    if (m_engine == nullptr)
+    }
+    if (m_engine == nullptr) {
         m_engine = new QTextToSpeech(this);
+    }
     qobject_cast<QTextToSpeech *>(m_engine)->say(text);
 }
 

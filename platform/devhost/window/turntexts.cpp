@@ -3,9 +3,9 @@
 
 #include "turntexts.h"
 
-#include <QtCore/QDateTime>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QStringList>
+#include <QDateTime>
+#include <QJsonDocument>
+#include <QStringList>
 
 namespace devhost {
 namespace turntexts {
@@ -20,8 +20,9 @@ QString indented(const QString &json)
     const QJsonDocument document = QJsonDocument::fromJson(json.toUtf8());
     const QString text =
         document.isNull() ? json : QString::fromUtf8(document.toJson(QJsonDocument::Indented)).trimmed();
-    if (text.size() <= LongestText)
+    if (text.size() <= LongestText) {
         return text;
+    }
     return text.left(LongestText) + QStringLiteral("\n… (%1 characters)").arg(text.size());
 }
 
@@ -46,8 +47,9 @@ QString requests(const Turn &turn)
               << QStringLiteral("◂ answer")
               << (call.answer.isEmpty() ? QStringLiteral("(none)") : indented(call.answer)) << QString();
     }
-    if (turn.calls.isEmpty())
+    if (turn.calls.isEmpty()) {
         lines << QStringLiteral("(no requests)") << QString();
+    }
     lines << QStringLiteral("understanding   %1").arg(msecs(turn.understandingMsecs))
           << QStringLiteral("service()       %1, requests %2 of it")
                  .arg(msecs(turn.serviceMsecs), msecs(turn.requestMsecs()))
@@ -58,8 +60,9 @@ QString requests(const Turn &turn)
 QString reply(const Turn &turn)
 {
     QStringList lines;
-    if (!turn.failure.isEmpty())
+    if (!turn.failure.isEmpty()) {
         lines << QStringLiteral("failure   %1").arg(turn.failure);
+    }
     lines << QStringLiteral("service() %1").arg(turn.status) << QStringLiteral("code      %1").arg(turn.code)
           << QStringLiteral("display   ") + turn.display << QStringLiteral("speech    ") + turn.speech
           << QStringLiteral("type      %1").arg(turn.type)
@@ -73,9 +76,10 @@ QString reply(const Turn &turn)
 QString log(const Turn &turn)
 {
     QStringList lines;
-    for (const LogRecord &record : turn.logs)
+    for (const LogRecord &record : turn.logs) {
         lines << QDateTime::fromMSecsSinceEpoch(record.atMsecs).toString(QStringLiteral("hh:mm:ss.zzz ")) +
                      record.toText();
+    }
     return lines.join(QLatin1Char('\n'));
 }
 

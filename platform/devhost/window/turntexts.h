@@ -5,7 +5,7 @@
 
 #include "turn.h"
 
-#include <QtCore/QString>
+#include <QString>
 
 /// What the inspector shows of a turn, as plain texts.
 namespace devhost {

@@ -3,8 +3,8 @@
 
 #include "waitingdots.h"
 
-#include <QtCore/QTimerEvent>
-#include <QtGui/QPainter>
+#include <QPainter>
+#include <QTimerEvent>
 
 namespace devhost {
 
@@ -44,8 +44,9 @@ void WaitingDots::paintEvent(QPaintEvent *)
 
 void WaitingDots::timerEvent(QTimerEvent *event)
 {
-    if (event->timerId() != m_timer.timerId())
+    if (event->timerId() != m_timer.timerId()) {
         return QWidget::timerEvent(event);
+    }
     m_step = (m_step + 1) % Dots;
     update();
 }

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <QtCore/QBasicTimer>
-#include <QtWidgets/QWidget>
+#include <QBasicTimer>
+#include <QWidget>
 
 namespace devhost {
 

@@ -10,7 +10,7 @@
 #include <lumo/lspinbox.h>
 #include <lumo/lsuggestbutton.h>
 
-#include <QtWidgets/QVBoxLayout>
+#include <QVBoxLayout>
 
 namespace devhost {
 

@@ -5,10 +5,10 @@
 
 #include <lumo/lfontsizemanager.h>
 
-#include <QtGui/QIcon>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QVBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
 
 namespace devhost {
 

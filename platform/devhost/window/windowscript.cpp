@@ -7,10 +7,10 @@
 #include "conversationview.h"
 #include "mainwindow.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QTimer>
-#include <QtGui/QPixmap>
-#include <QtWidgets/QAbstractButton>
+#include <QAbstractButton>
+#include <QDir>
+#include <QPixmap>
+#include <QTimer>
 
 namespace devhost {
 
@@ -57,12 +57,13 @@ void WindowScript::next()
         line = line.trimmed();
     } while (outcome != LineReader::End && (line.isEmpty() || line.startsWith(QLatin1Char('#'))));
     const QString press = QStringLiteral("@press ");
-    if (outcome == LineReader::End)
+    if (outcome == LineReader::End) {
         Q_EMIT finished(m_isFine);
-    else if (line.startsWith(press))
+    } else if (line.startsWith(press)) {
         this->press(line.mid(press.size()));
-    else
+    } else {
         m_window.submit(line);
+    }
 }
 
 void WindowScript::press(const QString &text)
@@ -70,13 +71,15 @@ void WindowScript::press(const QString &text)
     const auto buttons = m_window.view()->findChildren<QAbstractButton *>();
     QAbstractButton *last = nullptr;
     for (QAbstractButton *button : buttons) {
-        if (button->text() == text && button->isEnabled())
+        if (button->text() == text && button->isEnabled()) {
             last = button;
+        }
     }
-    if (last != nullptr)
+    if (last != nullptr) {
         last->click();
-    else
+    } else {
         m_isFine = false;
+    }
     settle();
 }
 

@@ -5,7 +5,7 @@
 
 #include "linereader.h"
 
-#include <QtCore/QObject>
+#include <QObject>
 
 namespace devhost {
 

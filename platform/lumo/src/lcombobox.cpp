@@ -3,7 +3,7 @@
 
 #include "lumo/lcombobox.h"
 
-#include <QtGui/QWheelEvent>
+#include <QWheelEvent>
 
 LComboBox::LComboBox(QWidget *parent) : QComboBox(parent)
 {
@@ -12,8 +12,9 @@ LComboBox::LComboBox(QWidget *parent) : QComboBox(parent)
 
 void LComboBox::wheelEvent(QWheelEvent *event)
 {
-    if (hasFocus())
+    if (hasFocus()) {
         QComboBox::wheelEvent(event);
-    else
+    } else {
         event->ignore();
+    }
 }

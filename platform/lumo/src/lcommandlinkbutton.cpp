@@ -7,10 +7,10 @@
 #include "lumo/lfontsizemanager.h"
 #include "lumo/plaintooltip.h"
 
-#include <QtGui/QHelpEvent>
-#include <QtGui/QPainter>
-#include <QtWidgets/QStyleOptionButton>
-#include <QtWidgets/QToolTip>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyleOptionButton>
+#include <QToolTip>
 
 namespace {
 constexpr int HorizontalPadding = 2;
@@ -73,8 +73,9 @@ QFont LCommandLinkButton::shownFont() const
     const int smallest = LFontSizeManager::instance()->fontPixelSize(LFontSizeManager::T10);
     QFont shown = font();
     int pixelSize = fontInfo().pixelSize();
-    while (pixelSize > smallest && QFontMetrics(shown).size(Qt::TextShowMnemonic, text()).width() > room)
+    while (pixelSize > smallest && QFontMetrics(shown).size(Qt::TextShowMnemonic, text()).width() > room) {
         shown.setPixelSize(--pixelSize);
+    }
     return shown;
 }
 

@@ -5,7 +5,7 @@
 
 #include "lumo/lguiapplicationhelper.h"
 
-#include <QtGui/QPainter>
+#include <QPainter>
 
 namespace {
 constexpr qreal Radius = 4;
@@ -17,8 +17,9 @@ constexpr QColor Ground(247, 247, 247, 180);
 void paintLegibleGround(QPainter &painter, const QRect &rect, const QColor &text)
 {
     const bool darkTheme = LGuiApplicationHelper::instance()->themeType() == LGuiApplicationHelper::DarkType;
-    if (!darkTheme || qGray(text.rgb()) >= DarkestOnDark)
+    if (!darkTheme || qGray(text.rgb()) >= DarkestOnDark) {
         return;
+    }
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);

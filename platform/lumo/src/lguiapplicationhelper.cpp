@@ -5,7 +5,7 @@
 
 #include "palettes.h"
 
-#include <QtWidgets/QApplication>
+#include <QApplication>
 
 LGuiApplicationHelper::LGuiApplicationHelper()
 {
@@ -27,17 +27,20 @@ LGuiApplicationHelper::ColorType LGuiApplicationHelper::themeType() const
 
 void LGuiApplicationHelper::setPaletteType(ColorType type)
 {
-    if (qGuiApp == nullptr || type == m_paletteType)
+    if (qGuiApp == nullptr || type == m_paletteType) {
         return;
-    if (m_paletteType == UnknownType)
+    }
+    if (m_paletteType == UnknownType) {
         m_desktopPalette = QGuiApplication::palette();
+    }
     m_paletteType = type;
     const QPalette palette = type == UnknownType ? m_desktopPalette : standardPalette(type);
     // The widgets of an application without QApplication do not exist.
-    if (qobject_cast<QApplication *>(qGuiApp) != nullptr)
+    if (qobject_cast<QApplication *>(qGuiApp) != nullptr) {
         QApplication::setPalette(palette);
-    else
+    } else {
         QGuiApplication::setPalette(palette);
+    }
 }
 
 LGuiApplicationHelper::ColorType LGuiApplicationHelper::paletteType() const
@@ -60,8 +63,9 @@ LGuiApplicationHelper::ColorType LGuiApplicationHelper::toColorType(const QPalet
 void LGuiApplicationHelper::followApplication()
 {
     // The helper may be asked for before there is an application, and tests make several one after another.
-    if (m_followed == qGuiApp || qGuiApp == nullptr)
+    if (m_followed == qGuiApp || qGuiApp == nullptr) {
         return;
+    }
     m_followed = qGuiApp;
     m_paletteType = UnknownType;
     m_announced = themeType();
@@ -71,8 +75,9 @@ void LGuiApplicationHelper::followApplication()
 void LGuiApplicationHelper::announceChange()
 {
     const ColorType now = themeType();
-    if (now == m_announced)
+    if (now == m_announced) {
         return;
+    }
     m_announced = now;
     Q_EMIT themeTypeChanged(now);
 }

@@ -5,10 +5,10 @@
 
 #include "lumo/plaintooltip.h"
 
-#include <QtGui/QHelpEvent>
-#include <QtGui/QPainter>
-#include <QtWidgets/QStyle>
-#include <QtWidgets/QToolTip>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
 
 LLabel::LLabel(QWidget *parent, Qt::WindowFlags flags) : QLabel(parent, flags)
 {
@@ -23,8 +23,9 @@ LLabel::LLabel(const QString &text, QWidget *parent, Qt::WindowFlags flags) : LL
 
 void LLabel::setElideMode(Qt::TextElideMode mode)
 {
-    if (m_elideMode == mode)
+    if (m_elideMode == mode) {
         return;
+    }
     m_elideMode = mode;
     updateGeometry();
     update();
@@ -38,8 +39,9 @@ Qt::TextElideMode LLabel::elideMode() const
 QSize LLabel::minimumSizeHint() const
 {
     const QSize whole = QLabel::minimumSizeHint();
-    if (m_elideMode == Qt::ElideNone || text().isEmpty() || wordWrap())
+    if (m_elideMode == Qt::ElideNone || text().isEmpty() || wordWrap()) {
         return whole;
+    }
     // Room for one character and the dots: whoever lays the label out may go down to that.
     const int least = fontMetrics().horizontalAdvance(text().at(0)) +
                       fontMetrics().horizontalAdvance(QChar(0x2026)) + 2 * margin();
@@ -77,10 +79,12 @@ void LLabel::paintEvent(QPaintEvent *event)
 
 QString LLabel::shownText() const
 {
-    if (m_elideMode == Qt::ElideNone || wordWrap())
+    if (m_elideMode == Qt::ElideNone || wordWrap()) {
         return text();
+    }
     // QLabel remembers its size, and eliding would shape the text once more.
-    if (QLabel::sizeHint().width() <= width())
+    if (QLabel::sizeHint().width() <= width()) {
         return text();
+    }
     return fontMetrics().elidedText(text(), m_elideMode, contentsRect().width() - 2 * margin());
 }

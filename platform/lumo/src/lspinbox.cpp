@@ -3,7 +3,7 @@
 
 #include "lumo/lspinbox.h"
 
-#include <QtGui/QWheelEvent>
+#include <QWheelEvent>
 
 LSpinBox::LSpinBox(QWidget *parent) : QSpinBox(parent)
 {
@@ -23,8 +23,9 @@ bool LSpinBox::enabledEmbedStyle() const
 
 void LSpinBox::wheelEvent(QWheelEvent *event)
 {
-    if (hasFocus())
+    if (hasFocus()) {
         QSpinBox::wheelEvent(event);
-    else
+    } else {
         event->ignore();
+    }
 }

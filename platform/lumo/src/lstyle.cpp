@@ -6,8 +6,8 @@
 #include "lumo/lguiapplicationhelper.h"
 #include "stylepainting.h"
 
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QStyleOption>
+#include <QPushButton>
+#include <QStyleOption>
 
 namespace {
 
@@ -18,8 +18,9 @@ constexpr int IndicatorExtent = 18;
 void drawFocusRing(const QStyleOption *option, QPainter *painter)
 {
     if (option->state.testFlag(QStyle::State_HasFocus) &&
-        option->state.testFlag(QStyle::State_KeyboardFocusChange))
+        option->state.testFlag(QStyle::State_KeyboardFocusChange)) {
         StylePainting::focusRing(*painter, *option);
+    }
 }
 
 } // namespace
@@ -40,8 +41,9 @@ void LStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
         return;
     case PE_FrameFocusRect:
         // The ring of a button goes around all of it, not around its text as this would.
-        if (qobject_cast<const QPushButton *>(widget) == nullptr)
+        if (qobject_cast<const QPushButton *>(widget) == nullptr) {
             drawFocusRing(option, painter);
+        }
         return;
     case PE_IndicatorCheckBox:
         StylePainting::checkMark(*painter, *option);
@@ -55,8 +57,9 @@ void LStyle::drawControl(ControlElement element, const QStyleOption *option, QPa
                          const QWidget *widget) const
 {
     QProxyStyle::drawControl(element, option, painter, widget);
-    if (element == CE_PushButton)
+    if (element == CE_PushButton) {
         drawFocusRing(option, painter);
+    }
 }
 
 void LStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
@@ -64,12 +67,13 @@ void LStyle::drawComplexControl(ComplexControl control, const QStyleOptionComple
 {
     const auto *comboBox = qstyleoption_cast<const QStyleOptionComboBox *>(option);
     const auto *spinBox = qstyleoption_cast<const QStyleOptionSpinBox *>(option);
-    if (control == CC_ComboBox && comboBox != nullptr)
+    if (control == CC_ComboBox && comboBox != nullptr) {
         drawComboBox(*comboBox, painter, widget);
-    else if (control == CC_SpinBox && spinBox != nullptr)
+    } else if (control == CC_SpinBox && spinBox != nullptr) {
         drawSpinBox(*spinBox, painter, widget);
-    else
+    } else {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
 }
 
 void LStyle::drawComboBox(const QStyleOptionComboBox &option, QPainter *painter, const QWidget *widget) const
@@ -100,8 +104,9 @@ QSize LStyle::sizeFromContents(ContentsType type, const QStyleOption *option, co
                                const QWidget *widget) const
 {
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-    if (type == CT_PushButton || type == CT_ComboBox || type == CT_SpinBox)
+    if (type == CT_PushButton || type == CT_ComboBox || type == CT_SpinBox) {
         return size.expandedTo(QSize(0, ControlHeight));
+    }
     return size;
 }
 

@@ -3,8 +3,8 @@
 
 #include "lumo/lsuggestbutton.h"
 
-#include <QtWidgets/QStyleOptionButton>
-#include <QtWidgets/QStylePainter>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 
 LSuggestButton::LSuggestButton(QWidget *parent) : QPushButton(parent) {}
 

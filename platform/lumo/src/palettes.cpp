@@ -65,8 +65,9 @@ template <std::size_t Count>
 QPalette make(const RoleColor (&colors)[Count])
 {
     QPalette palette;
-    for (const RoleColor &entry : colors)
+    for (const RoleColor &entry : colors) {
         palette.setColor(QPalette::All, entry.role, QColor::fromRgb(entry.color));
+    }
     for (const QPalette::ColorRole role : TextRoles) {
         QColor faint = palette.color(QPalette::Active, role);
         faint.setAlphaF(DisabledTextOpacity);

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtGui/QPalette>
+#include <QPalette>
 
 /// The toolkit's colours. What is disabled has the same colours, fainter.
 namespace Palettes {

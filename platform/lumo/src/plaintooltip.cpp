@@ -5,7 +5,8 @@
 
 QString plainToolTip(const QString &text)
 {
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         return {};
+    }
     return QLatin1String("<p>") + text.toHtmlEscaped() + QLatin1String("</p>");
 }

@@ -3,8 +3,8 @@
 
 #include "stylepainting.h"
 
-#include <QtGui/QPainter>
-#include <QtWidgets/QStyleOption>
+#include <QPainter>
+#include <QStyleOption>
 
 namespace {
 
@@ -40,12 +40,13 @@ bool is(const QStyleOption &option, QStyle::StateFlag flag)
 QColor groundOf(const QStyleOption &option, QPalette::ColorRole role)
 {
     QColor color = option.palette.color(role);
-    if (!is(option, QStyle::State_Enabled))
+    if (!is(option, QStyle::State_Enabled)) {
         color.setAlpha(DisabledAlpha);
-    else if (is(option, QStyle::State_Sunken))
+    } else if (is(option, QStyle::State_Sunken)) {
         color = color.darker(PressedFactor);
-    else if (is(option, QStyle::State_MouseOver))
+    } else if (is(option, QStyle::State_MouseOver)) {
         color = color.darker(HoverFactor);
+    }
     return color;
 }
 
@@ -61,8 +62,9 @@ QRectF inside(const QRect &rect, qreal lineWidth)
 void StylePainting::button(QPainter &painter, const QStyleOption &option, bool flat)
 {
     const bool touched = is(option, QStyle::State_MouseOver) || is(option, QStyle::State_Sunken);
-    if (flat && !touched)
+    if (flat && !touched) {
         return;
+    }
     const PainterState state(painter);
     painter.setPen(Qt::NoPen);
     painter.setBrush(groundOf(option, QPalette::Button));
@@ -102,8 +104,9 @@ void StylePainting::checkMark(QPainter &painter, const QStyleOption &option)
     painter.setBrush(groundOf(option, checked ? QPalette::Highlight : QPalette::Base));
     painter.setPen(checked ? QPen(Qt::NoPen) : QPen(option.palette.color(QPalette::Mid), 1));
     painter.drawRoundedRect(box, CheckRadius, CheckRadius);
-    if (!checked)
+    if (!checked) {
         return;
+    }
     painter.setPen(QPen(option.palette.color(QPalette::HighlightedText), SignWidth, Qt::SolidLine,
                         Qt::RoundCap, Qt::RoundJoin));
     const auto at = [&box](qreal x, qreal y) {

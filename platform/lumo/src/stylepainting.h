@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QtGlobal>
+#include <QtGlobal>
 
 QT_BEGIN_NAMESPACE
 class QPainter;

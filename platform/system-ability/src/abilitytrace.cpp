@@ -3,9 +3,9 @@
 
 #include "abilitytrace.h"
 
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtCore/QLoggingCategory>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLoggingCategory>
 
 namespace {
 
@@ -21,8 +21,9 @@ AbilityTrace::AbilityTrace(const QString &action, const QString &parameters)
 
 void AbilityTrace::finish(int code, const QString &answer) const
 {
-    if (!ability().isDebugEnabled())
+    if (!ability().isDebugEnabled()) {
         return;
+    }
     const std::chrono::duration<double, std::milli> passed = std::chrono::steady_clock::now() - m_start;
     const QJsonObject record{{QStringLiteral("action"), m_action},
                              {QStringLiteral("parameters"), withoutPassword(m_parameters)},
@@ -36,8 +37,9 @@ QString AbilityTrace::withoutPassword(const QString &parameters)
 {
     const QLatin1String key("password");
     QJsonObject object = QJsonDocument::fromJson(parameters.toUtf8()).object();
-    if (object.value(key).toString().isEmpty())
+    if (object.value(key).toString().isEmpty()) {
         return parameters;
+    }
     object.insert(key, QStringLiteral("••••"));
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
 }

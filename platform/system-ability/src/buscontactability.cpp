@@ -9,7 +9,7 @@
 
 #include <kelvane/abilitycodes.h>
 
-#include <QtCore/QDebug>
+#include <QDebug>
 
 void BusContactAbility::setTimeout(const int &msecs)
 {
@@ -22,11 +22,12 @@ int BusContactAbility::request(const QString &action, const QString &parameters,
     const auto pending = std::make_shared<PendingRequest>(action, parameters, m_timeoutMsecs);
     BusLink::instance().send(pending);
     const PendingRequest::Result result = pending->wait();
-    if (result.code == AbilityCode::Success)
+    if (result.code == AbilityCode::Success) {
         answer = result.answer;
-    else
+    } else {
         qWarning().noquote() << "The request" << action << "failed with" << result.code << result.errorName
                              << result.errorMessage;
+    }
     trace.finish(result.code, result.answer);
     return result.code;
 }

@@ -9,8 +9,8 @@
 
 #include <kelvane/abilitycodes.h>
 
-#include <QtDBus/QDBusPendingCallWatcher>
-#include <QtDBus/QDBusPendingReply>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
 
 #include <functional>
 
@@ -32,8 +32,9 @@ QString objectPath()
 
 PendingRequest::Result resultOf(const QDBusPendingReply<QString> &reply)
 {
-    if (reply.isError())
+    if (reply.isError()) {
         return {codeOf(reply.error()), {}, reply.error().name(), reply.error().message()};
+    }
     return {AbilityCode::Success, reply.value(), {}, {}};
 }
 
@@ -78,8 +79,9 @@ void BusLink::send(const std::shared_ptr<PendingRequest> &request)
 void BusLink::call(const std::shared_ptr<PendingRequest> &request)
 {
     const int remaining = request->remainingMsecs();
-    if (remaining == 0)
+    if (remaining == 0) {
         return; // its caller has gone; what nobody waits for is not started
+    }
     const QDBusError error = connectToBus();
     if (error.isValid()) {
         request->finish({AbilityCode::NoBus, {}, error.name(), error.message()});
@@ -95,8 +97,9 @@ void BusLink::call(const std::shared_ptr<PendingRequest> &request)
 
 QDBusError BusLink::connectToBus()
 {
-    if (m_proxy && m_proxy->connection().isConnected())
+    if (m_proxy && m_proxy->connection().isConnected()) {
         return {};
+    }
     disconnectFromBus();
     m_connectionName = QStringLiteral("contact-ability-%1").arg(++m_connectionCount);
     // The address is read anew each time: the library below remembers the first one for ever.
@@ -116,7 +119,8 @@ QDBusError BusLink::connectToBus()
 void BusLink::disconnectFromBus()
 {
     m_proxy.reset();
-    if (!m_connectionName.isEmpty())
+    if (!m_connectionName.isEmpty()) {
         QDBusConnection::disconnectFromBus(m_connectionName);
+    }
     m_connectionName.clear();
 }

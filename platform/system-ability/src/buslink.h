@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <QtCore/QObject>
-#include <QtCore/QThread>
-#include <QtDBus/QDBusConnection>
+#include <QDBusConnection>
+#include <QObject>
+#include <QThread>
 
 #include <memory>
 

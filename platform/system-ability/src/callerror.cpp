@@ -5,7 +5,7 @@
 
 #include <kelvane/abilitycodes.h>
 
-#include <QtCore/QLatin1String>
+#include <QLatin1String>
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtDBus/QDBusError>
+#include <QDBusError>
 
 /// The code (see AbilityCode) for an error that ended a call before its time had passed.
 int codeOf(const QDBusError &error);

@@ -18,8 +18,9 @@ void PendingRequest::finish(const Result &result)
 {
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        if (m_isFinished)
+        if (m_isFinished) {
             return;
+        }
         m_isFinished = true;
         m_result = result;
     }

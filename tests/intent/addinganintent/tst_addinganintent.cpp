@@ -4,7 +4,7 @@
 #include "deleteconferenceintent.h"
 #include "dynamicregisterintentfactory.h"
 
-#include <QtTest/QTest>
+#include <QTest>
 
 #include <memory>
 

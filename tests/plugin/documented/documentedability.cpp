@@ -4,8 +4,8 @@
 // The ability library once more, written down from its documentation and never from its headers. It answers
 // every request with "OK" and keeps a list of what was called, in order.
 
-#include <QtCore/QString>
-#include <QtCore/QStringList>
+#include <QString>
+#include <QStringList>
 
 class Q_DECL_EXPORT ContactAbility
 {

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <QtCore/QObject>
-#include <QtCore/QStringList>
-#include <QtCore/QVariant>
+#include <QObject>
+#include <QStringList>
+#include <QVariant>
 
 #include <functional>
 

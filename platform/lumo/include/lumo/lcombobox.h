@@ -5,7 +5,7 @@
 
 #include "lumoglobal.h"
 
-#include <QtWidgets/QComboBox>
+#include <QComboBox>
 
 /// A combo box for cards in a scrolling view: the wheel changes the choice only while the box has the focus.
 class LUMO_EXPORT LComboBox : public QComboBox

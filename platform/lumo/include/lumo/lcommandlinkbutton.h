@@ -5,7 +5,7 @@
 
 #include "lumoglobal.h"
 
-#include <QtWidgets/QPushButton>
+#include <QPushButton>
 
 /**
  * A button that looks like a line of text: no frame, the text in the palette's ButtonText colour, underlined

@@ -5,7 +5,7 @@
 
 #include "lumoglobal.h"
 
-#include <QtGui/QFont>
+#include <QFont>
 
 /// The sizes that texts of the desktop come in, from the largest (T1) to the smallest (T10). May be used on
 /// any thread once there is an application.

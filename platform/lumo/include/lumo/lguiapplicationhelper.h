@@ -5,10 +5,10 @@
 
 #include "lumoglobal.h"
 
-#include <QtCore/QObject>
-#include <QtCore/QPointer>
-#include <QtGui/QGuiApplication>
-#include <QtGui/QPalette>
+#include <QGuiApplication>
+#include <QObject>
+#include <QPalette>
+#include <QPointer>
 
 /**
  * Tells whether the desktop is light or dark and says when that changes. The theme is read from the

@@ -5,7 +5,7 @@
 
 #include "lumoglobal.h"
 
-#include <QtWidgets/QLabel>
+#include <QLabel>
 
 /**
  * A label for text that somebody else wrote: it shows every character as it is. Markup is taken as text, also

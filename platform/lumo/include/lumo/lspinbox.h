@@ -5,7 +5,7 @@
 
 #include "lumoglobal.h"
 
-#include <QtWidgets/QSpinBox>
+#include <QSpinBox>
 
 /// A spin box for cards in a scrolling view: the wheel changes the value only while the box has the focus.
 class LUMO_EXPORT LSpinBox : public QSpinBox

@@ -5,7 +5,7 @@
 
 #include "lumoglobal.h"
 
-#include <QtWidgets/QProxyStyle>
+#include <QProxyStyle>
 
 QT_BEGIN_NAMESPACE
 class QStyleOptionComboBox;

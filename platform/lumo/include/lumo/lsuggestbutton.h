@@ -5,7 +5,7 @@
 
 #include "lumoglobal.h"
 
-#include <QtWidgets/QPushButton>
+#include <QPushButton>
 
 /// The button that is the suggested one among several: in the accent colour of the palette (Highlight), with
 /// the text in HighlightedText. Follows the application's palette.

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QtGlobal>
+#include <QtGlobal>
 
 /// Marks what the toolkit's library gives to others; everything else stays hidden in it.
 #if defined(LUMO_LIBRARY)

@@ -5,7 +5,7 @@
 
 #include "lumoglobal.h"
 
-#include <QtCore/QString>
+#include <QString>
 
 /**
  * @p text as a tool tip that shows every character as it is. A tool tip has no plain format: Qt guesses, and

@@ -5,8 +5,8 @@
 
 #include <speakmate/reply.h>
 
-#include <QtCore/QObject>
-#include <QtCore/QString>
+#include <QObject>
+#include <QString>
 
 using ServicePriority = int;
 

@@ -5,8 +5,8 @@
 
 #include <speakmate/iservice.h>
 
-#include <QtCore/QStringList>
-#include <QtCore/QtPlugin>
+#include <QStringList>
+#include <QtPlugin>
 
 #include <functional>
 

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <QtCore/QMetaType>
-#include <QtCore/QString>
-#include <QtCore/QVariant>
+#include <QMetaType>
+#include <QString>
+#include <QVariant>
 
 QT_BEGIN_NAMESPACE
 class QWidget;

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <QtCore/QString>
-#include <QtCore/QtGlobal>
+#include <QString>
+#include <QtGlobal>
 
 #if defined(KELVANE_ABILITY_LIBRARY)
 #define KELVANE_ABILITY_EXPORT Q_DECL_EXPORT

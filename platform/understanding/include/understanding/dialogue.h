@@ -27,20 +27,20 @@ public:
     /// The names that are known, in any order. They are recognised as wholes, whatever words they contain.
     void setContactNames(const QStringList &names);
 
-    /// The semantic JSON for \a sentence, with times resolved against \a now (local time).
+    /// The semantic JSON for @p sentence, with times resolved against @p now (local time).
     /// Always one JSON object; "shouldEndSession" is false where it only asks or says something ("answer",
     /// "voice_answer") and true where it holds one intent to carry out.
     QString turn(const QString &sentence, const QDateTime &now);
 
     /// Tells what the plugin answered to the last turn. The code that asks for a password (-16014) opens the
-    /// question for it, \a displayText being what the user saw; every other code is of no interest here.
+    /// question for it, @p displayText being what the user saw; every other code is of no interest here.
     void noteReply(int code, const QString &displayText);
 
     /// True while the open question is the one for a password: what is typed next belongs neither into a
     /// history nor into a log.
     bool nextIsSecret() const;
 
-    /// \a sentence as it may be shown and kept: a password in it, said as such or as the answer to the open
+    /// @p sentence as it may be shown and kept: a password in it, said as such or as the answer to the open
     /// question for one, is replaced by bullets. Ask before turn(), which may close that question.
     QString masked(const QString &sentence) const;
 

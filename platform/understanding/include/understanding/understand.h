@@ -9,8 +9,8 @@
 
 namespace understanding {
 
-/// The semantic JSON for one sentence that stands alone, with times resolved against \a now (local time) and
-/// \a contactNames recognised as wholes. Always one JSON object on one line. Thread-safe.
+/// The semantic JSON for one sentence that stands alone, with times resolved against @p now (local time) and
+/// @p contactNames recognised as wholes. Always one JSON object on one line. Thread-safe.
 QString understand(const QString &sentence, const QDateTime &now, const QStringList &contactNames = {});
 
 } // namespace understanding

@@ -13,7 +13,7 @@ namespace understanding {
 namespace {
 
 /// Words that may stand around an answer: 嗯，会议号是…吧.
-constexpr WordClasses around =
+constexpr WordClasses SurroundingWords =
     WordClass::Filler | WordClass::Punctuation | WordClass::LabelLink | WordClass::IdLabel |
     WordClass::PasswordLabel | WordClass::AccountLabel | WordClass::NameLabel | WordClass::Measure |
     WordClass::Separator | WordClass::Trigger | WordClass::Pull | WordClass::Nobody | WordClass::NameTail |
@@ -27,12 +27,12 @@ bool isSmallTalkParticle(const Sentence &sentence, const Token &token)
                        [](QChar character) { return particles.contains(character); });
 }
 
-/// True when the sentence holds nothing but what \a answers accepts and words around it.
+/// True when the sentence holds nothing but what @p answers accepts and words around it.
 template <typename Answers>
 bool holdsOnly(const Reading &reading, Answers answers)
 {
     return std::all_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
-        return token.kind == Token::Kind::Space || answers(token) || token.isAny(around) ||
+        return token.kind == Token::Kind::Space || answers(token) || token.isAny(SurroundingWords) ||
                (token.kind == Token::Kind::Other && isSmallTalkParticle(reading.sentence(), token));
     });
 }
@@ -44,13 +44,15 @@ bool isCode(const Token &token)
 
 bool takeNumber(const Reading &reading, Outcome &outcome)
 {
-    if (reading.conferenceNumber().isEmpty() || !holdsOnly(reading, isCode))
+    if (reading.conferenceNumber().isEmpty() || !holdsOnly(reading, isCode)) {
         return false;
+    }
     const QString number = reading.conferenceNumber().normValue;
-    outcome.addSlot(idSlot, number, number);
+    outcome.addSlot(IdSlot, number, number);
     const Said &password = reading.password();
-    if (!password.isEmpty() && !outcome.hasSlot(passwordSlot))
-        outcome.addSlot(passwordSlot, password.value, password.normValue);
+    if (!password.isEmpty() && !outcome.hasSlot(PasswordSlot)) {
+        outcome.addSlot(PasswordSlot, password.value, password.normValue);
+    }
     return true;
 }
 
@@ -58,9 +60,10 @@ bool takePassword(const Reading &reading, Outcome &outcome)
 {
     // Said with its label or alone.
     const Said &said = reading.password().isEmpty() ? reading.account() : reading.password();
-    if (said.isEmpty() || !holdsOnly(reading, isCode))
+    if (said.isEmpty() || !holdsOnly(reading, isCode)) {
         return false;
-    outcome.addSlot(passwordSlot, said.value, said.normValue);
+    }
+    outcome.addSlot(PasswordSlot, said.value, said.normValue);
     return true;
 }
 
@@ -69,8 +72,9 @@ std::vector<FoundName> answeredNames(const Reading &reading)
 {
     const Sentence &sentence = reading.sentence();
     std::vector<FoundName> names = findAnsweredNames(sentence.raw(), sentence.text(), reading.tokens());
-    if (names.size() < reading.names().size())
+    if (names.size() < reading.names().size()) {
         names = reading.names();
+    }
     const bool onlyNames = holdsOnly(reading, [&](const Token &token) {
         return token.kind == Token::Kind::Name ||
                std::any_of(names.cbegin(), names.cend(), [&](const FoundName &name) {
@@ -84,21 +88,23 @@ bool takeAccount(const Reading &reading, Outcome &outcome)
 {
     const Said &account = reading.account();
     if (!account.isEmpty() && holdsOnly(reading, isCode)) {
-        outcome.addSlot(accountSlot, account.value, account.normValue);
+        outcome.addSlot(AccountSlot, account.value, account.normValue);
         return true;
     }
     const std::vector<FoundName> names = answeredNames(reading);
-    if (names.empty())
+    if (names.empty()) {
         return false;
-    outcome.addSlot(accountSlot, names.front().said, names.front().name);
+    }
+    outcome.addSlot(AccountSlot, names.front().said, names.front().name);
     return true;
 }
 
 bool takeNames(const Reading &reading, Outcome &outcome)
 {
     const std::vector<FoundName> names = answeredNames(reading);
-    for (const FoundName &name : names)
-        outcome.addSlot(nameSlot, name.said, name.name);
+    for (const FoundName &name : names) {
+        outcome.addSlot(NameSlot, name.said, name.name);
+    }
     return !names.empty();
 }
 
@@ -146,13 +152,15 @@ bool takeAnswer(const QString &question, const Reading &reading, const QDateTime
                   {"whom-to-add", takeAccount},
                   {"whom-to-invite", takeNames}};
     for (const auto &taker : takers) {
-        if (question == QLatin1String(taker.question))
+        if (question == QLatin1String(taker.question)) {
             return taker.take(reading, outcome);
+        }
     }
     // Every other question is about the time.
     if (reading.timeSaid().isEmpty() ||
-        !holdsOnly(reading, [](const Token &token) { return token.kind == Token::Kind::Time; }))
+        !holdsOnly(reading, [](const Token &token) { return token.kind == Token::Kind::Time; })) {
         return false;
+    }
     TimeExpression time = reading.time();
     time.complete(usableRest(question, timeBefore));
     outcome.answer.clear();

@@ -13,8 +13,8 @@ namespace understanding {
 /// True for a sentence that only ends a question: 算了, 取消吧.
 bool isGiveUp(const Reading &reading);
 
-/// Takes \a reading as the answer to \a question (a row of answers.tsv) and adds the slot to \a outcome. Only
-/// a sentence that holds nothing but an answer is one: chit-chat never fills a slot. \a timeBefore is what
+/// Takes @p reading as the answer to @p question (a row of answers.tsv) and adds the slot to @p outcome. Only
+/// a sentence that holds nothing but an answer is one: chit-chat never fills a slot. @p timeBefore is what
 /// was said of the time so far. Returns false when nothing was answered; a new problem with the answer is set
 /// as the outcome's answer.
 bool takeAnswer(const QString &question, const Reading &reading, const QDateTime &now,

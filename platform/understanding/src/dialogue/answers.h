@@ -8,9 +8,9 @@
 namespace understanding {
 
 /// How often the same question is put.
-constexpr int mostTries = 3;
+constexpr int MostTries = 3;
 
-/// The text of the row \a name of answers.tsv, for the \a tryNumber-th time (from 1); each try is clearer
+/// The text of the row @p name of answers.tsv, for the @p tryNumber-th time (from 1); each try is clearer
 /// than the last.
 QString answerText(const QString &name, int tryNumber = 1);
 

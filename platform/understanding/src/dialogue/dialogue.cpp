@@ -13,7 +13,7 @@ namespace understanding {
 
 namespace {
 
-constexpr int passwordNeeded = -16014;
+constexpr int PasswordNeeded = -16014;
 const QLatin1String passwordQuestion("which-password");
 const QLatin1String tooManyPasswords("passwords-tried");
 
@@ -30,8 +30,9 @@ struct OpenQuestion
 Said conferenceNumberOf(const Outcome &outcome)
 {
     for (const Slot &slot : outcome.slotList) {
-        if (slot.name == QLatin1String(idSlot))
+        if (slot.name == QLatin1String(IdSlot)) {
             return {0, 0, slot.value, slot.normValue};
+        }
     }
     return {};
 }
@@ -76,8 +77,9 @@ QString Dialogue::Private::ask(const Outcome &outcome, const TimeExpression &tim
 
 QString Dialogue::Private::askAgain()
 {
-    if (question.tries >= mostTries)
+    if (question.tries >= MostTries) {
         return close("given-up");
+    }
     ++question.tries;
     return answerJson(answerText(question.outcome.answer, question.tries));
 }
@@ -91,10 +93,12 @@ QString Dialogue::Private::close(const char *answer)
 /// Carries out, asks or refuses; a refusal without an intent leaves nothing open.
 QString Dialogue::Private::reply(const Outcome &outcome, const TimeExpression &time)
 {
-    if (outcome.isCommand())
+    if (outcome.isCommand()) {
         return carryOut(outcome);
-    if (!outcome.intent.isEmpty())
+    }
+    if (!outcome.intent.isEmpty()) {
         return ask(outcome, time);
+    }
     question = OpenQuestion();
     return answerJson(answerText(outcome.answer));
 }
@@ -102,8 +106,9 @@ QString Dialogue::Private::reply(const Outcome &outcome, const TimeExpression &t
 /// A full command, or one that is incomplete but for something else.
 bool Dialogue::Private::startsSomethingNew(const Outcome &fresh) const
 {
-    if (fresh.intent.isEmpty())
+    if (fresh.intent.isEmpty()) {
         return false;
+    }
     return fresh.isCommand() || fresh.intent != question.outcome.intent;
 }
 
@@ -114,8 +119,9 @@ QString Dialogue::Private::answerQuestion(const Reading &reading, const Outcome 
     answered.answer.clear();
     const bool taken = asked != tooManyPasswords && takeAnswer(asked, reading, now, question.time, answered);
     if (!taken) {
-        if (startsSomethingNew(fresh))
+        if (startsSomethingNew(fresh)) {
             return reply(fresh, reading.time());
+        }
         return asked == tooManyPasswords ? close("passwords-tried") : askAgain();
     }
     if (!answered.answer.isEmpty()) { // the time is still not one
@@ -133,10 +139,11 @@ void Dialogue::Private::askForPassword()
     passwordFor = number.normValue;
     Outcome outcome;
     // A password for "my" conference can only be carried with its number, which is asked for next.
-    outcome.intent = QLatin1String(enterConferenceById);
-    if (!number.isEmpty())
-        outcome.addSlot(idSlot, number.value, number.normValue);
-    outcome.answer = passwordRounds > mostTries ? tooManyPasswords : passwordQuestion;
+    outcome.intent = QLatin1String(EnterConferenceById);
+    if (!number.isEmpty()) {
+        outcome.addSlot(IdSlot, number.value, number.normValue);
+    }
+    outcome.answer = passwordRounds > MostTries ? tooManyPasswords : passwordQuestion;
     question = OpenQuestion();
     question.outcome = outcome;
     question.tries = 1; // the plugin has put it
@@ -153,22 +160,25 @@ void Dialogue::setContactNames(const QStringList &names)
 
 QString Dialogue::turn(const QString &sentence, const QDateTime &now)
 {
-    if (sentence.size() > longestSentence)
+    if (sentence.size() > LongestSentence) {
         return answerJson(answerText(QStringLiteral("too-long")));
+    }
     const Reading reading(sentence, d->contacts);
     const Outcome fresh = interpret(reading, now);
-    if (!d->question.isOpen())
+    if (!d->question.isOpen()) {
         return d->reply(fresh, reading.time());
-    if (isGiveUp(reading))
+    }
+    if (isGiveUp(reading)) {
         return d->close("cancelled");
+    }
     return d->answerQuestion(reading, fresh, now);
 }
 
 void Dialogue::noteReply(int code, const QString &)
 {
-    const bool joined = d->lastCommand.intent == QLatin1String(enterConferenceById) ||
-                        d->lastCommand.intent == QLatin1String(enterMyConference);
-    if (code == passwordNeeded && joined) {
+    const bool joined = d->lastCommand.intent == QLatin1String(EnterConferenceById) ||
+                        d->lastCommand.intent == QLatin1String(EnterMyConference);
+    if (code == PasswordNeeded && joined) {
         d->askForPassword();
     } else {
         d->passwordFor.clear();
@@ -185,18 +195,20 @@ bool Dialogue::nextIsSecret() const
 QString Dialogue::masked(const QString &sentence) const
 {
     constexpr QChar bullet(0x2022);
-    if (sentence.size() > longestSentence)
+    if (sentence.size() > LongestSentence) {
         return nextIsSecret() ? QString(sentence.size(), bullet) : sentence;
+    }
     const Reading reading(sentence, d->contacts);
     QString shown = sentence;
     const auto hide = [&](int position, int length) {
         shown.replace(position, length, QString(length, bullet));
     };
-    if (!reading.password().isEmpty())
+    if (!reading.password().isEmpty()) {
         hide(reading.password().position, reading.password().length);
-    else if (nextIsSecret() && !isGiveUp(reading) &&
-             interpret(reading, QDateTime::currentDateTime()).intent.isEmpty())
+    } else if (nextIsSecret() && !isGiveUp(reading) &&
+               interpret(reading, QDateTime::currentDateTime()).intent.isEmpty()) {
         hide(0, shown.size());
+    }
     return shown;
 }
 

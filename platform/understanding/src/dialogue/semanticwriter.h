@@ -14,7 +14,7 @@ namespace understanding {
 ///            "shouldEndSession":true}}
 QString commandJson(const Outcome &outcome);
 
-/// The semantic JSON of an answer, on one line: no intent, "shouldEndSession" false, \a text to show and to
+/// The semantic JSON of an answer, on one line: no intent, "shouldEndSession" false, @p text to show and to
 /// speak.
 QString answerJson(const QString &text);
 

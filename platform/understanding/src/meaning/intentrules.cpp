@@ -48,21 +48,24 @@ bool isNegated(const Reading &reading)
                                   WordClass::ComeMeet | WordClass::Arrive;
     const Tokens &tokens = reading.tokens();
     for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
-        if (!tokens[at].is(WordClass::Negation))
+        if (!tokens[at].is(WordClass::Negation)) {
             continue;
+        }
         std::size_t next = at + 1;
         while (next + 1 < tokens.size() &&
                (tokens[next].is(WordClass::Filler) || tokens[next].kind == Token::Kind::Time ||
-                tokens[next].is(WordClass::Nobody)))
+                tokens[next].is(WordClass::Nobody))) {
             ++next;
+        }
         // 不开会了，结束会议: what is wanted is the end.
         const bool endFollows = !tokens[next].is(WordClass::Close) &&
                                 std::any_of(tokens.cbegin() + static_cast<std::ptrdiff_t>(next),
                                             tokens.cend(), [](const Token &token) {
                                                 return token.isAny(WordClass::Close | WordClass::CloseAlone);
                                             });
-        if (tokens[next].isAny(deeds) && !endFollows)
+        if (tokens[next].isAny(deeds) && !endFollows) {
             return true;
+        }
     }
     return false;
 }
@@ -74,8 +77,9 @@ bool isMyOwn(const Reading &reading)
     for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
         const QChar owner = charAt(reading.sentence().text(), tokens[at + 1].position);
         if (tokens[at].isAny(WordClass::Join | WordClass::WeakJoin) &&
-            (owner == QChar(u'我') || owner == QChar(u'咱')))
+            (owner == QChar(u'我') || owner == QChar(u'咱'))) {
             return true;
+        }
     }
     return false;
 }
@@ -83,8 +87,9 @@ bool isMyOwn(const Reading &reading)
 /// 明天要开会吗 asks, 可以开个会吗 is polite.
 bool asksWhether(const Reading &reading)
 {
-    if (!reading.has(WordClass::QuestionParticle) || reading.openVerb().normValue != QStringLiteral("开"))
+    if (!reading.has(WordClass::QuestionParticle) || reading.openVerb().normValue != QStringLiteral("开")) {
         return false;
+    }
     static const QStringList polite = {QStringLiteral("可以"), QStringLiteral("能"),   QStringLiteral("帮"),
                                        QStringLiteral("麻烦"), QStringLiteral("行吗"), QStringLiteral("好吗"),
                                        QStringLiteral("可否"), QStringLiteral("方便"), QStringLiteral("给我"),
@@ -118,7 +123,7 @@ struct Finding
     bool (*holds)(const Reading &);
 };
 
-constexpr Finding findings[] = {
+constexpr Finding Findings[] = {
     {"opening", isOpening},
     {"people",
      [](const Reading &reading) {
@@ -192,14 +197,16 @@ struct Rule
 
 Test parseTest(const QString &name)
 {
-    for (const Finding &finding : findings) {
-        if (name == QLatin1String(finding.name))
+    for (const Finding &finding : Findings) {
+        if (name == QLatin1String(finding.name)) {
             return {WordClass::Count, finding.holds};
+        }
     }
     QString section = name;
     const WordClass wordClass = wordClassNamed(section.replace(QLatin1Char('-'), QLatin1Char(' ')));
-    if (wordClass == WordClass::Count)
+    if (wordClass == WordClass::Count) {
         qFatal("intents.tsv: there is no condition called %s.", qPrintable(name));
+    }
     return {wordClass, nullptr};
 }
 
@@ -207,11 +214,13 @@ Condition parseCondition(QString text)
 {
     Condition condition;
     condition.expected = !text.startsWith(QLatin1Char('!'));
-    if (!condition.expected)
+    if (!condition.expected) {
         text.remove(0, 1);
+    }
     const QStringList names = text.split(QLatin1Char('|'));
-    for (const QString &name : names)
+    for (const QString &name : names) {
         condition.anyOf.push_back(parseTest(name));
+    }
     return condition;
 }
 
@@ -225,8 +234,9 @@ const std::vector<Rule> &rules()
             rule.outcome = line.section(QLatin1Char('\t'), 0, 0);
             const QStringList conditions =
                 line.section(QLatin1Char('\t'), 1).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-            for (const QString &condition : conditions)
+            for (const QString &condition : conditions) {
                 rule.conditions.push_back(parseCondition(condition));
+            }
             all.push_back(std::move(rule));
         }
         return all;
@@ -239,8 +249,9 @@ const std::vector<Rule> &rules()
 QString decideIntent(const Reading &reading)
 {
     for (const Rule &rule : rules()) {
-        if (rule.fits(reading))
+        if (rule.fits(reading)) {
             return rule.outcome;
+        }
     }
     return QStringLiteral("? not-understood");
 }

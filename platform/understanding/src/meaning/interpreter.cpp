@@ -33,22 +33,25 @@ QString problemAnswer(ResolvedTime::Problem problem)
 
 void fillNames(Outcome &outcome, const Reading &reading)
 {
-    for (const FoundName &name : reading.names())
-        outcome.addSlot(nameSlot, name.said, name.name);
+    for (const FoundName &name : reading.names()) {
+        outcome.addSlot(NameSlot, name.said, name.name);
+    }
 }
 
 void fillOpenVerb(Outcome &outcome, const Reading &reading, const QDateTime &)
 {
-    if (!reading.openVerb().isEmpty())
-        outcome.addSlot(openSlot, reading.openVerb().value, reading.openVerb().normValue);
+    if (!reading.openVerb().isEmpty()) {
+        outcome.addSlot(OpenSlot, reading.openVerb().value, reading.openVerb().normValue);
+    }
 }
 
 void fillSaidTime(Outcome &outcome, const Reading &reading, const QDateTime &now)
 {
-    if (reading.has(WordClass::UnclearDay) || reading.has(WordClass::Festival))
+    if (reading.has(WordClass::UnclearDay) || reading.has(WordClass::Festival)) {
         outcome.answer = QStringLiteral("which-day");
-    else if (!reading.timeSaid().isEmpty())
+    } else if (!reading.timeSaid().isEmpty()) {
         fillTime(outcome, reading.time(), reading.timeSaid(), now);
+    }
 }
 
 void fillConference(Outcome &outcome, const Reading &reading, const QDateTime &now)
@@ -56,8 +59,9 @@ void fillConference(Outcome &outcome, const Reading &reading, const QDateTime &n
     fillNames(outcome, reading);
     fillSaidTime(outcome, reading, now);
     // To look at what comes "soon" is to look at everything to come; to open one soon needs the hour.
-    if (outcome.answer.isEmpty() && reading.timeSaid().isEmpty() && reading.has(WordClass::UnclearSoon))
+    if (outcome.answer.isEmpty() && reading.timeSaid().isEmpty() && reading.has(WordClass::UnclearSoon)) {
         outcome.answer = QStringLiteral("which-time");
+    }
     fillOpenVerb(outcome, reading, now);
 }
 
@@ -70,21 +74,23 @@ void fillNumber(Outcome &outcome, const Reading &reading, const QDateTime &)
 {
     // The handler reads the number's "value", so both are digits.
     const Said &number = reading.conferenceNumber();
-    if (!number.isEmpty() && !outcome.hasSlot(idSlot))
-        outcome.addSlot(idSlot, number.normValue, number.normValue);
+    if (!number.isEmpty() && !outcome.hasSlot(IdSlot)) {
+        outcome.addSlot(IdSlot, number.normValue, number.normValue);
+    }
     const Said &password = reading.password();
-    if (!password.isEmpty() && !outcome.hasSlot(passwordSlot))
-        outcome.addSlot(passwordSlot, password.value, password.normValue);
+    if (!password.isEmpty() && !outcome.hasSlot(PasswordSlot)) {
+        outcome.addSlot(PasswordSlot, password.value, password.normValue);
+    }
 }
 
 void fillAccount(Outcome &outcome, const Reading &reading, const QDateTime &)
 {
     const Said &account = reading.account();
     if (!account.isEmpty()) {
-        outcome.addSlot(accountSlot, account.value, account.normValue);
+        outcome.addSlot(AccountSlot, account.value, account.normValue);
     } else if (!reading.names().empty()) {
         const FoundName &name = reading.names().front();
-        outcome.addSlot(accountSlot, name.said, name.name);
+        outcome.addSlot(AccountSlot, name.said, name.name);
     }
 }
 
@@ -98,13 +104,13 @@ constexpr struct
     const char *required;
     const char *question;
 } intentTable[] = {
-    {createConference, fillConference, nullptr, nullptr},
-    {inviteConference, fillInvitation, nameSlot, "whom-to-invite"},
-    {enterConferenceById, fillNumber, idSlot, "which-conference"},
-    {enterMyConference, fillNothing, nullptr, nullptr},
-    {closeConference, fillNothing, nullptr, nullptr},
-    {queryConference, fillSaidTime, nullptr, nullptr},
-    {addBuddy, fillAccount, accountSlot, "whom-to-add"},
+    {CreateConference, fillConference, nullptr, nullptr},
+    {InviteConference, fillInvitation, NameSlot, "whom-to-invite"},
+    {EnterConferenceById, fillNumber, IdSlot, "which-conference"},
+    {EnterMyConference, fillNothing, nullptr, nullptr},
+    {CloseConference, fillNothing, nullptr, nullptr},
+    {QueryConference, fillSaidTime, nullptr, nullptr},
+    {AddBuddy, fillAccount, AccountSlot, "whom-to-add"},
 };
 
 } // namespace
@@ -112,18 +118,20 @@ constexpr struct
 void fillTime(Outcome &outcome, const TimeExpression &time, const QString &said, const QDateTime &now)
 {
     const ResolvedTime resolved = resolveTime(time, now);
-    if (resolved.problem == ResolvedTime::Problem::None)
-        outcome.addSlot(datetimeSlot, said, suggestedDatetime(resolved));
-    else
+    if (resolved.problem == ResolvedTime::Problem::None) {
+        outcome.addSlot(DatetimeSlot, said, suggestedDatetime(resolved));
+    } else {
         outcome.answer = problemAnswer(resolved.problem);
+    }
 }
 
 QString missingSlotQuestion(const Outcome &outcome)
 {
     for (const auto &row : intentTable) {
         if (outcome.intent == QLatin1String(row.intent) && row.required != nullptr &&
-            !outcome.hasSlot(row.required))
+            !outcome.hasSlot(row.required)) {
             return QLatin1String(row.question);
+        }
     }
     return {};
 }
@@ -131,7 +139,7 @@ QString missingSlotQuestion(const Outcome &outcome)
 Outcome interpret(const QString &sentence, const QDateTime &now, const ContactIndex &contacts)
 {
     Outcome outcome;
-    if (sentence.size() > longestSentence) {
+    if (sentence.size() > LongestSentence) {
         outcome.answer = QStringLiteral("too-long");
         return outcome;
     }
@@ -148,11 +156,13 @@ Outcome interpret(const Reading &reading, const QDateTime &now)
     }
     outcome.intent = decision;
     for (const auto &row : intentTable) {
-        if (outcome.intent == QLatin1String(row.intent))
+        if (outcome.intent == QLatin1String(row.intent)) {
             row.fill(outcome, reading, now);
+        }
     }
-    if (outcome.answer.isEmpty())
+    if (outcome.answer.isEmpty()) {
         outcome.answer = missingSlotQuestion(outcome);
+    }
     return outcome;
 }
 

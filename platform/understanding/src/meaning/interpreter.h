@@ -13,19 +13,19 @@
 namespace understanding {
 
 /// Sentences of more characters are refused unread.
-constexpr int longestSentence = 500;
+constexpr int LongestSentence = 500;
 
-/// What \a sentence, standing alone, comes to at \a now.
+/// What @p sentence, standing alone, comes to at @p now.
 Outcome interpret(const QString &sentence, const QDateTime &now, const ContactIndex &contacts);
 
-/// Decides what \a reading, standing alone, comes to at \a now.
+/// Decides what @p reading, standing alone, comes to at @p now.
 Outcome interpret(const Reading &reading, const QDateTime &now);
 
-/// Adds the datetime slot for \a time, which was typed as \a said; sets the answer where the time cannot be
+/// Adds the datetime slot for @p time, which was typed as @p said; sets the answer where the time cannot be
 /// told.
 void fillTime(Outcome &outcome, const TimeExpression &time, const QString &said, const QDateTime &now);
 
-/// The slot that \a outcome's intent cannot do without and does not have, as the question to ask; empty for
+/// The slot that @p outcome's intent cannot do without and does not have, as the question to ask; empty for
 /// none.
 QString missingSlotQuestion(const Outcome &outcome);
 

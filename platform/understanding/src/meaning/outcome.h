@@ -9,21 +9,21 @@
 namespace understanding {
 
 // The intents, as the handlers are registered.
-constexpr char createConference[] = "CREATE_CONFERENCE";
-constexpr char inviteConference[] = "INVITE_CONFERENCE";
-constexpr char enterConferenceById[] = "ENETR_ID_CONFERENCE"; // its spelling is the interface
-constexpr char enterMyConference[] = "ENTER_MY_CONFERENCE";
-constexpr char closeConference[] = "CLOSE_CONFERENCE";
-constexpr char queryConference[] = "QUERY_CONFERENCE";
-constexpr char addBuddy[] = "ADD_BUDDY";
+constexpr char CreateConference[] = "CREATE_CONFERENCE";
+constexpr char InviteConference[] = "INVITE_CONFERENCE";
+constexpr char EnterConferenceById[] = "ENETR_ID_CONFERENCE"; // its spelling is the interface
+constexpr char EnterMyConference[] = "ENTER_MY_CONFERENCE";
+constexpr char CloseConference[] = "CLOSE_CONFERENCE";
+constexpr char QueryConference[] = "QUERY_CONFERENCE";
+constexpr char AddBuddy[] = "ADD_BUDDY";
 
 // The slots that the handlers read.
-constexpr char nameSlot[] = "name";
-constexpr char datetimeSlot[] = "datetime";
-constexpr char openSlot[] = "open";
-constexpr char idSlot[] = "id";
-constexpr char passwordSlot[] = "password";
-constexpr char accountSlot[] = "account";
+constexpr char NameSlot[] = "name";
+constexpr char DatetimeSlot[] = "datetime";
+constexpr char OpenSlot[] = "open";
+constexpr char IdSlot[] = "id";
+constexpr char PasswordSlot[] = "password";
+constexpr char AccountSlot[] = "account";
 
 /// One thing said with an intent.
 struct Slot

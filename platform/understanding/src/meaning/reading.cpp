@@ -14,7 +14,7 @@ namespace understanding {
 
 namespace {
 
-constexpr int shortestNumber = 3; // 3号会议室 has no number of a conference
+constexpr int ShortestNumber = 3; // 3号会议室 has no number of a conference
 
 } // namespace
 
@@ -42,21 +42,24 @@ void Reading::collectClasses()
             token.length == 1 && std::any_of(m_names.cbegin(), m_names.cend(), [&](const FoundName &name) {
                 return token.position >= name.position && token.end() <= name.position + name.said.size();
             });
-        if (!token.inTopic && !inName)
+        if (!token.inTopic && !inName) {
             m_classes.add(token.classes);
+        }
     }
 }
 
 void Reading::collectTimes()
 {
     for (const Token &token : m_tokens) {
-        if ((token.kind != Token::Kind::Time && token.time.isEmpty()) || token.inTopic)
+        if ((token.kind != Token::Kind::Time && token.time.isEmpty()) || token.inTopic) {
             continue;
+        }
         m_timeSaid += m_sentence.rawPart(token.position, token.length);
-        if (m_timeCount == 0)
+        if (m_timeCount == 0) {
             m_time = token.time;
-        else
+        } else {
             m_time.complete(token.time);
+        }
         ++m_timeCount;
     }
 }
@@ -73,10 +76,13 @@ bool Reading::isLabelled(std::size_t number) const
     std::size_t at = number;
     while (at > 0) {
         const Token &before = m_tokens[--at];
-        if (before.isAny(WordClass::IdLabel | WordClass::Conference))
+        if (before.isAny(WordClass::IdLabel | WordClass::Conference)) {
             return true;
-        if (!before.isAny(WordClass::LabelLink | WordClass::Punctuation) && before.kind != Token::Kind::Space)
+        }
+        if (!before.isAny(WordClass::LabelLink | WordClass::Punctuation) &&
+            before.kind != Token::Kind::Space) {
             return false;
+        }
     }
     return false;
 }
@@ -96,8 +102,9 @@ bool Reading::takePassword(std::size_t label)
                               digitString(m_sentence.text().mid(token.position, end - token.position)));
             return true;
         }
-        if (token.isAny(WordClass::IdLabel | WordClass::Conference | WordClass::Join))
+        if (token.isAny(WordClass::IdLabel | WordClass::Conference | WordClass::Join)) {
             return false;
+        }
     }
     return false;
 }
@@ -105,19 +112,23 @@ bool Reading::takePassword(std::size_t label)
 void Reading::collectNumbers()
 {
     for (std::size_t at = 0; at < m_tokens.size() && m_password.isEmpty(); ++at) {
-        if (m_tokens[at].is(WordClass::PasswordLabel))
+        if (m_tokens[at].is(WordClass::PasswordLabel)) {
             takePassword(at);
+        }
     }
     for (std::size_t at = 0; at < m_tokens.size(); ++at) {
         const Token &token = m_tokens[at];
         const bool isNumber = token.kind == Token::Kind::Number;
         const bool isPassword = !m_password.isEmpty() && token.position == m_password.position;
-        if ((!isNumber && token.kind != Token::Kind::Latin) || isPassword || token.inTopic)
+        if ((!isNumber && token.kind != Token::Kind::Latin) || isPassword || token.inTopic) {
             continue;
-        if (m_account.isEmpty())
+        }
+        if (m_account.isEmpty()) {
             m_account = digitsOf(token);
-        if (isNumber && m_number.isEmpty() && (token.length >= shortestNumber || isLabelled(at)))
+        }
+        if (isNumber && m_number.isEmpty() && (token.length >= ShortestNumber || isLabelled(at))) {
             m_number = digitsOf(token);
+        }
     }
 }
 
@@ -125,8 +136,9 @@ void Reading::collectOpenVerb()
 {
     int best = 0;
     for (const Token &token : m_tokens) {
-        if (token.inTopic)
+        if (token.inTopic) {
             continue;
+        }
         const bool pulls =
             token.length == 1 && QStringLiteral("约拉来").contains(m_sentence.text().at(token.position));
         const int rank = token.isAny(WordClass::StrongOpen)                            ? 3
@@ -137,8 +149,9 @@ void Reading::collectOpenVerb()
             m_openVerb = part(token.position, token.length, m_sentence.rawPart(token.position, token.length));
         }
     }
-    if (best > 0)
+    if (best > 0) {
         return;
+    }
     // 上午的会，帮我约张伟: the verb takes people, the conference came before.
     for (const Token &token : m_tokens) {
         const bool meets = token.length == 1 && m_sentence.text().at(token.position) == QChar(u'约');

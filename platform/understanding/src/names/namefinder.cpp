@@ -13,7 +13,7 @@ namespace understanding {
 
 namespace {
 
-constexpr int longestName = 12;
+constexpr int LongestName = 12;
 
 class NameFinder final
 {
@@ -27,8 +27,9 @@ public:
 
     std::vector<FoundName> run()
     {
-        for (std::size_t at = 0; at < m_tokens.size(); ++at)
+        for (std::size_t at = 0; at < m_tokens.size(); ++at) {
             at = step(at);
+        }
         std::stable_sort(m_names.begin(), m_names.end(),
                          [](const FoundName &a, const FoundName &b) { return a.position < b.position; });
         return std::move(m_names);
@@ -45,19 +46,22 @@ private:
     std::size_t step(std::size_t at)
     {
         const Token &token = m_tokens[at];
-        if (token.inTopic)
+        if (token.inTopic) {
             return at;
+        }
         constexpr WordClasses leads = WordClass::Trigger | WordClass::NameLabel | WordClass::Separator;
         if (token.isAny(leads)) {
-            if (token.is(WordClass::Separator))
+            if (token.is(WordClass::Separator)) {
                 takeLeft(at);
+            }
             const bool clauseSign = token.is(WordClass::Separator) && !token.is(WordClass::Trigger);
             return takeZone(at, token.is(WordClass::WeakTrigger) || clauseSign);
         }
-        if (token.kind == Token::Kind::Name)
+        if (token.kind == Token::Kind::Name) {
             addKnown(token, false);
-        else if (token.kind == Token::Kind::Other || isSmallWordInName(at))
+        } else if (token.kind == Token::Kind::Other || isSmallWordInName(at)) {
             return takeSubject(at);
+        }
         return at;
     }
 
@@ -77,19 +81,22 @@ private:
         }
     }
 
-    /// The name between \a start and \a end, without what surrounds it.
+    /// The name between @p start and @p end, without what surrounds it.
     void addChunk(int start, int end, bool mustLookLikeName, bool called)
     {
         const QString chunk = m_text.mid(start, end - start);
         QString name = withoutParticles(chunk);
         // 研发部的赵云 is 赵云.
         const int of = name.lastIndexOf(QChar(u'的'));
-        if (of >= 0 && of + 2 < name.size())
+        if (of >= 0 && of + 2 < name.size()) {
             name = name.mid(of + 1);
-        if (name.size() < 2 || name.size() > longestName || (mustLookLikeName && !looksLikeName(name)))
+        }
+        if (name.size() < 2 || name.size() > LongestName || (mustLookLikeName && !looksLikeName(name))) {
             return;
-        if (Lexicon::instance().classesOf(name).has(WordClass::Nobody))
+        }
+        if (Lexicon::instance().classesOf(name).has(WordClass::Nobody)) {
             return;
+        }
         const int offset = chunk.indexOf(name);
         addUnknown(start + offset, name, called);
     }
@@ -97,13 +104,15 @@ private:
     /// 赵云和...: who stands left of 和.
     void takeLeft(std::size_t at)
     {
-        if (at == 0 || m_tokens[at - 1].kind != Token::Kind::Other || m_tokens[at - 1].inTopic)
+        if (at == 0 || m_tokens[at - 1].kind != Token::Kind::Other || m_tokens[at - 1].inTopic) {
             return;
+        }
         const Token &left = m_tokens[at - 1];
         const bool taken = std::any_of(m_names.cbegin(), m_names.cend(),
                                        [&](const FoundName &name) { return name.position >= left.position; });
-        if (!taken && left.end() == m_tokens[at].position)
+        if (!taken && left.end() == m_tokens[at].position) {
             addChunk(left.position, left.end(), true, true);
+        }
     }
 
     bool standsApartBefore(std::size_t at) const
@@ -125,12 +134,13 @@ private:
         });
     }
 
-    /// The last token of the run of characters that begins at \a at: 关羽 is a word and a character.
+    /// The last token of the run of characters that begins at @p at: 关羽 is a word and a character.
     std::size_t lastOfRun(std::size_t at, std::size_t limit) const
     {
         while (at + 1 < m_tokens.size() && at < limit && !m_tokens[at + 1].inTopic &&
-               (m_tokens[at + 1].kind == Token::Kind::Other || isSmallWordInName(at + 1)))
+               (m_tokens[at + 1].kind == Token::Kind::Other || isSmallWordInName(at + 1))) {
             ++at;
+        }
         return at;
     }
 
@@ -139,14 +149,17 @@ private:
     std::size_t takeSubject(std::size_t at)
     {
         const Token &token = m_tokens[at];
-        std::size_t last = token.kind == Token::Kind::Other ? at : lastOfRun(at, at + longestName);
-        if (last > at && m_tokens[last].kind != Token::Kind::Other)
+        std::size_t last = token.kind == Token::Kind::Other ? at : lastOfRun(at, at + LongestName);
+        if (last > at && m_tokens[last].kind != Token::Kind::Other) {
             --last; // 关羽也: the word behind is none of the name's
-        if (m_tokens[last].kind != Token::Kind::Other)
+        }
+        if (m_tokens[last].kind != Token::Kind::Other) {
             return at;
+        }
         std::size_t next = last + 1;
-        while (next < m_tokens.size() && m_tokens[next].is(WordClass::Filler) && m_tokens[next].length == 1)
+        while (next < m_tokens.size() && m_tokens[next].is(WordClass::Filler) && m_tokens[next].length == 1) {
             ++next;
+        }
         const int end = m_tokens[last].end();
         const bool joins =
             next < m_tokens.size() && m_tokens[next].isAny(WordClass::Join | WordClass::Arrive);
@@ -160,12 +173,13 @@ private:
                                    splitNames(m_text.mid(token.position, end - token.position)).size() > 1;
         const bool apart = at > 0 && standsApartBefore(at) && standsApartBehind(last);
         const std::size_t before = m_names.size();
-        if (joins)
+        if (joins) {
             addChunk(token.position, end, true, m_tokens[next].is(WordClass::Arrive));
-        else if (beforeOpening)
+        } else if (beforeOpening) {
             addChunk(token.position, end, false, false);
-        else if ((afterOpening || beforeTime || apart) && hasConference())
+        } else if ((afterOpening || beforeTime || apart) && hasConference()) {
             addChunk(token.position, end, true, false);
+        }
         return m_names.size() > before ? last : at;
     }
 
@@ -188,14 +202,15 @@ private:
             const bool linked =
                 label && (token.isAny(WordClass::LabelLink | WordClass::Have | WordClass::NameLabel) ||
                           token.is(WordClass::Punctuation));
-            if (!token.isAny(between) && token.kind != Token::Kind::Space && !linked)
+            if (!token.isAny(between) && token.kind != Token::Kind::Space && !linked) {
                 break;
+            }
             ++at;
         }
         return at;
     }
 
-    /// The names behind the word at \a lead; returns the last token that belongs to them.
+    /// The names behind the word at @p lead; returns the last token that belongs to them.
     std::size_t takeZone(std::size_t lead, bool mustLookLikeName)
     {
         const std::size_t before = m_names.size();
@@ -204,13 +219,14 @@ private:
         constexpr WordClasses takesPeople =
             WordClass::Arrive | WordClass::Buddy | WordClass::BuddyNoun | WordClass::InviteNoun;
         if (mustLookLikeName && m_names.size() == before && end < m_tokens.size() &&
-            m_tokens[end].isAny(takesPeople))
+            m_tokens[end].isAny(takesPeople)) {
             end = takeNames(skipToNames(lead), false);
+        }
         // Where nobody stood, nothing is used up: 约 in 约个会.
         return m_names.size() > before ? end - 1 : lead;
     }
 
-    /// Takes names from \a at on; returns the first token that is none of theirs.
+    /// Takes names from @p at on; returns the first token that is none of theirs.
     std::size_t takeNames(std::size_t at, bool mustLookLikeName)
     {
         bool afterComma = false;
@@ -222,8 +238,9 @@ private:
                 addUnknown(token.position, m_text.mid(token.position, token.length), true);
             } else if (token.kind == Token::Kind::Other || isSmallWordInName(at)) {
                 std::size_t last = lastOfRun(at, m_tokens.size());
-                if (last + 1 < m_tokens.size() && m_tokens[last + 1].is(WordClass::Title)) // 张主任
+                if (last + 1 < m_tokens.size() && m_tokens[last + 1].is(WordClass::Title)) { // 张主任
                     ++last;
+                }
                 addChunk(token.position, m_tokens[last].end(), mustLookLikeName || afterComma, true);
                 at = last;
             } else if (token.is(WordClass::Punctuation) && m_text.at(token.position) == QLatin1Char(',')) {

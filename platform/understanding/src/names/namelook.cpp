@@ -15,9 +15,9 @@ namespace understanding {
 
 namespace {
 
-constexpr int longestFullName = 4;
+constexpr int LongestFullName = 4;
 
-/// How common \a character is as a family name, 0 being the most common; -1 for none.
+/// How common @p character is as a family name, 0 being the most common; -1 for none.
 int surnameRank(QChar character)
 {
     static const QHash<QChar, int> ranks = [] {
@@ -25,8 +25,9 @@ int surnameRank(QChar character)
         const QStringList lines = ruleLines(QStringLiteral("surnames.txt"));
         for (const QString &line : lines) {
             for (const QChar surname : line) {
-                if (!loaded.contains(surname))
+                if (!loaded.contains(surname)) {
                     loaded.insert(surname, loaded.size());
+                }
             }
         }
         return loaded;
@@ -77,19 +78,22 @@ bool startsTwoCharacterSurname(const QString &text)
 bool looksLikeName(const QString &text)
 {
     static const QString prefixes = QStringLiteral("小老阿大");
-    if (text.size() < 2)
+    if (text.size() < 2) {
         return false;
-    if (isLatinName(text))
+    }
+    if (isLatinName(text)) {
         return text.at(0).isLetter();
-    if (endsLikeName(text) || startsTwoCharacterSurname(text))
+    }
+    if (endsLikeName(text) || startsTwoCharacterSurname(text)) {
         return true;
-    return text.size() <= longestFullName &&
+    }
+    return text.size() <= LongestFullName &&
            (isSurname(text.at(0)) || (text.size() <= 3 && prefixes.contains(text.at(0))));
 }
 
 namespace {
 
-/// The length of the name at \a at when names stand side by side: the next one begins with a family name, the
+/// The length of the name at @p at when names stand side by side: the next one begins with a family name, the
 /// more common one where both lengths are possible (李雷韩梅梅). 0 for no name.
 int nameLengthAt(const QString &text, int at)
 {
@@ -113,16 +117,19 @@ QStringList splitNames(const QString &text)
 {
     static const QString titles = QStringLiteral("总工哥姐");
     // A name of four characters with a family name of two is one.
-    if (text.size() < 4 || text.size() > 12 || startsTwoCharacterSurname(text) || !isSurname(text.at(0)))
+    if (text.size() < 4 || text.size() > 12 || startsTwoCharacterSurname(text) || !isSurname(text.at(0))) {
         return {text};
-    if (endsLikeName(text) && !titles.contains(text.at(1))) // 张总李总 are two, 孙中山中心 is one
+    }
+    if (endsLikeName(text) && !titles.contains(text.at(1))) { // 张总李总 are two, 孙中山中心 is one
         return {text};
+    }
     QStringList names;
     int at = 0;
     while (at < text.size()) {
         const int length = nameLengthAt(text, at);
-        if (length == 0)
+        if (length == 0) {
             return {text};
+        }
         names.append(text.mid(at, length));
         at += length;
     }
@@ -137,13 +144,16 @@ QString withoutParticles(const QString &text)
     int start = 0;
     int end = text.size();
     // What is left has two characters at least: 王来 is a name.
-    while (end - start > 2 && leading.contains(text.at(start)))
+    while (end - start > 2 && leading.contains(text.at(start))) {
         ++start;
-    while (end - start > 2 && trailing.contains(text.at(end - 1)))
+    }
+    while (end - start > 2 && trailing.contains(text.at(end - 1))) {
         --end;
+    }
     const QString rest = text.mid(start, end - start);
-    if (rest.size() > 2 || rest.isEmpty())
+    if (rest.size() > 2 || rest.isEmpty()) {
         return rest;
+    }
     const bool onlyParticles = std::all_of(rest.cbegin(), rest.cend(), [&](QChar character) {
         return leading.contains(character) || trailing.contains(character);
     });

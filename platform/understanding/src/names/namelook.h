@@ -8,13 +8,13 @@
 
 namespace understanding {
 
-/// True when \a text looks like the name of a person or a team: 赵云, 小李, 王总, 产品部, Jerry.
+/// True when @p text looks like the name of a person or a team: 赵云, 小李, 王总, 产品部, Jerry.
 bool looksLikeName(const QString &text);
 
-/// \a text cut into names where each part begins with a family name (赵云马超), else \a text alone.
+/// @p text cut into names where each part begins with a family name (赵云马超), else @p text alone.
 QStringList splitNames(const QString &text);
 
-/// \a text without the little words around a name: 也, 来, 的.
+/// @p text without the little words around a name: 也, 来, 的.
 QString withoutParticles(const QString &text);
 
 } // namespace understanding

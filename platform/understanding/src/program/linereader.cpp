@@ -10,7 +10,7 @@ namespace understanding {
 
 namespace {
 
-constexpr int longestLine = 4096; // twice the bytes of the longest sentence
+constexpr int LongestLine = 4096; // twice the bytes of the longest sentence
 
 } // namespace
 
@@ -22,8 +22,9 @@ std::vector<QByteArray> LineReader::add(const char *bytes, qint64 count)
         const auto *lineEnd =
             static_cast<const char *>(std::memchr(bytes, '\n', static_cast<std::size_t>(end - bytes)));
         append(bytes, (lineEnd != nullptr ? lineEnd : end) - bytes);
-        if (lineEnd == nullptr)
+        if (lineEnd == nullptr) {
             break;
+        }
         lines.push_back(take());
         bytes = lineEnd + 1;
     }
@@ -32,8 +33,9 @@ std::vector<QByteArray> LineReader::add(const char *bytes, qint64 count)
 
 bool LineReader::takeRest(QByteArray &line)
 {
-    if (!m_hasPending)
+    if (!m_hasPending) {
         return false;
+    }
     line = take();
     return true;
 }
@@ -41,7 +43,7 @@ bool LineReader::takeRest(QByteArray &line)
 void LineReader::append(const char *bytes, qint64 count)
 {
     m_hasPending = true;
-    const qint64 room = longestLine - m_pending.size();
+    const qint64 room = LongestLine - m_pending.size();
     m_pending.append(bytes, static_cast<int>(qMin(count, room)));
 }
 
@@ -49,8 +51,9 @@ QByteArray LineReader::take()
 {
     QByteArray line = std::exchange(m_pending, QByteArray());
     m_hasPending = false;
-    if (line.endsWith('\r'))
+    if (line.endsWith('\r')) {
         line.chop(1);
+    }
     return line;
 }
 

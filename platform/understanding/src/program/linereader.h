@@ -15,7 +15,7 @@ namespace understanding {
 class LineReader final
 {
 public:
-    /// The lines that \a bytes completes, without their ends.
+    /// The lines that @p bytes completes, without their ends.
     std::vector<QByteArray> add(const char *bytes, qint64 count);
 
     /// The last line when the stream has ended without a line break; false when there is none.

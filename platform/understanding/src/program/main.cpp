@@ -22,8 +22,8 @@ using namespace understanding;
 
 namespace {
 
-constexpr int wrongUsage = 2;
-constexpr int failed = 1;
+constexpr int ExitWrongUsage = 2;
+constexpr int ExitFailed = 1;
 
 struct Options
 {
@@ -42,10 +42,11 @@ QByteArray answerTo(const QByteArray &line, const ContactIndex &contacts, const 
     const QString sentence = QString::fromUtf8(line);
     Outcome outcome;
     // Bytes that are no text would come back as names.
-    if (sentence.contains(QChar::ReplacementCharacter) && sentence.size() <= longestSentence)
+    if (sentence.contains(QChar::ReplacementCharacter) && sentence.size() <= LongestSentence) {
         outcome.answer = QStringLiteral("not-understood");
-    else
+    } else {
         outcome = interpret(sentence, now, contacts);
+    }
     const QString json = outcome.isCommand() ? commandJson(outcome) : answerJson(answerText(outcome.answer));
     return json.toUtf8() + '\n';
 }
@@ -68,23 +69,28 @@ int run(const Options &options)
     };
     while (true) {
         const ssize_t count = ::read(STDIN_FILENO, buffer.data(), buffer.size());
-        if (count < 0 && errno == EINTR)
+        if (count < 0 && errno == EINTR) {
             continue;
-        if (count < 0)
+        }
+        if (count < 0) {
             return complain(QStringLiteral("cannot read the sentences: %1").arg(qt_error_string(errno)),
-                            failed);
+                            ExitFailed);
+        }
         QByteArray answers;
         if (count == 0) {
             QByteArray rest;
-            if (lines.takeRest(rest))
+            if (lines.takeRest(rest)) {
                 answers = answerTo(rest, contacts, moment());
-            return writeAll(answers) ? 0 : failed;
+            }
+            return writeAll(answers) ? 0 : ExitFailed;
         }
         const std::vector<QByteArray> complete = lines.add(buffer.data(), count);
-        for (const QByteArray &line : complete)
+        for (const QByteArray &line : complete) {
             answers += answerTo(line, contacts, moment());
-        if (!writeAll(answers))
-            return failed;
+        }
+        if (!writeAll(answers)) {
+            return ExitFailed;
+        }
     }
 }
 
@@ -122,21 +128,24 @@ int main(int argc, char *argv[])
     parser.addOptions({now, contacts});
     parser.process(application);
 
-    if (!parser.positionalArguments().isEmpty())
+    if (!parser.positionalArguments().isEmpty()) {
         return complain(QStringLiteral("sentences are read from standard input, not from arguments"),
-                        wrongUsage);
+                        ExitWrongUsage);
+    }
     Options options;
     if (parser.isSet(now)) {
         options.now = QDateTime::fromString(parser.value(now), Qt::ISODate);
-        if (!options.now.isValid())
-            return complain(QStringLiteral("--now wants a time like 2026-03-07T10:20:00"), wrongUsage);
+        if (!options.now.isValid()) {
+            return complain(QStringLiteral("--now wants a time like 2026-03-07T10:20:00"), ExitWrongUsage);
+        }
         options.now = options.now.toLocalTime();
     }
     if (parser.isSet(contacts)) {
         QString error;
         const std::optional<QStringList> names = readNames(parser.value(contacts), error);
-        if (!names)
-            return complain(error, failed);
+        if (!names) {
+            return complain(error, ExitFailed);
+        }
         options.contacts = *names;
     }
     return run(options);

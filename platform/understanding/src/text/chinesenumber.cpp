@@ -21,7 +21,7 @@ constexpr QChar two(0x4e24);       // 两
 constexpr QChar one(0x5e7a);       // 幺
 constexpr QChar zero(0x3007);      // 〇
 constexpr QChar pieces(0x4e2a);    // 个
-constexpr int longestQuantity = 8; // 九百九十九 is five, 2026 four; more is no quantity
+constexpr int LongestQuantity = 8; // 九百九十九 is five, 2026 four; more is no quantity
 
 bool isAsciiDigit(QChar character)
 {
@@ -33,8 +33,9 @@ NumberMatch readAsciiQuantity(const QString &text, int position)
     NumberMatch match;
     int at = position;
     while (at < text.size() && isAsciiDigit(text.at(at))) {
-        if (at - position == 4)
+        if (at - position == 4) {
             return {};
+        }
         match.value = match.value * 10 + text.at(at).digitValue();
         ++at;
     }
@@ -49,12 +50,13 @@ NumberMatch readMultiplied(const QString &text, int position)
     int pending = -1;
     int smallestUnit = 1000;
     int at = position;
-    for (; at < text.size() && at - position < longestQuantity; ++at) {
+    for (; at < text.size() && at - position < LongestQuantity; ++at) {
         const QChar character = text.at(at);
         const int unit = character == hundred ? 100 : character == ten ? 10 : 0;
         if (unit != 0) {
-            if (unit >= smallestUnit || (pending == 0 && unit != 10))
+            if (unit >= smallestUnit || (pending == 0 && unit != 10)) {
                 break;
+            }
             total += (pending < 0 ? 1 : pending) * unit;
             smallestUnit = unit;
             pending = -1;
@@ -64,13 +66,15 @@ NumberMatch readMultiplied(const QString &text, int position)
         } else {
             const int digit = character == two ? 2 : digitValue(character);
             if (digit < 0 || isAsciiDigit(character) || character == one || pending > 0 ||
-                (pending == 0 && digit == 0))
+                (pending == 0 && digit == 0)) {
                 break;
+            }
             pending = digit;
         }
     }
-    if (at == position)
+    if (at == position) {
         return {};
+    }
     return {total + qMax(pending, 0), at - position};
 }
 
@@ -78,35 +82,42 @@ NumberMatch readMultiplied(const QString &text, int position)
 
 int digitValue(QChar character)
 {
-    if (isAsciiDigit(character))
+    if (isAsciiDigit(character)) {
         return character.digitValue();
-    if (character == one)
+    }
+    if (character == one) {
         return 1;
-    if (character == zero)
+    }
+    if (character == zero) {
         return 0;
+    }
     return digitCharacters().indexOf(character);
 }
 
 NumberMatch readQuantity(const QString &text, int position)
 {
-    if (position >= text.size())
+    if (position >= text.size()) {
         return {};
-    if (isAsciiDigit(text.at(position)))
+    }
+    if (isAsciiDigit(text.at(position))) {
         return readAsciiQuantity(text, position);
+    }
     // Digits side by side are read one by one: 二零二六, 三零.
     int digits = 0;
     int value = 0;
     while (digits < 4 && position + digits < text.size()) {
         const QChar character = text.at(position + digits);
         const int digit = digitValue(character);
-        if (digit < 0 || character == one || isAsciiDigit(character))
+        if (digit < 0 || character == one || isAsciiDigit(character)) {
             break;
+        }
         value = value * 10 + digit;
         ++digits;
     }
     const QChar next = position + digits < text.size() ? text.at(position + digits) : QChar();
-    if (digits >= 2 && next != ten && next != hundred)
+    if (digits >= 2 && next != ten && next != hundred) {
         return {value, digits};
+    }
     return readMultiplied(text, position);
 }
 

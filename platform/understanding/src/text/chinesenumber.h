@@ -18,11 +18,11 @@ struct NumberMatch
 /// The value of one digit, 0 to 9, in any of its spellings ("3", "三", "〇", "幺"); -1 for anything else.
 int digitValue(QChar character);
 
-/// Reads a quantity at \a position: "25", "二十五", "一百二十", "两", "零五", "三零" (digit by digit). Up to
+/// Reads a quantity at @p position: "25", "二十五", "一百二十", "两", "零五", "三零" (digit by digit). Up to
 /// four digits. "幺" is no quantity: it is said in numbers that name something.
 NumberMatch readQuantity(const QString &text, int position);
 
-/// Where the string of digits at \a position ends, spaces and dashes between digits and "三个八" included; \a
+/// Where the string of digits at @p position ends, spaces and dashes between digits and "三个八" included; \a
 /// position where there is none.
 int digitStringEnd(const QString &text, int position);
 

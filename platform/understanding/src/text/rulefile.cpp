@@ -18,14 +18,16 @@ QStringList ruleLines(const QString &name)
 {
     keepRules();
     QFile file(QStringLiteral(":/understanding/rules/") + name);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         qFatal("The rule file %s is not compiled in.", qPrintable(name));
+    }
     QStringList lines;
     const QStringList all = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
     for (const QString &line : all) {
         const QString content = line.trimmed();
-        if (!content.isEmpty() && !content.startsWith(QLatin1Char('#')))
+        if (!content.isEmpty() && !content.startsWith(QLatin1Char('#'))) {
             lines.append(content);
+        }
     }
     return lines;
 }

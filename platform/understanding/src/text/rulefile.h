@@ -7,7 +7,7 @@
 
 namespace understanding {
 
-/// The lines of the compiled-in rule file \a name, without comments (#) and empty lines, trimmed.
+/// The lines of the compiled-in rule file @p name, without comments (#) and empty lines, trimmed.
 QStringList ruleLines(const QString &name);
 
 } // namespace understanding

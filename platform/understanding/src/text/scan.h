@@ -9,27 +9,29 @@
 
 namespace understanding {
 
-/// True when \a word stands at \a position.
+/// True when @p word stands at @p position.
 inline bool startsAt(const QString &text, int position, const QString &word)
 {
     return text.midRef(position, word.size()) == word;
 }
 
-/// The length of the first of \a words that stands at \a position, 0 for none. Longer words come first.
+/// The length of the first of @p words that stands at @p position, 0 for none. Longer words come first.
 inline int firstOf(const QString &text, int position, std::initializer_list<const char16_t *> words)
 {
     for (const char16_t *word : words) {
         int length = 0;
         while (word[length] != 0 && position + length < text.size() &&
-               text.at(position + length) == QChar(word[length]))
+               text.at(position + length) == QChar(word[length])) {
             ++length;
-        if (word[length] == 0)
+        }
+        if (word[length] == 0) {
             return length;
+        }
     }
     return 0;
 }
 
-/// The character at \a position, a null character behind the end.
+/// The character at @p position, a null character behind the end.
 inline QChar charAt(const QString &text, int position)
 {
     return position >= 0 && position < text.size() ? text.at(position) : QChar();
@@ -37,8 +39,9 @@ inline QChar charAt(const QString &text, int position)
 
 inline int skipSpaces(const QString &text, int position)
 {
-    while (charAt(text, position) == QLatin1Char(' '))
+    while (charAt(text, position) == QLatin1Char(' ')) {
         ++position;
+    }
     return position;
 }
 

@@ -16,8 +16,9 @@ QHash<QChar, QChar> loadSpellings()
     QHash<QChar, QChar> spellings;
     // One pair a line: the character as it is typed, and the one the rules use.
     const QStringList lines = ruleLines(QStringLiteral("characters.tsv"));
-    for (const QString &line : lines)
+    for (const QString &line : lines) {
         spellings.insert(line.at(0), line.at(line.size() - 1));
+    }
     return spellings;
 }
 
@@ -27,10 +28,12 @@ QChar plainSpelling(QChar character)
     constexpr ushort fullWidthLast = 0xff5e;  // '～'
     constexpr ushort distanceToAscii = 0xfee0;
     const ushort code = character.unicode();
-    if (code < 0x80)
+    if (code < 0x80) {
         return character == QLatin1Char('\t') ? QChar(QLatin1Char(' ')) : character;
-    if (code >= fullWidthFirst && code <= fullWidthLast)
+    }
+    if (code >= fullWidthFirst && code <= fullWidthLast) {
         return QChar(static_cast<ushort>(code - distanceToAscii));
+    }
     static const QHash<QChar, QChar> spellings = loadSpellings();
     return spellings.value(character, character);
 }
@@ -39,8 +42,9 @@ QChar plainSpelling(QChar character)
 
 Sentence::Sentence(const QString &raw) : m_raw(raw), m_text(raw)
 {
-    for (QChar &character : m_text)
+    for (QChar &character : m_text) {
         character = plainSpelling(character);
+    }
 }
 
 } // namespace understanding

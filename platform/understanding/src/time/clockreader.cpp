@@ -10,9 +10,9 @@ namespace understanding {
 
 namespace {
 
-constexpr int lastHour = 24;
-constexpr int lastMinute = 59;
-constexpr int quarter = 15;
+constexpr int LastHour = 24;
+constexpr int LastMinute = 59;
+constexpr int QuarterMinutes = 15;
 
 bool isAsciiDigit(QChar character)
 {
@@ -22,14 +22,15 @@ bool isAsciiDigit(QChar character)
 /// 一刻, 三刻: returns the length.
 int readQuarters(const QString &text, int position, int &minutes)
 {
-    if (firstOf(text, position, {u"一刻", u"1刻"}) > 0)
-        minutes = quarter;
-    else if (firstOf(text, position, {u"两刻", u"二刻", u"2刻"}) > 0)
-        minutes = 2 * quarter;
-    else if (firstOf(text, position, {u"三刻", u"3刻"}) > 0)
-        minutes = 3 * quarter;
-    else
+    if (firstOf(text, position, {u"一刻", u"1刻"}) > 0) {
+        minutes = QuarterMinutes;
+    } else if (firstOf(text, position, {u"两刻", u"二刻", u"2刻"}) > 0) {
+        minutes = 2 * QuarterMinutes;
+    } else if (firstOf(text, position, {u"三刻", u"3刻"}) > 0) {
+        minutes = 3 * QuarterMinutes;
+    } else {
         return 0;
+    }
     return 2;
 }
 
@@ -42,20 +43,24 @@ int readMinutes(const QString &text, int position, int &minutes)
     }
     const int past = firstOf(text, position, {u"过"});
     const int start = skipSpaces(text, position + past);
-    if (const int length = readQuarters(text, start, minutes))
+    if (const int length = readQuarters(text, start, minutes)) {
         return start + length - position;
+    }
     const NumberMatch number = readQuantity(text, start);
-    if (!number)
+    if (!number) {
         return 0;
+    }
     const int after = start + number.length;
     const int unit = firstOf(text, after, {u"分钟", u"分"});
     const bool oneDigit = number.length == 1 && number.value < 10;
     // 三点五个人 and 三点一起 hold no minutes; 三点五 is said by nobody.
     if (unit == 0 &&
-        (oneDigit || firstOf(text, after, {u"个", u"人", u"位", u"名", u"点", u":", u"月", u"号"}) > 0))
+        (oneDigit || firstOf(text, after, {u"个", u"人", u"位", u"名", u"点", u":", u"月", u"号"}) > 0)) {
         return 0;
-    if (number.value > lastMinute)
+    }
+    if (number.value > LastMinute) {
         return 0;
+    }
     minutes = number.value;
     return after + unit - position;
 }
@@ -64,21 +69,24 @@ int readMinutes(const QString &text, int position, int &minutes)
 int readDigitalClock(const QString &text, int position, TimeExpression &expression)
 {
     const NumberMatch hours = readQuantity(text, position);
-    if (!hours || !isAsciiDigit(text.at(position)) || hours.length > 2)
+    if (!hours || !isAsciiDigit(text.at(position)) || hours.length > 2) {
         return 0;
+    }
     int at = position + hours.length;
     if (charAt(text, at) != QLatin1Char(':') || !isAsciiDigit(charAt(text, at + 1)) ||
-        !isAsciiDigit(charAt(text, at + 2)) || isAsciiDigit(charAt(text, at + 3)))
+        !isAsciiDigit(charAt(text, at + 2)) || isAsciiDigit(charAt(text, at + 3))) {
         return 0;
+    }
     const NumberMatch minutes = readQuantity(text, at + 1);
     at += 3;
     if (charAt(text, at) == QLatin1Char(':') && isAsciiDigit(charAt(text, at + 1)) &&
-        isAsciiDigit(charAt(text, at + 2)))
+        isAsciiDigit(charAt(text, at + 2))) {
         at += 3;
+    }
     expression.hasClock = true;
     expression.hour = hours.value;
     expression.minute = minutes.value;
-    expression.impossible = hours.value > lastHour || minutes.value > lastMinute;
+    expression.impossible = hours.value > LastHour || minutes.value > LastMinute;
     return at - position;
 }
 
@@ -90,10 +98,12 @@ int readHalfDay(const QString &text, int position, TimeExpression &expression)
     const QChar after = charAt(text, start + 2);
     const bool afternoon = letters == QLatin1String("pm");
     if ((!afternoon && letters != QLatin1String("am")) ||
-        (after.unicode() < 0x80 && after.isLetterOrNumber()))
+        (after.unicode() < 0x80 && after.isLetterOrNumber())) {
         return 0;
-    if (expression.hour <= 12)
+    }
+    if (expression.hour <= 12) {
         expression.hour = expression.hour % 12 + (afternoon ? 12 : 0);
+    }
     expression.minutesLess = 0;
     return start + 2 - position;
 }
@@ -101,15 +111,17 @@ int readHalfDay(const QString &text, int position, TimeExpression &expression)
 /// 差一刻, 差五分: what is taken off the hour that follows.
 int readLess(const QString &text, int position, int &minutes)
 {
-    if (firstOf(text, position, {u"差", u"欠"}) == 0)
+    if (firstOf(text, position, {u"差", u"欠"}) == 0) {
         return 0;
+    }
     int at = position + 1;
     if (const int length = readQuarters(text, at, minutes)) {
         at += length + firstOf(text, at + length, {u"钟"});
     } else {
         const NumberMatch number = readQuantity(text, at);
-        if (!number || number.value > lastMinute)
+        if (!number || number.value > LastMinute) {
             return 0;
+        }
         minutes = number.value;
         at += number.length;
         at += firstOf(text, at, {u"分钟", u"分"});
@@ -121,15 +133,17 @@ int readLess(const QString &text, int position, int &minutes)
 
 int readClock(const QString &text, int position, TimeExpression &expression)
 {
-    if (const int length = readDigitalClock(text, position, expression))
+    if (const int length = readDigitalClock(text, position, expression)) {
         return length + readHalfDay(text, position + length, expression);
+    }
 
     int less = 0;
     int at = position + readLess(text, position, less);
     const bool hasLess = at > position;
     const NumberMatch hours = readQuantity(text, at);
-    if (!hours || hours.length > 3)
+    if (!hours || hours.length > 3) {
         return 0;
+    }
     at += hours.length;
     if (isAsciiDigit(text.at(at - 1))) {
         TimeExpression english = expression;
@@ -143,27 +157,31 @@ int readClock(const QString &text, int position, TimeExpression &expression)
     // 三到四点: both hours share their 点, the first is meant.
     const int joint = firstOf(text, at, {u"到", u"至", u"-", u"~"});
     const NumberMatch last = joint > 0 ? readQuantity(text, at + joint) : NumberMatch();
-    if (last && last.length <= 3 && firstOf(text, at + joint + last.length, {u"点"}) > 0)
+    if (last && last.length <= 3 && firstOf(text, at + joint + last.length, {u"点"}) > 0) {
         at += joint + last.length;
+    }
     const int afterHours = skipSpaces(text, at);
     const QChar mark = charAt(text, afterHours);
-    if (mark != QChar(u'点') && mark != QChar(u'时'))
+    if (mark != QChar(u'点') && mark != QChar(u'时')) {
         return 0;
+    }
     at = afterHours + 1;
     // 三点建议, 一点儿, 两时间: not every 点 is an hour.
     if (firstOf(text, at,
                 {u"建议", u"意见", u"要求", u"问题", u"想法", u"内容", u"原因", u"理由", u"说明", u"看法",
-                 u"儿", u"点", u"都不", u"也不", u"都没", u"也没", u"间", u"候", u"区"}) > 0)
+                 u"儿", u"点", u"都不", u"也不", u"都没", u"也没", u"间", u"候", u"区"}) > 0) {
         return 0;
+    }
     // 三点五个小时: a decimal, no hour.
     const int decimal = at < text.size() ? digitValue(text.at(at)) : -1;
-    if (decimal >= 0 && firstOf(text, at + 1, {u"个小时", u"小时", u"个钟头", u"版"}) > 0)
+    if (decimal >= 0 && firstOf(text, at + 1, {u"个小时", u"小时", u"个钟头", u"版"}) > 0) {
         return 0;
+    }
     expression.hasClock = true;
     expression.hour = hours.value;
     expression.minute = 0;
     expression.minutesLess = less;
-    expression.impossible = hours.value > lastHour;
+    expression.impossible = hours.value > LastHour;
     at += firstOf(text, at, {u"钟", u"整"});
     if (!hasLess) {
         const int afterLess = at + readLess(text, at, expression.minutesLess);

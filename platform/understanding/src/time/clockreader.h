@@ -9,7 +9,7 @@
 
 namespace understanding {
 
-/// Reads a time of day (三点半, 差一刻十二点, 15:30) at \a position into \a expression and returns how many
+/// Reads a time of day (三点半, 差一刻十二点, 15:30) at @p position into @p expression and returns how many
 /// characters it takes, 0 for none.
 int readClock(const QString &text, int position, TimeExpression &expression);
 

@@ -31,8 +31,9 @@ std::vector<DayPart> loadParts()
 {
     std::vector<DayPart> parts;
     const QStringList lines = ruleLines(QStringLiteral("dayparts.tsv"));
-    for (const QString &line : lines)
+    for (const QString &line : lines) {
         parts.push_back(parsePart(line));
+    }
     // Longest first, so that the first hit is the longest.
     std::stable_sort(parts.begin(), parts.end(),
                      [](const DayPart &a, const DayPart &b) { return a.word.size() > b.word.size(); });
@@ -46,10 +47,11 @@ int DayPart::hourFor(int saidHour) const
     constexpr int halfDay = 12;
     constexpr int wholeDay = 24;
     int hour = saidHour;
-    if (saidHour >= firstShifted && saidHour <= lastShifted)
+    if (saidHour >= firstShifted && saidHour <= lastShifted) {
         hour += halfDay;
-    else if (lastHour >= wholeDay && saidHour <= lastHour - wholeDay)
+    } else if (lastHour >= wholeDay && saidHour <= lastHour - wholeDay) {
         hour += wholeDay;
+    }
     return hour >= firstHour && hour <= lastHour ? hour : -1;
 }
 
@@ -64,8 +66,9 @@ int dayPartAt(const QString &text, int position, bool shortForms)
     const std::vector<DayPart> &parts = dayParts();
     for (std::size_t row = 0; row < parts.size(); ++row) {
         const QString &word = parts[row].word;
-        if ((shortForms || word.size() > 1) && text.midRef(position, word.size()) == word)
+        if ((shortForms || word.size() > 1) && text.midRef(position, word.size()) == word) {
             return static_cast<int>(row);
+        }
     }
     return -1;
 }

@@ -20,7 +20,7 @@ struct DayPart
     int lastShifted = -1;
     QTime start; ///< invalid where the hour has to be asked
 
-    /// The hour of 24 that \a saidHour means in this part of the day (24 to 28 are on the next day); -1 where
+    /// The hour of 24 that @p saidHour means in this part of the day (24 to 28 are on the next day); -1 where
     /// it contradicts it.
     int hourFor(int saidHour) const;
 };
@@ -28,8 +28,8 @@ struct DayPart
 /// The parts of the day, from the rule file.
 const std::vector<DayPart> &dayParts();
 
-/// The row of the longest part of the day at \a position, -1 for none. "早" and "晚" alone count only with
-/// \a shortForms: after a day.
+/// The row of the longest part of the day at @p position, -1 for none. "早" and "晚" alone count only with
+/// @p shortForms: after a day.
 int dayPartAt(const QString &text, int position, bool shortForms);
 
 } // namespace understanding

@@ -66,8 +66,9 @@ int readNamedDay(const QString &text, int position, TimeExpression &expression)
 int weekdayAt(const QString &text, int position)
 {
     const QChar character = charAt(text, position);
-    if (character == QChar(u'日') || character == QChar(u'天'))
+    if (character == QChar(u'日') || character == QChar(u'天')) {
         return 7;
+    }
     const int digit = character.isNull() ? -1 : digitValue(character);
     return digit >= 1 && digit <= 7 ? digit : 0;
 }
@@ -88,16 +89,19 @@ int readWeekday(const QString &text, int position, TimeExpression &expression, b
     const int thisWeek = weeks == 0 ? firstOf(text, at, {u"这", u"本", u"当"}) : 0;
     at += thisWeek;
     const bool named = at > position;
-    if (named)
+    if (named) {
         at += firstOf(text, at, {u"一个", u"个"});
+    }
     const int week = firstOf(text, at, {u"星期", u"礼拜", u"周"});
-    if (week == 0)
+    if (week == 0) {
         return 0;
+    }
     at += week;
     if (named) { // 下周的周五
         const int again = firstOf(text, at, {u"的星期", u"的礼拜", u"的周", u"星期", u"周"});
-        if (again > 0 && weekdayAt(text, at + again) > 0)
+        if (again > 0 && weekdayAt(text, at + again) > 0) {
             at += again;
+        }
     }
     const int weekday = weekdayAt(text, at);
     const bool times = firstOf(text, at + 1, {u"次", u"个", u"年", u"刊"}) > 0; // 一周三次
@@ -113,23 +117,27 @@ int readWeekday(const QString &text, int position, TimeExpression &expression, b
     return at + 1 - position;
 }
 
-/// The day's number with its 号 or 日: returns the length. Without \a monthSaid the sign is needed.
+/// The day's number with its 号 or 日: returns the length. Without @p monthSaid the sign is needed.
 int readDayNumber(const QString &text, int position, bool monthSaid, int &day)
 {
     const NumberMatch number = readQuantity(text, position);
-    if (!number || number.length > 3 || number.value < 1)
+    if (!number || number.length > 3 || number.value < 1) {
         return 0;
+    }
     int at = position + number.length;
     const int sign = firstOf(text, at, {u"号", u"日"});
-    if (sign == 0 && (!monthSaid || firstOf(text, at, {u"点", u":", u"个", u"月", u"人"}) > 0))
+    if (sign == 0 && (!monthSaid || firstOf(text, at, {u"点", u":", u"个", u"月", u"人"}) > 0)) {
         return 0;
+    }
     if (!monthSaid && firstOf(text, at + sign, {u"后", u"以后", u"之后"}) > 0 &&
-        firstOf(text, at, {u"日"}) > 0)
+        firstOf(text, at, {u"日"}) > 0) {
         return 0; // 三日后 counts days
+    }
     // 5号线 and 3号会议室 are no days.
     if (!monthSaid &&
-        (number.value > 31 || firstOf(text, at + sign, {u"会议室", u"线", u"楼", u"码", u"房"}) > 0))
+        (number.value > 31 || firstOf(text, at + sign, {u"会议室", u"线", u"楼", u"码", u"房"}) > 0)) {
         return 0;
+    }
     day = number.value;
     return at + sign - position;
 }
@@ -140,16 +148,19 @@ int readDottedDay(const QString &text, int position, TimeExpression &expression)
     const NumberMatch month = readQuantity(text, position);
     const int mark = position + month.length;
     const QChar sign = charAt(text, mark);
-    if (!month || month.value > 12 || (sign != QLatin1Char('.') && sign != QLatin1Char('-')))
+    if (!month || month.value > 12 || (sign != QLatin1Char('.') && sign != QLatin1Char('-'))) {
         return 0;
+    }
     const NumberMatch day = readQuantity(text, mark + 1);
     const int end = mark + 1 + day.length;
-    if (!day || day.value < 1 || day.value > 31)
+    if (!day || day.value < 1 || day.value > 31) {
         return 0;
+    }
     const int next = skipSpaces(text, end);
     TimeExpression clock;
-    if (dayPartAt(text, next, true) < 0 && readClock(text, next, clock) == 0)
+    if (dayPartAt(text, next, true) < 0 && readClock(text, next, clock) == 0) {
         return 0;
+    }
     expression.day = TimeExpression::Day::MonthAndDay;
     expression.month = month.value;
     expression.dayOfMonth = day.value;
@@ -159,13 +170,15 @@ int readDottedDay(const QString &text, int position, TimeExpression &expression)
 int readMonthAndDay(const QString &text, int position, TimeExpression &expression, bool &unclear)
 {
     const NumberMatch month = readQuantity(text, position);
-    if (!month || month.length > 3)
+    if (!month || month.length > 3) {
         return 0;
+    }
     const int mark = position + month.length;
     const int sign = firstOf(text, mark, {u"月份", u"月"});
     const bool slash = sign == 0 && charAt(text, mark) == QLatin1Char('/') && month.value <= 12;
-    if (sign == 0 && !slash)
+    if (sign == 0 && !slash) {
         return 0;
+    }
     const int afterSign = skipSpaces(text, mark + (slash ? 1 : sign));
     int day = 0;
     const int length = readDayNumber(text, afterSign, true, day);
@@ -173,8 +186,9 @@ int readMonthAndDay(const QString &text, int position, TimeExpression &expressio
         unclear = !slash;
         return slash ? 0 : mark + sign - position;
     }
-    if (slash && (day > 31 || charAt(text, afterSign + length) == QLatin1Char('/')))
+    if (slash && (day > 31 || charAt(text, afterSign + length) == QLatin1Char('/'))) {
         return 0;
+    }
     expression.day = TimeExpression::Day::MonthAndDay;
     expression.month = month.value;
     expression.dayOfMonth = day;
@@ -197,13 +211,15 @@ int readYear(const QString &text, int position, TimeExpression &expression)
         }
     }
     const NumberMatch year = readQuantity(text, position);
-    if (!year || (year.length != 4 && year.length != 2))
+    if (!year || (year.length != 4 && year.length != 2)) {
         return 0;
+    }
     const QChar mark = charAt(text, position + year.length);
     const bool numeric = year.length == 4 && text.at(position).unicode() < 0x80 &&
                          (mark == QLatin1Char('-') || mark == QLatin1Char('/') || mark == QLatin1Char('.'));
-    if (mark != QChar(u'年') && !numeric)
+    if (mark != QChar(u'年') && !numeric) {
         return 0;
+    }
     expression.year = year.length == 2 ? 2000 + year.value : year.value;
     return year.length + 1;
 }
@@ -212,11 +228,13 @@ int readNumericDay(const QString &text, int position, TimeExpression &expression
 {
     const NumberMatch month = readQuantity(text, position);
     const int mark = position + month.length;
-    if (!month || charAt(text, mark) != charAt(text, position - 1))
+    if (!month || charAt(text, mark) != charAt(text, position - 1)) {
         return 0;
+    }
     const NumberMatch day = readQuantity(text, mark + 1);
-    if (!day || month.value > 12 || day.value > 31)
+    if (!day || month.value > 12 || day.value > 31) {
         return 0;
+    }
     expression.day = TimeExpression::Day::MonthAndDay;
     expression.month = month.value;
     expression.dayOfMonth = day.value;
@@ -240,11 +258,13 @@ int readDayOfNamedMonth(const QString &text, int position, TimeExpression &expre
         months = -last;
         at += last + current;
     }
-    if (at == position)
+    if (at == position) {
         return 0;
+    }
     at += firstOf(text, at, {u"个"});
-    if (charAt(text, at) != QChar(u'月'))
+    if (charAt(text, at) != QChar(u'月')) {
         return 0;
+    }
     ++at;
     int day = 0;
     const int start = at + firstOf(text, at, {u"的"});
@@ -264,15 +284,18 @@ int readDayOfNamedMonth(const QString &text, int position, TimeExpression &expre
 
 int readDay(const QString &text, int position, TimeExpression &expression, bool &unclear)
 {
-    if (const int length = readWeekday(text, position, expression, unclear))
+    if (const int length = readWeekday(text, position, expression, unclear)) {
         return length;
-    if (const int length = readDayOfNamedMonth(text, position, expression, unclear))
+    }
+    if (const int length = readDayOfNamedMonth(text, position, expression, unclear)) {
         return length;
+    }
     TimeExpression dated = expression;
     if (const int year = readYear(text, position, dated)) {
         int length = dated.yearIsOffset ? 0 : readNumericDay(text, position + year, dated);
-        if (length == 0)
+        if (length == 0) {
             length = readMonthAndDay(text, position + year, dated, unclear);
+        }
         if (length > 0) {
             expression = dated;
             return year + length;
@@ -280,12 +303,15 @@ int readDay(const QString &text, int position, TimeExpression &expression, bool 
         unclear = dated.yearIsOffset || charAt(text, position + year - 1) == QChar(u'年');
         return unclear ? year : 0;
     }
-    if (const int length = readNamedDay(text, position, expression))
+    if (const int length = readNamedDay(text, position, expression)) {
         return length;
-    if (const int length = readMonthAndDay(text, position, expression, unclear))
+    }
+    if (const int length = readMonthAndDay(text, position, expression, unclear)) {
         return length;
-    if (const int length = readDottedDay(text, position, expression))
+    }
+    if (const int length = readDottedDay(text, position, expression)) {
         return length;
+    }
     int day = 0;
     if (const int length = readDayNumber(text, position, false, day)) {
         expression.day = TimeExpression::Day::DayOfMonth;

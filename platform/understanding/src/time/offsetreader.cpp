@@ -10,8 +10,8 @@ namespace understanding {
 
 namespace {
 
-constexpr int minute = 60;
-constexpr int hour = 60 * minute;
+constexpr int SecondsPerMinute = 60;
+constexpr int SecondsPerHour = 60 * SecondsPerMinute;
 
 struct Unit
 {
@@ -22,26 +22,41 @@ struct Unit
 };
 
 // Longer words first.
-constexpr Unit units[] = {
-    {u"个小时", hour, 0, 0}, {u"个钟头", hour, 0, 0}, {u"小时", hour, 0, 0},        {u"钟头", hour, 0, 0},
-    {u"个钟", hour, 0, 0},   {u"分钟", minute, 0, 0}, {u"刻钟", 15 * minute, 0, 0}, {u"秒钟", 1, 0, 0},
-    {u"秒", 1, 0, 0},        {u"个星期", 0, 7, 0},    {u"个礼拜", 0, 7, 0},         {u"星期", 0, 7, 0},
-    {u"礼拜", 0, 7, 0},      {u"周", 0, 7, 0},        {u"个月", 0, 0, 1},           {u"天", 0, 1, 0},
-    {u"日", 0, 1, 0},        {u"年", 0, 0, 12},       {u"分", minute, 0, 0},
+constexpr Unit Units[] = {
+    {u"个小时", SecondsPerHour, 0, 0},
+    {u"个钟头", SecondsPerHour, 0, 0},
+    {u"小时", SecondsPerHour, 0, 0},
+    {u"钟头", SecondsPerHour, 0, 0},
+    {u"个钟", SecondsPerHour, 0, 0},
+    {u"分钟", SecondsPerMinute, 0, 0},
+    {u"刻钟", 15 * SecondsPerMinute, 0, 0},
+    {u"秒钟", 1, 0, 0},
+    {u"秒", 1, 0, 0},
+    {u"个星期", 0, 7, 0},
+    {u"个礼拜", 0, 7, 0},
+    {u"星期", 0, 7, 0},
+    {u"礼拜", 0, 7, 0},
+    {u"周", 0, 7, 0},
+    {u"个月", 0, 0, 1},
+    {u"天", 0, 1, 0},
+    {u"日", 0, 1, 0},
+    {u"年", 0, 0, 12},
+    {u"分", SecondsPerMinute, 0, 0},
 };
 
 const Unit *unitAt(const QString &text, int position, int &length)
 {
-    for (const Unit &unit : units) {
+    for (const Unit &unit : Units) {
         length = firstOf(text, position, {unit.word});
-        if (length > 0)
+        if (length > 0) {
             return &unit;
+        }
     }
     return nullptr;
 }
 
-/// A number in halves: 一, 一点五, 1.5, 半. Returns the length; \a halves is twice the number, or tenths in
-/// \a tenths.
+/// A number in halves: 一, 一点五, 1.5, 半. Returns the length; @p halves is twice the number, or tenths in
+/// @p tenths.
 int readAmount(const QString &text, int position, int &tenths)
 {
     if (charAt(text, position) == QChar(u'半')) {
@@ -55,8 +70,9 @@ int readAmount(const QString &text, int position, int &tenths)
         return 1;
     }
     const NumberMatch whole = readQuantity(text, position);
-    if (!whole)
+    if (!whole) {
         return 0;
+    }
     tenths = whole.value * 10;
     const int after = position + whole.length;
     const QChar point = charAt(text, after);
@@ -75,8 +91,9 @@ int readPiece(const QString &text, int position, TimeExpression &expression)
 {
     int tenths = 0;
     int at = position + readAmount(text, position, tenths);
-    if (at == position)
+    if (at == position) {
         return 0;
+    }
     if (firstOf(text, at, {u"个半小时", u"个半钟头", u"个半月", u"个半天"}) > 0) {
         tenths += 5;
         at += 2;
@@ -85,17 +102,20 @@ int readPiece(const QString &text, int position, TimeExpression &expression)
     }
     int unitLength = 0;
     const Unit *unit = unitAt(text, at, unitLength);
-    if (unit == nullptr && charAt(text, at) == QChar(u'个'))
+    if (unit == nullptr && charAt(text, at) == QChar(u'个')) {
         unit = unitAt(text, ++at, unitLength);
-    if (unit == nullptr)
+    }
+    if (unit == nullptr) {
         return 0;
+    }
     at += unitLength;
-    if (unit->seconds == hour && charAt(text, at) == QChar(u'半')) {
+    if (unit->seconds == SecondsPerHour && charAt(text, at) == QChar(u'半')) {
         tenths += 5;
         ++at;
     }
-    if (unit->seconds == 0 && tenths % 10 != 0)
+    if (unit->seconds == 0 && tenths % 10 != 0) {
         return 0; // half a day is no time that one could name
+    }
     expression.offsetSeconds += unit->seconds * tenths / 10;
     expression.offsetDays += unit->days * tenths / 10;
     expression.offsetMonths += unit->months * tenths / 10;
@@ -114,20 +134,24 @@ int readLengthOfTime(const QString &text, int position, TimeExpression &expressi
          length = readPiece(text, at, read)) {
         at += length;
         ++pieces;
-        if (charAt(text, at) == QChar(u'零') || charAt(text, at) == QChar(u'又'))
+        if (charAt(text, at) == QChar(u'零') || charAt(text, at) == QChar(u'又')) {
             ++at;
+        }
     }
-    if (pieces == 0)
+    if (pieces == 0) {
         return 0;
+    }
     const int suffix = firstOf(text, at, {u"以后", u"之后", u"过后", u"后"});
     const bool nextDay = firstOf(text, at, {u"后天"}) > 0; // 两天后天: 后天 is a word of its own
     isOffset = prefix > 0 || (suffix > 0 && !nextDay);
     // 三分 and 五日 are no lengths of time unless something is counted from now.
     const QChar last = charAt(text, at - 1);
-    if (!isOffset && (last == QChar(u'分') || last == QChar(u'日') || last == QChar(u'年')))
+    if (!isOffset && (last == QChar(u'分') || last == QChar(u'日') || last == QChar(u'年'))) {
         return 0;
-    if (isOffset && !nextDay)
+    }
+    if (isOffset && !nextDay) {
         at += suffix;
+    }
     if (isOffset) {
         read.hasOffset = true;
         expression.hasOffset = true;

@@ -16,8 +16,9 @@ void TimeExpression::complete(const TimeExpression &other)
         minute = own.minute;
         minutesLess = own.minutesLess;
     }
-    if (own.part < 0)
+    if (own.part < 0) {
         part = other.part;
+    }
     if (!own.hasClock && other.hasClock) {
         hasClock = true;
         hour = other.hour;

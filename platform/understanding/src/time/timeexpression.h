@@ -47,7 +47,7 @@ struct TimeExpression
     bool isEmpty() const { return day == Day::None && part < 0 && !hasClock && !hasOffset && !impossible; }
     bool isBareWeekday() const { return day == Day::Weekday && !weekNamed && part < 0 && !hasClock; }
 
-    /// Takes from \a other what is not said here: "明天 ... 下午三点".
+    /// Takes from @p other what is not said here: "明天 ... 下午三点".
     void complete(const TimeExpression &other);
 };
 

@@ -36,8 +36,9 @@ int readMoment(const QString &text, int position, TimeExpression &expression, bo
         int length = 0;
         // A second day explains the first (3月20号周五, 周五3月20号), of two different ones the first is
         // meant.
-        if (!expression.hasOffset)
+        if (!expression.hasOffset) {
             length = readDay(text, at, next, noDay);
+        }
         if (length > 0 && noDay) {
             unclear = true;
             next = expression;
@@ -60,28 +61,33 @@ int readMoment(const QString &text, int position, TimeExpression &expression, bo
                                    text.at(at - 1) != QChar(u'明') && text.at(at - 1) != QChar(u'昨') &&
                                    text.at(at - 1) != QChar(u'后');
                 if (alone &&
-                    (readClock(text, at + 1, hour) == 0 || startsAt(text, at + 1, QStringLiteral("一点"))))
+                    (readClock(text, at + 1, hour) == 0 || startsAt(text, at + 1, QStringLiteral("一点")))) {
                     length = 0;
+                }
             }
         }
         if (length == 0 && expression.isEmpty() && !unclear) {
             TimeExpression offset;
             length = readLengthOfTime(text, at, offset, isOffset);
-            if (!isOffset)
+            if (!isOffset) {
                 length = 0;
-            else
+            } else {
                 next = offset;
+            }
         }
-        if (length == 0)
+        if (length == 0) {
             break;
+        }
         expression = next;
         at += length;
         end = at;
         at = skipSpaces(text, at);
-        if (charAt(text, at) == QChar(u'的') && end == at)
+        if (charAt(text, at) == QChar(u'的') && end == at) {
             ++at;
-        if (charAt(text, at) == QLatin1Char('(')) // 下周三(11号)
+        }
+        if (charAt(text, at) == QLatin1Char('(')) { // 下周三(11号)
             ++at;
+        }
     }
     return end;
 }
@@ -91,14 +97,16 @@ int readSpanEnd(const QString &text, int end)
 {
     const int start = skipSpaces(text, end);
     const int joint = firstOf(text, start, {u"开到", u"一直到", u"到", u"至", u"-", u"~"});
-    if (joint == 0)
+    if (joint == 0) {
         return end;
+    }
     int at = skipSpaces(text, start + joint);
     TimeExpression ignored;
     bool unclear = false;
     const int spanEnd = readMoment(text, at, ignored, unclear);
-    if (spanEnd == at)
+    if (spanEnd == at) {
         return end;
+    }
     return spanEnd + firstOf(text, spanEnd, {u"之间", u"期间"});
 }
 
@@ -107,8 +115,9 @@ int readSpanEnd(const QString &text, int end)
 TimeMatch readTime(const QString &text, int position)
 {
     TimeMatch match;
-    if (!canBegin(text.at(position)))
+    if (!canBegin(text.at(position))) {
         return match;
+    }
     bool unclear = false;
     int end = readMoment(text, position, match.expression, unclear);
     if (end > position) {

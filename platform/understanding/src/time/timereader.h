@@ -23,7 +23,7 @@ struct TimeMatch
     TimeExpression expression;
 };
 
-/// The longest time at \a position; a span (三点到四点) is taken whole and means its start.
+/// The longest time at @p position; a span (三点到四点) is taken whole and means its start.
 TimeMatch readTime(const QString &text, int position);
 
 } // namespace understanding

@@ -9,17 +9,18 @@ namespace understanding {
 
 namespace {
 
-constexpr int secondsPerMinute = 60;
-constexpr int minutesPerHour = 60;
-constexpr int minutesPerHalfDay = 12 * minutesPerHour;
-constexpr int minutesPerDay = 24 * minutesPerHour;
+constexpr int SecondsPerMinute = 60;
+constexpr int MinutesPerHour = 60;
+constexpr int MinutesPerHalfDay = 12 * MinutesPerHour;
+constexpr int MinutesPerDay = 24 * MinutesPerHour;
 
 QDate resolveDayOfMonth(const TimeExpression &expression, QDate today)
 {
     const QDate firstOfMonth(today.year(), today.month(), 1);
     int months = expression.monthOffset;
-    if (!expression.monthNamed && expression.dayOfMonth < today.day())
+    if (!expression.monthNamed && expression.dayOfMonth < today.day()) {
         months = 1;
+    }
     const QDate month = firstOfMonth.addMonths(months);
     return {month.year(), month.month(), expression.dayOfMonth};
 }
@@ -38,8 +39,9 @@ QDate resolveMonthAndDay(const TimeExpression &expression, QDate today)
 QDate resolveWeekday(const TimeExpression &expression, QDate today)
 {
     const int distance = expression.weekday - today.dayOfWeek();
-    if (expression.weekNamed)
+    if (expression.weekNamed) {
         return today.addDays(distance + 7 * expression.weekOffset);
+    }
     return today.addDays(distance < 0 ? distance + 7 : distance);
 }
 
@@ -65,16 +67,20 @@ QDate resolveDay(const TimeExpression &expression, QDate today)
 /// the next such hour, or the morning of a day that is not today.
 int minutesOfBareHour(const TimeExpression &expression, bool otherDay, bool dayNamed, int minutesNow)
 {
-    const int said = expression.hour * minutesPerHour + expression.minute - expression.minutesLess;
-    if (expression.hour >= 1 && expression.hour <= 6)
-        return said + minutesPerHalfDay;
-    if (expression.hour == 0 && !dayNamed && said < minutesNow)
-        return said + minutesPerDay; // the coming midnight
-    if (expression.hour == 0 || expression.hour > 12 || otherDay || said >= minutesNow)
+    const int said = expression.hour * MinutesPerHour + expression.minute - expression.minutesLess;
+    if (expression.hour >= 1 && expression.hour <= 6) {
+        return said + MinutesPerHalfDay;
+    }
+    if (expression.hour == 0 && !dayNamed && said < minutesNow) {
+        return said + MinutesPerDay; // the coming midnight
+    }
+    if (expression.hour == 0 || expression.hour > 12 || otherDay || said >= minutesNow) {
         return said;
-    if (said + minutesPerHalfDay >= minutesNow || dayNamed)
-        return said + minutesPerHalfDay;
-    return said + minutesPerDay;
+    }
+    if (said + MinutesPerHalfDay >= minutesNow || dayNamed) {
+        return said + MinutesPerHalfDay;
+    }
+    return said + MinutesPerDay;
 }
 
 ResolvedTime problem(ResolvedTime::Problem what)
@@ -87,10 +93,10 @@ ResolvedTime problem(ResolvedTime::Problem what)
 ResolvedTime momentOf(QDate day, int minutes)
 {
     ResolvedTime resolved;
-    const int days = minutes >= minutesPerDay ? 1 : minutes < 0 ? -1 : 0;
-    const int ofDay = minutes - days * minutesPerDay;
+    const int days = minutes >= MinutesPerDay ? 1 : minutes < 0 ? -1 : 0;
+    const int ofDay = minutes - days * MinutesPerDay;
     resolved.date = day.addDays(days);
-    resolved.time = QTime(ofDay / minutesPerHour, ofDay % minutesPerHour);
+    resolved.time = QTime(ofDay / MinutesPerHour, ofDay % MinutesPerHour);
     return resolved;
 }
 
@@ -100,8 +106,8 @@ QDateTime addOffset(const TimeExpression &expression, const QDateTime &now)
     // in the past.
     QDateTime moment = now.addMonths(expression.offsetMonths).addDays(expression.offsetDays);
     moment = moment.addSecs(expression.offsetSeconds);
-    const bool roundUp = expression.offsetSeconds % secondsPerMinute != 0 && moment.time().second() > 0;
-    moment = moment.addSecs((roundUp ? secondsPerMinute : 0) - moment.time().second());
+    const bool roundUp = expression.offsetSeconds % SecondsPerMinute != 0 && moment.time().second() > 0;
+    moment = moment.addSecs((roundUp ? SecondsPerMinute : 0) - moment.time().second());
     return moment.addMSecs(-moment.time().msec());
 }
 
@@ -110,8 +116,9 @@ QDateTime addOffset(const TimeExpression &expression, const QDateTime &now)
 QString ResolvedTime::toString() const
 {
     QString text = date.toString(Qt::ISODate);
-    if (time.isValid())
+    if (time.isValid()) {
         text += QLatin1Char('T') + time.toString(Qt::ISODate);
+    }
     return text;
 }
 
@@ -119,10 +126,12 @@ ResolvedTime resolveTime(const TimeExpression &expression, const QDateTime &now)
 {
     const QDate today = now.date();
     QDate day = resolveDay(expression, today);
-    if (!day.isValid())
+    if (!day.isValid()) {
         return problem(ResolvedTime::Problem::NoSuchDate);
-    if (expression.impossible)
+    }
+    if (expression.impossible) {
         return problem(ResolvedTime::Problem::Contradiction);
+    }
     bool dayNamed = expression.day != TimeExpression::Day::None;
     if (expression.hasOffset) {
         const QDateTime moment = addOffset(expression, now);
@@ -139,19 +148,21 @@ ResolvedTime resolveTime(const TimeExpression &expression, const QDateTime &now)
         expression.part < 0 ? nullptr : &dayParts()[static_cast<std::size_t>(expression.part)];
     if (expression.hasClock) {
         if (part == nullptr) {
-            const int minutesNow = now.time().hour() * minutesPerHour + now.time().minute();
+            const int minutesNow = now.time().hour() * MinutesPerHour + now.time().minute();
             return momentOf(day, minutesOfBareHour(expression, day != today, dayNamed, minutesNow));
         }
         const int hour = part->hourFor(expression.hour);
-        if (hour < 0)
+        if (hour < 0) {
             return problem(ResolvedTime::Problem::Contradiction);
-        return momentOf(day, hour * minutesPerHour + expression.minute - expression.minutesLess);
+        }
+        return momentOf(day, hour * MinutesPerHour + expression.minute - expression.minutesLess);
     }
     ResolvedTime resolved;
     resolved.date = day;
     if (part != nullptr) {
-        if (!part->start.isValid())
+        if (!part->start.isValid()) {
             return problem(ResolvedTime::Problem::NoHour);
+        }
         resolved.time = part->start;
     }
     return resolved;

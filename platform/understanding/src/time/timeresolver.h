@@ -26,7 +26,7 @@ struct ResolvedTime
     QString toString() const;
 };
 
-/// What \a expression means at \a now, in local time. A time that is past stays past.
+/// What @p expression means at @p now, in local time. A time that is past stays past.
 ResolvedTime resolveTime(const TimeExpression &expression, const QDateTime &now);
 
 } // namespace understanding

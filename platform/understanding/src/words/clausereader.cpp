@@ -9,8 +9,8 @@ namespace understanding {
 
 namespace {
 
-constexpr int longestConferenceName = 8;
-constexpr std::size_t farthestConference = 30; // tokens behind its verb; keeps long sentences linear
+constexpr int LongestConferenceName = 8;
+constexpr std::size_t FarthestConference = 30; // tokens behind its verb; keeps long sentences linear
 
 bool isConference(const Token &token)
 {
@@ -29,27 +29,31 @@ void settleConferences(const QString &text, Tokens &tokens)
     static const QString mayFollow = QStringLiteral("的在要需得完没总定开");
     for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
         Token &token = tokens[at];
-        if (token.length != 1 || !token.is(WordClass::Conference))
+        if (token.length != 1 || !token.is(WordClass::Conference)) {
             continue;
+        }
         const Token &next = tokens[at + 1];
         const bool verbFollows = (next.kind == Token::Kind::Other || next.is(WordClass::Plain)) &&
                                  !mayFollow.contains(text.at(next.position));
         const bool opened = at > 0 && tokens[at - 1].isAny(WordClass::WeakOpen | WordClass::Measure);
-        if (verbFollows && !opened)
+        if (verbFollows && !opened) {
             makePlain(token);
+        }
     }
 }
 
-/// True when a conference follows the verb at \a verb, with nothing but its description between.
+/// True when a conference follows the verb at @p verb, with nothing but its description between.
 bool governsConference(const QString &text, const Tokens &tokens, std::size_t verb)
 {
     bool described = false;
-    for (std::size_t at = verb + 1; at < qMin(tokens.size(), verb + farthestConference); ++at) {
+    for (std::size_t at = verb + 1; at < qMin(tokens.size(), verb + FarthestConference); ++at) {
         const Token &token = tokens[at];
-        if (token.inTopic)
+        if (token.inTopic) {
             continue;
-        if (isConference(token))
+        }
+        if (isConference(token)) {
             return true;
+        }
         constexpr WordClasses describing =
             WordClass::NameTail | WordClass::Measure | WordClass::OpenParticle | WordClass::Filler |
             WordClass::Topic | WordClass::UnclearDay | WordClass::UnclearSoon | WordClass::Recurring |
@@ -57,21 +61,25 @@ bool governsConference(const QString &text, const Tokens &tokens, std::size_t ve
         if (token.kind == Token::Kind::Time || token.kind == Token::Kind::Duration ||
             token.isAny(describing)) {
             described = true;
-            if (token.is(WordClass::Topic)) // 开个讨论预算的会
+            if (token.is(WordClass::Topic)) { // 开个讨论预算的会
                 continue;
+            }
             continue;
         }
         const bool companions =
             token.isAny(WordClass::Trigger | WordClass::Separator) || token.kind == Token::Kind::Name;
-        if (described && companions) // 开个和张伟的会
+        if (described && companions) { // 开个和张伟的会
             continue;
+        }
         // 约张伟明天的会: the one verb that takes people first.
         const bool meets = charAt(text, tokens[verb].position) == QChar(u'约') && tokens[verb].length == 1;
-        if (meets && (companions || token.kind == Token::Kind::Other || token.kind == Token::Kind::Latin))
+        if (meets && (companions || token.kind == Token::Kind::Other || token.kind == Token::Kind::Latin)) {
             continue;
-        const bool ownName = token.kind == Token::Kind::Other && token.length <= longestConferenceName;
-        if (ownName && (described || (at == verb + 1 && text.at(token.position) != QChar(u'的'))))
+        }
+        const bool ownName = token.kind == Token::Kind::Other && token.length <= LongestConferenceName;
+        if (ownName && (described || (at == verb + 1 && text.at(token.position) != QChar(u'的')))) {
             continue;
+        }
         return false;
     }
     return false;
@@ -88,13 +96,16 @@ bool followsConference(const Tokens &tokens, std::size_t verb)
 {
     std::size_t at = verb + 1;
     while (at < tokens.size() &&
-           tokens[at].isAny(WordClass::Measure | WordClass::OpenParticle | WordClass::Filler))
+           tokens[at].isAny(WordClass::Measure | WordClass::OpenParticle | WordClass::Filler)) {
         ++at;
-    if (at == verb + 1 || !isAtClauseEnd(tokens, at))
+    }
+    if (at == verb + 1 || !isAtClauseEnd(tokens, at)) {
         return false;
+    }
     for (std::size_t before = 0; before < verb; ++before) {
-        if (tokens[before].is(WordClass::Conference))
+        if (tokens[before].is(WordClass::Conference)) {
             return true;
+        }
     }
     return false;
 }
@@ -113,13 +124,16 @@ void settleOpening(const QString &text, Tokens &tokens)
             const bool noun = isFollowedByDe(text, token) ||
                               (at > 0 && tokens[at - 1].is(WordClass::Conference) &&
                                token.is(WordClass::WeakTrigger) && isAtClauseEnd(tokens, at + 1));
-            if (noun)
+            if (noun) {
                 token.classes.remove(WordClass::StrongOpen);
+            }
         }
-        if (token.is(WordClass::GoverningOpen) && !governsConference(text, tokens, at))
+        if (token.is(WordClass::GoverningOpen) && !governsConference(text, tokens, at)) {
             token.classes.remove(WordClass::GoverningOpen);
-        if (!token.is(WordClass::WeakOpen))
+        }
+        if (!token.is(WordClass::WeakOpen)) {
             continue;
+        }
         const bool insideName = at > 1 && tokens[at - 1].kind == Token::Kind::Other &&
                                 tokens[at - 1].length == 1 &&
                                 tokens[at - 2].isAny(WordClass::Trigger | WordClass::Separator) &&
@@ -129,8 +143,9 @@ void settleOpening(const QString &text, Tokens &tokens)
             text.at(token.position) == QChar(u'来') && at > 0 &&
             (tokens[at - 1].kind == Token::Kind::Name || tokens[at - 1].kind == Token::Kind::Other);
         if (insideName || (comes && startsAt(text, token.end(), QStringLiteral("一下"))) ||
-            !(governsConference(text, tokens, at) || followsConference(tokens, at)))
+            !(governsConference(text, tokens, at) || followsConference(tokens, at))) {
             token.classes.remove(WordClass::WeakOpen);
+        }
     }
 }
 
@@ -143,8 +158,9 @@ void settleCalls(const QString &text, Tokens &tokens)
                                                tokens[at - 1].kind == Token::Kind::Latin ||
                                                tokens[at - 1].isAny(WordClass::Title | WordClass::NameTail));
         if (tokens[at].is(WordClass::Arrive) && text.at(tokens[at].position) == QChar(u'请') &&
-            !somebodyBefore)
+            !somebodyBefore) {
             tokens[at].classes.remove(WordClass::Arrive);
+        }
     }
 }
 
@@ -156,11 +172,13 @@ void settleTopics(Tokens &tokens)
         const bool newTrigger =
             token.is(WordClass::Trigger) && !token.is(WordClass::WeakTrigger) && token.length > 1;
         if (token.is(WordClass::Conference) || token.is(WordClass::Punctuation) || newTrigger ||
-            token.is(WordClass::NameLabel))
+            token.is(WordClass::NameLabel)) {
             inTopic = false;
+        }
         token.inTopic = inTopic;
-        if (token.is(WordClass::Topic))
+        if (token.is(WordClass::Topic)) {
             inTopic = true;
+        }
     }
 }
 
@@ -169,8 +187,9 @@ void settleQuestions(Tokens &tokens)
 {
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         if (tokens[at].is(WordClass::HowTo) && tokens[at].is(WordClass::Filler) &&
-            isAtClauseEnd(tokens, at + 1))
+            isAtClauseEnd(tokens, at + 1)) {
             tokens[at].classes.remove(WordClass::HowTo);
+        }
     }
 }
 

@@ -11,7 +11,7 @@ namespace understanding {
 
 namespace {
 
-constexpr int shortestName = 2;
+constexpr int ShortestName = 2;
 
 bool isLatin(QChar character)
 {
@@ -31,25 +31,30 @@ ContactIndex::ContactIndex(const QStringList &names)
 {
     for (const QString &name : names) {
         const QString trimmed = name.trimmed();
-        if (trimmed.size() >= shortestName)
+        if (trimmed.size() >= ShortestName) {
             m_byFirst[trimmed.at(0).toLower()].append(trimmed);
+        }
     }
-    for (QVector<QString> &sameFirst : m_byFirst)
+    for (QVector<QString> &sameFirst : m_byFirst) {
         std::stable_sort(sameFirst.begin(), sameFirst.end(),
                          [](const QString &a, const QString &b) { return a.size() > b.size(); });
+    }
 }
 
 QString ContactIndex::longestAt(const QString &text, int position) const
 {
-    if (m_byFirst.isEmpty())
+    if (m_byFirst.isEmpty()) {
         return {};
+    }
     const auto sameFirst = m_byFirst.constFind(text.at(position).toLower());
-    if (sameFirst == m_byFirst.cend())
+    if (sameFirst == m_byFirst.cend()) {
         return {};
+    }
     for (const QString &name : *sameFirst) {
         if (text.midRef(position, name.size()).compare(name, Qt::CaseInsensitive) == 0 &&
-            !splitsLatinWord(text, position) && !splitsLatinWord(text, position + name.size()))
+            !splitsLatinWord(text, position) && !splitsLatinWord(text, position + name.size())) {
             return name;
+        }
     }
     return {};
 }

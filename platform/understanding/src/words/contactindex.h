@@ -16,7 +16,7 @@ class ContactIndex final
 public:
     explicit ContactIndex(const QStringList &names = {});
 
-    /// The longest known name at \a position, empty for none. Names of one character are not looked for: they
+    /// The longest known name at @p position, empty for none. Names of one character are not looked for: they
     /// are found in too many words. Latin names stand alone and match in any case.
     QString longestAt(const QString &text, int position) const;
 

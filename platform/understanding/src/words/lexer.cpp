@@ -12,7 +12,7 @@ namespace understanding {
 
 namespace {
 
-constexpr int shortestSpokenNumber = 3; // 一下, 二三 are no numbers yet
+constexpr int ShortestSpokenNumber = 3; // 一下, 二三 are no numbers yet
 
 bool isLatinLetterOrDigit(QChar character)
 {
@@ -27,8 +27,9 @@ public:
     Tokens run()
     {
         while (m_at < m_text.size()) {
-            if (!takeName() && !takeTimeOrNumberOrWord())
+            if (!takeName() && !takeTimeOrNumberOrWord()) {
                 takeOther();
+            }
         }
         return std::move(m_tokens);
     }
@@ -47,19 +48,21 @@ private:
 
     void takeOther()
     {
-        if (m_text.at(m_at) == QLatin1Char(' '))
+        if (m_text.at(m_at) == QLatin1Char(' ')) {
             append(Token::Kind::Space, 1);
-        else if (!m_tokens.empty() && m_tokens.back().kind == Token::Kind::Other)
+        } else if (!m_tokens.empty() && m_tokens.back().kind == Token::Kind::Other) {
             ++m_tokens.back().length, ++m_at;
-        else
+        } else {
             append(Token::Kind::Other, 1);
+        }
     }
 
     bool takeName()
     {
         const QString name = m_contacts.longestAt(m_text, m_at);
-        if (name.isEmpty())
+        if (name.isEmpty()) {
             return false;
+        }
         append(Token::Kind::Name, name.size()).name = name;
         return true;
     }
@@ -67,8 +70,9 @@ private:
     /// A name that nobody knows may begin like a time: 和周一鸣, 和高明早上.
     bool isInUnknownName(const TimeMatch &match) const
     {
-        if (match.kind == TimeMatch::Kind::None || m_tokens.empty())
+        if (match.kind == TimeMatch::Kind::None || m_tokens.empty()) {
             return false;
+        }
         const Token &before = m_tokens.back();
         constexpr WordClasses leadsToNames = WordClass::Trigger | WordClass::Separator | WordClass::NameLabel;
         const bool afterLead = before.isAny(leadsToNames);
@@ -78,15 +82,17 @@ private:
                    Lexicon::instance().longestAt(m_text, end).length == 0 && m_text.at(end) != QChar(u'的') &&
                    m_text.at(end) != QLatin1Char(' ') && !isLatinLetterOrDigit(m_text.at(end));
         }
-        if (before.kind != Token::Kind::Other)
+        if (before.kind != Token::Kind::Other) {
             return false;
+        }
         const TimeMatch later = readTime(m_text, m_at + 1);
         const bool laterIsTime = later.kind == TimeMatch::Kind::Time && !later.expression.impossible;
         // 李四四点; 张三周三 holds no three weeks.
         const bool unlikely =
             match.expression.impossible || (match.kind == TimeMatch::Kind::Duration && before.length == 1);
-        if (unlikely)
+        if (unlikely) {
             return laterIsTime;
+        }
         // One character is no name: 和高明早上 is 高明, 和王五十分钟后 is 王五.
         const bool alone =
             before.length == 1 && m_tokens.size() > 1 && m_tokens[m_tokens.size() - 2].isAny(leadsToNames);
@@ -102,10 +108,12 @@ private:
             takeTime(time);
             return true;
         }
-        if (takeNumberOrLatin(word.length))
+        if (takeNumberOrLatin(word.length)) {
             return true;
-        if (word.length == 0)
+        }
+        if (word.length == 0) {
             return false;
+        }
         append(Token::Kind::Word, word.length).classes = word.classes;
         return true;
     }
@@ -137,8 +145,9 @@ private:
             return true;
         }
         const bool ascii = m_text.at(m_at).unicode() < 0x80;
-        if (digits == 0 || digits <= wordLength || (!ascii && digits < shortestSpokenNumber))
+        if (digits == 0 || digits <= wordLength || (!ascii && digits < ShortestSpokenNumber)) {
             return false;
+        }
         append(Token::Kind::Number, digits);
         return true;
     }
@@ -150,8 +159,9 @@ private:
         for (int at = m_at + 1; at < end; ++at) {
             const QChar before = m_text.at(at - 1);
             const bool groupStart = before == QLatin1Char(' ') && m_text.at(at) != QLatin1Char(' ');
-            if (groupStart && readTime(m_text, at).kind == TimeMatch::Kind::Time)
+            if (groupStart && readTime(m_text, at).kind == TimeMatch::Kind::Time) {
                 return digitStringEnd(m_text.left(at - 1), m_at);
+            }
         }
         return end;
     }
@@ -174,8 +184,9 @@ private:
                 break;
             }
         }
-        if (!letters)
+        if (!letters) {
             return m_at;
+        }
         const int spoken = digitStringEnd(m_text, end);
         return spoken - end >= 2 && m_text.at(end) != QLatin1Char(' ') && m_text.at(end) != QLatin1Char('-')
                    ? spoken

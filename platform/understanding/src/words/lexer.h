@@ -8,7 +8,7 @@
 
 namespace understanding {
 
-/// Cuts \a text into tokens, once from left to right: known names first, then times, numbers and words, the
+/// Cuts @p text into tokens, once from left to right: known names first, then times, numbers and words, the
 /// longest at each place.
 Tokens tokenize(const QString &text, const ContactIndex &contacts);
 

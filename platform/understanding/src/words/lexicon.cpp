@@ -89,8 +89,9 @@ bool isClauseEnd(const QString &text, int position)
 WordClass wordClassNamed(const QString &name)
 {
     for (const auto &row : classNames) {
-        if (name == QLatin1String(row.name))
+        if (name == QLatin1String(row.name)) {
             return row.wordClass;
+        }
     }
     return WordClass::Count;
 }
@@ -108,20 +109,24 @@ Lexicon::Lexicon() : m_byFirst(1), m_bucket(0x10000)
     for (const QString &line : lines) {
         if (line.startsWith(QLatin1Char('[')) && line.endsWith(QLatin1Char(']')) && line.size() > 3) {
             current = wordClassNamed(line.mid(1, line.size() - 2));
-            if (current == WordClass::Count)
+            if (current == WordClass::Count) {
                 qFatal("words.txt: there is no section called %s.", qPrintable(line));
+            }
             continue;
         }
         const QStringList patterns = line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-        for (const QString &pattern : patterns)
+        for (const QString &pattern : patterns) {
             addPattern(pattern, current);
+        }
     }
 
     QSet<QString> all;
-    for (auto word = m_words.cbegin(); word != m_words.cend(); ++word)
+    for (auto word = m_words.cbegin(); word != m_words.cend(); ++word) {
         all.insert(word.key());
-    for (auto word = m_wordsAtClauseEnd.cbegin(); word != m_wordsAtClauseEnd.cend(); ++word)
+    }
+    for (auto word = m_wordsAtClauseEnd.cbegin(); word != m_wordsAtClauseEnd.cend(); ++word) {
         all.insert(word.key());
+    }
     for (const QString &word : qAsConst(all)) {
         quint16 &bucket = m_bucket[word.at(0).unicode()];
         if (bucket == 0) {
@@ -130,9 +135,10 @@ Lexicon::Lexicon() : m_byFirst(1), m_bucket(0x10000)
         }
         m_byFirst[bucket].push_back({word, m_words.value(word), m_wordsAtClauseEnd.value(word)});
     }
-    for (std::vector<Entry> &entries : m_byFirst)
+    for (std::vector<Entry> &entries : m_byFirst) {
         std::sort(entries.begin(), entries.end(),
                   [](const Entry &a, const Entry &b) { return a.word.size() > b.word.size(); });
+    }
 }
 
 void Lexicon::addPattern(const QString &pattern, WordClass wordClass)
@@ -144,29 +150,34 @@ void Lexicon::addPattern(const QString &pattern, WordClass wordClass)
         return;
     }
     const QStringList choices = pattern.mid(open + 1, close - open - 1).split(QLatin1Char('|'));
-    for (const QString &choice : choices)
+    for (const QString &choice : choices) {
         addPattern(pattern.left(open) + choice + pattern.mid(close + 1), wordClass);
+    }
 }
 
 void Lexicon::addWord(const QString &word, WordClass wordClass)
 {
     const bool onlyAtClauseEnd = word.size() > 1 && word.endsWith(QLatin1Char('$'));
     const QString bare = onlyAtClauseEnd ? word.chopped(1) : word;
-    if (!bare.isEmpty())
+    if (!bare.isEmpty()) {
         (onlyAtClauseEnd ? m_wordsAtClauseEnd : m_words)[bare].add(wordClass);
+    }
 }
 
 WordMatch Lexicon::longestAt(const QString &text, int position) const
 {
     for (const Entry &entry : m_byFirst[m_bucket[text.at(position).unicode()]]) {
         const int length = entry.word.size();
-        if (text.midRef(position, length) != entry.word)
+        if (text.midRef(position, length) != entry.word) {
             continue;
+        }
         WordClasses classes = entry.classes;
-        if (!entry.classesAtClauseEnd.isEmpty() && isClauseEnd(text, position + length))
+        if (!entry.classesAtClauseEnd.isEmpty() && isClauseEnd(text, position + length)) {
             classes.add(entry.classesAtClauseEnd);
-        if (!classes.isEmpty())
+        }
+        if (!classes.isEmpty()) {
             return {length, classes};
+        }
     }
     return {};
 }

@@ -12,7 +12,7 @@
 
 namespace understanding {
 
-/// The class that the rule files call \a name, WordClass::Count for none.
+/// The class that the rule files call @p name, WordClass::Count for none.
 WordClass wordClassNamed(const QString &name);
 
 /// A word found in a text.
@@ -28,10 +28,10 @@ class Lexicon final
 public:
     static const Lexicon &instance();
 
-    /// The longest word at \a position; length 0 for none.
+    /// The longest word at @p position; length 0 for none.
     WordMatch longestAt(const QString &text, int position) const;
 
-    /// The classes of exactly \a word, none for a word that is not listed.
+    /// The classes of exactly @p word, none for a word that is not listed.
     WordClasses classesOf(const QString &word) const { return m_words.value(word); }
 
 private:

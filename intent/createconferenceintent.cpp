@@ -6,14 +6,11 @@
 #include "contactutils.h"
 #include "memberphrases.h"
 #include "replytable.h"
+#include "request/requesttexts.h"
 #include "slotreader.h"
-#include "wire/jsontext.h"
-#include "wire/requestkeys.h"
 
 #include <QDateTime>
 #include <QDebug>
-#include <QJsonArray>
-#include <QSet>
 #include <QThread>
 
 namespace {
@@ -124,20 +121,6 @@ const QVector<ReplyRow<Detail>> &replies()
     return rows;
 }
 
-/// Each name once, in the order said. Who it is, the application finds out.
-QJsonArray membersOf(const QVector<QString> &names)
-{
-    QJsonArray members;
-    QSet<QString> taken;
-    for (const QString &name : names) {
-        if (!taken.contains(name)) {
-            taken.insert(name);
-            members.append(QJsonObject{{RequestKey::Name, name}, {RequestKey::UserId, QString()}});
-        }
-    }
-    return members;
-}
-
 } // namespace
 
 CreateConferenceIntent::CreateConferenceIntent(QObject *parent) : QObject(parent) {}
@@ -169,14 +152,15 @@ int CreateConferenceIntent::handleCreateVideoMeeting(const CloudIntent &intent)
         return ResultCode::PastTime;
     }
 
-    // Without a start it starts now.
-    QJsonObject request{{RequestKey::Members, membersOf(names)}};
-    if (startMsecs > 0 && isSchedule) {
-        request.insert(RequestKey::StartTime, startMsecs);
+    const bool startsLater = isSchedule && startMsecs > 0;
+    if (startsLater) {
         qInfo() << "startTime:" << QDateTime::fromMSecsSinceEpoch(startMsecs);
     }
-    return ConferenceCardInterface::instance()->createVideoConference(compactText(request), names, isSchedule,
-                                                                      startMsecs, m_detail);
+    const QJsonArray members = RequestText::membersNamed(names);
+    const QString request = startsLater ? RequestText::createConference(members, startMsecs)
+                                        : RequestText::createConference(members);
+    return ConferenceCardInterface::instance()->createVideoConference(request, names, isSchedule, startMsecs,
+                                                                      m_detail);
 }
 
 int CreateConferenceIntent::handleReply(int code, const CloudIntent &intent)

@@ -5,11 +5,11 @@
 
 #include "conferencemsgstaticwidget.h"
 
-#include "card/cardrequests.h"
 #include "card/cardtext.h"
 #include "card/conferenceeditor.h"
 #include "card/conferencerows.h"
 #include "conferencecardinterface.h"
+#include "request/requesttexts.h"
 #include "titleitem.h"
 
 #include <lumo/lsuggestbutton.h>
@@ -146,7 +146,7 @@ void ConferenceMsgStaticWidget::slotModifyConference()
     update();
 
     const QPointer<ConferenceMsgStaticWidget> alive(this);
-    const int code = gateway()->UpdateVideoConference(CardRequests::update(m_conferences.first()));
+    const int code = gateway()->UpdateVideoConference(RequestText::updateConference(m_conferences.first()));
     qDebug() << "create conference code:" << code;
     if (!alive.isNull()) {
         reply(CardReplies::modified(code));
@@ -296,8 +296,10 @@ void ConferenceMsgStaticWidget::confirm(const Confirmation &confirmation)
     const qint64 startTime = m_startTime;
     const int code =
         confirmation.purpose == CardReplies::Purpose::Create
-            ? gateway()->createVideoConference(CardRequests::create(members, startTime), startTime)
-            : gateway()->inviteVideoConference(CardRequests::invite(members));
+            ? gateway()->createVideoConference(
+                  RequestText::createConference(RequestText::membersPicked(members), startTime), startTime)
+            : gateway()->inviteVideoConference(
+                  RequestText::inviteMembers(RequestText::membersPicked(members)));
     if (alive.isNull()) {
         return;
     }

@@ -3,8 +3,8 @@
 
 #include "contactdetailwidget.h"
 
-#include "card/cardrequests.h"
 #include "conferencecardinterface.h"
+#include "request/requesttexts.h"
 
 #include <lumo/lcombobox.h>
 #include <lumo/lfontsizemanager.h>
@@ -173,7 +173,7 @@ void ContactDetailWidget::slotsClickConfirm()
     qDebug() << "startTime:" << start;
     // The form may be gone when the call comes back.
     const int code = ConferenceCardInterface::instance()->UpdateVideoConference(
-        CardRequests::update(changedConference(start)));
+        RequestText::updateConference(changedConference(start)));
     qDebug() << code;
 }
 

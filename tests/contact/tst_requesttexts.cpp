@@ -1,17 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "card/cardrequests.h"
-
-#include "cardsamples.h"
+#include "request/requesttexts.h"
 
 #include <QtTest>
 
-using namespace CardSamples;
-
 Q_DECLARE_METATYPE(UserInfo)
 
-class TestCardRequests : public QObject
+class TestRequestTexts : public QObject
 {
     Q_OBJECT
 
@@ -22,36 +18,36 @@ private Q_SLOTS:
     void theMembersOfARequest();
 };
 
-void TestCardRequests::anUpdate()
+void TestRequestTexts::anUpdate()
 {
     ContactDetailMsg one;
     one.confId = QStringLiteral("7");
     one.startTime = Q_INT64_C(1709775000000);
     one.duration = 900000;
     one.participantLimit = 5;
-    QCOMPARE(CardRequests::update(one),
+    QCOMPARE(RequestText::updateConference(one),
              QStringLiteral(
                  R"({"conferenceId":"7","duration":900000,"participantLimit":5,"startTime":1709775000000})"));
 }
 
-void TestCardRequests::numbersBeyond32BitsStayWhole()
+void TestRequestTexts::numbersBeyond32BitsStayWhole()
 {
     ContactDetailMsg one;
     one.startTime = Q_INT64_C(4102416000123);
     one.duration = Q_INT64_C(8589934592);
     QCOMPARE(
-        CardRequests::update(one),
+        RequestText::updateConference(one),
         QStringLiteral(
             R"({"conferenceId":"","duration":8589934592,"participantLimit":0,"startTime":4102416000123})"));
 }
 
-void TestCardRequests::theMembersOfARequest_data()
+void TestRequestTexts::theMembersOfARequest_data()
 {
     QTest::addColumn<QVector<UserInfo>>("members");
     QTest::addColumn<QString>("array");
-    const UserInfo zhang = user(QStringLiteral("张三"), QStringLiteral("张三（市场部）"),
-                                QStringLiteral("z1"), QStringLiteral("zhangsan01"));
-    const UserInfo quoted = user(QStringLiteral("\"\\"), {}, QStringLiteral("q"), {});
+    const UserInfo zhang = {QStringLiteral("张三"), QStringLiteral("张三（市场部）"), QStringLiteral("z1"),
+                            QStringLiteral("zhangsan01")};
+    const UserInfo quoted = {QStringLiteral("\"\\"), {}, QStringLiteral("q"), {}};
     QTest::newRow("nobody") << QVector<UserInfo>() << QStringLiteral("[]");
     QTest::newRow("somebody, by the name that was asked for")
         << QVector<UserInfo>{zhang} << QStringLiteral(R"([{"name":"张三","userId":"z1"}])");
@@ -60,15 +56,17 @@ void TestCardRequests::theMembersOfARequest_data()
         << QStringLiteral(R"([{"name":"\"\\","userId":"q"},{"name":"张三","userId":"z1"}])");
 }
 
-void TestCardRequests::theMembersOfARequest()
+void TestRequestTexts::theMembersOfARequest()
 {
     QFETCH(QVector<UserInfo>, members);
     QFETCH(QString, array);
-    QCOMPARE(CardRequests::invite(members), QStringLiteral(R"({"members":%1})").arg(array));
-    QCOMPARE(CardRequests::create(members, 0), QStringLiteral(R"({"members":%1,"startTime":0})").arg(array));
-    QCOMPARE(CardRequests::create(members, Q_INT64_C(1709775000000)),
+    QCOMPARE(RequestText::inviteMembers(RequestText::membersPicked(members)),
+             QStringLiteral(R"({"members":%1})").arg(array));
+    QCOMPARE(RequestText::createConference(RequestText::membersPicked(members), 0),
+             QStringLiteral(R"({"members":%1,"startTime":0})").arg(array));
+    QCOMPARE(RequestText::createConference(RequestText::membersPicked(members), Q_INT64_C(1709775000000)),
              QStringLiteral(R"({"members":%1,"startTime":1709775000000})").arg(array));
 }
 
-QTEST_APPLESS_MAIN(TestCardRequests)
-#include "tst_cardrequests.moc"
+QTEST_APPLESS_MAIN(TestRequestTexts)
+#include "tst_requesttexts.moc"

@@ -115,7 +115,7 @@ void MainWindow::buildMenus()
 {
     QMenu *talk = menuBar()->addMenu(QStringLiteral("对话(&D)"));
     talk->addAction(QStringLiteral("到最新一轮(&E)"), m_view, &ConversationView::scrollToEnd,
-                    QKeySequence(Qt::CTRL | Qt::Key_End));
+                    QKeySequence(int(Qt::CTRL) + int(Qt::Key_End)));
     talk->addSeparator();
     talk->addAction(QStringLiteral("退出(&Q)"), this, &QWidget::close, QKeySequence(QKeySequence::Quit));
 
@@ -174,7 +174,7 @@ void MainWindow::buildFontMenu(QMenu &menu)
         QKeySequence(QKeySequence::ZoomOut));
     menu.addAction(
         QStringLiteral("原来大小"), this, [this] { m_appearance.setFontStep(0); },
-        QKeySequence(Qt::CTRL | Qt::Key_0));
+        QKeySequence(int(Qt::CTRL) + int(Qt::Key_0)));
 }
 
 void MainWindow::follow()

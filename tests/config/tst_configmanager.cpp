@@ -5,12 +5,17 @@
 #include "logcapture.h"
 #include "virtualplace.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
 #include <type_traits>
 
 static_assert(std::is_abstract_v<IConfig>);
@@ -32,6 +37,37 @@ QString valueOf(ConfigManager &config, const char *key)
     config.query(QString::fromUtf8(key), value);
     return value;
 }
+
+/// Takes root's right to read everything from this process while it lives; the others have no such right.
+class NobodysRights
+{
+public:
+    explicit NobodysRights(const QString &folder)
+    {
+        if (::geteuid() != 0) {
+            m_taken = true;
+            return;
+        }
+        // The folder is root's and closed to others.
+        m_taken = ::chmod(QFile::encodeName(folder).constData(), 0755) == 0 && ::seteuid(Nobody) == 0;
+        m_changed = m_taken;
+    }
+    ~NobodysRights()
+    {
+        if (m_changed && ::seteuid(0) != 0) {
+            qFatal("cannot become root again");
+        }
+    }
+    Q_DISABLE_COPY(NobodysRights)
+
+    bool taken() const { return m_taken; }
+
+private:
+    static constexpr uid_t Nobody = 65534;
+
+    bool m_taken = false;
+    bool m_changed = false;
+};
 
 /// Sees the steps that derived classes may replace.
 class WatchedConfig : public ConfigManager
@@ -73,6 +109,24 @@ private:
             qFatal("cannot write the file");
         }
         return file.fileName();
+    }
+
+    /// A valid file of exactly @p size bytes.
+    QString padded(const char *name, int size)
+    {
+        const QByteArray json(R"({"a": "1"})");
+        QFile file(m_folder.filePath(QString::fromLatin1(name)));
+        if (!file.open(QIODevice::WriteOnly) || file.write(json.leftJustified(size)) != size) {
+            qFatal("cannot write the file");
+        }
+        return file.fileName();
+    }
+
+    QString selfLink()
+    {
+        const QString path = m_folder.filePath(QStringLiteral("self"));
+        QFile::link(path, path);
+        return path;
     }
 
     QTemporaryDir m_folder;
@@ -205,6 +259,101 @@ private Q_SLOTS:
                  QStringList({QStringLiteral(
                                   "debug: Load config failed, can not open file: \"/nowhere/config.json\""),
                               QStringLiteral("critical: ") + RootMustBeObject}));
+    }
+
+    void onlyRegularFilesAreRead_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("reason");
+        const QString fifo = m_folder.filePath(QStringLiteral("fifo"));
+        QVERIFY(::mkfifo(QFile::encodeName(fifo).constData(), 0600) == 0 || errno == EEXIST);
+        const QString notRegular = QStringLiteral("it is not a regular file");
+        const auto add = [this](const char *name, const QString &path, const QString &reason) {
+            const QString link = m_folder.filePath(QStringLiteral("link to ") + QLatin1String(name));
+            QFile::link(path, link);
+            QTest::newRow(name) << path << reason;
+            QTest::addRow("a link to %s", name) << link << reason;
+        };
+        add("a FIFO", fifo, notRegular);
+        add("a device that never ends", QStringLiteral("/dev/zero"), notRegular);
+        add("a device that is empty", QStringLiteral("/dev/null"), notRegular);
+        add("a file of 2 MB", padded("large.json", 2 * 1024 * 1024),
+            QStringLiteral("it is larger than 1 MB"));
+        add("one byte too many", padded("over.json", 1024 * 1024 + 1),
+            QStringLiteral("it is larger than 1 MB"));
+        // Qt refuses to open a folder, which is reason enough.
+        add("a folder", m_folder.path(), QString());
+        add("a link to itself", selfLink(), qt_error_string(ELOOP));
+    }
+    void onlyRegularFilesAreRead()
+    {
+        QFETCH(const QString, path);
+        QFETCH(const QString, reason);
+        ConfigManager config;
+        LogCapture log(LogCapture::Unexpected::Passes);
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(!config.init(path));
+        QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+        QCOMPARE(log.lines().first(),
+                 QStringLiteral("debug: Load config failed, can not open file: \"%1\"").arg(path));
+        QCOMPARE(log.texts(QtWarningMsg).size(), 1);
+        QVERIFY2(log.texts(QtWarningMsg)
+                     .first()
+                     .startsWith(QStringLiteral("The configuration is not read: ") + reason),
+                 qPrintable(log.texts(QtWarningMsg).first()));
+        QCOMPARE(log.texts(QtCriticalMsg), QStringList{RootMustBeObject});
+    }
+
+    void theLargestFileIsRead()
+    {
+        ConfigManager config;
+        QVERIFY(config.init(padded("largest.json", 1024 * 1024)));
+        QCOMPARE(valueOf(config, "/a"), QStringLiteral("1"));
+    }
+
+    void linkToAFileIsFollowed()
+    {
+        const QString link = m_folder.filePath(QStringLiteral("link.json"));
+        QVERIFY(QFile::link(fileWith(R"({"a": "1"})"), link));
+        ConfigManager config;
+        QVERIFY(config.init(link));
+        QCOMPARE(valueOf(config, "/a"), QStringLiteral("1"));
+    }
+
+    void unreadableFileIsReported_data()
+    {
+        QTest::addColumn<bool>("linked");
+        QTest::newRow("itself") << false;
+        QTest::newRow("through a link") << true;
+    }
+    void unreadableFileIsReported()
+    {
+        QFETCH(const bool, linked);
+        const QString path = fileWith(R"({"a": "1"})");
+        QVERIFY(QFile::setPermissions(path, QFileDevice::Permissions()));
+        const QString link = m_folder.filePath(QStringLiteral("unreadable.json"));
+        QFile::remove(link);
+        QVERIFY(QFile::link(path, link));
+        const QString asked = linked ? link : path;
+        ConfigManager config;
+        LogCapture log(LogCapture::Unexpected::Passes);
+        bool loaded = true;
+        {
+            const NobodysRights rights(m_folder.path());
+            if (!rights.taken()) {
+                QFile::remove(path);
+                QSKIP("root reads every file, and its rights cannot be given up here");
+            }
+            loaded = config.init(asked);
+        }
+        QFile::remove(path);
+        QVERIFY(!loaded);
+        QCOMPARE(
+            log.lines(),
+            QStringList({QStringLiteral("debug: Load config failed, can not open file: \"%1\"").arg(asked),
+                         QStringLiteral("warning: The configuration is not read: ") + qt_error_string(EACCES),
+                         QStringLiteral("critical: ") + RootMustBeObject}));
     }
 
     void fileIsReadAsUtf8()

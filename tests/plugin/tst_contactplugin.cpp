@@ -14,6 +14,8 @@
 #include <QThread>
 #include <QWidget>
 
+#include <sys/stat.h>
+
 #include <memory>
 #include <stdexcept>
 #include <thread>
@@ -82,6 +84,8 @@ private Q_SLOTS:
     void initReadsTheConfiguration();
     void initFailsWithoutAReadableConfiguration_data();
     void initFailsWithoutAReadableConfiguration();
+    void initFailsWithAnythingButASmallFile_data();
+    void initFailsWithAnythingButASmallFile();
     void repliesReachTheHandle();
     void repliesBeforeTheHandleAreDropped();
     void aNewHandleReplacesTheFormer();
@@ -89,6 +93,9 @@ private Q_SLOTS:
     void exceptionOfTheHandleStaysInside();
     void replyIsARegisteredMetatype();
     void uninitDoesNothing();
+
+private:
+    QTemporaryDir m_folder;
 };
 
 void TestContactPlugin::offersOneService()
@@ -207,6 +214,32 @@ void TestContactPlugin::initFailsWithoutAReadableConfiguration()
     QCOMPARE(plugin.init(), -3);
     QCOMPARE(redirected.opened(), 1);
     QVERIFY(log.contains(QtCriticalMsg, critical));
+}
+
+void TestContactPlugin::initFailsWithAnythingButASmallFile_data()
+{
+    QTest::addColumn<QByteArray>("path");
+    const QByteArray fifo = QFile::encodeName(m_folder.filePath(QStringLiteral("fifo")));
+    QVERIFY(::mkfifo(fifo.constData(), 0600) == 0);
+    QFile large(m_folder.filePath(QStringLiteral("large.json")));
+    QVERIFY(large.open(QIODevice::WriteOnly));
+    QVERIFY(large.write(QByteArray("{}").leftJustified(2 * 1024 * 1024)) > 0);
+    QTest::newRow("a FIFO that nobody writes to") << fifo;
+    QTest::newRow("a device that never ends") << QByteArray("/dev/zero");
+    QTest::newRow("a folder") << QFile::encodeName(m_folder.path());
+    QTest::newRow("2 MB") << QFile::encodeName(large.fileName());
+}
+
+void TestContactPlugin::initFailsWithAnythingButASmallFile()
+{
+    QFETCH(const QByteArray, path);
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    const RedirectedFile redirected(ConfigurationPath, path);
+    ContactPlugin plugin;
+    QCOMPARE(plugin.init(), -3);
+    QCOMPARE(redirected.opened(), 1);
+    QCOMPARE(log.texts(QtWarningMsg).size(), 1);
+    QVERIFY(log.contains(QtCriticalMsg, QStringLiteral("config root must be a object.")));
 }
 
 void TestContactPlugin::repliesReachTheHandle()

@@ -27,7 +27,21 @@ const char *placeOf(const char *path)
     return redirectedTarget.load();
 }
 
+int openRedirected(const char *path, int flags, mode_t mode)
+{
+    return static_cast<int>(syscall(SYS_openat, AT_FDCWD, placeOf(path), flags, mode));
+}
+
 } // namespace
+
+extern "C" __attribute__((visibility("default"))) int open(const char *path, int flags, ...)
+{
+    va_list rest;
+    va_start(rest, flags);
+    const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(rest, mode_t) : 0;
+    va_end(rest);
+    return openRedirected(path, flags, mode);
+}
 
 extern "C" __attribute__((visibility("default"))) int open64(const char *path, int flags, ...)
 {
@@ -35,7 +49,7 @@ extern "C" __attribute__((visibility("default"))) int open64(const char *path, i
     va_start(rest, flags);
     const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(rest, mode_t) : 0;
     va_end(rest);
-    return static_cast<int>(syscall(SYS_openat, AT_FDCWD, placeOf(path), flags, mode));
+    return openRedirected(path, flags, mode);
 }
 
 RedirectedFile::RedirectedFile(const QByteArray &path, const QByteArray &target)

@@ -8,8 +8,8 @@
 /**
  * Makes this process open another file in one path's place while it lives, so that a file at a fixed place
  * can be tested without touching the machine. Only what this program and the libraries it loads open by name
- * is redirected, one path at a time. Link redirectedfile.cpp into the test program itself: its open64() goes
- * before the C library's.
+ * is redirected, one path at a time. Link redirectedfile.cpp into the test program itself: its open() and
+ * open64() go before the C library's.
  */
 class RedirectedFile
 {

@@ -169,6 +169,9 @@ QWidget *ContactDetailWidget::createConferenceInvite(const QVector<ContactDetail
 void ContactDetailWidget::slotsClickConfirm()
 {
     qDebug() << "slotsClickConfirm";
+    if (m_hour == nullptr || m_duration == nullptr || m_personNum == nullptr) {
+        return; // the form is not built
+    }
     const QDateTime start = chosenStart();
     qDebug() << "startTime:" << start;
     // The form may be gone when the call comes back.

@@ -41,6 +41,7 @@ public:
     QWidget *createConferenceInvite(const QVector<ContactDetailMsg> &list);
 
 public Q_SLOTS:
+    /// Sends what the form says; without a form, nothing.
     void slotsClickConfirm();
     void slotsClickCancel();
 

@@ -108,6 +108,8 @@ private Q_SLOTS:
     void confirmingSendsTheChange_data();
     void confirmingSendsTheChange();
     void confirmingWritesToTheDebugLog();
+    void withoutAFormConfirmingSendsNothing_data();
+    void withoutAFormConfirmingSendsNothing();
     void cancellingOnlyWritesToTheDebugLog();
     void aFailureLeavesTheFormAsItIs();
 };
@@ -381,6 +383,34 @@ void TestContactDetailWidget::confirmingWritesToTheDebugLog()
     QVERIFY(first >= 0);
     QVERIFY2(second > first, qPrintable(texts.join(QLatin1Char('\n'))));
     QCOMPARE(texts.last(), QStringLiteral("0"));
+}
+
+void TestContactDetailWidget::withoutAFormConfirmingSendsNothing_data()
+{
+    QTest::addColumn<bool>("emptyForm");
+    QTest::newRow("before the form is built") << false;
+    QTest::newRow("a form of no conference") << true;
+}
+
+void TestContactDetailWidget::withoutAFormConfirmingSendsNothing()
+{
+    QFETCH(const bool, emptyForm);
+    ScriptedAbility::instance().reset();
+    ContactDetailWidget widget;
+    if (emptyForm) {
+        widget.gridLayout({});
+    }
+    const LogCapture log;
+    widget.slotsClickConfirm();
+    QCOMPARE(log.lines(), QStringList{QStringLiteral("debug: slotsClickConfirm")});
+    QVERIFY(ScriptedAbility::instance().requests().isEmpty());
+
+    // A form that is built later works.
+    ScriptedAbility::instance().setAnswer(QStringLiteral("Update Conference"), 0,
+                                          QStringLiteral(R"({"ret":"OK"})"));
+    widget.gridLayout({conference()});
+    widget.slotsClickConfirm();
+    QCOMPARE(ScriptedAbility::instance().requests().size(), 1);
 }
 
 void TestContactDetailWidget::cancellingOnlyWritesToTheDebugLog()

@@ -3,6 +3,7 @@
 
 #include "contactreplywidget.h"
 
+#include "conferencecardinterface.h"
 #include "conferencemsgstaticwidget.h"
 #include "signalactiontype.h"
 
@@ -11,8 +12,6 @@
 #include <array>
 
 namespace {
-
-using Builder = void (*)(ConferenceMsgStaticWidget &card, const QVariant &data);
 
 void buildCandidatesToCreate(ConferenceMsgStaticWidget &card, const QVariant &data)
 {
@@ -44,16 +43,13 @@ void buildFound(ConferenceMsgStaticWidget &card, const QVariant &data)
     }
 }
 
-/// By SignalActionType. The first is missing: its record is kept by the dispatcher.
-constexpr std::array<Builder, Query_List + 1> Builders = {
-    nullptr,
-    buildCandidatesToCreate,
-    buildOverlap,
-    buildCandidatesToInvite,
-    buildCandidatesWithinLimit,
-    buildFound,
-    buildFound,
+/// From Create_Duplicate on, in the order of SignalActionType. The record of Create_Success stays with the
+/// dispatcher, which builds that card itself.
+constexpr std::array Builders = {
+    buildCandidatesToCreate,    buildOverlap, buildCandidatesToInvite,
+    buildCandidatesWithinLimit, buildFound,   buildFound,
 };
+static_assert(Create_Duplicate == Create_Success + 1 && Builders.size() == Query_List);
 
 } // namespace
 
@@ -65,12 +61,14 @@ ContactReplyWidget::ContactReplyWidget(QObject *parent)
     qRegisterMetaType<Reply>();
     connect(m_interface, &ConferenceCardInterface::sentActionSignals, this,
             &ContactReplyWidget::slotNoticeAction, Qt::DirectConnection);
+    connect(
+        m_interface, &QObject::destroyed, this, [this] { m_interface = nullptr; }, Qt::DirectConnection);
 }
 
 void ContactReplyWidget::stopListening()
 {
-    if (!m_interface.isNull()) {
-        disconnect(m_interface, nullptr, this, nullptr);
+    if (m_interface != nullptr) {
+        disconnect(m_interface, &ConferenceCardInterface::sentActionSignals, this, nullptr);
     }
 }
 
@@ -100,7 +98,7 @@ void ContactReplyWidget::build(int actionType, const QVariant &data)
         m_created = data.value<ContactCreatedConferenceDetail>();
         m_card->createInviteConference(m_created.conferences);
     } else if (actionType > Create_Success && actionType <= Query_List) {
-        Builders.at(static_cast<std::size_t>(actionType))(*m_card, data);
+        Builders.at(static_cast<std::size_t>(actionType - Create_Duplicate))(*m_card, data);
     }
     // Any other action has a card with nothing on it.
 }

@@ -3,20 +3,19 @@
 
 #pragma once
 
-#include "conferencecardinterface.h"
 #include "conferencerecords.h"
 
 #include <speakmate/reply.h>
 
 #include <QObject>
-#include <QPointer>
 
+class ConferenceCardInterface;
 class ConferenceMsgStaticWidget;
 
 /**
  * Turns the outcome of a request into a card: listens to the gateway, builds the card inside its emission and
  * attaches it to the reply. Lives on the GUI thread as long as the plugin. It does not own the cards; the
- * host shows and deletes them.
+ * host shows and deletes them. The order of the members is fixed.
  */
 class ContactReplyWidget : public QObject
 {
@@ -39,8 +38,8 @@ Q_SIGNALS:
 private:
     void build(int actionType, const QVariant &data);
 
-    // At the process's end the gateway may go before the plugin.
-    QPointer<ConferenceCardInterface> m_interface;
+    /// Null once the gateway is gone, which at the process's end may be before the plugin.
+    ConferenceCardInterface *m_interface;
     /// The latest one. It may long be deleted; nothing but its building is done with it.
     ConferenceMsgStaticWidget *m_card = nullptr;
     ContactCreatedConferenceDetail m_created;

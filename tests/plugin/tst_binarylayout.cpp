@@ -4,9 +4,13 @@
 #include "documented/documentedinterfaces.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QLibrary>
 #include <QPluginLoader>
 #include <QTest>
+#include <QWidget>
+
+#include <memory>
 
 /**
  * The plugin with a host and an ability library that were built from the documentation alone: every function
@@ -22,6 +26,8 @@ private Q_SLOTS:
     void serviceFunctionsStandInOrder();
     void abilityFunctionsStandInOrder();
     void messageHandleTakesTheReplyByValue();
+    void pluginMembersStandInOrder();
+    void dispatcherMembersStandInOrder();
 
 private:
     QObject *m_object = nullptr;
@@ -136,6 +142,46 @@ void TestBinaryLayout::messageHandleTakesTheReplyByValue()
     QCOMPARE(received.widget, static_cast<void *>(&card));
     QCOMPARE(received.type, 11);
     QVERIFY(received.endOfSession);
+}
+
+void TestBinaryLayout::pluginMembersStandInOrder()
+{
+    const auto *plugin = reinterpret_cast<const Documented::Plugin *>(m_object);
+    QCOMPARE(static_cast<const void *>(static_cast<const Documented::ServicePlugin *>(plugin)),
+             static_cast<const void *>(m_plugin));
+    QCOMPARE(plugin->lastService, nullptr);
+    Documented::Service *service = m_plugin->createService(QStringLiteral("contact"));
+    QCOMPARE(plugin->lastService, service);
+    m_plugin->releaseService(service);
+    QCOMPARE(plugin->lastService, nullptr);
+    QCOMPARE(plugin->dispatcher->metaObject()->className(), "ContactReplyWidget");
+}
+
+void TestBinaryLayout::dispatcherMembersStandInOrder()
+{
+    const Documented::Dispatcher *dispatcher =
+        reinterpret_cast<const Documented::Plugin *>(m_object)->dispatcher;
+    QCOMPARE(dispatcher->interface->metaObject()->className(), "ConferenceCardInterface");
+    QCOMPARE(dispatcher->card, nullptr);
+    QVERIFY(!dispatcher->isSchedule);
+    QCOMPARE(dispatcher->scheduleTimeMsecs, qint64(0));
+    QCOMPARE(dispatcher->canInviteNum, 0);
+
+    Documented::Service *service = m_plugin->createService(QStringLiteral("contact"));
+    const QDateTime start(QDate::currentDate().addDays(1), QTime(9, 30));
+    const QString semantic =
+        QStringLiteral(R"({"intent":{"semantic":[{"intent":"CREATE_CONFERENCE",)"
+                       R"("slots":[{"name":"datetime","value":"{\"suggestDatetime\":\"%1\"}"}]}]}})");
+    QCOMPARE(service->service(semantic.arg(start.toString(QStringLiteral("yyyy-MM-ddThh:mm:ss")))), 0);
+    const Documented::Reply *reply = service->getServiceReply();
+    const std::unique_ptr<QWidget> card(static_cast<QWidget *>(reply->widget));
+    QCOMPARE(reply->type, 11);
+    QVERIFY(card != nullptr);
+    QCOMPARE(dispatcher->card, static_cast<void *>(card.get()));
+    QVERIFY(dispatcher->isSchedule);
+    QCOMPARE(dispatcher->scheduleTimeMsecs, start.toMSecsSinceEpoch());
+    QCOMPARE(dispatcher->canInviteNum, 0);
+    m_plugin->releaseService(service);
 }
 
 QTEST_MAIN(TestBinaryLayout)

@@ -74,6 +74,7 @@ private Q_SLOTS:
     void theSecondCreatedConferenceDoesNotReachTheFirstCard();
     void theLimitIsLogged();
     void onlyTheLimitIsLogged();
+    void itHoldsItsMembersInOrderAndNothingElse();
     void whatACardAnswersIsPassedOn();
     void aCardOnAnotherThreadMayAnswerToo();
 };
@@ -233,6 +234,12 @@ void TestContactReplyWidget::onlyTheLimitIsLogged()
     const ContactReplyWidget dispatcher;
     const auto card = cardFor(Invite_Duplicate, QVariant::fromValue(inviteDetail()));
     QCOMPARE(log.lines(), QStringList{QStringLiteral("debug: Signals: ActionType 3")});
+}
+
+void TestContactReplyWidget::itHoldsItsMembersInOrderAndNothingElse()
+{
+    QCOMPARE(sizeof(ContactReplyWidget),
+             sizeof(QObject) + 2 * sizeof(void *) + sizeof(ContactCreatedConferenceDetail));
 }
 
 void TestContactReplyWidget::whatACardAnswersIsPassedOn()

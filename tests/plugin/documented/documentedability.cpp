@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 // The ability library once more, written down from its documentation and never from its headers. It answers
-// every request with "OK" and keeps a list of what was called, in order.
+// every request with "OK" and one conference, and keeps a list of what was called, in order.
 
 #include <QString>
 #include <QStringList>
@@ -44,7 +44,7 @@ public:
     int request(const QString &action, const QString &parameters, QString &answer) override
     {
         calls().append(QStringLiteral("request %1 %2").arg(action, parameters));
-        answer = QStringLiteral("{\"ret\":\"OK\"}");
+        answer = QStringLiteral(R"({"ret":"OK","list":[{"title":"one","confId":"c1"}]})");
         return 0;
     }
 };

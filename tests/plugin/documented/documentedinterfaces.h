@@ -56,4 +56,29 @@ public:
     std::function<void(ServicePlugin *, Reply)> messageHandle;
 };
 
+/// Turns results into cards.
+class Dispatcher : public QObject
+{
+public:
+    QObject *interface;
+    void *card;
+    // The latest created conference's record.
+    bool isSchedule;
+    qint64 scheduleTimeMsecs;
+    void *conferences;
+    void *duplicateUsers;
+    void *normalUsers;
+    void *notExistUsers;
+    int canInviteNum;
+};
+
+class Plugin : public QObject, public ServicePlugin
+{
+public:
+    void *services;
+    void *mutex;
+    Dispatcher *dispatcher;
+    Service *lastService;
+};
+
 } // namespace Documented

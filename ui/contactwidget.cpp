@@ -19,8 +19,6 @@ ContactWidget::ContactWidget(SignalActionType type, QWidget *parent)
     , m_layout(new QVBoxLayout)
     , m_type(type)
 {
-    // From the start, so that it has an owner.
-    setLayout(m_layout);
 }
 
 void ContactWidget::init(SignalActionType /*type*/, const QVector<ContactDetailMsg> &list)
@@ -49,13 +47,12 @@ void ContactWidget::initStatic(SignalActionType /*type*/, const QVector<ContactD
 
 QWidget *ContactWidget::addTitle(int height)
 {
+    setLayout(m_layout);
     m_layout->setSpacing(0);
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setAlignment(Qt::AlignTop);
     auto *title = new TiTleItem(QStringLiteral("联系人"), this);
     title->setFixedHeight(height);
-    // It shows nobody who could be selected.
-    title->setFocusPolicy(Qt::NoFocus);
     m_layout->addWidget(title);
     return title;
 }

@@ -8,6 +8,7 @@
 #include "titleitem.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QVBoxLayout>
 #include <QtTest>
 
@@ -40,6 +41,8 @@ private Q_SLOTS:
     void theCardStandsUnderATitle_data();
     void theCardStandsUnderATitle();
     void withoutConferencesItIsEmpty();
+    void itHasNoLayoutBeforeItIsInitialised();
+    void tabReachesTheTitle();
 
 private:
     static void checkFrame(const ContactWidget &widget, int titleHeight);
@@ -57,6 +60,30 @@ void TestContactWidget::checkFrame(const ContactWidget &widget, int titleHeight)
     QVERIFY(title != nullptr);
     QCOMPARE(title->height(), titleHeight);
     QCOMPARE(title->accessibleName(), QStringLiteral("联系人"));
+    QCOMPARE(title->focusPolicy(), Qt::TabFocus);
+}
+
+void TestContactWidget::itHasNoLayoutBeforeItIsInitialised()
+{
+    ContactWidget widget(Query_List);
+    QCOMPARE(widget.layout(), nullptr);
+    widget.initStatic(Query_List, conferences(1));
+    checkFrame(widget, 62);
+}
+
+void TestContactWidget::tabReachesTheTitle()
+{
+    QWidget window;
+    auto *before = new QLineEdit(&window);
+    auto *widget = new ContactWidget(Query_List, &window);
+    widget->setFocusPolicy(Qt::NoFocus);
+    widget->resize(420, 500);
+    widget->initStatic(Query_List, conferences(1));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    before->setFocus();
+    QTest::keyClick(before, Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), widget->layout()->itemAt(0)->widget());
 }
 
 void TestContactWidget::theEditorStandsUnderATitle()

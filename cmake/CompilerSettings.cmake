@@ -35,7 +35,11 @@ endif()
 
 # Log records name their source relative to the tree, also when ccache shortens the paths it hands to the compiler.
 file(RELATIVE_PATH source_from_build ${CMAKE_BINARY_DIR} ${CMAKE_SOURCE_DIR})
-add_compile_options(-fmacro-prefix-map=${CMAKE_SOURCE_DIR}/= -fmacro-prefix-map=${source_from_build}=)
+add_compile_options(-fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
+string(REGEX REPLACE "/$" "" source_from_build "${source_from_build}") # it has one when it consists of dots alone
+if(source_from_build) # empty in a build inside the source folder itself, where shortened names are already right
+    add_compile_options(-fmacro-prefix-map=${source_from_build}/=)
+endif()
 
 add_compile_definitions(
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING

@@ -3,6 +3,8 @@
 
 #include "sampleworld.h"
 
+#include "core/statement.h"
+
 #include <QJsonDocument>
 #include <QtTest>
 
@@ -145,7 +147,9 @@ private Q_SLOTS:
     void anUpdateIsAnsweredWithTheConference();
     void theStateFollowsTheClock();
     void theCreationLimitIsOfOneMinute();
+    void aClockThatIsSetBackLocksNobodyOut();
     void aCreationThatWasRefusedDoesNotCount();
+    void namesThatWereAskedForComeBackClean();
     void whoMustLogInSeesTheWindow();
     void openingTheListShowsTheWindow();
     void aSearchWithoutParametersFindsEverythingFromNowOn();
@@ -700,6 +704,58 @@ void TestActions::theCreationLimitIsOfOneMinute()
     QCOMPARE(schedule(10), QStringLiteral("Conference Create Too Frequently"));
     world.nowMsecs += 1;
     QCOMPARE(schedule(10), QStringLiteral("OK"));
+}
+
+void TestActions::aClockThatIsSetBackLocksNobodyOut()
+{
+    SampleWorld world;
+    world.admin.SetCreationLimit(1);
+    const auto schedule = [&world](int day) {
+        QJsonObject parameters = membersNamed({});
+        parameters.insert(QStringLiteral("startTime"), at("2026-04-01T10:00") + day * 86400000LL);
+        return ret(world.ask(Create, parameters));
+    };
+    constexpr qint64 DayMsecs = 86400000;
+    world.nowMsecs += DayMsecs;
+    QCOMPARE(schedule(0), QStringLiteral("OK"));
+    world.nowMsecs -= DayMsecs;
+    QCOMPARE(schedule(1), QStringLiteral("OK"));
+    QCOMPARE(schedule(2), QStringLiteral("Conference Create Too Frequently"));
+    // What the clock noted while it was ahead does not come back when that time really comes.
+    world.nowMsecs += DayMsecs;
+    QCOMPARE(schedule(3), QStringLiteral("OK"));
+}
+
+void TestActions::namesThatWereAskedForComeBackClean()
+{
+    const QString reversed = QStringLiteral("\u202e张伟\u202c");
+    const auto users = [](const QJsonObject &answer) {
+        return answer.value(QLatin1String("users")).toArray();
+    };
+    SampleWorld world;
+    const QString override = QString(QChar(0x202e));
+    QVERIFY(world.admin.AddPerson(QStringLiteral("300001"), QStringLiteral("甲"), QStringLiteral("free")));
+    QVERIFY(world.admin.AddPerson(QStringLiteral("300002"), QStringLiteral("乙"), QStringLiteral("free")));
+    for (const char *account : {"300001", "300002"}) {
+        // As an older version, which took names as they came, may have stored it.
+        Statement(world.book.database().handle(),
+                  QStringLiteral("UPDATE person SET name = ? WHERE account = ?"))
+            .bind(QString(override + QStringLiteral("孪生")))
+            .bind(QString::fromLatin1(account))
+            .run();
+        QVERIFY(world.admin.AddContact(QStringLiteral("100001"), QString::fromLatin1(account), QString(),
+                                       QStringLiteral("colleague")));
+    }
+    const QJsonArray entries =
+        users(world.ask(Create, membersNamed({reversed, QString(override + QStringLiteral("孪生")),
+                                              QString(override + QStringLiteral("无名氏"))})));
+    QCOMPARE(entries.size(), 3);
+    QCOMPARE(entries.at(0).toObject().value(QLatin1String("name")).toString(), QStringLiteral("张伟"));
+    QCOMPARE(entries.at(1).toObject().value(QLatin1String("status")).toString(), QStringLiteral("Duplicate"));
+    const QString whole = QString::fromUtf8(QJsonDocument(entries).toJson());
+    for (const QChar &character : whole) {
+        QVERIFY2(character.category() != QChar::Other_Format, qPrintable(whole));
+    }
 }
 
 void TestActions::aCreationThatWasRefusedDoesNotCount()

@@ -36,7 +36,7 @@ QJsonObject conferenceToJson(const Conference &conference, qint64 nowMsecs)
 QJsonObject foundToJson(const MemberMatch &match)
 {
     const Person &person = match.people.constFirst();
-    return {{JsonKey::Name, match.asked.name},
+    return {{JsonKey::Name, cleanDisplayText(match.asked.name)},
             {JsonKey::Status, MemberStatus::Ok},
             {JsonKey::RemarkName, cleanDisplayText(person.shownName())},
             {JsonKey::UserId, person.userId},
@@ -51,7 +51,7 @@ QJsonObject duplicateToJson(const MemberMatch &match)
                                       {JsonKey::UserId, person.userId},
                                       {JsonKey::Account, person.account}});
     }
-    return {{JsonKey::Name, match.asked.name},
+    return {{JsonKey::Name, cleanDisplayText(match.asked.name)},
             {JsonKey::Status, MemberStatus::Duplicate},
             {JsonKey::DuplicateList, candidates}};
 }
@@ -64,7 +64,7 @@ QJsonObject matchToJson(const MemberMatch &match)
     if (match.isDuplicate()) {
         return duplicateToJson(match);
     }
-    return {{JsonKey::Name, match.asked.name}, {JsonKey::Status, MemberStatus::NotFound}};
+    return {{JsonKey::Name, cleanDisplayText(match.asked.name)}, {JsonKey::Status, MemberStatus::NotFound}};
 }
 
 } // namespace

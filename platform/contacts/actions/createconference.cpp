@@ -19,8 +19,8 @@ constexpr qint64 MinuteMsecs = 60 * 1000;
 
 bool isTooFrequent(const ActionContext &context)
 {
-    return context.conferences.creationsSince(context.user.userId, context.nowMsecs - MinuteMsecs) >=
-           context.session.creationsPerMinute();
+    return context.conferences.creationsBetween(context.user.userId, context.nowMsecs - MinuteMsecs,
+                                                context.nowMsecs) >= context.session.creationsPerMinute();
 }
 
 } // namespace

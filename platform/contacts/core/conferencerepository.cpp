@@ -228,21 +228,23 @@ void ConferenceRepository::removeAll()
     Statement(m_database, QStringLiteral("DELETE FROM creation")).run();
 }
 
-int ConferenceRepository::creationsSince(const QString &hostId, qint64 sinceMsecs) const
+int ConferenceRepository::creationsBetween(const QString &hostId, qint64 afterMsecs, qint64 untilMsecs) const
 {
-    Statement query(m_database,
-                    QStringLiteral("SELECT count(*) FROM creation WHERE host_id = ? AND created_msecs > ?"));
-    query.bind(hostId).bind(sinceMsecs).run().next();
+    Statement query(m_database, QStringLiteral("SELECT count(*) FROM creation WHERE host_id = ?"
+                                               " AND created_msecs > ? AND created_msecs <= ?"));
+    query.bind(hostId).bind(afterMsecs).bind(untilMsecs).run().next();
     return query.smallNumber(0);
 }
 
 void ConferenceRepository::noteCreation(const QString &hostId, qint64 nowMsecs)
 {
-    // What is older than a day decides nothing any more.
+    // What is older than a day decides nothing any more, nor does what a clock that was ahead noted.
     constexpr qint64 DayMsecs = 24 * 60 * 60 * 1000;
-    Statement(m_database, QStringLiteral("DELETE FROM creation WHERE host_id = ? AND created_msecs < ?"))
+    Statement(m_database, QStringLiteral("DELETE FROM creation WHERE host_id = ?"
+                                         " AND (created_msecs < ? OR created_msecs > ?)"))
         .bind(hostId)
         .bind(nowMsecs - DayMsecs)
+        .bind(nowMsecs)
         .run();
     Statement(m_database, QStringLiteral("INSERT INTO creation (host_id, created_msecs) VALUES (?, ?)"))
         .bind(hostId)

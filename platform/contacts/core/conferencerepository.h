@@ -50,7 +50,7 @@ public:
     void removeAll();
 
     /// For the limit on how often somebody may create.
-    int creationsSince(const QString &hostId, qint64 sinceMsecs) const;
+    int creationsBetween(const QString &hostId, qint64 afterMsecs, qint64 untilMsecs) const;
     void noteCreation(const QString &hostId, qint64 nowMsecs);
 
 private:

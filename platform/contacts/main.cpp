@@ -16,7 +16,7 @@
 
 namespace {
 
-enum ExitStatus { Served = 0, DatabaseUnusable = 1, NoSessionBus = 2 };
+enum ExitStatus { Served = 0, DatabaseUnusable = 1, NoSessionBus = 2, BusRefused = 3 };
 
 std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv, bool withWindow)
 {
@@ -45,6 +45,8 @@ int serve(QCoreApplication &application, FirstSight firstSight)
         return NoSessionBus;
     case BusService::Start::AlreadyRunning:
         return Served;
+    case BusService::Start::Refused:
+        return BusRefused;
     case BusService::Start::Done:
         break;
     }

@@ -25,7 +25,12 @@ QString ScriptedRequests::Request(const QString &action, const QString &paramete
     const QDBusMessage request = message();
     const QDBusConnection bus = connection();
     if (action == QLatin1String("Malform")) {
-        bus.send(request.createReply(42));
+        // One argument for each letter of the signature.
+        QVariantList arguments;
+        for (const QChar type : parameters) {
+            arguments.append(type == QLatin1Char('s') ? QVariant(QStringLiteral("text")) : QVariant(42));
+        }
+        bus.send(request.createReply(arguments));
     } else if (action == QLatin1String("Late")) {
         QTimer::singleShot(parameters.toInt(), Qt::PreciseTimer, this,
                            [request, bus] { bus.send(request.createReply(QStringLiteral("late"))); });

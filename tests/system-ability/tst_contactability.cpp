@@ -6,12 +6,16 @@
 #include <kelvane/abilitycodes.h>
 #include <kelvane/kelvaneabilitymanager.h>
 
+#include <QDBusConnection>
+#include <QDBusPendingCall>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <algorithm>
 #include <csignal>
+#include <limits>
 #include <memory>
 #include <thread>
 #include <vector>
@@ -87,6 +91,9 @@ private Q_SLOTS:
     void eventsWaitUntilTheRequestIsOver();
     void threadsDoNotWaitForEachOther();
     void aNonsensicalTimeOutIsTheDefault();
+    void everyTimeOutIsCarried_data();
+    void everyTimeOutIsCarried();
+    void aThousandRequestsMayWait();
 };
 
 void TestContactAbility::failures_data()
@@ -94,13 +101,23 @@ void TestContactAbility::failures_data()
     QTest::addColumn<QString>("action");
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("error");
+    QTest::addColumn<QString>("parameters");
     QTest::newRow("an error") << QStringLiteral("Fail") << int(AbilityCode::Refused)
-                              << QStringLiteral("org.example.Error.NotToday not today");
-    QTest::newRow("an answer that is no text")
-        << QStringLiteral("Malform") << int(AbilityCode::MalformedAnswer)
-        << QStringLiteral("org.freedesktop.DBus.Error.InvalidSignature ");
-    QTest::newRow("a death during the call") << QStringLiteral("Die") << int(AbilityCode::Died)
-                                             << QStringLiteral("org.freedesktop.DBus.Error.NoReply ");
+                              << QStringLiteral("org.example.Error.NotToday not today") << QString();
+    for (const char *signature : {"i", "", "is"}) {
+        QTest::addRow("an answer of the type \"%s\"", signature)
+            << QStringLiteral("Malform") << int(AbilityCode::MalformedAnswer)
+            << QStringLiteral("org.freedesktop.DBus.Error.InvalidSignature ")
+            << QString::fromLatin1(signature);
+    }
+    for (const char *signature : {"ss", "si", "sss"}) {
+        QTest::addRow("a text and more, \"%s\"", signature)
+            << QStringLiteral("Malform") << int(AbilityCode::MalformedAnswer)
+            << QStringLiteral("signature %1").arg(QLatin1String(signature)) << QString::fromLatin1(signature);
+    }
+    QTest::newRow("a death during the call")
+        << QStringLiteral("Die") << int(AbilityCode::Died)
+        << QStringLiteral("org.freedesktop.DBus.Error.NoReply ") << QString();
 }
 
 void TestContactAbility::failures()
@@ -108,10 +125,11 @@ void TestContactAbility::failures()
     QFETCH(QString, action);
     QFETCH(int, code);
     QFETCH(QString, error);
+    QFETCH(QString, parameters);
     const Running application(scripted());
     QVERIFY(application.isReady());
     LogCapture log(LogCapture::Unexpected::Passes);
-    const Asked asked = ask(action);
+    const Asked asked = ask(action, parameters);
     QCOMPARE(asked.code, code);
     QVERIFY(asked.code >= -9999 && asked.code <= -1);
     QCOMPARE(asked.answer, QStringLiteral("untouched"));
@@ -298,6 +316,50 @@ void TestContactAbility::aNonsensicalTimeOutIsTheDefault()
         const Asked asked = ask(QStringLiteral("Late"), QStringLiteral("100"), timeout);
         QCOMPARE(asked.code, 0);
     }
+}
+
+void TestContactAbility::everyTimeOutIsCarried_data()
+{
+    constexpr int Largest = std::numeric_limits<int>::max();
+    constexpr int Smallest = std::numeric_limits<int>::min();
+    QTest::addColumn<int>("timeoutMsecs");
+    for (const int msecs : {Smallest, Smallest + 1, -1001, -1, 0, 501, Largest - 1001, Largest - 1000,
+                            Largest - 999, Largest - 1, Largest}) {
+        QTest::addRow("%d", msecs) << msecs;
+    }
+}
+
+void TestContactAbility::everyTimeOutIsCarried()
+{
+    QFETCH(int, timeoutMsecs);
+    const Running application(scripted());
+    QVERIFY(application.isReady());
+    const LogCapture log;
+    const Asked asked = ask(QStringLiteral("Echo"), QStringLiteral("here"), timeoutMsecs);
+    QCOMPARE(asked.code, 0);
+    QCOMPARE(asked.answer, QStringLiteral("here"));
+}
+
+void TestContactAbility::aThousandRequestsMayWait()
+{
+    constexpr int Requests = 1000;
+    const Running application(scripted());
+    QVERIFY(application.isReady());
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        QStringLiteral("com.kelvane.meetlynx"), QStringLiteral("/com/kelvane/meetlynx"),
+        QStringLiteral("com.kelvane.meetlynx.Contact1"), QStringLiteral("Request"));
+    message.setArguments({QStringLiteral("Never"), QString()});
+    std::vector<QDBusPendingCall> calls;
+    for (int i = 0; i < Requests; ++i) {
+        calls.push_back(bus.asyncCall(message, 60000));
+    }
+    // Comes after them all on the same connection.
+    message.setArguments({QStringLiteral("Echo"), QStringLiteral("last")});
+    QCOMPARE(bus.call(message, QDBus::Block, 10000).type(), QDBusMessage::ReplyMessage);
+    const auto failed = std::count_if(calls.cbegin(), calls.cend(),
+                                      [](const QDBusPendingCall &call) { return call.isFinished(); });
+    QCOMPARE(int(failed), 0);
 }
 
 QTEST_GUILESS_MAIN(TestContactAbility)

@@ -10,7 +10,10 @@
 #include "admin1adaptor.h"
 #include "contact1adaptor.h"
 
+#include <QDBusConnectionInterface>
+#include <QDBusError>
 #include <QDBusMessage>
+#include <QDebug>
 
 BusService::BusService(ContactsBook &book, QObject *parent)
     : QObject(parent)
@@ -28,17 +31,36 @@ BusService::Start BusService::start()
     if (!m_connection.isConnected()) {
         return Start::NoBus;
     }
-    m_connection.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
-                         QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
-                         SIGNAL(disconnected()));
+    if (!m_connection.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
+                              QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"),
+                              this, SIGNAL(disconnected()))) {
+        qCritical() << "The end of the session bus cannot be watched:" << m_connection.lastError().message();
+        return Start::Refused;
+    }
     // The objects first: whoever waits for the name calls at once.
-    m_connection.registerObject(BusName::contactPath(), m_requests);
-    m_connection.registerObject(BusName::adminPath(), m_administration);
+    if (!putOnBus(BusName::contactPath(), m_requests) || !putOnBus(BusName::adminPath(), m_administration)) {
+        return Start::Refused;
+    }
     if (m_connection.registerService(BusName::service())) {
         return Start::Done;
     }
+    if (!m_connection.interface()->isServiceRegistered(BusName::service())) {
+        qCritical() << "The session bus refuses the name" << BusName::service() << ":"
+                    << m_connection.lastError().message();
+        return Start::Refused;
+    }
     askOtherForWindow();
     return Start::AlreadyRunning;
+}
+
+bool BusService::putOnBus(const QString &path, QObject *object)
+{
+    if (m_connection.registerObject(path, object)) {
+        return true;
+    }
+    qCritical() << "The object" << path
+                << "cannot be put on the session bus:" << m_connection.lastError().message();
+    return false;
 }
 
 void BusService::askOtherForWindow()
@@ -48,5 +70,8 @@ void BusService::askOtherForWindow()
                                                           QStringLiteral("com.kelvane.meetlynx.Contact1"),
                                                           QStringLiteral("Request"));
     message << QStringLiteral("Open Conference List") << QString();
-    m_connection.call(message, QDBus::Block, TimeoutMsecs);
+    const QDBusMessage reply = m_connection.call(message, QDBus::Block, TimeoutMsecs);
+    if (reply.type() == QDBusMessage::ErrorMessage) {
+        qWarning() << "The running application cannot be asked for its window:" << reply.errorMessage();
+    }
 }

@@ -22,6 +22,7 @@ public:
         Done,
         NoBus,
         AlreadyRunning, ///< another process has the name; it has been asked to show its window
+        Refused,        ///< the bus does not take an object or the name; the reason is in the log
     };
 
     /// @p book must outlive it.
@@ -34,6 +35,7 @@ Q_SIGNALS:
     void disconnected();
 
 private:
+    bool putOnBus(const QString &path, QObject *object);
     void askOtherForWindow();
 
     QDBusConnection m_connection;

@@ -13,6 +13,7 @@
 #include <QDBusPendingReply>
 
 #include <functional>
+#include <limits>
 
 namespace {
 
@@ -34,6 +35,11 @@ PendingRequest::Result resultOf(const QDBusPendingReply<QString> &reply)
 {
     if (reply.isError()) {
         return {codeOf(reply.error()), {}, reply.error().name(), reply.error().message()};
+    }
+    // A typed reply only looks at as many arguments as it has types.
+    const QString signature = reply.reply().signature();
+    if (signature != QLatin1String("s")) {
+        return {AbilityCode::MalformedAnswer, {}, QStringLiteral("signature"), signature};
     }
     return {AbilityCode::Success, reply.value(), {}, {}};
 }
@@ -87,7 +93,7 @@ void BusLink::call(const std::shared_ptr<PendingRequest> &request)
         request->finish({AbilityCode::NoBus, {}, error.name(), error.message()});
         return;
     }
-    m_proxy->setTimeout(remaining + GraceMsecs);
+    m_proxy->setTimeout(qMin(remaining, std::numeric_limits<int>::max() - GraceMsecs) + GraceMsecs);
     auto *watcher = new QDBusPendingCallWatcher(m_proxy->Request(request->action, request->parameters), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [request](QDBusPendingCallWatcher *finished) {
         request->finish(resultOf(*finished));

@@ -24,14 +24,14 @@ public:
 
 } // namespace
 
-// The names that the linker gives to ContactUtils::contactAppIsRunning() and
+// The names that the linker gives to contactsApplicationIsRunning() and
 // KelvaneAbilityManager::createContact() when they are wrapped; see the CMake file.
 extern "C" {
 
-bool __real__ZN12ContactUtils19contactAppIsRunningEv();
+bool __real__Z28contactsApplicationIsRunningv();
 ContactAbility *__real__ZN21KelvaneAbilityManager13createContactEv(KelvaneAbilityManager *self);
 
-bool __wrap__ZN12ContactUtils19contactAppIsRunningEv()
+bool __wrap__Z28contactsApplicationIsRunningv()
 {
     return true;
 }
@@ -55,5 +55,5 @@ void Stubs::askTheApplication()
 
 bool Stubs::realProcessCheck()
 {
-    return __real__ZN12ContactUtils19contactAppIsRunningEv();
+    return __real__Z28contactsApplicationIsRunningv();
 }

@@ -3,14 +3,33 @@
 
 #include "contactutils.h"
 
+#include "answer/answeranalysers.h"
+#include "answer/answerrecords.h"
+#include "answer/semanticreaders.h"
+#include "request/processcheck.h"
 #include "request/requesttexts.h"
+#include "request/requesttimeout.h"
+#include "request/requesttimes.h"
 
 #include <QDebug>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QLoggingCategory>
 
 ContactUtils *ContactUtils::instance()
 {
     static ContactUtils utils;
     return &utils;
+}
+
+bool ContactUtils::contactAppIsRunning()
+{
+    return contactsApplicationIsRunning();
+}
+
+int ContactUtils::timeoutInit()
+{
+    return requestTimeout(contactsApplicationIsRunning());
 }
 
 QString ContactUtils::addbuddyParamInit(const QString &name)
@@ -33,12 +52,84 @@ QString ContactUtils::inviteParamInit(const QVector<QString> &names)
     QVector<QString> spoken = names;
     spoken.removeAll(QString());
     const QString text = RequestText::inviteMembers(RequestText::membersNamed(spoken));
-    // The debug form of the object, without building the object again.
-    qDebug().noquote() << "jsonObjMember:" << QStringLiteral("QJsonObject(%1)").arg(text);
+    if (QLoggingCategory::defaultCategory()->isDebugEnabled()) {
+        // The debug form of the object, without building the object again.
+        qDebug().noquote() << "jsonObjMember:" << QStringLiteral("QJsonObject(%1)").arg(text);
+    }
     return text;
+}
+
+QString ContactUtils::queryParamInit(const QString &timeSlotText, qint64 &queryStartMsecs)
+{
+    return RequestTimes::searchParameters(timeSlotText, queryStartMsecs);
+}
+
+bool ContactUtils::scheduleTimeMsecsInit(const QString &timeSlotText, bool &isSchedule, qint64 &startMsecs)
+{
+    return RequestTimes::conferenceStart(timeSlotText, isSchedule, startMsecs);
 }
 
 QString ContactUtils::vectorToString(const QVector<QString> &names)
 {
     return QStringList(names.toList()).join(QStringLiteral("、"));
+}
+
+int ContactUtils::analyzeReturnContext(const QString &answer)
+{
+    return AnswerAnalyser::general(answer);
+}
+
+int ContactUtils::analyzeResultContext(const QString &answer, const QVector<QString> & /*memberNames*/,
+                                       const bool &isSchedule, const qint64 &startMsecs,
+                                       ContactCreatedConferenceDetail &detail)
+{
+    return AnswerAnalyser::create(answer, isSchedule, startMsecs, detail);
+}
+
+int ContactUtils::analyzeResultContext(const QString &answer, const QVector<QString> & /*memberNames*/,
+                                       ContactInviteMemberDetail &detail)
+{
+    return AnswerAnalyser::invite(answer, detail);
+}
+
+int ContactUtils::analyzeJoinReturnContext(const QString &answer, QVector<ContactDetailMsg> &conferences)
+{
+    return AnswerAnalyser::join(answer, conferences);
+}
+
+int ContactUtils::analyzeQueryResultContext(const QString &answer, const qint64 & /*queryStartMsecs*/,
+                                            QVector<ContactDetailMsg> &conferences)
+{
+    return AnswerAnalyser::query(answer, conferences);
+}
+
+int ContactUtils::analyzeUpdateReturnContext(const QString &answer, ContactCreatedConferenceDetail &detail)
+{
+    return AnswerAnalyser::update(answer, detail);
+}
+
+ContactInviteMemberDetail ContactUtils::analyzeReturnUsers(const QJsonArray &users,
+                                                           const QVector<QString> & /*memberNames*/)
+{
+    return AnswerRecords::members(users);
+}
+
+QVector<ContactDetailMsg> ContactUtils::parseContactMsg(const QJsonArray &list)
+{
+    return AnswerRecords::conferences(list);
+}
+
+bool ContactUtils::analyzeIsShouldEndSession(const QString &semanticJson)
+{
+    return SemanticReader::shouldEndSession(QJsonDocument::fromJson(semanticJson.toUtf8()));
+}
+
+bool ContactUtils::analyzeIsShouldEndSession(const QJsonDocument &semantic)
+{
+    return SemanticReader::shouldEndSession(semantic);
+}
+
+void ContactUtils::getVoiceAnswerContext(const QString &semanticJson, QString &first, QString &second)
+{
+    SemanticReader::readVoiceAnswer(QJsonDocument::fromJson(semanticJson.toUtf8()), first, second);
 }

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// How ContactUtils reads the contacts application's answers.
+#include "answer/answeranalysers.h"
 
 #include "answer/abilityanswer.h"
-#include "contactutils.h"
+#include "answer/answerrecords.h"
 #include "wire/answerwords.h"
 #include "wire/resultcodes.h"
 
@@ -13,7 +13,7 @@
 
 namespace {
 
-// The same word means different things to different requests, so each kind of request has its own table.
+// The same word means different things to different requests: one table each.
 
 constexpr OutcomeTable GeneralCodes = {
     {OutcomeWord::Ok, ResultCode::Success},
@@ -67,10 +67,10 @@ constexpr const char *MemberReadErrorText = "response ret error.error:";
 
 QVector<ContactDetailMsg> conferencesOf(const AbilityAnswer &answer)
 {
-    return ContactUtils::parseContactMsg(answer.object().value(AnswerKey::Conferences).toArray());
+    return AnswerRecords::conferences(answer.object().value(AnswerKey::Conferences).toArray());
 }
 
-/// What "Return" means, which is decided name by name.
+/// The code for "Return", decided name by name.
 int codeOf(const ContactInviteMemberDetail &detail)
 {
     if (!detail.duplicateUsers.isEmpty()) {
@@ -82,18 +82,15 @@ int codeOf(const ContactInviteMemberDetail &detail)
     return detail.normalUsers.isEmpty() ? ResultCode::NobodyFound : ResultCode::SomeNotFound;
 }
 
-int analyzeMembers(const AbilityAnswer &answer, const QVector<QString> &memberNames,
-                   ContactInviteMemberDetail &detail)
+int analyseMembers(const AbilityAnswer &answer, ContactInviteMemberDetail &detail)
 {
     if (answer.outcome() == OutcomeWord::Return) {
-        detail =
-            ContactUtils::analyzeReturnUsers(answer.object().value(AnswerKey::Users).toArray(), memberNames);
+        detail = AnswerRecords::members(answer.object().value(AnswerKey::Users).toArray());
         return codeOf(detail);
     }
     const int code = answer.code(InviteCodes, ResultCode::Malformed);
     if (code == ResultCode::MembersLimit) {
-        detail = ContactUtils::analyzeReturnUsers(answer.object().value(AnswerKey::NotJoined).toArray(),
-                                                  memberNames);
+        detail = AnswerRecords::members(answer.object().value(AnswerKey::NotJoined).toArray());
         detail.canInviteNum = answer.object().value(AnswerKey::CanInvite).toInt();
     }
     return code;
@@ -101,15 +98,14 @@ int analyzeMembers(const AbilityAnswer &answer, const QVector<QString> &memberNa
 
 } // namespace
 
-int ContactUtils::analyzeReturnContext(const QString &answer)
+int AnswerAnalyser::general(const QString &answer)
 {
     const AbilityAnswer parsed(answer, ReadErrorText);
     return parsed.isReadable() ? parsed.code(GeneralCodes, ResultCode::Malformed) : ResultCode::Malformed;
 }
 
-int ContactUtils::analyzeResultContext(const QString &answer, const QVector<QString> &memberNames,
-                                       const bool &isSchedule, const qint64 &startMsecs,
-                                       ContactCreatedConferenceDetail &detail)
+int AnswerAnalyser::create(const QString &answer, bool isSchedule, qint64 startMsecs,
+                           ContactCreatedConferenceDetail &detail)
 {
     const AbilityAnswer parsed(answer, MemberReadErrorText);
     if (!parsed.isReadable()) {
@@ -118,7 +114,7 @@ int ContactUtils::analyzeResultContext(const QString &answer, const QVector<QStr
     detail.isSchedule = isSchedule;
     detail.scheduleTimeMsecs = startMsecs;
     if (parsed.outcome() == OutcomeWord::Ok) {
-        // A conference that starts at once is already on the screen; only a scheduled one is shown.
+        // An immediate conference is on the screen already; only a booked one is shown.
         if (isSchedule) {
             detail.conferences = conferencesOf(parsed);
         }
@@ -131,32 +127,30 @@ int ContactUtils::analyzeResultContext(const QString &answer, const QVector<QStr
     if (parsed.outcome() == OutcomeWord::Return) {
         detail.conferences = conferencesOf(parsed);
     }
-    return analyzeMembers(parsed, memberNames, detail.inviteDetail);
+    return analyseMembers(parsed, detail.inviteDetail);
 }
 
-int ContactUtils::analyzeResultContext(const QString &answer, const QVector<QString> &memberNames,
-                                       ContactInviteMemberDetail &detail)
+int AnswerAnalyser::invite(const QString &answer, ContactInviteMemberDetail &detail)
 {
     const AbilityAnswer parsed(answer, MemberReadErrorText);
-    return parsed.isReadable() ? analyzeMembers(parsed, memberNames, detail) : ResultCode::Malformed;
+    return parsed.isReadable() ? analyseMembers(parsed, detail) : ResultCode::Malformed;
 }
 
-int ContactUtils::analyzeJoinReturnContext(const QString &answer, QVector<ContactDetailMsg> &conferences)
+int AnswerAnalyser::join(const QString &answer, QVector<ContactDetailMsg> &conferences)
 {
     const AbilityAnswer parsed(answer, ReadErrorText);
     if (!parsed.isReadable()) {
         return ResultCode::Malformed;
     }
-    // Here, unlike everywhere else, an unknown word means that there is nothing to join.
+    // Unlike everywhere else, an unknown word means that there is nothing to join.
     const int code = parsed.code(JoinCodes, ResultCode::NoConference);
     if (code == ResultCode::TimeOverlap) {
-        conferences = conferencesOf(parsed); // several are running, the user has to choose
+        conferences = conferencesOf(parsed); // several are running: the user chooses
     }
     return code;
 }
 
-int ContactUtils::analyzeQueryResultContext(const QString &answer, const qint64 & /*queryStartMsecs*/,
-                                            QVector<ContactDetailMsg> &conferences)
+int AnswerAnalyser::query(const QString &answer, QVector<ContactDetailMsg> &conferences)
 {
     const AbilityAnswer parsed(answer, ReadErrorText);
     if (!parsed.isReadable()) {
@@ -174,7 +168,7 @@ int ContactUtils::analyzeQueryResultContext(const QString &answer, const qint64 
     return ResultCode::Success;
 }
 
-int ContactUtils::analyzeUpdateReturnContext(const QString &answer, ContactCreatedConferenceDetail &detail)
+int AnswerAnalyser::update(const QString &answer, ContactCreatedConferenceDetail &detail)
 {
     const AbilityAnswer parsed(answer, ReadErrorText);
     if (!parsed.isReadable()) {

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// How ContactUtils reads the conferences and people in an answer.
+#include "answer/answerrecords.h"
 
-#include "contactutils.h"
 #include "wire/answerwords.h"
 
 #include <QJsonArray>
@@ -21,7 +20,7 @@ UserInfo participantOf(const QJsonObject &object)
     return participant;
 }
 
-/// @p askedName is what was said, @p displayKey where the person's own name stands.
+/// @p askedName is what was said, @p displayKey the key of the person's own name.
 UserInfo matchOf(const QString &askedName, const QJsonObject &object, QLatin1String displayKey)
 {
     return {askedName, object.value(displayKey).toString(), object.value(AnswerKey::UserId).toString(),
@@ -61,18 +60,17 @@ ContactDetailMsg conferenceOf(const QJsonObject &object)
 
 } // namespace
 
-QVector<ContactDetailMsg> ContactUtils::parseContactMsg(const QJsonArray &list)
+QVector<ContactDetailMsg> AnswerRecords::conferences(const QJsonArray &list)
 {
-    QVector<ContactDetailMsg> conferences;
-    conferences.reserve(list.size());
+    QVector<ContactDetailMsg> records;
+    records.reserve(list.size());
     for (const QJsonValue entry : list) {
-        conferences.append(conferenceOf(entry.toObject()));
+        records.append(conferenceOf(entry.toObject()));
     }
-    return conferences;
+    return records;
 }
 
-ContactInviteMemberDetail ContactUtils::analyzeReturnUsers(const QJsonArray &users,
-                                                           const QVector<QString> & /*memberNames*/)
+ContactInviteMemberDetail AnswerRecords::members(const QJsonArray &users)
 {
     ContactInviteMemberDetail detail;
     for (const QJsonValue entry : users) {

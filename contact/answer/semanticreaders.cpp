@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// How ContactUtils reads the understanding service's own keys.
+#include "answer/semanticreaders.h"
 
-#include "contactutils.h"
 #include "wire/latin1literal.h"
 
 #include <QDebug>
@@ -13,8 +12,6 @@
 
 namespace {
 
-// {"intent": {"shouldEndSession": false, "answer": {"text": "几点开始？"},
-//             "voice_answer": [{"type": "TTS", "content": "请问几点开始？"}]}}
 constexpr QLatin1String IntentKey = "intent"_latin1;
 constexpr QLatin1String ShouldEndSessionKey = "shouldEndSession"_latin1;
 constexpr QLatin1String AnswerKey = "answer"_latin1;
@@ -24,7 +21,7 @@ constexpr QLatin1String TypeKey = "type"_latin1;
 constexpr QLatin1String ContentKey = "content"_latin1;
 constexpr QLatin1String SpokenType = "TTS"_latin1;
 
-/// Overwrites @p text only when there is a string to write.
+/// Writes to @p text only if @p value is a string.
 bool assignString(const QJsonValue &value, QString &text)
 {
     if (!value.isString()) {
@@ -36,12 +33,7 @@ bool assignString(const QJsonValue &value, QString &text)
 
 } // namespace
 
-bool ContactUtils::analyzeIsShouldEndSession(const QString &semanticJson)
-{
-    return analyzeIsShouldEndSession(QJsonDocument::fromJson(semanticJson.toUtf8()));
-}
-
-bool ContactUtils::analyzeIsShouldEndSession(const QJsonDocument &semantic)
+bool SemanticReader::shouldEndSession(const QJsonDocument &semantic)
 {
     if (semantic.isNull()) {
         qDebug() << "doc.isNull()";
@@ -62,20 +54,19 @@ bool ContactUtils::analyzeIsShouldEndSession(const QJsonDocument &semantic)
         qDebug() << "shouldEndSession not exist";
         return true;
     }
-    // What is no boolean counts as the end: the user gets an answer rather than silence.
+    // Anything but a boolean counts as the end: the user gets an answer rather than silence.
     return shouldEnd.toBool(true);
 }
 
-void ContactUtils::getVoiceAnswerContext(const QString &semanticJson, QString &first, QString &second)
+void SemanticReader::readVoiceAnswer(const QJsonDocument &semantic, QString &shown, QString &spoken)
 {
-    const QJsonDocument document = QJsonDocument::fromJson(semanticJson.toUtf8());
-    const QJsonObject intent = document.object().value(IntentKey).toObject();
-    assignString(intent.value(AnswerKey).toObject().value(TextKey), first);
+    const QJsonObject intent = semantic.object().value(IntentKey).toObject();
+    assignString(intent.value(AnswerKey).toObject().value(TextKey), shown);
     const QJsonArray voiceAnswers = intent.value(VoiceAnswerKey).toArray();
     for (const QJsonValue value : voiceAnswers) {
         const QJsonObject voiceAnswer = value.toObject();
         if (voiceAnswer.value(TypeKey).toString() == SpokenType &&
-            assignString(voiceAnswer.value(ContentKey), second)) {
+            assignString(voiceAnswer.value(ContentKey), spoken)) {
             return;
         }
     }

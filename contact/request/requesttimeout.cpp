@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// How ContactUtils finds out how long a request may take.
-
-#include "contactutils.h"
+#include "request/requesttimeout.h"
 
 #include "configmanager.h"
 #include "wire/latin1literal.h"
@@ -14,11 +12,11 @@ constexpr QLatin1String TimeOutKey = "/Contact/TimeOut"_latin1;
 constexpr QLatin1String MaxTimeOutKey = "/Contact/MaxTimeOut"_latin1;
 
 // Milliseconds.
-constexpr int ShortestTimeOut = 500; ///< anything up to it is taken for a mistake
+constexpr int ShortestTimeOut = 500; ///< values up to this one are taken for mistakes
 constexpr int DefaultTimeOut = 5000;
 constexpr int DefaultMaxTimeOut = 15000;
 
-/// The configured number when it is greater than @p limit, else @p otherwise. A text that is no number is 0.
+/// Returns the number configured under @p key if it exceeds @p limit, @p otherwise if not. Text counts as 0.
 int configuredAbove(int limit, QLatin1String key, int otherwise)
 {
     QString text;
@@ -31,13 +29,13 @@ int configuredAbove(int limit, QLatin1String key, int otherwise)
 
 } // namespace
 
-int ContactUtils::timeoutInit()
+int requestTimeout(bool applicationIsRunning)
 {
     const int timeOut = configuredAbove(ShortestTimeOut, TimeOutKey, DefaultTimeOut);
-    if (contactAppIsRunning()) {
+    if (applicationIsRunning) {
         return timeOut;
     }
-    // The application has to be started first. A maximum that is not above the normal time-out is replaced by
-    // the default one, not by the normal time-out, on purpose.
+    // A maximum that does not exceed the normal time-out is deliberately replaced by the default maximum, not
+    // by the normal time-out.
     return configuredAbove(timeOut, MaxTimeOutKey, DefaultMaxTimeOut);
 }

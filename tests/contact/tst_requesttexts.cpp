@@ -6,6 +6,7 @@
 #include <QtTest>
 
 Q_DECLARE_METATYPE(UserInfo)
+Q_DECLARE_METATYPE(QVector<QString>)
 
 class TestRequestTexts : public QObject
 {
@@ -16,6 +17,8 @@ private Q_SLOTS:
     void numbersBeyond32BitsStayWhole();
     void theMembersOfARequest_data();
     void theMembersOfARequest();
+    void membersKnownByNameOnly_data();
+    void membersKnownByNameOnly();
 };
 
 void TestRequestTexts::anUpdate()
@@ -66,6 +69,28 @@ void TestRequestTexts::theMembersOfARequest()
              QStringLiteral(R"({"members":%1,"startTime":0})").arg(array));
     QCOMPARE(RequestText::createConference(RequestText::membersPicked(members), Q_INT64_C(1709775000000)),
              QStringLiteral(R"({"members":%1,"startTime":1709775000000})").arg(array));
+}
+
+void TestRequestTexts::membersKnownByNameOnly_data()
+{
+    QTest::addColumn<QVector<QString>>("names");
+    QTest::addColumn<QString>("array");
+    const QString a = QStringLiteral("a");
+    QTest::newRow("nobody") << QVector<QString>() << QStringLiteral("[]");
+    QTest::newRow("a repeated name once, in the order said")
+        << QVector<QString>{QStringLiteral("b"), a, QStringLiteral("b")}
+        << QStringLiteral(R"([{"name":"b","userId":""},{"name":"a","userId":""}])");
+    QTest::newRow("an empty name is a name")
+        << QVector<QString>{QString(), a}
+        << QStringLiteral(R"([{"name":"","userId":""},{"name":"a","userId":""}])");
+}
+
+void TestRequestTexts::membersKnownByNameOnly()
+{
+    QFETCH(QVector<QString>, names);
+    QFETCH(QString, array);
+    const QJsonArray members = RequestText::membersNamed(names);
+    QCOMPARE(RequestText::createConference(members), QStringLiteral(R"({"members":%1})").arg(array));
 }
 
 QTEST_APPLESS_MAIN(TestRequestTexts)

@@ -8,7 +8,7 @@
 
 Q_DECLARE_METATYPE(QVector<QString>)
 
-class TestRequestBuilders : public QObject
+class TestContactUtils : public QObject
 {
     Q_OBJECT
 
@@ -94,6 +94,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestRequestBuilders)
+QTEST_GUILESS_MAIN(TestContactUtils)
 
-#include "tst_requestbuilders.moc"
+#include "tst_contactutils.moc"

@@ -1,19 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// How ContactUtils turns spoken times into requests.
+#include "request/requesttimes.h"
 
-#include "contactutils.h"
+#include "request/requesttexts.h"
 #include "request/spokentime.h"
-#include "wire/jsontext.h"
-#include "wire/requestkeys.h"
 
 #include <QDebug>
 #include <QJsonParseError>
 
 namespace {
 
-/// When a conference starts for which only a day was said.
+/// The start of a conference of which only the day was said.
 QDateTime startOn(const QDate &date, const QDateTime &now)
 {
     const QTime morning(9, 0);
@@ -22,14 +20,14 @@ QDateTime startOn(const QDate &date, const QDateTime &now)
 
 } // namespace
 
-QString ContactUtils::queryParamInit(const QString &timeSlotText, qint64 &queryStartMsecs)
+QString RequestTimes::searchParameters(const QString &slotText, qint64 &startMsecs)
 {
     const QDateTime now = QDateTime::currentDateTime();
-    const SpokenTime spoken = SpokenTime::fromSlot(timeSlotText);
+    const SpokenTime spoken = SpokenTime::fromSlot(slotText);
     if (spoken.hasTime()) {
-        queryStartMsecs = LocalTime::msecs(spoken.exact());
+        startMsecs = LocalTime::msecs(spoken.exact());
     }
-    // What is over today is no longer of interest, unless a time was named.
+    // What is over today no longer matters, unless a time was named.
     const bool fromNow = !spoken.hasTime() && spoken.date() == now.date();
     const QDateTime start = fromNow ? now : LocalTime::startOfDay(spoken.date());
     if (!start.isValid() || start < LocalTime::startOfDay(now.date())) {
@@ -38,30 +36,29 @@ QString ContactUtils::queryParamInit(const QString &timeSlotText, qint64 &queryS
     }
     const QDateTime end = LocalTime::startOfDay(start.date().addDays(1));
     qDebug() << "*** startTime:" << start << "endTime:" << end;
-    return compactText(
-        {{RequestKey::StartTime, queryStartMsecs > 0 ? queryStartMsecs : LocalTime::msecs(start)},
-         {RequestKey::EndTime, LocalTime::msecs(end)}});
+    return RequestText::searchConference(startMsecs > 0 ? startMsecs : LocalTime::msecs(start),
+                                         LocalTime::msecs(end));
 }
 
-bool ContactUtils::scheduleTimeMsecsInit(const QString &timeSlotText, bool &isSchedule, qint64 &startMsecs)
+bool RequestTimes::conferenceStart(const QString &slotText, bool &isSchedule, qint64 &startMsecs)
 {
     const QDateTime now = QDateTime::currentDateTime();
-    if (timeSlotText.isEmpty()) {
+    if (slotText.isEmpty()) {
         if (isSchedule) {
             const QDateTime start = LocalTime::nextFullHour(now);
-            qDebug() << "startTime" << start << "true"; // the flag, which only true gets here
+            qDebug() << "startTime" << start << "true"; // the flag, always true here
             startMsecs = LocalTime::msecs(start);
         }
         return true;
     }
     QJsonParseError error;
-    const SpokenTime spoken = SpokenTime::fromSlot(timeSlotText, &error);
+    const SpokenTime spoken = SpokenTime::fromSlot(slotText, &error);
     if (error.error != QJsonParseError::NoError) {
         qWarning() << "response ret error.error:" << error.error;
         return false;
     }
     if (spoken.text().isEmpty()) {
-        qWarning() << "strDateTime is not json : " << timeSlotText;
+        qWarning() << "strDateTime is not json : " << slotText;
         return false;
     }
     const QDateTime start = spoken.hasTime() ? spoken.exact() : startOn(spoken.date(), now);

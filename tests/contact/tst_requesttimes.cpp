@@ -189,7 +189,7 @@ QVector<Query> queries()
 } // namespace
 
 /// Runs once per clock; each run takes the rows that belong to its clock.
-class TestTimeBuilders : public QObject
+class TestRequestTimes : public QObject
 {
     Q_OBJECT
 
@@ -370,6 +370,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTimeBuilders)
+QTEST_GUILESS_MAIN(TestRequestTimes)
 
-#include "tst_timebuilders.moc"
+#include "tst_requesttimes.moc"

@@ -71,21 +71,34 @@ public:
     ContactsBook book;
 };
 
-/// Made once: the library calls a benchmark several times to find out how often to repeat it.
-FullBook &fullBook(qint64 count)
+/// Makes each book once: the library calls a benchmark several times to find out how often to repeat it.
+/// Lives in main(), since a database in static storage would outlive the statics of QtSql and crash at exit.
+class Library
 {
-    static std::map<qint64, std::unique_ptr<FullBook>> books;
-    std::unique_ptr<FullBook> &book = books[count];
-    if (!book) {
-        book = std::make_unique<FullBook>(count);
+public:
+    Library() { s_instance = this; }
+    ~Library() { s_instance = nullptr; }
+    Q_DISABLE_COPY(Library)
+
+    static FullBook &book(qint64 count)
+    {
+        std::unique_ptr<FullBook> &book = s_instance->m_books[count];
+        if (!book) {
+            book = std::make_unique<FullBook>(count);
+        }
+        return *book;
     }
-    return *book;
-}
+
+private:
+    static Library *s_instance;
+    std::map<qint64, std::unique_ptr<FullBook>> m_books;
+};
+Library *Library::s_instance = nullptr;
 
 /// One day's search among as many conferences as the argument says.
 void searchDay(benchmark::State &state)
 {
-    FullBook &full = fullBook(state.range(0));
+    FullBook &full = Library::book(state.range(0));
     const QString parameters = FullBook::tomorrow();
     for (auto _ : state) {
         const QString answer = full.book.perform(QStringLiteral("Search Conference"), parameters);
@@ -100,7 +113,7 @@ BENCHMARK(searchDay)->Arg(1000)->Arg(1000000)->Unit(benchmark::kMicrosecond);
 /// An action that writes, to the point where it is on disk.
 void createScheduled(benchmark::State &state)
 {
-    FullBook &full = fullBook(1000);
+    FullBook &full = Library::book(1000);
     full.book.session().setCreationsPerMinute(1 << 30);
     static qint64 start = QDateTime(QDate(2126, 1, 1), QTime(0, 0)).toMSecsSinceEpoch();
     for (auto _ : state) {
@@ -120,6 +133,7 @@ BENCHMARK(createScheduled)->Unit(benchmark::kMicrosecond);
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
+    const Library library;
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

@@ -57,9 +57,9 @@ int readMoment(const QString &text, int position, TimeExpression &expression, bo
                 next.part = part;
                 // 周五晚一点: later than what?
                 TimeExpression hour;
-                const bool alone = found.word.size() == 1 && text.at(at - 1) != QChar(u'今') &&
-                                   text.at(at - 1) != QChar(u'明') && text.at(at - 1) != QChar(u'昨') &&
-                                   text.at(at - 1) != QChar(u'后');
+                const QChar before = charAt(text, at - 1);
+                const bool alone = found.word.size() == 1 && before != QChar(u'今') &&
+                                   before != QChar(u'明') && before != QChar(u'昨') && before != QChar(u'后');
                 if (alone &&
                     (readClock(text, at + 1, hour) == 0 || startsAt(text, at + 1, QStringLiteral("一点")))) {
                     length = 0;

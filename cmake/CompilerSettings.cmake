@@ -47,6 +47,12 @@ add_compile_definitions(
     # Release builds drop the source of log records unless asked to keep it; the host shows it.
     QT_MESSAGELOGCONTEXT)
 
+# Qt's Q_ASSERT and the standard library's own checks, also in builds with optimisation. Never for an installed plugin.
+option(CONTACT_ASSERTIONS "Keep assertions in every build type" OFF)
+if(CONTACT_ASSERTIONS)
+    add_compile_definitions(QT_FORCE_ASSERTS _GLIBCXX_ASSERTIONS)
+endif()
+
 add_link_options(-Wl,--no-undefined -Wl,--as-needed)
 
 # Address and thread sanitizers: CONTACT_SANITIZE=address;undefined or thread. An instrumented library leaves the runtime's

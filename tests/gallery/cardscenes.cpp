@@ -20,11 +20,17 @@ namespace {
 
 using Card = std::unique_ptr<QWidget>;
 
+/// One dispatcher for all record types: each listener builds a card, and a reply holds only the last one.
+void listenOnce()
+{
+    static ContactReplyWidget dispatcher;
+}
+
 /// The card that the plugin would put into its reply.
 template <typename Record>
 Card announce(int action, const Record &record)
 {
-    static ContactReplyWidget dispatcher;
+    listenOnce();
     Reply reply;
     ConferenceCardInterface::instance()->noticeSentActionSignals(action, QVariant::fromValue(record), &reply);
     return Card(reply.widget);

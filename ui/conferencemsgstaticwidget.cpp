@@ -3,14 +3,13 @@
 
 #include "conferencemsgstaticwidget.h"
 
-#include "card/cardtext.h"
+#include "card/cardfooter.h"
+#include "card/cardtheme.h"
 #include "card/conferenceeditor.h"
 #include "card/conferencerows.h"
 #include "conferencecardinterface.h"
 #include "customizeitem.h"
 
-#include <lumo/lcommandlinkbutton.h>
-#include <lumo/lguiapplicationhelper.h>
 #include <lumo/lsuggestbutton.h>
 
 #include <QGuiApplication>
@@ -28,7 +27,6 @@ constexpr int LineHeight = 1;
 
 constexpr int ShownConferences = 3;
 constexpr int ItemRadius = 8;
-constexpr int FooterWidth = 200;
 
 double widthScale()
 {
@@ -56,8 +54,7 @@ ConferenceMsgStaticWidget::ConferenceMsgStaticWidget(QWidget *parent)
     setAccessibleDescription(QStringLiteral("打开联系人应用"));
 
     connect(m_editor, &ConferenceEditor::signalEdited, this, &ConferenceMsgStaticWidget::updateModifyButton);
-    connect(LGuiApplicationHelper::instance(), &LGuiApplicationHelper::themeTypeChanged, this,
-            &ConferenceMsgStaticWidget::followTheme);
+    CardTheme::follow(this, &ConferenceMsgStaticWidget::followTheme);
 }
 
 void ConferenceMsgStaticWidget::singleInit(const QVector<ContactDetailMsg> &list)
@@ -151,7 +148,7 @@ bool ConferenceMsgStaticWidget::getConferenceMsgState() const
 
 void ConferenceMsgStaticWidget::setWidgetColor(QWidget *widget, int alpha)
 {
-    CardText::setColor(*widget, alpha);
+    CardTheme::setText(*widget, alpha);
 }
 
 void ConferenceMsgStaticWidget::openContactApp()
@@ -193,7 +190,7 @@ QWidget *ConferenceMsgStaticWidget::conferenceItem(const ContactDetailMsg &confe
 {
     auto *item = new CustomizeItem(this);
     item->setRaidus(ItemRadius);
-    item->setBackGroundColor(QColor(0, 0, 0, 7));
+    item->setBackGroundColor(CardTheme::itemGround());
     item->setFocusPolicy(Qt::NoFocus);
     auto *layout = new QVBoxLayout(item);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
@@ -207,15 +204,7 @@ QWidget *ConferenceMsgStaticWidget::conferenceItem(const ContactDetailMsg &confe
 
 QWidget *ConferenceMsgStaticWidget::footer(int count)
 {
-    auto *link = new LCommandLinkButton(QStringLiteral("在“联系人”中查看所有%1个结果…").arg(count), this);
-    link->setFont(LFontSizeManager::instance()->get(LFontSizeManager::T8, link->font()));
-    link->setFixedWidth(FooterWidth);
-    link->setAutoDefault(false);
-    // The same in both themes.
-    QPalette palette = link->palette();
-    palette.setBrush(QPalette::All, QPalette::ButtonText, QColor(0, 0, 0, 102));
-    palette.setBrush(QPalette::All, QPalette::WindowText, QColor(0, 0, 0, 102));
-    link->setPalette(palette);
+    auto *link = new CardFooter(count, this);
     link->installEventFilter(this);
     connect(link, &QPushButton::clicked, this, &ConferenceMsgStaticWidget::openContactApp);
     m_footerButton = link;
@@ -231,6 +220,6 @@ void ConferenceMsgStaticWidget::updateModifyButton()
 
 void ConferenceMsgStaticWidget::followTheme()
 {
-    CardText::followTheme(*this);
+    CardTheme::refreshTexts(*this);
     update();
 }

@@ -5,13 +5,14 @@
 
 #include "conferencemsgstaticwidget.h"
 
-#include "card/cardtext.h"
+#include "card/cardtheme.h"
 #include "card/conferenceeditor.h"
 #include "card/conferencerows.h"
 #include "conferencecardinterface.h"
 #include "request/requesttexts.h"
 #include "titleitem.h"
 
+#include <lumo/lfontsizemanager.h>
 #include <lumo/lsuggestbutton.h>
 
 #include <QApplication>
@@ -227,7 +228,7 @@ void ConferenceMsgStaticWidget::removeLastRow()
 void ConferenceMsgStaticWidget::prepareButton(QPushButton &button)
 {
     button.setFont(LFontSizeManager::instance()->get(LFontSizeManager::T6, button.font()));
-    setWidgetColor(&button, CardText::ValueAlpha);
+    setWidgetColor(&button, CardTheme::ValueAlpha);
     // In a dialog the button would react to Return itself, in addition to the card's event filter.
     button.setAutoDefault(false);
     // A click on a button that is disabled is not one on the card behind it.

@@ -5,9 +5,9 @@
 
 #include "conferencemsgstaticwidget.h"
 
+#include "card/cardtheme.h"
 #include "card/conferenceeditor.h"
 
-#include <lumo/lguiapplicationhelper.h>
 #include <lumo/lsuggestbutton.h>
 
 #include <QComboBox>
@@ -29,16 +29,6 @@ bool isConfirmKey(const QKeyEvent &event)
 bool isOpenKey(const QKeyEvent &event)
 {
     return isConfirmKey(event) || event.key() == Qt::Key_Space;
-}
-
-QColor backgroundColor()
-{
-    if (LGuiApplicationHelper::instance()->themeType() == LGuiApplicationHelper::LightType) {
-        return QColor(247, 247, 247, 200);
-    }
-    QColor color(QStringLiteral("#191919"));
-    color.setAlpha(204);
-    return color;
 }
 
 } // namespace
@@ -114,10 +104,10 @@ void ConferenceMsgStaticWidget::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(backgroundColor());
+    painter.setBrush(CardTheme::cardGround());
     if (m_focusedByKeyboard) {
         QPen pen = painter.pen();
-        pen.setColor(QColor(0, 129, 255));
+        pen.setColor(CardTheme::focus());
         pen.setWidth(FocusFrameWidth);
         painter.setPen(pen);
     } else {

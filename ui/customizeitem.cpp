@@ -3,9 +3,11 @@
 
 #include "customizeitem.h"
 
+#include "card/cardtheme.h"
+
 #include <QPainter>
 
-CustomizeItem::CustomizeItem(QWidget *parent) : QWidget(parent)
+CustomizeItem::CustomizeItem(QWidget *parent) : QWidget(parent), m_backGroundColor(CardTheme::panelGround())
 {
     setFocusPolicy(Qt::TabFocus);
 }
@@ -18,8 +20,17 @@ void CustomizeItem::setRaidus(int radius)
 
 void CustomizeItem::setBackGroundColor(const QColor &color)
 {
+    m_hasGivenColor = true;
     m_backGroundColor = color;
     update();
+}
+
+void CustomizeItem::setDefaultBackGroundColor(const QColor &color)
+{
+    if (!m_hasGivenColor) {
+        m_backGroundColor = color;
+        update();
+    }
 }
 
 void CustomizeItem::setBottomRadius(bool rounded)

@@ -25,9 +25,13 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override;
 
+    /// The background as long as setBackGroundColor() has not given another one.
+    void setDefaultBackGroundColor(const QColor &color);
+
 private:
     int m_radius = 8;
-    QColor m_backGroundColor = QColor(247, 247, 247, 204);
+    QColor m_backGroundColor;
     bool m_bottomRadius = true;
     bool m_topRadius = true;
+    bool m_hasGivenColor = false;
 };

@@ -3,13 +3,12 @@
 
 #include "titleitem.h"
 
+#include "card/cardlabel.h"
 #include "card/cardtext.h"
+#include "card/cardtheme.h"
 #include "card/selectionbudget.h"
 #include "card/titleitemaccessible.h"
 #include "conferencemsgstaticwidget.h"
-
-#include <lumo/lguiapplicationhelper.h>
-#include <lumo/llabel.h>
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -26,10 +25,6 @@ constexpr int SpaceAfterCaption = 10;
 constexpr int SpaceBeforeMark = 6;
 constexpr int LeastTextWidth = 110;
 
-constexpr QColor LightBackground(247, 247, 247, 204);
-constexpr QColor DarkBackground(255, 255, 255, 20);
-
-constexpr QRgb FocusColor = qRgb(0, 129, 255);
 constexpr qreal FocusWidth = 2;
 constexpr qreal FocusRadius = 8;
 
@@ -52,15 +47,14 @@ TiTleItem::TiTleItem(const QString &title, QWidget *parent)
     m_layout->setContentsMargins(Margin, Margin, Margin, Margin);
     m_layout->setSpacing(0);
     m_layout->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    setAccessibleName(title);
+    setAccessibleName(CardText::beginning(title));
 
     // Only the mark of a selected row: the row itself takes the mouse and the focus.
     m_checkBox->hide();
     m_checkBox->setFocusPolicy(Qt::NoFocus);
     m_checkBox->setAttribute(Qt::WA_TransparentForMouseEvents);
 
-    connect(LGuiApplicationHelper::instance(), &LGuiApplicationHelper::themeTypeChanged, this,
-            &TiTleItem::followTheme);
+    CardTheme::follow(this, &TiTleItem::followTheme);
     followTheme();
 }
 
@@ -68,26 +62,24 @@ void TiTleItem::insertConferenceMsg(const UserInfo &user)
 {
     m_user = user;
     const QString shownName = user.remarkName.isEmpty() ? user.account : user.remarkName;
-    m_nameLabel = addLabel(shownName, CardText::ValueAlpha);
+    m_nameLabel = addLabel(shownName, CardTheme::ValueAlpha);
     m_layout->addSpacing(SpaceAfterName);
     if (!user.name.isEmpty() && user.name != QLatin1String(" ")) {
-        m_captionLabel = addLabel(QStringLiteral("ID"), CardText::CaptionAlpha);
+        m_captionLabel = addLabel(QStringLiteral("ID"), CardTheme::CaptionAlpha);
         m_layout->addSpacing(SpaceAfterCaption);
     }
-    m_detailLabel = addLabel(user.account, CardText::CaptionAlpha, SpaceBeforeMark);
+    m_detailLabel = addLabel(user.account, CardTheme::CaptionAlpha, SpaceBeforeMark);
     m_layout->addWidget(m_checkBox);
-    setAccessibleName(shownName);
-    m_checkBox->setAccessibleName(shownName);
-    setAccessibleDescription(user.account);
+    setAccessibleNames(shownName);
+    setAccessibleDescription(CardText::beginning(user.account));
 }
 
 void TiTleItem::insertSinglePersonName(const UserInfo &user)
 {
     m_user = user;
-    m_nameLabel = addLabel(user.name, CardText::ValueAlpha);
+    m_nameLabel = addLabel(user.name, CardTheme::ValueAlpha);
     m_layout->addWidget(m_checkBox);
-    setAccessibleName(user.name);
-    m_checkBox->setAccessibleName(user.name);
+    setAccessibleNames(user.name);
 }
 
 UserInfo TiTleItem::getUserInfo() const
@@ -114,7 +106,7 @@ void TiTleItem::toggleSelection()
 
 void TiTleItem::setWidgetColor(QWidget *widget, int alpha)
 {
-    CardText::setColor(*widget, alpha);
+    CardTheme::setText(*widget, alpha);
 }
 
 void TiTleItem::keyPressEvent(QKeyEvent *event)
@@ -157,19 +149,25 @@ void TiTleItem::paintEvent(QPaintEvent *event)
     }
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(FocusColor), FocusWidth));
+    painter.setPen(QPen(CardTheme::focus(), FocusWidth));
     constexpr qreal Inset = FocusWidth / 2;
     painter.drawRoundedRect(QRectF(rect()).adjusted(Inset, Inset, -Inset, -Inset), FocusRadius, FocusRadius);
 }
 
 LLabel *TiTleItem::addLabel(const QString &text, int alpha, int spaceBehind)
 {
-    LLabel *label = CardText::label(text, LFontSizeManager::T6, alpha, this);
+    CardLabel *label = CardText::label(text, LFontSizeManager::T6, alpha, this);
     label->setContentsMargins(0, 0, spaceBehind, 0);
     // Of two long texts each keeps a third of the row, and a short one is never shortened for a long one.
     label->setMinimumWidth(qMin(label->sizeHint().width(), LeastTextWidth));
     m_layout->addWidget(label);
     return label;
+}
+
+void TiTleItem::setAccessibleNames(const QString &name)
+{
+    setAccessibleName(CardText::beginning(name));
+    m_checkBox->setAccessibleName(accessibleName());
 }
 
 void TiTleItem::select()
@@ -192,8 +190,6 @@ void TiTleItem::deselect()
 
 void TiTleItem::followTheme()
 {
-    // The panel's own colour is a light one, on which the dark theme's white texts could not be read.
-    const bool dark = LGuiApplicationHelper::instance()->themeType() == LGuiApplicationHelper::DarkType;
-    setBackGroundColor(dark ? DarkBackground : LightBackground);
-    CardText::followTheme(*this);
+    setDefaultBackGroundColor(CardTheme::rowGround());
+    CardTheme::refreshTexts(*this);
 }

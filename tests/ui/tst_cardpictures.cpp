@@ -3,12 +3,11 @@
 
 #include "cardsamples.h"
 #include "conferencemsgstaticwidget.h"
+#include "desktoptheme.h"
 #include "fakeprocesstable.h"
 #include "logcapture.h"
 #include "scriptedability.h"
 #include "titleitem.h"
-
-#include <lumo/lguiapplicationhelper.h>
 
 #include <QComboBox>
 #include <QDir>
@@ -181,8 +180,8 @@ void TestCardPictures::everyCard_data()
     QTest::addColumn<State>("state");
     QTest::addColumn<int>("theme");
     for (const State &state : States) {
-        QTest::addRow("%s in the light theme", state.name) << state << int(LGuiApplicationHelper::LightType);
-        QTest::addRow("%s in the dark theme", state.name) << state << int(LGuiApplicationHelper::DarkType);
+        QTest::addRow("%s in the light theme", state.name) << state << int(DesktopTheme::Light);
+        QTest::addRow("%s in the dark theme", state.name) << state << int(DesktopTheme::Dark);
     }
 }
 
@@ -191,8 +190,7 @@ void TestCardPictures::everyCard()
     QFETCH(State, state);
     QFETCH(int, theme);
     const LogCapture log;
-    auto *helper = LGuiApplicationHelper::instance();
-    helper->setPaletteType(static_cast<LGuiApplicationHelper::ColorType>(theme));
+    DesktopTheme::set(static_cast<DesktopTheme::Theme>(theme));
     ScriptedAbility::instance().reset();
     ScriptedAbility::instance().setAnswer(QStringLiteral("Update Conference"), 0,
                                           QStringLiteral(R"({"ret":"OK"})"));
@@ -214,10 +212,9 @@ void TestCardPictures::everyCard()
     const QString path =
         QStringLiteral("%1/pictures/%2-%3-x%4.png")
             .arg(QStringLiteral(CONTACT_BINARY_DIR), QLatin1String(state.name),
-                 theme == LGuiApplicationHelper::DarkType ? QStringLiteral("dark") : QStringLiteral("light"),
+                 theme == DesktopTheme::Dark ? QStringLiteral("dark") : QStringLiteral("light"),
                  QString::number(image.devicePixelRatio()));
     QVERIFY(image.save(path));
-    helper->setPaletteType(LGuiApplicationHelper::UnknownType);
 }
 
 QTEST_MAIN(TestCardPictures)

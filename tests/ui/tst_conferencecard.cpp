@@ -6,17 +6,17 @@
 #include "cardsamples.h"
 #include "customizecombobox.h"
 #include "customizeitem.h"
+#include "desktoptheme.h"
 #include "logcapture.h"
 
 #include <lumo/lcombobox.h>
 #include <lumo/lcommandlinkbutton.h>
 #include <lumo/lfontsizemanager.h>
-#include <lumo/lguiapplicationhelper.h>
-#include <lumo/llabel.h>
 #include <lumo/lspinbox.h>
 #include <lumo/lsuggestbutton.h>
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -83,9 +83,9 @@ std::unique_ptr<ConferenceMsgStaticWidget> singleCard(const ContactDetailMsg &co
     return card;
 }
 
-LLabel *labelWith(const QWidget &parent, const QString &text)
+QLabel *labelWith(const QWidget &parent, const QString &text)
 {
-    for (LLabel *label : shown<LLabel>(parent)) {
+    for (QLabel *label : shown<QLabel>(parent)) {
         if (label->text() == text) {
             return label;
         }
@@ -98,9 +98,10 @@ QColor textColor(const QWidget &widget)
     return widget.palette().color(QPalette::Active, QPalette::WindowText);
 }
 
-int pixelSize(LFontSizeManager::SizeType size)
+/// The widget's own font in the size of that class.
+QFont sized(const QWidget &widget, LFontSizeManager::SizeType size)
 {
-    return LFontSizeManager::instance()->fontPixelSize(size);
+    return LFontSizeManager::instance()->get(size, widget.font());
 }
 
 } // namespace
@@ -108,13 +109,13 @@ int pixelSize(LFontSizeManager::SizeType size)
 void TestConferenceCard::init()
 {
     m_log = std::make_unique<LogCapture>();
-    LGuiApplicationHelper::instance()->setPaletteType(LGuiApplicationHelper::LightType);
+    DesktopTheme::set(DesktopTheme::Light);
 }
 
 void TestConferenceCard::cleanup()
 {
     m_log.reset();
-    LGuiApplicationHelper::instance()->setPaletteType(LGuiApplicationHelper::UnknownType);
+    DesktopTheme::set(DesktopTheme::Light);
 }
 
 void TestConferenceCard::anEmptyCard()
@@ -172,7 +173,7 @@ void TestConferenceCard::theTitleRow()
     QCOMPARE(text->text(), QStringLiteral("联系人"));
     QCOMPARE(text->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
     QCOMPARE(textColor(*text), QColor(0, 0, 0, 102));
-    QCOMPARE(text->font().pixelSize(), pixelSize(LFontSizeManager::T8));
+    QCOMPARE(text->font(), sized(*text, LFontSizeManager::T8));
 }
 
 void TestConferenceCard::theStatusRow_data()
@@ -201,7 +202,7 @@ void TestConferenceCard::theStatusRow()
     const auto *subject = qobject_cast<QLabel *>(layout->itemAt(0)->widget());
     QCOMPARE(subject->text(), one.title);
     QCOMPARE(textColor(*subject), QColor(0, 0, 0, 178));
-    QCOMPARE(subject->font().pixelSize(), pixelSize(LFontSizeManager::T6));
+    QCOMPARE(subject->font(), sized(*subject, LFontSizeManager::T6));
 
     const auto *state = qobject_cast<QHBoxLayout *>(layout->itemAt(1)->layout());
     QVERIFY(state != nullptr);
@@ -215,7 +216,7 @@ void TestConferenceCard::theStatusRow()
     const auto *label = qobject_cast<QLabel *>(state->itemAt(1)->widget());
     QCOMPARE(label->text(), text);
     QCOMPARE(label->alignment(), Qt::AlignRight | Qt::AlignVCenter);
-    QCOMPARE(label->font().pixelSize(), pixelSize(LFontSizeManager::T8));
+    QCOMPARE(label->font(), sized(*label, LFontSizeManager::T8));
     QTEST(textColor(*label), "color");
 }
 
@@ -270,14 +271,14 @@ void TestConferenceCard::aCaptionedRow()
     QCOMPARE(captionLabel->maximumWidth(), 60);
     QCOMPARE(captionLabel->minimumHeight(), 20);
     QCOMPARE(textColor(*captionLabel), QColor(0, 0, 0, 153));
-    QCOMPARE(captionLabel->font().pixelSize(), pixelSize(LFontSizeManager::T7));
+    QCOMPARE(captionLabel->font(), sized(*captionLabel, LFontSizeManager::T7));
 
     QCOMPARE(layout->itemAt(1)->spacerItem()->sizeHint().width(), 10);
 
     const auto *valueLabel = qobject_cast<QLabel *>(layout->itemAt(2)->widget());
     QCOMPARE(valueLabel->text(), value);
     QCOMPARE(textColor(*valueLabel), QColor(0, 0, 0, 178));
-    QCOMPARE(valueLabel->font().pixelSize(), pixelSize(LFontSizeManager::T6));
+    QCOMPARE(valueLabel->font(), sized(*valueLabel, LFontSizeManager::T6));
     const bool isNumber = caption == QStringLiteral("会议号");
     QCOMPARE(valueLabel->alignment(), (isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
 }
@@ -353,7 +354,7 @@ void TestConferenceCard::theFontsAndColoursOfTheTexts()
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         QCOMPARE(label.palette().color(group, QPalette::WindowText), QColor(0, 0, 0, 42));
     }
-    LGuiApplicationHelper::instance()->setPaletteType(LGuiApplicationHelper::DarkType);
+    DesktopTheme::set(DesktopTheme::Dark);
     card.setWidgetColor(&label, 255);
     QCOMPARE(textColor(label), QColor(255, 255, 255, 255));
 }
@@ -421,7 +422,7 @@ void TestConferenceCard::theFooter()
     const LCommandLinkButton *footer = shown<LCommandLinkButton>(card).first();
     QCOMPARE(footer->minimumWidth(), 200);
     QCOMPARE(footer->maximumWidth(), 200);
-    QCOMPARE(footer->font().pixelSize(), pixelSize(LFontSizeManager::T8));
+    QCOMPARE(footer->font(), sized(*footer, LFontSizeManager::T8));
     QCOMPARE(footer->palette().color(QPalette::ButtonText), QColor(0, 0, 0, 102));
 }
 
@@ -523,15 +524,15 @@ void TestConferenceCard::theBackground_data()
 {
     QTest::addColumn<int>("theme");
     QTest::addColumn<QColor>("color");
-    QTest::newRow("light") << int(LGuiApplicationHelper::LightType) << QColor(247, 247, 247, 200);
-    QTest::newRow("dark") << int(LGuiApplicationHelper::DarkType) << QColor(0x19, 0x19, 0x19, 204);
+    QTest::newRow("light") << int(DesktopTheme::Light) << QColor(247, 247, 247, 200);
+    QTest::newRow("dark") << int(DesktopTheme::Dark) << QColor(0x19, 0x19, 0x19, 204);
 }
 
 void TestConferenceCard::theBackground()
 {
     QFETCH(int, theme);
     QFETCH(QColor, color);
-    LGuiApplicationHelper::instance()->setPaletteType(static_cast<LGuiApplicationHelper::ColorType>(theme));
+    DesktopTheme::set(static_cast<DesktopTheme::Theme>(theme));
     ConferenceMsgStaticWidget card;
     card.resize(100, 50);
     QImage image(card.size(), QImage::Format_ARGB32);
@@ -551,12 +552,12 @@ void TestConferenceCard::theTextsFollowTheTheme()
 {
     const auto card = singleCard(conference());
     QCOMPARE(textColor(*labelWith(*card, QStringLiteral("周例会"))), QColor(0, 0, 0, 178));
-    LGuiApplicationHelper::instance()->setPaletteType(LGuiApplicationHelper::DarkType);
+    DesktopTheme::set(DesktopTheme::Dark);
     QTRY_COMPARE(textColor(*labelWith(*card, QStringLiteral("周例会"))), QColor(255, 255, 255, 178));
     QCOMPARE(textColor(*labelWith(*card, QStringLiteral("联系人"))), QColor(255, 255, 255, 102));
     QCOMPARE(textColor(*labelWith(*card, QStringLiteral("时长"))), QColor(255, 255, 255, 153));
     QCOMPARE(textColor(*labelWith(*card, QStringLiteral("20人"))), QColor(255, 255, 255, 178));
-    LGuiApplicationHelper::instance()->setPaletteType(LGuiApplicationHelper::LightType);
+    DesktopTheme::set(DesktopTheme::Light);
     QTRY_COMPARE(textColor(*labelWith(*card, QStringLiteral("时长"))), QColor(0, 0, 0, 153));
 }
 
@@ -564,7 +565,7 @@ void TestConferenceCard::coloursThatDoNotFollowTheTheme()
 {
     ConferenceMsgStaticWidget card;
     card.multipleInit(conferences(4));
-    LGuiApplicationHelper::instance()->setPaletteType(LGuiApplicationHelper::DarkType);
+    DesktopTheme::set(DesktopTheme::Dark);
     QTRY_COMPARE(textColor(*labelWith(card, QStringLiteral("会议1"))), QColor(255, 255, 255, 178));
     QCOMPARE(textColor(*labelWith(card, QStringLiteral("未开始"))), QColor(0, 129, 255));
     QCOMPARE(textColor(*labelWith(card, QStringLiteral("已结束"))), QColor(0, 0, 0, 77));

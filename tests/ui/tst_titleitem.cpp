@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "conferencemsgstaticwidget.h"
+#include "desktoptheme.h"
 #include "titleitem.h"
-
-#include <lumo/lguiapplicationhelper.h>
-#include <lumo/llabel.h>
 
 #include <QAccessible>
 #include <QBoxLayout>
 #include <QCheckBox>
+#include <QLabel>
 #include <QtTest>
 
 namespace {
@@ -79,6 +78,8 @@ private Q_SLOTS:
     void theLayoutOfAPerson();
     void theColoursFollowTheTheme_data();
     void theColoursFollowTheTheme();
+    void aGivenBackgroundStaysWhenTheThemeChanges_data();
+    void aGivenBackgroundStaysWhenTheThemeChanges();
     void textsArePlainAndStayInTheRow();
 
     void aShortTextIsNotShortenedForALongOne();
@@ -113,7 +114,7 @@ void TestTiTleItem::init()
 void TestTiTleItem::cleanup()
 {
     m_card.reset();
-    LGuiApplicationHelper::instance()->setPaletteType(LGuiApplicationHelper::UnknownType);
+    DesktopTheme::set(DesktopTheme::Light);
 }
 
 void TestTiTleItem::theMeasures()
@@ -220,8 +221,8 @@ void TestTiTleItem::theColoursFollowTheTheme_data()
     QTest::addColumn<int>("before");
     QTest::addColumn<int>("theme");
     QTest::addColumn<QColor>("text");
-    const int light = LGuiApplicationHelper::LightType;
-    const int dark = LGuiApplicationHelper::DarkType;
+    const int light = DesktopTheme::Light;
+    const int dark = DesktopTheme::Dark;
     QTest::newRow("made in the light theme") << light << light << QColor(Qt::black);
     QTest::newRow("made in the dark theme") << dark << dark << QColor(Qt::white);
     QTest::newRow("from light to dark") << light << dark << QColor(Qt::white);
@@ -233,13 +234,12 @@ void TestTiTleItem::theColoursFollowTheTheme()
     QFETCH(int, before);
     QFETCH(int, theme);
     QFETCH(QColor, text);
-    LGuiApplicationHelper *helper = LGuiApplicationHelper::instance();
-    helper->setPaletteType(static_cast<LGuiApplicationHelper::ColorType>(before));
+    DesktopTheme::set(static_cast<DesktopTheme::Theme>(before));
     m_row->insertConferenceMsg(Zhang);
-    helper->setPaletteType(static_cast<LGuiApplicationHelper::ColorType>(theme));
+    DesktopTheme::set(static_cast<DesktopTheme::Theme>(theme));
 
     const QVector<int> alphas{178, 153, 153};
-    const auto labels = m_row->findChildren<LLabel *>();
+    const auto labels = m_row->findChildren<QLabel *>();
     QCOMPARE(labels.size(), 3);
     for (int i = 0; i < labels.size(); ++i) {
         QColor expected = text;
@@ -258,15 +258,40 @@ void TestTiTleItem::theColoursFollowTheTheme()
     QVERIFY2(qAbs(behind - text.lightness()) > 150, qPrintable(QString::number(behind)));
 }
 
+void TestTiTleItem::aGivenBackgroundStaysWhenTheThemeChanges_data()
+{
+    QTest::addColumn<QColor>("given");
+    QTest::newRow("any colour") << QColor(200, 10, 20);
+    QTest::newRow("the colour that a row has anyway in the light theme") << QColor(247, 247, 247, 204);
+    QTest::newRow("none") << QColor(Qt::transparent);
+}
+
+void TestTiTleItem::aGivenBackgroundStaysWhenTheThemeChanges()
+{
+    QFETCH(QColor, given);
+    const auto painted = [this] {
+        QImage image(m_row->size(), QImage::Format_ARGB32);
+        image.fill(Qt::transparent);
+        m_row->render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+        return image;
+    };
+    m_row->setBackGroundColor(given);
+    const QImage before = painted();
+    for (const auto theme : {DesktopTheme::Dark, DesktopTheme::Light}) {
+        DesktopTheme::set(theme);
+        QCOMPARE(painted(), before);
+    }
+}
+
 void TestTiTleItem::textsArePlainAndStayInTheRow()
 {
     const QString markup = QStringLiteral("<b>x</b><img src=\"file:///etc/hostname\">").repeated(5);
     m_row->insertConferenceMsg({markup, markup, QString(), markup});
     m_card->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_card.get()));
-    const auto labels = m_row->findChildren<LLabel *>();
+    const auto labels = m_row->findChildren<QLabel *>();
     QCOMPARE(labels.size(), 3);
-    for (const LLabel *label : labels) {
+    for (const QLabel *label : labels) {
         QCOMPARE(label->textFormat(), Qt::PlainText);
         QVERIFY(m_row->rect().contains(label->geometry()));
         QVERIFY(label->width() > 0);
@@ -283,7 +308,7 @@ void TestTiTleItem::aShortTextIsNotShortenedForALongOne()
     m_card->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_card.get()));
     QTest::mouseClick(m_row, Qt::LeftButton);
-    const auto labels = m_row->findChildren<LLabel *>();
+    const auto labels = m_row->findChildren<QLabel *>();
     QVERIFY(labels.at(0)->width() < labels.at(0)->sizeHint().width());
     QVERIFY(labels.at(1)->width() >= labels.at(1)->sizeHint().width());
     QVERIFY(labels.at(1)->geometry().right() < mark(*m_row)->geometry().left());

@@ -3,46 +3,53 @@
 
 #include "card/cardtext.h"
 
-#include "card/themecolor.h"
-
-#include <lumo/legibleground.h>
-#include <lumo/llabel.h>
-
-#include <QPainter>
-#include <QVariant>
+#include "card/cardlabel.h"
+#include "card/cardtheme.h"
 
 namespace {
 
-constexpr auto AlphaProperty = "cardTextAlpha";
-/// More than a line of the widest row has room for.
-constexpr int WidestHint = 260;
+/// Fills a line of the widest screen also in the narrowest letters.
+constexpr int MostSeenCharacters = 2000;
 
-class CardLabel : public LLabel
+void setSize(QWidget &widget, LFontSizeManager::SizeType size)
 {
-public:
-    using LLabel::LLabel;
+    widget.setFont(LFontSizeManager::instance()->get(size, widget.font()));
+}
 
-    QSize sizeHint() const override { return LLabel::sizeHint().boundedTo({WidestHint, QWIDGETSIZE_MAX}); }
-};
+} // namespace
 
-/// A label whose colour stays when the theme changes.
-class ColoredLabel final : public CardLabel
+CardLabel *CardText::label(const QString &text, LFontSizeManager::SizeType size, int alpha, QWidget *parent)
 {
-public:
-    using CardLabel::CardLabel;
+    auto *label = new CardLabel(text, parent);
+    setSize(*label, size);
+    CardTheme::setText(*label, alpha);
+    return label;
+}
 
-protected:
-    void paintEvent(QPaintEvent *event) override
-    {
-        QPainter painter(this);
-        paintLegibleGround(painter, rect(), palette().color(foregroundRole()));
-        painter.end();
-        CardLabel::paintEvent(event);
+CardLabel *CardText::coloredLabel(const QString &text, LFontSizeManager::SizeType size, const QColor &color,
+                                  QWidget *parent)
+{
+    auto *label = new ColoredCardLabel(text, color, parent);
+    setSize(*label, size);
+    return label;
+}
+
+bool CardText::isLong(const QString &text)
+{
+    return text.size() > MostSeenCharacters;
+}
+
+QString CardText::beginning(const QString &text)
+{
+    if (!isLong(text)) {
+        return text;
     }
-};
+    // Half a surrogate pair would be shown as a box.
+    const bool splitsPair = text.at(MostSeenCharacters - 1).isHighSurrogate();
+    return text.left(MostSeenCharacters - (splitsPair ? 1 : 0)) + QChar(0x2026);
+}
 
-/// Line breaks in somebody's title would make its row as tall as they like.
-QString oneLine(QString text)
+QString CardText::oneLine(QString text)
 {
     for (QChar &character : text) {
         switch (character.unicode()) {
@@ -59,47 +66,10 @@ QString oneLine(QString text)
     return text;
 }
 
-template <typename Label>
-LLabel *plainLabel(const QString &text, LFontSizeManager::SizeType size, QWidget *parent)
+QString CardText::plainToolTip(const QString &text)
 {
-    auto *label = new Label(oneLine(text), parent);
-    label->setElideMode(Qt::ElideRight);
-    label->setFont(LFontSizeManager::instance()->get(size, label->font()));
-    return label;
-}
-
-} // namespace
-
-LLabel *CardText::label(const QString &text, LFontSizeManager::SizeType size, int alpha, QWidget *parent)
-{
-    LLabel *label = plainLabel<CardLabel>(text, size, parent);
-    setColor(*label, alpha);
-    return label;
-}
-
-LLabel *CardText::coloredLabel(const QString &text, LFontSizeManager::SizeType size, const QColor &color,
-                               QWidget *parent)
-{
-    LLabel *label = plainLabel<ColoredLabel>(text, size, parent);
-    QPalette palette = label->palette();
-    palette.setBrush(QPalette::All, QPalette::WindowText, color);
-    label->setPalette(palette);
-    return label;
-}
-
-void CardText::setColor(QWidget &widget, int alpha)
-{
-    widget.setProperty(AlphaProperty, alpha);
-    ThemeColor::applyText(widget, alpha);
-}
-
-void CardText::followTheme(const QWidget &card)
-{
-    const auto widgets = card.findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        const QVariant alpha = widget->property(AlphaProperty);
-        if (alpha.isValid()) {
-            ThemeColor::applyText(*widget, alpha.toInt());
-        }
+    if (text.isEmpty()) {
+        return {};
     }
+    return QLatin1String("<p>") + beginning(text).toHtmlEscaped() + QLatin1String("</p>");
 }

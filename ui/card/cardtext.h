@@ -10,30 +10,32 @@
 QT_BEGIN_NAMESPACE
 class QWidget;
 QT_END_NAMESPACE
-class LLabel;
+class CardLabel;
 
 /**
  * The texts of a card. Every label comes from here, because most texts were written by other people: they are
- * plain text, become dots when they do not fit and do not make the card wider than a card is.
+ * plain text, are elided when they do not fit and do not make the card wider than a card is.
  */
 namespace CardText {
 
-/// How strong a text is, as the alpha of its colour.
-constexpr int TitleAlpha = 102;
-constexpr int CaptionAlpha = 153;
-constexpr int ValueAlpha = 178;
-
-/// A label in the theme's colour, owned by @p parent.
-LLabel *label(const QString &text, LFontSizeManager::SizeType size, int alpha, QWidget *parent);
+/// A label in the theme's colour with that @p alpha, owned by @p parent.
+CardLabel *label(const QString &text, LFontSizeManager::SizeType size, int alpha, QWidget *parent);
 
 /// The same in a colour that the theme does not change.
-LLabel *coloredLabel(const QString &text, LFontSizeManager::SizeType size, const QColor &color,
-                     QWidget *parent);
+CardLabel *coloredLabel(const QString &text, LFontSizeManager::SizeType size, const QColor &color,
+                        QWidget *parent);
 
-/// The theme's text colour with @p alpha on @p widget. It is remembered for followTheme().
-void setColor(QWidget &widget, int alpha);
+/// Whether @p text is longer than anybody could see of it.
+bool isLong(const QString &text);
 
-/// Gives everything inside @p card that setColor() was used on the colour of the theme of this moment.
-void followTheme(const QWidget &card);
+/// @p text itself, or of a long one as much as could ever be seen, with dots.
+QString beginning(const QString &text);
+
+/// @p text without line breaks, which would make its row as tall as its writer likes.
+QString oneLine(QString text);
+
+/// The beginning of @p text as a tool tip that shows every character as it is. A tool tip has no plain
+/// format: Qt guesses.
+QString plainToolTip(const QString &text);
 
 } // namespace CardText

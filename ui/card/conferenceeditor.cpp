@@ -3,10 +3,11 @@
 
 #include "card/conferenceeditor.h"
 
-#include "card/cardtext.h"
+#include "card/cardtheme.h"
 #include "card/conferencerows.h"
 #include "customizecombobox.h"
 
+#include <lumo/lfontsizemanager.h>
 #include <lumo/lspinbox.h>
 
 #include <QHBoxLayout>
@@ -30,7 +31,7 @@ void prepare(QWidget &control, const QString &accessibleName, int minimumWidth)
     // On this platform the accessible name of a combo box is its current text, and only this tells it from
     // another one.
     control.setAccessibleDescription(accessibleName);
-    CardText::setColor(control, CardText::ValueAlpha);
+    CardTheme::setText(control, CardTheme::ValueAlpha);
     // What a control leaves of a click is not meant for the card behind it.
     control.setAttribute(Qt::WA_NoMousePropagation);
 }
@@ -94,7 +95,8 @@ QWidget *ConferenceEditor::personNum(const ContactDetailMsg &conference, QWidget
     const int most = conference.isPayingUser ? MostParticipants : conference.participantLimit;
     box->setRange(LeastParticipants, qMax(LeastParticipants, most));
     box->setValue(conference.participantLimit);
-    m_draft.working().participantLimit = box->value();
+    // A count that the box cannot show is sent as it came until a person sets another one.
+    m_draft.working().participantLimit = conference.participantLimit;
     connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int limit) {
         m_draft.working().participantLimit = limit;
         Q_EMIT signalEdited();

@@ -4,7 +4,9 @@
 #include "card/conferencerows.h"
 
 #include "card/cardicons.h"
+#include "card/cardlabel.h"
 #include "card/cardtext.h"
+#include "card/cardtheme.h"
 #include "card/conferencestate.h"
 
 #include <lumo/llabel.h>
@@ -22,7 +24,6 @@ constexpr int TitleSpacing = 10;
 constexpr int SpaceBeforeState = 10;
 constexpr int StateSpacing = 5;
 constexpr qint64 MsecsPerMinute = 60000;
-constexpr int LineAlpha = 26;
 
 constexpr Qt::Alignment ContentLeft = Qt::AlignLeft | Qt::AlignVCenter;
 constexpr Qt::Alignment ContentRight = Qt::AlignRight | Qt::AlignVCenter;
@@ -35,9 +36,9 @@ constexpr int TitleTextStretch = static_cast<int>(ContentLeft);
 constexpr int StateStretch = static_cast<int>(ContentRight);
 static_assert(TitleTextStretch == 129 && StateStretch == 130, "the cards are laid out with these");
 
-LLabel *valueLabel(const QString &text, QWidget *parent)
+CardLabel *valueLabel(const QString &text, QWidget *parent)
 {
-    return CardText::label(text, LFontSizeManager::T6, CardText::ValueAlpha, parent);
+    return CardText::label(text, LFontSizeManager::T6, CardTheme::ValueAlpha, parent);
 }
 
 QLabel *iconLabel(const char *icon, QWidget *parent)
@@ -47,13 +48,12 @@ QLabel *iconLabel(const char *icon, QWidget *parent)
     return label;
 }
 
-LLabel *addValue(const ConferenceRows::CaptionedRow &row, const QString &text)
+CardLabel *addValue(const ConferenceRows::CaptionedRow &row, const QString &text)
 {
-    LLabel *value = valueLabel(text, row.widget);
+    CardLabel *value = valueLabel(text, row.widget);
     // A long text takes the width that there is, and none that it does not need.
-    const int needed = value->fontMetrics().horizontalAdvance(value->text());
     value->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    value->setMaximumWidth(qMin(QWIDGETSIZE_MAX, qMax(value->sizeHint().width(), needed)));
+    value->setMaximumWidth(qMin(QWIDGETSIZE_MAX, qMax(value->sizeHint().width(), value->textWidth())));
     row.layout->addWidget(value);
     return value;
 }
@@ -72,8 +72,8 @@ QLayout *stateLayout(const ConferenceState &state, QWidget *parent)
     QLabel *icon = iconLabel(state.icon, parent);
     icon->setAlignment(ContentRight);
     layout->addWidget(icon, StateStretch);
-    LLabel *text = CardText::coloredLabel(state.text, LFontSizeManager::T8, state.color, parent);
-    text->setElideMode(Qt::ElideNone);
+    CardLabel *text = CardText::coloredLabel(state.text, LFontSizeManager::T8, state.color, parent);
+    text->disableEliding();
     text->setAlignment(ContentRight);
     layout->addWidget(text, StateStretch);
     return layout;
@@ -88,7 +88,8 @@ QWidget *ConferenceRows::title(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(TitleSpacing);
     layout->addWidget(iconLabel(CardIcons::Contacts, row), TitleIconStretch);
-    LLabel *text = CardText::label(QStringLiteral("联系人"), LFontSizeManager::T8, CardText::TitleAlpha, row);
+    CardLabel *text =
+        CardText::label(QStringLiteral("联系人"), LFontSizeManager::T8, CardTheme::TitleAlpha, row);
     text->setAlignment(ContentLeft);
     layout->addWidget(text, TitleTextStretch);
     return row;
@@ -151,7 +152,7 @@ ConferenceRows::CaptionedRow ConferenceRows::captioned(const QString &caption, Q
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->setAlignment(Qt::AlignLeft);
-    LLabel *label = CardText::label(caption, LFontSizeManager::T7, CardText::CaptionAlpha, row);
+    CardLabel *label = CardText::label(caption, LFontSizeManager::T7, CardTheme::CaptionAlpha, row);
     label->setFixedWidth(CaptionWidth);
     label->setMinimumHeight(CaptionMinimumHeight);
     layout->addWidget(label);
@@ -169,7 +170,7 @@ QPushButton *ConferenceRows::line(QWidget *parent)
     // A flat button shows nothing of its own.
     line->setAutoFillBackground(true);
     line->setBackgroundRole(QPalette::WindowText);
-    CardText::setColor(*line, LineAlpha);
+    CardTheme::setText(*line, CardTheme::LineAlpha);
     return line;
 }
 

@@ -4,6 +4,7 @@
 #include "card/conferencestate.h"
 
 #include "card/cardicons.h"
+#include "card/cardtheme.h"
 
 namespace {
 constexpr int NotStarted = 0;
@@ -14,10 +15,10 @@ ConferenceState ConferenceState::of(int status)
 {
     switch (status) {
     case NotStarted:
-        return {QStringLiteral("未开始"), CardIcons::Waiting, QColor(0, 129, 255)};
+        return {QStringLiteral("未开始"), CardIcons::Waiting, CardTheme::notStarted()};
     case Ended:
-        return {QStringLiteral("已结束"), CardIcons::Ended, QColor(0, 0, 0, 77)};
+        return {QStringLiteral("已结束"), CardIcons::Ended, CardTheme::ended()};
     default:
-        return {QStringLiteral("进行中"), CardIcons::InProgress, QColor(89, 190, 45)};
+        return {QStringLiteral("进行中"), CardIcons::InProgress, CardTheme::inProgress()};
     }
 }

@@ -3,7 +3,6 @@
 
 #include "lumo/lcommandlinkbutton.h"
 
-#include "lumo/legibleground.h"
 #include "lumo/lfontsizemanager.h"
 #include "lumo/plaintooltip.h"
 
@@ -48,11 +47,6 @@ void LCommandLinkButton::paintEvent(QPaintEvent * /*event*/)
     QPainter painter(this);
     const QFont textFont = shownFont();
     const QRect room = rect().adjusted(HorizontalPadding, 0, -HorizontalPadding, 0);
-    const int textWidth = QFontMetrics(textFont).size(Qt::TextShowMnemonic, text()).width();
-    QRect ground = rect();
-    ground.setWidth(qMin(width(), textWidth + 2 * HorizontalPadding));
-    ground.moveCenter(rect().center());
-    paintLegibleGround(painter, ground, palette().color(QPalette::ButtonText));
 
     if (option.state.testFlag(QStyle::State_HasFocus)) {
         painter.setRenderHint(QPainter::Antialiasing);

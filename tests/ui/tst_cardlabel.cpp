@@ -1,0 +1,242 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "card/cardlabel.h"
+
+#include "card/cardtext.h"
+#include "card/cardtheme.h"
+#include "desktoptheme.h"
+
+#include <QElapsedTimer>
+#include <QHelpEvent>
+#include <QTextDocument>
+#include <QToolTip>
+#include <QtTest>
+
+namespace {
+
+const QString Markup =
+    QStringLiteral("<a href=\"file:///etc/passwd\">周会</a><img src=\"file:///etc/hostname\">");
+constexpr int Megabyte = 1024 * 1024;
+
+CardLabel *makeLabel(const QString &text, QWidget *parent)
+{
+    return CardText::label(text, LFontSizeManager::T6, CardTheme::ValueAlpha, parent);
+}
+
+/// What the tool tip of @p label shows when the mouse rests on it.
+QString shownToolTip(QWidget &label)
+{
+    QToolTip::hideText();
+    if (!QTest::qWaitFor([] { return !QToolTip::isVisible(); })) {
+        return QStringLiteral("the former tool tip stays");
+    }
+    QHelpEvent help(QEvent::ToolTip, QPoint(5, 5), label.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&label, &help);
+    return QToolTip::text();
+}
+
+QImage painted(QWidget &widget)
+{
+    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    widget.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+    return image;
+}
+
+} // namespace
+
+/// Texts that somebody else wrote, shown as the characters that they are made of, beside any toolkit.
+class TestCardLabel : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void markupIsPaintedAsCharacters();
+    void aTextThatDoesNotFitIsElided();
+    void aLabelThatIsNotElidedKeepsItsWidth();
+    void onlyAnElidedTextHasAToolTip_data();
+    void onlyAnElidedTextHasAToolTip();
+    void aToolTipShowsMarkupAsCharacters_data();
+    void aToolTipShowsMarkupAsCharacters();
+    void aLongTextStaysWholeButIsNotShownWhole();
+    void theDotsOfALongTextDoNotSplitACharacter();
+    void aMegabyteTakesNoTime();
+    void aFixedColourGetsALegibleGround_data();
+    void aFixedColourGetsALegibleGround();
+};
+
+void TestCardLabel::cleanup()
+{
+    QToolTip::hideText();
+    DesktopTheme::set(DesktopTheme::Light);
+}
+
+void TestCardLabel::markupIsPaintedAsCharacters()
+{
+    QWidget parent;
+    CardLabel *label = makeLabel(Markup, &parent);
+    QCOMPARE(label->textFormat(), Qt::PlainText);
+    QCOMPARE(label->text(), Markup);
+    QCOMPARE(label->textWidth(), label->fontMetrics().horizontalAdvance(Markup));
+    label->resize(label->textWidth() + 10, label->sizeHint().height());
+
+    QLabel plain(&parent);
+    plain.setTextFormat(Qt::PlainText);
+    plain.setText(Markup);
+    plain.setFont(label->font());
+    plain.setPalette(label->palette());
+    plain.resize(label->size());
+    QCOMPARE(painted(*label), painted(plain));
+}
+
+void TestCardLabel::aTextThatDoesNotFitIsElided()
+{
+    QWidget parent;
+    const QString text(40, QLatin1Char('m'));
+    CardLabel *label = makeLabel(text, &parent);
+    QVERIFY(label->minimumSizeHint().width() < label->textWidth() / 4);
+    QCOMPARE(label->sizeHint().width(), qMin(260, label->textWidth()));
+    QCOMPARE(label->text(), text);
+
+    label->resize(100, label->sizeHint().height());
+    QLabel expected(label->fontMetrics().elidedText(text, Qt::ElideRight, 100), &parent);
+    expected.setFont(label->font());
+    expected.setPalette(label->palette());
+    expected.resize(label->size());
+    QCOMPARE(painted(*label), painted(expected));
+
+    // Whatever the alignment of a text that fits, one that does not starts at the left.
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    QCOMPARE(painted(*label), painted(expected));
+}
+
+void TestCardLabel::aLabelThatIsNotElidedKeepsItsWidth()
+{
+    QWidget parent;
+    CardLabel *label = makeLabel(QStringLiteral("进行中"), &parent);
+    label->disableEliding();
+    QVERIFY(label->minimumSizeHint().width() >= label->textWidth());
+}
+
+void TestCardLabel::onlyAnElidedTextHasAToolTip_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<QString>("ownToolTip");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("too narrow") << 100 << QString() << CardText::plainToolTip(Markup);
+    QTest::newRow("wide enough") << 2000 << QString() << QString();
+    QTest::newRow("too narrow with a tool tip of its own") << 100 << "mine"
+                                                           << "mine";
+}
+
+void TestCardLabel::onlyAnElidedTextHasAToolTip()
+{
+    QFETCH(int, width);
+    QFETCH(QString, ownToolTip);
+    QWidget parent;
+    parent.resize(2000, 40);
+    CardLabel *label = makeLabel(Markup, &parent);
+    label->setToolTip(ownToolTip);
+    label->resize(width, 20);
+    parent.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&parent));
+    QTEST(shownToolTip(*label), "shown");
+}
+
+void TestCardLabel::aToolTipShowsMarkupAsCharacters_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("markup") << Markup;
+    QTest::newRow("entities") << "a &amp; b";
+    QTest::newRow("plain") << QStringLiteral("周会");
+}
+
+void TestCardLabel::aToolTipShowsMarkupAsCharacters()
+{
+    QFETCH(QString, text);
+    QTextDocument shown;
+    shown.setHtml(CardText::plainToolTip(text));
+    QCOMPARE(shown.toPlainText(), text);
+    QVERIFY(Qt::mightBeRichText(CardText::plainToolTip(text)));
+    QCOMPARE(CardText::plainToolTip(QString()), QString());
+}
+
+void TestCardLabel::aLongTextStaysWholeButIsNotShownWhole()
+{
+    const QString text = QStringLiteral("周会").repeated(Megabyte / 2);
+    QWidget parent;
+    parent.resize(400, 40);
+    CardLabel *label = makeLabel(text, &parent);
+    label->resize(300, 20);
+    parent.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&parent));
+    QCOMPARE(label->text(), text);
+    QVERIFY(label->accessibleName().size() < 5000);
+    QVERIFY(label->accessibleName().startsWith(text.left(1000)));
+
+    QTextDocument toolTip;
+    toolTip.setHtml(shownToolTip(*label));
+    QVERIFY(toolTip.toPlainText().size() < 5000);
+    QVERIFY(toolTip.toPlainText().startsWith(text.left(1000)));
+
+    // What can be seen of it is what can be seen of a text that is merely too long for its place.
+    CardLabel *shorter = makeLabel(text.left(500), &parent);
+    shorter->resize(label->size());
+    QCOMPARE(painted(*label), painted(*shorter));
+    QCOMPARE(label->sizeHint(), shorter->sizeHint());
+    QCOMPARE(label->minimumSizeHint(), shorter->minimumSizeHint());
+}
+
+void TestCardLabel::theDotsOfALongTextDoNotSplitACharacter()
+{
+    // Two code units each, from an even and from an odd place on.
+    const QString pairs = QStringLiteral("𠀀").repeated(5000);
+    for (const QString &text : {pairs, QLatin1Char('a') + pairs}) {
+        const QString beginning = CardText::beginning(text);
+        QVERIFY(beginning.size() < 5000);
+        QVERIFY(beginning.endsWith(QChar(0x2026)));
+        QVERIFY(beginning.at(beginning.size() - 2).isLowSurrogate());
+    }
+}
+
+void TestCardLabel::aMegabyteTakesNoTime()
+{
+    const QString text = QStringLiteral("周会 <b>").repeated(Megabyte / 6);
+    QWidget parent;
+    makeLabel(QStringLiteral("周会 <b>"), &parent)->sizeHint();
+    QElapsedTimer timer;
+    timer.start();
+    CardLabel *label = makeLabel(text, &parent);
+    label->resize(label->sizeHint());
+    painted(*label);
+    QVERIFY2(timer.elapsed() < 50, qPrintable(QString::number(timer.elapsed())));
+}
+
+void TestCardLabel::aFixedColourGetsALegibleGround_data()
+{
+    QTest::addColumn<int>("theme");
+    QTest::addColumn<QColor>("color");
+    QTest::addColumn<bool>("hasGround");
+    QTest::newRow("dark on dark") << int(DesktopTheme::Dark) << CardTheme::ended() << true;
+    QTest::newRow("bright on dark") << int(DesktopTheme::Dark) << CardTheme::inProgress() << false;
+    QTest::newRow("dark on light") << int(DesktopTheme::Light) << CardTheme::ended() << false;
+}
+
+void TestCardLabel::aFixedColourGetsALegibleGround()
+{
+    QFETCH(int, theme);
+    QFETCH(QColor, color);
+    QFETCH(bool, hasGround);
+    QWidget parent;
+    DesktopTheme::set(static_cast<DesktopTheme::Theme>(theme));
+    CardLabel *label = CardText::coloredLabel(QString(), LFontSizeManager::T8, color, &parent);
+    label->resize(40, 20);
+    QCOMPARE(painted(*label).pixelColor(20, 10).alpha() > 0, hasGround);
+    QCOMPARE(label->palette().color(QPalette::WindowText), color);
+}
+
+QTEST_MAIN(TestCardLabel)
+#include "tst_cardlabel.moc"

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "card/cardfooter.h"
+
+#include "card/cardtheme.h"
+
+#include <lumo/lfontsizemanager.h>
+
+#include <QPainter>
+
+namespace {
+constexpr int Width = 200;
+constexpr int GroundPadding = 2;
+} // namespace
+
+CardFooter::CardFooter(int count, QWidget *parent)
+    : LCommandLinkButton(QStringLiteral("在“联系人”中查看所有%1个结果…").arg(count), parent)
+{
+    setFont(LFontSizeManager::instance()->get(LFontSizeManager::T8, font()));
+    setFixedWidth(Width);
+    setAutoDefault(false);
+    QPalette fixed = palette();
+    fixed.setBrush(QPalette::All, QPalette::ButtonText, CardTheme::footer());
+    fixed.setBrush(QPalette::All, QPalette::WindowText, CardTheme::footer());
+    setPalette(fixed);
+}
+
+void CardFooter::paintEvent(QPaintEvent *event)
+{
+    QRect ground = rect();
+    ground.setWidth(qMin(width(), fontMetrics().horizontalAdvance(text()) + 2 * GroundPadding));
+    ground.moveCenter(rect().center());
+    QPainter painter(this);
+    CardTheme::paintLegibleGround(painter, ground, CardTheme::footer());
+    painter.end();
+    LCommandLinkButton::paintEvent(event);
+}

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <lumo/llabel.h>
+
+/**
+ * A one-line label for a text that somebody else wrote: plain text, also in its tool tip, whatever the
+ * toolkit's label makes of it. A text that does not fit is elided and given whole as tool tip.
+ *
+ * text() is always the whole text. Measured, painted and told to assistive technology is only its beginning,
+ * so that a text of megabytes costs no more than a line of the widest screen.
+ */
+class CardLabel : public LLabel
+{
+    Q_OBJECT
+
+public:
+    CardLabel(const QString &text, QWidget *parent);
+
+    /// Never makes the label narrower than its text.
+    void disableEliding();
+
+    /// What the text needs on one line, in pixels.
+    [[nodiscard]] int textWidth() const;
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    [[nodiscard]] QString shownText() const;
+    [[nodiscard]] QSize wholeSize() const;
+
+    bool m_elides = true;
+};
+
+/// A label whose colour does not follow the theme; in the dark one it gets a ground on which it can be read.
+class ColoredCardLabel final : public CardLabel
+{
+    Q_OBJECT
+
+public:
+    ColoredCardLabel(const QString &text, const QColor &color, QWidget *parent);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};

@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "card/cardtheme.h"
+
+#include <lumo/lguiapplicationhelper.h>
+
+#include <QPainter>
+#include <QVariant>
+#include <QWidget>
+
+namespace {
+
+constexpr auto AlphaProperty = "cardTextAlpha";
+
+constexpr qreal LegibleGroundRadius = 4;
+/// Below this brightness, of 255, a text is lost on a dark ground.
+constexpr int DarkestOnDark = 64;
+
+void applyText(QWidget &widget, int alpha)
+{
+    QPalette palette = widget.palette();
+    palette.setBrush(QPalette::All, QPalette::WindowText, CardTheme::text(alpha));
+    widget.setPalette(palette);
+}
+
+} // namespace
+
+bool CardTheme::isLight()
+{
+    return LGuiApplicationHelper::instance()->themeType() == LGuiApplicationHelper::LightType;
+}
+
+bool CardTheme::isDark()
+{
+    return LGuiApplicationHelper::instance()->themeType() == LGuiApplicationHelper::DarkType;
+}
+
+QColor CardTheme::text(int alpha)
+{
+    QColor color = isLight() ? Qt::black : Qt::white;
+    color.setAlpha(alpha);
+    return color;
+}
+
+void CardTheme::setText(QWidget &widget, int alpha)
+{
+    widget.setProperty(AlphaProperty, alpha);
+    applyText(widget, alpha);
+}
+
+void CardTheme::refreshTexts(const QWidget &card)
+{
+    const auto widgets = card.findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        const QVariant alpha = widget->property(AlphaProperty);
+        if (alpha.isValid()) {
+            applyText(*widget, alpha.toInt());
+        }
+    }
+}
+
+QColor CardTheme::cardGround()
+{
+    return isLight() ? QColor(247, 247, 247, 200) : QColor(0x19, 0x19, 0x19, 204);
+}
+
+QColor CardTheme::rowGround()
+{
+    // The dark theme's white texts could not be read on the panel's own ground.
+    return isDark() ? QColor(255, 255, 255, 20) : panelGround();
+}
+
+void CardTheme::paintLegibleGround(QPainter &painter, const QRect &rect, const QColor &text)
+{
+    if (!isDark() || qGray(text.rgb()) >= DarkestOnDark) {
+        return;
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(247, 247, 247, 180));
+    painter.drawRoundedRect(rect, LegibleGroundRadius, LegibleGroundRadius);
+    painter.restore();
+}

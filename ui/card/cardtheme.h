@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QColor>
+#include <QGuiApplication>
+
+QT_BEGIN_NAMESPACE
+class QPainter;
+class QRect;
+class QWidget;
+QT_END_NAMESPACE
+
+/// Every colour of the cards, by name, and the desktop's theme, which some of them follow.
+namespace CardTheme {
+
+bool isLight();
+bool isDark();
+
+/// Calls @p slot of @p object after every change of the application's palette, which comes with every change
+/// of the theme.
+template <typename Object>
+void follow(Object *object, void (Object::*slot)())
+{
+    QObject::connect(qGuiApp, &QGuiApplication::paletteChanged, object, slot);
+}
+
+// Texts: how strong each is, as the alpha of the theme's text colour.
+constexpr int TitleAlpha = 102;
+constexpr int CaptionAlpha = 153;
+constexpr int ValueAlpha = 178;
+constexpr int LineAlpha = 26; ///< the line between two parts of a card
+
+/// Black in the light theme, white otherwise, with @p alpha from 0 to 255.
+QColor text(int alpha);
+
+/// Gives @p widget that text colour, and remembers it for refreshTexts().
+void setText(QWidget &widget, int alpha);
+
+/// Gives everything in @p card that setText() was used on the colour of the current theme.
+void refreshTexts(const QWidget &card);
+
+// Grounds.
+QColor cardGround();
+/// The ground of a candidate row in the current theme.
+QColor rowGround();
+/// The ground that a rounded panel has unless told otherwise.
+inline QColor panelGround()
+{
+    return {247, 247, 247, 204};
+}
+/// One conference in a list of several.
+inline QColor itemGround()
+{
+    return {0, 0, 0, 7};
+}
+
+// The same in both themes.
+inline QColor focus()
+{
+    return {0, 129, 255};
+}
+inline QColor notStarted()
+{
+    return {0, 129, 255};
+}
+inline QColor inProgress()
+{
+    return {89, 190, 45};
+}
+inline QColor ended()
+{
+    return {0, 0, 0, 77};
+}
+inline QColor footer()
+{
+    return {0, 0, 0, 102};
+}
+
+/// Paints a light ground into @p rect when the theme is dark and @p text, a colour that does not follow it,
+/// could not be read there. Otherwise paints nothing.
+void paintLegibleGround(QPainter &painter, const QRect &rect, const QColor &text);
+
+} // namespace CardTheme

@@ -170,7 +170,7 @@ void TestActions::outcome_data()
         QTest::newRow(name) << arrange << action << parameters << QString::fromLatin1(expected);
     };
     const qint64 tonight = at("2026-03-07T20:00");
-    const qint64 duringWeekly = at("2026-03-08T15:30");
+    const qint64 duringWeekly = at("2026-03-08T10:30");
     const QString nobody = QStringLiteral("无名氏");
     const QString another = QStringLiteral("路人甲");
     const QString zhang = QStringLiteral("张伟");
@@ -205,11 +205,11 @@ void TestActions::outcome_data()
         "Return");
     row("creating during another conference of the user's", nothing, Create, names({zhao}, duringWeekly),
         "Time Overlap");
-    row("creating at the very end of another one", nothing, Create, names({}, at("2026-03-08T16:00")), "OK");
-    row("creating so that it would run into another one", nothing, Create, names({}, at("2026-03-08T14:01")),
+    row("creating at the very end of another one", nothing, Create, names({}, at("2026-03-08T11:00")), "OK");
+    row("creating so that it would run into another one", nothing, Create, names({}, at("2026-03-08T09:01")),
         "Time Overlap");
     row("creating so that it ends when another one starts", nothing, Create,
-        names({}, at("2026-03-08T14:00")), "OK");
+        names({}, at("2026-03-08T09:00")), "OK");
     row("an overlap is told before the names are asked about", nothing, Create, names({zhang}, duringWeekly),
         "Time Overlap");
     row("creating in the past", nothing, Create, names({}, at("2026-03-07T09:00")), "Invalid Parameters");
@@ -372,13 +372,13 @@ void TestActions::outcome_data()
     row("opening the list without being logged in", logOut, Open, none, "Success");
 
     row("updating time, duration and limit", nothing, Update,
-        conference("880100005", {{QStringLiteral("startTime"), at("2026-03-08T17:00")},
+        conference("880100005", {{QStringLiteral("startTime"), at("2026-03-08T12:00")},
                                  {QStringLiteral("duration"), 7200000},
                                  {QStringLiteral("participantLimit"), 100}}),
         "OK");
     row("updating nothing", nothing, Update, conference("880100005"), "OK");
     row("updating to what it is", nothing, Update,
-        conference("880100005", {{QStringLiteral("startTime"), at("2026-03-08T15:00")},
+        conference("880100005", {{QStringLiteral("startTime"), at("2026-03-08T10:00")},
                                  {QStringLiteral("duration"), 3600000},
                                  {QStringLiteral("participantLimit"), 20}}),
         "OK");
@@ -425,7 +425,7 @@ void TestActions::outcome_data()
         [](SampleWorld &world) {
             world.admin.SetConferenceState(QStringLiteral("880100005"), QStringLiteral("running"));
         },
-        Update, conference("880100005", {{QStringLiteral("startTime"), at("2026-03-08T17:00")}}),
+        Update, conference("880100005", {{QStringLiteral("startTime"), at("2026-03-08T12:00")}}),
         "Update Failed");
     row("updating one that has ended", nothing, Update,
         conference("880100008", {{QStringLiteral("duration"), 900000}}), "Update Failed");
@@ -505,8 +505,8 @@ void TestActions::anAnswerTellsAConferenceAsItIs()
 {
     SampleWorld world;
     const QJsonObject answer =
-        world.ask(Search, QJsonObject{{QStringLiteral("startTime"), at("2026-03-08T15:00")},
-                                      {QStringLiteral("endTime"), at("2026-03-08T15:01")}});
+        world.ask(Search, QJsonObject{{QStringLiteral("startTime"), at("2026-03-08T10:00")},
+                                      {QStringLiteral("endTime"), at("2026-03-08T10:01")}});
     QCOMPARE(list(answer).size(), 1);
     const auto participant = [](const char *account, const char *name) {
         return QJsonObject{{QStringLiteral("userId"), QStringLiteral("u") + QString::fromLatin1(account)},
@@ -517,7 +517,7 @@ void TestActions::anAnswerTellsAConferenceAsItIs()
         {QStringLiteral("confId"), world.conferenceId(QStringLiteral("880100005"))},
         {QStringLiteral("conferenceDialNumber"), QStringLiteral("880100005")},
         {QStringLiteral("title"), QStringLiteral("产品周会")},
-        {QStringLiteral("startTime"), at("2026-03-08T15:00")},
+        {QStringLiteral("startTime"), at("2026-03-08T10:00")},
         {QStringLiteral("duration"), 3600000},
         {QStringLiteral("participantLimit"), 20},
         {QStringLiteral("status"), QStringLiteral("0")},
@@ -640,7 +640,7 @@ void TestActions::aFailedUpdateChangesNothing()
     const QJsonObject before = world.snapshot();
     QCOMPARE(ret(world.ask(Update, QJsonObject{{QStringLiteral("conferenceId"),
                                                 world.conferenceId(QStringLiteral("880100005"))},
-                                               {QStringLiteral("startTime"), at("2026-03-08T17:00")},
+                                               {QStringLiteral("startTime"), at("2026-03-08T12:00")},
                                                {QStringLiteral("duration"), 900000},
                                                {QStringLiteral("participantLimit"), 101}})),
              QStringLiteral("Update Failed"));
@@ -652,19 +652,19 @@ void TestActions::anUpdateIsAnsweredWithTheConference()
     SampleWorld world;
     const QJsonObject answer = world.ask(
         Update, QJsonObject{{QStringLiteral("conferenceId"), world.conferenceId(QStringLiteral("880100005"))},
-                            {QStringLiteral("startTime"), at("2026-03-08T17:00")},
+                            {QStringLiteral("startTime"), at("2026-03-08T12:00")},
                             {QStringLiteral("duration"), 900000},
                             {QStringLiteral("participantLimit"), 30}});
     const QJsonObject changed = list(answer).at(0).toObject();
-    QCOMPARE(changed.value(QLatin1String("startTime")).toDouble(), double(at("2026-03-08T17:00")));
+    QCOMPARE(changed.value(QLatin1String("startTime")).toDouble(), double(at("2026-03-08T12:00")));
     QCOMPARE(changed.value(QLatin1String("duration")).toInt(), 900000);
     QCOMPARE(changed.value(QLatin1String("participantLimit")).toInt(), 30);
     // It is found at its new time and no longer at the old one.
-    QCOMPARE(ret(world.ask(Search, QJsonObject{{QStringLiteral("startTime"), at("2026-03-08T15:00")},
-                                               {QStringLiteral("endTime"), at("2026-03-08T16:00")}})),
+    QCOMPARE(ret(world.ask(Search, QJsonObject{{QStringLiteral("startTime"), at("2026-03-08T10:00")},
+                                               {QStringLiteral("endTime"), at("2026-03-08T11:00")}})),
              QStringLiteral("Not Found"));
-    QCOMPARE(list(world.ask(Search, QJsonObject{{QStringLiteral("startTime"), at("2026-03-08T17:00")},
-                                                {QStringLiteral("endTime"), at("2026-03-08T17:01")}}))
+    QCOMPARE(list(world.ask(Search, QJsonObject{{QStringLiteral("startTime"), at("2026-03-08T12:00")},
+                                                {QStringLiteral("endTime"), at("2026-03-08T12:01")}}))
                  .size(),
              1);
 }
@@ -674,17 +674,17 @@ void TestActions::theStateFollowsTheClock()
     SampleWorld world;
     const auto status = [&world] {
         const QJsonArray found =
-            list(world.ask(Search, QJsonObject{{QStringLiteral("startTime"), at("2026-03-08T15:00")},
-                                               {QStringLiteral("endTime"), at("2026-03-08T16:00")}}));
+            list(world.ask(Search, QJsonObject{{QStringLiteral("startTime"), at("2026-03-08T10:00")},
+                                               {QStringLiteral("endTime"), at("2026-03-08T11:00")}}));
         return found.at(0).toObject().value(QLatin1String("status")).toString();
     };
-    world.nowMsecs = at("2026-03-08T15:00") - 1;
+    world.nowMsecs = at("2026-03-08T10:00") - 1;
     QCOMPARE(status(), QStringLiteral("0"));
-    world.nowMsecs = at("2026-03-08T15:00");
+    world.nowMsecs = at("2026-03-08T10:00");
     QCOMPARE(status(), QStringLiteral("1"));
-    world.nowMsecs = at("2026-03-08T16:00") - 1;
+    world.nowMsecs = at("2026-03-08T11:00") - 1;
     QCOMPARE(status(), QStringLiteral("1"));
-    world.nowMsecs = at("2026-03-08T16:00");
+    world.nowMsecs = at("2026-03-08T11:00");
     QCOMPARE(status(), QStringLiteral("2"));
 }
 

@@ -16,14 +16,13 @@ namespace {
 
 constexpr int IconSize = 72;
 
-QStringList examples()
-{
-    return {QStringLiteral("发起视频会议，叫上孙丽和赵磊"), QStringLiteral("预约明天下午三点的视频会议"),
-            QStringLiteral("查询今天的会议"), QStringLiteral("加入会议880100002"),
-            QStringLiteral("添加好友200001")};
-}
-
 } // namespace
+
+QStringList WelcomePage::examples()
+{
+    return {QStringLiteral("查询今天的会议"), QStringLiteral("预约明天下午三点的视频会议"),
+            QStringLiteral("加200001为好友"), QStringLiteral("发起视频会议，叫上孙丽和赵磊")};
+}
 
 WelcomePage::WelcomePage(QWidget *parent) : QWidget(parent)
 {

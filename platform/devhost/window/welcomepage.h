@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QStringList>
 #include <QWidget>
 
 namespace devhost {
@@ -14,6 +15,9 @@ class WelcomePage final : public QWidget
 
 public:
     explicit WelcomePage(QWidget *parent = nullptr);
+
+    /// Each works on the sample as the first sentence, and so do all of them one after another.
+    static QStringList examples();
 
 Q_SIGNALS:
     void exampleChosen(const QString &sentence);

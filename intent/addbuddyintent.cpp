@@ -3,34 +3,26 @@
 
 #include "addbuddyintent.h"
 
+#include "conferencecardinterface.h"
 #include "replytable.h"
 #include "slotreader.h"
+#include "wire/resultcodes.h"
 
 #include <QDebug>
 
 namespace {
 
-const QVector<ReplyRow<NoRecord>> &replies()
-{
-    static const QVector<ReplyRow<NoRecord>> rows{
-        {ResultCode::Success, nullptr, QStringLiteral("已成功发送好友申请。"), nullptr, TextOnly},
-        {ResultCode::AlreadyFriend, nullptr, QStringLiteral("您已经添加过该好友。"), nullptr, TextOnly},
-        {ResultCode::FriendLimit, nullptr, QStringLiteral("抱歉，您的好友已超过最大限制。"), nullptr,
-         TextOnly},
-        {ResultCode::NotFound, nullptr, QStringLiteral("抱歉，没有找到该联系人。"), nullptr, TextOnly},
-        {ResultCode::Oneself, nullptr, QStringLiteral("抱歉，无法添加自己为好友。"), nullptr, TextOnly},
-    };
-    return rows;
-}
+using Say = ReplyRow<>;
+
+constexpr ReplyTable<> Outcomes = {
+    Say(ResultCode::Success, u"已成功发送好友申请。"),
+    Say(ResultCode::AlreadyFriend, u"您已经添加过该好友。"),
+    Say(ResultCode::FriendLimit, u"抱歉，您的好友已超过最大限制。"),
+    Say(ResultCode::NotFound, u"抱歉，没有找到该联系人。"),
+    Say(ResultCode::Oneself, u"抱歉，无法添加自己为好友。"),
+};
 
 } // namespace
-
-AddBuddyIntent::AddBuddyIntent(QObject *parent) : QObject(parent) {}
-
-int AddBuddyIntent::action(const CloudIntent &intent)
-{
-    return handleAddBuddy(intent);
-}
 
 int AddBuddyIntent::handleAddBuddy(const CloudIntent &intent)
 {
@@ -44,6 +36,5 @@ int AddBuddyIntent::handleAddBuddy(const CloudIntent &intent)
 
 int AddBuddyIntent::handleReply(int code, const CloudIntent &intent)
 {
-    ReplyTable::answer(code, replies(), NoRecord(), intent, *this);
-    return code;
+    return Replies::answer(code, Outcomes, intent, *getReply());
 }

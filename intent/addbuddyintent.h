@@ -15,9 +15,9 @@ class AddBuddyIntent : public QObject, public IReplyableIntent
 public:
     static constexpr const char *IntentName = "ADD_BUDDY";
 
-    explicit AddBuddyIntent(QObject *parent = nullptr);
+    explicit AddBuddyIntent(QObject *parent = nullptr) : QObject(parent) {}
 
-    int action(const CloudIntent &intent) override;
+    int action(const CloudIntent &intent) override { return handleAddBuddy(intent); }
     int handleReply(int code, const CloudIntent &intent) override;
 
     virtual int handleAddBuddy(const CloudIntent &intent);

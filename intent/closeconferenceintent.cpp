@@ -3,28 +3,21 @@
 
 #include "closeconferenceintent.h"
 
+#include "conferencecardinterface.h"
 #include "replytable.h"
+#include "wire/resultcodes.h"
 
 namespace {
 
-const QVector<ReplyRow<NoRecord>> &replies()
-{
-    static const QVector<ReplyRow<NoRecord>> rows{
-        {ResultCode::Success, nullptr, QStringLiteral("好的。"), nullptr, TextOnly},
-        // Not the words that inviting uses for the same outcome.
-        {ResultCode::NoConference, nullptr, QStringLiteral("您没有正在开始的视频会议。"), nullptr, TextOnly},
-    };
-    return rows;
-}
+using Say = ReplyRow<>;
+
+constexpr ReplyTable<> Outcomes = {
+    Say(ResultCode::Success, u"好的。"),
+    // Deliberately not the words that inviting uses for the same outcome.
+    Say(ResultCode::NoConference, u"您没有正在开始的视频会议。"),
+};
 
 } // namespace
-
-CloseConferenceIntent::CloseConferenceIntent(QObject *parent) : QObject(parent) {}
-
-int CloseConferenceIntent::action(const CloudIntent &intent)
-{
-    return handleCloseConference(intent);
-}
 
 int CloseConferenceIntent::handleCloseConference(const CloudIntent & /*intent*/)
 {
@@ -33,6 +26,5 @@ int CloseConferenceIntent::handleCloseConference(const CloudIntent & /*intent*/)
 
 int CloseConferenceIntent::handleReply(int code, const CloudIntent &intent)
 {
-    ReplyTable::answer(code, replies(), NoRecord(), intent, *this);
-    return code;
+    return Replies::answer(code, Outcomes, intent, *getReply());
 }

@@ -15,9 +15,9 @@ class CloseConferenceIntent : public QObject, public IReplyableIntent
 public:
     static constexpr const char *IntentName = "CLOSE_CONFERENCE";
 
-    explicit CloseConferenceIntent(QObject *parent = nullptr);
+    explicit CloseConferenceIntent(QObject *parent = nullptr) : QObject(parent) {}
 
-    int action(const CloudIntent &intent) override;
+    int action(const CloudIntent &intent) override { return handleCloseConference(intent); }
     int handleReply(int code, const CloudIntent &intent) override;
 
     virtual int handleCloseConference(const CloudIntent &intent);

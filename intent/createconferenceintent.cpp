@@ -3,11 +3,13 @@
 
 #include "createconferenceintent.h"
 
+#include "conferencecardinterface.h"
 #include "contactutils.h"
 #include "memberphrases.h"
 #include "replytable.h"
 #include "request/requesttexts.h"
 #include "slotreader.h"
+#include "wire/resultcodes.h"
 
 #include <QDateTime>
 #include <QDebug>
@@ -16,15 +18,11 @@
 namespace {
 
 using Detail = ContactCreatedConferenceDetail;
+using Say = ReplyRow<Detail>;
 
-bool isScheduled(const Detail &detail)
+bool isBooked(const Detail &detail)
 {
     return detail.isSchedule;
-}
-
-bool isScheduledAndListed(const Detail &detail)
-{
-    return detail.isSchedule && !detail.conferences.isEmpty();
 }
 
 bool isImmediate(const Detail &detail)
@@ -37,98 +35,78 @@ bool isListed(const Detail &detail)
     return !detail.conferences.isEmpty();
 }
 
-/// With a single name that nobody has, nothing was created; with more, the conference was, without them.
+bool isBookedAndListed(const Detail &detail)
+{
+    return isBooked(detail) && isListed(detail);
+}
+
+/// If the only name asked for is not found, nothing is created; if several are, the conference is.
 bool missesSeveral(const Detail &detail)
 {
     return detail.inviteDetail.notExistUsers.size() >= 2;
 }
 
-bool missesSeveralScheduled(const Detail &detail)
+bool isBookedWithoutSeveral(const Detail &detail)
 {
-    return missesSeveral(detail) && detail.isSchedule;
+    return isBooked(detail) && missesSeveral(detail);
 }
 
-QString verbOf(const CloudIntent &intent)
+QString verb(const Detail & /*detail*/, const CloudIntent &intent)
 {
     return SlotReader::firstText(intent, SlotName::Open, QStringLiteral("发起"));
 }
 
-QString missingNames(const Detail &detail)
+QString foundNames(const Detail &detail, const CloudIntent & /*intent*/)
+{
+    return MemberPhrases::joinedNames(detail.inviteDetail.normalUsers);
+}
+
+QString missingNames(const Detail &detail, const CloudIntent & /*intent*/)
 {
     return ContactUtils::vectorToString(detail.inviteDetail.notExistUsers);
 }
 
-QStringList verb(const Detail & /*detail*/, const CloudIntent &intent)
+QString choicePrompt(const Detail &detail, const CloudIntent & /*intent*/)
 {
-    return {verbOf(intent)};
+    return MemberPhrases::choicePrompt(detail.inviteDetail.notExistUsers);
 }
 
-QStringList missing(const Detail &detail, const CloudIntent & /*intent*/)
-{
-    return {missingNames(detail)};
-}
+// Among the rows of one code the first whose condition holds wins, so the narrow ones come first.
+constexpr ReplyTable<Detail> Outcomes = {
+    Say(ResultCode::Success, u"好的，现在为您%1视频会议。").with(verb).when(isImmediate),
+    Say(ResultCode::Success, u"好的，为您预约如下。").when(isBookedAndListed).afterCard(Create_Success),
+    Say(ResultCode::Success, u"好的，已成功为您预约。"),
 
-QStringList verbAndMissing(const Detail &detail, const CloudIntent &intent)
-{
-    return {verbOf(intent), missingNames(detail)};
-}
+    Say(ResultCode::NobodyFound, u"已为您预约视频会议，未找到%1。")
+        .with(missingNames)
+        .when(isBookedWithoutSeveral)
+        .afterCard(Create_Success),
+    Say(ResultCode::NobodyFound, u"已为您%1视频会议，未找到%2。")
+        .with(verb, missingNames)
+        .when(missesSeveral),
+    Say(ResultCode::NobodyFound, u"抱歉，没有找到该联系人。").when(isBooked),
+    Say(ResultCode::NobodyFound, u"抱歉,无法为您%1视频会议。").with(verb),
 
-QStringList foundAndMissing(const Detail &detail, const CloudIntent & /*intent*/)
-{
-    return {MemberPhrases::joinedNames(detail.inviteDetail.normalUsers), missingNames(detail)};
-}
+    Say(ResultCode::DuplicateNames, u"%1").with(choicePrompt).thenCard(Create_Duplicate),
 
-QStringList choicePrompt(const Detail &detail, const CloudIntent & /*intent*/)
-{
-    return {MemberPhrases::choicePrompt(detail.inviteDetail.notExistUsers)};
-}
+    Say(ResultCode::SomeNotFound, u"好的，已为您预约和%1的视频会议，未找到%2。")
+        .with(foundNames, missingNames)
+        .when(isBookedAndListed)
+        .afterCard(Create_Success),
+    Say(ResultCode::SomeNotFound, MemberPhrases::StartedWithSome).with(foundNames, missingNames),
 
-const QVector<ReplyRow<Detail>> &replies()
-{
-    using namespace ResultCode;
-    // Of the rows of one code the first whose condition holds is taken, so the narrow ones come first.
-    static const QVector<ReplyRow<Detail>> rows{
-        {Success, isImmediate, QStringLiteral("好的，现在为您%1视频会议。"), verb, TextOnly},
-        {Success, isScheduledAndListed, QStringLiteral("好的，为您预约如下。"), nullptr,
-         cardBeforeText(Create_Success)},
-        {Success, nullptr, QStringLiteral("好的，已成功为您预约。"), nullptr, TextOnly},
+    Say(ResultCode::MembersLimit, u"已为您预约视频会议，会议人数已达上限。").when(isBooked),
+    Say(ResultCode::MembersLimit, u"已为您%1视频会议，会议人数已达上限。").with(verb),
 
-        {NobodyFound, missesSeveralScheduled, QStringLiteral("已为您预约视频会议，未找到%1。"), missing,
-         cardBeforeText(Create_Success)},
-        {NobodyFound, missesSeveral, QStringLiteral("已为您%1视频会议，未找到%2。"), verbAndMissing,
-         TextOnly},
-        {NobodyFound, isScheduled, QStringLiteral("抱歉，没有找到该联系人。"), nullptr, TextOnly},
-        {NobodyFound, nullptr, QStringLiteral("抱歉,无法为您%1视频会议。"), verb, TextOnly},
+    Say(ResultCode::TimeOverlap, u"您已有重复时间会议。").when(isListed).thenCard(Create_TimeOverlap),
+    Say(ResultCode::TimeOverlap, u"您已有重复时间会议。"),
 
-        {DuplicateNames, nullptr, QStringLiteral("%1"), choicePrompt, cardAfterText(Create_Duplicate)},
-
-        {SomeNotFound, isScheduledAndListed, QStringLiteral("好的，已为您预约和%1的视频会议，未找到%2。"),
-         foundAndMissing, cardBeforeText(Create_Success)},
-        {SomeNotFound, nullptr, MemberPhrases::startedWithSome(), foundAndMissing, TextOnly},
-
-        {MembersLimit, isScheduled, QStringLiteral("已为您预约视频会议，会议人数已达上限。"), nullptr,
-         TextOnly},
-        {MembersLimit, nullptr, QStringLiteral("已为您%1视频会议，会议人数已达上限。"), verb, TextOnly},
-
-        {TimeOverlap, isListed, QStringLiteral("您已有重复时间会议。"), nullptr,
-         cardAfterText(Create_TimeOverlap)},
-        {TimeOverlap, nullptr, QStringLiteral("您已有重复时间会议。"), nullptr, TextOnly},
-
-        {PastTime, nullptr, QStringLiteral("抱歉，无法为您预约过去的视频会议。"), nullptr, TextOnly},
-        {InOtherConference, nullptr, QStringLiteral("正在会议中。"), nullptr, ThenConferenceList},
-        {TooFrequent, nullptr, QStringLiteral("抱歉，操作太频繁，请稍候重试。"), nullptr, TextOnly},
-    };
-    return rows;
-}
+    Say(ResultCode::PastTime, u"抱歉，无法为您预约过去的视频会议。"),
+    Say(ResultCode::InOtherConference, u"正在会议中。").thenConferenceList(),
+    Say(ResultCode::TooFrequent, u"抱歉，操作太频繁，请稍候重试。"),
+};
 
 } // namespace
-
-CreateConferenceIntent::CreateConferenceIntent(QObject *parent) : QObject(parent) {}
-
-int CreateConferenceIntent::action(const CloudIntent &intent)
-{
-    return handleCreateVideoMeeting(intent);
-}
 
 int CreateConferenceIntent::handleCreateVideoMeeting(const CloudIntent &intent)
 {
@@ -166,9 +144,8 @@ int CreateConferenceIntent::handleCreateVideoMeeting(const CloudIntent &intent)
 int CreateConferenceIntent::handleReply(int code, const CloudIntent &intent)
 {
     if (code == ResultCode::SomeNotFound) {
-        qInfo() << "strNormalUsers" << MemberPhrases::joinedNames(m_detail.inviteDetail.normalUsers)
-                << "strNotExistUsers" << missingNames(m_detail);
+        qInfo() << "strNormalUsers" << foundNames(m_detail, intent) << "strNotExistUsers"
+                << missingNames(m_detail, intent);
     }
-    ReplyTable::answer(code, replies(), m_detail, intent, *this);
-    return code;
+    return Replies::answer(code, Outcomes, m_detail, intent, *getReply());
 }

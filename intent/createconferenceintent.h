@@ -16,9 +16,9 @@ class CreateConferenceIntent : public QObject, public IReplyableIntent
 public:
     static constexpr const char *IntentName = "CREATE_CONFERENCE";
 
-    explicit CreateConferenceIntent(QObject *parent = nullptr);
+    explicit CreateConferenceIntent(QObject *parent = nullptr) : QObject(parent) {}
 
-    int action(const CloudIntent &intent) override;
+    int action(const CloudIntent &intent) override { return handleCreateVideoMeeting(intent); }
     int handleReply(int code, const CloudIntent &intent) override;
 
     virtual int handleCreateVideoMeeting(const CloudIntent &intent);

@@ -13,6 +13,11 @@ IBusinessIntent *DynamicRegisterIntentFactory::createIntent(const QString &name)
     return creator == m_creators.constEnd() ? nullptr : (*creator)();
 }
 
+QStringList DynamicRegisterIntentFactory::intentNames() const
+{
+    return m_creators.keys();
+}
+
 bool DynamicRegisterIntentFactory::registerIntent(const QString &name,
                                                   std::function<IBusinessIntent *()> creator)
 {

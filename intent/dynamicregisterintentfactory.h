@@ -7,6 +7,7 @@
 
 #include <QMap>
 #include <QObject>
+#include <QStringList>
 
 #include <functional>
 
@@ -23,6 +24,9 @@ public:
 
     /// Names are matched exactly, case included.
     IBusinessIntent *createIntent(const QString &name) override;
+
+    /// The names of all registered intents, sorted.
+    [[nodiscard]] QStringList intentNames() const;
 
     /// False when @p name is taken: the first registration wins.
     bool registerIntent(const QString &name, std::function<IBusinessIntent *()> creator);

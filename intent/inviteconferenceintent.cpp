@@ -3,62 +3,60 @@
 
 #include "inviteconferenceintent.h"
 
+#include "conferencecardinterface.h"
 #include "contactutils.h"
 #include "memberphrases.h"
 #include "replytable.h"
 #include "slotreader.h"
+#include "wire/resultcodes.h"
 
 #include <QDebug>
 
 namespace {
 
-bool someStillFit(const ContactInviteMemberDetail &detail)
+using Detail = ContactInviteMemberDetail;
+using Say = ReplyRow<Detail>;
+
+bool someStillFit(const Detail &detail)
 {
     return detail.canInviteNum > 0;
 }
 
-QStringList choicePrompt(const ContactInviteMemberDetail &detail, const CloudIntent & /*intent*/)
+QString choicePrompt(const Detail &detail, const CloudIntent & /*intent*/)
 {
-    return {MemberPhrases::choicePrompt(detail.notExistUsers)};
+    return MemberPhrases::choicePrompt(detail.notExistUsers);
 }
 
-QStringList foundAndMissing(const ContactInviteMemberDetail &detail, const CloudIntent & /*intent*/)
+QString foundNames(const Detail &detail, const CloudIntent & /*intent*/)
 {
-    return {MemberPhrases::joinedNames(detail.normalUsers),
-            ContactUtils::vectorToString(detail.notExistUsers)};
+    return MemberPhrases::joinedNames(detail.normalUsers);
 }
 
-QStringList remainingCount(const ContactInviteMemberDetail &detail, const CloudIntent & /*intent*/)
+QString missingNames(const Detail &detail, const CloudIntent & /*intent*/)
 {
-    return {QString::number(detail.canInviteNum)};
+    return ContactUtils::vectorToString(detail.notExistUsers);
 }
 
-const QVector<ReplyRow<ContactInviteMemberDetail>> &replies()
+QString remainingCount(const Detail &detail, const CloudIntent & /*intent*/)
 {
-    static const QVector<ReplyRow<ContactInviteMemberDetail>> rows{
-        {ResultCode::Success, nullptr, QStringLiteral("好的，已为您发出邀请。"), nullptr, TextOnly},
-        {ResultCode::NobodyFound, nullptr, QStringLiteral("抱歉，没有找到该联系人。"), nullptr, TextOnly},
-        {ResultCode::DuplicateNames, nullptr, QStringLiteral("%1"), choicePrompt,
-         cardAfterText(Invite_Duplicate)},
-        {ResultCode::SomeNotFound, nullptr, MemberPhrases::startedWithSome(), foundAndMissing, TextOnly},
-        {ResultCode::NoConference, nullptr, QStringLiteral("抱歉，您没有正在开始的视频会议。"), nullptr,
-         TextOnly},
-        // "[k1]" is part of what the host is given.
-        {ResultCode::MembersLimit, someStillFit, QStringLiteral("抱歉，您还可以邀请[k1]%1位成员。"),
-         remainingCount, cardAfterText(Invite_ExceedLimit)},
-        {ResultCode::MembersLimit, nullptr, QStringLiteral("抱歉，会议人数已达上限。"), nullptr, TextOnly},
-    };
-    return rows;
+    return QString::number(detail.canInviteNum);
 }
+
+constexpr ReplyTable<Detail> Outcomes = {
+    Say(ResultCode::Success, u"好的，已为您发出邀请。"),
+    Say(ResultCode::NobodyFound, u"抱歉，没有找到该联系人。"),
+    Say(ResultCode::DuplicateNames, u"%1").with(choicePrompt).thenCard(Invite_Duplicate),
+    Say(ResultCode::SomeNotFound, MemberPhrases::StartedWithSome).with(foundNames, missingNames),
+    Say(ResultCode::NoConference, u"抱歉，您没有正在开始的视频会议。"),
+    // "[k1]" is part of the text that the host expects.
+    Say(ResultCode::MembersLimit, u"抱歉，您还可以邀请[k1]%1位成员。")
+        .with(remainingCount)
+        .when(someStillFit)
+        .thenCard(Invite_ExceedLimit),
+    Say(ResultCode::MembersLimit, u"抱歉，会议人数已达上限。"),
+};
 
 } // namespace
-
-InviteConferenceIntent::InviteConferenceIntent(QObject *parent) : QObject(parent) {}
-
-int InviteConferenceIntent::action(const CloudIntent &intent)
-{
-    return handleInviteConference(intent);
-}
 
 int InviteConferenceIntent::handleInviteConference(const CloudIntent &intent)
 {
@@ -74,9 +72,8 @@ int InviteConferenceIntent::handleInviteConference(const CloudIntent &intent)
 int InviteConferenceIntent::handleReply(int code, const CloudIntent &intent)
 {
     if (code == ResultCode::SomeNotFound) {
-        qInfo() << "strNormalUsers" << MemberPhrases::joinedNames(m_detail.normalUsers) << "strNotExistUsers"
-                << ContactUtils::vectorToString(m_detail.notExistUsers);
+        qInfo() << "strNormalUsers" << foundNames(m_detail, intent) << "strNotExistUsers"
+                << missingNames(m_detail, intent);
     }
-    ReplyTable::answer(code, replies(), m_detail, intent, *this);
-    return code;
+    return Replies::answer(code, Outcomes, m_detail, intent, *getReply());
 }

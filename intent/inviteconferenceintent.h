@@ -16,9 +16,9 @@ class InviteConferenceIntent : public QObject, public IReplyableIntent
 public:
     static constexpr const char *IntentName = "INVITE_CONFERENCE";
 
-    explicit InviteConferenceIntent(QObject *parent = nullptr);
+    explicit InviteConferenceIntent(QObject *parent = nullptr) : QObject(parent) {}
 
-    int action(const CloudIntent &intent) override;
+    int action(const CloudIntent &intent) override { return handleInviteConference(intent); }
     int handleReply(int code, const CloudIntent &intent) override;
 
     virtual int handleInviteConference(const CloudIntent &intent);

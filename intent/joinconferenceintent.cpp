@@ -3,35 +3,27 @@
 
 #include "joinconferenceintent.h"
 
+#include "conferencecardinterface.h"
 #include "replytable.h"
 #include "slotreader.h"
+#include "wire/resultcodes.h"
 
 #include <QDebug>
 
 namespace {
 
-const QVector<ReplyRow<NoRecord>> &replies()
-{
-    static const QVector<ReplyRow<NoRecord>> rows{
-        {ResultCode::Success, nullptr, QStringLiteral("好的，您已成功加入会议。"), nullptr, TextOnly},
-        {ResultCode::NoConference, nullptr, QStringLiteral("会议还未开始。"), nullptr, TextOnly},
-        {ResultCode::ConferenceNotFound, nullptr, QStringLiteral("抱歉，未查询到视频会议。"), nullptr,
-         TextOnly},
-        {ResultCode::InOtherConference, nullptr, QStringLiteral("正在会议中。"), nullptr, ThenConferenceList},
-        {ResultCode::InvalidPasscode, nullptr, QStringLiteral("请输入密码:"), nullptr, TextOnly},
-        {ResultCode::ParticipantsFull, nullptr, QStringLiteral("会议人数已满。"), nullptr, TextOnly},
-    };
-    return rows;
-}
+using Say = ReplyRow<>;
+
+constexpr ReplyTable<> Outcomes = {
+    Say(ResultCode::Success, u"好的，您已成功加入会议。"),
+    Say(ResultCode::NoConference, u"会议还未开始。"),
+    Say(ResultCode::ConferenceNotFound, u"抱歉，未查询到视频会议。"),
+    Say(ResultCode::InOtherConference, u"正在会议中。").thenConferenceList(),
+    Say(ResultCode::InvalidPasscode, u"请输入密码:"),
+    Say(ResultCode::ParticipantsFull, u"会议人数已满。"),
+};
 
 } // namespace
-
-JoinConferenceIntent::JoinConferenceIntent(QObject *parent) : QObject(parent) {}
-
-int JoinConferenceIntent::action(const CloudIntent &intent)
-{
-    return handleJoinVideoMeeting(intent);
-}
 
 int JoinConferenceIntent::handleJoinVideoMeeting(const CloudIntent &intent)
 {
@@ -46,6 +38,5 @@ int JoinConferenceIntent::handleJoinVideoMeeting(const CloudIntent &intent)
 
 int JoinConferenceIntent::handleReply(int code, const CloudIntent &intent)
 {
-    ReplyTable::answer(code, replies(), NoRecord(), intent, *this);
-    return code;
+    return Replies::answer(code, Outcomes, intent, *getReply());
 }

@@ -17,9 +17,9 @@ public:
     /// The understanding service spells it so.
     static constexpr const char *IntentName = "ENETR_ID_CONFERENCE";
 
-    explicit JoinConferenceIntent(QObject *parent = nullptr);
+    explicit JoinConferenceIntent(QObject *parent = nullptr) : QObject(parent) {}
 
-    int action(const CloudIntent &intent) override;
+    int action(const CloudIntent &intent) override { return handleJoinVideoMeeting(intent); }
     int handleReply(int code, const CloudIntent &intent) override;
 
     virtual int handleJoinVideoMeeting(const CloudIntent &intent);

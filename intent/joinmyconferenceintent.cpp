@@ -3,33 +3,25 @@
 
 #include "joinmyconferenceintent.h"
 
+#include "conferencecardinterface.h"
 #include "replytable.h"
+#include "wire/resultcodes.h"
 
 namespace {
 
-const QVector<ReplyRow<ContactQueryConferenceDetail>> &replies()
-{
-    static const QVector<ReplyRow<ContactQueryConferenceDetail>> rows{
-        {ResultCode::Success, nullptr, QStringLiteral("好的，您已成功加入会议。"), nullptr, TextOnly},
-        {ResultCode::ConferenceNotFound, nullptr, QStringLiteral("抱歉，未查询到视频会议。"), nullptr,
-         TextOnly},
-        // The application answers so with the conferences that could be meant.
-        {ResultCode::TimeOverlap, nullptr, QStringLiteral("以下是您要参与的视频会议:"), nullptr,
-         cardAfterText(JoinMy_List)},
-        {ResultCode::InOtherConference, nullptr, QStringLiteral("正在会议中。"), nullptr, ThenConferenceList},
-        {ResultCode::InvalidPasscode, nullptr, QStringLiteral("请输入密码:"), nullptr, TextOnly},
-    };
-    return rows;
-}
+using Detail = ContactQueryConferenceDetail;
+using Say = ReplyRow<Detail>;
+
+constexpr ReplyTable<Detail> Outcomes = {
+    Say(ResultCode::Success, u"好的，您已成功加入会议。"),
+    Say(ResultCode::ConferenceNotFound, u"抱歉，未查询到视频会议。"),
+    // The answer lists the conferences that may be meant.
+    Say(ResultCode::TimeOverlap, u"以下是您要参与的视频会议:").thenCard(JoinMy_List),
+    Say(ResultCode::InOtherConference, u"正在会议中。").thenConferenceList(),
+    Say(ResultCode::InvalidPasscode, u"请输入密码:"),
+};
 
 } // namespace
-
-JoinMyConferenceIntent::JoinMyConferenceIntent(QObject *parent) : QObject(parent) {}
-
-int JoinMyConferenceIntent::action(const CloudIntent &intent)
-{
-    return handleJoinMyConference(intent);
-}
 
 int JoinMyConferenceIntent::handleJoinMyConference(const CloudIntent & /*intent*/)
 {
@@ -38,6 +30,5 @@ int JoinMyConferenceIntent::handleJoinMyConference(const CloudIntent & /*intent*
 
 int JoinMyConferenceIntent::handleReply(int code, const CloudIntent &intent)
 {
-    ReplyTable::answer(code, replies(), m_detail, intent, *this);
-    return code;
+    return Replies::answer(code, Outcomes, m_detail, intent, *getReply());
 }

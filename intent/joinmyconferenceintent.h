@@ -16,9 +16,9 @@ class JoinMyConferenceIntent : public QObject, public IReplyableIntent
 public:
     static constexpr const char *IntentName = "ENTER_MY_CONFERENCE";
 
-    explicit JoinMyConferenceIntent(QObject *parent = nullptr);
+    explicit JoinMyConferenceIntent(QObject *parent = nullptr) : QObject(parent) {}
 
-    int action(const CloudIntent &intent) override;
+    int action(const CloudIntent &intent) override { return handleJoinMyConference(intent); }
     int handleReply(int code, const CloudIntent &intent) override;
 
     virtual int handleJoinMyConference(const CloudIntent &intent);

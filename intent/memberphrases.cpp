@@ -23,8 +23,3 @@ QString MemberPhrases::choicePrompt(const QVector<QString> &notExistUsers)
     }
     return QStringLiteral("未找到%1，").arg(ContactUtils::vectorToString(notExistUsers)) + question;
 }
-
-QString MemberPhrases::startedWithSome()
-{
-    return QStringLiteral("好的，已为您发起和%1的视频会议，未找到%2。");
-}

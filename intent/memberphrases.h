@@ -5,6 +5,8 @@
 
 #include "conferencerecords.h"
 
+#include <QStringView>
+
 /// The phrases about matched and missing people that creating and inviting share.
 namespace MemberPhrases {
 
@@ -15,6 +17,6 @@ QString joinedNames(const QVector<UserInfo> &users);
 QString choicePrompt(const QVector<QString> &notExistUsers);
 
 /// %1 is who was found, %2 who was not. Inviting uses it too, although the conference runs already.
-QString startedWithSome();
+constexpr QStringView StartedWithSome = u"好的，已为您发起和%1的视频会议，未找到%2。";
 
 } // namespace MemberPhrases

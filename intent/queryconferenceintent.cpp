@@ -3,39 +3,31 @@
 
 #include "queryconferenceintent.h"
 
+#include "conferencecardinterface.h"
 #include "contactutils.h"
 #include "replytable.h"
 #include "slotreader.h"
+#include "wire/resultcodes.h"
 
 #include <QDebug>
 
 namespace {
 
-bool foundAny(const ContactQueryConferenceDetail &detail)
+using Detail = ContactQueryConferenceDetail;
+using Say = ReplyRow<Detail>;
+
+bool foundAny(const Detail &detail)
 {
     return !detail.conferences.isEmpty();
 }
 
-const QVector<ReplyRow<ContactQueryConferenceDetail>> &replies()
-{
-    static const QVector<ReplyRow<ContactQueryConferenceDetail>> rows{
-        {ResultCode::Success, foundAny, QStringLiteral("以下是您查询的视频会议:"), nullptr,
-         cardByItself(Query_List)},
-        {ResultCode::Success, nullptr, QStringLiteral("抱歉，未查询到视频会议。"), nullptr, TextOnly},
-        {ResultCode::ConferenceNotFound, nullptr, QStringLiteral("抱歉，未查询到视频会议。"), nullptr,
-         TextOnly},
-    };
-    return rows;
-}
+constexpr ReplyTable<Detail> Outcomes = {
+    Say(ResultCode::Success, u"以下是您查询的视频会议:").when(foundAny).thenUnannouncedCard(Query_List),
+    Say(ResultCode::Success, u"抱歉，未查询到视频会议。"),
+    Say(ResultCode::ConferenceNotFound, u"抱歉，未查询到视频会议。"),
+};
 
 } // namespace
-
-QueryConferenceIntent::QueryConferenceIntent(QObject *parent) : QObject(parent) {}
-
-int QueryConferenceIntent::action(const CloudIntent &intent)
-{
-    return handleQueryConference(intent);
-}
 
 int QueryConferenceIntent::handleQueryConference(const CloudIntent &intent)
 {
@@ -52,6 +44,5 @@ int QueryConferenceIntent::handleQueryConference(const CloudIntent &intent)
 
 int QueryConferenceIntent::handleReply(int code, const CloudIntent &intent)
 {
-    ReplyTable::answer(code, replies(), m_detail, intent, *this);
-    return code;
+    return Replies::answer(code, Outcomes, m_detail, intent, *getReply());
 }

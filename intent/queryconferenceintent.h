@@ -16,9 +16,9 @@ class QueryConferenceIntent : public QObject, public IReplyableIntent
 public:
     static constexpr const char *IntentName = "QUERY_CONFERENCE";
 
-    explicit QueryConferenceIntent(QObject *parent = nullptr);
+    explicit QueryConferenceIntent(QObject *parent = nullptr) : QObject(parent) {}
 
-    int action(const CloudIntent &intent) override;
+    int action(const CloudIntent &intent) override { return handleQueryConference(intent); }
     int handleReply(int code, const CloudIntent &intent) override;
 
     virtual int handleQueryConference(const CloudIntent &intent);

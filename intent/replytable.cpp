@@ -3,6 +3,9 @@
 
 #include "replytable.h"
 
+#include "conferencecardinterface.h"
+#include "wire/resultcodes.h"
+
 namespace {
 
 bool isCallFailure(int code)
@@ -10,7 +13,7 @@ bool isCallFailure(int code)
     return code >= ResultCode::CallFailedFirst && code <= ResultCode::CallFailedLast;
 }
 
-/// Null when the handlers answer @p code each in their own way.
+/// Null for a @p code that each handler answers in its own way.
 QString sharedText(int code)
 {
     if (isCallFailure(code)) {
@@ -34,7 +37,7 @@ int contentType(Companion::Kind kind)
 
 } // namespace
 
-bool ReplyTable::giveSharedReply(int code, Reply &reply)
+bool Replies::giveShared(int code, Reply &reply)
 {
     const QString text = sharedText(code);
     if (text.isNull()) {
@@ -44,28 +47,16 @@ bool ReplyTable::giveSharedReply(int code, Reply &reply)
     return true;
 }
 
-QString ReplyTable::filled(const QString &text, const QStringList &arguments)
-{
-    switch (arguments.size()) {
-    case 0:
-        return text;
-    case 1:
-        return text.arg(arguments.at(0));
-    default:
-        return text.arg(arguments.at(0), arguments.at(1));
-    }
-}
-
-void ReplyTable::give(int code, const QString &text, const Companion &companion, const QVariant &payload,
-                      IReplyableIntent &handler)
+void Replies::give(int code, const QString &text, const Companion &companion, const QVariant &record,
+                   Reply &reply)
 {
     ConferenceCardInterface *gateway = ConferenceCardInterface::instance();
     if (companion.kind == Companion::CardBeforeText) {
-        gateway->noticeSentActionSignals(companion.card, payload, handler.getReply());
+        gateway->noticeSentActionSignals(companion.card, record, &reply);
     }
-    handler.getReply()->update(code, text, contentType(companion.kind));
-    if (companion.kind == Companion::CardAfterText || companion.kind == Companion::CardByItself) {
-        gateway->noticeSentActionSignals(companion.card, payload, handler.getReply());
+    reply.update(code, text, contentType(companion.kind));
+    if (companion.kind == Companion::CardAfterText || companion.kind == Companion::UnannouncedCard) {
+        gateway->noticeSentActionSignals(companion.card, record, &reply);
     }
     if (companion.kind == Companion::ConferenceList) {
         gateway->openConferenceList();

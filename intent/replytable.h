@@ -3,95 +3,46 @@
 
 #pragma once
 
-#include "conferencecardinterface.h"
 #include "ireplyableintent.h"
-#include "signalactiontype.h"
-#include "wire/resultcodes.h"
+#include "replyrow.h"
 
-#include <QStringList>
-#include <QVector>
+#include <QVariant>
 
-/// The record of a handler that has none.
-struct NoRecord
-{
-};
-Q_DECLARE_METATYPE(NoRecord)
+/// Turns result codes into replies.
+namespace Replies {
 
-/// What a reply brings beside its texts.
-struct Companion
-{
-    enum Kind {
-        Nothing,
-        CardBeforeText, ///< the card is attached, then the text replaces code, texts and type
-        CardAfterText,
-        CardByItself,   ///< after the text, which does not announce it: the card adds its bit to the type
-        ConferenceList, ///< the contacts application shows its own list
-    };
+/// Gives the reply to an outcome that all handlers share: the call failed or timed out, nobody is logged in.
+/// False for any other @p code.
+bool giveShared(int code, Reply &reply);
 
-    Kind kind = Nothing;
-    int card = 0; ///< a SignalActionType
-};
-
-constexpr Companion TextOnly{};
-constexpr Companion ThenConferenceList{Companion::ConferenceList};
-
-constexpr Companion cardBeforeText(SignalActionType card)
-{
-    return {Companion::CardBeforeText, card};
-}
-
-constexpr Companion cardAfterText(SignalActionType card)
-{
-    return {Companion::CardAfterText, card};
-}
-
-constexpr Companion cardByItself(SignalActionType card)
-{
-    return {Companion::CardByItself, card};
-}
+/// Sets @p reply and announces the card, carrying @p record, that goes with it.
+void give(int code, const QString &text, const Companion &companion, const QVariant &record, Reply &reply);
 
 /**
- * One outcome of a request and what the user is told then. The first row wins whose code is the outcome's and
- * whose condition holds; an outcome without a row leaves the reply as it was.
+ * Gives the shared reply to @p code, or else the one of the first row of @p table that matches; leaves
+ * @p reply alone if there is none.
+ * @return @p code, as handleReply() does.
  */
 template <typename Record>
-struct ReplyRow
+int answer(int code, const ReplyTable<Record> &table, const Record &record, const CloudIntent &intent,
+           Reply &reply)
 {
-    int code;
-    bool (*holds)(const Record &record); ///< null: always
-    QString text;                        ///< with %1, %2 for the arguments
-    QStringList (*arguments)(const Record &record, const CloudIntent &intent); ///< null: none
-    Companion companion;
-};
-
-namespace ReplyTable {
-
-/// Answers the outcomes that every handler answers alike. False when @p code is none of them.
-bool giveSharedReply(int code, Reply &reply);
-
-/// @p text with its %1 and %2 replaced in one go, so that a name that contains "%2" stays as it is.
-QString filled(const QString &text, const QStringList &arguments);
-
-/// Updates the handler's reply for @p code and announces the card, with @p payload, that goes with it.
-void give(int code, const QString &text, const Companion &companion, const QVariant &payload,
-          IReplyableIntent &handler);
-
-/// Answers @p code from the shared outcomes or else from @p rows.
-template <typename Record>
-void answer(int code, const QVector<ReplyRow<Record>> &rows, const Record &record, const CloudIntent &intent,
-            IReplyableIntent &handler)
-{
-    if (giveSharedReply(code, *handler.getReply())) {
-        return;
+    if (giveShared(code, reply)) {
+        return code;
     }
-    for (const ReplyRow<Record> &row : rows) {
-        if (row.code == code && (row.holds == nullptr || row.holds(record))) {
-            const QStringList arguments =
-                row.arguments == nullptr ? QStringList() : row.arguments(record, intent);
-            give(code, filled(row.text, arguments), row.companion, QVariant::fromValue(record), handler);
-            return;
+    for (const ReplyRow<Record> &row : table) {
+        if (row.matches(code, record)) {
+            give(code, row.text(record, intent), row.companion(), QVariant::fromValue(record), reply);
+            break;
         }
     }
+    return code;
 }
 
-} // namespace ReplyTable
+/// For handlers without a record.
+inline int answer(int code, const ReplyTable<> &table, const CloudIntent &intent, Reply &reply)
+{
+    return answer(code, table, NoRecord(), intent, reply);
+}
+
+} // namespace Replies

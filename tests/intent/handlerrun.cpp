@@ -9,8 +9,6 @@
 #include <QJsonObject>
 #include <QTest>
 
-#include <limits>
-
 namespace {
 
 Expected withCard(int code, const char *text, Expected::CardOrder order, int card)
@@ -147,21 +145,6 @@ Expected untouched()
     Expected expected;
     expected.code = -1;
     return expected;
-}
-
-void addCodesWithoutReply(const QVector<int> &answered)
-{
-    QTest::addColumn<int>("code");
-    QVector<int> codes{
-        1, 5, -10000, -16000, -16022, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()};
-    for (int code = -16001; code >= -16021; --code) {
-        codes.append(code);
-    }
-    for (const int code : qAsConst(codes)) {
-        if (!answered.contains(code)) {
-            QTest::newRow(QByteArray::number(code).constData()) << code;
-        }
-    }
 }
 
 void compareRun(const HandlerRun &run, const Expected &expected)

@@ -92,8 +92,5 @@ Expected cardAddedToTexts(int code, const char *text, int card);
 /// The reply as the constructor made it.
 Expected untouched();
 
-/// A column "code" with every result code that is not among @p answered, and some that nobody uses.
-void addCodesWithoutReply(const QVector<int> &answered);
-
 /// Fails the running test unless @p run ended as @p expected.
 void compareRun(const HandlerRun &run, const Expected &expected);

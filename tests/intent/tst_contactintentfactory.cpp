@@ -11,6 +11,7 @@
 #include "queryconferenceintent.h"
 #include "semantic/semantic.h"
 
+#include <QFile>
 #include <QTest>
 
 #include <memory>
@@ -46,6 +47,8 @@ class TestContactIntentFactory : public QObject
 private Q_SLOTS:
     void eachNameHasItsHandler_data();
     void eachNameHasItsHandler();
+    void eachHandlerHasATableOfOutcomes_data();
+    void eachHandlerHasATableOfOutcomes();
     void otherNamesHaveNone_data();
     void otherNamesHaveNone();
     void eachCallMakesAnObject();
@@ -91,6 +94,31 @@ void TestContactIntentFactory::eachNameHasItsHandler()
     auto *object = dynamic_cast<QObject *>(handler.get());
     QVERIFY(object != nullptr);
     QVERIFY(object->parent() == nullptr);
+}
+
+void TestContactIntentFactory::eachHandlerHasATableOfOutcomes_data()
+{
+    QTest::addColumn<QString>("name");
+    const QStringList names = ContactIntentFactory::instance()->intentNames();
+    QVERIFY(!names.isEmpty());
+    for (const QString &name : names) {
+        QTest::newRow(qPrintable(name)) << name;
+    }
+}
+
+/// A handler's test carries its table: HandlerTest has no default for it. All such tests are built and run.
+void TestContactIntentFactory::eachHandlerHasATableOfOutcomes()
+{
+    QFETCH(const QString, name);
+    const std::unique_ptr<IBusinessIntent> handler(ContactIntentFactory::instance()->createIntent(name));
+    const auto *object = dynamic_cast<QObject *>(handler.get());
+    QVERIFY(object != nullptr);
+    const QString className = QString::fromLatin1(object->metaObject()->className());
+    QFile test(QStringLiteral(CONTACT_SOURCE_DIR "/tests/intent/tst_%1.cpp").arg(className.toLower()));
+    QVERIFY2(test.open(QIODevice::ReadOnly), qPrintable(test.fileName()));
+    const QString source = QString::fromUtf8(test.readAll());
+    QVERIFY(source.contains(QStringLiteral("class Test%1 : public HandlerTest").arg(className)));
+    QVERIFY(source.contains(QStringLiteral("make<%1>").arg(className)));
 }
 
 void TestContactIntentFactory::otherNamesHaveNone_data()

@@ -4,8 +4,7 @@
 #include "queryconferenceintent.h"
 
 #include "conferencerecords.h"
-#include "handlerrun.h"
-#include "logcapture.h"
+#include "handlertest.h"
 #include "signalactiontype.h"
 #include "sourcerecords.h"
 
@@ -15,111 +14,71 @@ namespace {
 
 const char UsualSlots[] = "[{'name':'datetime','value':'{\\\"suggestDatetime\\\":\\\"2026-03-08\\\"}'}]";
 
+class Replaced : public QueryConferenceIntent
+{
+public:
+    using QueryConferenceIntent::QueryConferenceIntent;
+    int handleQueryConference(const CloudIntent & /*intent*/) override { return 77; }
+};
+
 } // namespace
 
-class TestQueryConferenceIntent : public QObject
+class TestQueryConferenceIntent : public HandlerTest
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init() { m_log.reset(new LogCapture(LogCapture::Unexpected::Passes)); }
-    void cleanup() { m_log.reset(); }
+public:
+    TestQueryConferenceIntent()
+        : HandlerTest({make<QueryConferenceIntent>, make<Replaced>, "Search Conference", UsualSlots})
+    {
+    }
 
-    void eachOutcomeHasItsReply_data();
-    void eachOutcomeHasItsReply();
-    void eachOtherCodeLeavesTheReply_data();
-    void eachOtherCodeLeavesTheReply();
-    void requestHoldsWhatWasSaid_data();
-    void requestHoldsWhatWasSaid();
+protected:
+    [[nodiscard]] QVector<Outcome> outcomes() const override;
+    [[nodiscard]] QVector<Request> requests() const override;
+
+private Q_SLOTS:
     void withoutATimeItIsSentAllTheSame();
     void successWithoutAnyIsAnsweredAsNotFound();
     void cardCarriesTheRecord();
-    void subclassReplacesTheWorker();
-
-private:
-    std::unique_ptr<LogCapture> m_log;
 };
 
-void TestQueryConferenceIntent::eachOutcomeHasItsReply_data()
+QVector<HandlerTest::Outcome> TestQueryConferenceIntent::outcomes() const
 {
-    QTest::addColumn<Script>("script");
-    QTest::addColumn<Expected>("expected");
-    const auto row = [](const char *name, const Script &script, const Expected &expected) {
-        QTest::newRow(name) << script << expected;
+    return {
+        {"found one", answers("{'ret':'OK','list':[{'confId':'c1'}]}"),
+         cardAddedToTexts(0, "以下是您查询的视频会议:", Query_List)},
+        {"found two", answers("{'ret':'OK','list':[{'confId':'c1'},{'confId':'c2'}]}"),
+         cardAddedToTexts(0, "以下是您查询的视频会议:", Query_List)},
+        {"an empty list counts as not found", answers("{'ret':'OK','list':[]}"),
+         texts(-16007, "抱歉，未查询到视频会议。")},
+        {"not found", answers("{'ret':'Not Found'}"), texts(-16007, "抱歉，未查询到视频会议。")},
+        {"unknown outcome word", answers("{'ret':'Perhaps'}"), untouched()},
     };
-
-    row("found one", answers("{'ret':'OK','list':[{'confId':'c1'}]}"),
-        cardAddedToTexts(0, "以下是您查询的视频会议:", Query_List));
-    row("found two", answers("{'ret':'OK','list':[{'confId':'c1'},{'confId':'c2'}]}"),
-        cardAddedToTexts(0, "以下是您查询的视频会议:", Query_List));
-    row("an empty list counts as not found", answers("{'ret':'OK','list':[]}"),
-        texts(-16007, "抱歉，未查询到视频会议。"));
-    row("not found", answers("{'ret':'Not Found'}"), texts(-16007, "抱歉，未查询到视频会议。"));
-    row("unknown outcome word", answers("{'ret':'Perhaps'}"), untouched());
-    row("malformed answer", answers("["), untouched());
-    row("not logged in", answers("{'ret':'User Not Login'}"), texts(-16017, "已为您打开联系人。"));
-    row("timed out", callFails(-16020), texts(-16020, "抱歉，请求响应超时。"));
-    row("the call failed, first code", callFails(-1), texts(-1, "已尝试执行，但操作失败，请稍后重试。"));
-    row("the call failed, last code", callFails(-9999), texts(-9999, "已尝试执行，但操作失败，请稍后重试。"));
-    row("just below the failures of the call", callFails(-10000), untouched());
-    row("a positive code of the call", callFails(5), untouched());
 }
 
-void TestQueryConferenceIntent::eachOutcomeHasItsReply()
+QVector<HandlerTest::Request> TestQueryConferenceIntent::requests() const
 {
-    QFETCH(const Script, script);
-    QFETCH(const Expected, expected);
-    compareRun(runHandler(new QueryConferenceIntent(nullptr), intentWith(UsualSlots), script), expected);
-}
-
-void TestQueryConferenceIntent::eachOtherCodeLeavesTheReply_data()
-{
-    addCodesWithoutReply({0, -16007, -16017, -16020});
-}
-
-void TestQueryConferenceIntent::eachOtherCodeLeavesTheReply()
-{
-    QFETCH(const int, code);
-    compareRun(replyOf(new QueryConferenceIntent(nullptr), code), untouched());
-}
-
-void TestQueryConferenceIntent::requestHoldsWhatWasSaid_data()
-{
-    QTest::addColumn<QString>("slotArray");
-    QTest::addColumn<QString>("parameters");
-    const auto row = [](const char *name, const char *slotArray, const char *parameters) {
-        QTest::newRow(name) << QString::fromUtf8(slotArray) << QString::fromUtf8(parameters);
+    return {
+        {"a day", UsualSlots, R"({"endTime":1772985600000,"startTime":1772899200000})"},
+        {"a time",
+         "[{'name':'datetime','normValue':'{\\\"suggestDatetime\\\":\\\"2026-03-08T10:00:00\\\"}'}]",
+         R"({"endTime":1772985600000,"startTime":1772935200000})"},
+        {"the first time counts",
+         "[{'name':'datetime','value':'{\\\"suggestDatetime\\\":\\\"2026-03-08\\\"}'},{'name':'datetime','"
+         "value':'{\\\"suggestDatetime\\\":\\\"2026-03-09\\\"}'}]",
+         R"({"endTime":1772985600000,"startTime":1772899200000})"},
+        {"no time is everything from now on", "[]", ""},
     };
-
-    row("a day", UsualSlots, R"({"endTime":1772985600000,"startTime":1772899200000})");
-    row("a time", "[{'name':'datetime','normValue':'{\\\"suggestDatetime\\\":\\\"2026-03-08T10:00:00\\\"}'}]",
-        R"({"endTime":1772985600000,"startTime":1772935200000})");
-    row("the first time counts",
-        "[{'name':'datetime','value':'{\\\"suggestDatetime\\\":\\\"2026-03-08\\\"}'},{'name':'datetime','"
-        "value':'{\\\"suggestDatetime\\\":\\\"2026-03-09\\\"}'}]",
-        R"({"endTime":1772985600000,"startTime":1772899200000})");
-    row("no time is everything from now on", "[]", "");
-}
-
-void TestQueryConferenceIntent::requestHoldsWhatWasSaid()
-{
-    QFETCH(const QString, slotArray);
-    QFETCH(const QString, parameters);
-    const HandlerRun run = runHandler(new QueryConferenceIntent(nullptr),
-                                      intentWith(slotArray.toUtf8().constData()), answers("{'ret':'OK'}"));
-    QCOMPARE(run.requests.size(), 1);
-    QCOMPARE(run.requests.first().action, QStringLiteral("Search Conference"));
-    QCOMPARE(run.requests.first().parameters, parameters);
 }
 
 void TestQueryConferenceIntent::withoutATimeItIsSentAllTheSame()
 {
-    const HandlerRun run =
-        runHandler(new QueryConferenceIntent(nullptr), intentWith(), answers("{'ret':'Not Found'}"));
+    const HandlerRun run = runWith(answers("{'ret':'Not Found'}"), "[]");
     compareRun(run, texts(-16007, "抱歉，未查询到视频会议。"));
     QCOMPARE(run.requests.size(), 1);
     compareRecords(
-        *m_log, "intent/queryconferenceintent.cpp",
+        log(), "intent/queryconferenceintent.cpp",
         {{QtWarningMsg, QStringLiteral("Query Conference must contain slot:  datetime"),
           QStringLiteral("virtual int QueryConferenceIntent::handleQueryConference(const CloudIntent&)")}});
 }
@@ -132,23 +91,11 @@ void TestQueryConferenceIntent::successWithoutAnyIsAnsweredAsNotFound()
 
 void TestQueryConferenceIntent::cardCarriesTheRecord()
 {
-    const HandlerRun run = runHandler(new QueryConferenceIntent(nullptr), intentWith(UsualSlots),
-                                      answers("{'ret':'OK','list':[{'confId':'c1'},{'confId':'c2'}]}"));
+    const HandlerRun run = runWith(answers("{'ret':'OK','list':[{'confId':'c1'},{'confId':'c2'}]}"));
     QCOMPARE(run.cards.size(), 1);
     const auto record = run.cards.first().payload.value<ContactQueryConferenceDetail>();
     QCOMPARE(record.conferences.size(), 2);
     QCOMPARE(record.conferences.first().confId, QStringLiteral("c1"));
-}
-
-void TestQueryConferenceIntent::subclassReplacesTheWorker()
-{
-    class Replaced : public QueryConferenceIntent
-    {
-    public:
-        int handleQueryConference(const CloudIntent & /*intent*/) override { return 77; }
-    };
-    Replaced handler;
-    QCOMPARE(static_cast<IBusinessIntent &>(handler).action(intentWith()), 77);
 }
 
 QTEST_GUILESS_MAIN(TestQueryConferenceIntent)

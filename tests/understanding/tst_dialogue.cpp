@@ -123,6 +123,22 @@ private Q_SLOTS:
              "ENETR_ID_CONFERENCE id=123456 password=8888"});
         row("other replies open nothing",
             {"加入会议123456", "ENETR_ID_CONFERENCE id=123456", "!other", "8888", "? not-understood"});
+        row("a doubtful end is asked about, and 好 ends the conference",
+            {"会议结束了", "? confirm-close", "好的", "CLOSE_CONFERENCE", "好的", "? not-understood"});
+        row("退出 says yes to the end", {"散会了", "? confirm-close", "退出吧", "CLOSE_CONFERENCE"});
+        row("不 keeps the conference",
+            {"会议结束了", "? confirm-close", "不是", "? cancelled", "好", "? not-understood"});
+        row("what is neither yes nor no does nothing",
+            {"会议结束了", "? confirm-close", "今天天气不错", "? confirm-close", "哈哈", "? confirm-close",
+             "好像吧", "? given-up", "好", "? not-understood"});
+        row("a doubtful conference keeps its people and its time",
+            {"张伟明天三点开会", "? confirm-create-then", "对",
+             "CREATE_CONFERENCE open=开 name=张伟 datetime=2026-03-08T15:00"});
+        row("a command ends the doubt", {"会议结束了", "? confirm-close", "加入会议123456",
+                                         "ENETR_ID_CONFERENCE id=123456", "好", "? not-understood"});
+        row("a negation asks nothing", {"别把会议关掉", "? not-meant", "好", "? not-understood"});
+        row("somebody else's doing asks nothing", {"他结束了会议", "? not-meant", "好", "? not-understood"});
+
         row("a password is only asked for after joining",
             {"结束会议", "CLOSE_CONFERENCE", "!unexpected", "8888", "? not-understood"});
     }

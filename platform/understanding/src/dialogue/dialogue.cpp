@@ -6,6 +6,7 @@
 #include "dialogue/answerreader.h"
 #include "dialogue/answers.h"
 #include "dialogue/semanticwriter.h"
+#include "dialogue/yesno.h"
 #include "meaning/interpreter.h"
 #include "words/contactindex.h"
 
@@ -50,6 +51,7 @@ public:
     QString close(const char *answer);
     QString reply(const Outcome &outcome, const TimeExpression &time);
     bool startsSomethingNew(const Outcome &fresh) const;
+    QString answerConfirmation(const Reading &reading, const Outcome &fresh);
     QString answerQuestion(const Reading &reading, const Outcome &fresh, const QDateTime &now);
     void askForPassword();
 
@@ -112,11 +114,29 @@ bool Dialogue::Private::startsSomethingNew(const Outcome &fresh) const
     return fresh.isCommand() || fresh.intent != question.outcome.intent;
 }
 
+/// Only a plain yes carries out what was in doubt.
+QString Dialogue::Private::answerConfirmation(const Reading &reading, const Outcome &fresh)
+{
+    switch (readYesNo(reading.sentence())) {
+    case YesNo::Yes:
+        question.outcome.answer.clear();
+        return carryOut(Outcome(question.outcome));
+    case YesNo::No:
+        return close("cancelled");
+    case YesNo::Unclear:
+        break;
+    }
+    return fresh.intent.isEmpty() ? askAgain() : reply(fresh, reading.time());
+}
+
 QString Dialogue::Private::answerQuestion(const Reading &reading, const Outcome &fresh, const QDateTime &now)
 {
     Outcome answered = question.outcome;
     const QString asked = answered.answer;
     answered.answer.clear();
+    if (asked.startsWith(QLatin1String("confirm-"))) {
+        return answerConfirmation(reading, fresh);
+    }
     const bool taken = asked != tooManyPasswords && takeAnswer(asked, reading, now, question.time, answered);
     if (!taken) {
         if (startsSomethingNew(fresh)) {
@@ -168,7 +188,8 @@ QString Dialogue::turn(const QString &sentence, const QDateTime &now)
     if (!d->question.isOpen()) {
         return d->reply(fresh, reading.time());
     }
-    if (isGiveUp(reading)) {
+    const bool toConfirm = d->question.outcome.answer.startsWith(QLatin1String("confirm-"));
+    if (isGiveUp(reading) && !(toConfirm && readYesNo(reading.sentence()) == YesNo::Yes)) {
         return d->close("cancelled");
     }
     return d->answerQuestion(reading, fresh, now);

@@ -3,6 +3,7 @@
 
 #include "meaning/interpreter.h"
 
+#include "meaning/gate.h"
 #include "meaning/intentrules.h"
 #include "time/timeresolver.h"
 
@@ -103,15 +104,28 @@ constexpr struct
     void (*fill)(Outcome &, const Reading &, const QDateTime &);
     const char *required;
     const char *question;
+    const char *confirmation;
 } intentTable[] = {
-    {CreateConference, fillConference, nullptr, nullptr},
-    {InviteConference, fillInvitation, NameSlot, "whom-to-invite"},
-    {EnterConferenceById, fillNumber, IdSlot, "which-conference"},
-    {EnterMyConference, fillNothing, nullptr, nullptr},
-    {CloseConference, fillNothing, nullptr, nullptr},
-    {QueryConference, fillSaidTime, nullptr, nullptr},
-    {AddBuddy, fillAccount, AccountSlot, "whom-to-add"},
+    {CreateConference, fillConference, nullptr, nullptr, "confirm-create"},
+    {InviteConference, fillInvitation, NameSlot, "whom-to-invite", "confirm-invite"},
+    {EnterConferenceById, fillNumber, IdSlot, "which-conference", "confirm-join"},
+    {EnterMyConference, fillNothing, nullptr, nullptr, "confirm-join-mine"},
+    {CloseConference, fillNothing, nullptr, nullptr, "confirm-close"},
+    {QueryConference, fillSaidTime, nullptr, nullptr, "confirm-query"},
+    {AddBuddy, fillAccount, AccountSlot, "whom-to-add", "confirm-add"},
 };
+
+QString confirmation(const Outcome &outcome)
+{
+    for (const auto &row : intentTable) {
+        if (outcome.intent == QLatin1String(row.intent)) {
+            const bool later =
+                outcome.intent == QLatin1String(CreateConference) && outcome.hasSlot(DatetimeSlot);
+            return later ? QStringLiteral("confirm-create-then") : QString(QLatin1String(row.confirmation));
+        }
+    }
+    return {};
+}
 
 } // namespace
 
@@ -154,6 +168,11 @@ Outcome interpret(const Reading &reading, const QDateTime &now)
         outcome.answer = decision.mid(2);
         return outcome;
     }
+    const Verdict verdict = judge(reading, decision);
+    if (verdict == Verdict::Refuse) {
+        outcome.answer = QStringLiteral("not-meant");
+        return outcome;
+    }
     outcome.intent = decision;
     for (const auto &row : intentTable) {
         if (outcome.intent == QLatin1String(row.intent)) {
@@ -162,6 +181,9 @@ Outcome interpret(const Reading &reading, const QDateTime &now)
     }
     if (outcome.answer.isEmpty()) {
         outcome.answer = missingSlotQuestion(outcome);
+    }
+    if (outcome.answer.isEmpty() && verdict == Verdict::Ask) {
+        outcome.answer = confirmation(outcome);
     }
     return outcome;
 }

@@ -23,6 +23,7 @@ Reading::Reading(const QString &sentence, const ContactIndex &contacts) : m_sent
     m_tokens = tokenize(m_sentence.text(), contacts);
     settleWords(m_sentence.text(), m_tokens);
     m_names = findNames(m_sentence.raw(), m_sentence.text(), m_tokens);
+    markNames();
     collectClasses();
     collectTimes();
     collectNumbers();
@@ -34,15 +35,29 @@ Said Reading::part(int position, int length, const QString &normValue) const
     return {position, length, m_sentence.rawPart(position, length), normValue};
 }
 
+void Reading::markNames()
+{
+    auto name = m_names.cbegin();
+    for (Token &token : m_tokens) {
+        while (name != m_names.cend() && name->position + name->said.size() <= token.position) {
+            ++name;
+        }
+        token.inName = name != m_names.cend() && name->start < token.end();
+    }
+}
+
+bool Reading::isCalledAt(int position) const
+{
+    const auto behind = std::upper_bound(m_names.cbegin(), m_names.cend(), position,
+                                         [](int at, const FoundName &name) { return at < name.start; });
+    return behind != m_names.cbegin() && (behind - 1)->behindTrigger;
+}
+
 void Reading::collectClasses()
 {
     for (const Token &token : m_tokens) {
         // 关羽 closes nothing.
-        const bool inName =
-            token.length == 1 && std::any_of(m_names.cbegin(), m_names.cend(), [&](const FoundName &name) {
-                return token.position >= name.position && token.end() <= name.position + name.said.size();
-            });
-        if (!token.inTopic && !inName) {
+        if (!token.inTopic && !(token.inName && token.length == 1)) {
             m_classes.add(token.classes);
         }
     }

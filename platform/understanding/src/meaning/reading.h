@@ -44,12 +44,16 @@ public:
     const TimeExpression &time() const { return m_time; }
     int timeCount() const { return m_timeCount; }
 
+    /// True where a name stands that a word calls (叫上), not only mentions.
+    bool isCalledAt(int position) const;
+
     /// True for a class of word that stands outside of what the conference is about.
     bool has(WordClass wordClass) const { return m_classes.has(wordClass); }
 
 private:
     Said part(int position, int length, const QString &normValue) const;
     Said digitsOf(const Token &token) const;
+    void markNames();
     void collectClasses();
     void collectTimes();
     void collectNumbers();

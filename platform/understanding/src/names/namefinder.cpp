@@ -3,6 +3,7 @@
 
 #include "names/namefinder.h"
 
+#include "names/headreader.h"
 #include "names/namelook.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
@@ -67,7 +68,8 @@ private:
 
     void addKnown(const Token &token, bool called)
     {
-        m_names.push_back({token.position, m_raw.mid(token.position, token.length), token.name, called});
+        m_names.push_back(
+            {token.position, token.position, m_raw.mid(token.position, token.length), token.name, called});
     }
 
     void addUnknown(int position, const QString &normal, bool called)
@@ -75,10 +77,15 @@ private:
         int at = position;
         const QStringList names = splitNames(normal);
         for (const QString &name : names) {
-            const QString said = m_raw.mid(at, name.size());
-            m_names.push_back({at, said, said, called});
+            addOne(at, name.size(), called);
             at += name.size();
         }
+    }
+
+    void addOne(int position, int length, bool called)
+    {
+        const QString said = m_raw.mid(position, length);
+        m_names.push_back({position, position, said, said, called});
     }
 
     /// The name between @p start and @p end, without what surrounds it.
@@ -86,19 +93,24 @@ private:
     {
         const QString chunk = m_text.mid(start, end - start);
         QString name = withoutParticles(chunk);
-        // 研发部的赵云 is 赵云.
-        const int of = name.lastIndexOf(QChar(u'的'));
-        if (of >= 0 && of + 2 < name.size()) {
-            name = name.mid(of + 1);
-        }
+        const int modifier = modifierLength(name);
+        name = withoutParticles(name.mid(modifier));
         if (name.size() < 2 || name.size() > LongestName || (mustLookLikeName && !looksLikeName(name))) {
             return;
         }
         if (Lexicon::instance().classesOf(name).has(WordClass::Nobody)) {
             return;
         }
-        const int offset = chunk.indexOf(name);
-        addUnknown(start + offset, name, called);
+        const int offset = chunk.lastIndexOf(name);
+        const std::size_t before = m_names.size();
+        if (modifier > 0 && isPersonsName(name)) {
+            addOne(start + offset, name.size(), called);
+        } else {
+            addUnknown(start + offset, name, called);
+        }
+        if (m_names.size() > before) {
+            m_names[before].start = start;
+        }
     }
 
     /// 赵云和...: who stands left of 和.
@@ -235,23 +247,101 @@ private:
             if (token.kind == Token::Kind::Name) {
                 at = takeKnownName(at);
             } else if (token.kind == Token::Kind::Latin) {
-                addUnknown(token.position, m_text.mid(token.position, token.length), true);
+                at = takeLatinName(at);
             } else if (token.kind == Token::Kind::Other || isSmallWordInName(at)) {
-                std::size_t last = lastOfRun(at, m_tokens.size());
-                if (last + 1 < m_tokens.size() && m_tokens[last + 1].is(WordClass::Title)) { // 张主任
-                    ++last;
-                }
-                addChunk(token.position, m_tokens[last].end(), mustLookLikeName || afterComma, true);
-                at = last;
+                at = takeRun(at, mustLookLikeName || afterComma || followsName(at));
             } else if (token.is(WordClass::Punctuation) && m_text.at(token.position) == QLatin1Char(',')) {
                 afterComma = true;
-            } else if (!token.isAny(WordClass::Separator | WordClass::Nobody) &&
+            } else if (!token.isAny(WordClass::Separator | WordClass::Nobody) && !isOwner(at) &&
                        token.kind != Token::Kind::Space) {
                 break;
             }
             ++at;
         }
         return at;
+    }
+
+    /// 叫上王磊去打球: what follows a name at once has to look like one.
+    bool followsName(std::size_t at) const
+    {
+        return !m_names.empty() &&
+               m_names.back().position + m_names.back().said.size() == m_tokens[at].position;
+    }
+
+    /// 我的 in 和我的同事李静.
+    bool isOwner(std::size_t at) const
+    {
+        return m_tokens[at].is(WordClass::Mine) && at + 1 < m_tokens.size() &&
+               (m_tokens[at + 1].is(WordClass::Nobody) || m_tokens[at + 1].kind == Token::Kind::Other ||
+                m_tokens[at + 1].kind == Token::Kind::Name);
+    }
+
+    bool isMiddleDot(std::size_t at) const
+    {
+        return at < m_tokens.size() && m_tokens[at].length == 1 &&
+               m_text.at(m_tokens[at].position) == QChar(u'·');
+    }
+
+    /// Takes one run of characters, titles and dotted names; what only says who follows is left to that name.
+    std::size_t takeRun(std::size_t at, bool mustLookLikeName)
+    {
+        const int start = m_tokens[at].position;
+        std::size_t last = lastOfRun(at, m_tokens.size());
+        bool dotted = false;
+        while (last + 1 < m_tokens.size()) {
+            if (isMiddleDot(last + 1) && last + 2 < m_tokens.size()) { // 买买提·艾力
+                dotted = true;
+                last = m_tokens[last + 2].kind == Token::Kind::Other ? last + 2
+                                                                     : lastOfRun(last + 2, m_tokens.size());
+            } else if (m_tokens[last + 1].is(WordClass::Title)) { // 张主任, 产品经理吴迪
+                last = lastOfRun(last + 1, m_tokens.size());
+            } else {
+                break;
+            }
+        }
+        const int end = m_tokens[last].end();
+        if (dotted) {
+            const QString name = withoutParticles(m_text.mid(start, end - start));
+            addOne(m_text.indexOf(name, start), name.size(), true);
+            return last;
+        }
+        const bool nameFollows =
+            last + 1 < m_tokens.size() &&
+            (m_tokens[last + 1].kind == Token::Kind::Name || m_tokens[last + 1].kind == Token::Kind::Latin);
+        if (nameFollows && isModifier(m_text.mid(start, end - start))) {
+            m_modifierStart = start;
+            return last;
+        }
+        addChunk(start, end, mustLookLikeName, true);
+        return last;
+    }
+
+    static bool startsCapital(const QString &text, const Token &token)
+    {
+        return token.kind == Token::Kind::Latin && text.at(token.position).isUpper();
+    }
+
+    /// Anna Maria Schmidt is one person; HR李娜 is 李娜.
+    std::size_t takeLatinName(std::size_t at)
+    {
+        std::size_t last = at;
+        while (last + 2 < m_tokens.size() && startsCapital(m_text, m_tokens[last]) &&
+               startsCapital(m_text, m_tokens[last + 2]) &&
+               (m_tokens[last + 1].kind == Token::Kind::Space || isMiddleDot(last + 1))) {
+            last += 2;
+        }
+        const int start = m_tokens[at].position;
+        const QString name = m_text.mid(start, m_tokens[last].end() - start);
+        const bool nameFollows =
+            last + 1 < m_tokens.size() &&
+            (m_tokens[last + 1].kind == Token::Kind::Name || m_tokens[last + 1].kind == Token::Kind::Other);
+        if (nameFollows && isModifier(name)) {
+            return last;
+        }
+        addOne(start, name.size(), true);
+        m_names.back().start = qMin(start, m_modifierStart >= 0 ? m_modifierStart : start);
+        m_modifierStart = -1;
+        return last;
     }
 
     /// A known name; with one character more it is another, unknown one (张伟 and 张伟杰).
@@ -270,6 +360,8 @@ private:
             }
         }
         addKnown(token, true);
+        m_names.back().start = m_modifierStart >= 0 ? m_modifierStart : token.position;
+        m_modifierStart = -1;
         return skipTitle(at);
     }
 
@@ -287,6 +379,7 @@ private:
     const QString &m_text;
     const Tokens &m_tokens;
     std::vector<FoundName> m_names;
+    int m_modifierStart = -1; ///< of the name that comes next, -1 for none
 };
 
 } // namespace

@@ -13,6 +13,7 @@ namespace understanding {
 struct FoundName
 {
     int position = 0;
+    int start = 0;              ///< where what says who it is begins: 产品经理吴迪
     QString said;               ///< as it was typed
     QString name;               ///< as the contacts spell it
     bool behindTrigger = false; ///< somebody is called, not only mentioned

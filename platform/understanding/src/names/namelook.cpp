@@ -91,6 +91,26 @@ bool looksLikeName(const QString &text)
            (isSurname(text.at(0)) || (text.size() <= 3 && prefixes.contains(text.at(0))));
 }
 
+bool isSurnameWithTitle(const QString &text)
+{
+    const int surname = startsTwoCharacterSurname(text) ? 2 : 1;
+    return text.size() > surname && isSurname(text.at(0)) &&
+           Lexicon::instance().classesOf(text.mid(surname)).has(WordClass::Title);
+}
+
+bool isPersonsName(const QString &text)
+{
+    static const QString prefixes = QStringLiteral("小老阿大");
+    if (isSurnameWithTitle(text)) {
+        return true;
+    }
+    if (startsTwoCharacterSurname(text)) {
+        return text.size() == 3 || text.size() == 4;
+    }
+    return (text.size() == 2 && prefixes.contains(text.at(0))) ||
+           ((text.size() == 2 || text.size() == 3) && isSurname(text.at(0)));
+}
+
 namespace {
 
 /// The length of the name at @p at when names stand side by side: the next one begins with a family name, the

@@ -11,6 +11,13 @@ namespace understanding {
 /// True when @p text looks like the name of a person or a team: 赵云, 小李, 王总, 产品部, Jerry.
 bool looksLikeName(const QString &text);
 
+/// True for a family name with a title: 王总, 张老师, 欧阳主任.
+bool isSurnameWithTitle(const QString &text);
+
+/// True for the name of one person and nothing else: a family name with one or two characters or a title,
+/// 小李.
+bool isPersonsName(const QString &text);
+
 /// @p text cut into names where each part begins with a family name (赵云马超), else @p text alone.
 QStringList splitNames(const QString &text);
 

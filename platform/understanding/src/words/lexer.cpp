@@ -140,7 +140,7 @@ private:
     {
         const int digits = numberEnd() - m_at;
         const int latin = latinEnd() - m_at;
-        if (latin > digits && latin >= wordLength) {
+        if (latin > digits && latin > wordLength) {
             append(Token::Kind::Latin, latin);
             return true;
         }

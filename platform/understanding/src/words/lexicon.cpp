@@ -76,6 +76,11 @@ constexpr struct
     {"change", WordClass::Change},
     {"topic", WordClass::Topic},
     {"give up", WordClass::GiveUp},
+    {"request", WordClass::Request},
+    {"actor", WordClass::Actor},
+    {"reported", WordClass::Reported},
+    {"framed", WordClass::Framed},
+    {"repair", WordClass::Repair},
 };
 
 bool isClauseEnd(const QString &text, int position)

@@ -32,6 +32,7 @@ struct Token
     QString name; ///< of a known contact
     TimeExpression time;
     bool inTopic = false; ///< part of what a conference is about
+    bool inName = false;  ///< part of somebody's name
 
     int end() const { return position + length; }
     bool is(WordClass wordClass) const { return classes.has(wordClass); }

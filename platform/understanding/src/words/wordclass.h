@@ -66,8 +66,13 @@ enum class WordClass : quint8 {
     Unsupported,
     Cancel,
     Change,
-    Topic,  ///< what follows is what the conference is about
-    GiveUp, ///< ends a question
+    Topic,    ///< what follows is what the conference is about
+    GiveUp,   ///< ends a question
+    Request,  ///< 帮我: the speaker wants it done
+    Actor,    ///< 他, 谁: before a verb, somebody else does it
+    Reported, ///< 已经, 刚刚: it has happened, or has not
+    Framed,   ///< 听说, 如果: told, wished or supposed, not ordered
+    Repair,   ///< 不对: what follows replaces what was said
     Count
 };
 
@@ -76,12 +81,27 @@ class WordClasses final
 {
 public:
     constexpr WordClasses() = default;
-    constexpr WordClasses(WordClass one) : m_bits(bit(one)) {} // NOLINT(google-explicit-constructor)
-    constexpr bool has(WordClass one) const { return (m_bits & bit(one)) != 0; }
-    constexpr bool isEmpty() const { return m_bits == 0; }
-    constexpr bool intersects(WordClasses other) const { return (m_bits & other.m_bits) != 0; }
-    constexpr void add(WordClasses other) { m_bits |= other.m_bits; }
-    constexpr void remove(WordClasses other) { m_bits &= ~other.m_bits; }
+    constexpr WordClasses(WordClass one) // NOLINT(google-explicit-constructor)
+        : m_low(bit(static_cast<quint8>(one)))
+        , m_high(bit(static_cast<quint8>(one) - BitsPerWord))
+    {
+    }
+    constexpr bool has(WordClass one) const { return intersects(one); }
+    constexpr bool isEmpty() const { return (m_low | m_high) == 0; }
+    constexpr bool intersects(WordClasses other) const
+    {
+        return ((m_low & other.m_low) | (m_high & other.m_high)) != 0;
+    }
+    constexpr void add(WordClasses other)
+    {
+        m_low |= other.m_low;
+        m_high |= other.m_high;
+    }
+    constexpr void remove(WordClasses other)
+    {
+        m_low &= ~other.m_low;
+        m_high &= ~other.m_high;
+    }
     constexpr WordClasses operator|(WordClasses other) const
     {
         other.add(*this);
@@ -89,10 +109,15 @@ public:
     }
 
 private:
-    static constexpr quint64 bit(WordClass one) { return quint64(1) << static_cast<quint8>(one); }
-    quint64 m_bits = 0;
+    static constexpr int BitsPerWord = 64;
+    static constexpr quint64 bit(int place)
+    {
+        return place >= 0 && place < BitsPerWord ? quint64(1) << place : 0;
+    }
+    quint64 m_low = 0;
+    quint64 m_high = 0;
 };
-static_assert(static_cast<quint8>(WordClass::Count) <= 64, "one bit each");
+static_assert(static_cast<quint8>(WordClass::Count) <= 128, "one bit each");
 
 constexpr WordClasses operator|(WordClass a, WordClass b)
 {

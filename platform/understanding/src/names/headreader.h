@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QString>
+
+namespace understanding {
+
+/// Length of what stands before the person in @p text and says who it is (产品经理 in 产品经理吴迪, 研发部的
+/// in 研发部的赵云); 0 where the name begins at once. Read from the right: the head is the name.
+int modifierLength(const QString &text);
+
+/// True when @p text ends with a word that describes a person: 高级工程师, 研发部, 美国那边的.
+bool isModifier(const QString &text);
+
+} // namespace understanding

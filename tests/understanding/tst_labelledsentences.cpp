@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "labelledrows.h"
+
+#include <QtTest>
+
+Q_DECLARE_METATYPE(LabelledRow)
+
+/// Sentences and conversations labelled by people who did not write the rules. A third of each fresh file was
+/// never looked at while rules were written; it is held by its rate alone.
+class TestLabelledSentences : public QObject
+{
+    Q_OBJECT
+
+private:
+    static QString file(const QString &name)
+    {
+        return QStringLiteral(CONTACT_SOURCE_DIR "/tests/understanding/") + name;
+    }
+
+    static Rates ratesOf(bool keptApart)
+    {
+        Rates rates;
+        for (const char *name :
+             {"sentences-fresh-a.jsonl", "sentences-fresh-b.jsonl", "sentences-fresh-c.jsonl"}) {
+            const std::vector<LabelledRow> rows = readLabelledRows(file(QString::fromLatin1(name)));
+            for (std::size_t at = 0; at < rows.size(); ++at) {
+                if (isKeptApart(at) == keptApart) {
+                    rates.add(rows[at]);
+                }
+            }
+        }
+        return rates;
+    }
+
+private Q_SLOTS:
+    void everyShownRowIsRight_data()
+    {
+        QTest::addColumn<LabelledRow>("row");
+        const std::vector<LabelledRow> rows = readLabelledRows(file(QStringLiteral("sentences-shown.jsonl")));
+        for (const LabelledRow &row : rows) {
+            QTest::addRow("%d %s", row.id, row.title.toUtf8().constData()) << row;
+        }
+    }
+    void everyShownRowIsRight()
+    {
+        QFETCH(LabelledRow, row);
+        const RowResult result = runRow(row);
+        QVERIFY2(result.right, result.found.toUtf8().constData());
+    }
+
+    void rowsLearnedFromAreRight()
+    {
+        const Rates rates = ratesOf(false);
+        qInfo("%s", qPrintable(rates.toString()));
+        for (const QString &failure : rates.failures) {
+            qInfo("%s", failure.toUtf8().constData());
+        }
+        QCOMPARE(rates.sentences, 261);
+        QCOMPARE(rates.dialogues, 39);
+        QVERIFY(rates.sentencesRight >= LearnedSentences);
+        QVERIFY(rates.dialoguesRight >= LearnedDialogues);
+        QVERIFY(rates.negativesActedOn <= LearnedNegatives);
+    }
+
+    void rowsKeptApartHoldTheirRate()
+    {
+        const Rates rates = ratesOf(true);
+        qInfo("%s", qPrintable(rates.toString()));
+        QCOMPARE(rates.sentences, 129);
+        QCOMPARE(rates.dialogues, 21);
+        QVERIFY(rates.sentencesRight >= ApartSentences);
+        QVERIFY(rates.dialoguesRight >= ApartDialogues);
+        QVERIFY(rates.negativesActedOn <= ApartNegatives);
+    }
+
+private:
+    static constexpr int LearnedSentences = 212;
+    static constexpr int LearnedDialogues = 24;
+    static constexpr int LearnedNegatives = 4;
+    static constexpr int ApartSentences = 105;
+    static constexpr int ApartDialogues = 14;
+    static constexpr int ApartNegatives = 3;
+};
+
+QTEST_APPLESS_MAIN(TestLabelledSentences)
+#include "tst_labelledsentences.moc"

@@ -37,7 +37,7 @@ bool isToggleKey(const QKeyEvent &event)
 
 TiTleItem::TiTleItem(const QString &title, QWidget *parent)
     : CustomizeItem(parent)
-    , m_layout(new QHBoxLayout(this))
+    , m_layout(new QHBoxLayout)
     , m_checkBox(new QCheckBox(this))
     , m_card(qobject_cast<ConferenceMsgStaticWidget *>(parent))
 {
@@ -47,6 +47,9 @@ TiTleItem::TiTleItem(const QString &title, QWidget *parent)
     m_layout->setContentsMargins(Margin, Margin, Margin, Margin);
     m_layout->setSpacing(0);
     m_layout->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    // Only now: a layout that is changed on its widget posts an event, and Qt looks for its like among all
+    // that the rows before have posted.
+    setLayout(m_layout);
     setAccessibleName(CardText::beginning(title));
 
     // Only the mark of a selected row: the row itself takes the mouse and the focus.

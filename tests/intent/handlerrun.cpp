@@ -68,21 +68,27 @@ CloudIntent intentWith(const char *slotArray)
     return intent;
 }
 
-Script answers(const char *json)
+Script answers(const char *json, const char *second)
 {
-    return {0, quoted(json)};
+    Script script{0, {quoted(json)}};
+    if (second != nullptr) {
+        script.answers.append(quoted(second));
+    }
+    return script;
 }
 
 Script callFails(int code)
 {
-    return {code, QString()};
+    return {code, {QString()}};
 }
 
 HandlerRun runHandler(IReplyableIntent *handler, const CloudIntent &intent, const Script &script)
 {
     ScriptedAbility &ability = ScriptedAbility::instance();
     ability.reset();
-    ability.enqueue(script.callCode, script.answer);
+    for (const QString &answer : script.answers) {
+        ability.enqueue(script.callCode, answer);
+    }
 
     HandlerRun run;
     run.handler.reset(handler);

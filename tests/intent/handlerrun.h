@@ -13,16 +13,16 @@
 
 #include <memory>
 
-/// What the scripted contacts application does with the next request.
+/// What the scripted contacts application does with the next requests.
 struct Script
 {
     int callCode = 0; ///< other than 0: the call itself fails
-    QString answer;
+    QStringList answers;
 };
 Q_DECLARE_METATYPE(Script)
 
-/// The answer @p json, which may use single quotes.
-Script answers(const char *json);
+/// The answer @p json, which may use single quotes, and @p second to the request after it.
+Script answers(const char *json, const char *second = nullptr);
 Script callFails(int code);
 
 /// One card that a handler announced, and the reply as it was then.

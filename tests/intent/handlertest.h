@@ -33,8 +33,9 @@ protected:
     {
         Maker make;
         Maker makeReplaced;     ///< a subclass whose worker returns 77
-        const char *action;     ///< that it asks of the contacts application
+        const char *action;     ///< the last one that it asks of the contacts application
         const char *usualSlots; ///< enough for a request, in the form that intentWith() takes
+        Script accepted = answers("{'ret':'OK'}"); ///< one answer to each request
     };
 
     /// What is said if the application does as @ref script tells.
@@ -46,7 +47,7 @@ protected:
         const char *slotArray = nullptr; ///< null: the usual ones
     };
 
-    /// The parameters that are sent for what was said.
+    /// The parameters of the last request, for what was said.
     struct Request
     {
         const char *name;

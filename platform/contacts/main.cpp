@@ -8,6 +8,9 @@
 #include "service/display.h"
 #include "window/contactswindow.h"
 
+#include <lumo/lstyle.h>
+#include <lumo/lsystempalette.h>
+
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDebug>
@@ -51,10 +54,14 @@ int serve(QCoreApplication &application, FirstSight firstSight)
         break;
     }
     Administration administration(*book);
+    std::unique_ptr<LSystemPalette> palette;
     std::unique_ptr<ContactsWindow> window; // made when it is first wanted: most of the time nobody looks
     if (qobject_cast<QApplication *>(&application)) {
         const auto showWindow = [&] {
             if (!window) {
+                QApplication::setStyle(new LStyle);
+                palette = std::make_unique<LSystemPalette>();
+                palette->follow();
                 window = std::make_unique<ContactsWindow>(*book, administration);
             }
             window->bringUp();

@@ -11,6 +11,7 @@
 #include "stallmeter.h"
 
 #include <lumo/lguiapplicationhelper.h>
+#include <lumo/lstyle.h>
 
 #include <QtTest>
 #include <QtWidgets>
@@ -68,6 +69,7 @@ class TestMainWindow : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void exampleIsSentByAClick();
     void windowStaysAliveWhileARequestRuns();
@@ -78,6 +80,7 @@ private Q_SLOTS:
     void keysGoThroughTheHistoryAndClearTheLine();
     void inspectorShowsTheTurnAndSendsSemantics();
     void themeAndFontAreAppliedAndRemembered();
+    void defaultThemeIsTheToolkitsNearestToTheSystems();
     void windowRemembersItself();
     void problemIsShown();
     void namesAreShownWithoutWhatHides();
@@ -85,6 +88,12 @@ private Q_SLOTS:
 private:
     QTemporaryDir m_settings;
 };
+
+void TestMainWindow::initTestCase()
+{
+    // As the program does.
+    QApplication::setStyle(new LStyle);
+}
 
 void TestMainWindow::init()
 {
@@ -298,6 +307,22 @@ void TestMainWindow::themeAndFontAreAppliedAndRemembered()
         QCOMPARE(LGuiApplicationHelper::instance()->themeType(), LGuiApplicationHelper::LightType);
         appearance.setTheme(Appearance::System);
     }
+}
+
+void TestMainWindow::defaultThemeIsTheToolkitsNearestToTheSystems()
+{
+    Desk desk;
+    QCOMPARE(int(desk.appearance.theme()), int(Appearance::System));
+    const QPalette light = LGuiApplicationHelper::standardPalette(LGuiApplicationHelper::LightType);
+    auto *example = desk.window.findChild<QPushButton *>(QStringLiteral("example"));
+    QCOMPARE(example->palette().color(QPalette::Button), light.color(QPalette::Button));
+    QCOMPARE(example->palette().color(QPalette::Highlight), light.color(QPalette::Highlight));
+    // The plate of a button is seen, also by itself.
+    const QImage picture = desk.window.grab().toImage();
+    const QPoint middle = example->mapTo(&desk.window, QPoint(example->width() / 2, 4));
+    const QPoint beside = example->mapTo(&desk.window, QPoint(-4, 4));
+    QCOMPARE(picture.pixelColor(middle), light.color(QPalette::Button));
+    QCOMPARE(picture.pixelColor(beside), light.color(QPalette::Window));
 }
 
 void TestMainWindow::windowRemembersItself()

@@ -171,6 +171,8 @@ void TestLGuiApplicationHelper::theThemesAreReadable()
         {QPalette::HighlightedText, QPalette::Highlight},
         {QPalette::ToolTipText, QPalette::ToolTipBase},
         {QPalette::Link, QPalette::Window},
+        {QPalette::PlaceholderText, QPalette::Base},
+        {QPalette::PlaceholderText, QPalette::Window},
     };
     for (const auto &[text, ground] : pairs) {
         const qreal found = contrast(palette.color(text), palette.color(ground));

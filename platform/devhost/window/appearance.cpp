@@ -53,12 +53,15 @@ void Appearance::setFontStep(int step)
     applyFont();
 }
 
-void Appearance::applyTheme() const
+void Appearance::applyTheme()
 {
-    const LGuiApplicationHelper::ColorType types[] = {LGuiApplicationHelper::UnknownType,
-                                                      LGuiApplicationHelper::LightType,
-                                                      LGuiApplicationHelper::DarkType};
-    LGuiApplicationHelper::instance()->setPaletteType(types[m_theme]);
+    if (m_theme == System) {
+        m_systemPalette.follow();
+        return;
+    }
+    m_systemPalette.stop();
+    LGuiApplicationHelper::instance()->setPaletteType(m_theme == Dark ? LGuiApplicationHelper::DarkType
+                                                                      : LGuiApplicationHelper::LightType);
 }
 
 void Appearance::applyFont() const

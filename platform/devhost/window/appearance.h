@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <lumo/lsystempalette.h>
+
 #include <QObject>
 
 namespace devhost {
@@ -13,6 +15,7 @@ class Appearance final : public QObject
     Q_OBJECT
 
 public:
+    /// System: the toolkit's light or dark palette, whichever the desktop's is nearer to.
     enum Theme { System, Light, Dark };
 
     /// Applies what was remembered.
@@ -29,9 +32,10 @@ public:
     static constexpr int LargestStep = 8;
 
 private:
-    void applyTheme() const;
+    void applyTheme();
     void applyFont() const;
 
+    LSystemPalette m_systemPalette;
     Theme m_theme = System;
     int m_fontStep = 0;
     qreal m_desktopPointSize;

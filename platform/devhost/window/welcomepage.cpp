@@ -35,7 +35,7 @@ WelcomePage::WelcomePage(QWidget *parent) : QWidget(parent)
     greeting->setFont(LFontSizeManager::instance()->get(LFontSizeManager::T4, font()));
     layout->addWidget(greeting, 0, Qt::AlignHCenter);
     auto *hint = new QLabel(QStringLiteral("在下面输入，或者点一个例子："), this);
-    hint->setEnabled(false);
+    hint->setForegroundRole(QPalette::PlaceholderText);
     layout->addWidget(hint, 0, Qt::AlignHCenter);
     layout->addSpacing(12);
     for (const QString &example : examples()) {

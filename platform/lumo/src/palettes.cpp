@@ -31,7 +31,7 @@ constexpr RoleColor LightColors[] = {
     {QPalette::HighlightedText, 0xffffffff},
     {QPalette::Link, 0xff0067ce},
     {QPalette::LinkVisited, 0xff6a4fb3},
-    {QPalette::PlaceholderText, 0xff7b828b},
+    {QPalette::PlaceholderText, 0xff666d76},
 };
 
 constexpr RoleColor DarkColors[] = {
@@ -54,7 +54,7 @@ constexpr RoleColor DarkColors[] = {
     {QPalette::HighlightedText, 0xffffffff},
     {QPalette::Link, 0xff5eb0ff},
     {QPalette::LinkVisited, 0xffb39cf0},
-    {QPalette::PlaceholderText, 0xff8d939b},
+    {QPalette::PlaceholderText, 0xffa0a6ae},
 };
 
 constexpr QPalette::ColorRole TextRoles[] = {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,

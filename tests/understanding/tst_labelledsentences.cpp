@@ -76,9 +76,9 @@ private Q_SLOTS:
     }
 
 private:
-    static constexpr int LearnedSentences = 212;
-    static constexpr int LearnedDialogues = 24;
-    static constexpr int LearnedNegatives = 4;
+    static constexpr int LearnedSentences = 253;
+    static constexpr int LearnedDialogues = 39;
+    static constexpr int LearnedNegatives = 0;
     static constexpr int ApartSentences = 105;
     static constexpr int ApartDialogues = 14;
     static constexpr int ApartNegatives = 3;

@@ -17,11 +17,12 @@ constexpr WordClasses SurroundingWords =
     WordClass::Filler | WordClass::Punctuation | WordClass::LabelLink | WordClass::IdLabel |
     WordClass::PasswordLabel | WordClass::AccountLabel | WordClass::NameLabel | WordClass::Measure |
     WordClass::Separator | WordClass::Trigger | WordClass::Pull | WordClass::Nobody | WordClass::NameTail |
-    WordClass::Title | WordClass::Conference | WordClass::NoPassword;
+    WordClass::Title | WordClass::Conference | WordClass::NoPassword | WordClass::Request |
+    WordClass::StrongOpen | WordClass::WeakOpen | WordClass::OpenParticle;
 
 bool isSmallTalkParticle(const Sentence &sentence, const Token &token)
 {
-    static const QString particles = QStringLiteral("的号是呢哦啊呀吧");
+    static const QString particles = QStringLiteral("的号是呢哦啊呀吧就定在先只这一次那呗要从改开约了");
     const QString text = sentence.text().mid(token.position, token.length);
     return std::all_of(text.cbegin(), text.cend(),
                        [](QChar character) { return particles.contains(character); });
@@ -44,6 +45,12 @@ bool isCode(const Token &token)
 
 bool takeNumber(const Reading &reading, Outcome &outcome)
 {
+    // A number with something strange in it, not chit-chat with a number.
+    constexpr int mostStrange = 2;
+    if (reading.isNumberCutOff() && reading.strangeLength() <= mostStrange) {
+        outcome.answer = QStringLiteral("whole-number");
+        return true;
+    }
     if (reading.conferenceNumber().isEmpty() || !holdsOnly(reading, isCode)) {
         return false;
     }
@@ -113,6 +120,16 @@ bool takeNames(const Reading &reading, Outcome &outcome)
 TimeExpression usableRest(const QString &question, const TimeExpression &before)
 {
     TimeExpression rest;
+    if (question == QLatin1String("either-or") || question == QLatin1String("recurring")) {
+        return before;
+    }
+    if (question == QLatin1String("other-zone")) { // its hour is another one here
+        rest = before;
+        rest.part = -1;
+        rest.hasClock = false;
+        rest.hasOffset = false;
+        return rest;
+    }
     if (question == QLatin1String("contradiction") || question == QLatin1String("which-time")) {
         rest = before;
         rest.part = -1;
@@ -140,6 +157,22 @@ bool isGiveUp(const Reading &reading)
            });
 }
 
+bool beginsWithGiveUp(const Reading &reading)
+{
+    constexpr WordClasses harmless = WordClass::GiveUp | WordClass::Filler;
+    bool givesUp = false;
+    for (const Token &token : reading.tokens()) {
+        if (token.is(WordClass::Punctuation)) {
+            break;
+        }
+        if (!token.isAny(harmless)) {
+            return false;
+        }
+        givesUp = givesUp || token.is(WordClass::GiveUp);
+    }
+    return givesUp;
+}
+
 bool takeAnswer(const QString &question, const Reading &reading, const QDateTime &now,
                 const TimeExpression &timeBefore, Outcome &outcome)
 {
@@ -148,6 +181,7 @@ bool takeAnswer(const QString &question, const Reading &reading, const QDateTime
         const char *question;
         bool (*take)(const Reading &, Outcome &);
     } takers[] = {{"which-conference", takeNumber},
+                  {"whole-number", takeNumber},
                   {"which-password", takePassword},
                   {"whom-to-add", takeAccount},
                   {"whom-to-invite", takeNames}};

@@ -13,6 +13,9 @@ namespace understanding {
 /// True for a sentence that only ends a question: 算了, 取消吧.
 bool isGiveUp(const Reading &reading);
 
+/// True for a sentence whose first clause ends a question: 算了，我再问问.
+bool beginsWithGiveUp(const Reading &reading);
+
 /// Takes @p reading as the answer to @p question (a row of answers.tsv) and adds the slot to @p outcome. Only
 /// a sentence that holds nothing but an answer is one: chit-chat never fills a slot. @p timeBefore is what
 /// was said of the time so far. Returns false when nothing was answered; a new problem with the answer is set

@@ -51,7 +51,7 @@ public:
     QString close(const char *answer);
     QString reply(const Outcome &outcome, const TimeExpression &time);
     bool startsSomethingNew(const Outcome &fresh) const;
-    QString answerConfirmation(const Reading &reading, const Outcome &fresh);
+    QString answerConfirmation(const Reading &reading, const Outcome &fresh, const QDateTime &now);
     QString answerQuestion(const Reading &reading, const Outcome &fresh, const QDateTime &now);
     void askForPassword();
 
@@ -115,7 +115,8 @@ bool Dialogue::Private::startsSomethingNew(const Outcome &fresh) const
 }
 
 /// Only a plain yes carries out what was in doubt.
-QString Dialogue::Private::answerConfirmation(const Reading &reading, const Outcome &fresh)
+QString Dialogue::Private::answerConfirmation(const Reading &reading, const Outcome &fresh,
+                                              const QDateTime &now)
 {
     switch (readYesNo(reading.sentence())) {
     case YesNo::Yes:
@@ -126,7 +127,16 @@ QString Dialogue::Private::answerConfirmation(const Reading &reading, const Outc
     case YesNo::Unclear:
         break;
     }
-    return fresh.intent.isEmpty() ? askAgain() : reply(fresh, reading.time());
+    if (!fresh.intent.isEmpty()) {
+        return reply(fresh, reading.time());
+    }
+    // 要现在发起会议吗？ 明天三点。
+    Outcome later = question.outcome;
+    if (later.intent == QLatin1String(CreateConference) && !later.hasSlot(DatetimeSlot) &&
+        takeAnswer(QStringLiteral("which-time"), reading, now, question.time, later)) {
+        return reply(later, reading.time());
+    }
+    return askAgain();
 }
 
 QString Dialogue::Private::answerQuestion(const Reading &reading, const Outcome &fresh, const QDateTime &now)
@@ -135,7 +145,7 @@ QString Dialogue::Private::answerQuestion(const Reading &reading, const Outcome 
     const QString asked = answered.answer;
     answered.answer.clear();
     if (asked.startsWith(QLatin1String("confirm-"))) {
-        return answerConfirmation(reading, fresh);
+        return answerConfirmation(reading, fresh, now);
     }
     const bool taken = asked != tooManyPasswords && takeAnswer(asked, reading, now, question.time, answered);
     if (!taken) {
@@ -189,7 +199,8 @@ QString Dialogue::turn(const QString &sentence, const QDateTime &now)
         return d->reply(fresh, reading.time());
     }
     const bool toConfirm = d->question.outcome.answer.startsWith(QLatin1String("confirm-"));
-    if (isGiveUp(reading) && !(toConfirm && readYesNo(reading.sentence()) == YesNo::Yes)) {
+    const bool givesUp = isGiveUp(reading) || (beginsWithGiveUp(reading) && fresh.intent.isEmpty());
+    if (givesUp && !(toConfirm && readYesNo(reading.sentence()) == YesNo::Yes)) {
         return d->close("cancelled");
     }
     return d->answerQuestion(reading, fresh, now);

@@ -78,6 +78,16 @@ public:
     }
 
     bool isOrder() const { return has(m_allowed.anchors); }
+
+    /// 第7次迭代会，...: only the name of the conference, which need not be understood.
+    bool isTitle() const
+    {
+        WordClasses verbs = m_allowed.anchors;
+        verbs.remove(WordClass::Conference);
+        return !has(verbs);
+    }
+
+    bool isRequested() const { return has(WordClass::Request); }
     bool callsSomebody() const
     {
         return any([&](std::size_t at) {
@@ -88,13 +98,16 @@ public:
 
     bool isRefused() const
     {
-        return isNegated() || isSomebodyElses() || (!m_isQuery && has(WordClass::Reported)) || isQuestion();
+        return isSupposed() || isNegated() || isSomebodyElses() || (!m_isQuery && has(WordClass::Reported)) ||
+               isQuestion();
     }
 
     /// 结束了会议, 会议结束了: done, unless it is asked for (把会议关了, 散了吧).
     bool isFinished() const
     {
-        if (m_isQuery || has(WordClass::Request)) {
+        constexpr WordClasses asking = WordClass::Query | WordClass::Question | WordClass::QuestionParticle |
+                                       WordClass::AskedTime | WordClass::Schedule | WordClass::Next;
+        if (has(WordClass::Request) || (m_isQuery && has(asking))) {
             return false;
         }
         return any([&](std::size_t at) {
@@ -247,7 +260,8 @@ private:
         }
         std::size_t next = at + 1;
         while (next < m_end && next < at + farthest &&
-               (m_tokens[next].isAny(WordClass::Measure | WordClass::Title) || isNothing(m_tokens[next]))) {
+               (m_tokens[next].isAny(WordClass::Measure | WordClass::Title | WordClass::Plain) ||
+                m_tokens[next].kind == Token::Kind::Other || isNothing(m_tokens[next]))) {
             ++next;
         }
         if (next >= m_end || !m_tokens[next].is(WordClass::Conference)) {
@@ -286,34 +300,54 @@ private:
 
 } // namespace
 
+/// “开会” is an order, 他说“开会” is none.
+static bool isAllQuoted(const QString &text)
+{
+    return text.startsWith(QChar(u'“')) && text.indexOf(QChar(u'”')) == text.size() - 1;
+}
+
 Verdict judge(const Reading &reading, const QString &intent)
 {
     const Tokens &tokens = reading.tokens();
     bool ordered = false;
+    bool requested = false;
     bool finished = false;
+    bool supposed = false;
     bool doubtful = false;
+    bool untitled = false; // the name of the conference was not understood
+    bool quoted = false;
     for (std::size_t begin = 0; begin < tokens.size();) {
         std::size_t end = begin;
         while (end < tokens.size() && !tokens[end].is(WordClass::Punctuation)) {
             ++end;
         }
+        const QChar sign = end < tokens.size() ? reading.sentence().text().at(tokens[end].position) : QChar();
         const Clause clause(reading, intent, begin, end);
-        if (clause.isSupposed()) {
-            return Verdict::Refuse;
-        }
+        supposed = supposed || clause.isSupposed();
         if (clause.isOrder()) {
             if (clause.isRefused()) {
                 return Verdict::Refuse;
             }
-            doubtful = doubtful || !clause.isUnderstood();
+            const bool asked = sign == QLatin1Char('?') && !clause.isRequested();
+            const bool understood = clause.isUnderstood();
+            untitled = untitled || (!understood && clause.isTitle());
+            doubtful = doubtful || (!understood && !clause.isTitle()) || quoted ||
+                       (asked && intent != QLatin1String(QueryConference));
+            requested = requested || clause.isRequested();
             (clause.isFinished() ? finished : ordered) = true;
+            ordered = ordered && !(clause.isTitle() && !understood);
         } else if (clause.callsSomebody()) { // 要开会了，拉上王磊
             ordered = true;
         }
+        quoted = (sign == QChar(u'“') && !isAllQuoted(reading.sentence().text())) ||
+                 (quoted && sign != QChar(u'”'));
         begin = end + 1;
     }
+    if (supposed && !requested) {
+        return Verdict::Refuse;
+    }
     // 不开了，散会: the order follows what is finished.
-    return doubtful || (finished && !ordered) ? Verdict::Ask : Verdict::Act;
+    return doubtful || ((finished || untitled) && !ordered) ? Verdict::Ask : Verdict::Act;
 }
 
 } // namespace understanding

@@ -75,7 +75,9 @@ void fillNumber(Outcome &outcome, const Reading &reading, const QDateTime &)
 {
     // The handler reads the number's "value", so both are digits.
     const Said &number = reading.conferenceNumber();
-    if (!number.isEmpty() && !outcome.hasSlot(IdSlot)) {
+    if (reading.isNumberCutOff()) {
+        outcome.answer = QStringLiteral("whole-number");
+    } else if (!number.isEmpty() && !outcome.hasSlot(IdSlot)) {
         outcome.addSlot(IdSlot, number.normValue, number.normValue);
     }
     const Said &password = reading.password();
@@ -93,6 +95,14 @@ void fillAccount(Outcome &outcome, const Reading &reading, const QDateTime &)
         const FoundName &name = reading.names().front();
         outcome.addSlot(AccountSlot, name.said, name.name);
     }
+}
+
+/// Refusals of a time: people and the verb stay, and the next sentence may say another time.
+bool keepsWhatWasSaid(const QString &answer)
+{
+    static const QStringList refusals = {QStringLiteral("recurring"), QStringLiteral("either-or"),
+                                         QStringLiteral("other-zone"), QStringLiteral("lunar")};
+    return refusals.contains(answer);
 }
 
 void fillNothing(Outcome &, const Reading &, const QDateTime &) {}
@@ -166,6 +176,16 @@ Outcome interpret(const Reading &reading, const QDateTime &now)
     const QString decision = decideIntent(reading);
     if (decision.startsWith(QLatin1Char('?'))) {
         outcome.answer = decision.mid(2);
+        if (keepsWhatWasSaid(outcome.answer) &&
+            judge(reading, QLatin1String(CreateConference)) != Verdict::Refuse) {
+            outcome.intent = reading.has(WordClass::Query) || reading.has(WordClass::Question)
+                                 ? QLatin1String(QueryConference)
+                                 : QLatin1String(CreateConference);
+            if (outcome.intent == QLatin1String(CreateConference)) {
+                fillNames(outcome, reading);
+                fillOpenVerb(outcome, reading, now);
+            }
+        }
         return outcome;
     }
     const Verdict verdict = judge(reading, decision);

@@ -7,8 +7,10 @@
 #include "text/scan.h"
 #include "words/clausereader.h"
 #include "words/lexer.h"
+#include "words/repairs.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace understanding {
 
@@ -21,6 +23,7 @@ constexpr int ShortestNumber = 3; // 3号会议室 has no number of a conference
 Reading::Reading(const QString &sentence, const ContactIndex &contacts) : m_sentence(sentence)
 {
     m_tokens = tokenize(m_sentence.text(), contacts);
+    applyRepairs(m_sentence.text(), m_tokens);
     settleWords(m_sentence.text(), m_tokens);
     m_names = findNames(m_sentence.raw(), m_sentence.text(), m_tokens);
     markNames();
@@ -76,6 +79,7 @@ void Reading::collectTimes()
             m_time.complete(token.time);
         }
         ++m_timeCount;
+        m_clockCount += token.time.hasClock ? 1 : 0;
     }
 }
 
@@ -100,6 +104,43 @@ bool Reading::isLabelled(std::size_t number) const
         }
     }
     return false;
+}
+
+int Reading::strangeLength() const
+{
+    return std::accumulate(m_tokens.cbegin(), m_tokens.cend(), 0, [](int length, const Token &token) {
+        return length + (token.kind == Token::Kind::Other ? token.length : 0);
+    });
+}
+
+/// 一二三百四: what touches a string of digits may belong to it.
+bool Reading::isCutOff(std::size_t number) const
+{
+    static const QString mayFollow = QStringLiteral("的号是这那吧呢啊呀哦个会为和就给加进入我,，");
+    static const QString mayBelong = QStringLiteral("十百千万亿两俩廿卅点");
+    const QString &text = m_sentence.text();
+    const Token &token = m_tokens[number];
+    if (number > 0 && m_tokens[number - 1].end() == token.position) {
+        const Token &before = m_tokens[number - 1];
+        const QChar last = text.at(before.end() - 1);
+        const bool strange =
+            before.kind == Token::Kind::Other && (!last.isLetter() || mayBelong.contains(last));
+        if (strange || before.kind == Token::Kind::Latin || before.kind == Token::Kind::Time ||
+            before.kind == Token::Kind::Duration) {
+            return true;
+        }
+    }
+    if (number + 1 == m_tokens.size() || m_tokens[number + 1].position != token.end()) {
+        return false;
+    }
+    const Token &behind = m_tokens[number + 1];
+    if (behind.is(WordClass::Punctuation)) {
+        return number + 2 < m_tokens.size() && m_tokens[number + 2].kind == Token::Kind::Number &&
+               m_tokens[number + 2].position == behind.end();
+    }
+    return behind.kind == Token::Kind::Latin || behind.kind == Token::Kind::Time ||
+           behind.kind == Token::Kind::Duration ||
+           (behind.kind == Token::Kind::Other && !mayFollow.contains(text.at(behind.position)));
 }
 
 bool Reading::takePassword(std::size_t label)
@@ -141,8 +182,13 @@ void Reading::collectNumbers()
         if (m_account.isEmpty()) {
             m_account = digitsOf(token);
         }
-        if (isNumber && m_number.isEmpty() && (token.length >= ShortestNumber || isLabelled(at))) {
+        const bool isAccount = at > 0 && m_tokens[at - 1].is(WordClass::AccountLabel); // 工号1107
+        if (isNumber && m_number.isEmpty() && !isAccount &&
+            (token.length >= ShortestNumber || isLabelled(at))) {
             m_number = digitsOf(token);
+            m_numberCutOff = isCutOff(at);
+        } else if (isNumber && !m_number.isEmpty()) {
+            m_numberCutOff = true; // of two numbers nobody knows which
         }
     }
 }

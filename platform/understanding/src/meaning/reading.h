@@ -34,6 +34,10 @@ public:
     const Tokens &tokens() const { return m_tokens; }
     const std::vector<FoundName> &names() const { return m_names; }
     const Said &conferenceNumber() const { return m_number; }
+    /// True when the number touches something that was not read: it may be longer than what is known of it.
+    bool isNumberCutOff() const { return m_numberCutOff; }
+    /// How many characters no rule knows.
+    int strangeLength() const;
     const Said &password() const { return m_password; }
     /// A string of digits, letters or a mail address, whatever it is for.
     const Said &account() const { return m_account; }
@@ -43,6 +47,8 @@ public:
     const QString &timeSaid() const { return m_timeSaid; }
     const TimeExpression &time() const { return m_time; }
     int timeCount() const { return m_timeCount; }
+    /// How many of the times name an hour.
+    int clockCount() const { return m_clockCount; }
 
     /// True where a name stands that a word calls (叫上), not only mentions.
     bool isCalledAt(int position) const;
@@ -58,6 +64,7 @@ private:
     void collectTimes();
     void collectNumbers();
     bool isLabelled(std::size_t number) const;
+    bool isCutOff(std::size_t number) const;
     bool takePassword(std::size_t label);
     void collectOpenVerb();
 
@@ -72,6 +79,8 @@ private:
     QString m_timeSaid;
     TimeExpression m_time;
     int m_timeCount = 0;
+    int m_clockCount = 0;
+    bool m_numberCutOff = false;
 };
 
 } // namespace understanding

@@ -7,7 +7,6 @@
 #include "text/rulefile.h"
 
 #include <QHash>
-#include <QSet>
 
 #include <algorithm>
 
@@ -18,15 +17,17 @@ namespace {
 constexpr int LongestRole = 4;
 constexpr int LongestHead = 5; // 欧阳工程师
 
-const QSet<QString> &roles()
+/// The words of roles.txt; true for those behind which any two characters are a name.
+const QHash<QString, bool> &roles()
 {
-    static const QSet<QString> loaded = [] {
-        QSet<QString> all;
+    static const QHash<QString, bool> loaded = [] {
+        QHash<QString, bool> all;
         const QStringList lines = ruleLines(QStringLiteral("roles.txt"));
         for (const QString &line : lines) {
             const QStringList words = line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
             for (const QString &word : words) {
-                all.insert(word);
+                const bool kin = word.startsWith(QLatin1Char('*'));
+                all.insert(kin ? word.mid(1) : word, kin);
             }
         }
         return all;
@@ -59,6 +60,13 @@ int modifierLength(const QString &text)
     for (int length = qMin(LongestHead, rest.size() - 1); length >= 2; --length) {
         const int cut = rest.size() - length;
         if (isModifier(rest.left(cut)) && isPersonsName(rest.mid(cut))) {
+            return start + cut;
+        }
+    }
+    // 闺女秀英, 外孙女朵朵: the given name alone.
+    const int cut = rest.size() - 2;
+    for (int length = qMin(LongestRole, cut); length > 0; --length) {
+        if (roles().value(rest.mid(cut - length, length), false) && !roles().contains(rest.mid(cut))) {
             return start + cut;
         }
     }

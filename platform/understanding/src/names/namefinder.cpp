@@ -101,6 +101,9 @@ private:
         if (Lexicon::instance().classesOf(name).has(WordClass::Nobody)) {
             return;
         }
+        if (name.size() > 2 && name.at(0) == QChar(u'约') && isPersonsName(name.mid(1))) { // 约约王磊
+            name = name.mid(1);
+        }
         const int offset = chunk.lastIndexOf(name);
         const std::size_t before = m_names.size();
         if (modifier > 0 && isPersonsName(name)) {
@@ -109,14 +112,19 @@ private:
             addUnknown(start + offset, name, called);
         }
         if (m_names.size() > before) {
-            m_names[before].start = start;
+            m_names[before].start = m_modifierStart >= 0 ? m_modifierStart : start;
+            m_modifierStart = -1;
         }
     }
 
     /// 赵云和...: who stands left of 和.
     void takeLeft(std::size_t at)
     {
-        if (at == 0 || m_tokens[at - 1].kind != Token::Kind::Other || m_tokens[at - 1].inTopic) {
+        if (at == 0 || m_tokens[at - 1].inTopic) {
+            return;
+        }
+        const bool latin = m_tokens[at - 1].kind == Token::Kind::Latin;
+        if (m_tokens[at - 1].kind != Token::Kind::Other && !latin) {
             return;
         }
         const Token &left = m_tokens[at - 1];
@@ -146,11 +154,28 @@ private:
         });
     }
 
+    /// 居委会 in 居委会的小乔.
+    bool isPlainBeforeName(std::size_t at) const
+    {
+        return m_tokens[at].is(WordClass::Plain) && at + 1 < m_tokens.size() &&
+               m_tokens[at + 1].kind == Token::Kind::Other &&
+               m_text.at(m_tokens[at + 1].position) == QChar(u'的');
+    }
+
+    /// 3 in 3床家属魏淑芬.
+    bool isNumberBeforeName(std::size_t at) const
+    {
+        const Token &token = m_tokens[at];
+        return token.kind == Token::Kind::Number && token.length <= 2 && at + 1 < m_tokens.size() &&
+               m_tokens[at + 1].kind == Token::Kind::Other && m_tokens[at + 1].position == token.end();
+    }
+
     /// The last token of the run of characters that begins at @p at: 关羽 is a word and a character.
     std::size_t lastOfRun(std::size_t at, std::size_t limit) const
     {
         while (at + 1 < m_tokens.size() && at < limit && !m_tokens[at + 1].inTopic &&
-               (m_tokens[at + 1].kind == Token::Kind::Other || isSmallWordInName(at + 1))) {
+               (m_tokens[at + 1].kind == Token::Kind::Other || isSmallWordInName(at + 1) ||
+                isPlainBeforeName(at + 1))) {
             ++at;
         }
         return at;
@@ -248,7 +273,8 @@ private:
                 at = takeKnownName(at);
             } else if (token.kind == Token::Kind::Latin) {
                 at = takeLatinName(at);
-            } else if (token.kind == Token::Kind::Other || isSmallWordInName(at)) {
+            } else if (token.kind == Token::Kind::Other || isSmallWordInName(at) || isPlainBeforeName(at) ||
+                       isNumberBeforeName(at)) {
                 at = takeRun(at, mustLookLikeName || afterComma || followsName(at));
             } else if (token.is(WordClass::Punctuation) && m_text.at(token.position) == QLatin1Char(',')) {
                 afterComma = true;
@@ -305,12 +331,24 @@ private:
             addOne(m_text.indexOf(name, start), name.size(), true);
             return last;
         }
-        const bool nameFollows =
-            last + 1 < m_tokens.size() &&
-            (m_tokens[last + 1].kind == Token::Kind::Name || m_tokens[last + 1].kind == Token::Kind::Latin);
-        if (nameFollows && isModifier(m_text.mid(start, end - start))) {
+        const QString run = m_text.mid(start, end - start);
+        const std::size_t next = last + 1;
+        const bool nameFollows = next < m_tokens.size() && (m_tokens[next].kind == Token::Kind::Name ||
+                                                            m_tokens[next].kind == Token::Kind::Latin);
+        if (nameFollows && isModifier(run)) {
             m_modifierStart = start;
             return last;
+        }
+        // 外包那个Sergey, 鉴定人贾博文
+        static const QString pointers = QStringLiteral("那个这个那位这位人成员");
+        const bool pointed =
+            next + 1 < m_tokens.size() && m_tokens[next].isAny(WordClass::Filler | WordClass::Nobody) &&
+            pointers.contains(m_text.mid(m_tokens[next].position, m_tokens[next].length)) &&
+            (m_tokens[next + 1].kind == Token::Kind::Name || m_tokens[next + 1].kind == Token::Kind::Latin ||
+             m_tokens[next + 1].kind == Token::Kind::Other);
+        if (pointed && !isPersonsName(run)) {
+            m_modifierStart = start;
+            return next;
         }
         addChunk(start, end, mustLookLikeName, true);
         return last;
@@ -335,7 +373,9 @@ private:
         const bool nameFollows =
             last + 1 < m_tokens.size() &&
             (m_tokens[last + 1].kind == Token::Kind::Name || m_tokens[last + 1].kind == Token::Kind::Other);
-        if (nameFollows && isModifier(name)) {
+        const bool belongs = last + 2 < m_tokens.size() && m_tokens[last + 1].kind == Token::Kind::Other &&
+                             m_text.at(m_tokens[last + 1].position) == QChar(u'的'); // PMO的Grace
+        if (nameFollows && (isModifier(name) || belongs)) {
             return last;
         }
         addOne(start, name.size(), true);

@@ -107,6 +107,11 @@ bool isPersonsName(const QString &text)
     if (startsTwoCharacterSurname(text)) {
         return text.size() == 3 || text.size() == 4;
     }
+    // 小鹿姐
+    if (text.size() == 3 && prefixes.contains(text.at(0)) &&
+        Lexicon::instance().classesOf(text.right(1)).has(WordClass::Title)) {
+        return true;
+    }
     return (text.size() == 2 && prefixes.contains(text.at(0))) ||
            ((text.size() == 2 || text.size() == 3) && isSurname(text.at(0)));
 }
@@ -167,7 +172,9 @@ QString withoutParticles(const QString &text)
     while (end - start > 2 && leading.contains(text.at(start))) {
         ++start;
     }
-    while (end - start > 2 && trailing.contains(text.at(end - 1))) {
+    // 林可可 keeps both.
+    while (end - start > 2 && trailing.contains(text.at(end - 1)) &&
+           !(end - start == 3 && text.at(end - 1) == text.at(end - 2))) {
         --end;
     }
     const QString rest = text.mid(start, end - start);

@@ -121,6 +121,15 @@ NumberMatch readQuantity(const QString &text, int position)
     return readMultiplied(text, position);
 }
 
+/// 两 in 三两四: a digit beside others.
+static bool isTwoInString(const QString &text, int at, int end, int start)
+{
+    if (text.at(at) != two) {
+        return false;
+    }
+    return at > start ? end == at : at + 1 < text.size() && digitValue(text.at(at + 1)) >= 0;
+}
+
 int digitStringEnd(const QString &text, int position)
 {
     int end = position;
@@ -133,7 +142,7 @@ int digitStringEnd(const QString &text, int position)
         if (repeated) {
             at += 3;
             end = at;
-        } else if (digitValue(character) >= 0) {
+        } else if (digitValue(character) >= 0 || isTwoInString(text, at, end, position)) {
             end = ++at;
         } else if (end > position && (character == QLatin1Char(' ') || character == QLatin1Char('-'))) {
             ++at;
@@ -155,8 +164,8 @@ QString digitString(const QString &said)
             digitValue(said.at(at + 2)) >= 0) {
             digits += QString(value, QChar(u'0' + digitValue(said.at(at + 2))));
             at += 2;
-        } else if (digitValue(character) >= 0) {
-            digits += QChar(u'0' + digitValue(character));
+        } else if (value >= 0) {
+            digits += QChar(u'0' + value);
         } else if (character != QLatin1Char(' ')) {
             onlyDigits = onlyDigits && character == QLatin1Char('-');
             digits += character;

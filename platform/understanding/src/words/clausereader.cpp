@@ -76,7 +76,10 @@ bool governsConference(const QString &text, const Tokens &tokens, std::size_t ve
         if (meets && (companions || token.kind == Token::Kind::Other || token.kind == Token::Kind::Latin)) {
             continue;
         }
-        const bool ownName = token.kind == Token::Kind::Other && token.length <= LongestConferenceName;
+        const bool ownName = (token.kind == Token::Kind::Other || token.kind == Token::Kind::Number ||
+                              token.kind == Token::Kind::Latin ||
+                              (token.is(WordClass::Plain) && !token.is(WordClass::Join))) &&
+                             token.length <= LongestConferenceName;
         if (ownName && (described || (at == verb + 1 && text.at(token.position) != QChar(u'的')))) {
             continue;
         }
@@ -99,7 +102,8 @@ bool followsConference(const Tokens &tokens, std::size_t verb)
            tokens[at].isAny(WordClass::Measure | WordClass::OpenParticle | WordClass::Filler)) {
         ++at;
     }
-    if (at == verb + 1 || !isAtClauseEnd(tokens, at)) {
+    const bool afterTime = verb > 0 && tokens[verb - 1].kind == Token::Kind::Time; // 复盘会，明天九点开
+    if ((at == verb + 1 && !afterTime) || !isAtClauseEnd(tokens, at)) {
         return false;
     }
     for (std::size_t before = 0; before < verb; ++before) {

@@ -16,7 +16,8 @@ constexpr int ShortestSpokenNumber = 3; // 一下, 二三 are no numbers yet
 
 bool isLatinLetterOrDigit(QChar character)
 {
-    return character.unicode() < 0x80 && character.isLetterOrNumber();
+    constexpr ushort latinEnd = 0x250; // with accents: Müller
+    return character.unicode() < latinEnd && character.isLetterOrNumber();
 }
 
 class Lexer final

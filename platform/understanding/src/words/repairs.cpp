@@ -1,0 +1,174 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "words/repairs.h"
+
+#include "text/scan.h"
+
+#include <algorithm>
+
+namespace understanding {
+
+namespace {
+
+constexpr int FirstHourOf24 = 13;
+constexpr std::size_t None = static_cast<std::size_t>(-1);
+
+bool isPause(const Token &token)
+{
+    return token.kind == Token::Kind::Space || token.is(WordClass::Punctuation);
+}
+
+bool isCode(const Token &token)
+{
+    return token.kind == Token::Kind::Number || token.kind == Token::Kind::Latin;
+}
+
+bool isNamePart(const Token &token)
+{
+    return token.kind == Token::Kind::Name || token.kind == Token::Kind::Other ||
+           token.is(WordClass::Title) || token.kind == Token::Kind::Latin;
+}
+
+/// The first token behind @p repair that says something: 不对，是四点 and 不对，约小王.
+std::size_t replacementOf(const Tokens &tokens, std::size_t repair)
+{
+    constexpr WordClasses leading = WordClass::Filler | WordClass::LabelLink | WordClass::Trigger |
+                                    WordClass::Repair | WordClass::PasswordLabel | WordClass::IdLabel |
+                                    WordClass::AccountLabel;
+    for (std::size_t at = repair + 1; at < tokens.size(); ++at) {
+        if (!isPause(tokens[at]) && !tokens[at].isAny(leading)) {
+            return at;
+        }
+    }
+    return None;
+}
+
+template <typename Holds>
+std::size_t lastBefore(const Tokens &tokens, std::size_t end, Holds holds)
+{
+    for (std::size_t at = end; at > 0; --at) {
+        if (holds(tokens[at - 1])) {
+            return at - 1;
+        }
+    }
+    return None;
+}
+
+/// 明天下午三点, then 四点: the day and the part of the day stay.
+void replaceTime(Token &later, const Token &earlier)
+{
+    TimeExpression rest = earlier.time;
+    if (later.time.hasOffset) {
+        return;
+    }
+    if (later.time.hasClock && later.time.hour >= FirstHourOf24) {
+        rest.part = -1;
+    }
+    rest.hasOffset = false;
+    rest.impossible = false;
+    later.time.complete(rest);
+}
+
+/// Where the name that ends right before @p repair begins; None when no name stands there.
+std::size_t nameBefore(const Tokens &tokens, std::size_t repair)
+{
+    std::size_t end = repair;
+    while (end > 0 && isPause(tokens[end - 1])) {
+        --end;
+    }
+    std::size_t begin = end;
+    while (begin > 0 && isNamePart(tokens[begin - 1])) {
+        --begin;
+    }
+    return begin < end ? begin : None;
+}
+
+/// Marks what @p repair replaces as dropped; true when it replaced something.
+bool repairAt(Tokens &tokens, std::size_t repair, std::vector<bool> &dropped)
+{
+    const std::size_t later = replacementOf(tokens, repair);
+    if (later == None) {
+        return false;
+    }
+    if (tokens[later].kind == Token::Kind::Time) {
+        const std::size_t earlier =
+            lastBefore(tokens, repair, [](const Token &token) { return token.kind == Token::Kind::Time; });
+        if (earlier == None) {
+            return false;
+        }
+        replaceTime(tokens[later], tokens[earlier]);
+        dropped[earlier] = true;
+    } else if (isCode(tokens[later])) {
+        const std::size_t earlier = lastBefore(tokens, repair, isCode);
+        if (earlier == None) {
+            return false;
+        }
+        dropped[earlier] = true;
+    } else if (isNamePart(tokens[later])) {
+        const std::size_t earlier = nameBefore(tokens, repair);
+        if (earlier == None) {
+            return false;
+        }
+        std::fill(dropped.begin() + static_cast<std::ptrdiff_t>(earlier),
+                  dropped.begin() + static_cast<std::ptrdiff_t>(repair), true);
+    } else {
+        return false;
+    }
+    // The repair goes with the pauses around it, so that one clause remains.
+    dropped[repair] = true;
+    for (std::size_t at = repair; at > 0 && (isPause(tokens[at - 1]) || dropped[at - 1]); --at) {
+        dropped[at - 1] = true;
+    }
+    for (std::size_t at = repair + 1; at < later; ++at) {
+        dropped[at] = dropped[at] || isPause(tokens[at]) || tokens[at].is(WordClass::Repair);
+    }
+    return true;
+}
+
+/// Makes 改成 a repair where no conference that exists is spoken of.
+void settleChanges(const QString &text, Tokens &tokens)
+{
+    bool opened = false;
+    bool spokenOf = false;
+    for (Token &token : tokens) {
+        const bool becomes = firstOf(text, token.position, {u"改成", u"改为", u"换成"}) == token.length;
+        if (token.is(WordClass::Change) && becomes && (opened || !spokenOf)) {
+            token.classes = WordClass::Repair;
+        }
+        opened = opened || (token.isAny(WordClass::StrongOpen | WordClass::WeakOpen) &&
+                            charAt(text, token.end()) != QChar(u'的'));
+        spokenOf = spokenOf || token.is(WordClass::Conference);
+    }
+}
+
+} // namespace
+
+void applyRepairs(const QString &text, Tokens &tokens)
+{
+    settleChanges(text, tokens);
+    const bool repairs = std::any_of(tokens.cbegin(), tokens.cend(),
+                                     [](const Token &token) { return token.is(WordClass::Repair); });
+    if (!repairs) {
+        return;
+    }
+    constexpr int most = 8; // nobody repairs a sentence more often; keeps hostile ones linear
+    std::vector<bool> dropped(tokens.size(), false);
+    int count = 0;
+    for (std::size_t at = 0; at < tokens.size() && count < most; ++at) {
+        if (tokens[at].is(WordClass::Repair) && !dropped[at]) {
+            repairAt(tokens, at, dropped);
+            ++count;
+        }
+    }
+    Tokens kept;
+    kept.reserve(tokens.size());
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        if (!dropped[at]) {
+            kept.push_back(std::move(tokens[at]));
+        }
+    }
+    tokens = std::move(kept);
+}
+
+} // namespace understanding

@@ -9,6 +9,8 @@
 #include <QtTest>
 
 #include <functional>
+#include <future>
+#include <thread>
 
 using Arrange = std::function<void(SampleWorld &)>;
 using Parameters = std::function<QJsonObject(SampleWorld &)>;
@@ -150,6 +152,9 @@ private Q_SLOTS:
     void aClockThatIsSetBackLocksNobodyOut();
     void aCreationThatWasRefusedDoesNotCount();
     void namesThatWereAskedForComeBackClean();
+    void aRequestThatIsTooLateChangesNothing();
+    void aRequestThatTakesTooLongIsUndone();
+    void itIsKnownWhatWasPerformed();
     void whoMustLogInSeesTheWindow();
     void openingTheListShowsTheWindow();
     void aSearchWithoutParametersFindsEverythingFromNowOn();
@@ -765,6 +770,60 @@ void TestActions::aCreationThatWasRefusedDoesNotCount()
     QCOMPARE(ret(world.ask(Create, membersNamed({QStringLiteral("张伟")}))), QStringLiteral("Return"));
     QCOMPARE(ret(world.ask(Create, membersNamed({QStringLiteral("市场部张伟")}))), QStringLiteral("OK"));
     QCOMPARE(ret(world.ask(Create)), QStringLiteral("Conference Create Too Frequently"));
+}
+
+void TestActions::aRequestThatIsTooLateChangesNothing()
+{
+    SampleWorld world;
+    const QJsonObject before = world.snapshot();
+    QSignalSpy changed(&world.book, &ContactsBook::changed);
+    const qint64 now = RequestTicket::nowMsecs();
+    QVERIFY(world.book.perform(Create, QString(), {now, QStringLiteral("late")}).isNull());
+    QVERIFY(!world.book.wasPerformed(QStringLiteral("late")));
+    QCOMPARE(world.snapshot(), before);
+    QCOMPARE(changed.count(), 0);
+    QVERIFY(!world.book.perform(Create, QString(), {now + 60000, QStringLiteral("in time")}).isNull());
+    QVERIFY(world.book.wasPerformed(QStringLiteral("in time")));
+}
+
+void TestActions::aRequestThatTakesTooLongIsUndone()
+{
+    SampleWorld world;
+    const QJsonObject before = world.snapshot();
+    const QString file = world.folder.filePath(QStringLiteral("contacts.db"));
+    std::promise<void> locked;
+    // Somebody else writes until the deadline has passed.
+    std::thread other([&file, &locked] {
+        const Database database(file);
+        const Transaction transaction(database.handle());
+        locked.set_value();
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    });
+    locked.get_future().wait();
+    const QString answer =
+        world.book.perform(Create, QString(), {RequestTicket::nowMsecs() + 100, QStringLiteral("slow")});
+    other.join();
+    QVERIFY2(answer.isNull(), qPrintable(answer));
+    QCOMPARE(world.snapshot(), before);
+    QVERIFY(!world.book.wasPerformed(QStringLiteral("slow")));
+}
+
+void TestActions::itIsKnownWhatWasPerformed()
+{
+    SampleWorld world;
+    const auto perform = [&world](const QString &action, const QString &id) {
+        return ret(QJsonDocument::fromJson(world.book.perform(action, QString(), {0, id}).toUtf8()).object());
+    };
+    // What changes nothing need not be known.
+    QCOMPARE(perform(Search, QStringLiteral("search")), QStringLiteral("OK"));
+    QVERIFY(!world.book.wasPerformed(QStringLiteral("search")));
+    QCOMPARE(perform(Create, QStringLiteral("first")), QStringLiteral("OK"));
+    for (int i = 0; i < 1000; ++i) {
+        QVERIFY(world.book.wasPerformed(QStringLiteral("first")));
+        world.book.session().notePerformed(QString::number(i));
+    }
+    QVERIFY(!world.book.wasPerformed(QStringLiteral("first")));
+    QVERIFY(world.book.wasPerformed(QStringLiteral("999")));
 }
 
 void TestActions::whoMustLogInSeesTheWindow()

@@ -5,6 +5,7 @@
 #include "cardpicture.h"
 #include "cardsummary.h"
 #include "cleantext.h"
+#include "correction.h"
 #include "inputhistory.h"
 #include "linereader.h"
 #include "replyjson.h"
@@ -36,6 +37,7 @@ private Q_SLOTS:
     void cardIsDescribedInTheReply();
     void textsWrapByTheirWidthInATerminal();
     void traceIsReadAsARequest();
+    void whatWasDoneAfterAllIsSaidWithTheNextAnswer();
     void cardIsSummarisedRowByRow();
 };
 
@@ -180,8 +182,27 @@ void TestHostPieces::traceIsReadAsARequest()
     QCOMPARE(call.parameters, QStringLiteral("{\"a\":1}"));
     QCOMPARE(call.code, -16020);
     QCOMPARE(call.msecs, 12.5);
+    QVERIFY(!call.isPerformedAfterAll);
+    record.text = QStringLiteral(R"({"action":"Create Conference","performedAfterAll":true})");
+    QVERIFY(AbilityCall::read(record, call));
+    QVERIFY(call.isPerformedAfterAll);
     record.category = "default";
     QVERIFY(!AbilityCall::read(record, call));
+}
+
+void TestHostPieces::whatWasDoneAfterAllIsSaidWithTheNextAnswer()
+{
+    Reply reply;
+    reply.displayText = QStringLiteral("好的。");
+    reply.speechText = QStringLiteral("好的");
+    correctFormerTurns({}, reply);
+    QCOMPARE(reply.displayText.toString(), QStringLiteral("好的。"));
+    correctFormerTurns({QStringLiteral("Create Conference"), QStringLiteral("Fly")}, reply);
+    QCOMPARE(reply.displayText.toString(),
+             QStringLiteral("更正：之前没有等到答复的“创建会议”其实已经完成。"
+                            "更正：之前没有等到答复的“Fly”其实已经完成。好的。"));
+    QVERIFY(reply.speechText.toString().startsWith(QStringLiteral("更正：")));
+    QVERIFY(reply.speechText.toString().endsWith(QStringLiteral("好的")));
 }
 
 void TestHostPieces::cardIsSummarisedRowByRow()

@@ -9,10 +9,14 @@
 
 #include <unistd.h>
 
-QString ScriptedRequests::Request(const QString &action, const QString &parameters)
+QString ScriptedRequests::Request(const QString &action, const QString &parameters, qlonglong deadlineMsecs,
+                                  const QString &requestId)
 {
     if (action == QLatin1String("Echo")) {
         return parameters;
+    }
+    if (action == QLatin1String("Deadline")) {
+        return QString::number(deadlineMsecs);
     }
     if (action == QLatin1String("Die")) {
         _exit(0);
@@ -32,8 +36,14 @@ QString ScriptedRequests::Request(const QString &action, const QString &paramete
         }
         bus.send(request.createReply(arguments));
     } else if (action == QLatin1String("Late")) {
+        m_performed.insert(requestId);
         QTimer::singleShot(parameters.toInt(), Qt::PreciseTimer, this,
                            [request, bus] { bus.send(request.createReply(QStringLiteral("late"))); });
     }
     return {};
+}
+
+bool ScriptedRequests::WasPerformed(const QString &requestId)
+{
+    return m_performed.contains(requestId);
 }

@@ -5,10 +5,12 @@
 
 #include <QDBusContext>
 #include <QObject>
+#include <QSet>
 
 /// An application that does with a request what the request's action says, for the ability library's tests:
-/// "Echo" answers with the parameters, "Late" after as many milliseconds as they say, "Never" not at all,
-/// "Fail" with an error, "Malform" with a number, "Die" ends the process at once.
+/// "Echo" answers with the parameters, "Deadline" with the request's own, "Late" is performed at once and
+/// answers after as many milliseconds as the parameters say, "Never" does not answer, "Fail" does with an
+/// error, "Malform" with arguments of the types that the parameters name, "Die" ends the process at once.
 class ScriptedRequests : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -17,5 +19,10 @@ public:
     using QObject::QObject;
 
 public Q_SLOTS:
-    QString Request(const QString &action, const QString &parameters);
+    QString Request(const QString &action, const QString &parameters, qlonglong deadlineMsecs,
+                    const QString &requestId);
+    bool WasPerformed(const QString &requestId);
+
+private:
+    QSet<QString> m_performed;
 };

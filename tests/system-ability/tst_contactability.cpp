@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <ctime>
 #include <limits>
 #include <memory>
 #include <thread>
@@ -94,6 +95,9 @@ private Q_SLOTS:
     void everyTimeOutIsCarried_data();
     void everyTimeOutIsCarried();
     void aThousandRequestsMayWait();
+    void theDeadlineTravelsWithTheRequest();
+    void whatWasPerformedAfterAllIsTold();
+    void whatWasNotPerformedIsNotTold();
 };
 
 void TestContactAbility::failures_data()
@@ -349,17 +353,62 @@ void TestContactAbility::aThousandRequestsMayWait()
     QDBusMessage message = QDBusMessage::createMethodCall(
         QStringLiteral("com.kelvane.meetlynx"), QStringLiteral("/com/kelvane/meetlynx"),
         QStringLiteral("com.kelvane.meetlynx.Contact1"), QStringLiteral("Request"));
-    message.setArguments({QStringLiteral("Never"), QString()});
+    message.setArguments({QStringLiteral("Never"), QString(), qint64(0), QString()});
     std::vector<QDBusPendingCall> calls;
     for (int i = 0; i < Requests; ++i) {
         calls.push_back(bus.asyncCall(message, 60000));
     }
     // Comes after them all on the same connection.
-    message.setArguments({QStringLiteral("Echo"), QStringLiteral("last")});
+    message.setArguments({QStringLiteral("Echo"), QStringLiteral("last"), qint64(0), QString()});
     QCOMPARE(bus.call(message, QDBus::Block, 10000).type(), QDBusMessage::ReplyMessage);
     const auto failed = std::count_if(calls.cbegin(), calls.cend(),
                                       [](const QDBusPendingCall &call) { return call.isFinished(); });
     QCOMPARE(int(failed), 0);
+}
+
+void TestContactAbility::theDeadlineTravelsWithTheRequest()
+{
+    const auto monotonicMsecs = [] {
+        timespec now{};
+        clock_gettime(CLOCK_MONOTONIC, &now);
+        return qint64(now.tv_sec) * 1000 + now.tv_nsec / 1000000;
+    };
+    const Running application(scripted());
+    QVERIFY(application.isReady());
+    for (const int timeoutMsecs : {500, 5000, std::numeric_limits<int>::max()}) {
+        const qint64 before = monotonicMsecs();
+        const Asked asked = ask(QStringLiteral("Deadline"), {}, timeoutMsecs);
+        QCOMPARE(asked.code, 0);
+        const qint64 deadline = asked.answer.toLongLong();
+        // Before the caller stops waiting, and not by much.
+        QVERIFY(deadline < monotonicMsecs() + timeoutMsecs);
+        QVERIFY(deadline >= before + timeoutMsecs - qMin(50, timeoutMsecs / 20) - 1);
+    }
+}
+
+void TestContactAbility::whatWasPerformedAfterAllIsTold()
+{
+    const QString told = QStringLiteral("{\"action\":\"Late\",\"performedAfterAll\":true}");
+    const Running application(scripted());
+    QVERIFY(application.isReady());
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    QCOMPARE(ask(QStringLiteral("Late"), QStringLiteral("300"), 100).code, int(AbilityCode::TimedOut));
+    QVERIFY(!log.contains(QtWarningMsg, told));
+    QCOMPARE(ask(QStringLiteral("Echo")).code, 0);
+    QVERIFY(log.contains(QtWarningMsg, told));
+    QCOMPARE(log.find(told).category, QByteArray("kelvane.ability"));
+    QCOMPARE(ask(QStringLiteral("Echo")).code, 0);
+    QCOMPARE(log.texts(QtWarningMsg).count(told), 1);
+}
+
+void TestContactAbility::whatWasNotPerformedIsNotTold()
+{
+    const Running application(scripted());
+    QVERIFY(application.isReady());
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    QCOMPARE(ask(QStringLiteral("Never"), {}, 100).code, int(AbilityCode::TimedOut));
+    QCOMPARE(ask(QStringLiteral("Echo")).code, 0);
+    QCOMPARE(log.texts(QtWarningMsg).size(), 1);
 }
 
 QTEST_GUILESS_MAIN(TestContactAbility)

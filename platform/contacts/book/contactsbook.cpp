@@ -40,8 +40,12 @@ ContactsBook::ContactsBook(const QString &databaseFile, Clock clock, QObject *pa
     transaction.commit();
 }
 
-QString ContactsBook::perform(const QString &action, const QString &parameters)
+QString ContactsBook::perform(const QString &action, const QString &parameters, const RequestTicket &ticket)
 {
+    if (ticket.hasPassed()) {
+        qInfo() << "Action" << action << "came too late and is not performed";
+        return {};
+    }
     const Action *known = findAction(action);
     if (!known) {
         return toText(answerWord(Outcome::UnknownAction));
@@ -50,6 +54,7 @@ QString ContactsBook::perform(const QString &action, const QString &parameters)
         const RequestParameters request(parameters);
         bool windowWanted = false;
         const qint64 writtenBefore = m_database.writtenRows();
+        bool hasWritten = false;
         QJsonObject answer;
         {
             Transaction transaction(m_database.handle());
@@ -64,9 +69,18 @@ QString ContactsBook::perform(const QString &action, const QString &parameters)
             } else {
                 answer = known->handler(context, request);
             }
+            hasWritten = m_database.writtenRows() != writtenBefore;
+            if (hasWritten && !ticket.id.isEmpty()) {
+                m_session.notePerformed(ticket.id);
+            }
+            // As late as can be: whoever has stopped waiting has been told that nothing was done.
+            if (ticket.hasPassed()) {
+                qInfo() << "Action" << action << "took too long and is undone";
+                return {};
+            }
             transaction.commit();
         }
-        if (m_database.writtenRows() != writtenBefore) {
+        if (hasWritten) {
             Q_EMIT changed();
         }
         if (windowWanted) {
@@ -79,6 +93,16 @@ QString ContactsBook::perform(const QString &action, const QString &parameters)
     } catch (const std::exception &error) {
         qCritical() << "Action" << action << "failed:" << error.what();
         return toText(answerWord(Outcome::InternalError));
+    }
+}
+
+bool ContactsBook::wasPerformed(const QString &requestId) const
+{
+    try {
+        return m_session.wasPerformed(requestId);
+    } catch (const std::exception &error) {
+        qCritical() << "It cannot be told what was performed:" << error.what();
+        return false;
     }
 }
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "book/requestticket.h"
 #include "core/conferencerepository.h"
 #include "core/database.h"
 #include "core/peoplerepository.h"
@@ -27,9 +28,11 @@ public:
     /// Opens the database, and loads the sample directory into a fresh one. Throws DatabaseError.
     explicit ContactsBook(const QString &databaseFile, Clock clock = {}, QObject *parent = nullptr);
 
-    /// Performs one action and answers with a JSON object, whatever came in. What it did is on disk then.
-    /// Never throws.
-    QString perform(const QString &action, const QString &parameters);
+    /// Performs one action and answers with a JSON object, whatever came in. What it did is on disk then. A
+    /// null text when the ticket's deadline has passed; then nothing has changed. Never throws.
+    QString perform(const QString &action, const QString &parameters, const RequestTicket &ticket = {});
+    /// Whether the request of that id has changed something. Never throws.
+    bool wasPerformed(const QString &requestId) const;
 
     /// Runs @p change in a transaction of its own and tells who shows the state. Does not throw: false when
     /// it fails, and then nothing has changed; also when @p change answers false.

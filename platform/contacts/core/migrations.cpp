@@ -72,10 +72,24 @@ QStringList firstVersion()
     };
 }
 
+/// Which requests have been carried out, what the user has to be told, and remarks that are found by their
+/// name.
+QStringList secondVersion()
+{
+    return {
+        QStringLiteral("CREATE TABLE performed_request ("
+                       " id INTEGER PRIMARY KEY AUTOINCREMENT,"
+                       " request_id TEXT NOT NULL UNIQUE"
+                       ")"),
+        QStringLiteral("CREATE TABLE notice (id INTEGER PRIMARY KEY CHECK (id = 1), text TEXT NOT NULL)"),
+        QStringLiteral("CREATE INDEX contact_by_remark ON contact(owner_id, remark_name)"),
+    };
+}
+
 } // namespace
 
 const QVector<QStringList> &databaseMigrations()
 {
-    static const QVector<QStringList> steps{firstVersion()};
+    static const QVector<QStringList> steps{firstVersion(), secondVersion()};
     return steps;
 }

@@ -26,6 +26,8 @@ public:
     /// Those of @p ownerId's contacts who can be invited as @p name: it is their name or the owner's remark
     /// for them.
     QVector<Person> contactsByName(const QString &ownerId, const QString &name) const;
+    /// The statement behind it, for a look at its plan.
+    static QString contactsByNameSql();
     std::optional<Person> contactByUserId(const QString &ownerId, const QString &userId) const;
     QVector<Person> contacts(const QString &ownerId) const;
     Friendship friendship(const QString &ownerId, const QString &personId) const;

@@ -70,6 +70,37 @@ void SessionRepository::setSeeded()
     setNumber(QStringLiteral("UPDATE session SET seeded = ?"), 1);
 }
 
+void SessionRepository::notePerformed(const QString &requestId)
+{
+    constexpr int KnownRequests = 1000;
+    Statement insert(m_database,
+                     QStringLiteral("INSERT OR IGNORE INTO performed_request (request_id) VALUES (?)"));
+    insert.bind(requestId).run();
+    Statement(m_database, QStringLiteral("DELETE FROM performed_request WHERE id <= ?"))
+        .bind(insert.lastInsertId() - KnownRequests)
+        .run();
+}
+
+bool SessionRepository::wasPerformed(const QString &requestId) const
+{
+    Statement query(m_database, QStringLiteral("SELECT 1 FROM performed_request WHERE request_id = ?"));
+    return query.bind(requestId).run().next();
+}
+
+QString SessionRepository::notice() const
+{
+    Statement query(m_database, QStringLiteral("SELECT text FROM notice"));
+    return query.run().next() ? query.text(0) : QString();
+}
+
+void SessionRepository::setNotice(const QString &text)
+{
+    Statement(m_database, QStringLiteral("DELETE FROM notice")).run();
+    if (!text.isEmpty()) {
+        Statement(m_database, QStringLiteral("INSERT INTO notice (id, text) VALUES (1, ?)")).bind(text).run();
+    }
+}
+
 void SessionRepository::reset()
 {
     Statement(m_database, QStringLiteral("DELETE FROM session")).run();

@@ -32,6 +32,14 @@ public:
     bool isSeeded() const;
     void setSeeded();
 
+    /// Notes that the request of that id has been carried out; the last 1000 are known.
+    void notePerformed(const QString &requestId);
+    bool wasPerformed(const QString &requestId) const;
+
+    /// What the user has to be told about the database, until they have read it; empty for nothing.
+    QString notice() const;
+    void setNotice(const QString &text);
+
     /// Nobody logged in, limits as they come.
     void reset();
 

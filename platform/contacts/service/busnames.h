@@ -19,4 +19,8 @@ inline QString adminPath()
 {
     return QStringLiteral("/com/kelvane/meetlynx/admin");
 }
+inline QString deadlinePassedError()
+{
+    return QStringLiteral("com.kelvane.meetlynx.Error.DeadlinePassed");
+}
 } // namespace BusName

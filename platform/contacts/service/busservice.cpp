@@ -4,6 +4,7 @@
 #include "service/busservice.h"
 
 #include "book/administration.h"
+#include "book/requestticket.h"
 #include "service/busnames.h"
 #include "service/contactrequests.h"
 
@@ -69,7 +70,8 @@ void BusService::askOtherForWindow()
     QDBusMessage message = QDBusMessage::createMethodCall(BusName::service(), BusName::contactPath(),
                                                           QStringLiteral("com.kelvane.meetlynx.Contact1"),
                                                           QStringLiteral("Request"));
-    message << QStringLiteral("Open Conference List") << QString();
+    const qint64 deadlineMsecs = RequestTicket::nowMsecs() + TimeoutMsecs;
+    message << QStringLiteral("Open Conference List") << QString() << deadlineMsecs << QString();
     const QDBusMessage reply = m_connection.call(message, QDBus::Block, TimeoutMsecs);
     if (reply.type() == QDBusMessage::ErrorMessage) {
         qWarning() << "The running application cannot be asked for its window:" << reply.errorMessage();

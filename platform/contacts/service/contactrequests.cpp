@@ -4,10 +4,23 @@
 #include "service/contactrequests.h"
 
 #include "book/contactsbook.h"
+#include "service/busnames.h"
 
 ContactRequests::ContactRequests(ContactsBook &book, QObject *parent) : QObject(parent), m_book(book) {}
 
-QString ContactRequests::Request(const QString &action, const QString &parameters)
+QString ContactRequests::Request(const QString &action, const QString &parameters, qlonglong deadlineMsecs,
+                                 const QString &requestId)
 {
-    return m_book.perform(action, parameters);
+    constexpr int LongestId = 64;
+    const QString answer = m_book.perform(action, parameters, {deadlineMsecs, requestId.left(LongestId)});
+    if (answer.isNull() && calledFromDBus()) {
+        sendErrorReply(BusName::deadlinePassedError(),
+                       QStringLiteral("the deadline has passed; nothing was done"));
+    }
+    return answer;
+}
+
+bool ContactRequests::WasPerformed(const QString &requestId)
+{
+    return m_book.wasPerformed(requestId);
 }

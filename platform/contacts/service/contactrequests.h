@@ -3,12 +3,13 @@
 
 #pragma once
 
+#include <QDBusContext>
 #include <QObject>
 
 class ContactsBook;
 
 /// The object behind com.kelvane.meetlynx.Contact1: hands every request to the book. On the book's thread.
-class ContactRequests : public QObject
+class ContactRequests : public QObject, protected QDBusContext
 {
     Q_OBJECT
 
@@ -17,7 +18,9 @@ public:
     explicit ContactRequests(ContactsBook &book, QObject *parent = nullptr);
 
 public Q_SLOTS:
-    QString Request(const QString &action, const QString &parameters);
+    QString Request(const QString &action, const QString &parameters, qlonglong deadlineMsecs,
+                    const QString &requestId);
+    bool WasPerformed(const QString &requestId);
 
 private:
     ContactsBook &m_book;

@@ -27,6 +27,7 @@ bool AbilityCall::read(const LogRecord &record, AbilityCall &call)
     call.answer = trace.value(QLatin1String("answer")).toString();
     call.code = trace.value(QLatin1String("code")).toInt();
     call.msecs = trace.value(QLatin1String("ms")).toDouble();
+    call.isPerformedAfterAll = trace.value(QLatin1String("performedAfterAll")).toBool();
     return true;
 }
 

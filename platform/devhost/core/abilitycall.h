@@ -17,6 +17,8 @@ struct AbilityCall
     QString answer;     ///< JSON; empty when the call failed
     int code = 0;
     double msecs = 0;
+    /// Not a request of this turn: a former one, said to have failed, was carried out after all.
+    bool isPerformedAfterAll = false;
 
     /// The log category of the trace. The host switches it on.
     static QString category();

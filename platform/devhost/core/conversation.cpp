@@ -4,6 +4,7 @@
 #include "conversation.h"
 
 #include "cleantext.h"
+#include "correction.h"
 #include "logrecorder.h"
 #include "secrets.h"
 
@@ -149,22 +150,26 @@ void Conversation::takeResult(const TurnResult &result)
         end(result.failure);
         return;
     }
-    turn.code = result.reply.code.toInt();
-    turn.display = cleanText(result.reply.displayText.toString());
-    turn.speech = cleanText(result.reply.speechText.toString());
+    collectLogs(id);
+    Reply reply = result.reply;
+    correctFormerTurns(turn.performedAfterAll, reply);
+    turn.code = reply.code.toInt();
+    turn.display = cleanText(reply.displayText.toString());
+    turn.speech = cleanText(reply.speechText.toString());
     turn.type = result.reply.type;
     turn.endOfSession = result.reply.endOfSession;
     if (const QWidget *card = cardOf(result.reply)) {
         turn.cardClass = QString::fromLatin1(card->metaObject()->className());
     }
     if (m_runningIsSentence) {
-        m_dialogue.noteReply(turn.code, turn.display);
+        // What the plugin itself says; a correction is about another turn.
+        m_dialogue.noteReply(turn.code, cleanText(result.reply.displayText.toString()));
     }
     if (result.isUnread() && turn.display.isEmpty()) {
         end(QStringLiteral("The plugin cannot read this as a semantic JSON (service() answered -100)."));
         return;
     }
-    Q_EMIT replied(id, result.reply);
+    Q_EMIT replied(id, reply);
     end(QString());
 }
 
@@ -202,7 +207,9 @@ void Conversation::collectLogs(int turn)
     for (const LogRecord &record : records) {
         AbilityCall call;
         if (AbilityCall::read(record, call)) {
-            if (entry->calls.size() < MostRecords) {
+            if (call.isPerformedAfterAll) {
+                entry->performedAfterAll.append(call.action);
+            } else if (entry->calls.size() < MostRecords) {
                 entry->calls.append(call);
             }
         } else if (entry->logs.size() < MostRecords) {

@@ -7,6 +7,7 @@
 #include "logrecord.h"
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 namespace devhost {
@@ -30,6 +31,7 @@ struct Turn
     QString failure;   ///< why there is no reply; empty when there is one
     QVector<AbilityCall> calls;
     QVector<LogRecord> logs;
+    QStringList performedAfterAll; ///< actions of former turns; said in this turn's answer
 
     // Milliseconds.
     double understandingMsecs = 0;

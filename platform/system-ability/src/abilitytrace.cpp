@@ -33,6 +33,12 @@ void AbilityTrace::finish(int code, const QString &answer) const
     qCDebug(ability, "%s", QJsonDocument(record).toJson(QJsonDocument::Compact).constData());
 }
 
+void AbilityTrace::tellPerformedAfterAll(const QString &action)
+{
+    const QJsonObject record{{QStringLiteral("action"), action}, {QStringLiteral("performedAfterAll"), true}};
+    qCWarning(ability, "%s", QJsonDocument(record).toJson(QJsonDocument::Compact).constData());
+}
+
 QString AbilityTrace::withoutPassword(const QString &parameters)
 {
     const QLatin1String key("password");

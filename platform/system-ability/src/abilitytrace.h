@@ -21,6 +21,15 @@ public:
     AbilityTrace(const QString &action, const QString &parameters);
     void finish(int code, const QString &answer) const;
 
+    /**
+     * Says that a request whose caller was told that it failed has been carried out all the same: its answer
+     * came too late, or the application died after it. A warning of the same category, written before the
+     * next request is finished:
+     *
+     *     {"action":"Create Conference","performedAfterAll":true}
+     */
+    static void tellPerformedAfterAll(const QString &action);
+
     /// @p parameters with the value of "password" replaced; as it came when it is no JSON object or has none.
     static QString withoutPassword(const QString &parameters);
 

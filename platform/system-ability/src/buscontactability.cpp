@@ -22,6 +22,9 @@ int BusContactAbility::request(const QString &action, const QString &parameters,
     const auto pending = std::make_shared<PendingRequest>(action, parameters, m_timeoutMsecs);
     BusLink::instance().send(pending);
     const PendingRequest::Result result = pending->wait();
+    if (pending->isUnclear(result.code) && !result.isRefusal) {
+        BusLink::instance().askLater(pending);
+    }
     if (result.code == AbilityCode::Success) {
         answer = result.answer;
     } else {

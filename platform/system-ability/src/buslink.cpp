@@ -3,6 +3,7 @@
 
 #include "buslink.h"
 
+#include "abilitytrace.h"
 #include "callerror.h"
 #include "contact1proxy.h"
 #include "pendingrequest.h"
@@ -21,6 +22,9 @@ namespace {
 /// the application has gone.
 constexpr int GraceMsecs = 1000;
 
+/// So many requests without an answer are remembered.
+constexpr int MostUnclear = 100;
+
 QString serviceName()
 {
     return QStringLiteral("com.kelvane.meetlynx");
@@ -34,7 +38,8 @@ QString objectPath()
 PendingRequest::Result resultOf(const QDBusPendingReply<QString> &reply)
 {
     if (reply.isError()) {
-        return {codeOf(reply.error()), {}, reply.error().name(), reply.error().message()};
+        const int code = codeOf(reply.error());
+        return {code, {}, reply.error().name(), reply.error().message(), code == AbilityCode::TimedOut};
     }
     // A typed reply only looks at as many arguments as it has types.
     const QString signature = reply.reply().signature();
@@ -82,6 +87,36 @@ void BusLink::send(const std::shared_ptr<PendingRequest> &request)
         this, [this, request] { call(request); }, Qt::QueuedConnection);
 }
 
+void BusLink::askLater(const std::shared_ptr<PendingRequest> &request)
+{
+    QMetaObject::invokeMethod(
+        this,
+        [this, request] {
+            m_unclear.append(request);
+            if (m_unclear.size() > MostUnclear) {
+                m_unclear.removeFirst();
+            }
+        },
+        Qt::QueuedConnection);
+}
+
+void BusLink::askWhatBecame()
+{
+    // In front of the next request on the same connection, and so answered before it.
+    for (const std::shared_ptr<PendingRequest> &request : qAsConst(m_unclear)) {
+        auto *watcher = new QDBusPendingCallWatcher(m_proxy->WasPerformed(request->id), this);
+        connect(watcher, &QDBusPendingCallWatcher::finished, this,
+                [this, request](QDBusPendingCallWatcher *finished) {
+                    const QDBusPendingReply<bool> reply = *finished;
+                    // Once, also when two requests have asked.
+                    if (!reply.isError() && m_unclear.removeOne(request) && reply.value()) {
+                        AbilityTrace::tellPerformedAfterAll(request->action);
+                    }
+                    finished->deleteLater();
+                });
+    }
+}
+
 void BusLink::call(const std::shared_ptr<PendingRequest> &request)
 {
     const int remaining = request->remainingMsecs();
@@ -94,7 +129,10 @@ void BusLink::call(const std::shared_ptr<PendingRequest> &request)
         return;
     }
     m_proxy->setTimeout(qMin(remaining, std::numeric_limits<int>::max() - GraceMsecs) + GraceMsecs);
-    auto *watcher = new QDBusPendingCallWatcher(m_proxy->Request(request->action, request->parameters), this);
+    askWhatBecame();
+    request->noteSent();
+    auto *watcher = new QDBusPendingCallWatcher(
+        m_proxy->Request(request->action, request->parameters, request->deadlineMsecs(), request->id), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [request](QDBusPendingCallWatcher *finished) {
         request->finish(resultOf(*finished));
         finished->deleteLater();

@@ -6,6 +6,7 @@
 #include <QDBusConnection>
 #include <QObject>
 #include <QThread>
+#include <QVector>
 
 #include <memory>
 
@@ -28,8 +29,14 @@ public:
     /// Carries the request to its end. Returns at once; any thread.
     void send(const std::shared_ptr<PendingRequest> &request);
 
+    /// The caller of @p request was told that it failed, and it may have been carried out all the same. The
+    /// application is asked before the next request, and if it was, AbilityTrace says so. Returns at once.
+    void askLater(const std::shared_ptr<PendingRequest> &request);
+
 private:
     BusLink();
+
+    void askWhatBecame();
 
     void call(const std::shared_ptr<PendingRequest> &request);
     /// Makes a connection unless there is one that works. @return what is wrong with it, nothing when it
@@ -42,4 +49,5 @@ private:
     QString m_connectionName; ///< empty while there is none
     int m_connectionCount = 0;
     std::unique_ptr<Contact1Proxy> m_proxy;
+    QVector<std::shared_ptr<PendingRequest>> m_unclear;
 };

@@ -19,7 +19,9 @@ struct NamedCode
 };
 
 /// The first prefix that fits counts.
-const std::array<NamedCode, 10> NamedCodes{{
+const std::array<NamedCode, 11> NamedCodes{{
+    // The application kept the deadline that the request carried: nothing was done.
+    {QLatin1String("com.kelvane.meetlynx.Error.DeadlinePassed"), AbilityCode::TimedOut},
     {QLatin1String("org.freedesktop.DBus.Error.ServiceUnknown"), AbilityCode::NoService},
     {QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner"), AbilityCode::NoService},
     {QLatin1String("org.freedesktop.DBus.Error.Spawn."), AbilityCode::NoService},

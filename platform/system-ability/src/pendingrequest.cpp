@@ -5,12 +5,22 @@
 
 #include <kelvane/abilitycodes.h>
 
+#include <QUuid>
+
 #include <algorithm>
+
+namespace {
+
+constexpr int LongestAnswerMsecs = 50;
+
+} // namespace
 
 PendingRequest::PendingRequest(const QString &actionName, const QString &parameterText, int timeoutMsecs)
     : action(actionName)
     , parameters(parameterText)
+    , id(QUuid::createUuid().toString(QUuid::WithoutBraces))
     , m_deadline(Clock::now() + std::chrono::milliseconds(timeoutMsecs))
+    , m_answerTime(qBound(1, timeoutMsecs / 50, LongestAnswerMsecs))
 {
 }
 
@@ -43,4 +53,17 @@ int PendingRequest::remainingMsecs() const
     const auto left =
         std::chrono::duration_cast<std::chrono::milliseconds>(m_deadline - Clock::now()).count();
     return static_cast<int>(std::max<decltype(left)>(left, 0));
+}
+
+qint64 PendingRequest::deadlineMsecs() const
+{
+    return std::chrono::duration_cast<std::chrono::milliseconds>(
+               (m_deadline - m_answerTime).time_since_epoch())
+        .count();
+}
+
+bool PendingRequest::isUnclear(int code) const
+{
+    return m_isSent && (code == AbilityCode::TimedOut || code == AbilityCode::Died ||
+                        code == AbilityCode::MalformedAnswer);
 }

@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <speakmate/reply.h>
+
+#include <QStringList>
+
+namespace devhost {
+
+/// Puts in front of what @p reply shows and says that each of @p actions, which the user was told had failed,
+/// has been carried out after all. Leaves the reply alone when there is none.
+void correctFormerTurns(const QStringList &actions, Reply &reply);
+
+} // namespace devhost

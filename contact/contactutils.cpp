@@ -51,7 +51,7 @@ QString ContactUtils::inviteParamInit(const QVector<QString> &names)
 {
     QVector<QString> spoken = names;
     spoken.removeAll(QString());
-    const QString text = RequestText::inviteMembers(RequestText::membersNamed(spoken));
+    QString text = RequestText::inviteMembers(RequestText::membersNamed(spoken));
     if (QLoggingCategory::defaultCategory()->isDebugEnabled()) {
         // The debug form of the object, without building the object again.
         qDebug().noquote() << "jsonObjMember:" << QStringLiteral("QJsonObject(%1)").arg(text);

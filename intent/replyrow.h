@@ -103,7 +103,7 @@ public:
     /// The text with its arguments, replaced in one go so that a name that contains "%2" stays as it is.
     [[nodiscard]] QString text(const Record &record, const CloudIntent &intent) const
     {
-        const QString text = m_text.toString();
+        QString text = m_text.toString();
         if (m_first == nullptr) {
             return text;
         }

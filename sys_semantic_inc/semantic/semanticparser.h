@@ -32,11 +32,12 @@ public:
         return m_semantic.parse(m_document->object());
     }
 
-    /// The same for an answer that was read already.
+    /// Overload for an answer that is parsed already; reads the intents in place, without a document of their
+    /// own.
     bool parseSemanticDocument(const QJsonDocument &answer)
     {
-        m_document = intentsOf(answer);
-        return m_semantic.parse(m_document->object());
+        m_document = std::make_unique<QJsonDocument>(answer);
+        return m_semantic.parse(answer.object().value(QLatin1String(SemanticKey::Intent)));
     }
 
     [[nodiscard]] const CloudSemantic &semantic() const { return m_semantic; }

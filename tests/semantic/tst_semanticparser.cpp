@@ -127,6 +127,34 @@ private Q_SLOTS:
         QCOMPARE(log.lines(), lines);
     }
 
+    void aParsedAnswerReadsLikeItsText_data()
+    {
+        failuresAreLogged_data();
+        QTest::newRow("two intents") << answerWith(
+                                            R"([{"intent": "A", "slots": [{"name": "n", "value": "v"}]},
+                              {"intent": "B", "slots": []}])")
+                                     << QStringList();
+        QTest::newRow("no array") << answerWith("7") << QStringList();
+    }
+    void aParsedAnswerReadsLikeItsText()
+    {
+        QFETCH(QString, json);
+        QFETCH(QStringList, lines);
+        const LogCapture log(LogCapture::Unexpected::Passes);
+        SemanticParser parser;
+        QCOMPARE(parser.parseSemanticDocument(QJsonDocument::fromJson(json.toUtf8())), lines.isEmpty());
+        QCOMPARE(log.lines(), lines);
+
+        SemanticParser ofText;
+        ofText.parseSemanticJson(json);
+        QCOMPARE(parser.semantic().intents.size(), ofText.semantic().intents.size());
+        for (int at = 0; at < parser.semantic().intents.size(); ++at) {
+            QCOMPARE(parser.semantic().intents.at(at).name, ofText.semantic().intents.at(at).name);
+            QCOMPARE(parser.semantic().intents.at(at).slotList.size(),
+                     ofText.semantic().intents.at(at).slotList.size());
+        }
+    }
+
     void intentsBeforeABrokenOneStay()
     {
         SemanticParser parser;

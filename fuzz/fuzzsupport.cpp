@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "fuzzsupport.h"
+
+#include <QtGlobal>
+
+#include <cstdlib>
+
+const char *pick(FuzzedDataProvider &bytes, Words words)
+{
+    return *(words.begin() + bytes.ConsumeIntegralInRange<size_t>(0, words.size() - 1));
+}
+
+QString anyText(FuzzedDataProvider &bytes, Words words)
+{
+    constexpr int oneIn = 7;
+    constexpr size_t longest = 32;
+    if (bytes.ConsumeIntegralInRange(0, oneIn) != oneIn) {
+        return QString::fromUtf8(pick(bytes, words));
+    }
+    const std::string raw = bytes.ConsumeRandomLengthString(longest);
+    QString text;
+    for (size_t at = 0; at + 1 < raw.size(); at += 2) {
+        text += QChar(static_cast<uchar>(raw[at]), static_cast<uchar>(raw[at + 1]));
+    }
+    return text;
+}
+
+void silenceTheLog()
+{
+    qInstallMessageHandler(
+        [](QtMsgType type, const QMessageLogContext &, const QString &) { require(type != QtFatalMsg); });
+}
+
+void require(bool holds)
+{
+    if (!holds) {
+        std::abort();
+    }
+}

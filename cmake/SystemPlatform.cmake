@@ -4,14 +4,20 @@
 # The platform as the desktop has it installed, under the same target names as the bundled one. CMAKE_PREFIX_PATH leads
 # to it when it is not in the usual places.
 
-# contact_find_platform(TARGET t HEADER h [LIBRARY l]): the imported target t with the headers around h and the library l.
+# contact_find_platform(PACKAGE p TARGET t HEADER h [LIBRARY l]): the imported target t of the CMake package p that is installed
+# beside the header h; on a platform without CMake packages, with the headers around h and the library l.
 function(contact_find_platform)
-    cmake_parse_arguments(PARSE_ARGV 0 arg "" "TARGET;HEADER;LIBRARY" "LINKS")
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" "PACKAGE;TARGET;HEADER;LIBRARY" "LINKS")
     string(MAKE_C_IDENTIFIER "CONTACT_${arg_TARGET}" variable)
     find_path(${variable}_INCLUDE_DIR ${arg_HEADER})
     if(NOT ${variable}_INCLUDE_DIR)
         message(FATAL_ERROR "The installed platform lacks the header <${arg_HEADER}>. "
             "Set CMAKE_PREFIX_PATH to where it is installed, or build with -DCONTACT_PLATFORM=bundled.")
+    endif()
+    find_package(${arg_PACKAGE} CONFIG QUIET NO_DEFAULT_PATH PATHS ${${variable}_INCLUDE_DIR}/..)
+    if(TARGET ${arg_TARGET})
+        message(STATUS "${arg_TARGET} of ${${arg_PACKAGE}_CONFIG}")
+        return()
     endif()
     if(NOT arg_LIBRARY)
         add_library(${arg_TARGET} INTERFACE IMPORTED GLOBAL)
@@ -28,8 +34,8 @@ function(contact_find_platform)
         INTERFACE_INCLUDE_DIRECTORIES ${${variable}_INCLUDE_DIR} INTERFACE_LINK_LIBRARIES "${arg_LINKS}")
 endfunction()
 
-contact_find_platform(TARGET Speakmate::speakmate HEADER speakmate/iserviceplugin.h LINKS Qt5::Core)
-contact_find_platform(TARGET Lumo::lumo HEADER lumo/llabel.h LIBRARY lumo LINKS Qt5::Widgets)
-contact_find_platform(TARGET Kelvane::system-ability HEADER kelvane/kelvaneabilitymanager.h LIBRARY kelvane-system-ability
-    LINKS Qt5::Core)
+contact_find_platform(PACKAGE Speakmate TARGET Speakmate::speakmate HEADER speakmate/iserviceplugin.h LINKS Qt5::Core)
+contact_find_platform(PACKAGE Lumo TARGET Lumo::lumo HEADER lumo/llabel.h LIBRARY lumo LINKS Qt5::Widgets)
+contact_find_platform(PACKAGE KelvaneSystemAbility TARGET Kelvane::system-ability
+    HEADER kelvane/kelvaneabilitymanager.h LIBRARY kelvane-system-ability LINKS Qt5::Core)
 set(SPEAKMATE_MOC_HEADERS ${CONTACT_Speakmate__speakmate_INCLUDE_DIR}/speakmate/iservice.h)

@@ -1,0 +1,37 @@
+# SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+# SPDX-License-Identifier: LGPL-2.1-or-later
+#
+# platform_package(NAME TARGET t NAMESPACE n EXPORT_NAME e HEADERS dir DESCRIPTION text QT components... [LIBRARY l])
+#   Installs what others need to build against a part of the platform: the headers, find_package(NAME) with the target n::e,
+#   and a pkg-config file. LIBRARY is the library's name for pkg-config; without it the part is header-only.
+
+include(CMakePackageConfigHelpers)
+
+function(platform_package name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "TARGET;NAMESPACE;EXPORT_NAME;HEADERS;DESCRIPTION;LIBRARY" "QT")
+    set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${name})
+    set(generated ${CMAKE_CURRENT_BINARY_DIR}/package)
+
+    set_target_properties(${arg_TARGET} PROPERTIES EXPORT_NAME ${arg_EXPORT_NAME})
+    install(TARGETS ${arg_TARGET} EXPORT ${name} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+    install(EXPORT ${name} FILE ${name}Targets.cmake NAMESPACE ${arg_NAMESPACE}:: DESTINATION ${package_dir})
+    install(DIRECTORY ${arg_HEADERS} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+
+    list(JOIN arg_QT " " QT_COMPONENTS)
+    configure_package_config_file(${name}Config.cmake.in ${generated}/${name}Config.cmake
+        INSTALL_DESTINATION ${package_dir} PATH_VARS CMAKE_INSTALL_INCLUDEDIR NO_CHECK_REQUIRED_COMPONENTS_MACRO)
+    write_basic_package_version_file(${generated}/${name}ConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+    install(FILES ${generated}/${name}Config.cmake ${generated}/${name}ConfigVersion.cmake DESTINATION ${package_dir})
+
+    string(TOLOWER ${arg_EXPORT_NAME} pc_name)
+    if(arg_LIBRARY)
+        set(pc_name ${arg_LIBRARY})
+        set(PC_LIBS "Libs: -L\${libdir} -l${arg_LIBRARY}")
+    endif()
+    set(PC_NAME ${name})
+    set(PC_DESCRIPTION ${arg_DESCRIPTION})
+    list(TRANSFORM arg_QT PREPEND Qt5 OUTPUT_VARIABLE pc_requires)
+    list(JOIN pc_requires " " PC_REQUIRES)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/package.pc.in ${generated}/${pc_name}.pc @ONLY)
+    install(FILES ${generated}/${pc_name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endfunction()

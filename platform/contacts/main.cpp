@@ -80,7 +80,7 @@ int serve(QCoreApplication &application, FirstSight firstSight)
 
 int main(int argc, char **argv)
 {
-    const bool withWindow = hasDisplay();
+    const bool withWindow = canShowWindows();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv, withWindow);

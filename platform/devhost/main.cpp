@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "abilitycall.h"
+#include "chinesetexts.h"
 #include "hostapplication.h"
 #include "logrecorder.h"
 #include "options.h"
@@ -27,7 +28,8 @@ void choosePlatform(bool wantsWindow)
     }
 }
 
-bool hasDisplay()
+/// A server is named; whether it answers is Qt's to find out.
+bool isDisplayNamed()
 {
     return !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("DISPLAY") ||
            !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
@@ -50,6 +52,10 @@ void applyTheme(Options::Theme theme)
 
 int run(const Options &options)
 {
+    ChineseTexts texts;
+    if (options.mode == Options::Mode::Window) {
+        QCoreApplication::installTranslator(&texts);
+    }
     LogRecorder logs(options.isVerbose ? LogRecorder::Terminal::Verbose : LogRecorder::Terminal::Quiet);
     QLoggingCategory::setFilterRules(AbilityCall::category() + QStringLiteral(".debug=true"));
     PluginHost host;
@@ -76,7 +82,7 @@ int main(int argc, char **argv)
     }
     const bool wantsWindow = Options::wantsWindow(arguments);
     choosePlatform(wantsWindow);
-    if (wantsWindow && !hasDisplay()) {
+    if (wantsWindow && !isDisplayNamed()) {
         complain(QStringLiteral(
             "There is no display to open a window on. Use --converse or --batch; see --help."));
         return WrongUsage;

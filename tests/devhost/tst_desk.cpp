@@ -12,6 +12,40 @@
 
 using namespace devhost;
 
+namespace {
+
+/// How long after start() a window has painted for the first time.
+class PaintMeter : public QObject
+{
+public:
+    explicit PaintMeter(QWidget &window) { window.installEventFilter(this); }
+
+    void start()
+    {
+        m_msecs = 0;
+        m_timer.start();
+    }
+    double msecs() const { return m_msecs; }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::UpdateRequest || !m_timer.isValid()) {
+            return false;
+        }
+        const bool isHandled = watched->event(event);
+        m_msecs = double(m_timer.nsecsElapsed()) / 1e6;
+        m_timer.invalidate();
+        return isHandled;
+    }
+
+private:
+    QElapsedTimer m_timer;
+    double m_msecs = 0;
+};
+
+} // namespace
+
 /**
  * The whole desk: the real window with the real plugin and the real application on a bus of its own, used as
  * a person would; what came of it is looked up in the application's database.
@@ -184,14 +218,17 @@ void TestDesk::turnsAreFastAndTheWindowDoesNotStall()
     QVector<double> understanding, plugin, request, reply, paint, total;
     QElapsedTimer sinceEnter;
     qint64 replied = 0;
-    connect(&m_desk->conversation(), &Conversation::replied, &m_desk->window(),
-            [&] { replied = sinceEnter.nsecsElapsed(); });
+    PaintMeter paintMeter(m_desk->window());
+    connect(&m_desk->conversation(), &Conversation::replied, &m_desk->window(), [&] {
+        replied = sinceEnter.nsecsElapsed();
+        paintMeter.start();
+    });
     StallMeter meter;
     for (int i = 1; i <= turns; ++i) {
         sinceEnter.start();
         m_desk->say(QStringLiteral("查询今天的会议"));
-        QTRY_VERIFY(m_desk->window().lastPaintMsecs() > 0);
-        total << double(replied) / 1e6 + m_desk->window().lastPaintMsecs();
+        QTRY_VERIFY(paintMeter.msecs() > 0);
+        total << double(replied) / 1e6 + paintMeter.msecs();
         const Turn turn = m_desk->conversation().turn(i);
         QCOMPARE(turn.code, 0);
         QCOMPARE(turn.calls.size(), 1);
@@ -199,7 +236,7 @@ void TestDesk::turnsAreFastAndTheWindowDoesNotStall()
         plugin << turn.serviceMsecs - turn.requestMsecs();
         request << turn.requestMsecs();
         reply << turn.replyMsecs;
-        paint << m_desk->window().lastPaintMsecs();
+        paint << paintMeter.msecs();
     }
     const auto figure = [](QVector<double> values) {
         std::sort(values.begin(), values.end());

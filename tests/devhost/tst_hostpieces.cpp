@@ -4,6 +4,7 @@
 #include "abilitycall.h"
 #include "cardpicture.h"
 #include "cardsummary.h"
+#include "chinesetexts.h"
 #include "cleantext.h"
 #include "correction.h"
 #include "inputhistory.h"
@@ -39,6 +40,7 @@ private Q_SLOTS:
     void traceIsReadAsARequest();
     void whatWasDoneAfterAllIsSaidWithTheNextAnswer();
     void cardIsSummarisedRowByRow();
+    void everyMessageIsThereInChinese();
 };
 
 void TestHostPieces::textsAreShownWithoutWhatHides_data()
@@ -224,6 +226,34 @@ void TestHostPieces::cardIsSummarisedRowByRow()
     QCOMPARE(picture.size(), card.size());
     QCOMPARE(cardSummary(card), QStringList({QStringLiteral("<b>标题</b>"), QStringLiteral("时长  <1小时>"),
                                              QStringLiteral("[确定(O)]")}));
+}
+
+void TestHostPieces::everyMessageIsThereInChinese()
+{
+    const QRegularExpression call(QStringLiteral("\\bmessage\\(\\s*((?:\"(?:[^\"\\\\]|\\\\.)*\"\\s*)+)\\)"));
+    const QRegularExpression joint(QStringLiteral("\"\\s*\""));
+    const ChineseTexts texts;
+    int found = 0;
+    QDirIterator files(QStringLiteral(CONTACT_SOURCE_DIR "/platform/devhost"), {QStringLiteral("*.cpp")},
+                       QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        QFile file(files.next());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        auto calls = call.globalMatch(QString::fromUtf8(file.readAll()));
+        while (calls.hasNext()) {
+            QString english = calls.next().captured(1).trimmed().remove(joint);
+            english =
+                english.mid(1, english.size() - 2).replace(QStringLiteral("\\\""), QStringLiteral("\""));
+            const QString chinese = texts.translate("devhost", english.toUtf8().constData());
+            QVERIFY2(!chinese.isEmpty(), qUtf8Printable(english));
+            for (int place = 1; place <= 3; ++place) {
+                const QString mark = QStringLiteral("%%1").arg(place);
+                QCOMPARE(chinese.contains(mark), english.contains(mark));
+            }
+            ++found;
+        }
+    }
+    QVERIFY2(found >= 20, qPrintable(QString::number(found)));
 }
 
 QTEST_MAIN(TestHostPieces)

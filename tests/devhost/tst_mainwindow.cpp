@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "appearance.h"
+#include "chinesetexts.h"
 #include "conversationview.h"
 #include "inputline.h"
 #include "inspector.h"
@@ -82,6 +83,7 @@ private Q_SLOTS:
     void themeAndFontAreAppliedAndRemembered();
     void defaultThemeIsTheToolkitsNearestToTheSystems();
     void windowRemembersItself();
+    void windowSpeaksChinese();
     void problemIsShown();
     void namesAreShownWithoutWhatHides();
 
@@ -222,7 +224,8 @@ void TestMainWindow::thousandsOfTurnsStayFluid()
     }
     qInfo("6000 bubbles in %lld ms", timer.elapsed());
     QVERIFY2(timer.elapsed() < 15000, qPrintable(QString::number(timer.elapsed())));
-    QVERIFY2(view.bubbleCount() < 100, qPrintable(QString::number(view.bubbleCount())));
+    const int bubbles = view.findChildren<Bubble *>().size();
+    QVERIFY2(bubbles > 5 && bubbles < 100, qPrintable(QString::number(bubbles)));
     timer.restart();
     for (int i = 0; i < 200; ++i) {
         view.verticalScrollBar()->setValue(i * 400);
@@ -269,7 +272,7 @@ void TestMainWindow::inspectorShowsTheTurnAndSendsSemantics()
     QVERIFY(text("inspectorSemantic").contains(QStringLiteral("\"intent\": \"ECHO\"")));
     QVERIFY(text("inspectorReply").contains(QStringLiteral("type      3")));
     QVERIFY(text("inspectorLog").contains(QStringLiteral("debug default: service ECHO on another thread")));
-    QVERIFY(text("inspectorRequests").contains(QStringLiteral("(no requests)")));
+    QVERIFY(text("inspectorRequests").contains(QStringLiteral("（没有请求）")));
 
     desk.window.findChild<QPlainTextEdit *>(QStringLiteral("inspectorEntry"))
         ->setPlainText(semantic("ECHO", QStringLiteral("原样")));
@@ -338,6 +341,33 @@ void TestMainWindow::windowRemembersItself()
     Conversation conversation(host, logs);
     const MainWindow window(conversation, appearance);
     QCOMPARE(window.size(), QSize(777, 555));
+}
+
+void TestMainWindow::windowSpeaksChinese()
+{
+    ChineseTexts texts;
+    QCoreApplication::installTranslator(&texts);
+    PluginHost nothing;
+    QVERIFY(!nothing.load(QStringLiteral("/nowhere.so")));
+    QCOMPARE(nothing.problem().toText(),
+             QStringLiteral("找不到插件 /nowhere.so。\n请检查 --plugin 后面的路径。"));
+    // Qt's own menus too.
+    Desk desk;
+    const std::unique_ptr<QMenu> menu(desk.window.input()->createStandardContextMenu());
+    for (const QAction *action : menu->actions()) {
+        const QString text = action->text().section(QLatin1Char('\t'), 0, 0).section(QLatin1Char('('), 0, 0);
+        QVERIFY2(!text.contains(QRegularExpression(QStringLiteral("[A-Za-z]"))), qUtf8Printable(text));
+    }
+    // And every text that the window itself shows, but names of fields and what plugin authors call so.
+    for (const QLabel *label : desk.window.findChildren<QLabel *>()) {
+        QVERIFY2(!label->text().contains(QRegularExpression(QStringLiteral("[a-z]{2}"))),
+                 qUtf8Printable(label->text()));
+    }
+    for (const QAbstractButton *button : desk.window.findChildren<QAbstractButton *>()) {
+        QVERIFY2(!button->text().contains(QRegularExpression(QStringLiteral("[a-z]{2}"))),
+                 qUtf8Printable(button->text()));
+    }
+    QCoreApplication::removeTranslator(&texts);
 }
 
 void TestMainWindow::problemIsShown()

@@ -65,7 +65,7 @@ bool hasWayland()
 
 } // namespace
 
-bool hasDisplay()
+bool canShowWindows()
 {
     return !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || hasX11() || hasWayland();
 }

@@ -5,4 +5,4 @@
 
 /// Whether a window can be shown: a platform was asked for by name, or a display server answers. Looked at
 /// before the application object exists, because a GUI application without a display server aborts.
-bool hasDisplay();
+bool canShowWindows();

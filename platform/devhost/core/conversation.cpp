@@ -6,8 +6,10 @@
 #include "cleantext.h"
 #include "correction.h"
 #include "logrecorder.h"
+#include "message.h"
 #include "secrets.h"
 
+#include <QDateTime>
 #include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -55,11 +57,6 @@ Conversation::Conversation(PluginHost &host, LogRecorder &logs, QObject *parent)
 void Conversation::setContactNames(const QStringList &names)
 {
     m_dialogue.setContactNames(names);
-}
-
-void Conversation::setClock(std::function<QDateTime()> clock)
-{
-    m_clock = std::move(clock);
 }
 
 int Conversation::say(const QString &text)
@@ -114,7 +111,7 @@ void Conversation::startNext()
     m_turns[m_running].state = Turn::Running;
     Q_EMIT started(m_running);
     if (input.text.size() > LongestInput) {
-        end(QStringLiteral("The text is too long: %1 characters.").arg(input.text.size()));
+        end(message("The text is too long: %1 characters.").arg(input.text.size()));
         return;
     }
     const QString semantic = input.isSemantic ? input.text : understand(input);
@@ -134,7 +131,7 @@ QString Conversation::understand(Input &input)
     }
     QElapsedTimer timer;
     timer.start();
-    const QString semantic = m_dialogue.turn(input.text, m_clock());
+    const QString semantic = m_dialogue.turn(input.text, QDateTime::currentDateTime());
     m_turns[input.turn].understandingMsecs = static_cast<double>(timer.nsecsElapsed()) / 1e6;
     return semantic;
 }
@@ -166,7 +163,7 @@ void Conversation::takeResult(const TurnResult &result)
         m_dialogue.noteReply(turn.code, cleanText(result.reply.displayText.toString()));
     }
     if (result.isUnread() && turn.display.isEmpty()) {
-        end(QStringLiteral("The plugin cannot read this as a semantic JSON (service() answered -100)."));
+        end(message("The plugin cannot read this as a semantic JSON (service() answered -100)."));
         return;
     }
     Q_EMIT replied(id, reply);

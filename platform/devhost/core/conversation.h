@@ -8,15 +8,12 @@
 
 #include <understanding/dialogue.h>
 
-#include <QDateTime>
 #include <QHash>
 #include <QObject>
 #include <QPointer>
 #include <QQueue>
 #include <QStringList>
 #include <QWidget>
-
-#include <functional>
 
 namespace devhost {
 
@@ -38,8 +35,6 @@ public:
     Conversation(PluginHost &host, LogRecorder &logs, QObject *parent = nullptr);
 
     void setContactNames(const QStringList &names);
-    /// Where sentences get their "now" from; the system's clock at first.
-    void setClock(std::function<QDateTime()> clock);
 
     /// Queues a sentence and returns its turn. A text that starts with "{" is taken as semantic JSON.
     int say(const QString &text);
@@ -94,7 +89,6 @@ private:
     TurnRunner m_runner;
     LogRecorder &m_logs;
     understanding::Dialogue m_dialogue;
-    std::function<QDateTime()> m_clock = &QDateTime::currentDateTime;
     QQueue<Input> m_queue;
     QHash<int, Turn> m_turns;
     int m_lastId = 0;

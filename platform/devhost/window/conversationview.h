@@ -47,8 +47,6 @@ public:
     bool isWaiting() const;
     bool isAtEnd() const;
     void scrollToEnd();
-    /// The bubbles that exist at the moment, for tests.
-    int bubbleCount() const { return m_bubbles.size(); }
 
 Q_SIGNALS:
     void turnActivated(int turn);

@@ -255,8 +255,6 @@ void MainWindow::said(int turn, const QString &shown)
 
 void MainWindow::reply(int turn, const Reply &reply)
 {
-    m_paintMsecs = 0;
-    m_sinceReply.start();
     const QString text = cleanText(reply.displayText.toString());
     QWidget *card = cardOf(reply);
     const QString shown = text.isEmpty() && card == nullptr
@@ -272,17 +270,6 @@ void MainWindow::inspect(int turn)
     if (shown.id != 0) {
         m_inspector->show(shown);
     }
-}
-
-bool MainWindow::event(QEvent *event)
-{
-    const bool isHandled = QMainWindow::event(event);
-    // The first repaint after a reply is the one that brings it to the screen.
-    if (event->type() == QEvent::UpdateRequest && m_sinceReply.isValid()) {
-        m_paintMsecs = static_cast<double>(m_sinceReply.nsecsElapsed()) / 1e6;
-        m_sinceReply.invalidate();
-    }
-    return isHandled;
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -5,7 +5,6 @@
 
 #include "conversation.h"
 
-#include <QElapsedTimer>
 #include <QMainWindow>
 
 QT_BEGIN_NAMESPACE
@@ -40,12 +39,9 @@ public:
     ConversationView *view() const { return m_view; }
     InputLine *input() const { return m_input; }
     Inspector *inspector() const { return m_inspector; }
-    /// Milliseconds from the last reply to the end of its painting; 0 while it has not been painted.
-    double lastPaintMsecs() const { return m_paintMsecs; }
 
 protected:
     void closeEvent(QCloseEvent *event) override;
-    bool event(QEvent *event) override;
 
 private:
     void build();
@@ -73,8 +69,6 @@ private:
     QAction *m_speechAction = nullptr;
     bool m_followsLast = true;   ///< the inspector shows the newest turn
     QHash<int, QString> m_typed; ///< not yet known whether they are secrets
-    QElapsedTimer m_sinceReply;
-    double m_paintMsecs = 0;
 };
 
 } // namespace devhost

@@ -23,7 +23,7 @@ QString indented(const QString &json)
     if (text.size() <= LongestText) {
         return text;
     }
-    return text.left(LongestText) + QStringLiteral("\n… (%1 characters)").arg(text.size());
+    return text.left(LongestText) + QStringLiteral("\n…（共 %1 个字符）").arg(text.size());
 }
 
 QString msecs(double value)
@@ -42,18 +42,18 @@ QString requests(const Turn &turn)
 {
     QStringList lines;
     for (const AbilityCall &call : turn.calls) {
-        lines << QStringLiteral("▸ %1    %2    code %3").arg(call.action, msecs(call.msecs)).arg(call.code)
-              << (call.parameters.isEmpty() ? QStringLiteral("(no parameters)") : indented(call.parameters))
-              << QStringLiteral("◂ answer")
-              << (call.answer.isEmpty() ? QStringLiteral("(none)") : indented(call.answer)) << QString();
+        lines << QStringLiteral("▸ %1    %2    代码 %3").arg(call.action, msecs(call.msecs)).arg(call.code)
+              << (call.parameters.isEmpty() ? QStringLiteral("（没有参数）") : indented(call.parameters))
+              << QStringLiteral("◂ 回答")
+              << (call.answer.isEmpty() ? QStringLiteral("（无）") : indented(call.answer)) << QString();
     }
     if (turn.calls.isEmpty()) {
-        lines << QStringLiteral("(no requests)") << QString();
+        lines << QStringLiteral("（没有请求）") << QString();
     }
-    lines << QStringLiteral("understanding   %1").arg(msecs(turn.understandingMsecs))
-          << QStringLiteral("service()       %1, requests %2 of it")
+    lines << QStringLiteral("理解　　　%1").arg(msecs(turn.understandingMsecs))
+          << QStringLiteral("service()　%1，其中请求 %2")
                  .arg(msecs(turn.serviceMsecs), msecs(turn.requestMsecs()))
-          << QStringLiteral("reply and card  %1").arg(msecs(turn.replyMsecs));
+          << QStringLiteral("回复和卡片 %1").arg(msecs(turn.replyMsecs));
     return lines.join(QLatin1Char('\n'));
 }
 
@@ -61,13 +61,13 @@ QString reply(const Turn &turn)
 {
     QStringList lines;
     if (!turn.failure.isEmpty()) {
-        lines << QStringLiteral("failure   %1").arg(turn.failure);
+        lines << QStringLiteral("失败      %1").arg(turn.failure);
     }
     lines << QStringLiteral("service() %1").arg(turn.status) << QStringLiteral("code      %1").arg(turn.code)
           << QStringLiteral("display   ") + turn.display << QStringLiteral("speech    ") + turn.speech
           << QStringLiteral("type      %1").arg(turn.type)
           << QStringLiteral("card      ") +
-                 (turn.cardClass.isEmpty() ? QStringLiteral("none") : turn.cardClass)
+                 (turn.cardClass.isEmpty() ? QStringLiteral("（无）") : turn.cardClass)
           << QStringLiteral("end       %1")
                  .arg(turn.endOfSession ? QStringLiteral("true") : QStringLiteral("false"));
     return lines.join(QLatin1Char('\n'));

@@ -65,7 +65,7 @@ public:
         name = intent.toString();
         const QJsonArray array = slotValues.toArray();
         slotList.reserve(slotList.size() + array.size());
-        for (const QJsonValue slotValue : array) {
+        for (const QJsonValue &slotValue : array) {
             if (!slotValue.isObject()) {
                 qCritical() << "Parse slot failed, slot is not a object"; // hosts search for this wording
                 qDebug() << "Parse slot failed, please check slot.";
@@ -100,7 +100,7 @@ public:
         }
         const QJsonArray array = semantic.value().toArray();
         intents.reserve(intents.size() + array.size());
-        for (const QJsonValue value : array) {
+        for (const QJsonValue &value : array) {
             CloudIntent intent;
             if (!intent.parse(value)) {
                 qDebug() << "Parse intent failed, please check intent.";

@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <QLibrary>
 #include <QPluginLoader>
+#include <QSignalSpy>
 #include <QTest>
 #include <QWidget>
 
@@ -102,10 +103,9 @@ void TestBinaryLayout::serviceFunctionsStandInOrder()
     QCOMPARE(reply->speechText, QVariant(QStringLiteral("spoken")));
     QCOMPARE(reply->type, 3);
 
-    bool deleted = false;
-    connect(service, &QObject::destroyed, this, [&deleted] { deleted = true; });
+    const QSignalSpy deleted(service, &QObject::destroyed);
     m_plugin->releaseService(service);
-    QVERIFY(deleted);
+    QCOMPARE(deleted.count(), 1);
 }
 
 void TestBinaryLayout::abilityFunctionsStandInOrder()

@@ -79,7 +79,8 @@ QString quoted(const QByteArray &json)
 int cardsAlive()
 {
     int count = 0;
-    for (const QWidget *widget : QApplication::topLevelWidgets()) {
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (const QWidget *widget : widgets) {
         count += widget->inherits("ConferenceMsgStaticWidget") ? 1 : 0;
     }
     return count;

@@ -37,7 +37,8 @@ QString cleanText(const QString &text)
 {
     QString clean;
     clean.reserve(qMin(text.size(), LongestText));
-    for (const uint character : text.toUcs4()) {
+    const QVector<uint> characters = text.toUcs4();
+    for (const uint character : characters) {
         if (clean.size() >= LongestText) {
             return clean + QChar(0x2026);
         }

@@ -32,7 +32,7 @@ QString semanticTitle(const QString &semantic)
     const QJsonObject intent =
         QJsonDocument::fromJson(semantic.toUtf8()).object().value(QLatin1String("intent")).toObject();
     const QJsonArray items = intent.value(QLatin1String("semantic")).toArray();
-    for (const QJsonValue item : items) {
+    for (const QJsonValue &item : items) {
         title += QLatin1Char(' ') + item.toObject().value(QLatin1String("intent")).toString();
     }
     return cleanText(title.left(ShownInputLength));

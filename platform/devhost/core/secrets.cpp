@@ -15,7 +15,7 @@ void collect(const QJsonValue &value, QStringList &secrets)
 {
     if (value.isArray()) {
         const QJsonArray items = value.toArray();
-        for (const QJsonValue item : items) {
+        for (const QJsonValue &item : items) {
             collect(item, secrets);
         }
         return;
@@ -30,7 +30,7 @@ void collect(const QJsonValue &value, QStringList &secrets)
         }
         return;
     }
-    for (const QJsonValue member : object) {
+    for (const QJsonValue &member : object) {
         collect(member, secrets);
     }
 }

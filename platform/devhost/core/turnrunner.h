@@ -30,7 +30,7 @@ public:
     void run(const QString &semantic);
 
 Q_SIGNALS:
-    void finished(const TurnResult &result);
+    void finished(const devhost::TurnResult &result);
 
 private:
     void call(IService &service, const QString &semantic, TurnResult &result) const;

@@ -93,7 +93,8 @@ void TerminalConversation::printSaid(int turn)
 {
     m_terminal.output << '\n';
     QString label = QStringLiteral("  ：你");
-    for (const QString &line : wrapped(m_conversation.turn(turn).said, TextColumns)) {
+    const QStringList said = wrapped(m_conversation.turn(turn).said, TextColumns);
+    for (const QString &line : said) {
         const int indent = qMax(0, Columns - terminalWidth(line) - terminalWidth(label));
         printLine(SaidColour, QString(indent, QLatin1Char(' ')) + line + label);
         label = QString(terminalWidth(label), QLatin1Char(' '));
@@ -116,7 +117,8 @@ void TerminalConversation::printReply(int turn, const Reply &reply, const QStrin
         return;
     }
     const QString picture = m_screenshots.take(*card, pictureName);
-    for (const QString &line : cardSummary(*card)) {
+    const QStringList summary = cardSummary(*card);
+    for (const QString &line : summary) {
         printLine(CardColour, QStringLiteral("      │ ") + line);
     }
     if (!picture.isEmpty()) {

@@ -30,7 +30,8 @@ int widthOf(uint c)
 int terminalWidth(const QString &text)
 {
     int width = 0;
-    for (const uint c : text.toUcs4()) {
+    const QVector<uint> characters = text.toUcs4();
+    for (const uint c : characters) {
         width += widthOf(c);
     }
     return width;
@@ -39,10 +40,12 @@ int terminalWidth(const QString &text)
 QStringList wrapped(const QString &text, int columns)
 {
     QStringList lines;
-    for (const QString &paragraph : text.split(QLatin1Char('\n'))) {
+    const QStringList paragraphs = text.split(QLatin1Char('\n'));
+    for (const QString &paragraph : paragraphs) {
         QString line;
         int width = 0;
-        for (const uint c : paragraph.toUcs4()) {
+        const QVector<uint> characters = paragraph.toUcs4();
+        for (const uint c : characters) {
             if (width + widthOf(c) > columns) {
                 lines.append(line);
                 line.clear();

@@ -38,7 +38,8 @@ WelcomePage::WelcomePage(QWidget *parent) : QWidget(parent)
     hint->setForegroundRole(QPalette::PlaceholderText);
     layout->addWidget(hint, 0, Qt::AlignHCenter);
     layout->addSpacing(12);
-    for (const QString &example : examples()) {
+    const QStringList offered = examples();
+    for (const QString &example : offered) {
         auto *button = new QPushButton(example, this);
         button->setObjectName(QStringLiteral("example"));
         button->setMinimumSize(320, 36);

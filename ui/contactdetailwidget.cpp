@@ -3,12 +3,12 @@
 
 #include "contactdetailwidget.h"
 
+#include "card/cardlabel.h"
 #include "conferencecardinterface.h"
 #include "request/requesttexts.h"
 
 #include <lumo/lcombobox.h>
 #include <lumo/lfontsizemanager.h>
-#include <lumo/llabel.h>
 #include <lumo/lspinbox.h>
 
 #include <QDateTime>
@@ -41,16 +41,17 @@ QString minutesText(qint64 minutes)
     return QString::number(minutes) + QStringLiteral("分钟");
 }
 
-LLabel *makeLabel(const QString &text, LFontSizeManager::SizeType size, QWidget *parent)
+/// Titles and names were written by other people.
+CardLabel *makeLabel(const QString &text, LFontSizeManager::SizeType size, QWidget *parent)
 {
-    auto *label = new LLabel(text, parent);
+    auto *label = new CardLabel(text, parent);
     label->setFont(LFontSizeManager::instance()->get(size, label->font()));
     return label;
 }
 
-LLabel *makeUnit(const QString &text, QWidget *parent)
+CardLabel *makeUnit(const QString &text, QWidget *parent)
 {
-    LLabel *label = makeLabel(text, LFontSizeManager::T6, parent);
+    CardLabel *label = makeLabel(text, LFontSizeManager::T6, parent);
     label->setFixedWidth(LabelWidth);
     return label;
 }
@@ -93,9 +94,7 @@ void ContactDetailWidget::gridLayout(const QVector<ContactDetailMsg> &list)
     }
     m_conference = list.first();
 
-    LLabel *title = makeLabel(m_conference.title, LFontSizeManager::T6, this);
-    title->setElideMode(Qt::ElideRight);
-    m_grid->addWidget(title, 0, 0, 1, ColumnCount);
+    m_grid->addWidget(makeLabel(m_conference.title, LFontSizeManager::T6, this), 0, 0, 1, ColumnCount);
     addRow(QStringLiteral("开始时间"), createMeetingTimeWidget(m_conference));
     addRow(QStringLiteral("时长"), createMeetingTimeLengthWidget(m_conference));
     addRow(QStringLiteral("参会方数"), createMeegtingPersonNumWidget(m_conference));
@@ -161,9 +160,7 @@ QWidget *ContactDetailWidget::createConferenceInvite(const QVector<ContactDetail
             names.append(participant.name);
         }
     }
-    LLabel *label = makeLabel(names.join(QLatin1Char(' ')), LFontSizeManager::T6, this);
-    label->setElideMode(Qt::ElideRight);
-    return label;
+    return makeLabel(names.join(QLatin1Char(' ')), LFontSizeManager::T6, this);
 }
 
 void ContactDetailWidget::slotsClickConfirm()
@@ -188,7 +185,7 @@ void ContactDetailWidget::slotsClickCancel()
 void ContactDetailWidget::addRow(const QString &caption, QWidget *control)
 {
     const int row = m_grid->rowCount();
-    LLabel *label = makeLabel(caption, LFontSizeManager::T7, this);
+    CardLabel *label = makeLabel(caption, LFontSizeManager::T7, this);
     label->setFixedWidth(LabelWidth);
     m_grid->addWidget(label, row, 0);
     m_grid->addWidget(control, row, 1, 1, ColumnCount - 1);

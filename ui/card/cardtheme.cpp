@@ -28,12 +28,13 @@ void applyText(QWidget &widget, int alpha)
 
 bool CardTheme::isLight()
 {
-    return LGuiApplicationHelper::instance()->themeType() == LGuiApplicationHelper::LightType;
+    // The number, because toolkits differ in its name.
+    return static_cast<int>(LGuiApplicationHelper::instance()->themeType()) == 1;
 }
 
 bool CardTheme::isDark()
 {
-    return LGuiApplicationHelper::instance()->themeType() == LGuiApplicationHelper::DarkType;
+    return !isLight();
 }
 
 QColor CardTheme::text(int alpha)

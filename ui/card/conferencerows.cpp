@@ -44,6 +44,7 @@ CardLabel *valueLabel(const QString &text, QWidget *parent)
 QLabel *iconLabel(const char *icon, QWidget *parent)
 {
     auto *label = new LLabel(parent);
+    label->setTextFormat(Qt::PlainText);
     label->setPixmap(CardIcons::pixmap(icon, *label));
     return label;
 }

@@ -29,5 +29,36 @@ check "of Qt it needs Core, Gui and Widgets, nothing more" \
     "libQt5Core
 libQt5Gui
 libQt5Widgets"
+# Whatever has no version is neither Qt's nor the C library's, so it comes from the desktop. What stands here is what every
+# build of the desktop has; where the plugin derives from a class, its meta object and its table of virtual functions too.
+check "of the desktop it uses exactly what is documented" \
+    "$(nm --dynamic --undefined-only "$plugin" | sed -n 's/^ *U \([^@]*\)$/\1/p' | c++filt | LC_ALL=C sort -u)" \
+    "KelvaneAbilityManager::createContact()
+KelvaneAbilityManager::instance()
+LComboBox::LComboBox(QWidget*)
+LComboBox::qt_metacall(QMetaObject::Call, int, void**)
+LComboBox::qt_metacast(char const*)
+LComboBox::staticMetaObject
+LCommandLinkButton::LCommandLinkButton(QString const&, QWidget*)
+LCommandLinkButton::qt_metacall(QMetaObject::Call, int, void**)
+LCommandLinkButton::qt_metacast(char const*)
+LCommandLinkButton::staticMetaObject
+LFontSizeManager::get(LFontSizeManager::SizeType, QFont const&) const
+LFontSizeManager::instance()
+LGuiApplicationHelper::instance()
+LGuiApplicationHelper::themeType() const
+LLabel::LLabel(QWidget*)
+LLabel::qt_metacall(QMetaObject::Call, int, void**)
+LLabel::qt_metacast(char const*)
+LLabel::staticMetaObject
+LSpinBox::LSpinBox(QWidget*)
+LSpinBox::setEnabledEmbedStyle(bool)
+LSuggestButton::LSuggestButton(QString const&, QWidget*)
+typeinfo for LComboBox
+typeinfo for LCommandLinkButton
+typeinfo for LLabel
+vtable for LComboBox
+vtable for LCommandLinkButton
+vtable for LLabel"
 check "it stays in memory once loaded" "$(dynamic | grep -c 'Flags:.*NODELETE')" 1
 exit $failed

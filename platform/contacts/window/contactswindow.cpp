@@ -12,8 +12,6 @@
 #include "book/contactsbook.h"
 #include "core/jsonkeys.h"
 
-#include <lumo/lguiapplicationhelper.h>
-
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QJsonDocument>
@@ -29,8 +27,6 @@ ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administratio
 {
     setWindowTitle(QStringLiteral("联系人"));
     setAttribute(Qt::WA_QuitOnClose, false);
-    // Makes the toolkit follow the desktop's theme in this process.
-    LGuiApplicationHelper::instance();
 
     auto *conferences = new ConferencePage(new ConferenceModel(book), book, administration);
     connect(conferences, &ConferencePage::told, this, &ContactsWindow::tell);

@@ -3,18 +3,10 @@
 
 #include "lumo/lcombobox.h"
 
-#include <QWheelEvent>
+#include "wheelguard.h"
 
 LComboBox::LComboBox(QWidget *parent) : QComboBox(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
-}
-
-void LComboBox::wheelEvent(QWheelEvent *event)
-{
-    if (hasFocus()) {
-        QComboBox::wheelEvent(event);
-    } else {
-        event->ignore();
-    }
+    WheelGuard::watch(*this);
 }

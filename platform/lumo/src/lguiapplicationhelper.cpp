@@ -7,11 +7,7 @@
 
 #include <QApplication>
 
-LGuiApplicationHelper::LGuiApplicationHelper()
-{
-    // For queued connections to the signal.
-    qRegisterMetaType<LGuiApplicationHelper::ColorType>();
-}
+LGuiApplicationHelper::LGuiApplicationHelper() = default;
 
 LGuiApplicationHelper *LGuiApplicationHelper::instance()
 {
@@ -68,16 +64,4 @@ void LGuiApplicationHelper::followApplication()
     }
     m_followed = qGuiApp;
     m_paletteType = UnknownType;
-    m_announced = themeType();
-    connect(m_followed, &QGuiApplication::paletteChanged, this, &LGuiApplicationHelper::announceChange);
-}
-
-void LGuiApplicationHelper::announceChange()
-{
-    const ColorType now = themeType();
-    if (now == m_announced) {
-        return;
-    }
-    m_announced = now;
-    Q_EMIT themeTypeChanged(now);
 }

@@ -3,12 +3,13 @@
 
 #include "lumo/lspinbox.h"
 
-#include <QWheelEvent>
+#include "wheelguard.h"
 
 LSpinBox::LSpinBox(QWidget *parent) : QSpinBox(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     setEnabledEmbedStyle(false);
+    WheelGuard::watch(*this);
 }
 
 void LSpinBox::setEnabledEmbedStyle(bool enabled)
@@ -19,13 +20,4 @@ void LSpinBox::setEnabledEmbedStyle(bool enabled)
 bool LSpinBox::enabledEmbedStyle() const
 {
     return buttonSymbols() == QAbstractSpinBox::UpDownArrows;
-}
-
-void LSpinBox::wheelEvent(QWheelEvent *event)
-{
-    if (hasFocus()) {
-        QSpinBox::wheelEvent(event);
-    } else {
-        event->ignore();
-    }
 }

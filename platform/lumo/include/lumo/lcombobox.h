@@ -14,7 +14,4 @@ class LUMO_EXPORT LComboBox : public QComboBox
 
 public:
     explicit LComboBox(QWidget *parent = nullptr);
-
-protected:
-    void wheelEvent(QWheelEvent *event) override;
 };

@@ -18,15 +18,6 @@ class LUMO_EXPORT LCommandLinkButton : public QPushButton
     Q_OBJECT
 
 public:
+    explicit LCommandLinkButton(QWidget *parent = nullptr);
     explicit LCommandLinkButton(const QString &text, QWidget *parent = nullptr);
-
-    QSize sizeHint() const override;
-
-protected:
-    bool event(QEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
-
-private:
-    QFont shownFont() const;
-    QString shownText() const;
 };

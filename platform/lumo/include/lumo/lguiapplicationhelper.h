@@ -11,9 +11,9 @@
 #include <QPointer>
 
 /**
- * Tells whether the desktop is light or dark and says when that changes. The theme is read from the
- * application's palette, so that it is right whoever sets that: the platform, a style or setPaletteType().
- * Lives on the GUI thread until the process ends.
+ * Tells whether the desktop is light or dark. The theme is read from the application's palette, so that it
+ * is right whoever sets that: the platform, a style or setPaletteType(). QGuiApplication::paletteChanged()
+ * tells when it changes. Lives on the GUI thread until the process ends.
  */
 class LUMO_EXPORT LGuiApplicationHelper : public QObject
 {
@@ -42,16 +42,11 @@ public:
     /// Which theme a palette belongs to: dark when its window is darker than its text.
     static ColorType toColorType(const QPalette &palette);
 
-Q_SIGNALS:
-    void themeTypeChanged(LGuiApplicationHelper::ColorType themeType);
-
 private:
     LGuiApplicationHelper();
     void followApplication();
-    void announceChange();
 
     QPointer<QGuiApplication> m_followed;
-    ColorType m_announced = UnknownType;
     ColorType m_paletteType = UnknownType;
     QPalette m_desktopPalette;
 };

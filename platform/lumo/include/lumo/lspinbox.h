@@ -20,7 +20,4 @@ public:
     /// their own beside it.
     void setEnabledEmbedStyle(bool enabled);
     bool enabledEmbedStyle() const;
-
-protected:
-    void wheelEvent(QWheelEvent *event) override;
 };

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QObject>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+/// Lets the wheel pass a widget by that does not have the focus. A filter, because an override in a header
+/// would tie whoever derives from the class to this build of the toolkit.
+class WheelGuard final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// For the life of the widget.
+    static void watch(QWidget &widget);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    explicit WheelGuard(QWidget &widget);
+};

@@ -12,12 +12,15 @@
 
 find_package(Qt5 REQUIRED COMPONENTS Test)
 find_program(CONTACT_FAKETIME faketime REQUIRED)
-find_program(CONTACT_DBUS_RUN_SESSION dbus-run-session REQUIRED)
 
-set(CONTACT_TEST_BUS_DIR ${CMAKE_SOURCE_DIR}/tests/support/bus)
-set(services ${CMAKE_BINARY_DIR}/no-bus-services)
-file(MAKE_DIRECTORY ${services})
-configure_file(${CMAKE_SOURCE_DIR}/platform/contacts/session-bus.conf.in ${CMAKE_BINARY_DIR}/empty-bus.conf @ONLY)
+# A session bus is only for the bundled platform.
+if(CONTACT_PLATFORM STREQUAL bundled)
+    find_program(CONTACT_DBUS_RUN_SESSION dbus-run-session REQUIRED)
+    set(CONTACT_TEST_BUS_DIR ${CMAKE_SOURCE_DIR}/tests/support/bus)
+    set(services ${CMAKE_BINARY_DIR}/no-bus-services)
+    file(MAKE_DIRECTORY ${services})
+    configure_file(${CMAKE_SOURCE_DIR}/platform/contacts/session-bus.conf.in ${CMAKE_BINARY_DIR}/empty-bus.conf @ONLY)
+endif()
 
 set(CONTACT_TEST_ENVIRONMENT
     QT_QPA_PLATFORM=offscreen LANG=C.UTF-8 LC_ALL=C.UTF-8

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+/**
+ * @file
+ * A toolkit of exactly the classes and functions that the plugin may take from a desktop, over Qt as it is
+ * and with nothing of its own. Never let it share anything with the bundled one: the plugin is built against
+ * this one to show that it needs no more.
+ */
+
+#include <lumo/lcombobox.h>
+#include <lumo/lcommandlinkbutton.h>
+#include <lumo/lfontsizemanager.h>
+#include <lumo/lguiapplicationhelper.h>
+#include <lumo/llabel.h>
+#include <lumo/lspinbox.h>
+#include <lumo/lsuggestbutton.h>
+
+#include <QGuiApplication>
+#include <QPalette>
+
+LLabel::LLabel(QWidget *parent) : QLabel(parent) {}
+
+LLabel::LLabel(const QString &text, QWidget *parent) : QLabel(text, parent) {}
+
+LSuggestButton::LSuggestButton(QWidget *parent) : QPushButton(parent) {}
+
+LSuggestButton::LSuggestButton(const QString &text, QWidget *parent) : QPushButton(text, parent) {}
+
+LCommandLinkButton::LCommandLinkButton(QWidget *parent) : QPushButton(parent) {}
+
+LCommandLinkButton::LCommandLinkButton(const QString &text, QWidget *parent) : QPushButton(text, parent) {}
+
+LSpinBox::LSpinBox(QWidget *parent) : QSpinBox(parent) {}
+
+void LSpinBox::setEnabledEmbedStyle(bool enabled)
+{
+    setProperty("enabledEmbedStyle", enabled); // for tests to see
+}
+
+LComboBox::LComboBox(QWidget *parent) : QComboBox(parent) {}
+
+LFontSizeManager *LFontSizeManager::instance()
+{
+    static LFontSizeManager manager;
+    return &manager;
+}
+
+QFont LFontSizeManager::get(SizeType type, const QFont &base) const
+{
+    constexpr int Largest = 19;
+    QFont font = base;
+    font.setPixelSize(Largest - type);
+    return font;
+}
+
+LGuiApplicationHelper *LGuiApplicationHelper::instance()
+{
+    static LGuiApplicationHelper helper;
+    return &helper;
+}
+
+int LGuiApplicationHelper::themeType() const
+{
+    const QPalette palette = QGuiApplication::palette();
+    const bool light =
+        palette.color(QPalette::Window).lightness() >= palette.color(QPalette::WindowText).lightness();
+    return light ? 1 : 2;
+}

@@ -17,6 +17,8 @@
 
 #include <memory>
 
+#include <sys/stat.h>
+
 namespace {
 
 enum ExitStatus { Served = 0, DatabaseUnusable = 1, NoSessionBus = 2, BusRefused = 3 };
@@ -30,8 +32,9 @@ std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv, bool w
 }
 
 enum class FirstSight { Window, Nothing };
+enum class Audience { Users, Developers };
 
-int serve(QCoreApplication &application, FirstSight firstSight)
+int serve(QCoreApplication &application, FirstSight firstSight, Audience audience)
 {
     std::unique_ptr<ContactsBook> book;
     try {
@@ -40,7 +43,9 @@ int serve(QCoreApplication &application, FirstSight firstSight)
         qCritical() << "The contacts cannot be opened:" << error.what();
         return DatabaseUnusable;
     }
-    BusService service(*book);
+    const bool isForDevelopers = audience == Audience::Developers;
+    BusService service(*book, isForDevelopers ? BusService::Interfaces::WithAdministration
+                                              : BusService::Interfaces::RequestsOnly);
     QObject::connect(&service, &BusService::disconnected, &application, &QCoreApplication::quit);
     switch (service.start()) {
     case BusService::Start::NoBus:
@@ -62,7 +67,9 @@ int serve(QCoreApplication &application, FirstSight firstSight)
                 QApplication::setStyle(new LStyle);
                 palette = std::make_unique<LSystemPalette>();
                 palette->follow();
-                window = std::make_unique<ContactsWindow>(*book, administration);
+                window = std::make_unique<ContactsWindow>(
+                    *book, administration,
+                    isForDevelopers ? ContactsWindow::Tools::ForDevelopers : ContactsWindow::Tools::ForUsers);
             }
             window->bringUp();
         };
@@ -80,6 +87,7 @@ int serve(QCoreApplication &application, FirstSight firstSight)
 
 int main(int argc, char **argv)
 {
+    umask(077); // what is written holds passcodes
     const bool withWindow = canShowWindows();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
@@ -95,7 +103,13 @@ int main(int argc, char **argv)
     const QCommandLineOption service(
         QStringLiteral("service"),
         QStringLiteral("Serve other programs and show no window until it is asked for."));
+    const QCommandLineOption developer(
+        QStringLiteral("developer"),
+        QStringLiteral("Put the administration on the session bus, which shows every passcode and can empty "
+                       "everything, and show what only a developer needs."));
     parser.addOption(service);
+    parser.addOption(developer);
     parser.process(*application);
-    return serve(*application, parser.isSet(service) ? FirstSight::Nothing : FirstSight::Window);
+    return serve(*application, parser.isSet(service) ? FirstSight::Nothing : FirstSight::Window,
+                 parser.isSet(developer) ? Audience::Developers : Audience::Users);
 }

@@ -818,6 +818,7 @@ void TestActions::itIsKnownWhatWasPerformed()
     QCOMPARE(perform(Search, QStringLiteral("search")), QStringLiteral("OK"));
     QVERIFY(!world.book.wasPerformed(QStringLiteral("search")));
     QCOMPARE(perform(Create, QStringLiteral("first")), QStringLiteral("OK"));
+    const Transaction transaction(world.book.database().handle());
     for (int i = 0; i < 1000; ++i) {
         QVERIFY(world.book.wasPerformed(QStringLiteral("first")));
         world.book.session().notePerformed(QString::number(i));

@@ -80,6 +80,7 @@ private Q_SLOTS:
 
     void whatWasAnsweredSurvivesBeingKilled();
     void theAdministrationIsOnTheBus();
+    void anInstalledOneHasNoAdministration();
     void itEndsWithItsBus();
     void itServesWithoutAScreen_data();
     void itServesWithoutAScreen();
@@ -164,6 +165,28 @@ void TestApplication::theAdministrationIsOnTheBus()
     QVERIFY(admin.LoadSample());
     QCOMPARE(outcome(QStringLiteral("Join My Conference")), QStringLiteral("OK"));
     QVERIFY(admin.LoadSample());
+}
+
+void TestApplication::anInstalledOneHasNoAdministration()
+{
+    QFile installed(QStringLiteral(INSTALLED_SERVICE));
+    QVERIFY(installed.open(QIODevice::ReadOnly));
+    const QByteArray command = installed.readAll();
+    QVERIFY(command.contains(" --service\n"));
+    QProcess application;
+    application.setProcessChannelMode(QProcess::ForwardedChannels);
+    application.start(QStringLiteral(APPLICATION), {QStringLiteral("--service")});
+    QTRY_COMPARE(qint64(servicePid()), application.processId());
+    Admin1Proxy admin(ServiceName, AdminPath, QDBusConnection::sessionBus());
+    QDBusPendingReply<QString> snapshot = admin.Snapshot();
+    snapshot.waitForFinished();
+    QCOMPARE(snapshot.error().type(), QDBusError::UnknownObject);
+    QDBusPendingReply<bool> reset = admin.Reset();
+    reset.waitForFinished();
+    QCOMPARE(reset.error().type(), QDBusError::UnknownObject);
+    QCOMPARE(outcome(QStringLiteral("Is Conference Host")), QStringLiteral("No Conference"));
+    application.terminate();
+    QVERIFY(application.waitForFinished());
 }
 
 void TestApplication::itEndsWithItsBus()

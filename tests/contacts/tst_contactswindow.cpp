@@ -45,6 +45,8 @@ private Q_SLOTS:
     void namesAreShownClean();
     void everyControlHasANameForScreenReaders();
     void closingHidesIt();
+    void aNoticeStaysUntilItIsRead();
+    void usersDoNotSeeWhatIsForDevelopers();
     void pictures_data();
     void pictures();
 
@@ -84,7 +86,8 @@ void TestContactsWindow::init()
 {
     m_log = std::make_unique<LogCapture>();
     m_world = std::make_unique<SampleWorld>();
-    m_window = std::make_unique<ContactsWindow>(m_world->book, m_world->admin);
+    m_window =
+        std::make_unique<ContactsWindow>(m_world->book, m_world->admin, ContactsWindow::Tools::ForDevelopers);
     m_window->show();
     m_window->activateWindow();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
@@ -296,6 +299,38 @@ void TestContactsWindow::closingHidesIt()
     QVERIFY(!m_window->isVisible());
     m_window->bringUp();
     QVERIFY(m_window->isVisible());
+}
+
+void TestContactsWindow::aNoticeStaysUntilItIsRead()
+{
+    QVERIFY(!child<QWidget>("notice")->isVisible());
+    const QString text = QStringLiteral("数据库已损坏，原文件保存为 <b>/home/x</b>。");
+    QVERIFY(m_world->book.change([this, &text] {
+        m_world->book.session().setNotice(text);
+        return true;
+    }));
+    for (int round = 0; round < 2; ++round) {
+        m_window = std::make_unique<ContactsWindow>(m_world->book, m_world->admin);
+        m_window->show();
+        QVERIFY(child<QWidget>("notice")->isVisible());
+        QCOMPARE(child<QLabel>("noticeText")->text(), text);
+        QCOMPARE(child<QLabel>("noticeText")->textFormat(), Qt::PlainText);
+    }
+    QDir().mkpath(QStringLiteral("contacts-pictures"));
+    QVERIFY(m_window->grab().save(QStringLiteral("contacts-pictures/notice.png")));
+    QTest::mouseClick(child<QPushButton>("noticeRead"), Qt::LeftButton);
+    QVERIFY(!child<QWidget>("notice")->isVisible());
+    QCOMPARE(m_world->book.session().notice(), QString());
+}
+
+void TestContactsWindow::usersDoNotSeeWhatIsForDevelopers()
+{
+    QVERIFY(child<QPushButton>("sample")->isVisible());
+    QVERIFY(child<QCheckBox>("elsewhere")->isVisible());
+    m_window = std::make_unique<ContactsWindow>(m_world->book, m_world->admin);
+    m_window->show();
+    QVERIFY(!child<QPushButton>("sample")->isVisible());
+    QVERIFY(!child<QCheckBox>("elsewhere")->isVisible());
 }
 
 void TestContactsWindow::pictures_data()

@@ -114,7 +114,7 @@ void TestDatabase::aFileThatIsNoDatabaseIsSetAside()
     const LogCapture log(LogCapture::Unexpected::Passes);
     ContactsBook book(name);
     QVERIFY(book.session().user());
-    QCOMPARE(log.texts(QtCriticalMsg).size(), 1);
+    QCOMPARE(log.texts(QtCriticalMsg).size(), 2);
     const QStringList kept = QDir(folder.path()).entryList({QStringLiteral("contacts.db.damaged-*")});
     QCOMPARE(kept.size(), 1);
     QCOMPARE(QFileInfo(folder.filePath(kept.at(0))).size(), qint64(8192));

@@ -38,7 +38,7 @@ private Q_SLOTS:
     void refused();
     void oddButHarmless_data();
     void oddButHarmless();
-    void aNameGoesBackUnchanged();
+    void aNameGoesBackClean();
     void titlesAndNamesInAnswersAreClean();
 };
 
@@ -148,15 +148,15 @@ void TestHostileParameters::oddButHarmless()
     QCOMPARE(world.snapshot(), before);
 }
 
-void TestHostileParameters::aNameGoesBackUnchanged()
+void TestHostileParameters::aNameGoesBackClean()
 {
-    // The caller looks for the name that it asked about, so that one is not cleaned.
+    // The cards show it, and the caller knows it by its place in the list.
     SampleWorld world;
     const QString odd = QStringLiteral("\u202e李四 ");
     const QJsonArray users = world.ask(QStringLiteral("Create Conference"), membersNamed({odd}))
                                  .value(QLatin1String("users"))
                                  .toArray();
-    QCOMPARE(users.at(0).toObject().value(QLatin1String("name")).toString(), odd);
+    QCOMPARE(users.at(0).toObject().value(QLatin1String("name")).toString(), QStringLiteral("李四"));
 }
 
 void TestHostileParameters::titlesAndNamesInAnswersAreClean()

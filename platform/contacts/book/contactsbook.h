@@ -51,6 +51,8 @@ Q_SIGNALS:
     void windowWanted();
 
 private:
+    void noteSetAside();
+
     Clock m_clock;
     Database m_database;
     PeopleRepository m_people;

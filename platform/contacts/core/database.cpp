@@ -5,14 +5,18 @@
 
 #include "core/databaseerror.h"
 #include "core/migrations.h"
+#include "core/privatefiles.h"
 #include "core/statement.h"
 
 #include <QDateTime>
 #include <QDebug>
-#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSqlError>
 #include <QStandardPaths>
+#include <QThread>
 #include <QUuid>
 
 namespace {
@@ -26,33 +30,76 @@ void runPragma(const QSqlDatabase &database, const QString &sql, const QString &
     }
 }
 
-/// Keeps a damaged file for whoever wants to rescue it, with its journal.
-void setAside(const QString &fileName)
+/// Keeps a damaged file for whoever wants to rescue it, with its journal. @return its new name.
+QString setAside(const QString &fileName)
 {
     const QString stamp = QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMddThhmmsszzz"));
-    for (const QLatin1String suffix : {QLatin1String(""), QLatin1String("-wal"), QLatin1String("-shm")}) {
-        QFile::rename(fileName + suffix, fileName + QStringLiteral(".damaged-") + stamp + suffix);
+    const QString name = fileName + QStringLiteral(".damaged-") + stamp;
+    for (const QLatin1String suffix : {QLatin1String("-wal"), QLatin1String("-shm"), QLatin1String("")}) {
+        if (QFile::exists(fileName + suffix) && !QFile::rename(fileName + suffix, name + suffix)) {
+            throw DatabaseError(
+                QStringLiteral("the damaged database %1 cannot be set aside").arg(fileName + suffix));
+        }
     }
+    return name;
 }
+
+/// Somebody else's lock on the file is waited for this long.
+constexpr int PatienceMsecs = 5000;
+/// A check reads the whole file; one that is larger than this would keep the start waiting for too long.
+constexpr qint64 LargestCheckedFile = 256 * 1024 * 1024;
 
 } // namespace
 
 Database::Database(const QString &fileName) : m_connectionName(QUuid::createUuid().toString())
 {
-    QDir().mkpath(QFileInfo(fileName).absolutePath());
+    makePrivate(fileName);
     try {
-        open(fileName);
-        if (!isReadable()) {
-            qCritical() << "The database is damaged and is set aside:" << fileName;
-            close();
-            setAside(fileName);
-            open(fileName);
+        openPatiently(fileName);
+    } catch (const DatabaseError &error) {
+        close();
+        if (!error.isDamage()) {
+            throw;
         }
-        configure();
-        migrate();
+        qCritical() << "The database" << fileName << "is damaged and is set aside:" << error.what();
+        replace(fileName);
+    }
+}
+
+void Database::replace(const QString &fileName)
+{
+    m_setAsideFile = setAside(fileName);
+    makePrivate(fileName);
+    try {
+        openPatiently(fileName);
+        m_salvaged = salvage(m_setAsideFile, m_database);
     } catch (...) {
         close();
         throw;
+    }
+    qCritical() << "Of the damaged database" << m_setAsideFile << "was kept:" << m_salvaged.people
+                << "people," << m_salvaged.conferences << "conferences";
+}
+
+void Database::openPatiently(const QString &fileName)
+{
+    QElapsedTimer waiting;
+    waiting.start();
+    for (;;) {
+        try {
+            open(fileName);
+            check(fileName);
+            configure();
+            migrate();
+            return;
+        } catch (const DatabaseError &error) {
+            close();
+            // SQLite waits itself, but not where it sees a deadlock coming.
+            if (!error.isBusy() || waiting.elapsed() >= PatienceMsecs) {
+                throw;
+            }
+        }
+        QThread::msleep(50);
     }
 }
 
@@ -78,16 +125,30 @@ void Database::open(const QString &fileName)
 {
     m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connectionName);
     m_database.setDatabaseName(fileName);
+    m_database.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(PatienceMsecs));
     if (!m_database.open()) {
-        throw DatabaseError(m_database.lastError().text() + QStringLiteral(" for ") + fileName);
+        throw DatabaseError(m_database.lastError(), QStringLiteral("for ") + fileName);
     }
 }
 
-bool Database::isReadable() const
+void Database::check(const QString &fileName)
 {
     // The first look into the file; SQLite calls anything else than its own format "not a database".
-    QSqlQuery query(m_database);
-    return query.exec(QStringLiteral("SELECT count(*) FROM sqlite_master"));
+    Statement(m_database, QStringLiteral("SELECT count(*) FROM sqlite_master")).run().next();
+    if (QFileInfo(fileName).size() > LargestCheckedFile) {
+        return;
+    }
+    Statement check(m_database, QStringLiteral("PRAGMA quick_check(1)"));
+    check.run();
+    const QString result = check.next() ? check.text(0) : QString();
+    if (result == QLatin1String("ok")) {
+        return;
+    }
+    // A page that could not be fetched for another reason than damage is reported in a row, too.
+    static const QRegularExpression codeInText(QStringLiteral("error code=(\\d+)"));
+    const QRegularExpressionMatch match = codeInText.match(result);
+    const QString code = match.hasMatch() ? match.captured(1) : QStringLiteral("11");
+    throw DatabaseError(QSqlError(QString(), result, QSqlError::StatementError, code), fileName);
 }
 
 void Database::configure()

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "core/salvage.h"
+
 #include <QSqlDatabase>
 
 /**
@@ -12,12 +14,18 @@
 class Database
 {
 public:
-    /// Creates the file and its folder when they are missing. A file that is no database is set aside, never
-    /// deleted.
+    /**
+     * Creates the file and its folder, readable by their owner alone, when they are missing. A damaged file
+     * is set aside, never deleted, and what can be read of it is copied. Only what SQLite itself calls
+     * damaged is: a lock is waited for, a few seconds, and anything else is thrown.
+     */
     explicit Database(const QString &fileName);
     ~Database();
 
     QSqlDatabase handle() const { return m_database; }
+    /// The damaged file that was set aside when this one was opened; empty without one.
+    QString setAsideFile() const { return m_setAsideFile; }
+    Salvaged salvaged() const { return m_salvaged; }
     /// Grows with every row that is written.
     qint64 writtenRows() const;
 
@@ -27,14 +35,18 @@ public:
 private:
     Q_DISABLE_COPY(Database)
 
+    void openPatiently(const QString &fileName);
     void open(const QString &fileName);
-    bool isReadable() const;
+    void check(const QString &fileName);
+    void replace(const QString &fileName);
     void configure();
     void migrate();
     void close();
 
     QString m_connectionName;
     QSqlDatabase m_database;
+    QString m_setAsideFile;
+    Salvaged m_salvaged;
 };
 
 /// Everything between construction and commit() happens wholly or not at all. Throws DatabaseError.

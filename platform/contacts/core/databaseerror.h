@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QSqlError>
 #include <QString>
 
 #include <stdexcept>
@@ -13,4 +14,15 @@ class DatabaseError : public std::runtime_error
 {
 public:
     explicit DatabaseError(const QString &message) : std::runtime_error(message.toStdString()) {}
+    /// With the reason and the code that SQLite gave.
+    DatabaseError(const QSqlError &error, const QString &where);
+
+    /// Whether the file is damaged, which nothing else than SQLITE_CORRUPT and SQLITE_NOTADB says: no room,
+    /// no permission and a lock look alike from afar.
+    bool isDamage() const;
+    /// Whether somebody else has the file locked.
+    bool isBusy() const;
+
+private:
+    int m_code = 0;
 };

@@ -12,7 +12,7 @@ Statement::Statement(const QSqlDatabase &database, const QString &sql) : m_query
 {
     m_query.setForwardOnly(true);
     if (!m_query.prepare(sql)) {
-        throw DatabaseError(m_query.lastError().text() + QStringLiteral(" in ") + sql);
+        throw DatabaseError(m_query.lastError(), QStringLiteral("in ") + sql);
     }
 }
 
@@ -38,14 +38,19 @@ Statement &Statement::bind(int value)
 Statement &Statement::run()
 {
     if (!m_query.exec()) {
-        throw DatabaseError(m_query.lastError().text() + QStringLiteral(" in ") + m_query.lastQuery());
+        throw DatabaseError(m_query.lastError(), QStringLiteral("in ") + m_query.lastQuery());
     }
     return *this;
 }
 
 bool Statement::next()
 {
-    return m_query.next();
+    const bool isRow = m_query.next();
+    // The end of the rows, or a page that cannot be read.
+    if (!isRow && m_query.lastError().isValid()) {
+        throw DatabaseError(m_query.lastError(), QStringLiteral("in ") + m_query.lastQuery());
+    }
+    return isRow;
 }
 
 QString Statement::text(int column) const

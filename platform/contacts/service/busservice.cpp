@@ -16,15 +16,17 @@
 #include <QDBusMessage>
 #include <QDebug>
 
-BusService::BusService(ContactsBook &book, QObject *parent)
+BusService::BusService(ContactsBook &book, Interfaces interfaces, QObject *parent)
     : QObject(parent)
     , m_connection(QDBusConnection::sessionBus())
     , m_requests(new ContactRequests(book, this))
-    , m_administration(new Administration(book, this))
 {
     // Adaptors belong to the objects that they speak for.
     new Contact1Adaptor(m_requests);
-    new Admin1Adaptor(m_administration);
+    if (interfaces == Interfaces::WithAdministration) {
+        m_administration = new Administration(book, this);
+        new Admin1Adaptor(m_administration);
+    }
 }
 
 BusService::Start BusService::start()
@@ -39,7 +41,8 @@ BusService::Start BusService::start()
         return Start::Refused;
     }
     // The objects first: whoever waits for the name calls at once.
-    if (!putOnBus(BusName::contactPath(), m_requests) || !putOnBus(BusName::adminPath(), m_administration)) {
+    if (!putOnBus(BusName::contactPath(), m_requests) ||
+        (m_administration && !putOnBus(BusName::adminPath(), m_administration))) {
         return Start::Refused;
     }
     if (m_connection.registerService(BusName::service())) {

@@ -25,8 +25,12 @@ public:
         Refused,        ///< the bus does not take an object or the name; the reason is in the log
     };
 
+    /// The administration is for whoever runs the application to try it out: it hides nothing and can empty
+    /// everything, and any program of the session can call it.
+    enum class Interfaces { RequestsOnly, WithAdministration };
+
     /// @p book must outlive it.
-    explicit BusService(ContactsBook &book, QObject *parent = nullptr);
+    BusService(ContactsBook &book, Interfaces interfaces, QObject *parent = nullptr);
 
     Start start();
 
@@ -39,6 +43,6 @@ private:
     void askOtherForWindow();
 
     QDBusConnection m_connection;
-    ContactRequests *m_requests;      ///< a child
-    Administration *m_administration; ///< a child
+    ContactRequests *m_requests;                ///< a child
+    Administration *m_administration = nullptr; ///< a child; null when it is not on the bus
 };

@@ -11,7 +11,8 @@
 #include <QLabel>
 #include <QSignalBlocker>
 
-AccountBar::AccountBar(ContactsBook &book, Administration &administration, QWidget *parent)
+AccountBar::AccountBar(ContactsBook &book, Administration &administration, Elsewhere elsewhere,
+                       QWidget *parent)
     : QWidget(parent)
     , m_book(book)
     , m_administration(administration)
@@ -21,6 +22,7 @@ AccountBar::AccountBar(ContactsBook &book, Administration &administration, QWidg
     , m_elsewhere(new QCheckBox(QStringLiteral("正在其他设备上开会(&E)")))
 {
     addControls();
+    m_elsewhere->setHidden(elsewhere == Elsewhere::Hidden);
     connect(m_account, QOverload<int>::of(&QComboBox::activated), this, &AccountBar::loginSelected);
     connect(m_logout, &QPushButton::clicked, &m_administration, &Administration::Logout);
     connect(m_kind, QOverload<int>::of(&QComboBox::activated), this, [this] {

@@ -17,8 +17,12 @@ class AccountBar : public QWidget
     Q_OBJECT
 
 public:
+    /// Whether one can say that the user is in a conference on another device.
+    enum class Elsewhere { Hidden, Shown };
+
     /// Both must outlive it.
-    AccountBar(ContactsBook &book, Administration &administration, QWidget *parent = nullptr);
+    AccountBar(ContactsBook &book, Administration &administration, Elsewhere elsewhere,
+               QWidget *parent = nullptr);
 
     void reload();
 

@@ -21,7 +21,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administration)
+ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administration, Tools tools)
     : m_pages(new QTabWidget)
     , m_told(new QLabel)
 {
@@ -39,6 +39,7 @@ ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administratio
     m_told->setAccessibleName(QStringLiteral("结果"));
     auto *sample = new QPushButton(QStringLiteral("恢复示例数据(&R)"));
     sample->setObjectName(QStringLiteral("sample"));
+    sample->setHidden(tools == Tools::ForUsers);
     connect(sample, &QPushButton::clicked, this, [this, &administration] {
         tell(administration.LoadSample() ? QStringLiteral("示例数据已恢复。") : QStringLiteral("操作失败。"));
     });
@@ -47,7 +48,10 @@ ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administratio
     foot->addWidget(sample);
 
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(new AccountBar(book, administration));
+    layout->addWidget(makeNotice(book));
+    layout->addWidget(new AccountBar(book, administration,
+                                     tools == Tools::ForDevelopers ? AccountBar::Elsewhere::Shown
+                                                                   : AccountBar::Elsewhere::Hidden));
     layout->addWidget(m_pages, 1);
     layout->addLayout(foot);
     addShortcuts();
@@ -60,6 +64,38 @@ void ContactsWindow::bringUp()
     setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
     activateWindow();
+}
+
+QWidget *ContactsWindow::makeNotice(ContactsBook &book)
+{
+    auto *notice = new QWidget;
+    notice->setObjectName(QStringLiteral("notice"));
+    auto *text = new QLabel;
+    text->setObjectName(QStringLiteral("noticeText"));
+    text->setTextFormat(Qt::PlainText);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    text->setWordWrap(true);
+    text->setAccessibleName(QStringLiteral("通知"));
+    auto *read = new QPushButton(QStringLiteral("知道了(&K)"));
+    read->setObjectName(QStringLiteral("noticeRead"));
+    auto *layout = new QHBoxLayout(notice);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(text, 1);
+    layout->addWidget(read);
+    try {
+        text->setText(book.session().notice());
+    } catch (const std::exception &error) {
+        qWarning("The notice cannot be shown: %s", error.what());
+    }
+    notice->setHidden(text->text().isEmpty());
+    connect(read, &QPushButton::clicked, notice, [notice, &book] {
+        const bool done = book.change([&book] {
+            book.session().setNotice(QString());
+            return true;
+        });
+        notice->setVisible(!done);
+    });
+    return notice;
 }
 
 TablePage *ContactsWindow::makePeoplePage(ContactsBook &book)

@@ -23,13 +23,17 @@ class ContactsWindow : public QWidget
     Q_OBJECT
 
 public:
+    /// What only somebody who tries things out needs: the sample directory and being in another conference.
+    enum class Tools { ForUsers, ForDevelopers };
+
     /// Both must outlive it.
-    ContactsWindow(ContactsBook &book, Administration &administration);
+    ContactsWindow(ContactsBook &book, Administration &administration, Tools tools = Tools::ForUsers);
 
     /// Shows it above the others.
     void bringUp();
 
 private:
+    QWidget *makeNotice(ContactsBook &book);
     TablePage *makePeoplePage(ContactsBook &book);
     void tell(const QString &text);
     void addShortcuts();

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QSqlDatabase>
+
+/// What could be read of a damaged database.
+struct Salvaged
+{
+    int people = 0;
+    int conferences = 0;
+    int rows = 0; ///< of all tables
+};
+
+/// Copies what can be read of @p damagedFile into @p fresh, a database of the present version without
+/// content, row by row: each table from its beginning and from its end, as far as the damage lets it. Rows
+/// whose person or conference is lost are left out. The damaged file is only read. Throws DatabaseError when
+/// @p fresh fails.
+Salvaged salvage(const QString &damagedFile, const QSqlDatabase &fresh);

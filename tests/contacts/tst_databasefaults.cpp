@@ -1,0 +1,306 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "sampleworld.h"
+
+#include "logcapture.h"
+
+#include "core/databaseerror.h"
+#include "core/statement.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QtTest>
+
+#include <algorithm>
+#include <csignal>
+#include <functional>
+#include <future>
+#include <thread>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace {
+
+/// The application, which may not write files beyond a size: what a full disk is like.
+class Application : public QProcess
+{
+public:
+    explicit Application(const QString &dataFolder, int roomBytes = -1) : m_roomBytes(roomBytes)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), dataFolder);
+        setProcessEnvironment(environment);
+        start(QStringLiteral(APPLICATION), {QStringLiteral("--service")});
+    }
+
+protected:
+    void setupChildProcess() override
+    {
+        if (m_roomBytes >= 0) {
+            const rlimit limit{static_cast<rlim_t>(m_roomBytes), static_cast<rlim_t>(m_roomBytes)};
+            setrlimit(RLIMIT_FSIZE, &limit);
+            signal(SIGXFSZ, SIG_IGN);
+        }
+    }
+
+private:
+    int m_roomBytes;
+};
+
+struct DataFolder
+{
+    QTemporaryDir root;
+    QString file = root.filePath(QStringLiteral("kelvane-contacts/contacts.db"));
+
+    /// Without the journals that lie beside them.
+    QStringList setAside() const
+    {
+        QStringList names = QFileInfo(file).dir().entryList({QStringLiteral("*damaged*")}, QDir::Files);
+        names.erase(std::remove_if(names.begin(), names.end(),
+                                   [](const QString &name) { return name.count(QLatin1Char('-')) > 1; }),
+                    names.end());
+        return names;
+    }
+};
+
+ContactsBook::Clock fixedClock()
+{
+    return [] {
+        return at("2026-03-07T10:20");
+    };
+}
+
+QString worldIn(const QString &file)
+{
+    ContactsBook book(file, fixedClock());
+    return Administration(book).Snapshot();
+}
+
+void addPeople(ContactsBook &book, int count)
+{
+    book.change([&book, count] {
+        for (int i = 0; i < count; ++i) {
+            Person person;
+            person.userId = QStringLiteral("p%1").arg(i, 6, 10, QLatin1Char('0'));
+            person.account = QStringLiteral("9%1").arg(i, 6, 10, QLatin1Char('0'));
+            person.name = QStringLiteral("第%1位").arg(i);
+            book.people().addPerson(person);
+        }
+        return true;
+    });
+}
+
+void overwrite(const QString &name, qint64 from, qint64 to)
+{
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.seek(from));
+    file.write(QByteArray(static_cast<int>(to - from), 'x'));
+}
+
+unsigned modeOf(const QString &path)
+{
+    struct stat status = {};
+    return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777U : 0U;
+}
+
+using Obstacle = std::function<std::function<void()>(const QString &file)>;
+
+/// Puts a folder where a file ought to be; what comes back takes it away.
+Obstacle folderInPlaceOf(const QString &suffix)
+{
+    return [suffix](const QString &file) {
+        QDir().mkdir(file + suffix);
+        return [path = file + suffix] {
+            QDir().rmdir(path);
+        };
+    };
+}
+
+/// Has the file for itself.
+std::function<void()> lockExclusively(const QString &file)
+{
+    const QString name = QStringLiteral("other");
+    QSqlDatabase other = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
+    other.setDatabaseName(file);
+    other.open();
+    for (const char *sql : {"PRAGMA locking_mode = EXCLUSIVE", "BEGIN EXCLUSIVE",
+                            "UPDATE session SET friend_limit = friend_limit"}) {
+        QSqlQuery(other).exec(QLatin1String(sql));
+    }
+    return [name] {
+        QSqlDatabase::database(name).close();
+        QSqlDatabase::removeDatabase(name);
+    };
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Obstacle)
+
+/// A database that cannot be read, for reasons that have nothing to do with it and for damage.
+class TestDatabaseFaults : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aHealthyFileIsNeverSetAside_data();
+    void aHealthyFileIsNeverSetAside();
+    void aLockIsWaitedFor();
+    void whatCanBeReadOfADamagedFileIsKept();
+    void aFileOfRubbishIsReplacedAndToldOf();
+    void othersCannotRead();
+};
+
+void TestDatabaseFaults::aHealthyFileIsNeverSetAside_data()
+{
+    QTest::addColumn<int>("roomBytes");
+    QTest::addColumn<Obstacle>("obstacle");
+    const Obstacle none = [](const QString &) {
+        return [] {
+        };
+    };
+    for (const int room : {0, 1, 512, 4096, 30000}) {
+        QTest::addRow("room for %d bytes", room) << room << none;
+    }
+    QTest::newRow("the -wal cannot be read") << -1 << folderInPlaceOf(QStringLiteral("-wal"));
+    QTest::newRow("the -shm cannot be read") << -1 << folderInPlaceOf(QStringLiteral("-shm"));
+    QTest::newRow("another process has it locked") << -1 << Obstacle(lockExclusively);
+}
+
+void TestDatabaseFaults::aHealthyFileIsNeverSetAside()
+{
+    QFETCH(int, roomBytes);
+    QFETCH(Obstacle, obstacle);
+    const DataFolder folder;
+    const QString before = worldIn(folder.file);
+    const std::function<void()> remove = obstacle(folder.file);
+    Application application(folder.root.path(), roomBytes);
+    const bool hasEnded = application.waitForFinished(30000);
+    application.kill();
+    application.waitForFinished();
+    const QByteArray said = application.readAllStandardError();
+    remove();
+    QVERIFY2(hasEnded, said.constData());
+    QCOMPARE(application.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(application.exitCode(), 1);
+    QVERIFY2(said.contains("The contacts cannot be opened"), said.constData());
+    QCOMPARE(folder.setAside(), QStringList());
+    QCOMPARE(worldIn(folder.file), before);
+}
+
+void TestDatabaseFaults::aLockIsWaitedFor()
+{
+    const DataFolder folder;
+    const QString before = worldIn(folder.file);
+    std::promise<void> locked;
+    std::thread other([&folder, &locked] {
+        const std::function<void()> unlock = lockExclusively(folder.file);
+        locked.set_value();
+        std::this_thread::sleep_for(std::chrono::milliseconds(1000));
+        unlock();
+    });
+    locked.get_future().wait();
+    QElapsedTimer timer;
+    timer.start();
+    QString after;
+    try {
+        after = worldIn(folder.file);
+    } catch (const DatabaseError &error) {
+        after = QString::fromUtf8(error.what());
+    }
+    const qint64 waited = timer.elapsed();
+    other.join();
+    QCOMPARE(after, before);
+    QVERIFY2(waited >= 500, qPrintable(QString::number(waited)));
+    QCOMPARE(folder.setAside(), QStringList());
+}
+
+void TestDatabaseFaults::whatCanBeReadOfADamagedFileIsKept()
+{
+    constexpr int People = 5000;
+    const DataFolder folder;
+    {
+        ContactsBook book(folder.file, fixedClock());
+        addPeople(book, People);
+        QVERIFY(
+            book.perform(QStringLiteral("Create Conference"), QString()).contains(QStringLiteral("\"OK\"")));
+    }
+    const qint64 size = QFileInfo(folder.file).size();
+    overwrite(folder.file, size / 2, size / 2 + 16 * 4096);
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    QString notice;
+    int kept = 0;
+    {
+        ContactsBook book(folder.file, fixedClock());
+        kept = book.people().all().size();
+        notice = book.session().notice();
+        // Those who are there are found by every index.
+        QVERIFY(book.people().byAccount(QStringLiteral("9000000")).has_value());
+        QCOMPARE(book.people().byName(QStringLiteral("第%1位").arg(People - 1), 2).size(), 1);
+    }
+    QVERIFY2(kept > People / 2 && kept < People + 40, qPrintable(QString::number(kept)));
+    const QStringList setAside = folder.setAside();
+    QCOMPARE(setAside.size(), 1);
+    QCOMPARE(QFileInfo(QFileInfo(folder.file).dir().filePath(setAside.at(0))).size(), size);
+    QVERIFY2(notice.contains(setAside.at(0)), qPrintable(notice));
+    QVERIFY2(notice.contains(QStringLiteral("已找回 %1 位联系人").arg(kept)), qPrintable(notice));
+    QCOMPARE(log.texts(QtCriticalMsg).size(), 2);
+
+    // It is sound from now on, and what was told stays to be read.
+    ContactsBook again(folder.file, fixedClock());
+    QCOMPARE(again.people().all().size(), kept);
+    QCOMPARE(again.session().notice(), notice);
+    QCOMPARE(folder.setAside(), setAside);
+    Statement integrity(again.database().handle(), QStringLiteral("PRAGMA integrity_check"));
+    QVERIFY(integrity.run().next());
+    QCOMPARE(integrity.text(0), QStringLiteral("ok"));
+}
+
+void TestDatabaseFaults::aFileOfRubbishIsReplacedAndToldOf()
+{
+    const DataFolder folder;
+    worldIn(folder.file);
+    overwrite(folder.file, 4096, QFileInfo(folder.file).size());
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    ContactsBook book(folder.file, fixedClock());
+    QCOMPARE(folder.setAside().size(), 1);
+    QVERIFY(book.session().notice().contains(folder.setAside().at(0)));
+    QVERIFY(book.session().notice().contains(QStringLiteral("示例数据")));
+    QVERIFY(book.session().user().has_value());
+}
+
+void TestDatabaseFaults::othersCannotRead()
+{
+    const mode_t former = umask(022);
+    const DataFolder folder;
+    const QString path = QFileInfo(folder.file).path();
+    {
+        const ContactsBook book(folder.file);
+        QCOMPARE(modeOf(path), 0700U);
+        for (const char *suffix : {"", "-wal", "-shm"}) {
+            QCOMPARE(modeOf(folder.file + QLatin1String(suffix)), 0600U);
+        }
+    }
+    // As a former version left them.
+    const QString damaged = folder.file + QStringLiteral(".damaged-20260101T000000000");
+    QVERIFY(QFile::copy(folder.file, damaged));
+    QVERIFY(chmod(QFile::encodeName(path).constData(), 0755) == 0);
+    for (const QString &name : {folder.file, damaged}) {
+        QVERIFY(chmod(QFile::encodeName(name).constData(), 0644) == 0);
+    }
+    {
+        const ContactsBook book(folder.file);
+        QCOMPARE(modeOf(path), 0700U);
+        for (const QString &name : {folder.file, QString(folder.file + QStringLiteral("-wal")),
+                                    QString(folder.file + QStringLiteral("-shm")), damaged}) {
+            QCOMPARE(modeOf(name), 0600U);
+        }
+    }
+    umask(former);
+}
+
+QTEST_GUILESS_MAIN(TestDatabaseFaults)
+#include "tst_databasefaults.moc"

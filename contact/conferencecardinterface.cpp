@@ -17,9 +17,9 @@
 namespace {
 
 /**
- * One request: an ability of its own, made and deleted here. @p analyse turns the answer of a successful call
- * into the result; a failed call's code is the result itself. An exception from the library ends here,
- * because the callers are slots and the host's entry points.
+ * Sends one request through an ability of its own. Returns what @p analyse makes of the answer, or the code
+ * of a call that failed. Swallows the library's exceptions: the callers are slots and the host's entry
+ * points.
  */
 template <typename Analyse>
 int perform(QLatin1String action, const QString &parameters, Analyse analyse)
@@ -98,7 +98,7 @@ bool ConferenceCardInterface::isInMeetingCheck()
     if (!ContactUtils::contactAppIsRunning()) {
         return false;
     }
-    bool isInMeeting = false; // stays so when the call itself fails
+    bool isInMeeting = false; // also if the call itself fails
     perform(AbilityAction::IsConferenceHost, QString(), [&](const QString &answer) {
         isInMeeting = ContactUtils::analyzeReturnContext(answer) != ResultCode::NoConference;
         return ResultCode::Success;

@@ -10,11 +10,11 @@
 #include <QObject>
 
 /**
- * The one gateway to the contacts application. Each operation is one request that blocks the calling thread
- * until the answer is there or the time-out has passed, and gives a result code (resultcodes.h) or what the
- * ability library returned. May be called on any thread; the object itself lives until the process ends.
+ * The gateway to the contacts application. Each operation sends one request, blocks the calling thread until
+ * the answer arrives or the request times out, and returns a result code (resultcodes.h) or the ability
+ * library's own code. Thread-safe; the instance lives until the process ends.
  *
- * It also carries the signal by which a handler hands the record of its outcome to the reply cards.
+ * Handlers also pass their records to the reply cards through it, see sentActionSignals().
  */
 class ConferenceCardInterface : public QObject
 {
@@ -27,7 +27,7 @@ public:
     int createVideoConference(const QString &params, const QVector<QString> &memberNames,
                               const bool &isSchedule, const qint64 &startMsecs,
                               ContactCreatedConferenceDetail &detail);
-    /// Scheduled when @p startMsecs is positive, at once otherwise.
+    /// Books the conference if @p startMsecs is positive, starts it at once otherwise.
     int createVideoConference(const QString &params, const qint64 &startMsecs);
     int inviteVideoConference(const QString &params, const QVector<QString> &memberNames,
                               ContactInviteMemberDetail &detail);
@@ -35,7 +35,7 @@ public:
     int JoinMyVideoConference(QVector<ContactDetailMsg> &conferences);
     int QueryVideoConference(const QString &params, const qint64 &queryStartMsecs,
                              QVector<ContactDetailMsg> &conferences);
-    /// Any answer but "No Conference" counts as being in one, a failure too.
+    /// Any answer but "No Conference" counts as being in a meeting, even a failure.
     bool isInMeetingCheck();
     int deleteVideoConference(const QString &confId);
     int addBuddy(const QString &name);
@@ -49,9 +49,8 @@ public:
 
 Q_SIGNALS:
     /**
-     * A card is wanted. @p actionType is a SignalActionType, @p payload the record that belongs to it, @p
-     * reply the reply that the card joins; it belongs to the sender and is complete when the emission
-     * returns.
+     * Requests a card. @p actionType is a SignalActionType, @p payload its record; the card is attached to
+     * @p reply, which the sender owns, before the emission returns.
      */
     void sentActionSignals(const int &actionType, const QVariant &payload, Reply *reply);
 

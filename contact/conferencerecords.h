@@ -9,8 +9,8 @@
 
 /**
  * @file
- * Plain values that carry the ability's answers to the handlers and, inside a QVariant, to the cards. Members
- * stand in the documented order, which is part of the binary layout.
+ * Plain values that carry the ability's answers to the handlers and, inside a QVariant, to the cards. The
+ * order of their members is part of the binary layout.
  */
 
 /// One person as the contacts application knows them.
@@ -34,30 +34,30 @@ struct ContactDetailMsg
 {
     QString title;
     QVector<UserInfo> participants;
-    qint64 duration = 0; ///< as it came on the wire; the bundled application and the cards count milliseconds
+    qint64 duration = 0;  ///< as it came on the wire; milliseconds from the bundled application
     qint64 startTime = 0; ///< milliseconds since the epoch
     QString confId;
-    QString conferenceDialNumber; ///< the number one says to join
+    QString conferenceDialNumber; ///< the number to say or dial to join
     int participantLimit = 0;
     int status = 0; ///< 0 not started, 2 ended, anything else in progress
     bool isPayingUser = false;
 };
 
-/// How spoken member names matched the user's contacts.
+/// How the spoken names matched the user's contacts.
 struct ContactInviteMemberDetail
 {
     QVector<DuplicateUsers> duplicateUsers;
     QVector<UserInfo> normalUsers;
     QVector<QString> notExistUsers;
-    int canInviteNum = 0; ///< how many more fit; only set when a limit was exceeded
+    int canInviteNum = 0; ///< how many more fit; set only if a limit was exceeded
 };
 
 /// The outcome of creating a conference.
 struct ContactCreatedConferenceDetail
 {
-    bool isSchedule = false;               ///< as the request was made
-    qint64 scheduleTimeMsecs = 0;          ///< as the request was made, milliseconds since the epoch
-    QVector<ContactDetailMsg> conferences; ///< the one created, or those that overlap
+    bool isSchedule = false;               ///< as requested
+    qint64 scheduleTimeMsecs = 0;          ///< as requested, milliseconds since the epoch
+    QVector<ContactDetailMsg> conferences; ///< the created one, or those that overlap it
     ContactInviteMemberDetail inviteDetail;
 };
 

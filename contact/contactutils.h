@@ -13,7 +13,7 @@ class QJsonDocument;
 QT_END_NAMESPACE
 
 /**
- * Builds requests to the contacts application and analyses its answers: the documented names for what
+ * Builds requests to the contacts application and analyses its answers: the interface's names for what
  * request/ and answer/ do. Everything is static, stateless and callable on any thread; the instance exists
  * because the interface has one.
  *

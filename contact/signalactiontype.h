@@ -3,7 +3,7 @@
 
 #pragma once
 
-/// What a card is to show, and with it the record that travels in the QVariant beside it. Sent as int.
+/// What a card shows, and the record that travels with it in a QVariant. Sent as int.
 enum SignalActionType {
     Create_Success = 0,     ///< ContactCreatedConferenceDetail
     Create_Duplicate = 1,   ///< ContactCreatedConferenceDetail

@@ -7,7 +7,7 @@
 
 #include <QObject>
 
-/// Leaves the conference that runs.
+/// Leaves the conference in progress.
 class CloseConferenceIntent : public QObject, public IReplyableIntent
 {
     Q_OBJECT

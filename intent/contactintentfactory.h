@@ -5,13 +5,13 @@
 
 #include "dynamicregisterintentfactory.h"
 
-/// The handlers of this plugin: a new intent is one more row in the constructor.
+/// Creates this plugin's handlers. A new intent is one more row in the constructor.
 class ContactIntentFactory : public DynamicRegisterIntentFactory
 {
     Q_OBJECT
 
 public:
-    /// Made on the first call, on any thread; lives until the process ends.
+    /// Created by the first call, on any thread; lives until the process ends.
     static ContactIntentFactory *instance();
 
 private:

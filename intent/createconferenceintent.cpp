@@ -71,7 +71,7 @@ QString choicePrompt(const Detail &detail, const CloudIntent & /*intent*/)
     return MemberPhrases::choicePrompt(detail.inviteDetail.notExistUsers);
 }
 
-// Among the rows of one code the first whose condition holds wins, so the narrow ones come first.
+// The first row of a code whose condition holds wins, so the narrow ones come first.
 constexpr ReplyTable<Detail> Outcomes = {
     Say(ResultCode::Success, u"好的，现在为您%1视频会议。").with(verb).when(isImmediate),
     Say(ResultCode::Success, u"好的，为您预约如下。").when(isBookedAndListed).afterCard(Create_Success),
@@ -114,7 +114,7 @@ int CreateConferenceIntent::handleCreateVideoMeeting(const CloudIntent &intent)
 
     const CloudSlot *datetime = SlotReader::first(intent, SlotName::Datetime);
     const QVector<QString> names = SlotReader::allTexts(intent, SlotName::Name);
-    // Neither is needed: without people and time it is a conference of the user alone, now.
+    // Both are optional: without people and a time, the user starts a conference alone, now.
     if (datetime == nullptr) {
         qWarning() << "Create Conference not contain slot: " << SlotName::Datetime;
     }

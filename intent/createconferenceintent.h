@@ -8,7 +8,7 @@
 
 #include <QObject>
 
-/// Starts or books a video conference with the people named.
+/// Starts or books a video conference with the named people.
 class CreateConferenceIntent : public QObject, public IReplyableIntent
 {
     Q_OBJECT

@@ -12,8 +12,8 @@
 #include <functional>
 
 /**
- * A factory that knows the handlers registered with it. Register everything before the first request:
- * createIntent() is called on worker threads and takes no lock, because nothing writes by then.
+ * Creates the handlers registered with it. Register everything before the first request: createIntent() runs
+ * on worker threads and takes no lock.
  */
 class DynamicRegisterIntentFactory : public QObject, public IIntentFactory
 {
@@ -22,13 +22,13 @@ class DynamicRegisterIntentFactory : public QObject, public IIntentFactory
 public:
     explicit DynamicRegisterIntentFactory(QObject *parent = nullptr);
 
-    /// Names are matched exactly, case included.
+    /// Names are case-sensitive.
     IBusinessIntent *createIntent(const QString &name) override;
 
     /// The names of all registered intents, sorted.
     [[nodiscard]] QStringList intentNames() const;
 
-    /// False when @p name is taken: the first registration wins.
+    /// Returns false if @p name is taken: the first registration wins.
     bool registerIntent(const QString &name, std::function<IBusinessIntent *()> creator);
 
     /// Registers the handler class T under T::IntentName.

@@ -5,11 +5,11 @@
 
 class CloudIntent;
 
-/// Carries out one spoken intent. Made new for each request; the service owns it.
+/// Carries out one spoken intent. Created per request and owned by the service.
 class IBusinessIntent
 {
 public:
     virtual ~IBusinessIntent() = default;
-    /// Performs the intent, on the host's worker thread. A result code: 0 is success.
+    /// Performs the intent on the host's worker thread. Returns a result code, 0 for success.
     virtual int action(const CloudIntent &intent) = 0;
 };

@@ -7,11 +7,11 @@
 
 class IBusinessIntent;
 
-/// Makes the handler for an intent's name.
+/// Creates handlers by the intent's name.
 class IIntentFactory
 {
 public:
     virtual ~IIntentFactory() = default;
-    /// A new handler, owned by the caller; null for a name it does not know.
+    /// Returns a new handler, owned by the caller; null for an unknown name.
     virtual IBusinessIntent *createIntent(const QString &name) = 0;
 };

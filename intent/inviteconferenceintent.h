@@ -8,7 +8,7 @@
 
 #include <QObject>
 
-/// Invites the people named into the conference that runs.
+/// Invites the named people to the conference in progress.
 class InviteConferenceIntent : public QObject, public IReplyableIntent
 {
     Q_OBJECT

@@ -11,8 +11,8 @@
 class IReplyableIntent : public IBusinessIntent
 {
 public:
-    /// Turns the result of action() into the reply, on the GUI thread because a card may be built. Returns @p
-    /// code.
+    /// Turns @p code, the result of action(), into the reply and returns it. Runs on the GUI thread, because
+    /// it may build a card.
     virtual int handleReply(int code, const CloudIntent &intent);
     /// Owned by the handler.
     virtual Reply *getReply();

@@ -7,14 +7,14 @@
 
 #include <QObject>
 
-/// Joins a conference by its number. A password that is asked for comes with a new intent that holds the
-/// number again.
+/// Joins a conference by its number. When a password is asked for, it arrives in a new intent that repeats
+/// the number.
 class JoinConferenceIntent : public QObject, public IReplyableIntent
 {
     Q_OBJECT
 
 public:
-    /// The understanding service spells it so.
+    /// The understanding service's spelling.
     static constexpr const char *IntentName = "ENETR_ID_CONFERENCE";
 
     explicit JoinConferenceIntent(QObject *parent = nullptr) : QObject(parent) {}

@@ -8,7 +8,7 @@
 
 #include <QObject>
 
-/// Joins the user's own conference, or offers those that could be meant.
+/// Joins the user's own conference, or offers a choice of several.
 class JoinMyConferenceIntent : public QObject, public IReplyableIntent
 {
     Q_OBJECT

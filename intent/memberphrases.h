@@ -7,16 +7,16 @@
 
 #include <QStringView>
 
-/// The phrases about matched and missing people that creating and inviting share.
+/// Phrases about found and missing people, shared by creating and inviting.
 namespace MemberPhrases {
 
-/// The names that were asked for, with an ideographic comma between them.
+/// Joins the names that were asked for with an ideographic comma.
 QString joinedNames(const QVector<UserInfo> &users);
 
-/// Asks which of several people of one name is meant, naming first those that were not found.
+/// Asks which of several people of one name is meant, after listing the names that were not found.
 QString choicePrompt(const QVector<QString> &notExistUsers);
 
-/// %1 is who was found, %2 who was not. Inviting uses it too, although the conference runs already.
+/// %1: the people found, %2: the names not found. Inviting says it too, although the conference has started.
 constexpr QStringView StartedWithSome = u"好的，已为您发起和%1的视频会议，未找到%2。";
 
 } // namespace MemberPhrases

@@ -8,7 +8,7 @@
 
 #include <QObject>
 
-/// Shows the user's conferences, of a day or from now on.
+/// Shows the user's conferences on a day, or from now on.
 class QueryConferenceIntent : public QObject, public IReplyableIntent
 {
     Q_OBJECT

@@ -19,14 +19,14 @@ struct NoRecord
 };
 Q_DECLARE_METATYPE(NoRecord)
 
-/// What a reply brings beside its texts.
+/// What accompanies a reply's texts.
 struct Companion
 {
     enum Kind {
         Nothing,
-        CardBeforeText, ///< the card joins first, then the text sets code, texts and type
+        CardBeforeText, ///< the card is attached first, then the text sets code, texts and type
         CardAfterText,
-        UnannouncedCard, ///< after a text of type "texts only": the card adds its bit itself
+        UnannouncedCard, ///< follows a reply of texts only; the card adds its own bit
         ConferenceList,  ///< the contacts application shows its own list
     };
 
@@ -35,12 +35,12 @@ struct Companion
 };
 
 /**
- * One outcome of a request and what the user is told then. @p Record is what the handler's request filled.
+ * What the user is told about one outcome of a request. @p Record is the handler's record of the request.
  *
- * A handler's outcomes are a constexpr table of rows that reads as prose:
+ * A handler's outcomes are a constexpr table that reads as prose:
  * @code
  * using Say = ReplyRow<Detail>;
- * constexpr ReplyTable<Detail> Replies = {
+ * constexpr ReplyTable<Detail> Outcomes = {
  *     Say(ResultCode::Success, u"好的，现在为您%1视频会议。").with(verb).when(isImmediate),
  *     Say(ResultCode::TimeOverlap, u"您已有重复时间会议。").when(isListed).thenCard(Create_TimeOverlap),
  * };
@@ -100,7 +100,7 @@ public:
 
     [[nodiscard]] constexpr const Companion &companion() const { return m_companion; }
 
-    /// The text with its arguments, replaced in one go so that a name that contains "%2" stays as it is.
+    /// The text with its arguments, replaced in one go so that a name containing "%2" is left alone.
     [[nodiscard]] QString text(const Record &record, const CloudIntent &intent) const
     {
         QString text = m_text.toString();

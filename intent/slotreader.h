@@ -9,7 +9,7 @@
 class CloudIntent;
 class CloudSlot;
 
-/// The slots that the handlers read.
+/// The names of the slots that handlers read.
 namespace SlotName {
 constexpr const char *Account = "account";
 constexpr const char *Datetime = "datetime";
@@ -19,23 +19,22 @@ constexpr const char *Open = "open";
 constexpr const char *Password = "password";
 } // namespace SlotName
 
-/// How handlers read slots: a slot is found by its "name" entry, and its text is chosen in one place.
+/// Finds slots by their "name" entry and chooses which of their texts counts.
 namespace SlotReader {
 
-/// The first slot called @p slotName, or null. Valid as long as @p intent is.
+/// Returns the first slot called @p slotName, or null. Points into @p intent.
 const CloudSlot *first(const CloudIntent &intent, const char *slotName);
 
-/// What was said, in the understanding service's normal form where it gives one ("normValue"), else as it was
-/// said ("value").
+/// The normal form ("normValue") if the understanding service gives one, else the words as said ("value").
 QString text(const CloudSlot &slot);
 
-/// What was said, as it was said.
+/// The words as said ("value").
 QString spokenValue(const CloudSlot &slot);
 
-/// text() of the first slot called @p slotName; @p fallback when there is none.
+/// text() of the first slot called @p slotName; @p fallback if there is none.
 QString firstText(const CloudIntent &intent, const char *slotName, const QString &fallback = QString());
 
-/// text() of every slot called @p slotName, in their order, repeated ones too.
+/// text() of every slot called @p slotName, in order, including repeated ones.
 QVector<QString> allTexts(const CloudIntent &intent, const char *slotName);
 
 } // namespace SlotReader

@@ -13,8 +13,8 @@
 
 AbilityAnswer::AbilityAnswer(const QString &text, const char *errorText)
 {
-    // The ability's texts have always been taken in the locale's encoding. In any but UTF-8 this loses what
-    // the encoding cannot hold, but keeps the JSON's own characters, and with them the outcome.
+    // The ability's texts have always been converted to the locale's encoding. One other than UTF-8 loses the
+    // characters that it lacks, but never JSON's own, so the outcome survives.
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text.toLocal8Bit(), &error);
     if (error.error != QJsonParseError::NoError) {

@@ -8,7 +8,7 @@
 
 #include <initializer_list>
 
-/// One outcome word and the result code it means to one kind of request.
+/// Maps an outcome word to a result code.
 struct OutcomeCode
 {
     QLatin1String word;
@@ -17,19 +17,20 @@ struct OutcomeCode
 
 using OutcomeTable = std::initializer_list<OutcomeCode>;
 
-/// The contacts application's answer to one request, read from outside input.
+/// The contacts application's answer to a request; untrusted input.
 class AbilityAnswer
 {
 public:
-    /// A text that is not JSON gives an unreadable answer, logged as a warning that begins with @p errorText.
+    /// Text that is not JSON makes the answer unreadable, and is logged as a warning starting with @p
+    /// errorText.
     AbilityAnswer(const QString &text, const char *errorText);
 
     [[nodiscard]] bool isReadable() const { return m_isReadable; }
-    /// Empty when the answer has none.
+    /// The outcome word; empty if the answer has none.
     [[nodiscard]] const QString &outcome() const { return m_outcome; }
     [[nodiscard]] const QJsonObject &object() const { return m_object; }
 
-    /// What the outcome means by @p table; @p otherwise when it is not listed.
+    /// Looks the outcome up in @p table; @p otherwise if it is not listed.
     [[nodiscard]] int code(OutcomeTable table, int otherwise) const;
 
 private:

@@ -15,7 +15,7 @@ namespace {
 constexpr QLatin1String SuggestDatetimeKey = "suggestDatetime"_latin1;
 constexpr QLatin1Char timeMark('T');
 
-/// Whether @p text has a digit where @p shape has a zero, and is the same elsewhere.
+/// Whether @p text matches @p shape, where a zero stands for any digit.
 bool hasShape(const QString &text, QLatin1String shape)
 {
     return text.size() == shape.size() &&
@@ -25,7 +25,7 @@ bool hasShape(const QString &text, QLatin1String shape)
            });
 }
 
-// By hand, because Qt's format strings cost more than all the rest of a request.
+// Parsed by hand: Qt's format strings cost more than the rest of a request.
 
 QDate dateOf(const QString &text)
 {
@@ -52,7 +52,7 @@ SpokenTime SpokenTime::fromSlot(const QString &slotText, QJsonParseError *error)
     result.m_text = document.object().value(SuggestDatetimeKey).toString();
     result.m_hasTime = result.m_text.contains(timeMark);
     if (result.m_hasTime) {
-        // Each for itself: whether the two exist together is LocalTime's question.
+        // Separately: whether they exist together is up to LocalTime.
         const int mark = result.m_text.indexOf(timeMark);
         result.m_time = timeOf(result.m_text.mid(mark + 1));
         if (result.m_time.isValid()) {
@@ -78,8 +78,8 @@ QDateTime LocalTime::at(const QDate &date, const QTime &time)
     if (wanted.isValid()) {
         return wanted;
     }
-    // Counted on as if the clock had not been put forward. Qt's own milliseconds for such a time lie before
-    // the change, which for a missing midnight is the day before.
+    // Counts on as if the clock had not been put forward. Qt's own milliseconds for such a time lie before
+    // the change: on the previous day for a missing midnight.
     const int offset = QDateTime(date.addDays(-1), time).offsetFromUtc();
     return QDateTime(date, time, Qt::UTC).addSecs(-offset).toLocalTime();
 }

@@ -5,7 +5,7 @@
 
 #include "wire/latin1literal.h"
 
-/// What the contacts application can be asked to do: the action names of the ability's requests.
+/// The action names of the ability's requests.
 namespace AbilityAction {
 constexpr QLatin1String CreateConference = "Create Conference"_latin1;
 constexpr QLatin1String InviteMembers = "Invite Members"_latin1;

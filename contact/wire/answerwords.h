@@ -7,7 +7,7 @@
 
 /**
  * @file
- * The words of the contacts application's answers.
+ * The vocabulary of the contacts application's answers.
  *
  * @code{.json}
  * {"ret": "Return",
@@ -46,7 +46,7 @@ constexpr QLatin1String Account = "account"_latin1;
 constexpr QLatin1String Duplicates = "duplicate_list"_latin1;
 } // namespace AnswerKey
 
-/// What "ret" says; "OK", "Not Found" and "Duplicate" are also said of a single user. Compared exactly.
+/// The values of "ret", compared exactly. "OK", "Not Found" and "Duplicate" are also a user's "status".
 namespace OutcomeWord {
 constexpr QLatin1String Ok = "OK"_latin1;
 constexpr QLatin1String Success = "Success"_latin1;

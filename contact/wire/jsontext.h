@@ -7,7 +7,7 @@
 #include <QJsonObject>
 #include <QString>
 
-/// @p object without blanks and line breaks, as requests carry it.
+/// Writes @p object as requests carry it, without blanks and line breaks.
 inline QString compactText(const QJsonObject &object)
 {
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));

@@ -7,8 +7,7 @@
 
 #include <cstddef>
 
-/// "text"_latin1: a QLatin1String that is a constant with every compiler, since it need not look for the
-/// text's end.
+/// "text"_latin1: a constexpr QLatin1String on every compiler, because the length need not be searched for.
 constexpr QLatin1String operator""_latin1(const char *text, std::size_t size)
 {
     return QLatin1String(text, static_cast<int>(size));

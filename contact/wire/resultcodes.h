@@ -4,8 +4,8 @@
 #pragma once
 
 /**
- * The outcomes that the service, the analysers and the handlers share. Codes from -9999 to -1 that are not
- * listed are failures of the call itself.
+ * The result codes that service, analysers and handlers share. Any other code from -9999 to -1 is a failure
+ * of the call itself.
  */
 namespace ResultCode {
 constexpr int Success = 0;
@@ -14,7 +14,7 @@ constexpr int CallFailedLast = -1;
 constexpr int UnsupportedIntent = -21;
 constexpr int UnsupportedPhrasing = -24;
 constexpr int MissingSlot = -102;
-constexpr int Malformed = -16001; ///< also an outcome word that is not known
+constexpr int Malformed = -16001; ///< also an unknown outcome word
 constexpr int NobodyFound = -16002;
 constexpr int DuplicateNames = -16003;
 constexpr int SomeNotFound = -16004;

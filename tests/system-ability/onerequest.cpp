@@ -10,16 +10,23 @@
 #include <memory>
 #include <string>
 
-/// Sends one request and prints its code; with an argument, another one for each line of input.
+/// Sends one request and prints its code; with an argument, another one for each line of input, to the bus at
+/// GOOD_ADDRESS if there is such a variable. ONE_REQUEST_TIMEOUT bounds each.
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     std::string line;
     do {
         const std::unique_ptr<ContactAbility> ability(KelvaneAbilityManager::instance()->createContact());
+        if (qEnvironmentVariableIsSet("ONE_REQUEST_TIMEOUT")) {
+            ability->setTimeout(qEnvironmentVariableIntValue("ONE_REQUEST_TIMEOUT"));
+        }
         QString answer;
         std::printf("%d\n", ability->request(QStringLiteral("Echo"), QString(), answer));
         std::fflush(stdout);
+        if (qEnvironmentVariableIsSet("GOOD_ADDRESS")) {
+            qputenv("DBUS_SESSION_BUS_ADDRESS", qgetenv("GOOD_ADDRESS"));
+        }
     } while (argc > 1 && std::getline(std::cin, line));
     return 0;
 }

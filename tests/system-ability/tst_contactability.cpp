@@ -21,6 +21,10 @@
 #include <thread>
 #include <vector>
 
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
 namespace {
 
 struct Asked
@@ -65,6 +69,27 @@ private:
     bool m_isReady = false;
 };
 
+/// Takes connections, and never says a word.
+class SilentSocket
+{
+public:
+    explicit SilentSocket(const QString &path) : m_descriptor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0))
+    {
+        sockaddr_un name{};
+        name.sun_family = AF_UNIX;
+        qstrncpy(name.sun_path, QFile::encodeName(path).constData(), sizeof(name.sun_path));
+        m_isListening = bind(m_descriptor, reinterpret_cast<const sockaddr *>(&name), sizeof(name)) == 0 &&
+                        listen(m_descriptor, 5) == 0;
+    }
+    ~SilentSocket() { close(m_descriptor); }
+    Q_DISABLE_COPY(SilentSocket)
+    bool isListening() const { return m_isListening; }
+
+private:
+    int m_descriptor;
+    bool m_isListening = false;
+};
+
 QString scripted()
 {
     return QStringLiteral(SCRIPTED_APPLICATION);
@@ -95,6 +120,9 @@ private Q_SLOTS:
     void everyTimeOutIsCarried_data();
     void everyTimeOutIsCarried();
     void aThousandRequestsMayWait();
+    void aBusThatDoesNotAnswerKeepsNobody_data();
+    void aBusThatDoesNotAnswerKeepsNobody();
+    void aGoodAddressThatComesLaterIsUsed();
     void theDeadlineTravelsWithTheRequest();
     void whatWasPerformedAfterAllIsTold();
     void whatWasNotPerformedIsNotTold();
@@ -364,6 +392,72 @@ void TestContactAbility::aThousandRequestsMayWait()
     const auto failed = std::count_if(calls.cbegin(), calls.cend(),
                                       [](const QDBusPendingCall &call) { return call.isFinished(); });
     QCOMPARE(int(failed), 0);
+}
+
+void TestContactAbility::aBusThatDoesNotAnswerKeepsNobody_data()
+{
+    QTest::addColumn<bool>("isStoppedBus");
+    QTest::newRow("a bus that is stopped") << true;
+    QTest::newRow("a socket that takes connections and says nothing") << false;
+}
+
+void TestContactAbility::aBusThatDoesNotAnswerKeepsNobody()
+{
+    QFETCH(bool, isStoppedBus);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("bus"));
+    const QString address = QStringLiteral("unix:path=") + path;
+    std::unique_ptr<Running> bus;
+    std::unique_ptr<SilentSocket> silent;
+    if (isStoppedBus) {
+        bus = std::make_unique<Running>(QStringLiteral("dbus-daemon"),
+                                        QStringList{QStringLiteral("--nofork"),
+                                                    QStringLiteral("--print-address"),
+                                                    QStringLiteral("--config-file=" EMPTY_BUS_CONFIG),
+                                                    QStringLiteral("--address=") + address});
+        QVERIFY(bus->isReady());
+        bus->signal(SIGSTOP);
+    } else {
+        silent = std::make_unique<SilentSocket>(path);
+        QVERIFY(silent->isListening());
+    }
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), address);
+    environment.insert(QStringLiteral("ONE_REQUEST_TIMEOUT"), QStringLiteral("500"));
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(ONE_REQUEST), QStringList());
+    const bool hasEnded = process.waitForFinished(10000);
+    process.kill();
+    process.waitForFinished();
+    QVERIFY(hasEnded);
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.readAllStandardOutput().trimmed().toInt(), int(AbilityCode::TimedOut));
+}
+
+void TestContactAbility::aGoodAddressThatComesLaterIsUsed()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("bus"));
+    const SilentSocket silent(path);
+    QVERIFY(silent.isListening());
+    const Running application(scripted());
+    QVERIFY(application.isReady());
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("GOOD_ADDRESS"),
+                       environment.value(QStringLiteral("DBUS_SESSION_BUS_ADDRESS")));
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("unix:path=") + path);
+    environment.insert(QStringLiteral("ONE_REQUEST_TIMEOUT"), QStringLiteral("500"));
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(ONE_REQUEST), {QStringLiteral("again")});
+    QVERIFY(process.waitForReadyRead(10000));
+    QCOMPARE(process.readLine().trimmed().toInt(), int(AbilityCode::TimedOut));
+    process.write("\n");
+    QVERIFY(process.waitForReadyRead(10000));
+    QCOMPARE(process.readLine().trimmed(), QByteArray("0"));
+    process.closeWriteChannel();
+    QVERIFY(process.waitForFinished(10000));
 }
 
 void TestContactAbility::theDeadlineTravelsWithTheRequest()

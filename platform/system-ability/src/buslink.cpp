@@ -4,6 +4,7 @@
 #include "buslink.h"
 
 #include "abilitytrace.h"
+#include "busprobe.h"
 #include "callerror.h"
 #include "contact1proxy.h"
 #include "pendingrequest.h"
@@ -77,6 +78,7 @@ BusLink::BusLink()
 
 BusLink::~BusLink()
 {
+    m_isEnding = true; // ends a wait for a bus that does not answer
     m_thread.quit();
     m_thread.wait();
 }
@@ -123,7 +125,10 @@ void BusLink::call(const std::shared_ptr<PendingRequest> &request)
     if (remaining == 0) {
         return; // its caller has gone; what nobody waits for is not started
     }
-    const QDBusError error = connectToBus();
+    const QDBusError error = connectToBus(*request);
+    if (request->remainingMsecs() == 0) {
+        return;
+    }
     if (error.isValid()) {
         request->finish({AbilityCode::NoBus, {}, error.name(), error.message()});
         return;
@@ -139,12 +144,32 @@ void BusLink::call(const std::shared_ptr<PendingRequest> &request)
     });
 }
 
-QDBusError BusLink::connectToBus()
+bool BusLink::findBus(const PendingRequest &request) const
+{
+    for (;;) {
+        const QByteArray address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+        const auto isSame = [&address] {
+            return qgetenv("DBUS_SESSION_BUS_ADDRESS") == address;
+        };
+        const BusProbe::Found found = BusProbe::ask(address, [this, &request, &isSame] {
+            return !m_isEnding && request.remainingMsecs() > 0 && isSame();
+        });
+        // Another address may have come while this one was silent.
+        if (found != BusProbe::Found::Silence || m_isEnding || request.remainingMsecs() == 0 || isSame()) {
+            return found == BusProbe::Found::Bus;
+        }
+    }
+}
+
+QDBusError BusLink::connectToBus(const PendingRequest &request)
 {
     if (m_proxy && m_proxy->connection().isConnected()) {
         return {};
     }
     disconnectFromBus();
+    if (!findBus(request)) {
+        return {QDBusError::NoServer, QStringLiteral("nobody answers at the session bus's address")};
+    }
     m_connectionName = QStringLiteral("contact-ability-%1").arg(++m_connectionCount);
     // The address is read anew each time: the library below remembers the first one for ever.
     const QString address = QString::fromLocal8Bit(qgetenv("DBUS_SESSION_BUS_ADDRESS"));

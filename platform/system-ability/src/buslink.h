@@ -8,6 +8,7 @@
 #include <QThread>
 #include <QVector>
 
+#include <atomic>
 #include <memory>
 
 class Contact1Proxy;
@@ -41,10 +42,13 @@ private:
     void call(const std::shared_ptr<PendingRequest> &request);
     /// Makes a connection unless there is one that works. @return what is wrong with it, nothing when it
     /// works.
-    QDBusError connectToBus();
+    QDBusError connectToBus(const PendingRequest &request);
+    /// Waits for a bus that answers, as long as the request has time.
+    bool findBus(const PendingRequest &request) const;
     void disconnectFromBus();
 
     QThread m_thread;
+    std::atomic<bool> m_isEnding{false};
     // Only touched on the thread.
     QString m_connectionName; ///< empty while there is none
     int m_connectionCount = 0;

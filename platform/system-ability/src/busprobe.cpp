@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "busprobe.h"
+
+#include <QByteArrayList>
+
+#include <cerrno>
+#include <cstddef>
+#include <cstring>
+
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int StepMsecs = 20;
+
+/// Closes it at the end of its scope.
+class Socket
+{
+public:
+    Socket() : m_descriptor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0)) {}
+    ~Socket()
+    {
+        if (m_descriptor >= 0) {
+            close(m_descriptor);
+        }
+    }
+    Q_DISABLE_COPY(Socket)
+    int descriptor() const { return m_descriptor; }
+
+private:
+    int m_descriptor;
+};
+
+/// The value of a key in "unix:path=/run/bus,guid=…"; null without it.
+QByteArray valueOf(const QByteArray &address, const QByteArray &key)
+{
+    const QByteArrayList pairs = address.mid(address.indexOf(':') + 1).split(',');
+    for (const QByteArray &pair : pairs) {
+        if (pair.startsWith(key + '=')) {
+            return QByteArray::fromPercentEncoding(pair.mid(key.size() + 1));
+        }
+    }
+    return {};
+}
+
+/// Where the socket of a "unix:" address is; an abstract name starts with a NUL. Null for other addresses.
+QByteArray socketOf(const QByteArray &address)
+{
+    if (!address.startsWith("unix:")) {
+        return {};
+    }
+    const QByteArray abstractName = valueOf(address, "abstract");
+    if (!abstractName.isNull()) {
+        return '\0' + abstractName;
+    }
+    if (valueOf(address, "runtime") == "yes") {
+        return qgetenv("XDG_RUNTIME_DIR") + "/bus";
+    }
+    return valueOf(address, "path");
+}
+
+bool connectTo(const Socket &socket, const QByteArray &path, const std::function<bool()> &goesOn)
+{
+    sockaddr_un name{};
+    if (path.size() >= static_cast<int>(sizeof(name.sun_path))) {
+        return false;
+    }
+    name.sun_family = AF_UNIX;
+    std::memcpy(name.sun_path, path.constData(), static_cast<size_t>(path.size()));
+    // A file's name ends with its NUL, an abstract name with its length.
+    const size_t length =
+        offsetof(sockaddr_un, sun_path) + static_cast<size_t>(path.size()) + (path.startsWith('\0') ? 0 : 1);
+    // "Again" says that the queue of a bus that does not take connections is full.
+    while (connect(socket.descriptor(), reinterpret_cast<const sockaddr *>(&name),
+                   static_cast<socklen_t>(length)) != 0) {
+        if ((errno != EAGAIN && errno != EINTR) || !goesOn()) {
+            return false;
+        }
+        poll(nullptr, 0, StepMsecs);
+    }
+    return true;
+}
+
+/// Says hello in the way of the protocol's handshake, and waits for a word.
+BusProbe::Found hasAnswer(const Socket &socket, const std::function<bool()> &goesOn)
+{
+    const QByteArray hello = QByteArray(1, '\0') + "AUTH\r\n";
+    if (send(socket.descriptor(), hello.constData(), static_cast<size_t>(hello.size()), MSG_NOSIGNAL) !=
+        hello.size()) {
+        return BusProbe::Found::Nothing;
+    }
+    pollfd waiting{socket.descriptor(), POLLIN, 0};
+    while (poll(&waiting, 1, StepMsecs) <= 0) {
+        if (!goesOn()) {
+            return BusProbe::Found::Silence;
+        }
+    }
+    char byte = 0;
+    return recv(socket.descriptor(), &byte, 1, 0) == 1 ? BusProbe::Found::Bus : BusProbe::Found::Nothing;
+}
+
+BusProbe::Found askOne(const QByteArray &address, const std::function<bool()> &goesOn)
+{
+    const QByteArray path = socketOf(address);
+    if (path.isEmpty()) {
+        return BusProbe::Found::Bus;
+    }
+    const Socket socket;
+    if (socket.descriptor() < 0 || !connectTo(socket, path, goesOn)) {
+        return goesOn() ? BusProbe::Found::Nothing : BusProbe::Found::Silence;
+    }
+    return hasAnswer(socket, goesOn);
+}
+
+} // namespace
+
+BusProbe::Found BusProbe::ask(const QByteArray &addresses, const std::function<bool()> &goesOn)
+{
+    QByteArray all = addresses;
+    if (all.isEmpty()) {
+        const QByteArray own = qgetenv("XDG_RUNTIME_DIR") + "/bus";
+        // Without it the library below may start a bus, or not; that cannot be asked.
+        if (access(own.constData(), F_OK) != 0) {
+            return Found::Bus;
+        }
+        all = "unix:path=" + own;
+    }
+    Found found = Found::Nothing;
+    for (const QByteArray &address : all.split(';')) {
+        found = askOne(address, goesOn);
+        if (found != Found::Nothing) {
+            return found;
+        }
+    }
+    return found;
+}

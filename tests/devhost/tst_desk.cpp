@@ -63,6 +63,7 @@ private Q_SLOTS:
     void queryShowsACard();
     void conferenceIsJoinedWithAPasswordInTwoTurns();
     void friendIsAdded();
+    void statusLineTellsTheConferenceAndLeavesIt();
     void turnsAreFastAndTheWindowDoesNotStall();
 
 private:
@@ -210,6 +211,22 @@ void TestDesk::friendIsAdded()
     m_desk->say(QStringLiteral("添加好友200001"));
     QTRY_COMPARE(m_desk->lastText(), QStringLiteral("已成功发送好友申请。"));
     QCOMPARE(count(requested), 1);
+}
+
+void TestDesk::statusLineTellsTheConferenceAndLeavesIt()
+{
+    QVERIFY(RealDesk::loadSample());
+    auto *conference = m_desk->window().findChild<QLabel *>(QStringLiteral("statusConference"));
+    auto *leave = m_desk->window().findChild<QPushButton *>(QStringLiteral("statusLeave"));
+    m_desk->say(QStringLiteral("查询今天的会议"));
+    QTRY_VERIFY(!conference->isVisible() && !leave->isVisible());
+    m_desk->say(QStringLiteral("加入我的会议"));
+    QTRY_VERIFY(conference->isVisible() && leave->isVisible());
+    QCOMPARE(conference->text(), QStringLiteral("会议中：部门早会　880100001"));
+    QTest::mouseClick(leave, Qt::LeftButton);
+    QTRY_COMPARE(m_desk->lastTurn().said, QStringLiteral("退出会议"));
+    QTRY_VERIFY(!conference->isVisible() && !leave->isVisible());
+    QCOMPARE(m_desk->lastTurn().code, 0);
 }
 
 void TestDesk::turnsAreFastAndTheWindowDoesNotStall()

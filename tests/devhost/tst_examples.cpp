@@ -61,6 +61,7 @@ private Q_SLOTS:
     void documentsWork_data();
     void documentsWork();
     void exampleOfTheRefusalWorks();
+    void helpWorksAndNamesWhoIsThere();
     void requestsWorkAndShowAllSeven();
     void conversationEndsAsItSays();
 
@@ -76,6 +77,11 @@ void TestExamples::init()
 
 void TestExamples::follow(RealDesk &desk, const QString &example)
 {
+    if (example == QStringLiteral("你会什么")) {
+        desk.say(example);
+        QVERIFY(desk.lastTurn().display.contains(QStringLiteral("您可以说")));
+        return;
+    }
     const int remarkAt = example.indexOf(QStringLiteral("（"));
     const QString remark = remarkAt < 0 ? QString() : example.mid(remarkAt);
     desk.say(example.left(remarkAt));
@@ -162,6 +168,24 @@ void TestExamples::exampleOfTheRefusalWorks()
     QVERIFY(!examples.isEmpty());
     for (const QString &example : examples) {
         follow(desk, example + QStringLiteral("（有三位张伟，请在卡片上选）"));
+    }
+}
+
+void TestExamples::helpWorksAndNamesWhoIsThere()
+{
+    RealDesk desk;
+    // Who is there is known when the application has answered.
+    auto *account = desk.window().findChild<QLabel *>(QStringLiteral("statusAccount"));
+    QTRY_COMPARE(account->text(), QStringLiteral("王小明（100001）"));
+    desk.say(QStringLiteral("你能做什么？"));
+    const QString help = desk.lastTurn().display;
+    QCOMPARE(help.count(QLatin1Char('\n')), 9);
+    QVERIFY2(help.contains(QStringLiteral("李静")), qUtf8Printable(help));
+    QVERIFY2(!help.contains(QStringLiteral("张伟")), qUtf8Printable(help));
+    const QStringList examples = allMatches(QStringLiteral("“([^”]{3,})”"), help);
+    QVERIFY(examples.size() >= 8);
+    for (const QString &example : examples) {
+        follow(desk, example);
     }
 }
 

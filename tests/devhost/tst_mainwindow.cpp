@@ -83,6 +83,8 @@ private Q_SLOTS:
     void themeAndFontAreAppliedAndRemembered();
     void defaultThemeIsTheToolkitsNearestToTheSystems();
     void windowRemembersItself();
+    void newConversationBeginsAtTheWelcomePage();
+    void applicationThatDoesNotRunIsSaid();
     void windowSpeaksChinese();
     void problemIsShown();
     void namesAreShownWithoutWhatHides();
@@ -341,6 +343,31 @@ void TestMainWindow::windowRemembersItself()
     Conversation conversation(host, logs);
     const MainWindow window(conversation, appearance);
     QCOMPARE(window.size(), QSize(777, 555));
+}
+
+void TestMainWindow::newConversationBeginsAtTheWelcomePage()
+{
+    Desk desk;
+    desk.type(semantic("CARD", QStringLiteral("a")));
+    QTRY_VERIFY(desk.isIdle() && desk.window.view()->count() == 2);
+    auto *example = desk.window.findChild<QPushButton *>(QStringLiteral("example"));
+    QVERIFY(!example->isVisible());
+    QTest::keyClick(&desk.window, Qt::Key_N, Qt::ControlModifier);
+    QCOMPARE(desk.window.view()->count(), 0);
+    QVERIFY(example->isVisible());
+    QVERIFY(desk.shownTexts().isEmpty());
+    QCOMPARE(desk.conversation.turn(1).id, 0);
+    desk.type(semantic("ECHO", QStringLiteral("b")));
+    QTRY_VERIFY(desk.isIdle() && desk.shownTexts().size() == 2);
+}
+
+void TestMainWindow::applicationThatDoesNotRunIsSaid()
+{
+    Desk desk;
+    auto *account = desk.window.findChild<QLabel *>(QStringLiteral("statusAccount"));
+    QVERIFY(account->isVisible());
+    QCOMPARE(account->text(), QStringLiteral("联系人应用未运行"));
+    QVERIFY(!desk.window.findChild<QPushButton *>(QStringLiteral("statusLeave"))->isVisible());
 }
 
 void TestMainWindow::windowSpeaksChinese()

@@ -5,6 +5,7 @@
 
 #include "cleantext.h"
 #include "correction.h"
+#include "help.h"
 #include "logrecorder.h"
 #include "message.h"
 #include "secrets.h"
@@ -57,6 +58,14 @@ Conversation::Conversation(PluginHost &host, LogRecorder &logs, QObject *parent)
 void Conversation::setContactNames(const QStringList &names)
 {
     m_dialogue.setContactNames(names);
+}
+
+void Conversation::startOver()
+{
+    Q_ASSERT(!isBusy());
+    m_turns.clear();
+    // The way in which a user closes a question.
+    m_dialogue.turn(QStringLiteral("算了"), QDateTime::currentDateTime());
 }
 
 int Conversation::say(const QString &text)
@@ -114,11 +123,27 @@ void Conversation::startNext()
         end(message("The text is too long: %1 characters.").arg(input.text.size()));
         return;
     }
+    if (m_runningIsSentence && !m_dialogue.nextIsSecret() && help::isAskedFor(input.text)) {
+        answerWithHelp();
+        return;
+    }
     const QString semantic = input.isSemantic ? input.text : understand(input);
     const QStringList secrets = secretsIn(semantic);
     m_logs.setSecrets(secrets);
     m_turns[m_running].semantic = withoutSecrets(semantic, secrets);
     m_runner.run(semantic);
+}
+
+void Conversation::answerWithHelp()
+{
+    Reply reply(0, help::text(m_helpNames), Reply::Texts);
+    reply.speechText = QStringLiteral("您可以这样说。");
+    Turn &turn = m_turns[m_running];
+    turn.display = reply.displayText.toString();
+    turn.speech = reply.speechText.toString();
+    turn.type = reply.type;
+    Q_EMIT replied(m_running, reply);
+    end(QString());
 }
 
 QString Conversation::understand(Input &input)

@@ -35,6 +35,10 @@ public:
     Conversation(PluginHost &host, LogRecorder &logs, QObject *parent = nullptr);
 
     void setContactNames(const QStringList &names);
+    /// Who is named in the answer to "你会什么".
+    void setHelpNames(const QStringList &names) { m_helpNames = names; }
+    /// Forgets the turns and an open question. Not while it is busy.
+    void startOver();
 
     /// Queues a sentence and returns its turn. A text that starts with "{" is taken as semantic JSON.
     int say(const QString &text);
@@ -80,6 +84,7 @@ private:
     int enqueue(const QString &text, bool isSemantic);
     QString shownSentence(const QString &sentence) const;
     void startNext();
+    void answerWithHelp();
     QString understand(Input &input);
     void takeResult(const TurnResult &result);
     void takeLater(const Reply &reply);
@@ -89,6 +94,7 @@ private:
     TurnRunner m_runner;
     LogRecorder &m_logs;
     understanding::Dialogue m_dialogue;
+    QStringList m_helpNames;
     QQueue<Input> m_queue;
     QHash<int, Turn> m_turns;
     int m_lastId = 0;

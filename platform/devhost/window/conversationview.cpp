@@ -11,6 +11,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace devhost {
 
@@ -126,6 +127,16 @@ void ConversationView::setWaiting(int turn)
     m_waitingTurn = turn;
     m_dots->setVisible(turn != 0);
     layOut(0, wasAtEnd);
+}
+
+void ConversationView::clear()
+{
+    const QVector<Entry> gone = std::exchange(m_entries, {});
+    for (Entry entry : gone) {
+        release(entry);
+        delete entry.card;
+    }
+    setWaiting(0);
 }
 
 bool ConversationView::isWaiting() const

@@ -43,6 +43,9 @@ public:
     /// Dots after @p turn; 0 for none.
     void setWaiting(int turn);
 
+    /// Forgets everything, cards included.
+    void clear();
+
     int count() const { return m_entries.size(); }
     bool isWaiting() const;
     bool isAtEnd() const;

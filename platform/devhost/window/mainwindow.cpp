@@ -4,11 +4,13 @@
 #include "mainwindow.h"
 
 #include "appearance.h"
+#include "applicationlink.h"
 #include "cleantext.h"
 #include "conversationview.h"
 #include "inputline.h"
 #include "inspector.h"
 #include "speaker.h"
+#include "statusline.h"
 #include "welcomepage.h"
 
 #include <lumo/lsuggestbutton.h>
@@ -58,6 +60,8 @@ MainWindow::MainWindow(Conversation &conversation, Appearance &appearance, QWidg
     : QMainWindow(parent)
     , m_conversation(conversation)
     , m_appearance(appearance)
+    , m_application(new ApplicationLink(this))
+    , m_status(new StatusLine)
     , m_speaker(new Speaker(this))
     , m_problem(new QLabel)
     , m_pages(new QStackedWidget)
@@ -71,6 +75,7 @@ MainWindow::MainWindow(Conversation &conversation, Appearance &appearance, QWidg
     build();
     buildMenus();
     follow();
+    followApplication();
     restore();
     m_input->setFocus();
 }
@@ -92,7 +97,7 @@ void MainWindow::build()
     m_send->setMinimumSize(84, 38);
 
     auto *row = new QHBoxLayout;
-    row->setContentsMargins(16, 8, 16, 16);
+    row->setContentsMargins(16, 8, 16, 8);
     row->setSpacing(10);
     row->addWidget(m_input, 1);
     row->addWidget(m_send);
@@ -103,6 +108,7 @@ void MainWindow::build()
     column->addWidget(m_problem);
     column->addWidget(m_pages, 1);
     column->addLayout(row);
+    column->addWidget(m_status);
     m_splitter->addWidget(desk);
     m_splitter->addWidget(m_inspector);
     m_splitter->setStretchFactor(0, 3);
@@ -114,6 +120,11 @@ void MainWindow::build()
 void MainWindow::buildMenus()
 {
     QMenu *talk = menuBar()->addMenu(QStringLiteral("对话(&D)"));
+    talk->addAction(QStringLiteral("新对话(&N)"), this, &MainWindow::startOver,
+                    QKeySequence(QKeySequence::New));
+    talk->addAction(QStringLiteral("打开联系人应用(&C)"), m_application, &ApplicationLink::openWindow,
+                    QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O));
+    talk->addSeparator();
     talk->addAction(QStringLiteral("到最新一轮(&E)"), m_view, &ConversationView::scrollToEnd,
                     QKeySequence(int(Qt::CTRL) + int(Qt::Key_End)));
     talk->addSeparator();
@@ -134,6 +145,9 @@ void MainWindow::buildMenus()
     connect(m_speechAction, &QAction::toggled, m_speaker, &Speaker::setOn);
 
     QMenu *help = menuBar()->addMenu(QStringLiteral("帮助(&H)"));
+    help->addAction(
+        QStringLiteral("可以说什么(&W)"), this, [this] { submit(QStringLiteral("你会什么")); },
+        QKeySequence(QKeySequence::HelpContents));
     help->addAction(QStringLiteral("关于(&A)"), this, [this] {
         auto *box = new QMessageBox(
             QMessageBox::NoIcon, QStringLiteral("关于"),
@@ -224,6 +238,34 @@ void MainWindow::follow()
     });
 }
 
+void MainWindow::followApplication()
+{
+    connect(m_application, &ApplicationLink::changed, this, [this] {
+        m_status->show(m_application->state());
+        m_conversation.setHelpNames(m_application->state().names);
+    });
+    connect(m_application, &ApplicationLink::windowRefused, this,
+            [this] { showProblem(QStringLiteral("联系人应用没有回答，窗口无法打开。")); });
+    connect(m_status, &StatusLine::leaveWanted, this, [this] { submit(QStringLiteral("退出会议")); });
+    connect(&m_conversation, &Conversation::idle, m_application, &ApplicationLink::refresh);
+    connect(&m_conversation, &Conversation::repliedLater, m_application, &ApplicationLink::refresh);
+    m_application->refresh();
+}
+
+void MainWindow::startOver()
+{
+    if (m_conversation.isBusy()) {
+        return;
+    }
+    m_conversation.startOver();
+    m_view->clear();
+    m_typed.clear();
+    m_followsLast = true;
+    m_input->setSecret(false);
+    m_input->setFocus();
+    m_pages->setCurrentIndex(0);
+}
+
 void MainWindow::showProblem(const QString &problem)
 {
     m_problem->setText(problem);
@@ -269,6 +311,15 @@ void MainWindow::inspect(int turn)
     const Turn shown = m_conversation.turn(turn);
     if (shown.id != 0) {
         m_inspector->show(shown);
+    }
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    // Meanwhile something may have been done in the application.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        m_application->refresh();
     }
 }
 

@@ -17,10 +17,12 @@ class LSuggestButton;
 namespace devhost {
 
 class Appearance;
+class ApplicationLink;
 class ConversationView;
 class InputLine;
 class Inspector;
 class Speaker;
+class StatusLine;
 
 /// The host's window: the conversation, the line to type in, and the inspector beside it.
 class MainWindow final : public QMainWindow
@@ -41,6 +43,7 @@ public:
     Inspector *inspector() const { return m_inspector; }
 
 protected:
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
@@ -49,6 +52,8 @@ private:
     void buildThemeMenu(QMenu &menu);
     void buildFontMenu(QMenu &menu);
     void follow();
+    void followApplication();
+    void startOver();
     void said(int turn, const QString &shown);
     void reply(int turn, const Reply &reply);
     void inspect(int turn);
@@ -57,6 +62,8 @@ private:
 
     Conversation &m_conversation;
     Appearance &m_appearance;
+    ApplicationLink *m_application;
+    StatusLine *m_status;
     Speaker *m_speaker;
     QLabel *m_problem;
     QStackedWidget *m_pages;

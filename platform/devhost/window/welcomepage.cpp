@@ -21,7 +21,8 @@ constexpr int IconSize = 72;
 QStringList WelcomePage::examples()
 {
     return {QStringLiteral("查询今天的会议"), QStringLiteral("预约明天下午三点的视频会议"),
-            QStringLiteral("加200001为好友"), QStringLiteral("发起视频会议，叫上孙丽和赵磊")};
+            QStringLiteral("加200001为好友"), QStringLiteral("发起视频会议，叫上孙丽和赵磊"),
+            QStringLiteral("你会什么")};
 }
 
 WelcomePage::WelcomePage(QWidget *parent) : QWidget(parent)

@@ -76,8 +76,8 @@ public:
             attachCard();
         }
         if (m_name == QLatin1String("LATE")) {
-            std::thread([&plugin = m_plugin] {
-                plugin.answerLater(Reply(0, QStringLiteral("later"), Reply::Texts));
+            std::thread([answer = m_plugin.answerer()] {
+                answer(Reply(0, QStringLiteral("later"), Reply::Texts));
             }).detach();
         }
         return &m_reply;
@@ -137,7 +137,14 @@ void TestPlugin::releaseService(IService *service)
 
 void TestPlugin::answerLater(const Reply &reply)
 {
-    if (messageHandle) {
-        messageHandle(this, reply);
-    }
+    answerer()(reply);
+}
+
+std::function<void(const Reply &)> TestPlugin::answerer()
+{
+    return [this, handle = messageHandle](const Reply &reply) {
+        if (handle) {
+            handle(this, reply);
+        }
+    };
 }

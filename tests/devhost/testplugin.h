@@ -5,6 +5,8 @@
 
 #include <speakmate/iserviceplugin.h>
 
+#include <functional>
+
 /**
  * A plugin that does what the name of the first intent says: "ECHO" answers its slot "text", "SLOW" sleeps
  * for the slot "msecs" first, "WAIT" waits until the file in the slot "file" is there, "CARD" answers with a
@@ -27,4 +29,6 @@ public:
     void releaseService(IService *service) override;
 
     void answerLater(const Reply &reply);
+    /// answerLater() for another thread, with the host of now: a new one may come while that thread runs.
+    std::function<void(const Reply &)> answerer();
 };

@@ -13,7 +13,9 @@ packages_run=(
     dbus dbus-daemon procps fonts-noto-cjk
 )
 # What the tests take on top.
-packages_test=(faketime python3 sqlite3 binutils man-db)
+packages_test=(appstream bash-completion binutils desktop-file-utils faketime man-db python3 sqlite3)
+# What building the Debian packages takes on top.
+packages_package=(abigail-tools binutils debhelper dpkg-dev lintian xz-utils)
 # What the benchmarks take on top.
 packages_bench=(libbenchmark-dev)
 # What the checks of .ci/run take on top.

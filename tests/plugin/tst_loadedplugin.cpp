@@ -351,9 +351,15 @@ void TestLoadedPlugin::servicesComeAndGoOnManyThreads()
     constexpr int threadCount = 4;
     constexpr int rounds = 500;
     std::atomic<int> made{0};
+    std::atomic<int> started{0};
     std::vector<std::thread> threads;
     for (int i = 0; i < threadCount; ++i) {
-        threads.emplace_back([this, &made] {
+        threads.emplace_back([this, &made, &started] {
+            // All at once: a thread alone would be done before the next one has started.
+            ++started;
+            while (started.load() < threadCount) {
+                std::this_thread::yield();
+            }
             for (int round = 0; round < rounds; ++round) {
                 IService *first = m_plugin->createService(contact());
                 IService *second = m_plugin->createService(contact());

@@ -3,59 +3,41 @@
 
 #include "conferencemsgstaticwidget.h"
 
+#include "card/candidatelist.h"
 #include "card/cardfooter.h"
+#include "card/cardpanel.h"
+#include "card/cardreplies.h"
 #include "card/cardtheme.h"
+#include "card/cardwait.h"
 #include "card/conferenceeditor.h"
 #include "card/conferencerows.h"
+#include "card/confirmation.h"
 #include "conferencecardinterface.h"
-#include "customizeitem.h"
 
-#include <lumo/lsuggestbutton.h>
-
-#include <QGuiApplication>
+#include <QComboBox>
+#include <QDebug>
+#include <QPointer>
 #include <QPushButton>
-#include <QScreen>
-#include <QVBoxLayout>
 
 namespace {
-
-/// The width, in physical pixels, of the screen that the cards were drawn for.
-constexpr double PlannedScreenWidth = 1920.0;
-constexpr int Margin = 10;
-constexpr int Spacing = 10;
-constexpr int LineHeight = 1;
-
 constexpr int ShownConferences = 3;
-constexpr int ItemRadius = 8;
-
-double widthScale()
-{
-    const QScreen *screen = QGuiApplication::primaryScreen();
-    if (screen == nullptr) {
-        return 1.0;
-    }
-    return screen->availableGeometry().width() / PlannedScreenWidth / screen->devicePixelRatio();
-}
-
 } // namespace
 
 ConferenceMsgStaticWidget::ConferenceMsgStaticWidget(QWidget *parent)
     : QWidget(parent)
-    , m_layout(new QVBoxLayout(this))
-    , m_editor(new ConferenceEditor(widthScale(), this))
+    , m_rows(this)
+    , m_editor(new ConferenceEditor(this))
+    , m_candidates(std::make_unique<CandidateList>(this, m_rows))
 {
     setMinimumHeight(0);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    m_layout->setContentsMargins(Margin, Margin, Margin, Margin);
-    m_layout->setSpacing(Spacing);
-    m_layout->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setFocusPolicy(Qt::TabFocus);
     setAccessibleName(QStringLiteral("联系人"));
     setAccessibleDescription(QStringLiteral("打开联系人应用"));
-
-    connect(m_editor, &ConferenceEditor::signalEdited, this, &ConferenceMsgStaticWidget::updateModifyButton);
-    CardTheme::follow(this, &ConferenceMsgStaticWidget::followTheme);
+    CardTheme::follow(this, [this] { CardTheme::refreshTexts(*this); });
 }
+
+ConferenceMsgStaticWidget::~ConferenceMsgStaticWidget() = default;
 
 void ConferenceMsgStaticWidget::singleInit(const QVector<ContactDetailMsg> &list)
 {
@@ -67,14 +49,13 @@ void ConferenceMsgStaticWidget::singleInit(const QVector<ContactDetailMsg> &list
     const ContactDetailMsg &conference = list.first();
     addRow(getConferenceTitleWidget());
     addRow(getConferenceStatusWidget(conference, true));
-    addLine();
+    addRow(m_rows.listed(ConferenceRows::separator(this)));
     addRow(getConferenceNumberWidget(conference));
     addRow(getConferenceBeginTimeWidget(conference, true));
     addRow(getConferenceTimeLengthWidget(conference, true));
     addRow(getConferencePersonNumWidget(conference, true));
     addRow(getConferenceparticipateNameWidget(conference));
-    update();
-    takeOwnSize();
+    m_rows.adjustSize();
 }
 
 void ConferenceMsgStaticWidget::multipleInit(const QVector<ContactDetailMsg> &list)
@@ -84,56 +65,127 @@ void ConferenceMsgStaticWidget::multipleInit(const QVector<ContactDetailMsg> &li
     }
     m_mode = List;
     addRow(getConferenceTitleWidget());
-    for (int i = 0; i < qMin(list.size(), ShownConferences); ++i) {
-        addRow(conferenceItem(list.at(i)));
+    for (const ContactDetailMsg &conference : list.mid(0, ShownConferences)) {
+        const QVector<QWidget *> rows = {getConferenceStatusWidget(conference, true),
+                                         getConferenceNumberWidget(conference),
+                                         getConferenceBeginTimeWidget(conference, true)};
+        addRow(ConferenceRows::item(rows, this));
     }
     if (list.size() > ShownConferences) {
-        addRow(footer(list.size()));
+        auto *footer = new CardFooter(list.size(), this);
+        footer->installEventFilter(this);
+        connect(footer, &QPushButton::clicked, this, &ConferenceMsgStaticWidget::openContactApp);
+        addRow(footer);
     }
-    takeOwnSize();
-    update();
+    m_rows.adjustSize();
+}
+
+void ConferenceMsgStaticWidget::createInviteConference(QVector<ContactDetailMsg> &list)
+{
+    m_editor->setConferences(list);
+    m_rows.clear();
+    if (list.isEmpty()) {
+        return;
+    }
+    const ContactDetailMsg conference = list.first();
+    setConstConferenceMsg(conference);
+    addRow(getConferenceTitleWidget());
+    addRow(getConferenceStatusWidget(conference, false));
+    addRow(m_rows.listed(ConferenceRows::separator(this)));
+    addRow(getConferenceBeginTimeWidget(conference, false));
+    addRow(getConferenceTimeLengthWidget(conference, false));
+    addRow(getConferencePersonNumWidget(conference, false));
+    addRow(getConferenceparticipateNameWidget(conference));
+    addRow(getCreateConferenceBtn());
+    m_rows.adjustSize();
+}
+
+void ConferenceMsgStaticWidget::createMultiplePerson(const ContactCreatedConferenceDetail &detail,
+                                                     bool isConfirmable)
+{
+    m_candidates->setResolvedUsers(detail.inviteDetail.normalUsers);
+    m_candidates->setStartTime(detail.scheduleTimeMsecs);
+    m_candidates->addTitle(getConferenceTitleWidget());
+    m_candidates->addRows(detail.inviteDetail.duplicateUsers);
+    if (isConfirmable) {
+        addConfirmButton(&ConferenceMsgStaticWidget::slotMultipleSelectBtn);
+    }
+    m_rows.adjustSize();
+}
+
+void ConferenceMsgStaticWidget::inviteMultiplePerson(const ContactInviteMemberDetail &detail)
+{
+    m_candidates->setResolvedUsers(detail.normalUsers);
+    m_candidates->addTitle(getConferenceTitleWidget());
+    m_candidates->addRows(detail.duplicateUsers);
+    addConfirmButton(&ConferenceMsgStaticWidget::slotInviteMultipleSelectBtn);
+    m_rows.adjustSize();
+}
+
+void ConferenceMsgStaticWidget::invitePersonLimit(const ContactInviteMemberDetail &detail)
+{
+    m_candidates->setResolvedUsers(detail.normalUsers);
+    // 0 is also what an answer without a number reads as; then the application decides.
+    if (detail.canInviteNum > 0) {
+        m_candidates->budget().limitTo(detail.canInviteNum);
+    }
+    m_candidates->addTitle(getConferenceTitleWidget());
+    m_candidates->addRows(detail.normalUsers);
+    m_candidates->addRows(detail.duplicateUsers);
+    addConfirmButton(&ConferenceMsgStaticWidget::slotReserverConferencepersonLimit);
+    m_rows.adjustSize();
 }
 
 QWidget *ConferenceMsgStaticWidget::getConferenceTitleWidget()
 {
-    return listed(ConferenceRows::title(this));
+    return m_rows.listed(ConferenceRows::title(this));
 }
 
 QWidget *ConferenceMsgStaticWidget::getConferenceStatusWidget(const ContactDetailMsg &conference,
                                                               bool isStatic)
 {
-    return listed(ConferenceRows::status(conference, isStatic, this));
+    return m_rows.listed(ConferenceRows::status(conference, isStatic, this));
 }
 
 QWidget *ConferenceMsgStaticWidget::getConferenceNumberWidget(const ContactDetailMsg &conference)
 {
-    return listed(ConferenceRows::number(conference, this));
+    return m_rows.listed(ConferenceRows::number(conference, this));
 }
 
 QWidget *ConferenceMsgStaticWidget::getConferenceBeginTimeWidget(const ContactDetailMsg &conference,
                                                                  bool isStatic)
 {
-    return listed(isStatic ? ConferenceRows::beginTime(conference, this)
-                           : m_editor->beginTime(conference, this));
+    return m_rows.listed(isStatic ? ConferenceRows::beginTime(conference, this)
+                                  : m_editor->beginTime(conference, this));
 }
 
 QWidget *ConferenceMsgStaticWidget::getConferenceTimeLengthWidget(const ContactDetailMsg &conference,
                                                                   bool isStatic)
 {
-    return listed(isStatic ? ConferenceRows::timeLength(conference, this)
-                           : m_editor->timeLength(conference, this));
+    return m_rows.listed(isStatic ? ConferenceRows::timeLength(conference, this)
+                                  : m_editor->timeLength(conference, this));
 }
 
 QWidget *ConferenceMsgStaticWidget::getConferencePersonNumWidget(const ContactDetailMsg &conference,
                                                                  bool isStatic)
 {
-    return listed(isStatic ? ConferenceRows::personNum(conference, this)
-                           : m_editor->personNum(conference, this));
+    return m_rows.listed(isStatic ? ConferenceRows::personNum(conference, this)
+                                  : m_editor->personNum(conference, this));
 }
 
 QWidget *ConferenceMsgStaticWidget::getConferenceparticipateNameWidget(const ContactDetailMsg &conference)
 {
-    return listed(ConferenceRows::participants(conference, this));
+    return m_rows.listed(ConferenceRows::participants(conference, this));
+}
+
+QWidget *ConferenceMsgStaticWidget::getCreateConferenceBtn()
+{
+    QWidget *row = m_rows.listed(m_editor->buttons(this));
+    connect(m_editor->cancelButton(), &QPushButton::clicked, this,
+            &ConferenceMsgStaticWidget::slotCancleConference);
+    connect(m_editor->modifyButton(), &QPushButton::clicked, this,
+            &ConferenceMsgStaticWidget::slotModifyConference);
+    return row;
 }
 
 void ConferenceMsgStaticWidget::setConstConferenceMsg(const ContactDetailMsg &conference)
@@ -153,73 +205,194 @@ void ConferenceMsgStaticWidget::setWidgetColor(QWidget *widget, int alpha)
 
 void ConferenceMsgStaticWidget::openContactApp()
 {
+    const CardWait wait(*this);
     // The application tells the user itself when it cannot show its list.
     ConferenceCardInterface::instance()->openConferenceList();
 }
 
-QWidget *ConferenceMsgStaticWidget::listed(QWidget *row)
+SelectionBudget &ConferenceMsgStaticWidget::selectionBudget()
 {
-    m_rows.append(row);
-    return row;
+    return m_candidates->budget();
 }
 
-void ConferenceMsgStaticWidget::addRow(QWidget *row)
+void ConferenceMsgStaticWidget::slotModifyConference()
 {
-    m_layout->addWidget(row);
-    // On a card that is on the screen a new row would be shown later only, and not be counted in its size.
-    if (isVisible()) {
-        row->show();
+    if (m_editor->conferences().isEmpty()) {
+        return;
+    }
+    m_editor->apply();
+    // What was asked for is shown before the application has answered, and stays when it refuses.
+    becomeStatic();
+
+    const QPointer<ConferenceMsgStaticWidget> alive(this);
+    const int code = CardWait::during(*this, nullptr, [this] { return m_editor->sendChange(); });
+    qDebug() << "create conference code:" << code;
+    if (!alive.isNull()) {
+        reply(CardReplies::modified(code));
     }
 }
 
-void ConferenceMsgStaticWidget::takeOwnSize()
+void ConferenceMsgStaticWidget::slotCancleConference()
 {
-    adjustSize();
-    // In a host with a layout that one has the last word.
-    updateGeometry();
-}
+    if (m_editor->conferences().isEmpty()) {
+        return;
+    }
+    becomeStatic();
 
-void ConferenceMsgStaticWidget::addLine()
-{
-    QPushButton *line = ConferenceRows::line(this);
-    line->setFixedHeight(LineHeight);
-    addRow(listed(line));
-}
-
-QWidget *ConferenceMsgStaticWidget::conferenceItem(const ContactDetailMsg &conference)
-{
-    auto *item = new CustomizeItem(this);
-    item->setRaidus(ItemRadius);
-    item->setBackGroundColor(CardTheme::itemGround());
-    item->setFocusPolicy(Qt::NoFocus);
-    auto *layout = new QVBoxLayout(item);
-    layout->setContentsMargins(Margin, Margin, Margin, Margin);
-    layout->setSpacing(Spacing);
-    layout->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    layout->addWidget(getConferenceStatusWidget(conference, true));
-    layout->addWidget(getConferenceNumberWidget(conference));
-    layout->addWidget(getConferenceBeginTimeWidget(conference, true));
-    return item;
-}
-
-QWidget *ConferenceMsgStaticWidget::footer(int count)
-{
-    auto *link = new CardFooter(count, this);
-    link->installEventFilter(this);
-    connect(link, &QPushButton::clicked, this, &ConferenceMsgStaticWidget::openContactApp);
-    m_footerButton = link;
-    return link;
-}
-
-void ConferenceMsgStaticWidget::updateModifyButton()
-{
-    if (!m_modifyButton.isNull()) {
-        m_modifyButton->setEnabled(getConferenceMsgState());
+    const QPointer<ConferenceMsgStaticWidget> alive(this);
+    const int code = CardWait::during(*this, nullptr, [this] { return m_editor->sendCancellation(); });
+    qDebug() << "Cancle conference code:" << code;
+    if (!alive.isNull()) {
+        reply(CardReplies::cancelled(code));
+    }
+    if (!alive.isNull()) {
+        setEnabled(false);
     }
 }
 
-void ConferenceMsgStaticWidget::followTheme()
+void ConferenceMsgStaticWidget::slotInviteConference()
 {
-    CardTheme::refreshTexts(*this);
+    const QPointer<ConferenceMsgStaticWidget> alive(this);
+    slotModifyConference();
+    if (!alive.isNull()) {
+        openContactApp();
+    }
+}
+
+void ConferenceMsgStaticWidget::slotMultipleSelectBtn()
+{
+    confirm(Confirmation::create());
+}
+
+void ConferenceMsgStaticWidget::slotInviteMultipleSelectBtn()
+{
+    confirm(Confirmation::invite());
+}
+
+void ConferenceMsgStaticWidget::slotReserverConferencepersonLimit()
+{
+    confirm(Confirmation::inviteWithinLimit());
+}
+
+bool ConferenceMsgStaticWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FocusIn) {
+        m_input.controlFocused(static_cast<const QFocusEvent &>(*event));
+    }
+    const QPointer<QObject> alive(watched);
+    if (CardInput::isPress(*event)) {
+        activate(watched);
+    }
+    // Where a receiver of the click deleted the card, there is nobody left to give the event to.
+    return alive.isNull() || QWidget::eventFilter(watched, event);
+}
+
+void ConferenceMsgStaticWidget::focusInEvent(QFocusEvent *event)
+{
+    qDebug() << "focusInEvent";
+    if (m_input.focusIn(*event)) {
+        update();
+    }
+}
+
+void ConferenceMsgStaticWidget::focusOutEvent(QFocusEvent * /*event*/)
+{
+    m_input.focusOut();
     update();
+}
+
+void ConferenceMsgStaticWidget::keyPressEvent(QKeyEvent *event)
+{
+    // Acted on when the key is let go. Not passed on either: the host's default button is not meant.
+    if (!hasFocus() || !CardInput::isOpenKey(*event)) {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void ConferenceMsgStaticWidget::keyReleaseEvent(QKeyEvent *event)
+{
+    if (!hasFocus() || !CardInput::isOpenKey(*event)) {
+        QWidget::keyReleaseEvent(event);
+        return;
+    }
+    if (!event->isAutoRepeat() && isEnabled() && m_input.takeRelease()) {
+        openContactApp();
+    }
+}
+
+void ConferenceMsgStaticWidget::mouseReleaseEvent(QMouseEvent * /*event*/)
+{
+    if (isEnabled()) {
+        openContactApp();
+    }
+}
+
+void ConferenceMsgStaticWidget::paintEvent(QPaintEvent * /*event*/)
+{
+    CardPanel::paint(*this, m_input.isFramed() ? CardPanel::Frame::Focus : CardPanel::Frame::None);
+}
+
+void ConferenceMsgStaticWidget::resizeEvent(QResizeEvent * /*event*/)
+{
+    // The layout does what is to be done.
+}
+
+void ConferenceMsgStaticWidget::addConfirmButton(void (ConferenceMsgStaticWidget::*slot)())
+{
+    connect(m_candidates->addConfirmButton(), &QPushButton::clicked, this, slot);
+}
+
+void ConferenceMsgStaticWidget::becomeStatic()
+{
+    m_rows.removeAll(m_input.reasonToInheritFocus());
+    singleInit(m_editor->conferences());
+}
+
+void ConferenceMsgStaticWidget::activate(QObject *control)
+{
+    if (auto *button = qobject_cast<QPushButton *>(control)) {
+        const bool isAction = m_editor->owns(button) || button == m_candidates->confirmButton() ||
+                              qobject_cast<const CardFooter *>(button) != nullptr;
+        if (!isAction || !button->isEnabled()) {
+            return;
+        }
+        const QPointer<ConferenceMsgStaticWidget> alive(this);
+        Q_EMIT button->clicked();
+        // The button may be gone and the focus with the card, which then hears of the key's release.
+        if (!alive.isNull()) {
+            m_input.keyPressedButton(hasFocus());
+        }
+        return;
+    }
+    auto *box = qobject_cast<QComboBox *>(control);
+    if (box != nullptr && ConferenceEditor::isListBox(*box)) {
+        box->showPopup();
+    }
+}
+
+void ConferenceMsgStaticWidget::confirm(const Confirmation &confirmation)
+{
+    if (!m_candidates->startConfirming()) {
+        return;
+    }
+    const QVector<UserInfo> members = m_candidates->members(confirmation);
+
+    const QPointer<ConferenceMsgStaticWidget> alive(this);
+    const int code = CardWait::during(*this, m_candidates->confirmButton(),
+                                      [&] { return confirmation.send(members, m_candidates->startTime()); });
+    if (alive.isNull()) {
+        return;
+    }
+    m_candidates->endConfirming(m_input.reasonToInheritFocus());
+    m_rows.adjustSize();
+    reply(confirmation.reply(members, code));
+    if (!alive.isNull() && confirmation.cardAfterwards == Confirmation::CardAfterwards::Disabled) {
+        setEnabled(false);
+    }
+}
+
+void ConferenceMsgStaticWidget::reply(const QString &text)
+{
+    // The code says that there is an answer; how the request ended is in the text.
+    Q_EMIT signalSendShowMessgae(Reply(0, text, Reply::Texts));
 }

@@ -3,29 +3,30 @@
 
 #pragma once
 
-#include "card/cardreplies.h"
+#include "card/cardinput.h"
+#include "card/cardrowlist.h"
 #include "card/selectionbudget.h"
 #include "conferencerecords.h"
 
 #include <speakmate/reply.h>
 
-#include <QPointer>
 #include <QWidget>
 
-QT_BEGIN_NAMESPACE
-class QPushButton;
-class QVBoxLayout;
-QT_END_NAMESPACE
+#include <memory>
+
+class CandidateList;
 class ConferenceEditor;
-class LSuggestButton;
+struct Confirmation;
 
 /**
- * The card under an answer. One of the builders is to be called, once; without it, or with nothing to show,
- * the card is empty. A click on the card, and Return or Space while it has the focus, open the contacts
- * application.
+ * The card under an answer. Call exactly one builder, once. Until then, or given nothing to show, the card is
+ * empty. A click on the card, and Return or Space while it has the focus, open the contacts application.
+ *
+ * The parts of the three kinds of card live in card/: rows to read, the editor of a conference, and a list of
+ * candidates. This class puts them together and passes on what happens.
  *
  * Buttons block the GUI thread until the contacts application has answered, and then emit
- * signalSendShowMessgae(). Whoever hears of that may delete the card, at any moment.
+ * signalSendShowMessgae(). Any receiver may delete the card, at any moment.
  *
  * Lives on the GUI thread. Made without a parent and handed to the host, which owns it from then on.
  */
@@ -37,25 +38,25 @@ public:
     enum Mode { List = 0, Single = 1 };
 
     explicit ConferenceMsgStaticWidget(QWidget *parent = nullptr);
+    ~ConferenceMsgStaticWidget() override;
 
     // Builders.
 
-    /// The first conference of @p list, to read.
+    /// Shows the first conference of @p list, read-only.
     void singleInit(const QVector<ContactDetailMsg> &list);
-    /// The first three conferences of @p list, to read, and the way to the rest.
+    /// Shows the first three conferences of @p list, read-only, and a link to the rest.
     void multipleInit(const QVector<ContactDetailMsg> &list);
-    /// The first conference of @p list, to be changed or cancelled. No reference to the list is kept.
+    /// Shows the first conference of @p list for editing or cancelling. Keeps no reference to the list.
     void createInviteConference(QVector<ContactDetailMsg> &list);
-    /// The people who may be meant, for a conference that is to be created. Without @p isConfirmable they can
-    /// only be looked at.
+    /// Offers the people who may be meant, for a new conference. Without @p isConfirmable there is no button.
     void createMultiplePerson(const ContactCreatedConferenceDetail &detail, bool isConfirmable);
-    /// The people who may be meant, for an invitation.
+    /// Offers the people who may be meant, for an invitation.
     void inviteMultiplePerson(const ContactInviteMemberDetail &detail);
-    /// The people of an invitation that was too large, for a smaller one.
+    /// Offers the people of an invitation that was too large, for a smaller one.
     void invitePersonLimit(const ContactInviteMemberDetail &detail);
 
-    // Rows. Each belongs to the card and to its list of rows; adding it to a layout is the caller's part. In
-    // a static row values are shown, otherwise edited.
+    // Rows. Each belongs to the card and is noted in its list of rows; the caller adds it to a layout. A
+    // static row shows its value, any other edits it.
 
     QWidget *getConferenceTitleWidget();
     QWidget *getConferenceStatusWidget(const ContactDetailMsg &conference, bool isStatic);
@@ -64,34 +65,34 @@ public:
     QWidget *getConferenceTimeLengthWidget(const ContactDetailMsg &conference, bool isStatic);
     QWidget *getConferencePersonNumWidget(const ContactDetailMsg &conference, bool isStatic);
     QWidget *getConferenceparticipateNameWidget(const ContactDetailMsg &conference);
-    /// The row with the buttons to cancel and to change the conference.
+    /// The row with the buttons to cancel and to modify the conference.
     QWidget *getCreateConferenceBtn();
 
-    /// Takes the values of @p conference as those that edits are compared with.
+    /// Sets @p conference as the baseline that edits are compared against.
     void setConstConferenceMsg(const ContactDetailMsg &conference);
-    /// Whether the edited values differ from them.
+    /// Whether the edited values differ from the baseline.
     bool getConferenceMsgState() const;
 
-    /// The theme's text colour on @p widget, with @p alpha from 0 to 255; it follows the theme from then on.
+    /// Gives @p widget the theme's text colour with @p alpha (0 to 255). On the card it follows the theme.
     void setWidgetColor(QWidget *widget, int alpha);
     /// Brings up the contacts application with its list of conferences.
     void openContactApp();
 
     Mode mode() const { return m_mode; }
     /// How many more of the card's people may be picked.
-    SelectionBudget &selectionBudget() { return m_selectionBudget; }
+    SelectionBudget &selectionBudget();
 
 public Q_SLOTS:
     void slotModifyConference();
     void slotCancleConference();
-    /// Changes the conference and goes on in the contacts application. No button of the card does this.
+    /// Modifies the conference and opens the contacts application. No button of the card is connected to it.
     void slotInviteConference();
     void slotMultipleSelectBtn();
     void slotInviteMultipleSelectBtn();
     void slotReserverConferencepersonLimit();
 
 Q_SIGNALS:
-    /// What a button has done, to be shown and spoken. The spelling is the interface's.
+    /// The outcome of a button, to be shown and spoken. The spelling is the interface's.
     void signalSendShowMessgae(Reply reply);
 
 protected:
@@ -105,51 +106,17 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    /// What becomes of a card when its people are confirmed.
-    struct Confirmation
-    {
-        CardReplies::Purpose purpose;
-        bool withResolvedUsers; ///< those who were found at once join those who were picked
-        bool distinctNames;     ///< in the reply
-        bool disablesCard;
-    };
-
-    QWidget *listed(QWidget *row);
-    void addRow(QWidget *row);
-    void addLine();
-    void takeOwnSize();
-    QWidget *conferenceItem(const ContactDetailMsg &conference);
-    QWidget *footer(int count);
-    void becomeStatic();
-    void removeLastRow();
-
-    void prepareButton(QPushButton &button);
-    void addSelectionTitle();
-    void addCandidates(const QVector<DuplicateUsers> &groups);
-    void addCandidate(const UserInfo &user);
+    void addRow(QWidget *row) { m_rows.add(row); }
     void addConfirmButton(void (ConferenceMsgStaticWidget::*slot)());
-    [[nodiscard]] QVector<UserInfo> pickedUsers() const;
+    void becomeStatic();
 
     void activate(QObject *control);
     void confirm(const Confirmation &confirmation);
     void reply(const QString &text);
-    void updateModifyButton();
-    void followTheme();
 
-    QVBoxLayout *m_layout;
-    ConferenceEditor *m_editor;
+    CardRowList m_rows;
+    CardInput m_input;
     Mode m_mode = List;
-    QVector<QWidget *> m_rows;
-    bool m_focusedByKeyboard = false;
-    bool m_ignoresNextRelease = false; ///< the key was pressed on a button that is gone by now
-    Qt::FocusReason m_controlFocusReason = Qt::OtherFocusReason;
-    QPointer<QPushButton> m_cancelButton;
-    QPointer<LSuggestButton> m_modifyButton;
-    QPointer<QPushButton> m_confirmButton;
-    QPointer<QPushButton> m_footerButton;
-    SelectionBudget m_selectionBudget;
-    QVector<ContactDetailMsg> m_conferences;
-    ContactInviteMemberDetail m_inviteDetail;
-    qint64 m_startTime = 0; ///< of the conference to create, milliseconds since the epoch, 0 for now
-    bool m_isConfirming = false;
+    ConferenceEditor *m_editor;
+    std::unique_ptr<CandidateList> m_candidates;
 };

@@ -3,9 +3,13 @@
 
 #include "card/cardreplies.h"
 
+#include "card/confirmation.h"
+
 #include <QtTest>
 
-using CardReplies::Purpose;
+using Purpose = const Confirmation &(*)();
+
+Q_DECLARE_METATYPE(Purpose)
 
 class TestCardReplies : public QObject
 {
@@ -23,7 +27,7 @@ private Q_SLOTS:
 
 void TestCardReplies::whatAConfirmationSays_data()
 {
-    QTest::addColumn<int>("purpose");
+    QTest::addColumn<Purpose>("purpose");
     QTest::addColumn<QStringList>("names");
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("text");
@@ -66,25 +70,33 @@ void TestCardReplies::whatAConfirmationSays_data()
         {"a positive code", one, 5, cannotStart, cannotInvite, cannotInvite},
     };
     for (const Row &row : rows) {
-        QTest::addRow("created: %s", row.name) << int(Purpose::Create) << row.names << row.code << row.create;
-        QTest::addRow("invited: %s", row.name) << int(Purpose::Invite) << row.names << row.code << row.invite;
+        QTest::addRow("created: %s", row.name)
+            << Purpose(Confirmation::create) << row.names << row.code << row.create;
+        QTest::addRow("invited: %s", row.name)
+            << Purpose(Confirmation::invite) << row.names << row.code << row.invite;
         QTest::addRow("invited within the limit: %s", row.name)
-            << int(Purpose::InviteWithinLimit) << row.names << row.code << row.withinLimit;
+            << Purpose(Confirmation::inviteWithinLimit) << row.names << row.code << row.withinLimit;
     }
 }
 
 void TestCardReplies::whatAConfirmationSays()
 {
-    QFETCH(int, purpose);
+    QFETCH(Purpose, purpose);
     QFETCH(QStringList, names);
     QFETCH(int, code);
-    QTEST(CardReplies::confirmed(static_cast<Purpose>(purpose), names, code), "text");
+    QVector<UserInfo> members;
+    for (const QString &name : names) {
+        members.append({name, {}, {}, {}});
+    }
+    QTEST(purpose().reply(members, code), "text");
 }
 
 void TestCardReplies::namesThatLookLikePlaces()
 {
-    QCOMPARE(CardReplies::confirmed(Purpose::Create, {QStringLiteral("%2"), QStringLiteral("%1")}, 0),
+    QCOMPARE(CardReplies::created({QStringLiteral("%2"), QStringLiteral("%1")}),
              QStringLiteral("好的，已为您发起与%2和%1的视频会议。"));
+    QCOMPARE(CardReplies::invitedWithinLimit({QStringLiteral("%2"), QStringLiteral("%1")}),
+             QStringLiteral("好的，已为您发起%2和%1的视频会议。"));
 }
 
 void TestCardReplies::aJoinedList_data()

@@ -5,35 +5,24 @@
 
 #include "wire/resultcodes.h"
 
-#include <array>
-
 namespace {
 
-struct ConfirmationTexts
+QString startedWithOne(const QString &name)
 {
-    QString nobody;
-    QString one;
-    QString two;
-    QString more; ///< with one place: for all names, joined; with two: for the first two
-    QString failure;
-};
+    return QStringLiteral("好的，已为您发起和%1的视频会议。").arg(name);
+}
 
-/// The wording differs from row to row (和 and 与, and starting where an invitation was meant); people know
-/// it that way.
-const ConfirmationTexts &textsOf(CardReplies::Purpose purpose)
+/// @p names are one or more.
+QString startedWith(const QStringList &names)
 {
-    static const std::array<ConfirmationTexts, 3> table = {{
-        {QStringLiteral("好的，已为您发起视频会议。"), QStringLiteral("好的，已为您发起和%1的视频会议。"),
-         QStringLiteral("好的，已为您发起与%1和%2的视频会议。"),
-         QStringLiteral("好的，已为您发起与%1的视频会议。"), QStringLiteral("抱歉无法为您开启视频会议。")},
-        {QStringLiteral("好的，已为您邀请加入会议。"), QStringLiteral("好的，已为您发起和%1的视频会议。"),
-         QStringLiteral("好的，已为您发起与%1和%2的视频会议。"),
-         QStringLiteral("好的，已为您发起与%1的视频会议。"), QStringLiteral("抱歉无法为您邀请。")},
-        {QStringLiteral("好的，已为您邀请加入会议。"), QStringLiteral("好的，已为您发起和%1的视频会议。"),
-         QStringLiteral("好的，已为您发起%1和%2的视频会议。"),
-         QStringLiteral("好的，已为您发起%1和%2的视频会议。"), QStringLiteral("抱歉无法为您邀请。")},
-    }};
-    return table.at(static_cast<std::size_t>(purpose));
+    return names.size() == 1
+               ? startedWithOne(names.first())
+               : QStringLiteral("好的，已为您发起与%1的视频会议。").arg(CardReplies::joined(names));
+}
+
+QString invitedNobody()
+{
+    return QStringLiteral("好的，已为您邀请加入会议。");
 }
 
 } // namespace
@@ -50,24 +39,37 @@ QString CardReplies::cancelled(int code)
                                        : QStringLiteral("会议取消失败，请前往联系人应用取消。");
 }
 
-QString CardReplies::confirmed(Purpose purpose, const QStringList &names, int code)
+QString CardReplies::created(const QStringList &names)
 {
-    const ConfirmationTexts &texts = textsOf(purpose);
-    if (code != ResultCode::Success) {
-        return texts.failure;
-    }
+    return names.isEmpty() ? QStringLiteral("好的，已为您发起视频会议。") : startedWith(names);
+}
+
+QString CardReplies::invited(const QStringList &names)
+{
+    return names.isEmpty() ? invitedNobody() : startedWith(names);
+}
+
+QString CardReplies::invitedWithinLimit(const QStringList &names)
+{
     switch (names.size()) {
     case 0:
-        return texts.nobody;
+        return invitedNobody();
     case 1:
-        return texts.one.arg(names.at(0));
-    case 2:
-        // Both at once: a name may look like a place itself.
-        return texts.two.arg(names.at(0), names.at(1));
+        return startedWithOne(names.first());
     default:
-        return texts.more.contains(QLatin1String("%2")) ? texts.more.arg(names.at(0), names.at(1))
-                                                        : texts.more.arg(joined(names));
+        // Both at once: a name may look like a place itself.
+        return QStringLiteral("好的，已为您发起%1和%2的视频会议。").arg(names.at(0), names.at(1));
     }
+}
+
+QString CardReplies::notCreated()
+{
+    return QStringLiteral("抱歉无法为您开启视频会议。");
+}
+
+QString CardReplies::notInvited()
+{
+    return QStringLiteral("抱歉无法为您邀请。");
 }
 
 QString CardReplies::joined(const QStringList &names)

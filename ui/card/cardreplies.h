@@ -5,19 +5,21 @@
 
 #include <QStringList>
 
-/// What a card says when one of its buttons has done its work. A result code of 0 is success.
+/// What a card says when one of its buttons has done its work.
 namespace CardReplies {
 
-/// What the people picked on a selection card were picked for.
-enum class Purpose {
-    Create,
-    Invite,
-    InviteWithinLimit,
-};
-
+// After a change or a cancellation. A result code of 0 is success.
 QString modified(int code);
 QString cancelled(int code);
-QString confirmed(Purpose purpose, const QStringList &names, int code);
+
+// After a confirmation, for the names of those who were picked. The wording differs from one purpose to the
+// other (和 and 与, and starting where an invitation was meant); people know it that way.
+QString created(const QStringList &names);
+QString invited(const QStringList &names);
+/// Names only the first two.
+QString invitedWithinLimit(const QStringList &names);
+QString notCreated();
+QString notInvited();
 
 /// A、B和C
 QString joined(const QStringList &names);

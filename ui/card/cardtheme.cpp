@@ -50,7 +50,7 @@ void CardTheme::setText(QWidget &widget, int alpha)
     applyText(widget, alpha);
 }
 
-void CardTheme::refreshTexts(const QWidget &card)
+void CardTheme::refreshTexts(QWidget &card)
 {
     const auto widgets = card.findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
@@ -59,6 +59,7 @@ void CardTheme::refreshTexts(const QWidget &card)
             applyText(*widget, alpha.toInt());
         }
     }
+    card.update();
 }
 
 QColor CardTheme::cardGround()

@@ -18,10 +18,10 @@ namespace CardTheme {
 bool isLight();
 bool isDark();
 
-/// Calls @p slot of @p object after every change of the application's palette, which comes with every change
-/// of the theme.
-template <typename Object>
-void follow(Object *object, void (Object::*slot)())
+/// Calls @p slot, as long as @p object lives, after every change of the application's palette, which comes
+/// with every change of the theme.
+template <typename Object, typename Slot>
+void follow(Object *object, Slot slot)
 {
     QObject::connect(qGuiApp, &QGuiApplication::paletteChanged, object, slot);
 }
@@ -38,8 +38,9 @@ QColor text(int alpha);
 /// Gives @p widget that text colour, and remembers it for refreshTexts().
 void setText(QWidget &widget, int alpha);
 
-/// Gives everything in @p card that setText() was used on the colour of the current theme.
-void refreshTexts(const QWidget &card);
+/// Gives everything in @p card that setText() was used on the colour of the current theme, and paints @p card
+/// anew.
+void refreshTexts(QWidget &card);
 
 // Grounds.
 QColor cardGround();

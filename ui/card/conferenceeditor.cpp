@@ -3,15 +3,22 @@
 
 #include "card/conferenceeditor.h"
 
+#include "card/cardbuttons.h"
 #include "card/cardtheme.h"
 #include "card/conferencerows.h"
+#include "conferencecardinterface.h"
 #include "customizecombobox.h"
+#include "request/requesttexts.h"
 
 #include <lumo/lfontsizemanager.h>
 #include <lumo/lspinbox.h>
+#include <lumo/lsuggestbutton.h>
 
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
+#include <QScreen>
 
 namespace {
 
@@ -21,6 +28,26 @@ constexpr int WideControlWidth = 138;
 constexpr int SpaceAfterDatePicker = 10;
 constexpr int LeastParticipants = 2;
 constexpr int MostParticipants = 100;
+constexpr int ButtonSpacing = 10;
+constexpr int DividerWidth = 1;
+
+/// The width, in physical pixels, of the screen that the cards were drawn for.
+constexpr double PlannedScreenWidth = 1920.0;
+
+// The window titles by which the combo boxes with a list are known.
+const QLatin1String HourBoxTag("timeBox");
+const QLatin1String DurationBoxTag("timeLengthBox");
+
+/// A planned width on the primary screen.
+int scaledWidth(int width)
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    if (screen == nullptr) {
+        return width;
+    }
+    return static_cast<int>(
+        width * (screen->availableGeometry().width() / PlannedScreenWidth / screen->devicePixelRatio()));
+}
 
 /// What all controls of the rows have in common.
 void prepare(QWidget &control, const QString &accessibleName, int minimumWidth)
@@ -38,20 +65,19 @@ void prepare(QWidget &control, const QString &accessibleName, int minimumWidth)
 
 } // namespace
 
-QString ConferenceEditor::hourBoxTag()
+ConferenceEditor::ConferenceEditor(QWidget *card) : QObject(card) {}
+
+int ConferenceEditor::sendChange() const
 {
-    return QStringLiteral("timeBox");
+    const QString request = RequestText::updateConference(m_conferences.first());
+    return ConferenceCardInterface::instance()->UpdateVideoConference(request);
 }
 
-QString ConferenceEditor::durationBoxTag()
+int ConferenceEditor::sendCancellation() const
 {
-    return QStringLiteral("timeLengthBox");
-}
-
-ConferenceEditor::ConferenceEditor(double widthScale, QObject *parent)
-    : QObject(parent)
-    , m_widthScale(widthScale)
-{
+    // A copy: the editor's own may be gone before the request is done with it.
+    const QString conferenceId = m_conferences.first().confId;
+    return ConferenceCardInterface::instance()->deleteVideoConference(conferenceId);
 }
 
 QWidget *ConferenceEditor::beginTime(const ContactDetailMsg &conference, QWidget *card)
@@ -69,15 +95,15 @@ QWidget *ConferenceEditor::timeLength(const ContactDetailMsg &conference, QWidge
 {
     const auto row = ConferenceRows::captioned(ConferenceRows::timeLengthCaption(), card);
     auto *box = new LComboBox(row.widget);
-    prepare(*box, ConferenceRows::timeLengthCaption(), scaled(WideControlWidth));
+    prepare(*box, ConferenceRows::timeLengthCaption(), scaledWidth(WideControlWidth));
     row.caption->setBuddy(box);
-    box->setWindowTitle(durationBoxTag());
+    box->setWindowTitle(DurationBoxTag);
     box->installEventFilter(card);
     // Before the items: the first one already sets the working duration, which then is what the box shows
     // also for a duration that it does not offer.
     connect(box, &QComboBox::currentTextChanged, this, [this](const QString &label) {
         m_draft.working().duration = m_durations.duration(label);
-        Q_EMIT signalEdited();
+        edited();
     });
     box->addItems(m_durations.choices(conference.isPayingUser));
     box->setCurrentText(m_durations.label(conference.duration));
@@ -89,7 +115,7 @@ QWidget *ConferenceEditor::personNum(const ContactDetailMsg &conference, QWidget
 {
     const auto row = ConferenceRows::captioned(ConferenceRows::personNumCaption(), card);
     auto *box = new LSpinBox(row.widget);
-    prepare(*box, ConferenceRows::personNumCaption(), scaled(WideControlWidth));
+    prepare(*box, ConferenceRows::personNumCaption(), scaledWidth(WideControlWidth));
     row.caption->setBuddy(box);
     box->setEnabledEmbedStyle(true);
     const int most = conference.isPayingUser ? MostParticipants : conference.participantLimit;
@@ -99,7 +125,7 @@ QWidget *ConferenceEditor::personNum(const ContactDetailMsg &conference, QWidget
     m_draft.working().participantLimit = conference.participantLimit;
     connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int limit) {
         m_draft.working().participantLimit = limit;
-        Q_EMIT signalEdited();
+        edited();
     });
     row.layout->addWidget(box);
     return row.widget;
@@ -108,11 +134,11 @@ QWidget *ConferenceEditor::personNum(const ContactDetailMsg &conference, QWidget
 QWidget *ConferenceEditor::datePicker(const ContactDetailMsg &conference, QWidget *row, QObject *eventFilter)
 {
     auto *picker = new CustomizeComboBox(row);
-    prepare(*picker, QStringLiteral("日期"), scaled(DatePickerWidth));
+    prepare(*picker, QStringLiteral("日期"), scaledWidth(DatePickerWidth));
     picker->installEventFilter(eventFilter);
     connect(picker, &CustomizeComboBox::signalSelectionDate, this, [this](const QDate &date) {
         m_draft.working().startDate = date;
-        Q_EMIT signalEdited();
+        edited();
     });
     picker->slotSelectionData(ConferenceValues::of(conference).startDate);
     return picker;
@@ -121,8 +147,8 @@ QWidget *ConferenceEditor::datePicker(const ContactDetailMsg &conference, QWidge
 QWidget *ConferenceEditor::hourBox(const ContactDetailMsg &conference, QWidget *row, QObject *eventFilter)
 {
     auto *box = new LComboBox(row);
-    prepare(*box, QStringLiteral("开始时间"), scaled(HourBoxWidth));
-    box->setWindowTitle(hourBoxTag());
+    prepare(*box, QStringLiteral("开始时间"), scaledWidth(HourBoxWidth));
+    box->setWindowTitle(HourBoxTag);
     box->installEventFilter(eventFilter);
     const QTime start = ConferenceValues::of(conference).startTime;
     box->addItems(m_hours.choices());
@@ -131,12 +157,41 @@ QWidget *ConferenceEditor::hourBox(const ContactDetailMsg &conference, QWidget *
     m_draft.working().startTime = start;
     connect(box, &QComboBox::currentTextChanged, this, [this](const QString &label) {
         m_draft.working().startTime = m_hours.time(label);
-        Q_EMIT signalEdited();
+        edited();
     });
     return box;
 }
 
-int ConferenceEditor::scaled(int width) const
+QWidget *ConferenceEditor::buttons(QWidget *card)
 {
-    return static_cast<int>(width * m_widthScale);
+    auto *row = new QWidget(card);
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(ButtonSpacing);
+
+    m_cancelButton = new QPushButton(QStringLiteral("取 消"), row);
+    CardButtons::prepare(*m_cancelButton, card);
+    layout->addWidget(m_cancelButton);
+
+    QPushButton *divider = ConferenceRows::line(row);
+    divider->setFixedWidth(DividerWidth);
+    layout->addWidget(divider);
+
+    m_modifyButton = new LSuggestButton(QStringLiteral("修 改"), row);
+    m_modifyButton->setEnabled(false);
+    CardButtons::prepare(*m_modifyButton, card);
+    layout->addWidget(m_modifyButton);
+    return row;
+}
+
+bool ConferenceEditor::isListBox(const QWidget &control)
+{
+    return control.windowTitle() == HourBoxTag || control.windowTitle() == DurationBoxTag;
+}
+
+void ConferenceEditor::edited()
+{
+    if (!m_modifyButton.isNull()) {
+        m_modifyButton->setEnabled(isChanged());
+    }
 }

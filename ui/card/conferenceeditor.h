@@ -8,46 +8,66 @@
 #include "card/conferencehours.h"
 
 #include <QObject>
+#include <QPointer>
 
 QT_BEGIN_NAMESPACE
+class QPushButton;
 class QWidget;
 QT_END_NAMESPACE
 
-/// The rows of a card in which a conference is edited, and what they have been set to.
+/**
+ * The conference that is edited on a card, the rows in which that is done, what they have been set to, and
+ * the buttons that send or cancel it. Empty on the other kinds of card.
+ */
 class ConferenceEditor final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The window titles by which the two combo boxes with a list are known.
-    static QString hourBoxTag();
-    static QString durationBoxTag();
+    explicit ConferenceEditor(QWidget *card);
 
-    /// @p widthScale is what the planned widths of the controls are multiplied by.
-    explicit ConferenceEditor(double widthScale, QObject *parent);
+    /// The first conference of @p list is the one that is edited.
+    void setConferences(const QVector<ContactDetailMsg> &list) { m_conferences = list; }
+    [[nodiscard]] const QVector<ContactDetailMsg> &conferences() const { return m_conferences; }
+    /// Writes what the controls were set to into the conference.
+    void apply() { m_draft.applyTo(m_conferences.first()); }
+    // Each blocks until the application has answered, and returns its code. The editor may be gone by then.
+    [[nodiscard]] int sendChange() const;
+    [[nodiscard]] int sendCancellation() const;
 
-    /// Takes the values of @p conference as those that an edit is compared with.
+    /// Sets @p conference as the baseline that edits are compared against.
     void setReference(const ContactDetailMsg &conference) { m_draft.setReference(conference); }
     [[nodiscard]] bool isChanged() const { return m_draft.isChanged(); }
-    /// Writes what the controls were set to into @p conference.
-    void applyTo(ContactDetailMsg &conference) const { m_draft.applyTo(conference); }
 
-    // Each row belongs to @p card, which also filters the events of the combo boxes.
+    // Each row belongs to @p card, which also filters the events of the combo boxes and buttons.
     QWidget *beginTime(const ContactDetailMsg &conference, QWidget *card);
     QWidget *timeLength(const ContactDetailMsg &conference, QWidget *card);
     QWidget *personNum(const ContactDetailMsg &conference, QWidget *card);
+    /// The row with the buttons to cancel and to modify the conference.
+    QWidget *buttons(QWidget *card);
 
-Q_SIGNALS:
-    /// A value was set, by a person or while a row was filled.
-    void signalEdited();
+    // Null until buttons() was called, and once its row is gone.
+    [[nodiscard]] QPushButton *cancelButton() const { return m_cancelButton; }
+    [[nodiscard]] QPushButton *modifyButton() const { return m_modifyButton; }
+
+    /// Whether @p button is one of the two.
+    [[nodiscard]] bool owns(const QPushButton *button) const
+    {
+        return button != nullptr && (button == m_cancelButton || button == m_modifyButton);
+    }
+
+    /// Whether @p control is a combo box whose list Return opens.
+    static bool isListBox(const QWidget &control);
 
 private:
     QWidget *datePicker(const ContactDetailMsg &conference, QWidget *row, QObject *eventFilter);
     QWidget *hourBox(const ContactDetailMsg &conference, QWidget *row, QObject *eventFilter);
-    [[nodiscard]] int scaled(int width) const;
+    void edited();
 
-    const double m_widthScale;
+    QVector<ContactDetailMsg> m_conferences;
     ConferenceDurations m_durations;
     ConferenceHours m_hours;
     ConferenceDraft m_draft;
+    QPointer<QPushButton> m_cancelButton;
+    QPointer<QPushButton> m_modifyButton;
 };

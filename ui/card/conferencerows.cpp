@@ -5,15 +5,18 @@
 
 #include "card/cardicons.h"
 #include "card/cardlabel.h"
+#include "card/cardmeasures.h"
 #include "card/cardtext.h"
 #include "card/cardtheme.h"
 #include "card/conferencestate.h"
+#include "customizeitem.h"
 
 #include <lumo/llabel.h>
 
 #include <QDateTime>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -23,6 +26,7 @@ constexpr int SpaceAfterCaption = 10;
 constexpr int TitleSpacing = 10;
 constexpr int SpaceBeforeState = 10;
 constexpr int StateSpacing = 5;
+constexpr int SeparatorHeight = 1;
 constexpr qint64 MsecsPerMinute = 60000;
 
 constexpr Qt::Alignment ContentLeft = Qt::AlignLeft | Qt::AlignVCenter;
@@ -173,6 +177,27 @@ QPushButton *ConferenceRows::line(QWidget *parent)
     line->setBackgroundRole(QPalette::WindowText);
     CardTheme::setText(*line, CardTheme::LineAlpha);
     return line;
+}
+
+QPushButton *ConferenceRows::separator(QWidget *parent)
+{
+    QPushButton *separator = line(parent);
+    separator->setFixedHeight(SeparatorHeight);
+    return separator;
+}
+
+QWidget *ConferenceRows::item(const QVector<QWidget *> &rows, QWidget *parent)
+{
+    auto *item = new CustomizeItem(parent);
+    item->setRaidus(CardMeasures::CornerRadius);
+    item->setBackGroundColor(CardTheme::itemGround());
+    item->setFocusPolicy(Qt::NoFocus);
+    auto *layout = new QVBoxLayout(item);
+    CardMeasures::apply(*layout);
+    for (QWidget *row : rows) {
+        layout->addWidget(row);
+    }
+    return item;
 }
 
 QString ConferenceRows::beginTimeCaption()

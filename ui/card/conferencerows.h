@@ -33,8 +33,13 @@ struct CaptionedRow
 };
 CaptionedRow captioned(const QString &caption, QWidget *parent);
 
-/// A line between two parts of a card: a button that is none, because it takes neither focus nor mouse.
+/// A separator; implemented as an inert button because callers expect one.
 QPushButton *line(QWidget *parent);
+/// A horizontal separator between two rows of a card.
+QPushButton *separator(QWidget *parent);
+
+/// The panel of one conference in a list, with its @p rows from top to bottom.
+QWidget *item(const QVector<QWidget *> &rows, QWidget *parent);
 
 // How the rows are called, for the eye and for assistive technology.
 QString beginTimeCaption();

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QtGlobal>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+/// The ground of a card.
+namespace CardPanel {
+
+enum class Frame { None, Focus };
+
+/// Paints the ground of @p card. For its paintEvent().
+void paint(QWidget &card, Frame frame);
+
+} // namespace CardPanel

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QVector>
+
+QT_BEGIN_NAMESPACE
+class QVBoxLayout;
+class QWidget;
+QT_END_NAMESPACE
+
+/// The rows of a card, from top to bottom: its layout, and the list of the rows that a rebuilt card gives up.
+class CardRowList
+{
+public:
+    /// Gives @p card its layout. @p card outlives the list.
+    explicit CardRowList(QWidget *card);
+
+    /// Notes @p row. Adding it to a layout is a step of its own, because rows may stand inside others.
+    QWidget *listed(QWidget *row);
+    /// Adds @p row to the card's layout.
+    void add(QWidget *row);
+    void addSpacing(int height);
+
+    /// Forgets the listed rows; they stay on the card.
+    void clear() { m_rows.clear(); }
+    /// Removes every listed row from the card. If one has the focus, the card takes it for @p focusReason.
+    void removeAll(Qt::FocusReason focusReason);
+    /// Removes @p row, from the list too.
+    void remove(QWidget *row, Qt::FocusReason focusReason);
+
+    /// Gives the card the size that its rows need.
+    void adjustSize();
+
+private:
+    void takeOff(QWidget *row, Qt::FocusReason focusReason);
+
+    QWidget *m_card;
+    QVBoxLayout *m_layout;
+    QVector<QWidget *> m_rows;
+};

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "card/cardwait.h"
+
+#include <QGuiApplication>
+#include <QLayout>
+#include <QPushButton>
+
+CardWait::CardWait(QWidget &card, QPushButton *button)
+{
+    if (button != nullptr) {
+        // Not disabled: it would hand the focus on.
+        button->setText(QStringLiteral("请稍候…"));
+    }
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    // Rows that were just added have no place yet.
+    if (card.layout() != nullptr) {
+        card.layout()->activate();
+    }
+    card.repaint();
+}
+
+CardWait::~CardWait()
+{
+    QGuiApplication::restoreOverrideCursor();
+}

@@ -4,6 +4,7 @@
 #include "textmodes.h"
 
 #include "batch.h"
+#include "knownnames.h"
 #include "terminalconversation.h"
 
 #include <QCoreApplication>
@@ -96,7 +97,12 @@ ExitStatus runTextMode(const Options &options, PluginHost &host, LogRecorder &lo
         return status;
     }
     Conversation conversation(host, logs);
-    conversation.setContactNames(names);
+    KnownNames knownNames;
+    constexpr int longestWaitMsecs = 500;
+    conversation.setContactNames(names + knownNames.firstNames(longestWaitMsecs));
+    QObject::connect(
+        &knownNames, &KnownNames::changed, &conversation,
+        [&conversation, names](const QStringList &known) { conversation.setContactNames(names + known); });
     const bool isPrompting = isStandardInput && isatty(STDIN_FILENO) == 1;
     TerminalConversation terminal(conversation, {input, std::cout, std::cerr, isColoured(), isPrompting},
                                   screenshots);

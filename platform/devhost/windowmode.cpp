@@ -4,6 +4,7 @@
 #include "windowmode.h"
 
 #include "appearance.h"
+#include "knownnames.h"
 #include "mainwindow.h"
 #include "textmodes.h"
 #include "warmup.h"
@@ -64,6 +65,10 @@ int runWindow(const Options &options, PluginHost &host, LogRecorder &logs)
     choose(appearance, options.theme);
     Conversation conversation(host, logs);
     conversation.setContactNames(names);
+    const KnownNames knownNames;
+    QObject::connect(
+        &knownNames, &KnownNames::changed, &conversation,
+        [&conversation, names](const QStringList &known) { conversation.setContactNames(names + known); });
     MainWindow window(conversation, appearance);
     if (!host.isLoaded()) {
         window.showProblem(host.problem().toText());

@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "knownnames.h"
 #include "realdesk.h"
 #include "stallmeter.h"
 
+#include <QDBusConnection>
+#include <QDBusReply>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
@@ -64,6 +67,7 @@ private Q_SLOTS:
     void conferenceIsJoinedWithAPasswordInTwoTurns();
     void friendIsAdded();
     void statusLineTellsTheConferenceAndLeavesIt();
+    void namesComeFromTheApplication();
     void turnsAreFastAndTheWindowDoesNotStall();
 
 private:
@@ -227,6 +231,32 @@ void TestDesk::statusLineTellsTheConferenceAndLeavesIt()
     QTRY_COMPARE(m_desk->lastTurn().said, QStringLiteral("退出会议"));
     QTRY_VERIFY(!conference->isVisible() && !leave->isVisible());
     QCOMPARE(m_desk->lastTurn().code, 0);
+}
+
+void TestDesk::namesComeFromTheApplication()
+{
+    devhost::KnownNames names;
+    const QStringList first = names.firstNames(5000);
+    QVERIFY(first.contains(QStringLiteral("张伟")));
+    QVERIFY(!first.contains(QStringLiteral("哆啦")));
+
+    QSignalSpy changed(&names, &devhost::KnownNames::changed);
+    const auto admin = [](const QString &method, const QVariantList &arguments) {
+        QDBusMessage call = QDBusMessage::createMethodCall(
+            QStringLiteral("com.kelvane.meetlynx"), QStringLiteral("/com/kelvane/meetlynx/admin"),
+            QStringLiteral("com.kelvane.meetlynx.Admin1"), method);
+        call.setArguments(arguments);
+        const QDBusReply<bool> done = QDBusConnection::sessionBus().call(call);
+        return done.isValid() && done.value();
+    };
+    QVERIFY(admin(QStringLiteral("AddPerson"),
+                  {QStringLiteral("dora"), QStringLiteral("开会王"), QStringLiteral("free")}));
+    QVERIFY(admin(QStringLiteral("AddContact"), {QStringLiteral("100001"), QStringLiteral("dora"),
+                                                 QStringLiteral("哆啦"), QStringLiteral("colleague")}));
+    QTRY_VERIFY(!changed.isEmpty() && changed.last().first().toStringList().contains(QStringLiteral("哆啦")));
+    QVERIFY(names.firstNames(0).contains(QStringLiteral("开会王")));
+    QVERIFY(RealDesk::loadSample());
+    QTRY_VERIFY(!changed.last().first().toStringList().contains(QStringLiteral("哆啦")));
 }
 
 void TestDesk::turnsAreFastAndTheWindowDoesNotStall()

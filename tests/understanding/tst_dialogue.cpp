@@ -139,6 +139,29 @@ private Q_SLOTS:
         row("a negation asks nothing", {"别把会议关掉", "? not-meant", "好", "? not-understood"});
         row("somebody else's doing asks nothing", {"他结束了会议", "? not-meant", "好", "? not-understood"});
 
+        row("either-or keeps the day and the people",
+            {"明天下午三点或者四点和张伟开会", "? either-or", "四点吧",
+             "CREATE_CONFERENCE open=开 name=张伟 datetime=2026-03-08T16:00"});
+        row("recurring keeps the hour and the people",
+            {"每周三下午三点和张伟开会", "? recurring", "就下周三",
+             "CREATE_CONFERENCE open=开 name=张伟 datetime=2026-03-11T15:00"});
+        row("another zone keeps the people, not its hour",
+            {"伦敦时间下午三点和李娜开会", "? other-zone", "晚上十一点",
+             "CREATE_CONFERENCE open=开 name=李娜 datetime=2026-03-07T23:00"});
+        row("不开了 gives the question up and leaves no conference",
+            {"一会儿开个会", "? which-time", "不开了", "? cancelled", "四点", "? not-understood"});
+        row("先不开了 gives up", {"一会儿开个会", "? which-time", "先不开了", "? cancelled"});
+        row("算了 with an explanation gives up",
+            {"加入会议123456", "ENETR_ID_CONFERENCE id=123456", "!password", "算了，我再问问", "? cancelled",
+             "8888", "? not-understood"});
+        row("a number is corrected in the answer",
+            {"加入会议", "? which-conference", "123456，不对，123457", "ENETR_ID_CONFERENCE id=123457"});
+        row("a password is corrected in the answer",
+            {"加入会议123456", "ENETR_ID_CONFERENCE id=123456", "!password", "1357 不对 1375",
+             "ENETR_ID_CONFERENCE id=123456 password=1375"});
+        row("a number that touches something unread is asked for again",
+            {"加入会议123百456", "? whole-number", "123456", "ENETR_ID_CONFERENCE id=123456"});
+
         row("a password is only asked for after joining",
             {"结束会议", "CLOSE_CONFERENCE", "!unexpected", "8888", "? not-understood"});
     }

@@ -76,11 +76,11 @@ private Q_SLOTS:
     }
 
 private:
-    static constexpr int LearnedSentences = 253;
+    static constexpr int LearnedSentences = 254;
     static constexpr int LearnedDialogues = 39;
     static constexpr int LearnedNegatives = 0;
-    static constexpr int ApartSentences = 105;
-    static constexpr int ApartDialogues = 14;
+    static constexpr int ApartSentences = 110;
+    static constexpr int ApartDialogues = 17;
     static constexpr int ApartNegatives = 3;
 };
 

@@ -125,6 +125,18 @@ bool ContactsBook::wasPerformed(const QString &requestId) const
     }
 }
 
+QStringList ContactsBook::contactNames()
+{
+    constexpr int most = 10000;
+    try {
+        const std::optional<Person> user = m_session.user();
+        return user ? m_people.contactNames(user->userId, most) : QStringList();
+    } catch (const std::exception &error) {
+        qCritical() << "Reading the contacts' names failed:" << error.what();
+        return {};
+    }
+}
+
 bool ContactsBook::change(const std::function<bool()> &change)
 {
     try {

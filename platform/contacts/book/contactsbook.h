@@ -10,6 +10,7 @@
 #include "core/sessionrepository.h"
 
 #include <QObject>
+#include <QStringList>
 
 #include <functional>
 
@@ -33,6 +34,9 @@ public:
     QString perform(const QString &action, const QString &parameters, const RequestTicket &ticket = {});
     /// Whether the request of that id has changed something. Never throws.
     bool wasPerformed(const QString &requestId) const;
+
+    /// What the user who is logged in may call people: names and remarks of the contacts. Never throws.
+    QStringList contactNames();
 
     /// Runs @p change in a transaction of its own and tells who shows the state. Does not throw: false when
     /// it fails, and then nothing has changed; also when @p change answers false.

@@ -125,6 +125,22 @@ QVector<Person> PeopleRepository::contacts(const QString &ownerId) const
     return allOf(query.bind(ownerId), readContact);
 }
 
+QStringList PeopleRepository::contactNames(const QString &ownerId, int limit) const
+{
+    Statement query(
+        m_database,
+        QStringLiteral("SELECT name FROM contact JOIN person ON person.user_id = contact.person_id"
+                       " WHERE owner_id = ?"
+                       " UNION SELECT remark_name FROM contact WHERE owner_id = ? AND remark_name <> ''"
+                       " LIMIT ?"));
+    query.bind(ownerId).bind(ownerId).bind(limit).run();
+    QStringList names;
+    while (query.next()) {
+        names.append(query.text(0));
+    }
+    return names;
+}
+
 Friendship PeopleRepository::friendship(const QString &ownerId, const QString &personId) const
 {
     const std::optional<Person> contact = contactByUserId(ownerId, personId);

@@ -6,6 +6,7 @@
 #include "core/person.h"
 
 #include <QSqlDatabase>
+#include <QStringList>
 #include <QVector>
 
 #include <optional>
@@ -30,6 +31,8 @@ public:
     static QString contactsByNameSql();
     std::optional<Person> contactByUserId(const QString &ownerId, const QString &userId) const;
     QVector<Person> contacts(const QString &ownerId) const;
+    /// The names and remarks of @p ownerId's contacts, each once; at most @p limit.
+    QStringList contactNames(const QString &ownerId, int limit) const;
     Friendship friendship(const QString &ownerId, const QString &personId) const;
     /// Friends and open requests.
     int friendCount(const QString &ownerId) const;

@@ -6,7 +6,10 @@
 #include "book/contactsbook.h"
 #include "service/busnames.h"
 
-ContactRequests::ContactRequests(ContactsBook &book, QObject *parent) : QObject(parent), m_book(book) {}
+ContactRequests::ContactRequests(ContactsBook &book, QObject *parent) : QObject(parent), m_book(book)
+{
+    connect(&book, &ContactsBook::changed, this, &ContactRequests::ContactNamesChanged);
+}
 
 QString ContactRequests::Request(const QString &action, const QString &parameters, qlonglong deadlineMsecs,
                                  const QString &requestId)
@@ -23,4 +26,9 @@ QString ContactRequests::Request(const QString &action, const QString &parameter
 bool ContactRequests::WasPerformed(const QString &requestId)
 {
     return m_book.wasPerformed(requestId);
+}
+
+QStringList ContactRequests::ContactNames()
+{
+    return m_book.contactNames();
 }

@@ -5,6 +5,7 @@
 
 #include <QDBusContext>
 #include <QObject>
+#include <QStringList>
 
 class ContactsBook;
 
@@ -21,6 +22,10 @@ public Q_SLOTS:
     QString Request(const QString &action, const QString &parameters, qlonglong deadlineMsecs,
                     const QString &requestId);
     bool WasPerformed(const QString &requestId);
+    QStringList ContactNames();
+
+Q_SIGNALS:
+    void ContactNamesChanged();
 
 private:
     ContactsBook &m_book;

@@ -4,6 +4,7 @@
 #include "meaning/gate.h"
 
 #include "meaning/outcome.h"
+#include "text/chinesenumber.h"
 #include "text/rulefile.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
@@ -124,7 +125,7 @@ public:
 
     bool isUnderstood() const
     {
-        return !hasOtherSubject() && !isPast() && !isAboutRoom() &&
+        return !hasOtherSubject() && !isPast() && !isAtOtherTime() && !isAboutRoom() &&
                !any([&](std::size_t at) { return !isExplained(at); });
     }
 
@@ -198,6 +199,12 @@ private:
                });
     }
 
+    /// 320号上午九点: a conference is joined now, so the number may be a date.
+    bool isAtOtherTime() const
+    {
+        return m_intent == QLatin1String(EnterConferenceById) && m_reading.clockCount() > 0;
+    }
+
     /// 帮我订个会议室: a room is no conference.
     bool isAboutRoom() const
     {
@@ -233,14 +240,39 @@ private:
         return false;
     }
 
+    /// 下 in 明天下三点, 午 in 开午会: what is left of a time that was not read whole.
+    bool isPieceOfTime(std::size_t at) const
+    {
+        const Token &token = m_tokens[at];
+        if (token.inName) {
+            return false;
+        }
+        static const QString pieces = QStringLiteral("午点刻半");
+        const QString text = m_reading.sentence().text().mid(token.position, token.length);
+        if (token.kind == Token::Kind::Other) {
+            return std::any_of(text.cbegin(), text.cend(), [&](QChar character) {
+                return pieces.contains(character) || digitValue(character) >= 0;
+            });
+        }
+        const bool behindTime = at == m_begin || m_tokens[at - 1].kind == Token::Kind::Time;
+        const bool beforeTime = behindTime && at + 1 < m_end && m_tokens[at + 1].kind == Token::Kind::Time &&
+                                m_tokens[at + 1].position == token.end();
+        return beforeTime && (text == QStringLiteral("下") || text == QStringLiteral("上"));
+    }
+
     bool isExplained(std::size_t at) const
     {
         const Token &token = m_tokens[at];
+        if (isPieceOfTime(at)) {
+            return false;
+        }
         switch (token.kind) {
         case Token::Kind::Word:
             return token.inName || token.isAny(m_allowed.beside) || isNothing(token) || isDescription(at);
         case Token::Kind::Other:
             return token.inName || isNothing(token) || isDescription(at) || isPreamble(at);
+        case Token::Kind::Number: // a date or an hour that was cut
+            return m_intent != QLatin1String(CreateConference) || token.inName || isDescription(at);
         case Token::Kind::Duration: // how long a new one takes, or how long one took
             return m_intent == QLatin1String(CreateConference);
         default:

@@ -83,6 +83,25 @@ void Reading::collectTimes()
     }
 }
 
+/// 加6入会议12345789, 加入66会议5556777: digits that stand elsewhere may belong to the number.
+bool Reading::hasStrayDigits() const
+{
+    return std::any_of(m_tokens.cbegin(), m_tokens.cend(), [&](const Token &token) {
+        const bool isTaken = token.position == m_number.position ||
+                             (!m_password.isEmpty() && token.position == m_password.position);
+        if (isTaken || token.inTopic || token.inName) {
+            return false;
+        }
+        if (token.kind == Token::Kind::Number) {
+            return true;
+        }
+        const QString text = m_sentence.text().mid(token.position, token.length);
+        return token.kind == Token::Kind::Other &&
+               std::any_of(text.cbegin(), text.cend(),
+                           [](QChar character) { return digitValue(character) >= 0; });
+    });
+}
+
 Said Reading::digitsOf(const Token &token) const
 {
     return part(token.position, token.length,
@@ -187,10 +206,9 @@ void Reading::collectNumbers()
             (token.length >= ShortestNumber || isLabelled(at))) {
             m_number = digitsOf(token);
             m_numberCutOff = isCutOff(at);
-        } else if (isNumber && !m_number.isEmpty()) {
-            m_numberCutOff = true; // of two numbers nobody knows which
         }
     }
+    m_numberCutOff = !m_number.isEmpty() && (m_numberCutOff || hasStrayDigits());
 }
 
 void Reading::collectOpenVerb()

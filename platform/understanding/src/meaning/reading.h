@@ -65,6 +65,7 @@ private:
     void collectNumbers();
     bool isLabelled(std::size_t number) const;
     bool isCutOff(std::size_t number) const;
+    bool hasStrayDigits() const;
     bool takePassword(std::size_t label);
     void collectOpenVerb();
 

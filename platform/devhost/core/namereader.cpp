@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "namereader.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
+
+namespace devhost {
+
+namespace {
+
+constexpr int AnswerMsecs = 3000;
+constexpr int MostNames = 10000;
+constexpr int LongestName = 400;
+
+QString connectionName()
+{
+    return QStringLiteral("speakmate-known-names");
+}
+
+QString service()
+{
+    return QStringLiteral("com.kelvane.meetlynx");
+}
+
+QString path()
+{
+    return QStringLiteral("/com/kelvane/meetlynx");
+}
+
+QString interfaceName()
+{
+    return QStringLiteral("com.kelvane.meetlynx.Contact1");
+}
+
+/// What another program sent is bounded before it is used.
+QStringList usable(const QStringList &names)
+{
+    QStringList kept;
+    for (const QString &name : names) {
+        if (!name.isEmpty() && name.size() <= LongestName && kept.size() < MostNames) {
+            kept.append(name);
+        }
+    }
+    return kept;
+}
+
+} // namespace
+
+NameReader::~NameReader()
+{
+    QDBusConnection::disconnectFromBus(connectionName());
+}
+
+void NameReader::start()
+{
+    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName());
+    if (!bus.isConnected()) {
+        Q_EMIT read({});
+        return;
+    }
+    bus.connect(service(), path(), interfaceName(), QStringLiteral("ContactNamesChanged"), this, SLOT(ask()));
+    auto *watcher = new QDBusServiceWatcher(service(), bus, QDBusServiceWatcher::WatchForRegistration, this);
+    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &NameReader::ask);
+    ask();
+}
+
+void NameReader::ask()
+{
+    if (m_isAsking) {
+        m_askAgain = true;
+        return;
+    }
+    m_isAsking = true;
+    m_askAgain = false;
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(service(), path(), interfaceName(), QStringLiteral("ContactNames"));
+    call.setAutoStartService(false); // whether the application runs is the plugin's affair
+    const QDBusPendingCall pending = QDBusConnection(connectionName()).asyncCall(call, AnswerMsecs);
+    auto *watcher = new QDBusPendingCallWatcher(pending, this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher *finished) {
+        const QDBusPendingReply<QStringList> reply = *finished;
+        finished->deleteLater();
+        m_isAsking = false;
+        Q_EMIT read(reply.isError() ? QStringList() : usable(reply.value()));
+        if (m_askAgain) {
+            ask();
+        }
+    });
+}
+
+} // namespace devhost

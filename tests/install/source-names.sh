@@ -33,9 +33,11 @@ TEXT
 
 failed=0
 check() { # check WHERE BUILD BASE-DIRECTORY
-    cmake -G Ninja -S "$scratch/tree" -B "$2" -DCMAKE_CXX_COMPILER="$compiler" >"$scratch/log" 2>&1 &&
-        CCACHE_DIR="$scratch/cache" CCACHE_BASEDIR="$3" CCACHE_NODISABLE=1 cmake --build "$2" >>"$scratch/log" 2>&1 ||
-        { cat "$scratch/log"; exit 1; }
+    if ! cmake -G Ninja -S "$scratch/tree" -B "$2" -DCMAKE_CXX_COMPILER="$compiler" >"$scratch/log" 2>&1 ||
+        ! CCACHE_DIR="$scratch/cache" CCACHE_BASEDIR="$3" CCACHE_NODISABLE=1 cmake --build "$2" >>"$scratch/log" 2>&1; then
+        cat "$scratch/log"
+        exit 1
+    fi
     name=$("$2/names")
     [ "$name" = folder/names.cpp ] || { echo "FAIL: $1: $name"; failed=1; }
     echo "$1: $name"

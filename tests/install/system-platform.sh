@@ -2,11 +2,12 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# system-platform.sh SOURCE BUILD TOOLKIT COMPILER PROGRAM ABILITY: builds the plugin and its own tests from a copy of the tree without the
-# platform, against the installed headers of the host, the installed ability library and a toolkit that has what the plugin
-# may use and nothing else (TOOLKIT, the folder of its library; its headers are beside this script). Then runs those tests
-# there, and PROGRAM (tst_othertoolkit.cpp) with that plugin beside the bundled toolkit, where ABILITY is the folder of the
-# scripted ability library. Whatever the plugin took from the tree's platform besides would be missing. What was built stays for the next time.
+# system-platform.sh SOURCE BUILD TOOLKIT COMPILER PROGRAM ABILITY: builds the plugin and its own tests from a copy of the
+# tree without the platform, against the installed headers of the host, the installed ability library and a toolkit that
+# has what the plugin may use and nothing else (TOOLKIT, the folder of its library; its headers are beside this script).
+# Then runs those tests there, and PROGRAM (tst_othertoolkit.cpp) with that plugin beside the bundled toolkit, where ABILITY
+# is the folder of the scripted ability library. Whatever the plugin took from the tree's platform besides would be missing.
+# What was built stays for the next time.
 set -eu
 source=$1
 build=$2
@@ -34,6 +35,15 @@ done
 for folder in CMakeLists.txt support config contact semantic intent plugin ui; do
     cp -Rp "$source/tests/$folder" "$scratch/source/tests/"
 done
+
+# The headers, the libraries and the packages as they are installed serve whoever writes a plugin.
+use_platform() {
+    cmake -G Ninja -S "$here/consumer" -B "$scratch/consumer" -DCMAKE_CXX_COMPILER="$compiler" \
+        -DCMAKE_PREFIX_PATH="$scratch/desktop" || return
+    cmake --build "$scratch/consumer" || return
+    QT_QPA_PLATFORM=offscreen "$scratch/consumer/consumer"
+}
+use_platform >"$scratch/consumer.log" 2>&1 || { tail -n 40 "$scratch/consumer.log"; fail "a project cannot use the installed platform"; }
 
 # Not optimised: what is looked for is there or not, and it builds in half the time.
 cmake -G Ninja -S "$scratch/source" -B "$scratch/bare-build" -DCONTACT_PLATFORM=system -DBUILD_TESTING=ON \

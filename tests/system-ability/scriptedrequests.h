@@ -6,6 +6,7 @@
 #include <QDBusContext>
 #include <QObject>
 #include <QSet>
+#include <QStringList>
 
 /// An application that does with a request what the request's action says, for the ability library's tests:
 /// "Echo" answers with the parameters, "Deadline" with the request's own, "Late" is performed at once and
@@ -22,6 +23,10 @@ public Q_SLOTS:
     QString Request(const QString &action, const QString &parameters, qlonglong deadlineMsecs,
                     const QString &requestId);
     bool WasPerformed(const QString &requestId);
+    QStringList ContactNames() { return {}; }
+
+Q_SIGNALS:
+    void ContactNamesChanged();
 
 private:
     QSet<QString> m_performed;

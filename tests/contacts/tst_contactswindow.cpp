@@ -176,7 +176,14 @@ void TestContactsWindow::aConferenceIsStartedAndEndedByHand()
     QCOMPARE(m_world->conference(QStringLiteral("880100005")).value(QLatin1String("state")).toString(),
              QStringLiteral("ended"));
     selectNumber("880100005");
+    const QString before = told();
     click("delete");
+    QVERIFY(child<QPushButton>("agree")->isVisible());
+    QTest::keyClick(child<QPushButton>("refuse"), Qt::Key_Escape);
+    QTRY_VERIFY(child<QPushButton>("agree") == nullptr);
+    QCOMPARE(told(), before);
+    click("delete");
+    click("agree");
     QCOMPARE(told(), QStringLiteral("没有正在进行的会议。"));
 }
 
@@ -327,6 +334,15 @@ void TestContactsWindow::usersDoNotSeeWhatIsForDevelopers()
 {
     QVERIFY(child<QPushButton>("sample")->isVisible());
     QVERIFY(child<QCheckBox>("elsewhere")->isVisible());
+    // Who tries it out is asked before everything goes.
+    m_world->admin.Reset();
+    click("sample");
+    click("refuse");
+    QTRY_VERIFY(child<QPushButton>("refuse") == nullptr);
+    QVERIFY(m_world->snapshot().value(QLatin1String("people")).toArray().isEmpty());
+    click("sample");
+    click("agree");
+    QVERIFY(!m_world->snapshot().value(QLatin1String("people")).toArray().isEmpty());
     m_window = std::make_unique<ContactsWindow>(m_world->book, m_world->admin);
     m_window->show();
     QVERIFY(!child<QPushButton>("sample")->isVisible());

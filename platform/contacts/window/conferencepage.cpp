@@ -4,6 +4,7 @@
 #include "window/conferencepage.h"
 
 #include "window/outcometext.h"
+#include "window/question.h"
 
 #include "book/administration.h"
 #include "book/contactsbook.h"
@@ -85,8 +86,14 @@ void ConferencePage::connectControls()
     connect(m_start, &QPushButton::clicked, this, [this] { setState(QStringLiteral("running")); });
     connect(m_end, &QPushButton::clicked, this, [this] { setState(QStringLiteral("ended")); });
     connect(m_delete, &QPushButton::clicked, this, [this] {
-        perform(QStringLiteral("Delete Conference"),
-                {{JsonKey::ConferenceId, selected(ConferenceModel::ConferenceIdRole).toString()}});
+        // What is asked about, whatever is selected when the answer comes.
+        const QString conferenceId = selected(ConferenceModel::ConferenceIdRole).toString();
+        askFirst(this,
+                 QStringLiteral("要取消会议 %1 吗？已邀请的成员也将看不到它。")
+                     .arg(selected(ConferenceModel::NumberRole).toString()),
+                 QStringLiteral("取消会议"), [this, conferenceId] {
+                     perform(QStringLiteral("Delete Conference"), {{JsonKey::ConferenceId, conferenceId}});
+                 });
     });
 }
 

@@ -7,6 +7,7 @@
 #include "window/conferencepage.h"
 #include "window/outcometext.h"
 #include "window/peoplemodel.h"
+#include "window/question.h"
 
 #include "book/administration.h"
 #include "book/contactsbook.h"
@@ -41,7 +42,11 @@ ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administratio
     sample->setObjectName(QStringLiteral("sample"));
     sample->setHidden(tools == Tools::ForUsers);
     connect(sample, &QPushButton::clicked, this, [this, &administration] {
-        tell(administration.LoadSample() ? QStringLiteral("示例数据已恢复。") : QStringLiteral("操作失败。"));
+        askFirst(this, QStringLiteral("要恢复示例数据吗？现有的联系人和会议都会被替换。"),
+                 QStringLiteral("恢复示例数据"), [this, &administration] {
+                     tell(administration.LoadSample() ? QStringLiteral("示例数据已恢复。")
+                                                      : QStringLiteral("操作失败。"));
+                 });
     });
     auto *foot = new QHBoxLayout;
     foot->addWidget(m_told, 1);

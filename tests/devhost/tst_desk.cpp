@@ -158,9 +158,12 @@ void TestDesk::conferenceIsCancelledOnTheCard()
     m_desk->say(QStringLiteral("预约大后天晚上八点的视频会议"));
     QCOMPARE(count(QStringLiteral("conference")), before + 1);
     QTRY_VERIFY(m_desk->shown<QPushButton>(QStringLiteral("取 消")) != nullptr);
+    m_desk->window().activateWindow();
     press(m_desk->shown<QPushButton>(QStringLiteral("取 消")));
     QTRY_VERIFY(m_desk->window().view()->count() == 3);
     QCOMPARE(count(QStringLiteral("conference")), before);
+    // One goes on typing.
+    QCOMPARE(QApplication::focusWidget(), m_desk->window().input());
 }
 
 void TestDesk::queryShowsACard()

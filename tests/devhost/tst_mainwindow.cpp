@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "appearance.h"
+#include "cardsurround.h"
 #include "chinesetexts.h"
 #include "conversationview.h"
 #include "inputline.h"
@@ -85,6 +86,8 @@ private Q_SLOTS:
     void windowRemembersItself();
     void newConversationBeginsAtTheWelcomePage();
     void applicationThatDoesNotRunIsSaid();
+    void disabledCardIsVeiledAndEveryCardHasAnEdge();
+    void pageKeysScrollFromTheInput();
     void windowSpeaksChinese();
     void problemIsShown();
     void namesAreShownWithoutWhatHides();
@@ -368,6 +371,59 @@ void TestMainWindow::applicationThatDoesNotRunIsSaid()
     QVERIFY(account->isVisible());
     QCOMPARE(account->text(), QStringLiteral("联系人应用未运行"));
     QVERIFY(!desk.window.findChild<QPushButton *>(QStringLiteral("statusLeave"))->isVisible());
+}
+
+void TestMainWindow::disabledCardIsVeiledAndEveryCardHasAnEdge()
+{
+    ConversationView view;
+    view.resize(600, 400);
+    auto *card = new QPushButton;
+    card->setFixedSize(300, 100);
+    auto *below = new QWidget; // a card like the light ones
+    below->setFixedSize(300, 100);
+    below->setAutoFillBackground(true);
+    view.addReply(1, QString(), card);
+    view.addReply(2, QString(), below);
+    view.show();
+    QTRY_VERIFY(below->isVisible());
+    const QColor ground = view.palette().color(QPalette::Window);
+    const auto colourAt = [&view](const QPoint &place) {
+        return view.viewport()->grab().toImage().pixelColor(place);
+    };
+    const QPoint edge(below->x() + 150, below->y() - 1);
+    QVERIFY(qAbs(colourAt(edge).lightness() - ground.lightness()) > 30);
+    const QPoint inside(below->x() + 150, below->y() + 50);
+    QPalette black;
+    black.setColor(QPalette::All, QPalette::Window, Qt::black);
+    below->setPalette(black);
+    QCOMPARE(colourAt(inside), QColor(Qt::black));
+    below->setEnabled(false);
+    QVERIFY(colourAt(inside).lightness() > 100);
+    below->setEnabled(true);
+    QCOMPARE(colourAt(inside), QColor(Qt::black));
+    // It is the card that is clicked, and both go together.
+    const QSignalSpy clicked(card, &QPushButton::clicked);
+    QTest::mouseClick(view.viewport()->childAt(card->geometry().center()), Qt::LeftButton);
+    QCOMPARE(clicked.size(), 1);
+    QCOMPARE(view.findChildren<CardSurround *>().size(), 2);
+    delete below;
+    QTRY_COMPARE(view.findChildren<CardSurround *>().size(), 1);
+}
+
+void TestMainWindow::pageKeysScrollFromTheInput()
+{
+    Desk desk;
+    for (int i = 0; i < 40; ++i) {
+        desk.window.view()->addReply(1, QStringLiteral("第 %1 句").arg(i), nullptr);
+    }
+    auto *bar = desk.window.view()->verticalScrollBar();
+    desk.window.view()->scrollToEnd();
+    const int end = bar->maximum();
+    QVERIFY(end > 0);
+    QTest::keyClick(desk.window.input(), Qt::Key_PageUp);
+    QCOMPARE(bar->value(), qMax(0, end - bar->pageStep()));
+    QTest::keyClick(desk.window.input(), Qt::Key_PageDown);
+    QCOMPARE(bar->value(), end);
 }
 
 void TestMainWindow::windowSpeaksChinese()

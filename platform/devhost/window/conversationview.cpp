@@ -3,12 +3,13 @@
 
 #include "conversationview.h"
 
+#include "cardsurround.h"
+#include "endbutton.h"
 #include "waitingdots.h"
 
 #include <QEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
-#include <QToolButton>
 
 #include <algorithm>
 #include <utility>
@@ -36,7 +37,7 @@ int ConversationView::Entry::height() const
 ConversationView::ConversationView(QWidget *parent)
     : QAbstractScrollArea(parent)
     , m_dots(new WaitingDots(viewport()))
-    , m_endButton(new QToolButton(this))
+    , m_endButton(new EndButton(this))
 {
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -44,10 +45,8 @@ ConversationView::ConversationView(QWidget *parent)
     setAccessibleName(QStringLiteral("对话"));
     viewport()->setBackgroundRole(QPalette::Window);
     m_dots->hide();
-    m_endButton->setText(QStringLiteral("↓ 回到最新"));
-    m_endButton->setAutoRaise(false);
     m_endButton->hide();
-    connect(m_endButton, &QToolButton::clicked, this, &ConversationView::scrollToEnd);
+    connect(m_endButton, &EndButton::clicked, this, &ConversationView::scrollToEnd);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &ConversationView::updateEndButton);
 }
 
@@ -107,7 +106,8 @@ void ConversationView::addReply(int turn, const QString &text, QWidget *card)
         card->setParent(viewport());
         card->ensurePolished();
         card->installEventFilter(this);
-        connect(card, &QObject::destroyed, this, [this](QObject *gone) { cardChanged(gone); });
+        new CardSurround(card);
+        connect(card, &QObject::destroyed, this, [this] { cardChanged(); });
     }
     insert(entry);
 }
@@ -137,11 +137,6 @@ void ConversationView::clear()
         delete entry.card;
     }
     setWaiting(0);
-}
-
-bool ConversationView::isWaiting() const
-{
-    return m_waitingTurn != 0;
 }
 
 bool ConversationView::isAtEnd() const
@@ -184,11 +179,6 @@ int ConversationView::saidPosition(int turn) const
 int ConversationView::columnWidth() const
 {
     return qBound(1, viewport()->width() - 2 * Margin, WidestColumn);
-}
-
-int ConversationView::columnLeft() const
-{
-    return (viewport()->width() - columnWidth()) / 2;
 }
 
 void ConversationView::measure(Entry &entry) const
@@ -327,7 +317,7 @@ Bubble *ConversationView::takeBubble()
     return bubble;
 }
 
-void ConversationView::cardChanged(const QObject *)
+void ConversationView::cardChanged()
 {
     // A card changes several times before it is shown again; one layout for all of it.
     if (m_isRelayoutPending) {
@@ -346,14 +336,14 @@ void ConversationView::cardChanged(const QObject *)
 void ConversationView::updateEndButton()
 {
     m_endButton->setVisible(!isAtEnd());
-    m_endButton->adjustSize();
-    m_endButton->move((width() - m_endButton->width()) / 2, height() - m_endButton->height() - Gap);
+    m_endButton->move(viewport()->width() - m_endButton->width() - Margin,
+                      height() - m_endButton->height() - Gap);
 }
 
 bool ConversationView::viewportEvent(QEvent *event)
 {
     if (event->type() == QEvent::LayoutRequest) {
-        cardChanged(nullptr);
+        cardChanged();
     }
     return QAbstractScrollArea::viewportEvent(event);
 }
@@ -361,7 +351,7 @@ bool ConversationView::viewportEvent(QEvent *event)
 bool ConversationView::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::LayoutRequest) {
-        cardChanged(watched);
+        cardChanged();
     }
     return QAbstractScrollArea::eventFilter(watched, event);
 }

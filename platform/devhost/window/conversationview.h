@@ -9,12 +9,9 @@
 #include <QPointer>
 #include <QVector>
 
-QT_BEGIN_NAMESPACE
-class QToolButton;
-QT_END_NAMESPACE
-
 namespace devhost {
 
+class EndButton;
 class WaitingDots;
 
 /**
@@ -47,7 +44,7 @@ public:
     void clear();
 
     int count() const { return m_entries.size(); }
-    bool isWaiting() const;
+    bool isWaiting() const { return m_waitingTurn != 0; }
     bool isAtEnd() const;
     void scrollToEnd();
 
@@ -85,7 +82,7 @@ private:
     int positionAfter(int turn) const;
     int saidPosition(int turn) const;
     int columnWidth() const;
-    int columnLeft() const;
+    int columnLeft() const { return (viewport()->width() - columnWidth()) / 2; }
     void measure(Entry &entry) const;
     void measureCard(Entry &entry) const;
     int contentHeight() const;
@@ -95,7 +92,7 @@ private:
     void placeEntry(Entry &entry, int offset);
     void release(Entry &entry);
     Bubble *takeBubble();
-    void cardChanged(const QObject *card);
+    void cardChanged();
     void updateEndButton();
 
     QVector<Entry> m_entries;
@@ -103,7 +100,7 @@ private:
     QVector<Bubble *> m_spare;
     WaitingDots *m_dots;
     int m_waitingTurn = 0;
-    QToolButton *m_endButton;
+    EndButton *m_endButton;
     bool m_isPlacing = false;
     bool m_isRelayoutPending = false;
 };

@@ -37,6 +37,9 @@ void InputLine::keyPressEvent(QKeyEvent *event)
         setText(m_history.older(text()));
     } else if (event->key() == Qt::Key_Down && !isSecret) {
         setText(m_history.newer(text()));
+    } else if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown) {
+        Q_EMIT pageWanted(event->key() == Qt::Key_PageUp ? QAbstractSlider::SliderPageStepSub
+                                                         : QAbstractSlider::SliderPageStepAdd);
     } else {
         QLineEdit::keyPressEvent(event);
     }

@@ -5,6 +5,7 @@
 
 #include "inputhistory.h"
 
+#include <QAbstractSlider>
 #include <QLineEdit>
 
 namespace devhost {
@@ -22,6 +23,10 @@ public:
     InputHistory &history() { return m_history; }
     /// Whether what is typed is a password: it is not shown then.
     void setSecret(bool isSecret);
+
+Q_SIGNALS:
+    /// A key for scrolling what stands above.
+    void pageWanted(QAbstractSlider::SliderAction action);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

@@ -23,6 +23,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScrollBar>
 #include <QSettings>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -198,6 +199,7 @@ void MainWindow::follow()
     };
     connect(m_input, &QLineEdit::returnPressed, this, send);
     connect(m_send, &QPushButton::clicked, this, send);
+    connect(m_input, &InputLine::pageWanted, m_view->verticalScrollBar(), &QAbstractSlider::triggerAction);
     connect(m_view, &ConversationView::turnActivated, this, [this](int turn) {
         m_followsLast = turn == m_conversation.lastTurn();
         inspect(turn);
@@ -221,6 +223,11 @@ void MainWindow::follow()
     });
     connect(&m_conversation, &Conversation::repliedLater, this, [this](int turn, const Reply &answer) {
         reply(turn, answer);
+        // After a button of a card one goes on typing, not on whatever is next to the button.
+        const QWidget *focus = QApplication::focusWidget();
+        if (focus == nullptr || m_view->isAncestorOf(focus)) {
+            m_input->setFocus();
+        }
         if (m_inspector->shownTurn() == turn) {
             inspect(turn);
         }

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QAbstractButton>
+
+namespace devhost {
+
+/// A round button with an arrow that leads to the conversation's end. Opaque: it lies over bubbles.
+class EndButton final : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    explicit EndButton(QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+} // namespace devhost

@@ -66,6 +66,7 @@ private Q_SLOTS:
     void queryShowsACard();
     void conferenceIsJoinedWithAPasswordInTwoTurns();
     void friendIsAdded();
+    void bubbleHasAMenu();
     void statusLineTellsTheConferenceAndLeavesIt();
     void namesComeFromTheApplication();
     void turnsAreFastAndTheWindowDoesNotStall();
@@ -218,6 +219,43 @@ void TestDesk::friendIsAdded()
     m_desk->say(QStringLiteral("添加好友200001"));
     QTRY_COMPARE(m_desk->lastText(), QStringLiteral("已成功发送好友申请。"));
     QCOMPARE(count(requested), 1);
+}
+
+void TestDesk::bubbleHasAMenu()
+{
+    QVERIFY(RealDesk::loadSample());
+    const auto openMenu = [this] {
+        const auto bubbles = m_desk->window().findChildren<Bubble *>();
+        const auto last = std::find_if(bubbles.begin(), bubbles.end(), [this](const Bubble *bubble) {
+            return bubble->isVisible() && bubble->text() == m_desk->lastText();
+        });
+        QContextMenuEvent wish(QContextMenuEvent::Mouse, QPoint(5, 5), (*last)->mapToGlobal(QPoint(5, 5)));
+        QCoreApplication::sendEvent(*last, &wish);
+        return m_desk->window().findChild<QMenu *>(QString(), Qt::FindDirectChildrenOnly);
+    };
+    m_desk->say(QStringLiteral("查询今天的会议"));
+    QMenu *menu = openMenu();
+    QVERIFY(menu != nullptr);
+    const QList<QAction *> actions = menu->actions();
+    QCOMPARE(actions.size(), 5);
+    actions.at(0)->trigger();
+    QCOMPARE(QGuiApplication::clipboard()->text(), m_desk->lastText());
+    actions.at(1)->trigger();
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("880100001"));
+    actions.at(2)->trigger();
+    QVERIFY(QGuiApplication::clipboard()->text().contains(QLatin1String("QUERY_CONFERENCE")));
+    actions.at(4)->trigger();
+    QTRY_COMPARE(m_desk->conversation().lastTurn(), 2);
+    QTRY_VERIFY(!m_desk->conversation().isBusy());
+    QCOMPARE(m_desk->lastTurn().said, QStringLiteral("查询今天的会议"));
+    menu->close();
+    QTRY_VERIFY(m_desk->window().findChild<QMenu *>(QString(), Qt::FindDirectChildrenOnly) == nullptr);
+    // Nobody keeps a password.
+    m_desk->say(QStringLiteral("加入会议880100002"));
+    m_desk->say(QStringLiteral("246810"));
+    menu = openMenu();
+    QVERIFY(menu != nullptr && !menu->actions().at(4)->isEnabled());
+    menu->close();
 }
 
 void TestDesk::statusLineTellsTheConferenceAndLeavesIt()

@@ -3,10 +3,7 @@
 
 #include "bubble.h"
 
-#include <QClipboard>
 #include <QContextMenuEvent>
-#include <QGuiApplication>
-#include <QMenu>
 #include <QPainter>
 #include <QTextLayout>
 
@@ -110,11 +107,7 @@ void Bubble::mouseReleaseEvent(QMouseEvent *event)
 
 void Bubble::contextMenuEvent(QContextMenuEvent *event)
 {
-    auto *menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addAction(QStringLiteral("复制"), menu,
-                    [text = m_text] { QGuiApplication::clipboard()->setText(text); });
-    menu->popup(event->globalPos());
+    Q_EMIT menuWanted(event->globalPos());
 }
 
 } // namespace devhost

@@ -29,6 +29,7 @@ public:
 
 Q_SIGNALS:
     void clicked();
+    void menuWanted(const QPoint &globalPlace);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

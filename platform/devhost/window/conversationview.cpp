@@ -20,19 +20,12 @@ namespace {
 
 constexpr int Margin = 16;
 constexpr int Gap = 10;
-constexpr int CardGap = 6;
 constexpr int WidestColumn = 860;
 constexpr int PreferredCardWidth = 380;
 /// Of the column's width; the rest shows who speaks.
 constexpr double WidestBubble = 0.78;
 
 } // namespace
-
-int ConversationView::Entry::height() const
-{
-    const int gap = textSize.isEmpty() || cardSize.isEmpty() ? 0 : CardGap;
-    return textSize.height() + gap + cardSize.height();
-}
 
 ConversationView::ConversationView(QWidget *parent)
     : QAbstractScrollArea(parent)
@@ -313,6 +306,9 @@ Bubble *ConversationView::takeBubble()
     auto *bubble = new Bubble(viewport());
     connect(bubble, &Bubble::clicked, this,
             [this, bubble] { Q_EMIT turnActivated(bubble->property("turn").toInt()); });
+    connect(bubble, &Bubble::menuWanted, this, [this, bubble](const QPoint &place) {
+        Q_EMIT turnMenuWanted(bubble->property("turn").toInt(), bubble->text(), place);
+    });
     m_bubbles.append(bubble);
     return bubble;
 }

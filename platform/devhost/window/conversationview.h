@@ -50,6 +50,8 @@ public:
 
 Q_SIGNALS:
     void turnActivated(int turn);
+    /// The menu of one of its bubbles.
+    void turnMenuWanted(int turn, const QString &text, const QPoint &globalPlace);
 
 protected:
     bool viewportEvent(QEvent *event) override;
@@ -60,6 +62,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    static constexpr int CardGap = 6; ///< between a text and its card
+
     struct Entry
     {
         int turn = 0;
@@ -74,7 +78,11 @@ private:
         QSize cardSize; ///< empty without a card
         int top = 0;
 
-        int height() const;
+        int height() const
+        {
+            return textSize.height() + (textSize.isEmpty() || cardSize.isEmpty() ? 0 : CardGap) +
+                   cardSize.height();
+        }
         int bottom() const { return top + height(); }
     };
 

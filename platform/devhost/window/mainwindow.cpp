@@ -11,6 +11,7 @@
 #include "inspector.h"
 #include "speaker.h"
 #include "statusline.h"
+#include "turnmenu.h"
 #include "welcomepage.h"
 
 #include <lumo/lsuggestbutton.h>
@@ -204,6 +205,10 @@ void MainWindow::follow()
         m_followsLast = turn == m_conversation.lastTurn();
         inspect(turn);
     });
+    connect(m_view, &ConversationView::turnMenuWanted, this,
+            [this](int turn, const QString &text, const QPoint &place) {
+                makeTurnMenu(m_conversation.turn(turn), text, m_conversation, this)->popup(place);
+            });
     connect(m_inspector, &Inspector::semanticEntered, this, [this](const QString &semantic) {
         m_followsLast = true;
         m_conversation.sendSemantic(semantic);

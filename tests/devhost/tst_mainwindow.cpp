@@ -5,6 +5,7 @@
 #include "cardsurround.h"
 #include "chinesetexts.h"
 #include "conversationview.h"
+#include "endbutton.h"
 #include "inputline.h"
 #include "inspector.h"
 #include "logrecorder.h"
@@ -88,6 +89,7 @@ private Q_SLOTS:
     void applicationThatDoesNotRunIsSaid();
     void disabledCardIsVeiledAndEveryCardHasAnEdge();
     void pageKeysScrollFromTheInput();
+    void buttonToTheEndIsOpaqueAndAtTheSide();
     void windowSpeaksChinese();
     void problemIsShown();
     void namesAreShownWithoutWhatHides();
@@ -424,6 +426,32 @@ void TestMainWindow::pageKeysScrollFromTheInput()
     QCOMPARE(bar->value(), qMax(0, end - bar->pageStep()));
     QTest::keyClick(desk.window.input(), Qt::Key_PageDown);
     QCOMPARE(bar->value(), end);
+}
+
+void TestMainWindow::buttonToTheEndIsOpaqueAndAtTheSide()
+{
+    Desk desk;
+    desk.type(semantic("ECHO", QStringLiteral("a")));
+    QTRY_VERIFY(desk.isIdle());
+    ConversationView *view = desk.window.view();
+    for (int i = 0; i < 40; ++i) {
+        view->addSaid(1, QStringLiteral("这一句话足够长，会在按钮下面经过，第 %1 句").arg(i), false);
+    }
+    auto *button = view->findChild<EndButton *>();
+    QVERIFY(!button->isVisible());
+    QTest::keyClick(desk.window.input(), Qt::Key_PageUp);
+    QVERIFY(button->isVisible());
+    const QImage picture = desk.window.grab().toImage();
+    QVERIFY(picture.save(QStringLiteral("end-button.png")));
+    const QColor plate = button->palette().color(QPalette::Button);
+    const QRect place(button->mapTo(&desk.window, QPoint()), button->size());
+    QCOMPARE(picture.pixelColor(place.center() + QPoint(-12, 0)), plate);
+    QCOMPARE(picture.pixelColor(place.center() + QPoint(12, 0)), plate);
+    // Round: its corners show what lies below.
+    QVERIFY(picture.pixelColor(place.topLeft() + QPoint(1, 1)) != plate);
+    QVERIFY(button->x() > view->width() * 3 / 4);
+    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(view->isAtEnd() && !button->isVisible());
 }
 
 void TestMainWindow::windowSpeaksChinese()

@@ -19,9 +19,9 @@ public:
     ~JsonConfigLoader() override;
 
     /**
-     * Null when the file cannot be read, is not a regular file or is larger than 1 MB; a null document when it
-     * is not JSON. Owned by the loader; a document loaded before stays valid, since its caller may still read
-     * it.
+     * Null when the file cannot be read, is not a regular file or is larger than 1 MB; a null document when
+     * it is not JSON. Owned by the loader; a document loaded before stays valid, since its caller may still
+     * read it.
      */
     virtual QJsonDocument *load(const QString &path);
     /// Nothing: documents live as long as the loader.

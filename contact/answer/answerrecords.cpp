@@ -32,7 +32,7 @@ DuplicateUsers duplicatesOf(const QString &askedName, const QJsonArray &candidat
     DuplicateUsers group;
     group.name = askedName;
     group.users.reserve(candidates.size());
-    for (const QJsonValue candidate : candidates) {
+    for (const QJsonValue &candidate : candidates) {
         group.users.append(matchOf(askedName, candidate.toObject(), AnswerKey::Name));
     }
     return group;
@@ -44,7 +44,7 @@ ContactDetailMsg conferenceOf(const QJsonObject &object)
     conference.title = object.value(AnswerKey::Title).toString();
     const QJsonArray participants = object.value(AnswerKey::Participants).toArray();
     conference.participants.reserve(participants.size());
-    for (const QJsonValue participant : participants) {
+    for (const QJsonValue &participant : participants) {
         conference.participants.append(participantOf(participant.toObject()));
     }
     conference.duration = object.value(AnswerKey::Duration).toInt();
@@ -64,7 +64,7 @@ QVector<ContactDetailMsg> AnswerRecords::conferences(const QJsonArray &list)
 {
     QVector<ContactDetailMsg> records;
     records.reserve(list.size());
-    for (const QJsonValue entry : list) {
+    for (const QJsonValue &entry : list) {
         records.append(conferenceOf(entry.toObject()));
     }
     return records;
@@ -73,7 +73,7 @@ QVector<ContactDetailMsg> AnswerRecords::conferences(const QJsonArray &list)
 ContactInviteMemberDetail AnswerRecords::members(const QJsonArray &users)
 {
     ContactInviteMemberDetail detail;
-    for (const QJsonValue entry : users) {
+    for (const QJsonValue &entry : users) {
         const QJsonObject user = entry.toObject();
         const QString status = user.value(AnswerKey::Status).toString();
         const QString name = user.value(AnswerKey::Name).toString();

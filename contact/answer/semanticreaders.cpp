@@ -63,7 +63,7 @@ void SemanticReader::readVoiceAnswer(const QJsonDocument &semantic, QString &sho
     const QJsonObject intent = semantic.object().value(IntentKey).toObject();
     assignString(intent.value(AnswerKey).toObject().value(TextKey), shown);
     const QJsonArray voiceAnswers = intent.value(VoiceAnswerKey).toArray();
-    for (const QJsonValue value : voiceAnswers) {
+    for (const QJsonValue &value : voiceAnswers) {
         const QJsonObject voiceAnswer = value.toObject();
         if (voiceAnswer.value(TypeKey).toString() == SpokenType &&
             assignString(voiceAnswer.value(ContentKey), spoken)) {

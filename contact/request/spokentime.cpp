@@ -13,7 +13,7 @@
 namespace {
 
 constexpr QLatin1String SuggestDatetimeKey = "suggestDatetime"_latin1;
-constexpr QLatin1Char timeMark('T');
+constexpr QLatin1Char TimeMark('T');
 
 /// Whether @p text matches @p shape, where a zero stands for any digit.
 bool hasShape(const QString &text, QLatin1String shape)
@@ -50,10 +50,10 @@ SpokenTime SpokenTime::fromSlot(const QString &slotText, QJsonParseError *error)
     SpokenTime result;
     const QJsonDocument document = QJsonDocument::fromJson(slotText.toUtf8(), error);
     result.m_text = document.object().value(SuggestDatetimeKey).toString();
-    result.m_hasTime = result.m_text.contains(timeMark);
+    result.m_hasTime = result.m_text.contains(TimeMark);
     if (result.m_hasTime) {
         // Separately: whether they exist together is up to LocalTime.
-        const int mark = result.m_text.indexOf(timeMark);
+        const int mark = result.m_text.indexOf(TimeMark);
         result.m_time = timeOf(result.m_text.mid(mark + 1));
         if (result.m_time.isValid()) {
             result.m_date = dateOf(result.m_text.left(mark));

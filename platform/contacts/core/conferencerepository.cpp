@@ -239,11 +239,11 @@ int ConferenceRepository::creationsBetween(const QString &hostId, qint64 afterMs
 void ConferenceRepository::noteCreation(const QString &hostId, qint64 nowMsecs)
 {
     // What is older than a day decides nothing any more, nor does what a clock that was ahead noted.
-    constexpr qint64 DayMsecs = 24 * 60 * 60 * 1000;
+    constexpr qint64 dayMsecs = 24 * 60 * 60 * 1000;
     Statement(m_database, QStringLiteral("DELETE FROM creation WHERE host_id = ?"
                                          " AND (created_msecs < ? OR created_msecs > ?)"))
         .bind(hostId)
-        .bind(nowMsecs - DayMsecs)
+        .bind(nowMsecs - dayMsecs)
         .bind(nowMsecs)
         .run();
     Statement(m_database, QStringLiteral("INSERT INTO creation (host_id, created_msecs) VALUES (?, ?)"))

@@ -69,13 +69,13 @@ bool BusService::putOnBus(const QString &path, QObject *object)
 
 void BusService::askOtherForWindow()
 {
-    constexpr int TimeoutMsecs = 5000;
+    constexpr int timeoutMsecs = 5000;
     QDBusMessage message = QDBusMessage::createMethodCall(BusName::service(), BusName::contactPath(),
                                                           QStringLiteral("com.kelvane.meetlynx.Contact1"),
                                                           QStringLiteral("Request"));
-    const qint64 deadlineMsecs = RequestTicket::nowMsecs() + TimeoutMsecs;
+    const qint64 deadlineMsecs = RequestTicket::nowMsecs() + timeoutMsecs;
     message << QStringLiteral("Open Conference List") << QString() << deadlineMsecs << QString();
-    const QDBusMessage reply = m_connection.call(message, QDBus::Block, TimeoutMsecs);
+    const QDBusMessage reply = m_connection.call(message, QDBus::Block, timeoutMsecs);
     if (reply.type() == QDBusMessage::ErrorMessage) {
         qWarning() << "The running application cannot be asked for its window:" << reply.errorMessage();
     }

@@ -15,8 +15,8 @@ namespace understanding {
 namespace {
 
 constexpr int PasswordNeeded = -16014;
-const QLatin1String passwordQuestion("which-password");
-const QLatin1String tooManyPasswords("passwords-tried");
+const QLatin1String PasswordQuestion("which-password");
+const QLatin1String TooManyPasswords("passwords-tried");
 
 /// The one question that is open: what it is for and what was asked.
 struct OpenQuestion
@@ -147,12 +147,12 @@ QString Dialogue::Private::answerQuestion(const Reading &reading, const Outcome 
     if (asked.startsWith(QLatin1String("confirm-"))) {
         return answerConfirmation(reading, fresh, now);
     }
-    const bool taken = asked != tooManyPasswords && takeAnswer(asked, reading, now, question.time, answered);
+    const bool taken = asked != TooManyPasswords && takeAnswer(asked, reading, now, question.time, answered);
     if (!taken) {
         if (startsSomethingNew(fresh)) {
             return reply(fresh, reading.time());
         }
-        return asked == tooManyPasswords ? close("passwords-tried") : askAgain();
+        return asked == TooManyPasswords ? close("passwords-tried") : askAgain();
     }
     if (!answered.answer.isEmpty()) { // the time is still not one
         question.outcome.answer = answered.answer;
@@ -173,19 +173,19 @@ void Dialogue::Private::askForPassword()
     if (!number.isEmpty()) {
         outcome.addSlot(IdSlot, number.value, number.normValue);
     }
-    outcome.answer = passwordRounds > MostTries ? tooManyPasswords : passwordQuestion;
+    outcome.answer = passwordRounds > MostTries ? TooManyPasswords : PasswordQuestion;
     question = OpenQuestion();
     question.outcome = outcome;
     question.tries = 1; // the plugin has put it
 }
 
-Dialogue::Dialogue(QStringList contactNames) : d(std::make_unique<Private>(contactNames)) {}
+Dialogue::Dialogue(QStringList contactNames) : m_d(std::make_unique<Private>(contactNames)) {}
 
 Dialogue::~Dialogue() = default;
 
 void Dialogue::setContactNames(const QStringList &names)
 {
-    d->contacts = ContactIndex(names);
+    m_d->contacts = ContactIndex(names);
 }
 
 QString Dialogue::turn(const QString &sentence, const QDateTime &now)
@@ -193,35 +193,35 @@ QString Dialogue::turn(const QString &sentence, const QDateTime &now)
     if (sentence.size() > LongestSentence) {
         return answerJson(answerText(QStringLiteral("too-long")));
     }
-    const Reading reading(sentence, d->contacts);
+    const Reading reading(sentence, m_d->contacts);
     const Outcome fresh = interpret(reading, now);
-    if (!d->question.isOpen()) {
-        return d->reply(fresh, reading.time());
+    if (!m_d->question.isOpen()) {
+        return m_d->reply(fresh, reading.time());
     }
-    const bool toConfirm = d->question.outcome.answer.startsWith(QLatin1String("confirm-"));
+    const bool toConfirm = m_d->question.outcome.answer.startsWith(QLatin1String("confirm-"));
     const bool givesUp = isGiveUp(reading) || (beginsWithGiveUp(reading) && fresh.intent.isEmpty());
     if (givesUp && !(toConfirm && readYesNo(reading.sentence()) == YesNo::Yes)) {
-        return d->close("cancelled");
+        return m_d->close("cancelled");
     }
-    return d->answerQuestion(reading, fresh, now);
+    return m_d->answerQuestion(reading, fresh, now);
 }
 
 void Dialogue::noteReply(int code, const QString &)
 {
-    const bool joined = d->lastCommand.intent == QLatin1String(EnterConferenceById) ||
-                        d->lastCommand.intent == QLatin1String(EnterMyConference);
+    const bool joined = m_d->lastCommand.intent == QLatin1String(EnterConferenceById) ||
+                        m_d->lastCommand.intent == QLatin1String(EnterMyConference);
     if (code == PasswordNeeded && joined) {
-        d->askForPassword();
+        m_d->askForPassword();
     } else {
-        d->passwordFor.clear();
-        d->passwordRounds = 0;
+        m_d->passwordFor.clear();
+        m_d->passwordRounds = 0;
     }
 }
 
 bool Dialogue::nextIsSecret() const
 {
-    const QString &asked = d->question.outcome.answer;
-    return d->question.isOpen() && (asked == passwordQuestion || asked == tooManyPasswords);
+    const QString &asked = m_d->question.outcome.answer;
+    return m_d->question.isOpen() && (asked == PasswordQuestion || asked == TooManyPasswords);
 }
 
 QString Dialogue::masked(const QString &sentence) const
@@ -230,7 +230,7 @@ QString Dialogue::masked(const QString &sentence) const
     if (sentence.size() > LongestSentence) {
         return nextIsSecret() ? QString(sentence.size(), bullet) : sentence;
     }
-    const Reading reading(sentence, d->contacts);
+    const Reading reading(sentence, m_d->contacts);
     QString shown = sentence;
     const auto hide = [&](int position, int length) {
         shown.replace(position, length, QString(length, bullet));

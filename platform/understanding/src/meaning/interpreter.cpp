@@ -115,7 +115,7 @@ constexpr struct
     const char *required;
     const char *question;
     const char *confirmation;
-} intentTable[] = {
+} IntentTable[] = {
     {CreateConference, fillConference, nullptr, nullptr, "confirm-create"},
     {InviteConference, fillInvitation, NameSlot, "whom-to-invite", "confirm-invite"},
     {EnterConferenceById, fillNumber, IdSlot, "which-conference", "confirm-join"},
@@ -127,7 +127,7 @@ constexpr struct
 
 QString confirmation(const Outcome &outcome)
 {
-    for (const auto &row : intentTable) {
+    for (const auto &row : IntentTable) {
         if (outcome.intent == QLatin1String(row.intent)) {
             const bool later =
                 outcome.intent == QLatin1String(CreateConference) && outcome.hasSlot(DatetimeSlot);
@@ -151,7 +151,7 @@ void fillTime(Outcome &outcome, const TimeExpression &time, const QString &said,
 
 QString missingSlotQuestion(const Outcome &outcome)
 {
-    for (const auto &row : intentTable) {
+    for (const auto &row : IntentTable) {
         if (outcome.intent == QLatin1String(row.intent) && row.required != nullptr &&
             !outcome.hasSlot(row.required)) {
             return QLatin1String(row.question);
@@ -194,7 +194,7 @@ Outcome interpret(const Reading &reading, const QDateTime &now)
         return outcome;
     }
     outcome.intent = decision;
-    for (const auto &row : intentTable) {
+    for (const auto &row : IntentTable) {
         if (outcome.intent == QLatin1String(row.intent)) {
             row.fill(outcome, reading, now);
         }

@@ -13,14 +13,14 @@ const QString &digitCharacters()
     return characters;
 }
 
-constexpr QChar ten(0x5341);       // 十
-constexpr QChar hundred(0x767e);   // 百
-constexpr QChar twenty(0x5eff);    // 廿
-constexpr QChar thirty(0x5345);    // 卅
-constexpr QChar two(0x4e24);       // 两
-constexpr QChar one(0x5e7a);       // 幺
-constexpr QChar zero(0x3007);      // 〇
-constexpr QChar pieces(0x4e2a);    // 个
+constexpr QChar Ten(0x5341);       // 十
+constexpr QChar Hundred(0x767e);   // 百
+constexpr QChar Twenty(0x5eff);    // 廿
+constexpr QChar Thirty(0x5345);    // 卅
+constexpr QChar Two(0x4e24);       // 两
+constexpr QChar One(0x5e7a);       // 幺
+constexpr QChar Zero(0x3007);      // 〇
+constexpr QChar Pieces(0x4e2a);    // 个
 constexpr int LongestQuantity = 8; // 九百九十九 is five, 2026 four; more is no quantity
 
 bool isAsciiDigit(QChar character)
@@ -52,7 +52,7 @@ NumberMatch readMultiplied(const QString &text, int position)
     int at = position;
     for (; at < text.size() && at - position < LongestQuantity; ++at) {
         const QChar character = text.at(at);
-        const int unit = character == hundred ? 100 : character == ten ? 10 : 0;
+        const int unit = character == Hundred ? 100 : character == Ten ? 10 : 0;
         if (unit != 0) {
             if (unit >= smallestUnit || (pending == 0 && unit != 10)) {
                 break;
@@ -60,12 +60,12 @@ NumberMatch readMultiplied(const QString &text, int position)
             total += (pending < 0 ? 1 : pending) * unit;
             smallestUnit = unit;
             pending = -1;
-        } else if ((character == twenty || character == thirty) && at == position) {
-            total = character == twenty ? 20 : 30;
+        } else if ((character == Twenty || character == Thirty) && at == position) {
+            total = character == Twenty ? 20 : 30;
             smallestUnit = 10;
         } else {
-            const int digit = character == two ? 2 : digitValue(character);
-            if (digit < 0 || isAsciiDigit(character) || character == one || pending > 0 ||
+            const int digit = character == Two ? 2 : digitValue(character);
+            if (digit < 0 || isAsciiDigit(character) || character == One || pending > 0 ||
                 (pending == 0 && digit == 0)) {
                 break;
             }
@@ -85,10 +85,10 @@ int digitValue(QChar character)
     if (isAsciiDigit(character)) {
         return character.digitValue();
     }
-    if (character == one) {
+    if (character == One) {
         return 1;
     }
-    if (character == zero) {
+    if (character == Zero) {
         return 0;
     }
     return digitCharacters().indexOf(character);
@@ -108,14 +108,14 @@ NumberMatch readQuantity(const QString &text, int position)
     while (digits < 4 && position + digits < text.size()) {
         const QChar character = text.at(position + digits);
         const int digit = digitValue(character);
-        if (digit < 0 || character == one || isAsciiDigit(character)) {
+        if (digit < 0 || character == One || isAsciiDigit(character)) {
             break;
         }
         value = value * 10 + digit;
         ++digits;
     }
     const QChar next = position + digits < text.size() ? text.at(position + digits) : QChar();
-    if (digits >= 2 && next != ten && next != hundred) {
+    if (digits >= 2 && next != Ten && next != Hundred) {
         return {value, digits};
     }
     return readMultiplied(text, position);
@@ -124,7 +124,7 @@ NumberMatch readQuantity(const QString &text, int position)
 /// 两 in 三两四: a digit beside others.
 static bool isTwoInString(const QString &text, int at, int end, int start)
 {
-    if (text.at(at) != two) {
+    if (text.at(at) != Two) {
         return false;
     }
     return at > start ? end == at : at + 1 < text.size() && digitValue(text.at(at + 1)) >= 0;
@@ -136,9 +136,9 @@ int digitStringEnd(const QString &text, int position)
     int at = position;
     while (at < text.size()) {
         const QChar character = text.at(at);
-        const bool repeated = at + 2 < text.size() && text.at(at + 1) == pieces &&
+        const bool repeated = at + 2 < text.size() && text.at(at + 1) == Pieces &&
                               digitValue(text.at(at + 2)) >= 0 &&
-                              (character == two || digitValue(character) >= 2);
+                              (character == Two || digitValue(character) >= 2);
         if (repeated) {
             at += 3;
             end = at;
@@ -159,8 +159,8 @@ QString digitString(const QString &said)
     bool onlyDigits = true;
     for (int at = 0; at < said.size(); ++at) {
         const QChar character = said.at(at);
-        const int value = character == two ? 2 : digitValue(character);
-        if (at + 2 < said.size() && said.at(at + 1) == pieces && value >= 2 &&
+        const int value = character == Two ? 2 : digitValue(character);
+        if (at + 2 < said.size() && said.at(at + 1) == Pieces && value >= 2 &&
             digitValue(said.at(at + 2)) >= 0) {
             digits += QString(value, QChar(u'0' + digitValue(said.at(at + 2))));
             at += 2;

@@ -17,7 +17,7 @@ constexpr struct
 {
     const char *name;
     WordClass wordClass;
-} classNames[] = {
+} ClassNames[] = {
     {"conference", WordClass::Conference},
     {"video", WordClass::Video},
     {"strong open", WordClass::StrongOpen},
@@ -93,7 +93,7 @@ bool isClauseEnd(const QString &text, int position)
 
 WordClass wordClassNamed(const QString &name)
 {
-    for (const auto &row : classNames) {
+    for (const auto &row : ClassNames) {
         if (name == QLatin1String(row.name)) {
             return row.wordClass;
         }

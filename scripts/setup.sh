@@ -15,11 +15,11 @@ packages_run=(
 # What the tests take on top.
 packages_test=(appstream bash-completion binutils desktop-file-utils faketime man-db python3 sqlite3)
 # What building the Debian packages takes on top.
-packages_package=(abigail-tools binutils debhelper dpkg-dev lintian xz-utils)
+packages_package=(abigail-tools binutils build-essential debhelper dpkg-dev lintian xz-utils)
 # What the benchmarks take on top.
 packages_bench=(libbenchmark-dev)
 # What the checks of .ci/run take on top.
-packages_ci=(clang clang-format-16 clang-tidy libclang-rt-14-dev)
+packages_ci=(clang clang-format-16 clang-tidy clazy libclang-rt-14-dev shellcheck)
 
 say() { printf '%s\n' "$*" >&2; }
 die() {

@@ -66,7 +66,8 @@ QJsonObject createConference(const ActionContext &context, const RequestParamete
                                       scheduled ? Attendance::Invited : Attendance::Joined);
     // One seat is the host's own.
     const int fitting = qMin(found.size(), conference.participantLimit - 1);
-    for (const Person &person : found.mid(0, fitting)) {
+    const QVector<Person> seated = found.mid(0, fitting);
+    for (const Person &person : seated) {
         context.conferences.setAttendance(conference.id, person.userId, Attendance::Invited);
     }
 

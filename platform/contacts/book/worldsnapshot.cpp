@@ -32,7 +32,8 @@ QJsonObject personToJson(const Person &person)
 QJsonArray contactsToJson(ContactsBook &book, const QString &ownerId)
 {
     QJsonArray contacts;
-    for (const Person &person : book.people().contacts(ownerId)) {
+    const QVector<Person> owned = book.people().contacts(ownerId);
+    for (const Person &person : owned) {
         contacts.append(QJsonObject{
             {QStringLiteral("account"), person.account},
             {QStringLiteral("remark"), person.remarkName},
@@ -69,12 +70,14 @@ QString worldSnapshot(ContactsBook &book)
 {
     QJsonObject contacts;
     QJsonArray people;
-    for (const Person &person : book.people().all()) {
+    const QVector<Person> everybody = book.people().all();
+    for (const Person &person : everybody) {
         people.append(personToJson(person));
         contacts.insert(person.account, contactsToJson(book, person.userId));
     }
     QJsonArray conferences;
-    for (const Conference &conference : book.conferences().startingAfter(-1, QString(), SnapshotLimit)) {
+    const QVector<Conference> found = book.conferences().startingAfter(-1, QString(), SnapshotLimit);
+    for (const Conference &conference : found) {
         const std::optional<Person> host = book.people().byUserId(conference.hostId);
         conferences.append(conferenceToJson(conference, host ? host->account : QString(), book.nowMsecs()));
     }

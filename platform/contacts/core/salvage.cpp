@@ -91,7 +91,8 @@ Salvaged salvage(const QString &damagedFile, const QSqlDatabase &fresh)
                 const QString name = QLatin1String(table.name);
                 QStringList columns;
                 const QStringList known = columnsOf(fresh, name);
-                for (const QString &column : columnsOf(damaged, name)) {
+                const QStringList present = columnsOf(damaged, name);
+                for (const QString &column : present) {
                     if (known.contains(column)) {
                         columns.append(column);
                     }

@@ -19,7 +19,7 @@ Statement::Statement(const QSqlDatabase &database, const QString &sql) : m_query
 Statement &Statement::bind(const QString &value)
 {
     // A null string would be stored as NULL.
-    m_query.addBindValue(value.isNull() ? QStringLiteral("") : value);
+    m_query.addBindValue(value.isNull() ? QLatin1String("") : value);
     return *this;
 }
 

@@ -69,7 +69,8 @@ void AccountBar::reload()
     m_account->clear();
     try {
         m_account->addItem(QStringLiteral("未登录"), QString());
-        for (const Person &person : m_book.people().all()) {
+        const QVector<Person> everybody = m_book.people().all();
+        for (const Person &person : everybody) {
             m_account->addItem(QStringLiteral("%1 %2").arg(cleanDisplayText(person.name), person.account),
                                person.account);
         }

@@ -34,7 +34,7 @@ QString textOf(const QJsonObject &object, const char *key)
 bool hasJoined(const QJsonObject &conference, const QString &account)
 {
     const QJsonArray participants = conference.value(QLatin1String("participants")).toArray();
-    for (const QJsonValue participant : participants) {
+    for (const QJsonValue &participant : participants) {
         if (textOf(participant.toObject(), "account") == account) {
             return textOf(participant.toObject(), "attendance") == QLatin1String("joined");
         }
@@ -59,23 +59,23 @@ ApplicationState ApplicationState::read(const QString &snapshot)
     }
     QHash<QString, QString> names;
     const QJsonArray people = world.value(QLatin1String("people")).toArray();
-    for (const QJsonValue person : people) {
+    for (const QJsonValue &person : people) {
         names.insert(textOf(person.toObject(), "account"), textOf(person.toObject(), "name"));
     }
     state.user = QStringLiteral("%1（%2）").arg(names.value(account), account);
     const QJsonArray contacts = world.value(QLatin1String("contacts")).toObject().value(account).toArray();
     QHash<QString, int> said;
-    for (const QJsonValue contact : contacts) {
+    for (const QJsonValue &contact : contacts) {
         ++said[names.value(textOf(contact.toObject(), "account"))];
     }
-    for (const QJsonValue contact : contacts) {
+    for (const QJsonValue &contact : contacts) {
         const QString name = names.value(textOf(contact.toObject(), "account"));
         if (!name.isEmpty() && said.value(name) == 1) {
             state.names << name;
         }
     }
     const QJsonArray conferences = world.value(QLatin1String("conferences")).toArray();
-    for (const QJsonValue value : conferences) {
+    for (const QJsonValue &value : conferences) {
         const QJsonObject conference = value.toObject();
         if (textOf(conference, "state") == QLatin1String("running") && hasJoined(conference, account)) {
             state.conferenceTitle = textOf(conference, "title");

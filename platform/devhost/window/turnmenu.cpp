@@ -37,7 +37,7 @@ QString conferenceNumberOf(const Turn &turn)
     for (const AbilityCall &call : turn.calls) {
         const QJsonArray list =
             QJsonDocument::fromJson(call.answer.toUtf8()).object().value(QLatin1String("list")).toArray();
-        for (const QJsonValue conference : list) {
+        for (const QJsonValue &conference : list) {
             numbers.insert(conference.toObject().value(QLatin1String("conferenceDialNumber")).toString());
         }
     }

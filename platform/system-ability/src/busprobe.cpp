@@ -131,7 +131,8 @@ BusProbe::Found BusProbe::ask(const QByteArray &addresses, const std::function<b
         all = "unix:path=" + own;
     }
     Found found = Found::Nothing;
-    for (const QByteArray &address : all.split(';')) {
+    const QList<QByteArray> addresses = all.split(';');
+    for (const QByteArray &address : addresses) {
         found = askOne(address, goesOn);
         if (found != Found::Nothing) {
             return found;

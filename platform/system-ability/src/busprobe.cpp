@@ -131,8 +131,8 @@ BusProbe::Found BusProbe::ask(const QByteArray &addresses, const std::function<b
         all = "unix:path=" + own;
     }
     Found found = Found::Nothing;
-    const QList<QByteArray> addresses = all.split(';');
-    for (const QByteArray &address : addresses) {
+    const QList<QByteArray> alternatives = all.split(';');
+    for (const QByteArray &address : alternatives) {
         found = askOne(address, goesOn);
         if (found != Found::Nothing) {
             return found;

@@ -3,6 +3,7 @@
 
 #include "sampleworld.h"
 
+#include "book/useroverview.h"
 #include "core/statement.h"
 
 #include <QJsonDocument>
@@ -159,6 +160,7 @@ private Q_SLOTS:
     void openingTheListShowsTheWindow();
     void aSearchWithoutParametersFindsEverythingFromNowOn();
     void aDayHoldsWhatOverlapsIt();
+    void theOverviewTellsTheUserTheConferenceAndNoPasscode();
 
 private:
     QSet<QString> m_reached;
@@ -873,6 +875,39 @@ void TestActions::aDayHoldsWhatOverlapsIt()
     QCOMPARE(found("2026-03-11T00:00", "2026-03-12T00:00"), 1);
     QCOMPARE(found("2026-03-11T00:30", "2026-03-12T00:00"), 0);
     QCOMPARE(found("2026-03-10T00:00", "2026-03-10T23:30"), 0);
+}
+
+void TestActions::theOverviewTellsTheUserTheConferenceAndNoPasscode()
+{
+    SampleWorld world;
+    const auto overview = [&world] {
+        return QJsonDocument::fromJson(userOverview(world.book).toUtf8()).object();
+    };
+    const QJsonObject user{{QStringLiteral("account"), QStringLiteral("100001")},
+                           {QStringLiteral("name"), QStringLiteral("王小明")}};
+    QCOMPARE(overview().value(QLatin1String("user")).toObject(), user);
+    QVERIFY(!overview().contains(QLatin1String("conference")));
+    const auto names = [&overview] {
+        return overview().value(QLatin1String("names")).toArray();
+    };
+    QCOMPARE(names().at(0).toString(), QStringLiteral("李静"));
+    QVERIFY(names().contains(QStringLiteral("赵磊")));
+    QVERIFY(!names().contains(QStringLiteral("张伟")));
+    QVERIFY(!names().contains(QStringLiteral("孟欣"))); // a stranger
+    // A remark makes a name mean two people.
+    QVERIFY(world.admin.AddContact(QStringLiteral("100001"), QStringLiteral("200001"), QStringLiteral("赵磊"),
+                                   QStringLiteral("colleague")));
+    QVERIFY(!names().contains(QStringLiteral("赵磊")));
+
+    const QJsonObject entrance{{QStringLiteral("conferenceId"), QStringLiteral("880100002")},
+                               {QStringLiteral("password"), QStringLiteral("246810")}};
+    QCOMPARE(ret(world.ask(Join, entrance)), QStringLiteral("OK"));
+    const QJsonObject conference{{QStringLiteral("number"), QStringLiteral("880100002")},
+                                 {QStringLiteral("title"), QStringLiteral("预算评审")}};
+    QCOMPARE(overview().value(QLatin1String("conference")).toObject(), conference);
+    QVERIFY(!userOverview(world.book).contains(QLatin1String("246810")));
+    world.admin.Logout();
+    QCOMPARE(userOverview(world.book), QStringLiteral("{}"));
 }
 
 QTEST_GUILESS_MAIN(TestActions)

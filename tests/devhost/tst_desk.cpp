@@ -6,11 +6,13 @@
 #include "stallmeter.h"
 
 #include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QDBusReply>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
 #include <algorithm>
+#include <csignal>
 #include <iostream>
 
 using namespace devhost;
@@ -68,6 +70,7 @@ private Q_SLOTS:
     void friendIsAdded();
     void bubbleHasAMenu();
     void statusLineTellsTheConferenceAndLeavesIt();
+    void statusLineNeedsNoAdministration();
     void namesComeFromTheApplication();
     void turnsAreFastAndTheWindowDoesNotStall();
 
@@ -272,6 +275,40 @@ void TestDesk::statusLineTellsTheConferenceAndLeavesIt()
     QTRY_COMPARE(m_desk->lastTurn().said, QStringLiteral("退出会议"));
     QTRY_VERIFY(!conference->isVisible() && !leave->isVisible());
     QCOMPARE(m_desk->lastTurn().code, 0);
+}
+
+void TestDesk::statusLineNeedsNoAdministration()
+{
+    QVERIFY(RealDesk::loadSample());
+    const auto pid = [] {
+        const QDBusReply<uint> found =
+            QDBusConnection::sessionBus().interface()->servicePid(QStringLiteral("com.kelvane.meetlynx"));
+        return found.isValid() ? qint64(found.value()) : 0;
+    };
+    // As it is installed, where nobody starts it for developers.
+    kill(static_cast<pid_t>(pid()), SIGTERM);
+    QTRY_COMPARE(pid(), 0);
+    auto *account = m_desk->window().findChild<QLabel *>(QStringLiteral("statusAccount"));
+    QTRY_COMPARE(account->text(), QStringLiteral("联系人应用未运行"));
+    QProcess application;
+    application.setProcessChannelMode(QProcess::ForwardedChannels);
+    application.start(QStringLiteral(APPLICATION), {QStringLiteral("--service")});
+    QTRY_COMPARE(pid(), application.processId());
+    QTRY_COMPARE(account->text(), QStringLiteral("王小明（100001）"));
+    auto *conference = m_desk->window().findChild<QLabel *>(QStringLiteral("statusConference"));
+    QVERIFY(!conference->isVisible());
+    m_desk->say(QStringLiteral("加入我的会议"));
+    QTRY_COMPARE(conference->text(), QStringLiteral("会议中：部门早会　880100001"));
+    auto *leave = m_desk->window().findChild<QPushButton *>(QStringLiteral("statusLeave"));
+    QTRY_VERIFY(conference->isVisible() && leave->isVisible());
+    QTest::mouseClick(leave, Qt::LeftButton);
+    QTRY_VERIFY(!conference->isVisible() && !leave->isVisible());
+    application.terminate();
+    QVERIFY(application.waitForFinished());
+    // The next request has the bus start it again.
+    QTRY_COMPARE(account->text(), QStringLiteral("联系人应用未运行"));
+    m_desk->say(QStringLiteral("查询今天的会议"));
+    QTRY_COMPARE(account->text(), QStringLiteral("王小明（100001）"));
 }
 
 void TestDesk::namesComeFromTheApplication()

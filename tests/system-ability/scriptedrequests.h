@@ -24,6 +24,7 @@ public Q_SLOTS:
                     const QString &requestId);
     bool WasPerformed(const QString &requestId);
     QStringList ContactNames() { return {}; }
+    QString Overview() { return {}; }
 
 Q_SIGNALS:
     void ContactNamesChanged();

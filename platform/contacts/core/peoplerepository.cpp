@@ -141,6 +141,23 @@ QStringList PeopleRepository::contactNames(const QString &ownerId, int limit) co
     return names;
 }
 
+QStringList PeopleRepository::unmistakableContactNames(const QString &ownerId, int limit) const
+{
+    Statement query(
+        m_database,
+        QStringLiteral("SELECT name FROM contact JOIN person ON person.user_id = contact.person_id"
+                       " WHERE owner_id = ? AND NOT EXISTS (SELECT 1 FROM contact AS other"
+                       "  WHERE other.owner_id = contact.owner_id AND other.remark_name = person.name"
+                       "  AND other.person_id <> contact.person_id)"
+                       " GROUP BY name HAVING count(*) = 1 ORDER BY min(account) LIMIT ?"));
+    query.bind(ownerId).bind(limit).run();
+    QStringList names;
+    while (query.next()) {
+        names.append(query.text(0));
+    }
+    return names;
+}
+
 Friendship PeopleRepository::friendship(const QString &ownerId, const QString &personId) const
 {
     const std::optional<Person> contact = contactByUserId(ownerId, personId);

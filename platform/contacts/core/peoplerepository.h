@@ -33,6 +33,9 @@ public:
     QVector<Person> contacts(const QString &ownerId) const;
     /// The names and remarks of @p ownerId's contacts, each once; at most @p limit.
     QStringList contactNames(const QString &ownerId, int limit) const;
+    /// The names that mean exactly one of @p ownerId's contacts, in the order of the accounts; at most
+    /// @p limit.
+    QStringList unmistakableContactNames(const QString &ownerId, int limit) const;
     Friendship friendship(const QString &ownerId, const QString &personId) const;
     /// Friends and open requests.
     int friendCount(const QString &ownerId) const;

@@ -4,6 +4,7 @@
 #include "service/contactrequests.h"
 
 #include "book/contactsbook.h"
+#include "book/useroverview.h"
 #include "service/busnames.h"
 
 ContactRequests::ContactRequests(ContactsBook &book, QObject *parent) : QObject(parent), m_book(book)
@@ -31,4 +32,9 @@ bool ContactRequests::WasPerformed(const QString &requestId)
 QStringList ContactRequests::ContactNames()
 {
     return m_book.contactNames();
+}
+
+QString ContactRequests::Overview()
+{
+    return userOverview(m_book);
 }

@@ -23,6 +23,7 @@ public Q_SLOTS:
                     const QString &requestId);
     bool WasPerformed(const QString &requestId);
     QStringList ContactNames();
+    QString Overview();
 
 Q_SIGNALS:
     void ContactNamesChanged();

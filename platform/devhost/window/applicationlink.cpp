@@ -9,7 +9,6 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -31,56 +30,27 @@ QString textOf(const QJsonObject &object, const char *key)
     return cleanText(object.value(QLatin1String(key)).toString());
 }
 
-bool hasJoined(const QJsonObject &conference, const QString &account)
-{
-    const QJsonArray participants = conference.value(QLatin1String("participants")).toArray();
-    for (const QJsonValue &participant : participants) {
-        if (textOf(participant.toObject(), "account") == account) {
-            return textOf(participant.toObject(), "attendance") == QLatin1String("joined");
-        }
-    }
-    return false;
-}
-
 } // namespace
 
-ApplicationState ApplicationState::read(const QString &snapshot)
+ApplicationState ApplicationState::read(const QString &overview)
 {
     ApplicationState state;
-    const QJsonDocument document = QJsonDocument::fromJson(snapshot.toUtf8());
+    const QJsonDocument document = QJsonDocument::fromJson(overview.toUtf8());
     if (!document.isObject()) {
         return state;
     }
     state.isReached = true;
-    const QJsonObject world = document.object();
-    const QString account = textOf(world, "user");
-    if (account.isEmpty()) {
+    const QJsonObject user = document.object().value(QLatin1String("user")).toObject();
+    if (user.isEmpty()) {
         return state;
     }
-    QHash<QString, QString> names;
-    const QJsonArray people = world.value(QLatin1String("people")).toArray();
-    for (const QJsonValue &person : people) {
-        names.insert(textOf(person.toObject(), "account"), textOf(person.toObject(), "name"));
-    }
-    state.user = QStringLiteral("%1（%2）").arg(names.value(account), account);
-    const QJsonArray contacts = world.value(QLatin1String("contacts")).toObject().value(account).toArray();
-    QHash<QString, int> said;
-    for (const QJsonValue &contact : contacts) {
-        ++said[names.value(textOf(contact.toObject(), "account"))];
-    }
-    for (const QJsonValue &contact : contacts) {
-        const QString name = names.value(textOf(contact.toObject(), "account"));
-        if (!name.isEmpty() && said.value(name) == 1) {
-            state.names << name;
-        }
-    }
-    const QJsonArray conferences = world.value(QLatin1String("conferences")).toArray();
-    for (const QJsonValue &value : conferences) {
-        const QJsonObject conference = value.toObject();
-        if (textOf(conference, "state") == QLatin1String("running") && hasJoined(conference, account)) {
-            state.conferenceTitle = textOf(conference, "title");
-            state.conferenceNumber = textOf(conference, "number");
-        }
+    state.user = QStringLiteral("%1（%2）").arg(textOf(user, "name"), textOf(user, "account"));
+    const QJsonObject conference = document.object().value(QLatin1String("conference")).toObject();
+    state.conferenceTitle = textOf(conference, "title");
+    state.conferenceNumber = textOf(conference, "number");
+    const QJsonArray names = document.object().value(QLatin1String("names")).toArray();
+    for (const QJsonValue &name : names) {
+        state.names << cleanText(name.toString());
     }
     return state;
 }
@@ -98,9 +68,9 @@ void ApplicationLink::refresh()
         take({});
         return;
     }
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        serviceName(), QStringLiteral("/com/kelvane/meetlynx/admin"),
-        QStringLiteral("com.kelvane.meetlynx.Admin1"), QStringLiteral("Snapshot"));
+    QDBusMessage call = QDBusMessage::createMethodCall(serviceName(), QStringLiteral("/com/kelvane/meetlynx"),
+                                                       QStringLiteral("com.kelvane.meetlynx.Contact1"),
+                                                       QStringLiteral("Overview"));
     call.setAutoStartService(false);
     auto *watcher =
         new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call, AnswerMsecs), this);

@@ -18,8 +18,8 @@ struct ApplicationState
     QString conferenceNumber; ///< of the same
     QStringList names;        ///< of those whom the user may invite, each only once and nobody's namesake
 
-    /// From what the application's Snapshot() answers.
-    static ApplicationState read(const QString &snapshot);
+    /// From what the application's Overview() answers.
+    static ApplicationState read(const QString &overview);
 };
 
 /// Asks the contacts application on the session bus how things are, without waiting and without starting it.

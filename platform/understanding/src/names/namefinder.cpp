@@ -5,6 +5,7 @@
 
 #include "names/headreader.h"
 #include "names/namelook.h"
+#include "names/nameplaces.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
 
@@ -14,7 +15,7 @@ namespace understanding {
 
 namespace {
 
-constexpr int LongestName = 12;
+constexpr int LongestName = NamePlaces::LongestName;
 
 class NameFinder final
 {
@@ -23,6 +24,7 @@ public:
         : m_raw(raw)
         , m_text(text)
         , m_tokens(tokens)
+        , m_places(text, tokens)
     {
     }
 
@@ -60,7 +62,7 @@ private:
         }
         if (token.kind == Token::Kind::Name) {
             addKnown(token, false);
-        } else if (token.kind == Token::Kind::Other || isSmallWordInName(at)) {
+        } else if (token.kind == Token::Kind::Other || m_places.isSmallWordInName(at)) {
             return takeSubject(at);
         }
         return at;
@@ -135,58 +137,12 @@ private:
         }
     }
 
-    bool standsApartBefore(std::size_t at) const
-    {
-        return at == 0 || m_tokens[at - 1].kind == Token::Kind::Space ||
-               m_tokens[at - 1].isAny(WordClass::Punctuation | WordClass::Separator);
-    }
-
-    bool standsApartBehind(std::size_t at) const
-    {
-        return at + 1 == m_tokens.size() || m_tokens[at + 1].kind == Token::Kind::Space ||
-               m_tokens[at + 1].isAny(WordClass::Punctuation | WordClass::Separator);
-    }
-
-    bool hasConference() const
-    {
-        return std::any_of(m_tokens.cbegin(), m_tokens.cend(), [](const Token &token) {
-            return token.is(WordClass::Conference) && !token.inTopic;
-        });
-    }
-
-    /// 居委会 in 居委会的小乔.
-    bool isPlainBeforeName(std::size_t at) const
-    {
-        return m_tokens[at].is(WordClass::Plain) && at + 1 < m_tokens.size() &&
-               m_tokens[at + 1].kind == Token::Kind::Other &&
-               m_text.at(m_tokens[at + 1].position) == QChar(u'的');
-    }
-
-    /// 3 in 3床家属魏淑芬.
-    bool isNumberBeforeName(std::size_t at) const
-    {
-        const Token &token = m_tokens[at];
-        return token.kind == Token::Kind::Number && token.length <= 2 && at + 1 < m_tokens.size() &&
-               m_tokens[at + 1].kind == Token::Kind::Other && m_tokens[at + 1].position == token.end();
-    }
-
-    /// The last token of the run of characters that begins at @p at: 关羽 is a word and a character.
-    std::size_t lastOfRun(std::size_t at, std::size_t limit) const
-    {
-        while (at + 1 < m_tokens.size() && at < limit && !m_tokens[at + 1].inTopic &&
-               (m_tokens[at + 1].kind == Token::Kind::Other || isSmallWordInName(at + 1) ||
-                isPlainBeforeName(at + 1))) {
-            ++at;
-        }
-        return at;
-    }
-
     /// Somebody whom no word calls: 赵云参加, 赵云也来, 赵云明天三点开会, 发起会议 赵云. Returns the last
     /// token taken.
     std::size_t takeSubject(std::size_t at)
     {
         const Token &token = m_tokens[at];
-        std::size_t last = token.kind == Token::Kind::Other ? at : lastOfRun(at, at + LongestName);
+        std::size_t last = token.kind == Token::Kind::Other ? at : m_places.lastOfRun(at, at + LongestName);
         if (last > at && m_tokens[last].kind != Token::Kind::Other) {
             --last; // 关羽也: the word behind is none of the name's
         }
@@ -208,56 +164,29 @@ private:
         const bool beforeOpening = at == 0 && !isLast &&
                                    m_tokens[last + 1].isAny(WordClass::WeakOpen | WordClass::StrongOpen) &&
                                    splitNames(m_text.mid(token.position, end - token.position)).size() > 1;
-        const bool apart = at > 0 && standsApartBefore(at) && standsApartBehind(last);
+        const bool apart = at > 0 && m_places.standsApartBefore(at) && m_places.standsApartBehind(last);
         const std::size_t before = m_names.size();
         if (joins) {
             addChunk(token.position, end, true, m_tokens[next].is(WordClass::Arrive));
         } else if (beforeOpening) {
             addChunk(token.position, end, false, false);
-        } else if ((afterOpening || beforeTime || apart) && hasConference()) {
+        } else if ((afterOpening || beforeTime || apart) && m_places.hasConference()) {
             addChunk(token.position, end, true, false);
         }
         return m_names.size() > before ? last : at;
-    }
-
-    bool isSmallWordInName(std::size_t at) const
-    {
-        const Token &token = m_tokens[at];
-        constexpr WordClasses hard = WordClass::Separator | WordClass::WeakOpen | WordClass::Conference |
-                                     WordClass::Punctuation | WordClass::Nobody;
-        const bool measure = m_text.at(token.position) == QChar(u'个'); // in no name, and in 约个时间
-        return token.kind == Token::Kind::Word && token.length == 1 && !token.isAny(hard) && !measure;
-    }
-
-    std::size_t skipToNames(std::size_t lead) const
-    {
-        std::size_t at = lead + 1;
-        constexpr WordClasses between = WordClass::Measure;
-        const bool label = m_tokens[lead].isAny(WordClass::NameLabel);
-        while (at < m_tokens.size()) {
-            const Token &token = m_tokens[at];
-            const bool linked =
-                label && (token.isAny(WordClass::LabelLink | WordClass::Have | WordClass::NameLabel) ||
-                          token.is(WordClass::Punctuation));
-            if (!token.isAny(between) && token.kind != Token::Kind::Space && !linked) {
-                break;
-            }
-            ++at;
-        }
-        return at;
     }
 
     /// The names behind the word at @p lead; returns the last token that belongs to them.
     std::size_t takeZone(std::size_t lead, bool mustLookLikeName)
     {
         const std::size_t before = m_names.size();
-        std::size_t end = takeNames(skipToNames(lead), mustLookLikeName);
+        std::size_t end = takeNames(m_places.skipToNames(lead), mustLookLikeName);
         // What follows tells that it is somebody, however unlikely the name: 把加藤拉进来.
         constexpr WordClasses takesPeople =
             WordClass::Arrive | WordClass::Buddy | WordClass::BuddyNoun | WordClass::InviteNoun;
         if (mustLookLikeName && m_names.size() == before && end < m_tokens.size() &&
             m_tokens[end].isAny(takesPeople)) {
-            end = takeNames(skipToNames(lead), false);
+            end = takeNames(m_places.skipToNames(lead), false);
         }
         // Where nobody stood, nothing is used up: 约 in 约个会.
         return m_names.size() > before ? end - 1 : lead;
@@ -273,12 +202,12 @@ private:
                 at = takeKnownName(at);
             } else if (token.kind == Token::Kind::Latin) {
                 at = takeLatinName(at);
-            } else if (token.kind == Token::Kind::Other || isSmallWordInName(at) || isPlainBeforeName(at) ||
-                       isNumberBeforeName(at)) {
+            } else if (token.kind == Token::Kind::Other || m_places.isSmallWordInName(at) ||
+                       m_places.isPlainBeforeName(at) || m_places.isNumberBeforeName(at)) {
                 at = takeRun(at, mustLookLikeName || afterComma || followsName(at));
             } else if (token.is(WordClass::Punctuation) && m_text.at(token.position) == QLatin1Char(',')) {
                 afterComma = true;
-            } else if (!token.isAny(WordClass::Separator | WordClass::Nobody) && !isOwner(at) &&
+            } else if (!token.isAny(WordClass::Separator | WordClass::Nobody) && !m_places.isOwner(at) &&
                        token.kind != Token::Kind::Space) {
                 break;
             }
@@ -294,33 +223,20 @@ private:
                m_names.back().position + m_names.back().said.size() == m_tokens[at].position;
     }
 
-    /// 我的 in 和我的同事李静.
-    bool isOwner(std::size_t at) const
-    {
-        return m_tokens[at].is(WordClass::Mine) && at + 1 < m_tokens.size() &&
-               (m_tokens[at + 1].is(WordClass::Nobody) || m_tokens[at + 1].kind == Token::Kind::Other ||
-                m_tokens[at + 1].kind == Token::Kind::Name);
-    }
-
-    bool isMiddleDot(std::size_t at) const
-    {
-        return at < m_tokens.size() && m_tokens[at].length == 1 &&
-               m_text.at(m_tokens[at].position) == QChar(u'·');
-    }
-
     /// Takes one run of characters, titles and dotted names; what only says who follows is left to that name.
     std::size_t takeRun(std::size_t at, bool mustLookLikeName)
     {
         const int start = m_tokens[at].position;
-        std::size_t last = lastOfRun(at, m_tokens.size());
+        std::size_t last = m_places.lastOfRun(at, m_tokens.size());
         bool dotted = false;
         while (last + 1 < m_tokens.size()) {
-            if (isMiddleDot(last + 1) && last + 2 < m_tokens.size()) { // 买买提·艾力
+            if (m_places.isMiddleDot(last + 1) && last + 2 < m_tokens.size()) { // 买买提·艾力
                 dotted = true;
-                last = m_tokens[last + 2].kind == Token::Kind::Other ? last + 2
-                                                                     : lastOfRun(last + 2, m_tokens.size());
+                last = m_tokens[last + 2].kind == Token::Kind::Other
+                           ? last + 2
+                           : m_places.lastOfRun(last + 2, m_tokens.size());
             } else if (m_tokens[last + 1].is(WordClass::Title)) { // 张主任, 产品经理吴迪
-                last = lastOfRun(last + 1, m_tokens.size());
+                last = m_places.lastOfRun(last + 1, m_tokens.size());
             } else {
                 break;
             }
@@ -365,7 +281,7 @@ private:
         std::size_t last = at;
         while (last + 2 < m_tokens.size() && startsCapital(m_text, m_tokens[last]) &&
                startsCapital(m_text, m_tokens[last + 2]) &&
-               (m_tokens[last + 1].kind == Token::Kind::Space || isMiddleDot(last + 1))) {
+               (m_tokens[last + 1].kind == Token::Kind::Space || m_places.isMiddleDot(last + 1))) {
             last += 2;
         }
         const int start = m_tokens[at].position;
@@ -402,7 +318,7 @@ private:
         addKnown(token, true);
         m_names.back().start = m_modifierStart >= 0 ? m_modifierStart : token.position;
         m_modifierStart = -1;
-        return skipTitle(at);
+        return m_places.skipTitle(at);
     }
 
     static bool isParticle(QChar character)
@@ -410,14 +326,10 @@ private:
         return withoutParticles(QString(character) + character).isEmpty();
     }
 
-    std::size_t skipTitle(std::size_t at) const
-    {
-        return at + 1 < m_tokens.size() && m_tokens[at + 1].is(WordClass::Title) ? at + 1 : at;
-    }
-
     const QString &m_raw;
     const QString &m_text;
     const Tokens &m_tokens;
+    const NamePlaces m_places;
     std::vector<FoundName> m_names;
     int m_modifierStart = -1; ///< of the name that comes next, -1 for none
 };

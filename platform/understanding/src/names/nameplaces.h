@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "words/token.h"
+
+#include <QString>
+
+#include <cstddef>
+
+namespace understanding {
+
+/// What stands around a place of a sentence where somebody may be named. Looks only; NameFinder decides. The
+/// sentence and its tokens must outlive it.
+class NamePlaces final
+{
+public:
+    /// In characters; also the most tokens of a run that begins with a word.
+    static constexpr int LongestName = 12;
+
+    NamePlaces(const QString &text, const Tokens &tokens) : m_text(text), m_tokens(tokens) {}
+
+    [[nodiscard]] bool standsApartBefore(std::size_t at) const;
+    [[nodiscard]] bool standsApartBehind(std::size_t at) const;
+    [[nodiscard]] bool hasConference() const;
+    /// 居委会 in 居委会的小乔.
+    [[nodiscard]] bool isPlainBeforeName(std::size_t at) const;
+    /// 3 in 3床家属魏淑芬.
+    [[nodiscard]] bool isNumberBeforeName(std::size_t at) const;
+    /// The last token of the run of characters that begins at @p at: 关羽 is a word and a character.
+    [[nodiscard]] std::size_t lastOfRun(std::size_t at, std::size_t limit) const;
+    [[nodiscard]] bool isSmallWordInName(std::size_t at) const;
+    [[nodiscard]] std::size_t skipToNames(std::size_t lead) const;
+    /// 我的 in 和我的同事李静.
+    [[nodiscard]] bool isOwner(std::size_t at) const;
+    [[nodiscard]] bool isMiddleDot(std::size_t at) const;
+    [[nodiscard]] std::size_t skipTitle(std::size_t at) const;
+
+private:
+    const QString &m_text;
+    const Tokens &m_tokens;
+};
+
+} // namespace understanding

@@ -21,9 +21,6 @@ namespace {
 constexpr int Margin = 16;
 constexpr int Gap = 10;
 constexpr int WidestColumn = 860;
-constexpr int PreferredCardWidth = 380;
-/// Of the column's width; the rest shows who speaks.
-constexpr double WidestBubble = 0.78;
 
 } // namespace
 
@@ -174,32 +171,6 @@ int ConversationView::columnWidth() const
     return qBound(1, viewport()->width() - 2 * Margin, WidestColumn);
 }
 
-void ConversationView::measure(Entry &entry) const
-{
-    const int widest = int(columnWidth() * WidestBubble);
-    // Most texts are short: their size does not depend on the window's width.
-    if (!entry.isSized || entry.naturalWidth > widest || entry.textSize.width() < entry.naturalWidth) {
-        entry.textSize =
-            entry.text.isEmpty() ? QSize() : Bubble::sizeFor(entry.text, font(), widest, entry.naturalWidth);
-        entry.isSized = true;
-    }
-    measureCard(entry);
-}
-
-void ConversationView::measureCard(Entry &entry) const
-{
-    QWidget *card = entry.card;
-    if (card == nullptr) {
-        entry.cardSize = QSize();
-        return;
-    }
-    const QSize wish = card->sizeHint().expandedTo(card->minimumSizeHint());
-    const int width = qMin(qMax(wish.width(), PreferredCardWidth), columnWidth());
-    const int height = card->hasHeightForWidth() ? card->heightForWidth(width) : wish.height();
-    entry.cardSize =
-        QSize(width, qMax(height, 1)).boundedTo(card->maximumSize()).expandedTo(card->minimumSize());
-}
-
 int ConversationView::contentHeight() const
 {
     const int end = m_entries.isEmpty() ? Margin : m_entries.last().bottom() + Gap;
@@ -220,7 +191,7 @@ void ConversationView::layOut(int first, bool wasAtEnd)
     const int dotsAfter = m_waitingTurn == 0 ? -1 : positionAfter(m_waitingTurn) - 1;
     for (int i = first; i < m_entries.size(); ++i) {
         Entry &entry = m_entries[i];
-        measure(entry);
+        entry.measure(columnWidth(), font());
         const int above = i == 0 ? Margin : m_entries.at(i - 1).bottom() + Gap;
         entry.top = above + (i > 0 && i - 1 == dotsAfter ? m_dots->height() + Gap : 0);
     }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "bubble.h"
+#include "conversationentry.h"
 
 #include <QAbstractScrollArea>
 #include <QPointer>
@@ -62,37 +62,13 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    static constexpr int CardGap = 6; ///< between a text and its card
-
-    struct Entry
-    {
-        int turn = 0;
-        Bubble::Role role = Bubble::Said;
-        QString text;
-        bool isQueued = false;
-        QPointer<QWidget> card;
-        Bubble *bubble = nullptr; ///< while in sight
-        bool isSized = false;
-        int naturalWidth = 0;
-        QSize textSize; ///< empty without a text
-        QSize cardSize; ///< empty without a card
-        int top = 0;
-
-        int height() const
-        {
-            return textSize.height() + (textSize.isEmpty() || cardSize.isEmpty() ? 0 : CardGap) +
-                   cardSize.height();
-        }
-        int bottom() const { return top + height(); }
-    };
+    using Entry = ConversationEntry;
 
     void insert(const Entry &entry);
     int positionAfter(int turn) const;
     int saidPosition(int turn) const;
     int columnWidth() const;
     int columnLeft() const { return (viewport()->width() - columnWidth()) / 2; }
-    void measure(Entry &entry) const;
-    void measureCard(Entry &entry) const;
     int contentHeight() const;
     /// Gives the entries from @p first on their places. Keeps the position, or the end when @p wasAtEnd.
     void layOut(int first, bool wasAtEnd);

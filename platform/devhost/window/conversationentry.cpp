@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "conversationentry.h"
+
+namespace devhost {
+
+namespace {
+
+constexpr int PreferredCardWidth = 380;
+/// Of the column's width; the rest shows who speaks.
+constexpr double WidestBubble = 0.78;
+
+} // namespace
+
+int ConversationEntry::height() const
+{
+    return textSize.height() + (textSize.isEmpty() || cardSize.isEmpty() ? 0 : CardGap) + cardSize.height();
+}
+
+void ConversationEntry::measure(int columnWidth, const QFont &font)
+{
+    const int widest = int(columnWidth * WidestBubble);
+    // Most texts are short: their size does not depend on the window's width.
+    if (!isSized || naturalWidth > widest || textSize.width() < naturalWidth) {
+        textSize = text.isEmpty() ? QSize() : Bubble::sizeFor(text, font, widest, naturalWidth);
+        isSized = true;
+    }
+    measureCard(columnWidth);
+}
+
+void ConversationEntry::measureCard(int columnWidth)
+{
+    if (card == nullptr) {
+        cardSize = QSize();
+        return;
+    }
+    const QSize wish = card->sizeHint().expandedTo(card->minimumSizeHint());
+    const int width = qMin(qMax(wish.width(), PreferredCardWidth), columnWidth);
+    const int cardHeight = card->hasHeightForWidth() ? card->heightForWidth(width) : wish.height();
+    cardSize =
+        QSize(width, qMax(cardHeight, 1)).boundedTo(card->maximumSize()).expandedTo(card->minimumSize());
+}
+
+} // namespace devhost

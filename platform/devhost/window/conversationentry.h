@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "bubble.h"
+
+#include <QPointer>
+#include <QSize>
+#include <QString>
+#include <QWidget>
+
+namespace devhost {
+
+/// One text of a conversation with its card, and where it stands. The view owns bubble and card.
+struct ConversationEntry
+{
+    static constexpr int CardGap = 6; ///< between a text and its card
+
+    int turn = 0;
+    Bubble::Role role = Bubble::Said;
+    QString text;
+    bool isQueued = false;
+    QPointer<QWidget> card;
+    Bubble *bubble = nullptr; ///< while in sight
+    bool isSized = false;
+    int naturalWidth = 0;
+    QSize textSize; ///< empty without a text
+    QSize cardSize; ///< empty without a card
+    int top = 0;
+
+    int height() const;
+    int bottom() const { return top + height(); }
+
+    /// Gives text and card their sizes in a column of @p columnWidth pixels.
+    void measure(int columnWidth, const QFont &font);
+
+private:
+    void measureCard(int columnWidth);
+};
+
+} // namespace devhost

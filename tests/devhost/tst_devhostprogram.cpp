@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "semantics.h"
+#include "silentsocket.h"
 
 #include <QImage>
 #include <QProcess>
@@ -60,6 +61,8 @@ private Q_SLOTS:
     void helpAndVersionNeedNothing();
     void conversationIsPrinted();
     void logGoesToTheTerminalOnlyWhenAsked();
+    void silentBusKeepsNobody_data();
+    void silentBusKeepsNobody();
 
 private:
     const QTemporaryDir m_runtime;
@@ -221,6 +224,38 @@ void TestDevhostProgram::logGoesToTheTerminalOnlyWhenAsked()
     QVERIFY(run(arguments, input).errors.isEmpty());
     QVERIFY(run(arguments + QStringList{QStringLiteral("--verbose")}, input)
                 .errors.contains("service ECHO on another thread"));
+}
+
+void TestDevhostProgram::silentBusKeepsNobody_data()
+{
+    QTest::addColumn<QString>("mode");
+    QTest::newRow("window") << "--script";
+    QTest::newRow("conversation") << "--converse";
+}
+
+void TestDevhostProgram::silentBusKeepsNobody()
+{
+    QFETCH(const QString, mode);
+    const QString path = m_runtime.filePath(QStringLiteral("silent"));
+    QFile::remove(path);
+    const SilentSocket socket(path);
+    QVERIFY(socket.isListening());
+    QFile conversation(m_runtime.filePath(QStringLiteral("conversation.txt")));
+    QVERIFY(conversation.open(QIODevice::WriteOnly));
+    conversation.write("查询今天的会议\n");
+    conversation.close();
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("unix:path=") + path);
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(DEVHOST), withPlugin({mode, conversation.fileName()}));
+    const bool hasEnded = process.waitForFinished(30000);
+    process.kill();
+    process.waitForFinished();
+    const QByteArray errors = process.readAllStandardError();
+    QVERIFY2(hasEnded, errors.constData());
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QVERIFY2(process.exitCode() == 0, errors.constData());
 }
 
 QTEST_MAIN(TestDevhostProgram)

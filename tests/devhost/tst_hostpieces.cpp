@@ -2,20 +2,27 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "abilitycall.h"
+#include "applicationlink.h"
 #include "cardpicture.h"
 #include "cardsummary.h"
 #include "chinesetexts.h"
 #include "cleantext.h"
 #include "correction.h"
 #include "inputhistory.h"
+#include "knownnames.h"
 #include "linereader.h"
 #include "replyjson.h"
 #include "secrets.h"
+#include "silentsocket.h"
 #include "textlayout.h"
+
+#include <kelvane/abilitycodes.h>
+#include <kelvane/kelvaneabilitymanager.h>
 
 #include <QtTest>
 #include <QtWidgets>
 
+#include <memory>
 #include <sstream>
 
 using namespace devhost;
@@ -41,6 +48,7 @@ private Q_SLOTS:
     void whatWasDoneAfterAllIsSaidWithTheNextAnswer();
     void cardIsSummarisedRowByRow();
     void everyMessageIsThereInChinese();
+    void silentBusKeepsNeitherTheDeskNorARequest();
 };
 
 void TestHostPieces::textsAreShownWithoutWhatHides_data()
@@ -254,6 +262,35 @@ void TestHostPieces::everyMessageIsThereInChinese()
         }
     }
     QVERIFY2(found >= 20, qPrintable(QString::number(found)));
+}
+
+void TestHostPieces::silentBusKeepsNeitherTheDeskNorARequest()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("bus"));
+    const SilentSocket socket(path);
+    QVERIFY(socket.isListening());
+    const QByteArray former = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + QFile::encodeName(path));
+    QElapsedTimer timer;
+    timer.start();
+    int code = 0;
+    {
+        KnownNames names;
+        ApplicationLink link;
+        link.refresh();
+        link.openWindow();
+        QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+        QCOMPARE(names.firstNames(50), QStringList());
+        const std::unique_ptr<ContactAbility> ability(KelvaneAbilityManager::instance()->createContact());
+        ability->setTimeout(300);
+        QString answer;
+        code = ability->request(QStringLiteral("Is Conference Host"), QString(), answer);
+    }
+    const qint64 elapsed = timer.elapsed();
+    qputenv("DBUS_SESSION_BUS_ADDRESS", former);
+    QCOMPARE(code, int(AbilityCode::TimedOut));
+    QVERIFY2(elapsed < 5000, qPrintable(QString::number(elapsed)));
 }
 
 QTEST_MAIN(TestHostPieces)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "logcapture.h"
+#include "silentsocket.h"
 
 #include <kelvane/abilitycodes.h>
 #include <kelvane/kelvaneabilitymanager.h>
@@ -20,10 +21,6 @@
 #include <memory>
 #include <thread>
 #include <vector>
-
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 namespace {
 
@@ -67,27 +64,6 @@ public:
 private:
     QProcess m_process;
     bool m_isReady = false;
-};
-
-/// Takes connections, and never says a word.
-class SilentSocket
-{
-public:
-    explicit SilentSocket(const QString &path) : m_descriptor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0))
-    {
-        sockaddr_un name{};
-        name.sun_family = AF_UNIX;
-        qstrncpy(name.sun_path, QFile::encodeName(path).constData(), sizeof(name.sun_path));
-        m_isListening = bind(m_descriptor, reinterpret_cast<const sockaddr *>(&name), sizeof(name)) == 0 &&
-                        listen(m_descriptor, 5) == 0;
-    }
-    ~SilentSocket() { close(m_descriptor); }
-    Q_DISABLE_COPY(SilentSocket)
-    bool isListening() const { return m_isListening; }
-
-private:
-    int m_descriptor;
-    bool m_isListening = false;
 };
 
 QString scripted()

@@ -5,49 +5,45 @@
 
 #include "namereader.h"
 
+#include <QMutex>
+#include <QSemaphore>
+
 namespace devhost {
 
-namespace {
-
-constexpr int LongestFarewellMsecs = 200;
-
-} // namespace
-
-KnownNames::KnownNames(QObject *parent) : QObject(parent), m_thread(new QThread)
+struct KnownNames::Known
 {
-    auto *reader = new NameReader;
-    reader->moveToThread(m_thread);
-    connect(m_thread, &QThread::started, reader, &NameReader::start);
-    connect(m_thread, &QThread::finished, reader, &QObject::deleteLater);
+    QMutex mutex;
+    QStringList names;
+    QSemaphore asked;
+};
+
+KnownNames::KnownNames(QObject *parent) : KnownNames(new NameReader, parent) {}
+
+KnownNames::KnownNames(NameReader *reader, QObject *parent)
+    : QObject(parent)
+    , m_known(std::make_shared<Known>())
+    , m_thread(reader)
+{
     connect(reader, &NameReader::read, this, &KnownNames::changed);
     // On the reader's thread, so that firstNames() can wait for it.
     connect(
-        reader, &NameReader::read, this, [this](const QStringList &names) { take(names); },
+        reader, &NameReader::read, reader,
+        [known = m_known](const QStringList &names) {
+            const QMutexLocker locker(&known->mutex);
+            known->names = names;
+            known->asked.release();
+        },
         Qt::DirectConnection);
-    m_thread->start();
+    m_thread.start();
 }
 
-KnownNames::~KnownNames()
-{
-    m_thread->quit();
-    if (m_thread->wait(LongestFarewellMsecs)) {
-        delete m_thread;
-    }
-    // Else it is still connecting to a bus that does not answer: left to the process's end.
-}
-
-void KnownNames::take(const QStringList &names)
-{
-    const QMutexLocker locker(&m_mutex);
-    m_names = names;
-    m_asked.release();
-}
+KnownNames::~KnownNames() = default;
 
 QStringList KnownNames::firstNames(int msecs)
 {
-    m_asked.tryAcquire(1, msecs);
-    const QMutexLocker locker(&m_mutex);
-    return m_names;
+    m_known->asked.tryAcquire(1, msecs);
+    const QMutexLocker locker(&m_known->mutex);
+    return m_known->names;
 }
 
 } // namespace devhost

@@ -3,18 +3,21 @@
 
 #pragma once
 
-#include <QMutex>
+#include "busclient.h"
+
 #include <QObject>
-#include <QSemaphore>
 #include <QStringList>
-#include <QThread>
+
+#include <memory>
 
 namespace devhost {
+
+class NameReader;
 
 /**
  * The names of the user's contacts, as the contacts application hands them out on the session bus. Follows
  * the application: asks when it appears and whenever it says that they have changed. Never starts it, and
- * never waits for the bus on the caller's thread, because connecting to a stopped bus does not return.
+ * never waits for the bus on the caller's thread.
  */
 class KnownNames final : public QObject
 {
@@ -31,13 +34,12 @@ Q_SIGNALS:
     void changed(const QStringList &names);
 
 private:
-    friend class NameReader;
-    void take(const QStringList &names);
+    struct Known;
 
-    QThread *m_thread;
-    QMutex m_mutex;
-    QStringList m_names;
-    QSemaphore m_asked;
+    KnownNames(NameReader *reader, QObject *parent);
+
+    std::shared_ptr<Known> m_known; ///< the reader's, too, which may outlive this
+    BusThread m_thread;
 };
 
 } // namespace devhost

@@ -17,11 +17,6 @@ constexpr int AnswerMsecs = 3000;
 constexpr int MostNames = 10000;
 constexpr int LongestName = 400;
 
-QString connectionName()
-{
-    return QStringLiteral("speakmate-known-names");
-}
-
 QString service()
 {
     return QStringLiteral("com.kelvane.meetlynx");
@@ -51,20 +46,18 @@ QStringList usable(const QStringList &names)
 
 } // namespace
 
-NameReader::~NameReader()
-{
-    QDBusConnection::disconnectFromBus(connectionName());
-}
+NameReader::NameReader() : BusClient(QStringLiteral("speakmate-known-names")) {}
 
 void NameReader::start()
 {
-    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName());
-    if (!bus.isConnected()) {
+    if (!connectToBus(AsLongAsItTakes)) {
         Q_EMIT read({});
         return;
     }
-    bus.connect(service(), path(), interfaceName(), QStringLiteral("ContactNamesChanged"), this, SLOT(ask()));
-    auto *watcher = new QDBusServiceWatcher(service(), bus, QDBusServiceWatcher::WatchForRegistration, this);
+    bus().connect(service(), path(), interfaceName(), QStringLiteral("ContactNamesChanged"), this,
+                  SLOT(ask()));
+    auto *watcher =
+        new QDBusServiceWatcher(service(), bus(), QDBusServiceWatcher::WatchForRegistration, this);
     connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &NameReader::ask);
     ask();
 }
@@ -80,7 +73,7 @@ void NameReader::ask()
     QDBusMessage call =
         QDBusMessage::createMethodCall(service(), path(), interfaceName(), QStringLiteral("ContactNames"));
     call.setAutoStartService(false); // whether the application runs is the plugin's affair
-    const QDBusPendingCall pending = QDBusConnection(connectionName()).asyncCall(call, AnswerMsecs);
+    const QDBusPendingCall pending = bus().asyncCall(call, AnswerMsecs);
     auto *watcher = new QDBusPendingCallWatcher(pending, this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher *finished) {
         const QDBusPendingReply<QStringList> reply = *finished;

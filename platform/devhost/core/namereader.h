@@ -3,20 +3,21 @@
 
 #pragma once
 
-#include <QObject>
+#include "busclient.h"
+
 #include <QStringList>
 
 namespace devhost {
 
-/// Asks the contacts application for its names, on a thread of its own. Part of KnownNames.
-class NameReader final : public QObject
+/// Asks the contacts application for its names. Part of KnownNames.
+class NameReader final : public BusClient
 {
     Q_OBJECT
 
 public:
-    ~NameReader() override;
+    NameReader();
 
-    void start();
+    void start() override;
 
 Q_SIGNALS:
     /// Once after start() and again after each change; empty while the application is not there.

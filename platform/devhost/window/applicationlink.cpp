@@ -3,12 +3,9 @@
 
 #include "applicationlink.h"
 
+#include "applicationasker.h"
 #include "cleantext.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -16,14 +13,6 @@
 namespace devhost {
 
 namespace {
-
-constexpr int AnswerMsecs = 3000;
-constexpr int StartMsecs = 10000;
-
-QString serviceName()
-{
-    return QStringLiteral("com.kelvane.meetlynx");
-}
 
 QString textOf(const QJsonObject &object, const char *key)
 {
@@ -55,53 +44,29 @@ ApplicationState ApplicationState::read(const QString &overview)
     return state;
 }
 
-ApplicationLink::ApplicationLink(QObject *parent)
+ApplicationLink::ApplicationLink(QObject *parent) : ApplicationLink(new ApplicationAsker, parent) {}
+
+ApplicationLink::ApplicationLink(ApplicationAsker *asker, QObject *parent)
     : QObject(parent)
-    , m_watcher(serviceName(), QDBusConnection::sessionBus())
+    , m_asker(asker)
+    , m_thread(asker)
 {
-    connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &ApplicationLink::refresh);
+    connect(asker, &ApplicationAsker::told, this, [this](const QString &overview) {
+        m_state = ApplicationState::read(overview);
+        Q_EMIT changed();
+    });
+    connect(asker, &ApplicationAsker::windowRefused, this, &ApplicationLink::windowRefused);
+    m_thread.start();
 }
 
 void ApplicationLink::refresh()
 {
-    if (!QDBusConnection::sessionBus().isConnected()) {
-        take({});
-        return;
-    }
-    QDBusMessage call = QDBusMessage::createMethodCall(serviceName(), QStringLiteral("/com/kelvane/meetlynx"),
-                                                       QStringLiteral("com.kelvane.meetlynx.Contact1"),
-                                                       QStringLiteral("Overview"));
-    call.setAutoStartService(false);
-    auto *watcher =
-        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call, AnswerMsecs), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-        const QDBusPendingReply<QString> reply = *watcher;
-        watcher->deleteLater();
-        take(reply.isError() ? ApplicationState() : ApplicationState::read(reply.value()));
-    });
+    QMetaObject::invokeMethod(m_asker, &ApplicationAsker::ask, Qt::QueuedConnection);
 }
 
 void ApplicationLink::openWindow()
 {
-    QDBusMessage call = QDBusMessage::createMethodCall(serviceName(), QStringLiteral("/com/kelvane/meetlynx"),
-                                                       QStringLiteral("com.kelvane.meetlynx.Contact1"),
-                                                       QStringLiteral("Request"));
-    call << QStringLiteral("Open Conference List") << QString() << qlonglong(0) << QString();
-    auto *watcher =
-        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call, StartMsecs), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-        const QDBusPendingReply<QString> reply = *watcher;
-        watcher->deleteLater();
-        if (reply.isError()) {
-            Q_EMIT windowRefused();
-        }
-    });
-}
-
-void ApplicationLink::take(const ApplicationState &state)
-{
-    m_state = state;
-    Q_EMIT changed();
+    QMetaObject::invokeMethod(m_asker, &ApplicationAsker::openWindow, Qt::QueuedConnection);
 }
 
 } // namespace devhost

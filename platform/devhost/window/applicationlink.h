@@ -3,11 +3,14 @@
 
 #pragma once
 
-#include <QDBusServiceWatcher>
+#include "busclient.h"
+
 #include <QObject>
 #include <QStringList>
 
 namespace devhost {
+
+class ApplicationAsker;
 
 /// What the desk knows of the contacts application.
 struct ApplicationState
@@ -22,8 +25,10 @@ struct ApplicationState
     static ApplicationState read(const QString &overview);
 };
 
-/// Asks the contacts application on the session bus how things are, without waiting and without starting it.
-/// GUI thread.
+/**
+ * What the desk knows of the contacts application, kept up to date when it comes and goes. Asks on a thread
+ * of its own, so that no bus can keep the window waiting. GUI thread.
+ */
 class ApplicationLink final : public QObject
 {
     Q_OBJECT
@@ -32,7 +37,7 @@ public:
     explicit ApplicationLink(QObject *parent = nullptr);
 
     const ApplicationState &state() const { return m_state; }
-    /// changed() follows when something is different.
+    /// changed() follows. Does not start the application.
     void refresh();
     /// Brings up the application's window, and starts it when it does not run.
     void openWindow();
@@ -42,9 +47,10 @@ Q_SIGNALS:
     void windowRefused();
 
 private:
-    void take(const ApplicationState &state);
+    ApplicationLink(ApplicationAsker *asker, QObject *parent);
 
-    QDBusServiceWatcher m_watcher;
+    ApplicationAsker *m_asker; ///< the thread's
+    BusThread m_thread;
     ApplicationState m_state;
 };
 

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "busclient.h"
+
+#include <busprobe.h>
+
+#include <QElapsedTimer>
+
+namespace devhost {
+
+namespace {
+
+constexpr int LongestFarewellMsecs = 200;
+
+} // namespace
+
+BusClient::~BusClient()
+{
+    QDBusConnection::disconnectFromBus(m_connectionName);
+}
+
+bool BusClient::connectToBus(int msecs)
+{
+    if (bus().isConnected()) {
+        return true;
+    }
+    QDBusConnection::disconnectFromBus(m_connectionName);
+    const QByteArray address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    QElapsedTimer timer;
+    timer.start();
+    const auto goesOn = [this, msecs, &timer] {
+        return !m_isEnding && (msecs == AsLongAsItTakes || timer.elapsed() < msecs);
+    };
+    if (BusProbe::ask(address, goesOn) != BusProbe::Found::Bus) {
+        return false;
+    }
+    // By its address: the library below remembers the first one for ever.
+    return (address.isEmpty()
+                ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, m_connectionName)
+                : QDBusConnection::connectToBus(QString::fromLocal8Bit(address), m_connectionName))
+        .isConnected();
+}
+
+BusThread::BusThread(BusClient *client) : m_client(client), m_thread(new QThread)
+{
+    client->moveToThread(m_thread);
+    QObject::connect(m_thread, &QThread::started, client, &BusClient::start);
+    QObject::connect(m_thread, &QThread::finished, client, &QObject::deleteLater);
+}
+
+BusThread::~BusThread()
+{
+    m_client->stopWaiting();
+    m_thread->quit();
+    if (m_thread->wait(LongestFarewellMsecs)) {
+        delete m_thread;
+    }
+    // Else the bus fell silent in the middle of a call: left to the process's end.
+}
+
+} // namespace devhost

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "applicationasker.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
+
+namespace devhost {
+
+namespace {
+
+constexpr int BusMsecs = 3000;
+constexpr int AnswerMsecs = 3000;
+constexpr int StartMsecs = 10000;
+
+QString serviceName()
+{
+    return QStringLiteral("com.kelvane.meetlynx");
+}
+
+QDBusMessage callOf(const QString &method)
+{
+    return QDBusMessage::createMethodCall(serviceName(), QStringLiteral("/com/kelvane/meetlynx"),
+                                          QStringLiteral("com.kelvane.meetlynx.Contact1"), method);
+}
+
+} // namespace
+
+ApplicationAsker::ApplicationAsker() : BusClient(QStringLiteral("speakmate-application")) {}
+
+bool ApplicationAsker::reachBus()
+{
+    if (bus().isConnected()) {
+        return true;
+    }
+    delete m_watcher; // of a connection that is gone
+    m_watcher = nullptr;
+    if (!connectToBus(BusMsecs)) {
+        return false;
+    }
+    m_watcher = new QDBusServiceWatcher(serviceName(), bus(), QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &ApplicationAsker::ask);
+    return true;
+}
+
+void ApplicationAsker::ask()
+{
+    if (m_isAsking) {
+        m_askAgain = true;
+        return;
+    }
+    if (!reachBus()) {
+        Q_EMIT told({});
+        return;
+    }
+    m_isAsking = true;
+    m_askAgain = false;
+    QDBusMessage call = callOf(QStringLiteral("Overview"));
+    call.setAutoStartService(false);
+    auto *watcher = new QDBusPendingCallWatcher(bus().asyncCall(call, AnswerMsecs), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        const QDBusPendingReply<QString> reply = *watcher;
+        watcher->deleteLater();
+        m_isAsking = false;
+        Q_EMIT told(reply.isError() ? QString() : reply.value());
+        if (m_askAgain) {
+            ask();
+        }
+    });
+}
+
+void ApplicationAsker::openWindow()
+{
+    if (!reachBus()) {
+        Q_EMIT windowRefused();
+        return;
+    }
+    QDBusMessage call = callOf(QStringLiteral("Request"));
+    call << QStringLiteral("Open Conference List") << QString() << qlonglong(0) << QString();
+    auto *watcher = new QDBusPendingCallWatcher(bus().asyncCall(call, StartMsecs), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        const QDBusPendingReply<QString> reply = *watcher;
+        watcher->deleteLater();
+        if (reply.isError()) {
+            Q_EMIT windowRefused();
+        }
+    });
+}
+
+} // namespace devhost

@@ -100,6 +100,24 @@ void overwrite(const QString &name, qint64 from, qint64 to)
     file.write(QByteArray(static_cast<int>(to - from), 'x'));
 }
 
+/// Damages the first page of one table; all the others can be read.
+void overwriteTable(const QString &fileName, const QString &table)
+{
+    int page = 0;
+    int pageSize = 0;
+    {
+        const Database database(fileName);
+        Statement root(database.handle(),
+                       QStringLiteral("SELECT rootpage FROM sqlite_master WHERE name = ?"));
+        QVERIFY(root.bind(table).run().next());
+        page = root.smallNumber(0);
+        Statement size(database.handle(), QStringLiteral("PRAGMA page_size"));
+        QVERIFY(size.run().next());
+        pageSize = size.smallNumber(0);
+    }
+    overwrite(fileName, qint64(page - 1) * pageSize, qint64(page) * pageSize);
+}
+
 unsigned modeOf(const QString &path)
 {
     struct stat status = {};
@@ -151,6 +169,8 @@ private Q_SLOTS:
     void aLockIsWaitedFor();
     void whatCanBeReadOfADamagedFileIsKept();
     void aFileOfRubbishIsReplacedAndToldOf();
+    void nobodySalvagedBringsTheSample();
+    void whoCreatedWhatIsSalvagedOnce();
     void othersCannotRead();
 };
 
@@ -270,6 +290,48 @@ void TestDatabaseFaults::aFileOfRubbishIsReplacedAndToldOf()
     QVERIFY(book.session().notice().contains(folder.setAside().at(0)));
     QVERIFY(book.session().notice().contains(QStringLiteral("示例数据")));
     QVERIFY(book.session().user().has_value());
+}
+
+void TestDatabaseFaults::nobodySalvagedBringsTheSample()
+{
+    const DataFolder folder;
+    {
+        ContactsBook book(folder.file, fixedClock());
+        QVERIFY(Administration(book).Reset());
+    }
+    overwriteTable(folder.file, QStringLiteral("notice"));
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    ContactsBook book(folder.file, fixedClock());
+    QCOMPARE(folder.setAside().size(), 1);
+    QCOMPARE(book.database().salvaged().people, 0);
+    QVERIFY(book.database().salvaged().rows > 0); // the session
+    QVERIFY(book.session().notice().contains(QStringLiteral("示例数据")));
+    QVERIFY(book.session().user().has_value());
+    QVERIFY(book.people().byAccount(QStringLiteral("100002")).has_value());
+}
+
+void TestDatabaseFaults::whoCreatedWhatIsSalvagedOnce()
+{
+    constexpr int Creations = 3;
+    const DataFolder folder;
+    const auto creations = [](ContactsBook &book) {
+        return book.conferences().creationsBetween(QStringLiteral("u100001"), 0, book.nowMsecs());
+    };
+    {
+        ContactsBook book(folder.file, fixedClock());
+        QVERIFY(book.change([&book] {
+            for (int i = 0; i < Creations; ++i) {
+                book.conferences().noteCreation(QStringLiteral("u100001"), book.nowMsecs() - Creations + i);
+            }
+            return true;
+        }));
+        QCOMPARE(creations(book), Creations);
+    }
+    overwriteTable(folder.file, QStringLiteral("notice"));
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    ContactsBook book(folder.file, fixedClock());
+    QCOMPARE(folder.setAside().size(), 1);
+    QCOMPARE(creations(book), Creations);
 }
 
 void TestDatabaseFaults::othersCannotRead()

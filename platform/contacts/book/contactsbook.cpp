@@ -34,13 +34,13 @@ ContactsBook::ContactsBook(const QString &databaseFile, Clock clock, QObject *pa
 {
     Transaction transaction(m_database.handle());
     noteSetAside();
-    if (m_database.salvaged().people > 0) {
-        m_session.setSeeded();
-    }
-    if (!m_session.isSeeded()) {
+    // What the session says of a damaged file may have been read although nobody else was.
+    const bool hasContent =
+        m_database.setAsideFile().isEmpty() ? m_session.isSeeded() : m_database.salvaged().people > 0;
+    if (!hasContent) {
         SampleDirectory::load(m_people, m_conferences, m_session, nowMsecs());
-        m_session.setSeeded();
     }
+    m_session.setSeeded();
     transaction.commit();
 }
 

@@ -100,6 +100,10 @@ Salvaged salvage(const QString &damagedFile, const QSqlDatabase &fresh)
                 if (columns.isEmpty()) {
                     continue;
                 }
+                // Where there is no other key, it tells that a row has been copied already.
+                if (QLatin1String(table.order) == QLatin1String("rowid")) {
+                    columns.prepend(QStringLiteral("rowid"));
+                }
                 int copied = 0;
                 for (const QLatin1String direction : {QLatin1String("ASC"), QLatin1String("DESC")}) {
                     const QString order = QLatin1String(table.order);

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void aDaysQueryWalksOneIndex();
     void aSpokenNameWalksNoTable();
     void anAdministrationThatFailsChangesNothing();
+    void theLastThousandRequestsAreKnown();
 };
 
 void TestDatabase::itIsSetUpToLast()
@@ -206,6 +207,32 @@ void TestDatabase::anAdministrationThatFailsChangesNothing()
     QCOMPARE(add("1", 1, 60000, 5, {QStringLiteral("nobody")}), QString());
     QCOMPARE(add("1", 1, 60000, 2, {QStringLiteral("100003"), QStringLiteral("100004")}), QString());
     QCOMPARE(world.snapshot(), before);
+}
+
+void TestDatabase::theLastThousandRequestsAreKnown()
+{
+    SampleWorld world;
+    SessionRepository &session = world.book.session();
+    const auto name = [](int request) {
+        return QStringLiteral("request %1").arg(request);
+    };
+    QVERIFY(world.book.change([&] {
+        for (int request = 1; request <= 1001; ++request) {
+            session.notePerformed(name(request));
+        }
+        return true;
+    }));
+    QVERIFY(!session.wasPerformed(name(1)));
+    QVERIFY(session.wasPerformed(name(2)));
+    // One that is noted already counts nothing, whatever was inserted before it.
+    Statement(world.book.database().handle(),
+              QStringLiteral("INSERT INTO conference (id, conf_id, dial_number, title, host_id, start_msecs,"
+                             " duration_msecs, participant_limit)"
+                             " VALUES (5000000, 'far', '1', '', 'u100001', 0, 0, 2)"))
+        .run();
+    session.notePerformed(name(1001));
+    QVERIFY(session.wasPerformed(name(2)));
+    QVERIFY(session.wasPerformed(name(1001)));
 }
 
 QTEST_GUILESS_MAIN(TestDatabase)

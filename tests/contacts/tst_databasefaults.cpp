@@ -13,10 +13,12 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <atomic>
 #include <csignal>
 #include <functional>
 #include <future>
 #include <thread>
+#include <vector>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -171,6 +173,7 @@ private Q_SLOTS:
     void aFileOfRubbishIsReplacedAndToldOf();
     void nobodySalvagedBringsTheSample();
     void whoCreatedWhatIsSalvagedOnce();
+    void ofManyStartsOneSetsAside();
     void othersCannotRead();
 };
 
@@ -334,6 +337,43 @@ void TestDatabaseFaults::whoCreatedWhatIsSalvagedOnce()
     QCOMPARE(creations(book), Creations);
 }
 
+void TestDatabaseFaults::ofManyStartsOneSetsAside()
+{
+    constexpr int Rounds = 5;
+    constexpr int Starts = 4;
+    for (int round = 0; round < Rounds; ++round) {
+        const DataFolder folder;
+        {
+            ContactsBook book(folder.file, fixedClock());
+            addPeople(book, 500);
+        }
+        const qint64 size = QFileInfo(folder.file).size();
+        overwrite(folder.file, size / 2, size / 2 + 4 * 4096);
+        const LogCapture log(LogCapture::Unexpected::Passes);
+        std::atomic<int> replaced{0};
+        std::atomic<int> failed{0};
+        std::vector<std::thread> starts;
+        for (int start = 0; start < Starts; ++start) {
+            starts.emplace_back([&] {
+                try {
+                    const Database database(folder.file);
+                    replaced += database.setAsideFile().isEmpty() ? 0 : 1;
+                } catch (const DatabaseError &) {
+                    ++failed;
+                }
+            });
+        }
+        for (std::thread &start : starts) {
+            start.join();
+        }
+        QCOMPARE(failed.load(), 0);
+        QCOMPARE(replaced.load(), 1);
+        QCOMPARE(folder.setAside().size(), 1);
+        ContactsBook book(folder.file, fixedClock());
+        QVERIFY(book.people().byAccount(QStringLiteral("9000000")).has_value());
+    }
+}
+
 void TestDatabaseFaults::othersCannotRead()
 {
     const mode_t former = umask(022);
@@ -342,7 +382,7 @@ void TestDatabaseFaults::othersCannotRead()
     {
         const ContactsBook book(folder.file);
         QCOMPARE(modeOf(path), 0700U);
-        for (const char *suffix : {"", "-wal", "-shm"}) {
+        for (const char *suffix : {"", "-wal", "-shm", ".lock"}) {
             QCOMPARE(modeOf(folder.file + QLatin1String(suffix)), 0600U);
         }
     }

@@ -5,6 +5,7 @@
 
 #include "core/databaseerror.h"
 #include "core/migrations.h"
+#include "core/openinglock.h"
 #include "core/privatefiles.h"
 #include "core/statement.h"
 
@@ -54,6 +55,7 @@ constexpr qint64 LargestCheckedFile = 256 * 1024 * 1024;
 Database::Database(const QString &fileName) : m_connectionName(QUuid::createUuid().toString())
 {
     makePrivate(fileName);
+    const OpeningLock lock(fileName);
     try {
         openPatiently(fileName);
     } catch (const DatabaseError &error) {

@@ -18,6 +18,13 @@ QString ScriptedRequests::Request(const QString &action, const QString &paramete
     if (action == QLatin1String("Deadline")) {
         return QString::number(deadlineMsecs);
     }
+    if (action == QLatin1String("Refuse")) {
+        m_refusal = parameters;
+        return {};
+    }
+    if (action == QLatin1String("Asked")) {
+        return QString::number(m_timesAsked);
+    }
     if (action == QLatin1String("Die")) {
         _exit(0);
     }
@@ -45,5 +52,9 @@ QString ScriptedRequests::Request(const QString &action, const QString &paramete
 
 bool ScriptedRequests::WasPerformed(const QString &requestId)
 {
+    ++m_timesAsked;
+    if (!m_refusal.isEmpty()) {
+        sendErrorReply(m_refusal, QStringLiteral("not today"));
+    }
     return m_performed.contains(requestId);
 }

@@ -12,6 +12,8 @@
 /// "Echo" answers with the parameters, "Deadline" with the request's own, "Late" is performed at once and
 /// answers after as many milliseconds as the parameters say, "Never" does not answer, "Fail" does with an
 /// error, "Malform" with arguments of the types that the parameters name, "Die" ends the process at once.
+/// After "Refuse" WasPerformed answers with the error that the parameters name; "Asked" tells how often it
+/// was called.
 class ScriptedRequests : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -31,4 +33,6 @@ Q_SIGNALS:
 
 private:
     QSet<QString> m_performed;
+    QString m_refusal; ///< the error that WasPerformed answers with; empty for none
+    int m_timesAsked = 0;
 };

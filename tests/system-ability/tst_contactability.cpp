@@ -102,6 +102,8 @@ private Q_SLOTS:
     void theDeadlineTravelsWithTheRequest();
     void whatWasPerformedAfterAllIsTold();
     void whatWasNotPerformedIsNotTold();
+    void whoCannotTellIsNotAskedForEver_data();
+    void whoCannotTellIsNotAskedForEver();
 };
 
 void TestContactAbility::failures_data()
@@ -479,6 +481,32 @@ void TestContactAbility::whatWasNotPerformedIsNotTold()
     QCOMPARE(ask(QStringLiteral("Never"), {}, 100).code, int(AbilityCode::TimedOut));
     QCOMPARE(ask(QStringLiteral("Echo")).code, 0);
     QCOMPARE(log.texts(QtWarningMsg).size(), 1);
+}
+
+void TestContactAbility::whoCannotTellIsNotAskedForEver_data()
+{
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<QString>("timesAsked");
+    QTest::newRow("an application that does not know the method")
+        << "org.freedesktop.DBus.Error.UnknownMethod"
+        << "1";
+    QTest::newRow("an application that fails") << "org.example.Error.NotToday"
+                                               << "10";
+}
+
+void TestContactAbility::whoCannotTellIsNotAskedForEver()
+{
+    QFETCH(const QString, error);
+    QFETCH(const QString, timesAsked);
+    const Running application(scripted());
+    QVERIFY(application.isReady());
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    QCOMPARE(ask(QStringLiteral("Refuse"), error).code, 0);
+    QCOMPARE(ask(QStringLiteral("Never"), {}, 100).code, int(AbilityCode::TimedOut));
+    for (int request = 0; request < 20; ++request) {
+        QCOMPARE(ask(QStringLiteral("Echo")).code, 0);
+    }
+    QCOMPARE(ask(QStringLiteral("Asked")).answer, timesAsked);
 }
 
 QTEST_GUILESS_MAIN(TestContactAbility)

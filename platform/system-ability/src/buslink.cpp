@@ -14,6 +14,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
+#include <algorithm>
 #include <functional>
 #include <limits>
 
@@ -25,6 +26,8 @@ constexpr int GraceMsecs = 1000;
 
 /// So many requests without an answer are remembered.
 constexpr int MostUnclear = 100;
+/// And so often the application may fail to tell what became of one.
+constexpr int MostErrors = 10;
 
 QString serviceName()
 {
@@ -94,7 +97,7 @@ void BusLink::askLater(const std::shared_ptr<PendingRequest> &request)
     QMetaObject::invokeMethod(
         this,
         [this, request] {
-            m_unclear.append(request);
+            m_unclear.append({request, 0});
             if (m_unclear.size() > MostUnclear) {
                 m_unclear.removeFirst();
             }
@@ -105,17 +108,34 @@ void BusLink::askLater(const std::shared_ptr<PendingRequest> &request)
 void BusLink::askWhatBecame()
 {
     // In front of the next request on the same connection, and so answered before it.
-    for (const std::shared_ptr<PendingRequest> &request : qAsConst(m_unclear)) {
-        auto *watcher = new QDBusPendingCallWatcher(m_proxy->WasPerformed(request->id), this);
+    for (const Unclear &unclear : qAsConst(m_unclear)) {
+        auto *watcher = new QDBusPendingCallWatcher(m_proxy->WasPerformed(unclear.request->id), this);
         connect(watcher, &QDBusPendingCallWatcher::finished, this,
-                [this, request](QDBusPendingCallWatcher *finished) {
-                    const QDBusPendingReply<bool> reply = *finished;
-                    // Once, also when two requests have asked.
-                    if (!reply.isError() && m_unclear.removeOne(request) && reply.value()) {
-                        AbilityTrace::tellPerformedAfterAll(request->action);
-                    }
+                [this, request = unclear.request](QDBusPendingCallWatcher *finished) {
+                    take(request, *finished);
                     finished->deleteLater();
                 });
+    }
+}
+
+void BusLink::take(const std::shared_ptr<PendingRequest> &request, const QDBusPendingReply<bool> &reply)
+{
+    const auto unclear = std::find_if(m_unclear.begin(), m_unclear.end(),
+                                      [&request](const Unclear &other) { return other.request == request; });
+    if (unclear == m_unclear.end()) {
+        return; // two requests have asked, and the other one was answered first
+    }
+    if (reply.isError()) {
+        // An application of an older version never knows; one that dies or hangs may know later.
+        const bool isHopeless = reply.error().type() == QDBusError::UnknownMethod;
+        if (isHopeless || ++unclear->errors == MostErrors) {
+            m_unclear.erase(unclear);
+        }
+        return;
+    }
+    m_unclear.erase(unclear);
+    if (reply.value()) {
+        AbilityTrace::tellPerformedAfterAll(request->action);
     }
 }
 

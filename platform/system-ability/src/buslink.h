@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusPendingReply>
 #include <QObject>
 #include <QThread>
 #include <QVector>
@@ -35,9 +36,18 @@ public:
     void askLater(const std::shared_ptr<PendingRequest> &request);
 
 private:
+    /// Nobody knows yet whether it was performed.
+    struct Unclear
+    {
+        std::shared_ptr<PendingRequest> request;
+        int errors = 0; ///< so often nobody could tell
+    };
+
     BusLink();
 
     void askWhatBecame();
+    /// What the application says about one of them.
+    void take(const std::shared_ptr<PendingRequest> &request, const QDBusPendingReply<bool> &reply);
 
     void call(const std::shared_ptr<PendingRequest> &request);
     /// Makes a connection unless there is one that works. @return what is wrong with it, nothing when it
@@ -53,5 +63,5 @@ private:
     QString m_connectionName; ///< empty while there is none
     int m_connectionCount = 0;
     std::unique_ptr<Contact1Proxy> m_proxy;
-    QVector<std::shared_ptr<PendingRequest>> m_unclear;
+    QVector<Unclear> m_unclear;
 };

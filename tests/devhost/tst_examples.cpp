@@ -37,7 +37,7 @@ QStringList allMatches(const QString &pattern, const QString &text)
 QStringList sentencesOf(const QString &file)
 {
     const QString text = linesOf(file).join(QLatin1Char('\n'));
-    QStringList sentences = allMatches(QStringLiteral("[“\"]([\\x{4e00}-\\x{9fff}]{4}[^”\"]+)[”\"]"), text);
+    QStringList sentences = allMatches(QStringLiteral("[“\"]([\\x{4e00}-\\x{9fff}]{4}[^”\"]*)[”\"]"), text);
     if (file.endsWith(QLatin1String(".zh-CN.md"))) {
         sentences += allMatches(QStringLiteral("^- (.+)$"), text);
     }
@@ -144,7 +144,7 @@ void TestExamples::documentsWork_data()
 
     QTest::newRow("README.md") << "README.md" << 1;
     QTest::newRow("README.zh-CN.md") << "README.zh-CN.md" << 7;
-    QTest::newRow("docs/tour.md") << "docs/tour.md" << 0;
+    QTest::newRow("docs/tour.md") << "docs/tour.md" << 1;
 }
 
 void TestExamples::documentsWork()

@@ -11,7 +11,6 @@
 class LUMO_EXPORT LSpinBox : public QSpinBox
 {
     Q_OBJECT
-    // Set once, while a box is made; nobody has to be told. clazy:exclude=qproperty-without-notify
     Q_PROPERTY(bool enabledEmbedStyle READ enabledEmbedStyle WRITE setEnabledEmbedStyle)
 
 public:

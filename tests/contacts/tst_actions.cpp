@@ -722,14 +722,14 @@ void TestActions::aClockThatIsSetBackLocksNobodyOut()
         parameters.insert(QStringLiteral("startTime"), at("2026-04-01T10:00") + day * 86400000LL);
         return ret(world.ask(Create, parameters));
     };
-    constexpr qint64 DayMsecs = 86400000;
-    world.nowMsecs += DayMsecs;
+    constexpr qint64 dayMsecs = 86400000;
+    world.nowMsecs += dayMsecs;
     QCOMPARE(schedule(0), QStringLiteral("OK"));
-    world.nowMsecs -= DayMsecs;
+    world.nowMsecs -= dayMsecs;
     QCOMPARE(schedule(1), QStringLiteral("OK"));
     QCOMPARE(schedule(2), QStringLiteral("Conference Create Too Frequently"));
     // What the clock noted while it was ahead does not come back when that time really comes.
-    world.nowMsecs += DayMsecs;
+    world.nowMsecs += dayMsecs;
     QCOMPARE(schedule(3), QStringLiteral("OK"));
 }
 

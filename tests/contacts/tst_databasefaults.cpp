@@ -243,11 +243,11 @@ void TestDatabaseFaults::aLockIsWaitedFor()
 
 void TestDatabaseFaults::whatCanBeReadOfADamagedFileIsKept()
 {
-    constexpr int People = 5000;
+    constexpr int peopleCount = 5000;
     const DataFolder folder;
     {
         ContactsBook book(folder.file, fixedClock());
-        addPeople(book, People);
+        addPeople(book, peopleCount);
         QVERIFY(
             book.perform(QStringLiteral("Create Conference"), QString()).contains(QStringLiteral("\"OK\"")));
     }
@@ -262,9 +262,9 @@ void TestDatabaseFaults::whatCanBeReadOfADamagedFileIsKept()
         notice = book.session().notice();
         // Those who are there are found by every index.
         QVERIFY(book.people().byAccount(QStringLiteral("9000000")).has_value());
-        QCOMPARE(book.people().byName(QStringLiteral("第%1位").arg(People - 1), 2).size(), 1);
+        QCOMPARE(book.people().byName(QStringLiteral("第%1位").arg(peopleCount - 1), 2).size(), 1);
     }
-    QVERIFY2(kept > People / 2 && kept < People + 40, qPrintable(QString::number(kept)));
+    QVERIFY2(kept > peopleCount / 2 && kept < peopleCount + 40, qPrintable(QString::number(kept)));
     const QStringList setAside = folder.setAside();
     QCOMPARE(setAside.size(), 1);
     QCOMPARE(QFileInfo(QFileInfo(folder.file).dir().filePath(setAside.at(0))).size(), size);
@@ -315,7 +315,7 @@ void TestDatabaseFaults::nobodySalvagedBringsTheSample()
 
 void TestDatabaseFaults::whoCreatedWhatIsSalvagedOnce()
 {
-    constexpr int Creations = 3;
+    constexpr int howMany = 3;
     const DataFolder folder;
     const auto creations = [](ContactsBook &book) {
         return book.conferences().creationsBetween(QStringLiteral("u100001"), 0, book.nowMsecs());
@@ -323,25 +323,25 @@ void TestDatabaseFaults::whoCreatedWhatIsSalvagedOnce()
     {
         ContactsBook book(folder.file, fixedClock());
         QVERIFY(book.change([&book] {
-            for (int i = 0; i < Creations; ++i) {
-                book.conferences().noteCreation(QStringLiteral("u100001"), book.nowMsecs() - Creations + i);
+            for (int i = 0; i < howMany; ++i) {
+                book.conferences().noteCreation(QStringLiteral("u100001"), book.nowMsecs() - howMany + i);
             }
             return true;
         }));
-        QCOMPARE(creations(book), Creations);
+        QCOMPARE(creations(book), howMany);
     }
     overwriteTable(folder.file, QStringLiteral("notice"));
     const LogCapture log(LogCapture::Unexpected::Passes);
     ContactsBook book(folder.file, fixedClock());
     QCOMPARE(folder.setAside().size(), 1);
-    QCOMPARE(creations(book), Creations);
+    QCOMPARE(creations(book), howMany);
 }
 
 void TestDatabaseFaults::ofManyStartsOneSetsAside()
 {
-    constexpr int Rounds = 5;
-    constexpr int Starts = 4;
-    for (int round = 0; round < Rounds; ++round) {
+    constexpr int rounds = 5;
+    constexpr int startCount = 4;
+    for (int round = 0; round < rounds; ++round) {
         const DataFolder folder;
         {
             ContactsBook book(folder.file, fixedClock());
@@ -353,7 +353,7 @@ void TestDatabaseFaults::ofManyStartsOneSetsAside()
         std::atomic<int> replaced{0};
         std::atomic<int> failed{0};
         std::vector<std::thread> starts;
-        for (int start = 0; start < Starts; ++start) {
+        for (int start = 0; start < startCount; ++start) {
             starts.emplace_back([&] {
                 try {
                     const Database database(folder.file);

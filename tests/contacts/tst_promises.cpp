@@ -205,10 +205,10 @@ void TestPromises::nothingIsDoneAfterTheTimeOut()
 
 int TestPromises::usualRequestMicros()
 {
-    constexpr int Requests = 9;
+    constexpr int requests = 9;
     allowManyCreations();
     std::vector<int> micros;
-    for (int request = 0; request < Requests; ++request) {
+    for (int request = 0; request < requests; ++request) {
         const qint64 start = m_nextStart += HourMsecs;
         QElapsedTimer timer;
         timer.start();
@@ -216,7 +216,7 @@ int TestPromises::usualRequestMicros()
         micros.push_back(static_cast<int>(timer.nsecsElapsed() / 1000));
     }
     std::sort(micros.begin(), micros.end());
-    return qMax(1, micros.at(Requests / 2));
+    return qMax(1, micros.at(requests / 2));
 }
 
 void TestPromises::whatWasSaidIsWhatHappened()
@@ -274,12 +274,12 @@ void TestPromises::whatWasSaidIsWhatHappened()
 
 void TestPromises::whatWasAnsweredOutlivesTheApplication()
 {
-    constexpr int Writers = 4;
+    constexpr int writerCount = 4;
     const int kills = numberFrom("CONTACT_TEST_KILLS", 20);
     auto log = std::make_unique<LogCapture>(LogCapture::Unexpected::Passes);
     std::atomic<qint64> start{m_nextStart};
     const qint64 firstStart = start;
-    std::vector<QStringList> answered(Writers);
+    std::vector<QStringList> answered(writerCount);
     for (int round = 0; round < kills; ++round) {
         QCOMPARE(ask(QStringLiteral("Is Conference Host")).code, 0);
         allowManyCreations();

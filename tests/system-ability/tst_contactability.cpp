@@ -301,12 +301,12 @@ void TestContactAbility::eventsWaitUntilTheRequestIsOver()
 
 void TestContactAbility::threadsDoNotWaitForEachOther()
 {
-    constexpr int Threads = 8;
+    constexpr int threadCount = 8;
     const Running application(scripted());
     QVERIFY(application.isReady());
     QElapsedTimer timer;
     timer.start();
-    std::vector<int> codes(Threads, 1);
+    std::vector<int> codes(threadCount, 1);
     std::vector<std::thread> threads;
     for (int &code : codes) {
         threads.emplace_back([&code] { code = ask(QStringLiteral("Late"), QStringLiteral("500")).code; });
@@ -314,8 +314,8 @@ void TestContactAbility::threadsDoNotWaitForEachOther()
     for (std::thread &thread : threads) {
         thread.join();
     }
-    QCOMPARE(codes, std::vector<int>(Threads, 0));
-    QVERIFY2(timer.elapsed() < Threads * 500, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(codes, std::vector<int>(threadCount, 0));
+    QVERIFY2(timer.elapsed() < threadCount * 500, qPrintable(QString::number(timer.elapsed())));
 }
 
 void TestContactAbility::aNonsensicalTimeOutIsTheDefault()
@@ -330,11 +330,11 @@ void TestContactAbility::aNonsensicalTimeOutIsTheDefault()
 
 void TestContactAbility::everyTimeOutIsCarried_data()
 {
-    constexpr int Largest = std::numeric_limits<int>::max();
-    constexpr int Smallest = std::numeric_limits<int>::min();
+    constexpr int largest = std::numeric_limits<int>::max();
+    constexpr int smallest = std::numeric_limits<int>::min();
     QTest::addColumn<int>("timeoutMsecs");
-    for (const int msecs : {Smallest, Smallest + 1, -1001, -1, 0, 501, Largest - 1001, Largest - 1000,
-                            Largest - 999, Largest - 1, Largest}) {
+    for (const int msecs : {smallest, smallest + 1, -1001, -1, 0, 501, largest - 1001, largest - 1000,
+                            largest - 999, largest - 1, largest}) {
         QTest::addRow("%d", msecs) << msecs;
     }
 }
@@ -352,7 +352,7 @@ void TestContactAbility::everyTimeOutIsCarried()
 
 void TestContactAbility::aThousandRequestsMayWait()
 {
-    constexpr int Requests = 1000;
+    constexpr int requestCount = 1000;
     const Running application(scripted());
     QVERIFY(application.isReady());
     const QDBusConnection bus = QDBusConnection::sessionBus();
@@ -361,7 +361,7 @@ void TestContactAbility::aThousandRequestsMayWait()
         QStringLiteral("com.kelvane.meetlynx.Contact1"), QStringLiteral("Request"));
     message.setArguments({QStringLiteral("Never"), QString(), qint64(0), QString()});
     std::vector<QDBusPendingCall> calls;
-    for (int i = 0; i < Requests; ++i) {
+    for (int i = 0; i < requestCount; ++i) {
         calls.push_back(bus.asyncCall(message, 60000));
     }
     // Comes after them all on the same connection.

@@ -72,13 +72,13 @@ void SessionRepository::setSeeded()
 
 void SessionRepository::notePerformed(const QString &requestId)
 {
-    constexpr int KnownRequests = 1000;
+    constexpr int knownRequests = 1000;
     Statement(m_database, QStringLiteral("INSERT OR IGNORE INTO performed_request (request_id) VALUES (?)"))
         .bind(requestId)
         .run();
     Statement(m_database, QStringLiteral("DELETE FROM performed_request"
                                          " WHERE id <= (SELECT max(id) FROM performed_request) - ?"))
-        .bind(KnownRequests)
+        .bind(knownRequests)
         .run();
 }
 

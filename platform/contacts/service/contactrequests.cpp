@@ -15,8 +15,8 @@ ContactRequests::ContactRequests(ContactsBook &book, QObject *parent) : QObject(
 QString ContactRequests::Request(const QString &action, const QString &parameters, qlonglong deadlineMsecs,
                                  const QString &requestId)
 {
-    constexpr int LongestId = 64;
-    const QString answer = m_book.perform(action, parameters, {deadlineMsecs, requestId.left(LongestId)});
+    constexpr int longestId = 64;
+    const QString answer = m_book.perform(action, parameters, {deadlineMsecs, requestId.left(longestId)});
     if (answer.isNull() && calledFromDBus()) {
         sendErrorReply(BusName::deadlinePassedError(),
                        QStringLiteral("the deadline has passed; nothing was done"));

@@ -71,7 +71,12 @@ bool ContactUtils::scheduleTimeMsecsInit(const QString &timeSlotText, bool &isSc
 
 QString ContactUtils::vectorToString(const QVector<QString> &names)
 {
-    return QStringList(names.toList()).join(QStringLiteral("、"));
+    QStringList list;
+    list.reserve(names.size());
+    for (const QString &name : names) {
+        list.append(name);
+    }
+    return list.join(QStringLiteral("、"));
 }
 
 int ContactUtils::analyzeReturnContext(const QString &answer)

@@ -65,7 +65,8 @@ void ConferenceMsgStaticWidget::multipleInit(const QVector<ContactDetailMsg> &li
     }
     m_mode = List;
     addRow(getConferenceTitleWidget());
-    for (const ContactDetailMsg &conference : list.mid(0, ShownConferences)) {
+    const QVector<ContactDetailMsg> shown = list.mid(0, ShownConferences);
+    for (const ContactDetailMsg &conference : shown) {
         const QVector<QWidget *> rows = {getConferenceStatusWidget(conference, true),
                                          getConferenceNumberWidget(conference),
                                          getConferenceBeginTimeWidget(conference, true)};

@@ -15,6 +15,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLoggingCategory>
+#include <QStringList>
 
 ContactUtils *ContactUtils::instance()
 {

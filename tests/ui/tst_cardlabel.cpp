@@ -208,7 +208,7 @@ void TestCardLabel::aMegabyteTakesNoTime()
 {
     const QString text = QStringLiteral("周会 <b>").repeated(Megabyte / 6);
     QWidget parent;
-    makeLabel(QStringLiteral("周会 <b>"), &parent)->sizeHint();
+    QVERIFY(makeLabel(QStringLiteral("周会 <b>"), &parent)->sizeHint().isValid()); // loads the fonts
     // The best of three: the clock also counts what other programs take.
     qint64 best = std::numeric_limits<qint64>::max();
     for (int attempt = 0; attempt < 3; ++attempt) {

@@ -15,6 +15,14 @@ constexpr int LongestFarewellMsecs = 200;
 
 } // namespace
 
+BusClient::BusClient(const QString &name)
+{
+    // A client that its thread could not end in time still has its connection: the next one must not share
+    // it, nor lose it when the former goes.
+    static std::atomic<int> count{0};
+    m_connectionName = QStringLiteral("%1-%2").arg(name).arg(++count);
+}
+
 BusClient::~BusClient()
 {
     QDBusConnection::disconnectFromBus(m_connectionName);

@@ -31,14 +31,15 @@ public:
 protected:
     static constexpr int AsLongAsItTakes = -1;
 
-    explicit BusClient(const QString &connectionName) : m_connectionName(connectionName) {}
+    /// @p name is for people who look at the bus; each client has a connection of its own.
+    explicit BusClient(const QString &name);
 
     /// Connects unless it is connected, and waits at most @p msecs for a bus that is silent.
     bool connectToBus(int msecs);
     QDBusConnection bus() const { return QDBusConnection(m_connectionName); }
 
 private:
-    const QString m_connectionName;
+    QString m_connectionName;
     std::atomic<bool> m_isEnding{false};
 };
 

@@ -17,7 +17,7 @@
 namespace {
 
 /// Far more than a configuration of this form needs.
-constexpr qint64 MostBytes = 1024 * 1024;
+constexpr qint64 MostBytes = Q_INT64_C(1024) * 1024;
 
 void reportUnread(const QString &path, const QString &reason)
 {

@@ -153,8 +153,8 @@ void TiTleItem::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(CardTheme::focus(), FocusWidth));
-    constexpr qreal Inset = FocusWidth / 2;
-    painter.drawRoundedRect(QRectF(rect()).adjusted(Inset, Inset, -Inset, -Inset), FocusRadius, FocusRadius);
+    constexpr qreal inset = FocusWidth / 2;
+    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), FocusRadius, FocusRadius);
 }
 
 LLabel *TiTleItem::addLabel(const QString &text, int alpha, int spaceBehind)

@@ -91,12 +91,12 @@ private Q_SLOTS:
 
 void TestApplication::whatWasAnsweredSurvivesBeingKilled()
 {
-    constexpr int Rounds = 20;
-    constexpr qint64 HourMsecs = 3600000;
+    constexpr int rounds = 20;
+    constexpr qint64 hourMsecs = 3600000;
     // Schedules one conference after the other until the application is gone from under it.
-    qint64 start = QDateTime::currentMSecsSinceEpoch() + 30 * 24 * HourMsecs;
+    qint64 start = QDateTime::currentMSecsSinceEpoch() + 30 * 24 * hourMsecs;
     QStringList answered;
-    for (int round = 0; round < Rounds; ++round) {
+    for (int round = 0; round < rounds; ++round) {
         QCOMPARE(outcome(QStringLiteral("Is Conference Host")), QStringLiteral("No Conference"));
         Admin1Proxy(ServiceName, AdminPath, QDBusConnection::sessionBus())
             .SetCreationLimit(1000000)
@@ -112,7 +112,7 @@ void TestApplication::whatWasAnsweredSurvivesBeingKilled()
                          {QStringLiteral("members"),
                           QJsonArray{QJsonObject{{QStringLiteral("name"), QStringLiteral("赵磊")}}}}},
                         code);
-                start += HourMsecs;
+                start += hourMsecs;
                 if (code != 0) {
                     break;
                 }
@@ -130,7 +130,7 @@ void TestApplication::whatWasAnsweredSurvivesBeingKilled()
         creator.join();
         QTRY_VERIFY(servicePid() != pid);
     }
-    QVERIFY(answered.size() > Rounds);
+    QVERIFY(answered.size() > rounds);
     QVERIFY(!answered.contains(QString()));
 
     QCOMPARE(outcome(QStringLiteral("Is Conference Host")), QStringLiteral("No Conference"));

@@ -51,13 +51,13 @@ private Q_SLOTS:
 
     void manyThreadsAskAtOnce()
     {
-        constexpr int Threads = 16;
-        constexpr int Requests = 20;
-        std::vector<int> answered(Threads, 0);
+        constexpr int threadCount = 16;
+        constexpr int requestCount = 20;
+        std::vector<int> answered(threadCount, 0);
         std::vector<std::thread> threads;
         for (int &count : answered) {
             threads.emplace_back([&count] {
-                for (int i = 0; i < Requests; ++i) {
+                for (int i = 0; i < requestCount; ++i) {
                     QString answer;
                     if (ask(QStringLiteral("Is Conference Host"), QString(), answer) == 0 &&
                         outcome(answer) == QLatin1String("No Conference")) {
@@ -69,7 +69,7 @@ private Q_SLOTS:
         for (std::thread &thread : threads) {
             thread.join();
         }
-        QCOMPARE(answered, std::vector<int>(Threads, Requests));
+        QCOMPARE(answered, std::vector<int>(threadCount, requestCount));
     }
 };
 

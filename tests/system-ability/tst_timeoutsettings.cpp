@@ -27,12 +27,12 @@ void TestTimeoutSettings::aRequestIsAnswered_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("value");
-    constexpr qint64 Largest = std::numeric_limits<int>::max();
-    constexpr qint64 Smallest = std::numeric_limits<int>::min();
+    constexpr qint64 largest = std::numeric_limits<int>::max();
+    constexpr qint64 smallest = std::numeric_limits<int>::min();
     for (const char *key : {"TimeOut", "MaxTimeOut"}) {
-        for (const qint64 value : {Smallest - 1, Smallest, Smallest + 1, qint64(-1), qint64(0), qint64(500),
-                                   qint64(501), qint64(5000), qint64(5001), qint64(15000), Largest - 1001,
-                                   Largest - 1000, Largest - 999, Largest - 1, Largest, Largest + 1}) {
+        for (const qint64 value : {smallest - 1, smallest, smallest + 1, qint64(-1), qint64(0), qint64(500),
+                                   qint64(501), qint64(5000), qint64(5001), qint64(15000), largest - 1001,
+                                   largest - 1000, largest - 999, largest - 1, largest, largest + 1}) {
             QTest::addRow("%s is %lld", key, value) << QString::fromLatin1(key) << QString::number(value);
         }
     }

@@ -137,8 +137,8 @@ void TestCardCosts::aMegabyteCostsNoTime()
 
 void TestCardCosts::manyCandidatesCostLinearTime()
 {
-    constexpr int Few = 1000;
-    constexpr int Factor = 20;
+    constexpr int fewPeople = 1000;
+    constexpr int factor = 20;
     const auto elapsed = [](int count) {
         const ContactInviteMemberDetail detail = people(count, QStringLiteral("张三"));
         int rows = 0;
@@ -151,9 +151,9 @@ void TestCardCosts::manyCandidatesCostLinearTime()
     // More than one attempt, against what else happens on the machine.
     double ratio = 0;
     for (int attempt = 0; attempt < 3; ++attempt) {
-        const double few = std::min({elapsed(Few), elapsed(Few), elapsed(Few)});
-        ratio = elapsed(Factor * Few) / few;
-        if (ratio < 1.25 * Factor) {
+        const double few = std::min({elapsed(fewPeople), elapsed(fewPeople), elapsed(fewPeople)});
+        ratio = elapsed(factor * fewPeople) / few;
+        if (ratio < 1.25 * factor) {
             return;
         }
     }

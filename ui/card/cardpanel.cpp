@@ -26,6 +26,6 @@ void CardPanel::paint(QWidget &card, Frame frame)
     } else {
         painter.setPen(Qt::transparent);
     }
-    constexpr qreal Radius = CardMeasures::CornerRadius;
-    painter.drawRoundedRect(0, 0, card.width(), card.height(), Radius, Radius, Qt::AbsoluteSize);
+    constexpr qreal radius = CardMeasures::CornerRadius;
+    painter.drawRoundedRect(0, 0, card.width(), card.height(), radius, radius, Qt::AbsoluteSize);
 }

@@ -48,9 +48,9 @@ LFontSizeManager *LFontSizeManager::instance()
 
 QFont LFontSizeManager::get(SizeType type, const QFont &base) const
 {
-    constexpr int Largest = 19;
+    constexpr int largest = 19;
     QFont font = base;
-    font.setPixelSize(Largest - type);
+    font.setPixelSize(largest - type);
     return font;
 }
 

@@ -11,7 +11,9 @@ namespace devhost {
 
 namespace {
 
-constexpr int LongestFarewellMsecs = 200;
+/// Long enough for a loaded machine to connect and to notice; a thread that is left behind runs into the
+/// process's end.
+constexpr int LongestFarewellMsecs = 3000;
 
 } // namespace
 

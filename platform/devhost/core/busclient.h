@@ -43,7 +43,7 @@ private:
     std::atomic<bool> m_isEnding{false};
 };
 
-/// A thread for one client. Its end takes no longer than a moment, whatever the bus does.
+/// A thread for one client. Its end takes three seconds at most, whatever the bus does, and usually no time.
 class BusThread
 {
 public:

@@ -16,7 +16,7 @@ class TestDialogue : public QObject
     Q_OBJECT
 
 private:
-    static constexpr int passwordNeeded = -16014;
+    static constexpr int PasswordNeeded = -16014;
     const QDateTime m_now{QDate(2026, 3, 7), QTime(10, 20)};
 
     QString meaning(Dialogue &dialogue, const char *sentence) const
@@ -172,11 +172,11 @@ private Q_SLOTS:
         for (int at = 0; at < turns.size();) {
             const QString &said = turns.at(at);
             if (said == QLatin1String("!password")) {
-                dialogue.noteReply(passwordNeeded, QStringLiteral("请输入密码:"));
+                dialogue.noteReply(PasswordNeeded, QStringLiteral("请输入密码:"));
                 QVERIFY(dialogue.nextIsSecret());
                 ++at;
             } else if (said == QLatin1String("!unexpected")) {
-                dialogue.noteReply(passwordNeeded, QStringLiteral("请输入密码:"));
+                dialogue.noteReply(PasswordNeeded, QStringLiteral("请输入密码:"));
                 QVERIFY(!dialogue.nextIsSecret());
                 ++at;
             } else if (said == QLatin1String("!other")) {
@@ -228,7 +228,7 @@ private Q_SLOTS:
         dialogue.turn(QStringLiteral("加入会议123456"), m_now);
         QVERIFY(!dialogue.nextIsSecret());
         if (asked) {
-            dialogue.noteReply(passwordNeeded, QStringLiteral("请输入密码:"));
+            dialogue.noteReply(PasswordNeeded, QStringLiteral("请输入密码:"));
         }
         QCOMPARE(dialogue.masked(sentence), shown);
     }
@@ -238,7 +238,7 @@ private Q_SLOTS:
         LogCapture log;
         Dialogue dialogue;
         dialogue.turn(QStringLiteral("加入会议123456，密码8888"), m_now);
-        dialogue.noteReply(passwordNeeded, QStringLiteral("请输入密码:"));
+        dialogue.noteReply(PasswordNeeded, QStringLiteral("请输入密码:"));
         dialogue.masked(QStringLiteral("9999"));
         dialogue.turn(QStringLiteral("我忘了"), m_now);
         dialogue.turn(QStringLiteral("9999"), m_now);

@@ -4,6 +4,7 @@
 #include "conferencemsgstaticwidget.h"
 
 #include "card/candidatelist.h"
+#include "card/cardaccessible.h"
 #include "card/cardfooter.h"
 #include "card/cardpanel.h"
 #include "card/cardreplies.h"
@@ -29,6 +30,7 @@ ConferenceMsgStaticWidget::ConferenceMsgStaticWidget(QWidget *parent)
     , m_editor(new ConferenceEditor(this))
     , m_candidates(std::make_unique<CandidateList>(this, m_rows))
 {
+    CardAccessible::registerFactory();
     setMinimumHeight(0);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
@@ -335,7 +337,7 @@ void ConferenceMsgStaticWidget::paintEvent(QPaintEvent * /*event*/)
 
 void ConferenceMsgStaticWidget::resizeEvent(QResizeEvent * /*event*/)
 {
-    // The layout does what is to be done.
+    // The layout does it all.
 }
 
 void ConferenceMsgStaticWidget::addConfirmButton(void (ConferenceMsgStaticWidget::*slot)())

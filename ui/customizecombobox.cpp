@@ -3,6 +3,8 @@
 
 #include "customizecombobox.h"
 
+#include "card/calendarlook.h"
+
 #include <QCalendarWidget>
 #include <QDebug>
 #include <QKeyEvent>
@@ -49,6 +51,7 @@ CustomizeComboBox::CustomizeComboBox(QWidget *parent)
 {
     m_calendar->setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     m_calendar->hide();
+    CalendarLook::giveTo(*m_calendar);
     m_calendar->installEventFilter(this);
     connect(m_calendar.get(), &QCalendarWidget::clicked, this, &CustomizeComboBox::slotSelectionData);
 }
@@ -163,6 +166,10 @@ void CustomizeComboBox::openCalendar()
     // pos() is in the parent's coordinates and mapToGlobal() takes this widget's own: the parent's offset is
     // counted twice, and the calendar's place is part of how the card looks.
     const QPoint anchor = mapToGlobal(pos());
+    if (m_date.isValid()) {
+        m_calendar->setSelectedDate(m_date);
+    }
+    CalendarLook::refresh(*m_calendar); // the day may have changed since it was last open
     m_calendar->move(anchor.x() - (m_calendar->width() - width()) / 2, anchor.y() + height());
     m_calendar->show();
     m_calendar->adjustSize();

@@ -26,7 +26,8 @@ constexpr int SpaceBeforeMark = 6;
 constexpr int LeastTextWidth = 110;
 
 constexpr qreal FocusWidth = 2;
-constexpr qreal FocusRadius = 8;
+constexpr qreal PickedWidth = 1;
+constexpr qreal FrameRadius = 8;
 
 bool isToggleKey(const QKeyEvent &event)
 {
@@ -44,6 +45,10 @@ TiTleItem::TiTleItem(const QString &title, QWidget *parent)
     TiTleItemAccessible::registerFactory();
     setFixedSize(RowSize);
     setBottomRadius(true);
+    if (m_card != nullptr) {
+        setAttribute(Qt::WA_Hover);
+        setCursor(Qt::PointingHandCursor);
+    }
     m_layout->setContentsMargins(Margin, Margin, Margin, Margin);
     m_layout->setSpacing(0);
     m_layout->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -146,15 +151,25 @@ void TiTleItem::mouseReleaseEvent(QMouseEvent *event)
 void TiTleItem::paintEvent(QPaintEvent *event)
 {
     CustomizeItem::paintEvent(event);
-    // Rows take the focus with the Tab key only, so that the frame is never seen by who uses the mouse.
-    if (!hasFocus()) {
-        return;
+    const auto drawFrame = [this](const QColor &ground, const QPen &pen) {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setBrush(ground);
+        painter.setPen(pen);
+        const qreal inset = pen.widthF() / 2;
+        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), FrameRadius,
+                                FrameRadius);
+    };
+    if (m_selected) {
+        drawFrame(CardTheme::pickedGround(), QPen(CardTheme::focus(), PickedWidth));
     }
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(CardTheme::focus(), FocusWidth));
-    constexpr qreal inset = FocusWidth / 2;
-    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), FocusRadius, FocusRadius);
+    if (m_card != nullptr && isEnabled() && underMouse()) {
+        drawFrame(CardTheme::text(CardTheme::HoverAlpha), QPen(Qt::transparent));
+    }
+    // Rows take the focus with the Tab key only, so that the frame is never seen by who uses the mouse.
+    if (hasFocus()) {
+        drawFrame(Qt::transparent, QPen(CardTheme::focus(), FocusWidth));
+    }
 }
 
 LLabel *TiTleItem::addLabel(const QString &text, int alpha, int spaceBehind)
@@ -180,6 +195,7 @@ void TiTleItem::select()
     m_layout->addWidget(m_checkBox, 1, Qt::AlignRight);
     m_checkBox->setChecked(true);
     m_checkBox->show();
+    update();
 }
 
 void TiTleItem::deselect()
@@ -188,6 +204,7 @@ void TiTleItem::deselect()
     m_layout->removeWidget(m_checkBox);
     m_checkBox->setChecked(false);
     m_checkBox->hide();
+    update();
     m_card->selectionBudget().giveBack();
 }
 

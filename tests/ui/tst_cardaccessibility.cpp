@@ -29,6 +29,9 @@ private Q_SLOTS:
     void captionsBelongToTheirControls();
     void textsAreReadAsTheyAre();
     void theCardSaysWhatItDoes();
+    void theCardCanBePressed();
+    void separatorsAreSeparators();
+    void eachPersonAppearsOnce();
 };
 
 namespace {
@@ -203,6 +206,61 @@ void TestCardAccessibility::theCardSaysWhatItDoes()
     QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(host.card());
     QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("联系人"));
     QCOMPARE(interface->text(QAccessible::Description), QStringLiteral("打开联系人应用"));
+}
+
+void TestCardAccessibility::theCardCanBePressed()
+{
+    const CardHost host;
+    host.card()->singleInit({conference()});
+    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(host.card());
+    QCOMPARE(interface->role(), QAccessible::Grouping);
+    QAccessibleActionInterface *actions = interface->actionInterface();
+    QVERIFY(actions != nullptr);
+    const QString press = QAccessibleActionInterface::pressAction();
+    QCOMPARE(actions->actionNames().first(), press);
+    actions->doAction(press);
+    QCOMPARE(CardHost::actions().size(), 1);
+    // A cancelled one cannot, as it cannot be clicked.
+    host.card()->setEnabled(false);
+    QVERIFY(!actions->actionNames().contains(press));
+    actions->doAction(press);
+    QCOMPARE(CardHost::actions().size(), 1);
+}
+
+void TestCardAccessibility::separatorsAreSeparators()
+{
+    CardHost host;
+    buildEditable(*host.card());
+    QVERIFY(host.activate());
+    int separators = 0;
+    forEach(QAccessible::queryAccessibleInterface(host.card()), [&](QAccessibleInterface *interface) {
+        if (interface->role() == QAccessible::Separator) {
+            ++separators;
+            QVERIFY(!interface->state().focusable);
+            QVERIFY(interface->actionInterface()->actionNames().isEmpty());
+        }
+        QVERIFY(interface->role() != QAccessible::PushButton || interface->state().focusable ||
+                interface->state().disabled);
+    });
+    // Below the title, and between the two buttons.
+    QCOMPARE(separators, 2);
+}
+
+void TestCardAccessibility::eachPersonAppearsOnce()
+{
+    CardHost host;
+    host.card()->createMultiplePerson(createdDetail(), true);
+    QVERIFY(host.activate());
+    const auto rows = shown<TiTleItem>(*host.card());
+    QTest::mouseClick(rows.at(0), Qt::LeftButton);
+    QStringList boxes;
+    forEach(QAccessible::queryAccessibleInterface(host.card()), [&boxes](QAccessibleInterface *interface) {
+        if (interface->role() == QAccessible::CheckBox) {
+            boxes << interface->text(QAccessible::Name) + interface->text(QAccessible::Description);
+        }
+    });
+    QCOMPARE(boxes.size(), rows.size());
+    QCOMPARE(boxes.removeDuplicates(), 0);
 }
 
 QTEST_MAIN(TestCardAccessibility)

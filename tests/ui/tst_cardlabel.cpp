@@ -6,6 +6,7 @@
 #include "card/cardtext.h"
 #include "card/cardtheme.h"
 #include "desktoptheme.h"
+#include "paintedcontrast.h"
 
 #include <QElapsedTimer>
 #include <QHelpEvent>
@@ -68,6 +69,7 @@ private Q_SLOTS:
     void aMegabyteTakesNoTime();
     void aFixedColourGetsALegibleGround_data();
     void aFixedColourGetsALegibleGround();
+    void theChipIsRoundAndItsTextLegible();
 };
 
 void TestCardLabel::cleanup()
@@ -243,6 +245,27 @@ void TestCardLabel::aFixedColourGetsALegibleGround()
     label->resize(40, 20);
     QCOMPARE(painted(*label).pixelColor(20, 10).alpha() > 0, hasGround);
     QCOMPARE(label->palette().color(QPalette::WindowText), color);
+}
+
+void TestCardLabel::theChipIsRoundAndItsTextLegible()
+{
+    QWidget parent;
+    DesktopTheme::set(DesktopTheme::Dark);
+    CardLabel *label =
+        CardText::coloredLabel(QStringLiteral("已结束"), LFontSizeManager::T8, CardTheme::ended(), &parent);
+    label->resize(label->sizeHint());
+    const QImage chip = painted(*label);
+    QVERIFY(label->width() >= label->fontMetrics().horizontalAdvance(label->text()) + 12);
+    QCOMPARE(chip.pixelColor(0, 0).alpha(), 0);
+    QCOMPARE(chip.pixelColor(chip.width() - 1, chip.height() - 1).alpha(), 0);
+    QCOMPARE(chip.pixelColor(chip.height() / 2, 0).alpha(), 255);
+    const int inset = chip.height() / 2;
+    const double contrast = PaintedContrast::ofText(chip.copy(chip.rect().adjusted(inset, 1, -inset, -1)));
+    QVERIFY2(contrast >= 4.5, qPrintable(QString::number(contrast)));
+    // The theme may change while the card is shown.
+    DesktopTheme::set(DesktopTheme::Light);
+    QCOMPARE(label->contentsMargins(), QMargins());
+    QCOMPARE(painted(*label).pixelColor(label->height() / 2, 0).alpha(), 0);
 }
 
 QTEST_MAIN(TestCardLabel)

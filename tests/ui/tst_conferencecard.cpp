@@ -8,6 +8,7 @@
 #include "customizeitem.h"
 #include "desktoptheme.h"
 #include "logcapture.h"
+#include "paintedcontrast.h"
 
 #include <lumo/lcombobox.h>
 #include <lumo/lcommandlinkbutton.h>
@@ -55,6 +56,7 @@ private Q_SLOTS:
     void howManyConferencesAListShows();
     void anItemOfTheList();
     void theFooter();
+    void theFooterIsLegibleInTheDarkTheme();
     void anEmptyListLeavesTheCardEmpty();
     void aSingleConferenceOfSeveralIsTheFirst();
     void theModeFollowsTheBuilder();
@@ -413,6 +415,21 @@ void TestConferenceCard::anItemOfTheList()
     // A radius of 8 leaves its corner free, and no more.
     QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
     QCOMPARE(image.pixelColor(8, 1).alpha(), 7);
+}
+
+void TestConferenceCard::theFooterIsLegibleInTheDarkTheme()
+{
+    DesktopTheme::set(DesktopTheme::Dark);
+    ConferenceMsgStaticWidget card;
+    card.multipleInit(conferences(4));
+    card.show();
+    LCommandLinkButton *footer = shown<LCommandLinkButton>(card).first();
+    const QImage chip = footer->grab().toImage();
+    const int inset = chip.height() / 2;
+    const double contrast = PaintedContrast::ofText(chip.copy(chip.rect().adjusted(inset, 1, -inset, -1)));
+    QVERIFY2(contrast >= 4.5, qPrintable(QString::number(contrast)));
+    QVERIFY(qGray(PaintedContrast::ground(chip)) > 150);
+    QVERIFY(qGray(chip.pixel(0, 0)) < 80);
 }
 
 void TestConferenceCard::theFooter()

@@ -3,9 +3,15 @@
 
 #include "customizecombobox.h"
 
+#include "desktoptheme.h"
+#include "paintedcontrast.h"
+
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QPointer>
+#include <QTextCharFormat>
+#include <QToolButton>
 #include <QtTest>
 
 namespace {
@@ -49,6 +55,11 @@ private Q_SLOTS:
     void otherKeysAndButtonsDoNotOpenIt_data();
     void otherKeysAndButtonsDoNotOpenIt();
     void theCalendarsPlaceCountsTheParentsOffsetTwice();
+    void theCalendarOpensOnTheChosenDay();
+    void theCalendarIsChineseWithoutWeekNumbers();
+    void pastDaysAreDimmedAndSelectable();
+    void theCalendarHasTheThemesColours_data();
+    void theCalendarHasTheThemesColours();
     void theListNeverOpens();
     void aClickInTheCalendarSelects();
     void returnInTheCalendarSelects_data();
@@ -228,6 +239,86 @@ void TestCustomizeComboBox::theCalendarsPlaceCountsTheParentsOffsetTwice()
     const QPoint doubled = m_field->mapToGlobal(m_field->pos());
     QCOMPARE(doubled, m_window->mapToGlobal(QPoint(2 * 30, 2 * 50)));
     QCOMPARE(calendar()->pos(), QPoint(doubled.x() - (calendarWidth - 160) / 2, doubled.y() + 30));
+}
+
+void TestCustomizeComboBox::theCalendarOpensOnTheChosenDay()
+{
+    m_field->slotSelectionData(Thursday);
+    QTest::mouseClick(m_field, Qt::LeftButton);
+    QCOMPARE(calendar()->selectedDate(), Thursday);
+    QCOMPARE(calendar()->yearShown(), 2024);
+    QCOMPARE(calendar()->monthShown(), 3);
+    // Also after somebody has looked elsewhere.
+    calendar()->setCurrentPage(2030, 7);
+    calendar()->hide();
+    QTest::mouseClick(m_field, Qt::LeftButton);
+    QCOMPARE(calendar()->yearShown(), 2024);
+}
+
+void TestCustomizeComboBox::theCalendarIsChineseWithoutWeekNumbers()
+{
+    m_field->slotSelectionData(Thursday);
+    QTest::mouseClick(m_field, Qt::LeftButton);
+    QCOMPARE(calendar()->verticalHeaderFormat(), QCalendarWidget::NoVerticalHeader);
+    const auto *month = calendar()->findChild<QToolButton *>(QStringLiteral("qt_calendar_monthbutton"));
+    QVERIFY(month != nullptr);
+    QCOMPARE(month->text(), QStringLiteral("三月"));
+    const auto *view = calendar()->findChild<QAbstractItemView *>();
+    QStringList header;
+    for (int column = 0; column < view->model()->columnCount(); ++column) {
+        header << view->model()->index(0, column).data().toString();
+    }
+    QVERIFY2(header.contains(QStringLiteral("周一")), qPrintable(header.join(QLatin1Char(' '))));
+}
+
+void TestCustomizeComboBox::pastDaysAreDimmedAndSelectable()
+{
+    const QDate today = QDate::currentDate();
+    m_field->slotSelectionData(today);
+    QTest::mouseClick(m_field, Qt::LeftButton);
+    const auto isDimmed = [](const QDate &day) {
+        const QBrush brush = calendar()->dateTextFormat(day).foreground();
+        return brush.style() != Qt::NoBrush && brush.color().alpha() == 153;
+    };
+    QVERIFY(!isDimmed(today));
+    QVERIFY(!isDimmed(today.addDays(1)));
+    QVERIFY(isDimmed(today.addDays(-1)));
+    const QDate lastMonth = today.addMonths(-1);
+    calendar()->setCurrentPage(lastMonth.year(), lastMonth.month());
+    QVERIFY(isDimmed(lastMonth));
+    QVERIFY(!isDimmed(today));
+    QVERIFY(calendar()->minimumDate() < lastMonth);
+    calendar()->setSelectedDate(lastMonth);
+    QCOMPARE(calendar()->selectedDate(), lastMonth);
+}
+
+void TestCustomizeComboBox::theCalendarHasTheThemesColours_data()
+{
+    QTest::addColumn<int>("theme");
+    QTest::newRow("light") << int(DesktopTheme::Light);
+    QTest::newRow("dark") << int(DesktopTheme::Dark);
+}
+
+void TestCustomizeComboBox::theCalendarHasTheThemesColours()
+{
+    QFETCH(int, theme);
+    m_field->slotSelectionData(Thursday);
+    QTest::mouseClick(m_field, Qt::LeftButton);
+    QVERIFY(QTest::qWaitForWindowActive(calendar()));
+    // While it is open.
+    DesktopTheme::set(static_cast<DesktopTheme::Theme>(theme));
+    const QPalette colors = calendar()->palette();
+    const QColor weekend = calendar()->weekdayTextFormat(Qt::Sunday).foreground().color();
+    QCOMPARE(weekend, colors.color(QPalette::Link));
+    QCOMPARE(calendar()->weekdayTextFormat(Qt::Saturday).foreground().color(), weekend);
+    auto *bar = calendar()->findChild<QWidget *>(QStringLiteral("qt_calendar_navigationbar"));
+    for (const char *name : {"qt_calendar_prevmonth", "qt_calendar_nextmonth"}) {
+        auto *button = calendar()->findChild<QToolButton *>(QLatin1String(name));
+        const QRect place(button->mapTo(bar, QPoint()), button->size());
+        const double contrast = PaintedContrast::ofText(bar->grab(place).toImage());
+        QVERIFY2(contrast >= 3, qPrintable(QString::number(contrast)));
+    }
+    DesktopTheme::set(DesktopTheme::Light);
 }
 
 void TestCustomizeComboBox::theListNeverOpens()

@@ -3,6 +3,7 @@
 
 #include "conferencemsgstaticwidget.h"
 #include "desktoptheme.h"
+#include "paintedcontrast.h"
 #include "titleitem.h"
 
 #include <QAccessible>
@@ -97,6 +98,8 @@ private Q_SLOTS:
     void keysToggle();
     void aHeldKeyTogglesOnce();
     void theFocusIsSeen();
+    void hoverAndSelectionAreSeen_data();
+    void hoverAndSelectionAreSeen();
     void itIsACheckBoxToAssistiveTools();
 
 private:
@@ -497,6 +500,43 @@ void TestTiTleItem::theFocusIsSeen()
     QCOMPARE(with.pixelColor(0, 20), QColor(0, 129, 255));
     QCOMPARE(with.pixelColor(165, 39), QColor(0, 129, 255));
     QVERIFY(without.pixelColor(165, 0) != QColor(0, 129, 255));
+}
+
+void TestTiTleItem::hoverAndSelectionAreSeen_data()
+{
+    QTest::addColumn<int>("theme");
+    QTest::newRow("light") << int(DesktopTheme::Light);
+    QTest::newRow("dark") << int(DesktopTheme::Dark);
+}
+
+void TestTiTleItem::hoverAndSelectionAreSeen()
+{
+    QFETCH(int, theme);
+    DesktopTheme::set(static_cast<DesktopTheme::Theme>(theme));
+    m_row->insertConferenceMsg(Zhang);
+    m_card->show();
+    QCOMPARE(m_row->cursor().shape(), Qt::PointingHandCursor);
+    const auto picture = [this] {
+        return m_card->grab(QRect(m_row->mapTo(m_card.get(), QPoint()), m_row->size())).toImage();
+    };
+    const QPoint empty(240, 4);
+    const QRgb resting = picture().pixel(empty);
+    m_row->setAttribute(Qt::WA_UnderMouse);
+    const QRgb hovered = picture().pixel(empty);
+    QVERIFY(qAbs(qGray(hovered) - qGray(resting)) >= 8);
+    m_row->setAttribute(Qt::WA_UnderMouse, false);
+
+    QTest::mouseClick(m_row, Qt::LeftButton);
+    QVERIFY(m_row->isSelected());
+    const QImage picked = picture();
+    const QRgb ground = picked.pixel(empty);
+    QVERIFY(qBlue(ground) - qRed(ground) >= qBlue(resting) - qRed(resting) + 15);
+    const double edge = PaintedContrast::between(picked.pixel(165, 0), resting);
+    QVERIFY2(edge >= 3, qPrintable(QString::number(edge)));
+    const double text = PaintedContrast::ofText(picked.copy(10, 10, 60, 20));
+    QVERIFY2(text >= 4.5, qPrintable(QString::number(text)));
+    QTest::mouseClick(m_row, Qt::LeftButton);
+    QCOMPARE(picture().pixel(empty), resting);
 }
 
 void TestTiTleItem::itIsACheckBoxToAssistiveTools()

@@ -11,7 +11,6 @@
 
 namespace {
 constexpr int Width = 200;
-constexpr int GroundPadding = 2;
 } // namespace
 
 CardFooter::CardFooter(int count, QWidget *parent)
@@ -28,11 +27,12 @@ CardFooter::CardFooter(int count, QWidget *parent)
 
 void CardFooter::paintEvent(QPaintEvent *event)
 {
-    QRect ground = rect();
-    ground.setWidth(qMin(width(), fontMetrics().horizontalAdvance(text()) + 2 * GroundPadding));
-    ground.moveCenter(rect().center());
-    QPainter painter(this);
-    CardTheme::paintLegibleGround(painter, ground, CardTheme::footer());
-    painter.end();
-    LCommandLinkButton::paintEvent(event);
+    const int coats = CardTheme::coatsOnChip(CardTheme::footer());
+    if (coats > 0) {
+        QPainter painter(this);
+        CardTheme::paintChip(painter, rect());
+    }
+    for (int coat = 0; coat < qMax(1, coats); ++coat) {
+        LCommandLinkButton::paintEvent(event);
+    }
 }

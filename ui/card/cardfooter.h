@@ -6,7 +6,7 @@
 #include <lumo/lcommandlinkbutton.h>
 
 /// The link below a list of conferences that leads to all of them. Its colour is the same in both themes; in
-/// the dark one it gets a ground on which it can be read.
+/// the dark one it stands on a chip.
 class CardFooter final : public LCommandLinkButton
 {
     Q_OBJECT

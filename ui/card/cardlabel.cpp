@@ -16,6 +16,7 @@ namespace {
 /// More than a line of the widest row has room for.
 constexpr int WidestHint = 260;
 constexpr QChar Dots(0x2026);
+constexpr QMargins ChipPadding(8, 1, 8, 1);
 
 } // namespace
 
@@ -114,12 +115,24 @@ ColoredCardLabel::ColoredCardLabel(const QString &text, const QColor &color, QWi
     QPalette colored = palette();
     colored.setBrush(QPalette::All, QPalette::WindowText, color);
     setPalette(colored);
+    CardTheme::follow(this, [this] { followTheme(); });
+    followTheme();
+}
+
+void ColoredCardLabel::followTheme()
+{
+    m_coats = CardTheme::coatsOnChip(palette().color(foregroundRole()));
+    setContentsMargins(m_coats > 0 ? ChipPadding : QMargins());
+    update();
 }
 
 void ColoredCardLabel::paintEvent(QPaintEvent *event)
 {
-    QPainter painter(this);
-    CardTheme::paintLegibleGround(painter, rect(), palette().color(foregroundRole()));
-    painter.end();
-    CardLabel::paintEvent(event);
+    if (m_coats > 0) {
+        QPainter painter(this);
+        CardTheme::paintChip(painter, rect());
+    }
+    for (int coat = 0; coat < qMax(1, m_coats); ++coat) {
+        CardLabel::paintEvent(event);
+    }
 }

@@ -39,7 +39,7 @@ private:
     bool m_elides = true;
 };
 
-/// A label whose colour does not follow the theme; in the dark one it gets a ground on which it can be read.
+/// A label whose colour does not follow the theme; in the dark one it stands on a chip if it needs one.
 class ColoredCardLabel final : public CardLabel
 {
     Q_OBJECT
@@ -49,4 +49,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    void followTheme();
+
+    int m_coats = 0; ///< 0 without a chip
 };

@@ -13,7 +13,10 @@ namespace {
 
 constexpr auto AlphaProperty = "cardTextAlpha";
 
-constexpr qreal LegibleGroundRadius = 4;
+constexpr int ChipGray = 200;
+/// How much of the chip may be seen through a text on it.
+constexpr qreal MostSeenThroughText = 0.25;
+constexpr int MostCoats = 5;
 /// Below this brightness, of 255, a text is lost on a dark ground.
 constexpr int DarkestOnDark = 64;
 
@@ -73,15 +76,25 @@ QColor CardTheme::rowGround()
     return isDark() ? QColor(255, 255, 255, 20) : panelGround();
 }
 
-void CardTheme::paintLegibleGround(QPainter &painter, const QRect &rect, const QColor &text)
+int CardTheme::coatsOnChip(const QColor &text)
 {
     if (!isDark() || qGray(text.rgb()) >= DarkestOnDark) {
-        return;
+        return 0;
     }
+    int coats = 1;
+    for (qreal seen = 1 - text.alphaF(); seen > MostSeenThroughText && coats < MostCoats; ++coats) {
+        seen *= 1 - text.alphaF();
+    }
+    return coats;
+}
+
+void CardTheme::paintChip(QPainter &painter, const QRect &rect)
+{
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(247, 247, 247, 180));
-    painter.drawRoundedRect(rect, LegibleGroundRadius, LegibleGroundRadius);
+    painter.setBrush(QColor(ChipGray, ChipGray, ChipGray));
+    const qreal radius = rect.height() / 2.0;
+    painter.drawRoundedRect(rect, radius, radius);
     painter.restore();
 }

@@ -30,7 +30,8 @@ void follow(Object *object, Slot slot)
 constexpr int TitleAlpha = 102;
 constexpr int CaptionAlpha = 153;
 constexpr int ValueAlpha = 178;
-constexpr int LineAlpha = 26; ///< the line between two parts of a card
+constexpr int HoverAlpha = 15; ///< what lies over a row under the mouse
+constexpr int LineAlpha = 26;  ///< the line between two parts of a card
 
 /// Black in the light theme, white otherwise, with @p alpha from 0 to 255.
 QColor text(int alpha);
@@ -62,6 +63,11 @@ inline QColor focus()
 {
     return {0, 129, 255};
 }
+/// Over the ground of a row that was picked.
+inline QColor pickedGround()
+{
+    return {0, 129, 255, 36};
+}
 inline QColor notStarted()
 {
     return {0, 129, 255};
@@ -79,8 +85,11 @@ inline QColor footer()
     return {0, 0, 0, 102};
 }
 
-/// Paints a light ground into @p rect when the theme is dark and @p text, a colour that does not follow it,
-/// could not be read there. Otherwise paints nothing.
-void paintLegibleGround(QPainter &painter, const QRect &rect, const QColor &text);
+/// How often @p text, a colour that does not follow the theme, is painted over a chip until it can be read
+/// there. 0 where it needs no chip: on the light theme and for bright colours.
+int coatsOnChip(const QColor &text);
+
+/// Fills @p rect with the light, round ground of a text that the dark theme would hide.
+void paintChip(QPainter &painter, const QRect &rect);
 
 } // namespace CardTheme

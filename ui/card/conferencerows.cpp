@@ -5,6 +5,7 @@
 
 #include "card/cardicons.h"
 #include "card/cardlabel.h"
+#include "card/cardline.h"
 #include "card/cardmeasures.h"
 #include "card/cardtext.h"
 #include "card/cardtheme.h"
@@ -167,16 +168,7 @@ ConferenceRows::CaptionedRow ConferenceRows::captioned(const QString &caption, Q
 
 QPushButton *ConferenceRows::line(QWidget *parent)
 {
-    auto *line = new QPushButton(parent);
-    line->setFlat(true);
-    line->setFocusPolicy(Qt::NoFocus);
-    line->setAttribute(Qt::WA_TransparentForMouseEvents);
-    line->setAccessibleName(QStringLiteral("分隔线"));
-    // A flat button shows nothing of its own.
-    line->setAutoFillBackground(true);
-    line->setBackgroundRole(QPalette::WindowText);
-    CardTheme::setText(*line, CardTheme::LineAlpha);
-    return line;
+    return new CardLine(parent);
 }
 
 QPushButton *ConferenceRows::separator(QWidget *parent)

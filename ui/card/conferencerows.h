@@ -33,7 +33,7 @@ struct CaptionedRow
 };
 CaptionedRow captioned(const QString &caption, QWidget *parent);
 
-/// A separator; implemented as an inert button because callers expect one.
+/// A separator of any direction.
 QPushButton *line(QWidget *parent);
 /// A horizontal separator between two rows of a card.
 QPushButton *separator(QWidget *parent);

@@ -18,6 +18,11 @@ public:
     explicit TiTleItemAccessible(TiTleItem *item);
 
     [[nodiscard]] QAccessible::State state() const override;
+    // The row tells what stands on it by its name and its description, and its mark by its state: nothing
+    // of it is to be found a second time below it.
+    [[nodiscard]] int childCount() const override { return 0; }
+    [[nodiscard]] QAccessibleInterface *child(int /*index*/) const override { return nullptr; }
+    [[nodiscard]] int indexOfChild(const QAccessibleInterface * /*child*/) const override { return -1; }
     [[nodiscard]] QStringList actionNames() const override;
     void doAction(const QString &actionName) override;
 

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QColor>
+#include <QHash>
+#include <QImage>
+
+#include <cmath>
+
+/// Contrast as the Web Content Accessibility Guidelines define it, from 1 to 21, of what was really painted.
+namespace PaintedContrast {
+
+inline double luminance(QRgb color)
+{
+    const auto linear = [](int channel) {
+        const double value = channel / 255.0;
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
+}
+
+inline double between(QRgb one, QRgb other)
+{
+    const double a = luminance(one) + 0.05;
+    const double b = luminance(other) + 0.05;
+    return a > b ? a / b : b / a;
+}
+
+/// The most frequent colour of @p image.
+inline QRgb ground(const QImage &image)
+{
+    QHash<QRgb, int> counts;
+    QRgb most = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb color = image.pixel(x, y);
+            if (++counts[color] > counts.value(most)) {
+                most = color;
+            }
+        }
+    }
+    return most;
+}
+
+/// How far the strongest stroke in @p image stands out from its ground.
+inline double ofText(const QImage &image)
+{
+    const QRgb behind = ground(image);
+    double best = 1;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            best = qMax(best, between(image.pixel(x, y), behind));
+        }
+    }
+    return best;
+}
+
+} // namespace PaintedContrast

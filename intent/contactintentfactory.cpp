@@ -3,13 +3,7 @@
 
 #include "contactintentfactory.h"
 
-#include "addbuddyintent.h"
-#include "closeconferenceintent.h"
-#include "createconferenceintent.h"
-#include "inviteconferenceintent.h"
-#include "joinconferenceintent.h"
-#include "joinmyconferenceintent.h"
-#include "queryconferenceintent.h"
+#include "contactintents.h"
 
 ContactIntentFactory *ContactIntentFactory::instance()
 {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "inviteconferenceintent.h"
+#include "contactintents.h"
 
 #include "conferencecardinterface.h"
 #include "contactutils.h"

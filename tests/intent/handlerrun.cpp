@@ -11,12 +11,13 @@
 
 namespace {
 
-Expected withCard(int code, const char *text, Expected::CardOrder order, int card)
+Expected withCard(int code, const char *text, Expected::CardOrder order, int card, const char *conferences)
 {
     Expected expected = texts(code, text);
     expected.type = 11;
     expected.order = order;
     expected.card = card;
+    expected.conferences = QString::fromLatin1(conferences);
     return expected;
 }
 
@@ -36,6 +37,19 @@ public:
 
     QVector<Announcement> list;
 };
+
+QString conferencesOf(const QVariant &payload)
+{
+    const QVector<ContactDetailMsg> conferences =
+        payload.userType() == qMetaTypeId<ContactCreatedConferenceDetail>()
+            ? payload.value<ContactCreatedConferenceDetail>().conferences
+            : payload.value<ContactQueryConferenceDetail>().conferences;
+    QStringList ids;
+    for (const ContactDetailMsg &conference : conferences) {
+        ids.append(conference.confId);
+    }
+    return ids.join(QLatin1Char(' '));
+}
 
 void reply(HandlerRun &run, const CloudIntent &intent)
 {
@@ -131,19 +145,19 @@ Expected textsThenList(int code, const char *text)
     return expected;
 }
 
-Expected cardBefore(int code, const char *text, int card)
+Expected cardBefore(int code, const char *text, int card, const char *conferences)
 {
-    return withCard(code, text, Expected::CardBeforeText, card);
+    return withCard(code, text, Expected::CardBeforeText, card, conferences);
 }
 
-Expected cardAfter(int code, const char *text, int card)
+Expected cardAfter(int code, const char *text, int card, const char *conferences)
 {
-    return withCard(code, text, Expected::CardAfterText, card);
+    return withCard(code, text, Expected::CardAfterText, card, conferences);
 }
 
-Expected cardAddedToTexts(int code, const char *text, int card)
+Expected cardAddedToTexts(int code, const char *text, int card, const char *conferences)
 {
-    return withCard(code, text, Expected::CardAddedToTexts, card);
+    return withCard(code, text, Expected::CardAddedToTexts, card, conferences);
 }
 
 Expected untouched()
@@ -173,6 +187,7 @@ void compareRun(const HandlerRun &run, const Expected &expected)
     const Announcement &card = run.cards.first();
     QCOMPARE(card.action, expected.card);
     QCOMPARE(card.reply, run.handler->getReply());
+    QCOMPARE(conferencesOf(card.payload), expected.conferences);
     const bool textCameFirst = card.textThen == expected.text;
     QCOMPARE(textCameFirst, expected.order != Expected::CardBeforeText);
     const int typeThen = expected.order == Expected::CardAfterText      ? 11

@@ -79,16 +79,17 @@ struct Expected
     int type = 0;
     CardOrder order = NoCard;
     int card = -1;
+    QString conferences; ///< the ids of those that the card carries, separated by blanks
     bool opensList = false;
 };
 Q_DECLARE_METATYPE(Expected)
 
 Expected texts(int code, const char *text);
 Expected textsThenList(int code, const char *text);
-Expected cardBefore(int code, const char *text, int card);
-Expected cardAfter(int code, const char *text, int card);
+Expected cardBefore(int code, const char *text, int card, const char *conferences = "");
+Expected cardAfter(int code, const char *text, int card, const char *conferences = "");
 /// After texts that do not announce it.
-Expected cardAddedToTexts(int code, const char *text, int card);
+Expected cardAddedToTexts(int code, const char *text, int card, const char *conferences = "");
 /// The reply as the constructor made it.
 Expected untouched();
 

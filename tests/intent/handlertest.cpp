@@ -17,7 +17,7 @@ const char CallFailed[] = "已尝试执行，但操作失败，请稍后重试�
 
 QVector<HandlerTest::Outcome> HandlerTest::allOutcomes() const
 {
-    return outcomes() +
+    return m_subject.outcomes +
            QVector<Outcome>{
                {"not logged in", answers("{'ret':'User Not Login'}"), texts(-16017, "已为您打开联系人。")},
                {"timed out", callFails(-16020), texts(-16020, "抱歉，请求响应超时。")},
@@ -37,21 +37,12 @@ HandlerRun HandlerTest::runWith(const Script &script, const char *slotArray) con
                       script);
 }
 
-void HandlerTest::compareMissingSlot(const char *slotArray, const char *file, const char *text,
-                                     const char *function) const
-{
-    const HandlerRun without = runWith(answers("{'ret':'OK'}"), slotArray);
-    compareRun(without, texts(-102, CallFailed));
-    QVERIFY(without.requests.isEmpty());
-    compareRecords(*m_log, file, {{QtCriticalMsg, QString::fromUtf8(text), QString::fromLatin1(function)}});
-}
-
 void HandlerTest::eachOutcomeHasItsReply_data()
 {
     QTest::addColumn<QByteArray>("slotArray");
     QTest::addColumn<Script>("script");
     QTest::addColumn<Expected>("expected");
-    QVERIFY2(!outcomes().isEmpty(), "a handler has outcomes");
+    QVERIFY2(!m_subject.outcomes.isEmpty(), "a handler has outcomes");
     for (const Outcome &outcome : allOutcomes()) {
         const char *slotArray = outcome.slotArray == nullptr ? m_subject.usualSlots : outcome.slotArray;
         QTest::newRow(outcome.name) << QByteArray(slotArray) << outcome.script << outcome.expected;
@@ -92,8 +83,8 @@ void HandlerTest::requestHoldsWhatWasSaid_data()
 {
     QTest::addColumn<QByteArray>("slotArray");
     QTest::addColumn<QString>("parameters");
-    QVERIFY2(!requests().isEmpty(), "a handler sends something");
-    for (const Request &request : requests()) {
+    QVERIFY2(!m_subject.requests.isEmpty(), "a handler sends something");
+    for (const Request &request : m_subject.requests) {
         QTest::newRow(request.name) << QByteArray(request.slotArray) << QString::fromUtf8(request.parameters);
     }
 }
@@ -108,8 +99,22 @@ void HandlerTest::requestHoldsWhatWasSaid()
     QCOMPARE(sent.requests.last().parameters, parameters);
 }
 
+void HandlerTest::withoutItsSlotNothingIsSent()
+{
+    const RequiredSlot &slot = m_subject.requiredSlot;
+    if (slot.others == nullptr) {
+        QVERIFY2(!runWith(m_subject.accepted, "[]").requests.isEmpty(), "a request needs no slot");
+        return;
+    }
+    const HandlerRun without = runWith(m_subject.accepted, slot.others);
+    compareRun(without, texts(-102, CallFailed));
+    QVERIFY(without.requests.isEmpty());
+    compareRecords(*m_log, slot.file,
+                   {{QtCriticalMsg, QString::fromUtf8(slot.record), QString::fromLatin1(slot.function)}});
+}
+
 void HandlerTest::subclassReplacesTheWorker()
 {
-    const std::unique_ptr<IBusinessIntent> handler(m_subject.makeReplaced());
-    QCOMPARE(handler->action(intentWith()), 77);
+    const std::unique_ptr<IBusinessIntent> handler(m_subject.makeOtherWorker());
+    QCOMPARE(handler->action(intentWith()), OtherCode);
 }

@@ -6,39 +6,45 @@
 #include "handlerrun.h"
 #include "logcapture.h"
 
+#include <QCoreApplication>
 #include <QObject>
+#include <QTest>
 
 #include <memory>
 
+/// Derives OtherWorker from @p Handler: its @p worker returns HandlerTest::OtherCode.
+#define HANDLER_WITH_OTHER_WORKER(Handler, worker)                                                           \
+    class OtherWorker : public Handler                                                                       \
+    {                                                                                                        \
+    public:                                                                                                  \
+        using Handler::Handler;                                                                              \
+        int worker(const CloudIntent &) override                                                             \
+        {                                                                                                    \
+            return HandlerTest::OtherCode;                                                                   \
+        }                                                                                                    \
+    };
+
+/// The main function of a test that needs no more than HandlerTest.
+#define HANDLER_TEST_MAIN(subject)                                                                           \
+    int main(int argc, char *argv[])                                                                         \
+    {                                                                                                        \
+        QCoreApplication application(argc, argv);                                                            \
+        HandlerTest test(subject);                                                                           \
+        return QTest::qExec(&test, argc, argv);                                                              \
+    }
+
 /**
- * The test of one handler: derive from it and list the handler's outcomes and requests. What all handlers
- * answer alike is tested here, and so is that a code without a row in outcomes() leaves the reply alone.
+ * Tests a handler against its tables of outcomes and requests, and what all handlers have in common; a code
+ * without an outcome must leave the reply alone. Derive from it to add tests of one handler.
  */
 class HandlerTest : public QObject
 {
     Q_OBJECT
 
 public:
-    using Maker = IReplyableIntent *(*)();
+    static constexpr int OtherCode = 77;
 
-    /// Makes a handler, as the factory does.
-    template <typename Handler>
-    static IReplyableIntent *make()
-    {
-        return new Handler(nullptr);
-    }
-
-protected:
-    struct Subject
-    {
-        Maker make;
-        Maker makeReplaced;     ///< a subclass whose worker returns 77
-        const char *action;     ///< the last one that it asks of the contacts application
-        const char *usualSlots; ///< enough for a request, in the form that intentWith() takes
-        Script accepted = answers("{'ret':'OK'}"); ///< one answer to each request
-    };
-
-    /// What is said if the application does as @ref script tells.
+    /// The reply expected when the application does as @ref script says.
     struct Outcome
     {
         const char *name;
@@ -47,7 +53,7 @@ protected:
         const char *slotArray = nullptr; ///< null: the usual ones
     };
 
-    /// The parameters of the last request, for what was said.
+    /// The parameters of the last request made for these slots.
     struct Request
     {
         const char *name;
@@ -55,18 +61,39 @@ protected:
         const char *parameters;
     };
 
+    /// The slot without which the handler sends nothing.
+    struct RequiredSlot
+    {
+        const char *others;   ///< slots that do not make up for it
+        const char *file;     ///< that logs what is missing
+        const char *record;   ///< the text that it logs
+        const char *function; ///< the whole signature
+    };
+
+    struct Subject
+    {
+        IReplyableIntent *(*make)();
+        IReplyableIntent *(*makeOtherWorker)();
+        const char *action;     ///< of the last request
+        const char *usualSlots; ///< enough for a request, in the form that intentWith() takes
+        QVector<Outcome> outcomes = {};
+        QVector<Request> requests = {};
+        RequiredSlot requiredSlot = {};            ///< empty if the handler does without slots
+        Script accepted = answers("{'ret':'OK'}"); ///< one answer to each request
+    };
+
+    /// The tables are still to be filled in. For @p OtherWorker see HANDLER_WITH_OTHER_WORKER.
+    template <typename Handler, typename OtherWorker>
+    static Subject subjectOf(const char *action, const char *usualSlots = "[]")
+    {
+        return {make<Handler>, make<OtherWorker>, action, usualSlots};
+    }
+
     explicit HandlerTest(const Subject &subject) : m_subject(subject) {}
 
-    [[nodiscard]] virtual QVector<Outcome> outcomes() const = 0;
-    [[nodiscard]] virtual QVector<Request> requests() const = 0;
-
+protected:
     /// Runs the handler; the usual slots stand in for a null @p slotArray.
     HandlerRun runWith(const Script &script, const char *slotArray = nullptr) const;
-
-    /// Fails unless, without the slot it needs, the handler sends nothing and writes the critical record @p
-    /// text.
-    void compareMissingSlot(const char *slotArray, const char *file, const char *text,
-                            const char *function) const;
 
     LogCapture &log() { return *m_log; }
 
@@ -80,9 +107,17 @@ private Q_SLOTS:
     void eachOtherCodeLeavesTheReply();
     void requestHoldsWhatWasSaid_data();
     void requestHoldsWhatWasSaid();
+    void withoutItsSlotNothingIsSent();
     void subclassReplacesTheWorker();
 
 private:
+    /// Makes a handler, as the factory does.
+    template <typename Handler>
+    static IReplyableIntent *make()
+    {
+        return new Handler(nullptr);
+    }
+
     [[nodiscard]] QVector<Outcome> allOutcomes() const;
 
     Subject m_subject;

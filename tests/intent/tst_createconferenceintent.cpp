@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "createconferenceintent.h"
+#include "contactintents.h"
 
 #include "conferencerecords.h"
 #include "handlertest.h"
@@ -16,7 +16,6 @@
 namespace {
 
 // The clock stands at 2026-03-07 10:20, see the test's CMake line.
-const char NoSlots[] = "[]";
 const char Scheduled[] =
     "[{'name':'datetime','value':'{\\\"suggestDatetime\\\":\\\"2026-03-08T10:00:00\\\"}'}]";
 const char VerbStart[] = "[{'name':'open','value':'开始'}]";
@@ -50,50 +49,23 @@ ContactCreatedConferenceDetail recordOf(const Announcement &card)
     return card.payload.value<ContactCreatedConferenceDetail>();
 }
 
-class Replaced : public CreateConferenceIntent
+HANDLER_WITH_OTHER_WORKER(CreateConferenceIntent, handleCreateVideoMeeting)
+
+HandlerTest::Subject subject()
 {
-public:
-    using CreateConferenceIntent::CreateConferenceIntent;
-    int handleCreateVideoMeeting(const CloudIntent & /*intent*/) override { return 77; }
-};
-
-} // namespace
-
-class TestCreateConferenceIntent : public HandlerTest
-{
-    Q_OBJECT
-
-public:
-    TestCreateConferenceIntent()
-        : HandlerTest({make<CreateConferenceIntent>, make<Replaced>, "Create Conference", NoSlots})
-    {
-    }
-
-protected:
-    [[nodiscard]] QVector<Outcome> outcomes() const override;
-    [[nodiscard]] QVector<Request> requests() const override;
-
-private Q_SLOTS:
-    void pastOrUnreadableTimeSendsNothing_data();
-    void pastOrUnreadableTimeSendsNothing();
-    void cardCarriesTheRecord();
-    void recordsOfARun();
-};
-
-QVector<HandlerTest::Outcome> TestCreateConferenceIntent::outcomes() const
-{
-    return {
+    auto subject = HandlerTest::subjectOf<CreateConferenceIntent, OtherWorker>("Create Conference");
+    subject.outcomes = {
         {"created at once, no verb said", answers("{'ret':'OK'}"), texts(0, "好的，现在为您发起视频会议。")},
         {"created at once, with the verb that was said", answers("{'ret':'OK'}"),
          texts(0, "好的，现在为您开始视频会议。"), VerbStart},
         {"created at once, the answer's list does not matter",
          answers("{'ret':'OK','list':[{'confId':'c1'}]}"), texts(0, "好的，现在为您发起视频会议。")},
         {"booked, and the answer shows it", answers("{'ret':'OK','list':[{'confId':'c1'}]}"),
-         cardBefore(0, "好的，为您预约如下。", Create_Success), Scheduled},
+         cardBefore(0, "好的，为您预约如下。", Create_Success, "c1"), Scheduled},
         {"booked, and the answer shows nothing", answers("{'ret':'OK','list':[]}"),
          texts(0, "好的，已成功为您预约。"), Scheduled},
         {"two names not found, booked", answers(TwoMissing),
-         cardBefore(-16002, "已为您预约视频会议，未找到甲、乙。", Create_Success), Scheduled},
+         cardBefore(-16002, "已为您预约视频会议，未找到甲、乙。", Create_Success, "c1"), Scheduled},
         {"two names not found, booked, nothing listed",
          answers("{'ret':'Return','users':[{'name':'甲','status':'Not Found'},{'name':'乙','status':'Not "
                  "Found'}]}"),
@@ -123,7 +95,8 @@ QVector<HandlerTest::Outcome> TestCreateConferenceIntent::outcomes() const
         {"some found, booked but not listed", answers(TwoFoundOneMissing),
          texts(-16004, "好的，已为您发起和张三、李四的视频会议，未找到甲。"), Scheduled},
         {"some found, booked and listed", answers(TwoFoundOneMissingListed),
-         cardBefore(-16004, "好的，已为您预约和张三、李四的视频会议，未找到甲。", Create_Success), Scheduled},
+         cardBefore(-16004, "好的，已为您预约和张三、李四的视频会议，未找到甲。", Create_Success, "c1"),
+         Scheduled},
         {"one found, two missing", answers(OneFoundTwoMissing),
          texts(-16004, "好的，已为您发起和张三的视频会议，未找到甲、乙。")},
         {"names that look like placeholders stay as they are", answers(NamesWithPlaceholders),
@@ -135,7 +108,7 @@ QVector<HandlerTest::Outcome> TestCreateConferenceIntent::outcomes() const
         {"members' limit, started, no verb said", answers("{'ret':'Exceed Members Limit'}"),
          texts(-16006, "已为您发起视频会议，会议人数已达上限。")},
         {"overlap that is listed", answers("{'ret':'Time Overlap','list':[{'confId':'c1'}]}"),
-         cardAfter(-16008, "您已有重复时间会议。", Create_TimeOverlap), Scheduled},
+         cardAfter(-16008, "您已有重复时间会议。", Create_TimeOverlap, "c1"), Scheduled},
         {"overlap that is not listed", answers("{'ret':'Time Overlap','list':[]}"),
          texts(-16008, "您已有重复时间会议。"), Scheduled},
         {"a time that is past", answers("{'ret':'OK'}"), texts(-16012, "抱歉，无法为您预约过去的视频会议。"),
@@ -147,12 +120,8 @@ QVector<HandlerTest::Outcome> TestCreateConferenceIntent::outcomes() const
         {"unknown outcome word", answers("{'ret':'Perhaps'}"), untouched()},
         {"no conference", answers("{'ret':'Conference Not Start'}"), untouched()},
     };
-}
-
-QVector<HandlerTest::Request> TestCreateConferenceIntent::requests() const
-{
-    return {
-        {"nobody, now", NoSlots, R"({"members":[]})"},
+    subject.requests = {
+        {"nobody, now", "[]", R"({"members":[]})"},
         {"two people, now", "[{'name':'name','value':'张三'},{'name':'name','value':'李四'}]",
          R"({"members":[{"name":"张三","userId":""},{"name":"李四","userId":""}]})"},
         {"the normal form goes before what was said", "[{'name':'name','value':'老张','normValue':'张三'}]",
@@ -169,7 +138,24 @@ QVector<HandlerTest::Request> TestCreateConferenceIntent::requests() const
          R"({"members":[],"startTime":1772935200000})"},
         {"a time slot without text means now", "[{'name':'datetime'}]", R"({"members":[]})"},
     };
+    return subject;
 }
+
+} // namespace
+
+class TestCreateConferenceIntent : public HandlerTest
+{
+    Q_OBJECT
+
+public:
+    TestCreateConferenceIntent() : HandlerTest(subject()) {}
+
+private Q_SLOTS:
+    void pastOrUnreadableTimeSendsNothing_data();
+    void pastOrUnreadableTimeSendsNothing();
+    void cardCarriesTheRecord();
+    void recordsOfARun();
+};
 
 void TestCreateConferenceIntent::pastOrUnreadableTimeSendsNothing_data()
 {

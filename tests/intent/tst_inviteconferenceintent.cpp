@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "inviteconferenceintent.h"
+#include "contactintents.h"
 
 #include "conferencerecords.h"
 #include "handlertest.h"
@@ -19,38 +19,12 @@ ContactInviteMemberDetail recordOf(const Announcement &card)
     return card.payload.value<ContactInviteMemberDetail>();
 }
 
-class Replaced : public InviteConferenceIntent
+HANDLER_WITH_OTHER_WORKER(InviteConferenceIntent, handleInviteConference)
+
+HandlerTest::Subject subject()
 {
-public:
-    using InviteConferenceIntent::InviteConferenceIntent;
-    int handleInviteConference(const CloudIntent & /*intent*/) override { return 77; }
-};
-
-} // namespace
-
-class TestInviteConferenceIntent : public HandlerTest
-{
-    Q_OBJECT
-
-public:
-    TestInviteConferenceIntent()
-        : HandlerTest({make<InviteConferenceIntent>, make<Replaced>, "Invite Members", Somebody})
-    {
-    }
-
-protected:
-    [[nodiscard]] QVector<Outcome> outcomes() const override;
-    [[nodiscard]] QVector<Request> requests() const override;
-
-private Q_SLOTS:
-    void withoutANameNothingIsSent();
-    void cardCarriesTheRecord();
-    void someNotFoundIsLogged();
-};
-
-QVector<HandlerTest::Outcome> TestInviteConferenceIntent::outcomes() const
-{
-    return {
+    auto subject = HandlerTest::subjectOf<InviteConferenceIntent, OtherWorker>("Invite Members", Somebody);
+    subject.outcomes = {
         {"invited", answers("{'ret':'OK'}"), texts(0, "好的，已为您发出邀请。")},
         {"everyone was found", answers("{'ret':'Return','users':[{'name':'张三','status':'OK'}]}"),
          texts(0, "好的，已为您发出邀请。")},
@@ -89,11 +63,7 @@ QVector<HandlerTest::Outcome> TestInviteConferenceIntent::outcomes() const
         {"too frequent", answers("{'ret':'Conference Create Too Frequently'}"), untouched()},
         {"unknown outcome word", answers("{'ret':'Perhaps'}"), untouched()},
     };
-}
-
-QVector<HandlerTest::Request> TestInviteConferenceIntent::requests() const
-{
-    return {
+    subject.requests = {
         {"one", Somebody, R"({"members":[{"name":"张三","userId":""}]})"},
         {"two in the order said",
          "[{'name':'name','value':'李四'},{'name':'open','value':'拉'},{'name':'name','value':'张三'}]",
@@ -104,14 +74,25 @@ QVector<HandlerTest::Request> TestInviteConferenceIntent::requests() const
          "[{'name':'name','value':'a'},{'name':'name','value':''},{'name':'name','value':'a'}]",
          R"({"members":[{"name":"a","userId":""}]})"},
     };
+    subject.requiredSlot = {"[{'name':'open','value':'拉'}]", "intent/inviteconferenceintent.cpp",
+                            "Invite Conference must contain slot:  name",
+                            "virtual int InviteConferenceIntent::handleInviteConference(const CloudIntent&)"};
+    return subject;
 }
 
-void TestInviteConferenceIntent::withoutANameNothingIsSent()
+} // namespace
+
+class TestInviteConferenceIntent : public HandlerTest
 {
-    compareMissingSlot("[{'name':'open','value':'拉'}]", "intent/inviteconferenceintent.cpp",
-                       "Invite Conference must contain slot:  name",
-                       "virtual int InviteConferenceIntent::handleInviteConference(const CloudIntent&)");
-}
+    Q_OBJECT
+
+public:
+    TestInviteConferenceIntent() : HandlerTest(subject()) {}
+
+private Q_SLOTS:
+    void cardCarriesTheRecord();
+    void someNotFoundIsLogged();
+};
 
 void TestInviteConferenceIntent::cardCarriesTheRecord()
 {

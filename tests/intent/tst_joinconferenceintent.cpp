@@ -1,46 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "joinconferenceintent.h"
+#include "contactintents.h"
 
 #include "handlertest.h"
-
-#include <QTest>
 
 namespace {
 
 const char UsualSlots[] = "[{'name':'id','value':'4001'}]";
 
-class Replaced : public JoinConferenceIntent
+HANDLER_WITH_OTHER_WORKER(JoinConferenceIntent, handleJoinVideoMeeting)
+
+HandlerTest::Subject subject()
 {
-public:
-    using JoinConferenceIntent::JoinConferenceIntent;
-    int handleJoinVideoMeeting(const CloudIntent & /*intent*/) override { return 77; }
-};
-
-} // namespace
-
-class TestJoinConferenceIntent : public HandlerTest
-{
-    Q_OBJECT
-
-public:
-    TestJoinConferenceIntent()
-        : HandlerTest({make<JoinConferenceIntent>, make<Replaced>, "Join Conference", UsualSlots})
-    {
-    }
-
-protected:
-    [[nodiscard]] QVector<Outcome> outcomes() const override;
-    [[nodiscard]] QVector<Request> requests() const override;
-
-private Q_SLOTS:
-    void withoutTheSlotNothingIsSent();
-};
-
-QVector<HandlerTest::Outcome> TestJoinConferenceIntent::outcomes() const
-{
-    return {
+    auto subject = HandlerTest::subjectOf<JoinConferenceIntent, OtherWorker>("Join Conference", UsualSlots);
+    subject.outcomes = {
         {"joined", answers("{'ret':'OK'}"), texts(0, "好的，您已成功加入会议。")},
         {"not started", answers("{'ret':'Conference Not Start'}"), texts(-16005, "会议还未开始。")},
         {"unknown outcome word counts as not started", answers("{'ret':'Perhaps'}"),
@@ -52,11 +26,7 @@ QVector<HandlerTest::Outcome> TestJoinConferenceIntent::outcomes() const
         {"full", answers("{'ret':'Participant Out Limit'}"), texts(-16021, "会议人数已满。")},
         {"several conferences", answers("{'ret':'Time Overlap'}"), untouched()},
     };
-}
-
-QVector<HandlerTest::Request> TestJoinConferenceIntent::requests() const
-{
-    return {
+    subject.requests = {
         {"number alone", UsualSlots, R"({"conferenceId":"4001","password":""})"},
         {"number and password", "[{'name':'password','value':'12'},{'name':'id','value':'4001'}]",
          R"({"conferenceId":"4001","password":"12"})"},
@@ -70,15 +40,12 @@ QVector<HandlerTest::Request> TestJoinConferenceIntent::requests() const
          "password','value':'4'}]",
          R"({"conferenceId":"1","password":"3"})"},
     };
+    subject.requiredSlot = {"[{'name':'password','value':'1'}]", "intent/joinconferenceintent.cpp",
+                            "Join Conference must contain slot:  id",
+                            "virtual int JoinConferenceIntent::handleJoinVideoMeeting(const CloudIntent&)"};
+    return subject;
 }
 
-void TestJoinConferenceIntent::withoutTheSlotNothingIsSent()
-{
-    compareMissingSlot("[{'name':'password','value':'1'}]", "intent/joinconferenceintent.cpp",
-                       "Join Conference must contain slot:  id",
-                       "virtual int JoinConferenceIntent::handleJoinVideoMeeting(const CloudIntent&)");
-}
+} // namespace
 
-QTEST_GUILESS_MAIN(TestJoinConferenceIntent)
-
-#include "tst_joinconferenceintent.moc"
+HANDLER_TEST_MAIN(subject())

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "queryconferenceintent.h"
+#include "contactintents.h"
 
-#include "conferencerecords.h"
 #include "handlertest.h"
 #include "signalactiontype.h"
 #include "sourcerecords.h"
@@ -14,52 +13,23 @@ namespace {
 
 const char UsualSlots[] = "[{'name':'datetime','value':'{\\\"suggestDatetime\\\":\\\"2026-03-08\\\"}'}]";
 
-class Replaced : public QueryConferenceIntent
+HANDLER_WITH_OTHER_WORKER(QueryConferenceIntent, handleQueryConference)
+
+HandlerTest::Subject subject()
 {
-public:
-    using QueryConferenceIntent::QueryConferenceIntent;
-    int handleQueryConference(const CloudIntent & /*intent*/) override { return 77; }
-};
-
-} // namespace
-
-class TestQueryConferenceIntent : public HandlerTest
-{
-    Q_OBJECT
-
-public:
-    TestQueryConferenceIntent()
-        : HandlerTest({make<QueryConferenceIntent>, make<Replaced>, "Search Conference", UsualSlots})
-    {
-    }
-
-protected:
-    [[nodiscard]] QVector<Outcome> outcomes() const override;
-    [[nodiscard]] QVector<Request> requests() const override;
-
-private Q_SLOTS:
-    void withoutATimeItIsSentAllTheSame();
-    void successWithoutAnyIsAnsweredAsNotFound();
-    void cardCarriesTheRecord();
-};
-
-QVector<HandlerTest::Outcome> TestQueryConferenceIntent::outcomes() const
-{
-    return {
+    auto subject =
+        HandlerTest::subjectOf<QueryConferenceIntent, OtherWorker>("Search Conference", UsualSlots);
+    subject.outcomes = {
         {"found one", answers("{'ret':'OK','list':[{'confId':'c1'}]}"),
-         cardAddedToTexts(0, "以下是您查询的视频会议:", Query_List)},
+         cardAddedToTexts(0, "以下是您查询的视频会议:", Query_List, "c1")},
         {"found two", answers("{'ret':'OK','list':[{'confId':'c1'},{'confId':'c2'}]}"),
-         cardAddedToTexts(0, "以下是您查询的视频会议:", Query_List)},
+         cardAddedToTexts(0, "以下是您查询的视频会议:", Query_List, "c1 c2")},
         {"an empty list counts as not found", answers("{'ret':'OK','list':[]}"),
          texts(-16007, "抱歉，未查询到视频会议。")},
         {"not found", answers("{'ret':'Not Found'}"), texts(-16007, "抱歉，未查询到视频会议。")},
         {"unknown outcome word", answers("{'ret':'Perhaps'}"), untouched()},
     };
-}
-
-QVector<HandlerTest::Request> TestQueryConferenceIntent::requests() const
-{
-    return {
+    subject.requests = {
         {"a day", UsualSlots, R"({"endTime":1772985600000,"startTime":1772899200000})"},
         {"a time",
          "[{'name':'datetime','normValue':'{\\\"suggestDatetime\\\":\\\"2026-03-08T10:00:00\\\"}'}]",
@@ -70,7 +40,22 @@ QVector<HandlerTest::Request> TestQueryConferenceIntent::requests() const
          R"({"endTime":1772985600000,"startTime":1772899200000})"},
         {"no time is everything from now on", "[]", ""},
     };
+    return subject;
 }
+
+} // namespace
+
+class TestQueryConferenceIntent : public HandlerTest
+{
+    Q_OBJECT
+
+public:
+    TestQueryConferenceIntent() : HandlerTest(subject()) {}
+
+private Q_SLOTS:
+    void withoutATimeItIsSentAllTheSame();
+    void successWithoutAnyIsAnsweredAsNotFound();
+};
 
 void TestQueryConferenceIntent::withoutATimeItIsSentAllTheSame()
 {
@@ -87,15 +72,6 @@ void TestQueryConferenceIntent::withoutATimeItIsSentAllTheSame()
 void TestQueryConferenceIntent::successWithoutAnyIsAnsweredAsNotFound()
 {
     compareRun(replyOf(new QueryConferenceIntent(nullptr), 0), texts(0, "抱歉，未查询到视频会议。"));
-}
-
-void TestQueryConferenceIntent::cardCarriesTheRecord()
-{
-    const HandlerRun run = runWith(answers("{'ret':'OK','list':[{'confId':'c1'},{'confId':'c2'}]}"));
-    QCOMPARE(run.cards.size(), 1);
-    const auto record = run.cards.first().payload.value<ContactQueryConferenceDetail>();
-    QCOMPARE(record.conferences.size(), 2);
-    QCOMPARE(record.conferences.first().confId, QStringLiteral("c1"));
 }
 
 QTEST_GUILESS_MAIN(TestQueryConferenceIntent)

@@ -18,7 +18,7 @@ constexpr WordClasses SurroundingWords =
     WordClass::PasswordLabel | WordClass::AccountLabel | WordClass::NameLabel | WordClass::Measure |
     WordClass::Separator | WordClass::Trigger | WordClass::Pull | WordClass::Nobody | WordClass::NameTail |
     WordClass::Title | WordClass::Conference | WordClass::NoPassword | WordClass::Request |
-    WordClass::StrongOpen | WordClass::WeakOpen | WordClass::OpenParticle;
+    WordClass::StrongOpen | WordClass::WeakOpen | WordClass::OpenParticle | WordClass::Repair;
 
 bool isSmallTalkParticle(const Sentence &sentence, const Token &token)
 {
@@ -173,6 +173,20 @@ bool beginsWithGiveUp(const Reading &reading)
     return givesUp;
 }
 
+/// 现在 is no moment of the clock, but it answers when.
+static bool isNow(const Reading &reading)
+{
+    static const QStringList nows = {QStringLiteral("现在"),  QStringLiteral("马上"), QStringLiteral("立刻"),
+                                     QStringLiteral("立即"),  QStringLiteral("这就"), QStringLiteral("即刻"),
+                                     QStringLiteral("这会儿")};
+    const bool said =
+        std::any_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+            return nows.contains(reading.sentence().text().mid(token.position, token.length));
+        });
+    return said && !reading.has(WordClass::Question) &&
+           holdsOnly(reading, [](const Token &) { return false; });
+}
+
 bool takeAnswer(const QString &question, const Reading &reading, const QDateTime &now,
                 const TimeExpression &timeBefore, Outcome &outcome)
 {
@@ -191,6 +205,10 @@ bool takeAnswer(const QString &question, const Reading &reading, const QDateTime
         }
     }
     // Every other question is about the time.
+    if (question == QLatin1String("which-time") && isNow(reading)) {
+        outcome.answer.clear();
+        return true;
+    }
     if (reading.timeSaid().isEmpty() ||
         !holdsOnly(reading, [](const Token &token) { return token.kind == Token::Kind::Time; })) {
         return false;

@@ -46,7 +46,13 @@ void Reading::markNames()
             ++name;
         }
         token.inName = name != m_names.cend() && name->start < token.end();
+        token.inModifier = token.inName && token.end() <= name->position;
     }
+}
+
+bool Reading::hasDoubtfulName() const
+{
+    return std::any_of(m_names.cbegin(), m_names.cend(), [](const FoundName &name) { return name.doubtful; });
 }
 
 bool Reading::isCalledAt(int position) const
@@ -60,7 +66,7 @@ void Reading::collectClasses()
 {
     for (const Token &token : m_tokens) {
         // 关羽 closes nothing.
-        if (!token.inTopic && !(token.inName && token.length == 1)) {
+        if (!token.inTopic && !token.inModifier && !(token.inName && token.length == 1)) {
             m_classes.add(token.classes);
         }
     }
@@ -69,7 +75,7 @@ void Reading::collectClasses()
 void Reading::collectTimes()
 {
     for (const Token &token : m_tokens) {
-        if ((token.kind != Token::Kind::Time && token.time.isEmpty()) || token.inTopic) {
+        if ((token.kind != Token::Kind::Time && token.time.isEmpty()) || token.inTopic || token.inName) {
             continue;
         }
         m_timeSaid += m_sentence.rawPart(token.position, token.length);
@@ -195,7 +201,8 @@ void Reading::collectNumbers()
         const Token &token = m_tokens[at];
         const bool isNumber = token.kind == Token::Kind::Number;
         const bool isPassword = !m_password.isEmpty() && token.position == m_password.position;
-        if ((!isNumber && token.kind != Token::Kind::Latin) || isPassword || token.inTopic) {
+        if ((!isNumber && token.kind != Token::Kind::Latin) || isPassword || token.inTopic ||
+            (isNumber && token.inName)) {
             continue;
         }
         if (m_account.isEmpty()) {
@@ -225,7 +232,9 @@ void Reading::collectOpenVerb()
                                                                                        : 0;
         if (rank > best) {
             best = rank;
-            m_openVerb = part(token.position, token.length, m_sentence.rawPart(token.position, token.length));
+            const bool once = token.length > 1 && m_sentence.text().at(token.end() - 1) == QChar(u'下');
+            const int length = once ? 1 : token.length; // 约 in 约一下
+            m_openVerb = part(token.position, length, m_sentence.rawPart(token.position, length));
         }
     }
     if (best > 0) {

@@ -50,11 +50,15 @@ public:
     /// How many of the times name an hour.
     int clockCount() const { return m_clockCount; }
 
+    bool hasDoubtfulName() const;
     /// True where a name stands that a word calls (叫上), not only mentions.
     bool isCalledAt(int position) const;
 
     /// True for a class of word that stands outside of what the conference is about.
     bool has(WordClass wordClass) const { return m_classes.has(wordClass); }
+    bool hasAny(WordClasses classes) const { return m_classes.intersects(classes); }
+    /// True for a sentence that ends with a question mark.
+    bool isAsked() const { return m_sentence.text().endsWith(QLatin1Char('?')); }
 
 private:
     Said part(int position, int length, const QString &normValue) const;

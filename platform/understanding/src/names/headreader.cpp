@@ -15,7 +15,7 @@ namespace understanding {
 namespace {
 
 constexpr int LongestRole = 4;
-constexpr int LongestHead = 5; // 欧阳工程师
+constexpr int LongestHead = 6; // 欧阳明远律师
 
 /// The words of roles.txt; true for those behind which any two characters are a name.
 const QHash<QString, bool> &roles()
@@ -71,6 +71,32 @@ int modifierLength(const QString &text)
         }
     }
     return start;
+}
+
+int headLength(const QString &name)
+{
+    static const QString verbs = QStringLiteral("去来说吃喝玩打看做写买送聊谈拉约让叫喊呗请找搞问想要进入");
+    for (int at = 2; at < name.size(); ++at) {
+        if (verbs.contains(name.at(at)) && isPersonsName(name.left(at))) {
+            return at;
+        }
+    }
+    return name.size();
+}
+
+bool isLikelyName(const QString &name)
+{
+    constexpr int longestGivenName = 3;
+    static const QString strange =
+        QStringLiteral("去说吃喝打看做写买送聊谈拉让叫喊呗请找搞问想要进入把给是没不了过吗呢吧的");
+    const bool latin =
+        std::any_of(name.cbegin(), name.cend(), [](QChar character) { return character.unicode() < 0x250; });
+    if (latin || name.contains(QChar(u'·')) || isPersonsName(name) || endsWithRole(name)) {
+        return true;
+    }
+    const bool clean =
+        std::none_of(name.cbegin(), name.cend(), [](QChar character) { return strange.contains(character); });
+    return clean && (name.size() <= longestGivenName || looksLikeName(name));
 }
 
 } // namespace understanding

@@ -14,4 +14,11 @@ int modifierLength(const QString &text);
 /// True when @p text ends with a word that describes a person: 高级工程师, 研发部, 美国那边的.
 bool isModifier(const QString &text);
 
+/// How much of @p name is somebody's name: 王磊 of 王磊去打球, 欧阳经理 of 欧阳经理让.
+int headLength(const QString &name);
+
+/// True for what may well be a name: two or three characters that are no verb, a family name with a given
+/// one.
+bool isLikelyName(const QString &name);
+
 } // namespace understanding

@@ -70,8 +70,8 @@ private:
 
     void addKnown(const Token &token, bool called)
     {
-        m_names.push_back(
-            {token.position, token.position, m_raw.mid(token.position, token.length), token.name, called});
+        m_names.push_back({token.position, token.position, m_raw.mid(token.position, token.length),
+                           token.name, called, false});
     }
 
     void addUnknown(int position, const QString &normal, bool called)
@@ -87,7 +87,7 @@ private:
     void addOne(int position, int length, bool called)
     {
         const QString said = m_raw.mid(position, length);
-        m_names.push_back({position, position, said, said, called});
+        m_names.push_back({position, position, said, said, called, false});
     }
 
     /// The name between @p start and @p end, without what surrounds it.
@@ -95,6 +95,9 @@ private:
     {
         const QString chunk = m_text.mid(start, end - start);
         QString name = withoutParticles(chunk);
+        if (name.endsWith(QStringLiteral("的人"))) { // 市场部的人
+            name.chop(2);
+        }
         const int modifier = modifierLength(name);
         name = withoutParticles(name.mid(modifier));
         if (name.size() < 2 || name.size() > LongestName || (mustLookLikeName && !looksLikeName(name))) {
@@ -103,6 +106,9 @@ private:
         if (Lexicon::instance().classesOf(name).has(WordClass::Nobody)) {
             return;
         }
+        const int head = headLength(name);
+        const bool cut = withoutParticles(QStringLiteral("的的") + name.mid(head)).size() > 2;
+        name.truncate(head);
         if (name.size() > 2 && name.at(0) == QChar(u'约') && isPersonsName(name.mid(1))) { // 约约王磊
             name = name.mid(1);
         }
@@ -116,6 +122,9 @@ private:
         if (m_names.size() > before) {
             m_names[before].start = m_modifierStart >= 0 ? m_modifierStart : start;
             m_modifierStart = -1;
+        }
+        for (std::size_t at = before; at < m_names.size(); ++at) {
+            m_names[at].doubtful = cut || !isLikelyName(m_names[at].name);
         }
     }
 
@@ -197,9 +206,23 @@ private:
     {
         bool afterComma = false;
         while (at < m_tokens.size() && !m_tokens[at].inTopic) {
+            const std::size_t behind = m_places.endOfModifier(at);
+            if (behind > at && m_modifierStart < 0) {
+                m_modifierStart = m_tokens[at].position;
+            }
+            at = behind;
             const Token &token = m_tokens[at];
+            const bool someoneFollows =
+                at + 1 < m_tokens.size() &&
+                (m_tokens[at + 1].kind == Token::Kind::Name || m_tokens[at + 1].kind == Token::Kind::Latin ||
+                 m_tokens[at + 1].kind == Token::Kind::Other);
             if (token.kind == Token::Kind::Name) {
                 at = takeKnownName(at);
+            } else if (token.is(WordClass::Title) && token.length > 1 && someoneFollows) { // 董事长王建国
+                m_modifierStart = m_modifierStart < 0 ? token.position : m_modifierStart;
+            } else if (m_places.isPrefixOfLatin(at)) {
+                addOne(token.position, m_tokens[at + 1].end() - token.position, true);
+                ++at;
             } else if (token.kind == Token::Kind::Latin) {
                 at = takeLatinName(at);
             } else if (token.kind == Token::Kind::Other || m_places.isSmallWordInName(at) ||

@@ -17,6 +17,7 @@ struct FoundName
     QString said;               ///< as it was typed
     QString name;               ///< as the contacts spell it
     bool behindTrigger = false; ///< somebody is called, not only mentioned
+    bool doubtful = false;      ///< does not look like a name, or something was left behind it
 };
 
 /// The people of a sentence in their order: known contacts wherever they stand, unknown ones behind the words

@@ -104,6 +104,14 @@ bool isPersonsName(const QString &text)
     if (isSurnameWithTitle(text)) {
         return true;
     }
+    for (const int title : {2, 3}) { // 沈佳宜律师
+        const QString name = text.left(text.size() - title);
+        if (text.size() >= title + 2 && text.size() <= title + LongestFullName && isSurname(name.at(0)) &&
+            (name.size() <= 3 || startsTwoCharacterSurname(name)) &&
+            Lexicon::instance().classesOf(text.right(title)).has(WordClass::Title)) {
+            return true;
+        }
+    }
     if (startsTwoCharacterSurname(text)) {
         return text.size() == 3 || text.size() == 4;
     }

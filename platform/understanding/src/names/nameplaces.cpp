@@ -3,6 +3,9 @@
 
 #include "names/nameplaces.h"
 
+#include "names/headreader.h"
+#include "names/namelook.h"
+
 #include <algorithm>
 
 namespace understanding {
@@ -29,7 +32,49 @@ bool NamePlaces::isPlainBeforeName(std::size_t at) const
 {
     return m_tokens[at].is(WordClass::Plain) && at + 1 < m_tokens.size() &&
            m_tokens[at + 1].kind == Token::Kind::Other &&
-           m_text.at(m_tokens[at + 1].position) == QChar(u'的');
+           (m_text.at(m_tokens[at + 1].position) == QChar(u'的') ||
+            isModifier(m_text.mid(m_tokens[at].position, m_tokens[at].length)));
+}
+
+std::size_t NamePlaces::endOfModifier(std::size_t at) const
+{
+    constexpr std::size_t longest = 5;
+    constexpr WordClasses between = WordClass::Nobody | WordClass::Plain | WordClass::Title |
+                                    WordClass::AccountLabel | WordClass::Mine | WordClass::NameLabel |
+                                    WordClass::IdLabel;
+    for (std::size_t next = at; next < qMin(m_tokens.size(), at + longest); ++next) {
+        const Token &token = m_tokens[next];
+        const bool dayOfMonth = token.kind == Token::Kind::Time && next == at && !token.time.hasClock &&
+                                token.time.day == TimeExpression::Day::DayOfMonth;
+        if (token.inTopic || (next > at && token.position != m_tokens[next - 1].end())) {
+            return at;
+        }
+        if (token.kind == Token::Kind::Other) {
+            const int end = m_tokens[lastOfRun(next, next + 3)].end(); // 柴进 is a character and a word
+            const QString text = m_text.mid(token.position, end - token.position);
+            const int of = text.indexOf(QChar(u'的'));
+            const QString head = withoutParticles(text.mid(of + 1));
+            const bool afterDay = next > at && m_tokens[next - 1].kind == Token::Kind::Time;
+            if (of >= 0 && next > at && !(afterDay && of == 0) && looksLikeName(head)) {
+                return next;
+            }
+            if (of >= 0) {
+                return at;
+            }
+        } else if (!dayOfMonth && token.kind != Token::Kind::Number && token.kind != Token::Kind::Latin &&
+                   !token.isAny(between)) {
+            return at;
+        }
+    }
+    return at;
+}
+
+bool NamePlaces::isPrefixOfLatin(std::size_t at) const
+{
+    static const QString prefixes = QStringLiteral("小老阿大");
+    return at + 1 < m_tokens.size() && m_tokens[at].length == 1 &&
+           prefixes.contains(m_text.at(m_tokens[at].position)) &&
+           m_tokens[at + 1].kind == Token::Kind::Latin && m_tokens[at + 1].position == m_tokens[at].end();
 }
 
 bool NamePlaces::isNumberBeforeName(std::size_t at) const
@@ -55,7 +100,8 @@ bool NamePlaces::isSmallWordInName(std::size_t at) const
     constexpr WordClasses hard = WordClass::Separator | WordClass::WeakOpen | WordClass::Conference |
                                  WordClass::Punctuation | WordClass::Nobody;
     const bool measure = m_text.at(token.position) == QChar(u'个'); // in no name, and in 约个时间
-    return token.kind == Token::Kind::Word && token.length == 1 && !token.isAny(hard) && !measure;
+    return token.kind == Token::Kind::Word && token.length == 1 && !token.isAny(hard) && !measure &&
+           m_text.at(token.position).isLetter();
 }
 
 std::size_t NamePlaces::skipToNames(std::size_t lead) const

@@ -34,6 +34,10 @@ public:
     [[nodiscard]] std::size_t skipToNames(std::size_t lead) const;
     /// 我的 in 和我的同事李静.
     [[nodiscard]] bool isOwner(std::size_t at) const;
+    /// The token that holds the end of what says who somebody is, 号线的耿浩 in 4号线的耿浩; @p at for none.
+    [[nodiscard]] std::size_t endOfModifier(std::size_t at) const;
+    /// 阿 in 阿Ken.
+    [[nodiscard]] bool isPrefixOfLatin(std::size_t at) const;
     [[nodiscard]] bool isMiddleDot(std::size_t at) const;
     [[nodiscard]] std::size_t skipTitle(std::size_t at) const;
 

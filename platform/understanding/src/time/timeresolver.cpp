@@ -144,8 +144,14 @@ ResolvedTime resolveTime(const TimeExpression &expression, const QDateTime &now)
         day = moment.date(); // 两天后下午三点
         dayNamed = true;
     }
+    // 凌晨三点, said in the evening without a day, is the night that comes.
+    constexpr int evening = 18;
+    constexpr int nightEnds = 5;
     const DayPart *part =
         expression.part < 0 ? nullptr : &dayParts()[static_cast<std::size_t>(expression.part)];
+    if (!dayNamed && part != nullptr && part->lastHour <= nightEnds && now.time().hour() >= evening) {
+        day = day.addDays(1);
+    }
     if (expression.hasClock) {
         if (part == nullptr) {
             const int minutesNow = now.time().hour() * MinutesPerHour + now.time().minute();

@@ -52,7 +52,7 @@ bool governsConference(const QString &text, const Tokens &tokens, std::size_t ve
             continue;
         }
         if (isConference(token)) {
-            return true;
+            return !token.is(WordClass::Join); // 拉王姐进会
         }
         constexpr WordClasses describing =
             WordClass::NameTail | WordClass::Measure | WordClass::OpenParticle | WordClass::Filler |

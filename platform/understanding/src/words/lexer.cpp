@@ -139,6 +139,9 @@ private:
 
     bool takeNumberOrLatin(int wordLength)
     {
+        if (takeDecimal()) {
+            return true;
+        }
         const int digits = numberEnd() - m_at;
         const int latin = latinEnd() - m_at;
         if (latin > digits && latin > wordLength) {
@@ -150,6 +153,32 @@ private:
             return false;
         }
         append(Token::Kind::Number, digits);
+        return true;
+    }
+
+    /// 7.2 in 7.2版本的评审会 is no number of a conference, and its point ends no clause.
+    bool takeDecimal()
+    {
+        const auto isDigit = [&](int at) {
+            return at < m_text.size() && m_text.at(at) >= QLatin1Char('0') &&
+                   m_text.at(at) <= QLatin1Char('9');
+        };
+        int at = m_at;
+        int points = 0;
+        while (isDigit(at)) {
+            while (isDigit(at)) {
+                ++at;
+            }
+            if (at < m_text.size() && m_text.at(at) == QLatin1Char('.') && isDigit(at + 1)) {
+                ++at;
+                ++points;
+            }
+        }
+        const bool latinFollows = at < m_text.size() && isLatinLetterOrDigit(m_text.at(at));
+        if (points == 0 || latinFollows) {
+            return false;
+        }
+        append(Token::Kind::Other, at - m_at);
         return true;
     }
 

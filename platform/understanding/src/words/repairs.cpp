@@ -84,6 +84,36 @@ std::size_t nameBefore(const Tokens &tokens, std::size_t repair)
     return begin < end ? begin : None;
 }
 
+bool callsPeople(const Token &token)
+{
+    return token.is(WordClass::Trigger) && !token.isAny(WordClass::StrongOpen | WordClass::Separator);
+}
+
+/// 约小张开会，不对，约小王: the last call before @p repair with the name behind it, when the replacement
+/// calls, too. Drops them; false where nobody was called.
+bool dropCall(const Tokens &tokens, std::size_t repair, std::size_t later, std::vector<bool> &dropped)
+{
+    bool called = false;
+    for (std::size_t at = repair + 1; at < later; ++at) {
+        called = called || callsPeople(tokens[at]);
+    }
+    const std::size_t trigger = lastBefore(tokens, repair, callsPeople);
+    if (trigger == None) {
+        return false;
+    }
+    std::size_t end = trigger + 1;
+    while (end < repair && isNamePart(tokens[end])) {
+        ++end;
+    }
+    if (end == trigger + 1) {
+        return false;
+    }
+    const std::size_t begin = called ? trigger : trigger + 1;
+    std::fill(dropped.begin() + static_cast<std::ptrdiff_t>(begin),
+              dropped.begin() + static_cast<std::ptrdiff_t>(end), true);
+    return true;
+}
+
 /// Marks what @p repair replaces as dropped; true when it replaced something.
 bool repairAt(Tokens &tokens, std::size_t repair, std::vector<bool> &dropped)
 {
@@ -107,11 +137,12 @@ bool repairAt(Tokens &tokens, std::size_t repair, std::vector<bool> &dropped)
         dropped[earlier] = true;
     } else if (isNamePart(tokens[later])) {
         const std::size_t earlier = nameBefore(tokens, repair);
-        if (earlier == None) {
+        if (earlier != None) {
+            std::fill(dropped.begin() + static_cast<std::ptrdiff_t>(earlier),
+                      dropped.begin() + static_cast<std::ptrdiff_t>(repair), true);
+        } else if (!dropCall(tokens, repair, later, dropped)) {
             return false;
         }
-        std::fill(dropped.begin() + static_cast<std::ptrdiff_t>(earlier),
-                  dropped.begin() + static_cast<std::ptrdiff_t>(repair), true);
     } else {
         return false;
     }

@@ -31,8 +31,9 @@ struct Token
     WordClasses classes;
     QString name; ///< of a known contact
     TimeExpression time;
-    bool inTopic = false; ///< part of what a conference is about
-    bool inName = false;  ///< part of somebody's name
+    bool inTopic = false;    ///< part of what a conference is about
+    bool inName = false;     ///< part of somebody's name, or of what says who it is
+    bool inModifier = false; ///< says who it is: 产品经理 in 产品经理吴迪
 
     int end() const { return position + length; }
     bool is(WordClass wordClass) const { return classes.has(wordClass); }

@@ -1,0 +1,311 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "meaning/clause.h"
+
+#include "meaning/outcome.h"
+#include "text/chinesenumber.h"
+#include "text/scan.h"
+
+#include <algorithm>
+
+namespace understanding {
+
+Clause::Clause(const Reading &reading, const QString &intent, std::size_t begin, std::size_t end)
+    : m_reading(reading)
+    , m_tokens(reading.tokens())
+    , m_intent(intent)
+    , m_allowed(allowedWordsFor(intent))
+    , m_begin(begin)
+    , m_end(end)
+    , m_isQuery(intent == QLatin1String(QueryConference))
+{
+}
+
+template <typename Holds>
+bool Clause::any(Holds holds) const
+{
+    for (std::size_t at = m_begin; at < m_end; ++at) {
+        if (!m_tokens[at].inTopic && holds(at)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Clause::isOrder() const
+{
+    return has(m_allowed.anchors);
+}
+
+bool Clause::isTitle() const
+{
+    WordClasses verbs = m_allowed.anchors;
+    verbs.remove(WordClass::Conference);
+    return !has(verbs);
+}
+
+bool Clause::isRequested() const
+{
+    return has(WordClass::Request);
+}
+
+bool Clause::callsSomebody() const
+{
+    return any(
+        [&](std::size_t at) { return m_tokens[at].inName && m_reading.isCalledAt(m_tokens[at].position); });
+}
+
+bool Clause::isSupposed() const
+{
+    return has(WordClass::Framed);
+}
+
+bool Clause::isRefused() const
+{
+    return (isSupposed() &&
+            !(m_isQuery && m_reading.has(WordClass::Query) && m_reading.has(WordClass::Request))) ||
+           isNegated() || isSomebodyElses() || (!m_isQuery && has(WordClass::Reported)) || isQuestion();
+}
+
+bool Clause::isFinished() const
+{
+    constexpr WordClasses asking = WordClass::Query | WordClass::Question | WordClass::QuestionParticle |
+                                   WordClass::AskedTime | WordClass::Schedule | WordClass::Next;
+    if (has(WordClass::Request) || (m_isQuery && has(asking))) {
+        return false;
+    }
+    return any([&](std::size_t at) {
+        const Token &token = m_tokens[at];
+        if (!token.isAny(m_allowed.anchors) && !token.is(WordClass::OpenParticle)) {
+            return false;
+        }
+        static const QString done = QStringLiteral("了过");
+        const QString &text = m_reading.sentence().text();
+        return done.contains(text.at(token.end() - 1)) ||
+               (token.end() < text.size() && done.contains(text.at(token.end())));
+    });
+}
+
+bool Clause::isUnderstood() const
+{
+    return !hasOtherSubject() && !isPast() && !isStatement() && !isOnlyNumber() && !isOtherQuestion() &&
+           !isAtOtherTime() && !isAboutRoom() && !any([&](std::size_t at) { return !isExplained(at); });
+}
+
+bool Clause::has(WordClasses classes) const
+{
+    return any([&](std::size_t at) { return m_tokens[at].isAny(classes) && !m_tokens[at].inName; });
+}
+
+bool Clause::isNegated() const
+{
+    bool negated = false;
+    return any([&](std::size_t at) {
+        negated = negated || m_tokens[at].is(WordClass::Negation);
+        return negated && m_tokens[at].isAny(m_allowed.anchors);
+    });
+}
+
+bool Clause::isSomebodyElses() const
+{
+    bool called = false;
+    return any([&](std::size_t at) {
+        const Token &token = m_tokens[at];
+        constexpr WordClasses calling = WordClass::Trigger | WordClass::Pull | WordClass::NameLabel |
+                                        WordClass::Separator | WordClass::StrongOpen | WordClass::WeakOpen |
+                                        WordClass::GoverningOpen | WordClass::Join | WordClass::Close |
+                                        WordClass::Add | WordClass::AccountLabel;
+        const bool owner = charAt(m_reading.sentence().text(), token.end()) == QChar(u'的');
+        if (token.is(WordClass::Actor) && !called && !owner) {
+            return true;
+        }
+        called = called || token.isAny(calling);
+        return false;
+    });
+}
+
+bool Clause::hasOtherSubject() const
+{
+    constexpr WordClasses deeds = WordClass::StrongOpen | WordClass::WeakOpen | WordClass::Close |
+                                  WordClass::Join | WordClass::Invite | WordClass::Add;
+    // 张三李四明天三点开会 is an order, 张三和李四明天开会 news.
+    const bool several = m_reading.names().size() > 1;
+    const bool together = m_reading.has(WordClass::Separator);
+    if (m_isQuery || (several && (!together || m_reading.clockCount() > 0 || m_reading.timeCount() == 0))) {
+        return false;
+    }
+    std::size_t subject = m_end;
+    bool first = m_begin == 0; // nothing but a time before
+    return any([&](std::size_t at) {
+        const Token &token = m_tokens[at];
+        if (token.inName) {
+            subject = m_reading.isCalledAt(token.position) && !first ? m_end : at;
+        }
+        first = first && token.kind == Token::Kind::Time;
+        return subject < at && !token.inName && token.isAny(m_allowed.anchors) && token.isAny(deeds);
+    });
+}
+
+bool Clause::isPast() const
+{
+    return m_intent == QLatin1String(CreateConference) && any([&](std::size_t at) {
+               const TimeExpression &time = m_tokens[at].time;
+               return time.day == TimeExpression::Day::Relative && time.dayOffset < 0;
+           });
+}
+
+QString Clause::textOf(const Token &token) const
+{
+    return m_reading.sentence().text().mid(token.position, token.length);
+}
+
+bool Clause::isStatement() const
+{
+    return m_intent == QLatin1String(CreateConference) && has(WordClass::Have) &&
+           m_reading.openVerb().isEmpty();
+}
+
+bool Clause::isOnlyNumber() const
+{
+    constexpr WordClasses joining = WordClass::Join | WordClass::WeakJoin | WordClass::Request |
+                                    WordClass::Add | WordClass::PasswordLabel | WordClass::NoPassword;
+    return m_intent == QLatin1String(EnterConferenceById) && !m_reading.hasAny(joining) &&
+           any([&](std::size_t at) {
+               return m_tokens[at].is(WordClass::IdLabel) && at + 1 < m_end &&
+                      textOf(m_tokens[at + 1]) == QStringLiteral("是");
+           });
+}
+
+bool Clause::isOtherQuestion() const
+{
+    if (!m_isQuery) {
+        return false;
+    }
+    constexpr WordClasses asking = WordClass::Query | WordClass::Question | WordClass::QuestionParticle |
+                                   WordClass::AskedTime | WordClass::Schedule | WordClass::Next;
+    const bool uncalled =
+        m_begin < m_end && m_tokens[m_begin].inName && !m_reading.isCalledAt(m_tokens[m_begin].position);
+    static const QStringList settling = {QStringLiteral("定在"), QStringLiteral("定于"),
+                                         QStringLiteral("约在"), QStringLiteral("放在")};
+    const bool settled = any([&](std::size_t at) { return settling.contains(textOf(m_tokens[at])); });
+    return uncalled || settled || (has(WordClass::Have) && !m_reading.hasAny(asking) && !m_reading.isAsked());
+}
+
+bool Clause::isAtOtherTime() const
+{
+    return m_intent == QLatin1String(EnterConferenceById) && m_reading.clockCount() > 0;
+}
+
+bool Clause::isAboutRoom() const
+{
+    const QString &text = m_reading.sentence().text();
+    const auto isRoom = [&](const Token &token) {
+        return text.at(token.end() - 1) == QChar(u'室') || charAt(text, token.end()) == QChar(u'室');
+    };
+    return m_intent == QLatin1String(CreateConference) && any([&](std::size_t at) {
+               return m_tokens[at].is(WordClass::Conference) && isRoom(m_tokens[at]);
+           }) &&
+           !any([&](std::size_t at) {
+               return m_tokens[at].is(WordClass::Conference) && !isRoom(m_tokens[at]);
+           });
+}
+
+bool Clause::isQuestion() const
+{
+    constexpr WordClasses asking =
+        WordClass::Question | WordClass::QuestionParticle | WordClass::AskedTime | WordClass::HowTo;
+    return !m_isQuery && has(asking) && !has(WordClass::Request);
+}
+
+bool Clause::isPreamble(std::size_t at) const
+{
+    for (std::size_t later = at + 1; later < qMin(m_end, at + 3); ++later) {
+        if (m_tokens[later].is(WordClass::Request) && m_tokens[later].length > 1 &&
+            charAt(m_reading.sentence().text(), m_tokens[later].position) == QChar(u'帮')) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Clause::isPieceOfTime(std::size_t at) const
+{
+    const Token &token = m_tokens[at];
+    if (token.inName) {
+        return false;
+    }
+    static const QString pieces = QStringLiteral("午点刻半");
+    const QString text = m_reading.sentence().text().mid(token.position, token.length);
+    if (token.kind == Token::Kind::Other) {
+        return !text.contains(QLatin1Char('.')) &&
+               std::any_of(text.cbegin(), text.cend(), [&](QChar character) {
+                   return pieces.contains(character) || digitValue(character) >= 0;
+               });
+    }
+    const bool behindTime = at == m_begin || m_tokens[at - 1].kind == Token::Kind::Time;
+    const bool beforeTime = behindTime && at + 1 < m_end && m_tokens[at + 1].kind == Token::Kind::Time &&
+                            m_tokens[at + 1].position == token.end();
+    return beforeTime && (text == QStringLiteral("下") || text == QStringLiteral("上"));
+}
+
+bool Clause::isExplained(std::size_t at) const
+{
+    const Token &token = m_tokens[at];
+    if (isPieceOfTime(at)) {
+        return false;
+    }
+    switch (token.kind) {
+    case Token::Kind::Word:
+        return (m_isQuery && token.is(WordClass::Framed)) || token.inName || token.isAny(m_allowed.beside) ||
+               isNothing(token) || isDescription(at);
+    case Token::Kind::Other:
+        return token.inName || isNothing(token) || isDescription(at) || isPreamble(at);
+    case Token::Kind::Number: // a date or an hour that was cut
+        return m_intent != QLatin1String(CreateConference) || token.inName || isDescription(at);
+    case Token::Kind::Duration: // how long a new one takes, or how long one took
+        return m_intent == QLatin1String(CreateConference);
+    default:
+        return true;
+    }
+}
+
+bool Clause::isDescription(std::size_t at) const
+{
+    constexpr WordClasses verbs = WordClass::StrongOpen | WordClass::WeakOpen | WordClass::GoverningOpen |
+                                  WordClass::Join | WordClass::WeakJoin;
+    constexpr std::size_t farthest = 4;
+    if (at > m_begin && m_tokens[at - 1].is(WordClass::Video) && m_tokens[at].kind == Token::Kind::Other) {
+        return true;
+    }
+    std::size_t next = at + 1;
+    while (next < m_end && next < at + farthest &&
+           (m_tokens[next].isAny(WordClass::Measure | WordClass::Title | WordClass::Plain) ||
+            m_tokens[next].kind == Token::Kind::Other || isNothing(m_tokens[next]))) {
+        ++next;
+    }
+    if (next >= m_end || !m_tokens[next].is(WordClass::Conference)) {
+        return false;
+    }
+    for (std::size_t before = at; before > m_begin && at - before < farthest; --before) {
+        if (m_tokens[before - 1].isAny(verbs)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Clause::isNothing(const Token &token) const
+{
+    if ((token.kind != Token::Kind::Other && token.kind != Token::Kind::Word)) {
+        return false;
+    }
+    if (token.kind == Token::Kind::Word && token.classes.isEmpty()) {
+        return true; // 创建 in 我创建的会议, settled to be no verb
+    }
+    const QString text = m_reading.sentence().text().mid(token.position, token.length);
+    return std::all_of(text.cbegin(), text.cend(),
+                       [&](QChar character) { return m_allowed.light.contains(character); });
+}
+
+} // namespace understanding

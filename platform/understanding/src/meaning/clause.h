@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "meaning/allowedwords.h"
+#include "meaning/reading.h"
+
+namespace understanding {
+
+/// A part of the sentence between punctuation.
+class Clause final
+{
+public:
+    Clause(const Reading &reading, const QString &intent, std::size_t begin, std::size_t end);
+
+    bool isOrder() const;
+
+    /// 第7次迭代会，...: only the name of the conference, which need not be understood.
+    bool isTitle() const;
+    bool isRequested() const;
+    bool callsSomebody() const;
+    bool isSupposed() const;
+
+    bool isRefused() const;
+    /// 结束了会议, 会议结束了: done, unless it is asked for (把会议关了, 散了吧).
+    bool isFinished() const;
+    bool isUnderstood() const;
+
+private:
+    template <typename Holds>
+    bool any(Holds holds) const;
+    bool has(WordClasses classes) const;
+    QString textOf(const Token &token) const;
+    /// 不, 别 ... before what would be done, wherever between; 密码不用 negates nothing.
+    bool isNegated() const;
+    /// 王磊离开会议了, 他结束了会议, 谁邀请了张三: somebody else stands before the verb, called by no word.
+    bool isSomebodyElses() const;
+    /// 张伟明天三点开会: somebody whom no word calls, right before what is done.
+    bool hasOtherSubject() const;
+    /// 昨天和张三开会: nobody opens a conference of a day that is past.
+    bool isPast() const;
+    /// 我下午三点有个会: there is one, nobody wants a new one.
+    bool isStatement() const;
+    /// 会议号是123456, without a word that joins.
+    bool isOnlyNumber() const;
+    /// 开会要带什么 asks about something else than which conferences there are.
+    bool isOtherQuestion() const;
+    /// 320号上午九点: a conference is joined now, so the number may be a date.
+    bool isAtOtherTime() const;
+    /// 帮我订个会议室: a room is no conference.
+    bool isAboutRoom() const;
+    /// 会议要密码吗 asks; 能帮我开个会吗 is polite.
+    bool isQuestion() const;
+    /// 腾出手来帮我...: what leads up to the request does not matter.
+    bool isPreamble(std::size_t at) const;
+    /// 下 in 明天下三点, 午 in 开午会: what is left of a time that was not read whole.
+    bool isPieceOfTime(std::size_t at) const;
+    bool isExplained(std::size_t at) const;
+    /// 需求 in 开个需求会, 张总的 in 加入张总的会议, 需求 in 对一下需求: what kind of conference it is.
+    bool isDescription(std::size_t at) const;
+    /// Little words that change nothing.
+    bool isNothing(const Token &token) const;
+
+    const Reading &m_reading;
+    const Tokens &m_tokens;
+    const QString &m_intent;
+    const AllowedWords m_allowed;
+    const std::size_t m_begin;
+    const std::size_t m_end;
+    const bool m_isQuery;
+};
+
+} // namespace understanding

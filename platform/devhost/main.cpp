@@ -7,6 +7,7 @@
 #include "logrecorder.h"
 #include "options.h"
 #include "pluginhost.h"
+#include "servicemode.h"
 #include "textmodes.h"
 #include "windowmode.h"
 
@@ -53,7 +54,7 @@ void applyTheme(Options::Theme theme)
 int run(const Options &options)
 {
     ChineseTexts texts;
-    if (options.mode == Options::Mode::Window) {
+    if (options.mode == Options::Mode::Window || options.mode == Options::Mode::Service) {
         QCoreApplication::installTranslator(&texts);
     }
     LogRecorder logs(options.isVerbose ? LogRecorder::Terminal::Verbose : LogRecorder::Terminal::Quiet);
@@ -66,6 +67,9 @@ int run(const Options &options)
     if (!host.isLoaded()) {
         complain(host.problem().toText());
         return NoPlugin;
+    }
+    if (options.mode == Options::Mode::Service) {
+        return runService(options, host, logs);
     }
     // Pictures of cards are the same everywhere, whatever desktop the host runs on.
     applyTheme(options.theme == Options::Theme::Remembered ? Options::Theme::Light : options.theme);

@@ -18,7 +18,7 @@ public:
             "Development host for plugins of the voice assistant: a window to talk to a plugin "
             "and to see what it does, or the same in a terminal."));
         m_parser.addOptions(
-            {batch, converse, script, plugin, screenshots, contacts, theme, verbose, help, version});
+            {batch, converse, script, service, plugin, screenshots, contacts, theme, verbose, help, version});
         m_parser.addPositionalArgument(
             QStringLiteral("file"),
             QStringLiteral("With --converse: the conversation to play. Without it, "
@@ -41,6 +41,10 @@ public:
         QStringLiteral("Play the conversation in FILE in the window; with "
                        "--screenshots, picture the window after each turn and end."),
         QStringLiteral("FILE")};
+    const QCommandLineOption service{
+        QStringLiteral("service"),
+        QStringLiteral("Serve the search of the desktop's launchers, without a window until a reply needs "
+                       "one.")};
     const QCommandLineOption plugin{QStringLiteral("plugin"),
                                     QStringLiteral("The plugin's file, or its name in the installed folder "
                                                    "(contact-plugin unless told otherwise)."),
@@ -80,6 +84,9 @@ Options::Mode modeOf(Parser &parser)
     }
     if (parser->isSet(parser.converse)) {
         return Options::Mode::Converse;
+    }
+    if (parser->isSet(parser.service)) {
+        return Options::Mode::Service;
     }
     return Options::Mode::Window;
 }
@@ -127,9 +134,10 @@ Options Options::read(const QStringList &arguments)
     }
 
     const int modes = int(parser->isSet(parser.batch)) + int(parser->isSet(parser.converse)) +
-                      int(parser->isSet(parser.script));
+                      int(parser->isSet(parser.script)) + int(parser->isSet(parser.service));
     if (modes > 1) {
-        options.usageError = QStringLiteral("--batch, --converse and --script exclude each other.");
+        options.usageError =
+            QStringLiteral("--batch, --converse, --script and --service exclude each other.");
     } else if (files.size() > (options.mode == Mode::Converse ? 1 : 0)) {
         options.usageError = QStringLiteral("Unexpected argument '%1'.").arg(files.last());
     } else if (parser->isSet(parser.theme) && !readTheme(parser->value(parser.theme), options.theme)) {
@@ -147,7 +155,7 @@ QString Options::helpText()
 bool Options::wantsWindow(const QStringList &arguments)
 {
     const Mode mode = read(arguments).mode;
-    return mode == Mode::Window;
+    return mode == Mode::Window || mode == Mode::Service;
 }
 
 } // namespace devhost

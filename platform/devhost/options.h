@@ -15,7 +15,7 @@ namespace devhost {
 /// The command line, read.
 struct Options
 {
-    enum class Mode { Window, Batch, Converse, Help, Version };
+    enum class Mode { Window, Batch, Converse, Service, Help, Version };
     enum class Theme { Remembered, System, Light, Dark };
 
     Mode mode = Mode::Window;
@@ -32,7 +32,7 @@ struct Options
     static Options read(const QStringList &arguments);
     /// Needs an application object.
     static QString helpText();
-    /// Whether a window will be shown; asked before there is an application, which needs to know.
+    /// Whether a window may be shown; asked before there is an application, which needs to know.
     static bool wantsWindow(const QStringList &arguments);
 };
 

@@ -38,7 +38,8 @@ public:
                                        .toArray()
                                        .at(0)
                                        .toObject();
-        m_name = intent.value(QLatin1String("intent")).toString();
+        // Sentences have intents of their own.
+        m_name = qEnvironmentVariable("TESTPLUGIN_REPLIES", intent.value(QLatin1String("intent")).toString());
         m_slot = intent.value(QLatin1String("slots"))
                      .toArray()
                      .at(0)

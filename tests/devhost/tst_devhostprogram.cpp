@@ -164,6 +164,8 @@ void TestDevhostProgram::wrongUsageEndsWithTwo_data()
     QTest::newRow("two modes") << QStringList{QStringLiteral("--batch"), QStringLiteral("-"),
                                               QStringLiteral("--converse")}
                                << QByteArray("exclude");
+    QTest::newRow("a service and more")
+        << QStringList{QStringLiteral("--service"), QStringLiteral("--converse")} << QByteArray("exclude");
     QTest::newRow("an argument too many")
         << QStringList{QStringLiteral("--batch"), QStringLiteral("-"), QStringLiteral("x")}
         << QByteArray("'x'");
@@ -195,7 +197,7 @@ void TestDevhostProgram::helpAndVersionNeedNothing()
     const Run help = run({QStringLiteral("--help")});
     QCOMPARE(help.status, 0);
     for (const char *option : {"--batch", "--converse", "--plugin", "--screenshots", "--theme", "--verbose",
-                               "--script", "--contacts"}) {
+                               "--script", "--contacts", "--service"}) {
         QVERIFY2(help.output.join('\n').contains(option), option);
     }
     const Run version = run({QStringLiteral("--version")});

@@ -74,6 +74,11 @@ int Conversation::say(const QString &text)
     return enqueue(sentence, sentence.startsWith(QLatin1Char('{')));
 }
 
+int Conversation::sayAsOf(const QString &sentence, const QDateTime &when)
+{
+    return enqueue(sentence.trimmed(), false, when);
+}
+
 int Conversation::sendSemantic(const QString &semantic)
 {
     return enqueue(semantic, true);
@@ -89,14 +94,14 @@ Turn Conversation::turn(int id) const
     return m_turns.value(id);
 }
 
-int Conversation::enqueue(const QString &text, bool isSemantic)
+int Conversation::enqueue(const QString &text, bool isSemantic, const QDateTime &when)
 {
     Turn turn;
     turn.id = ++m_lastId;
     turn.said = isSemantic ? semanticTitle(text) : shownSentence(text);
     m_turns.insert(turn.id, turn);
     m_turns.remove(turn.id - MostTurns);
-    m_queue.enqueue({turn.id, text, isSemantic});
+    m_queue.enqueue({turn.id, text, isSemantic, when});
     Q_EMIT said(turn.id, turn.said);
     // From the event loop: whoever says something first gets to know its turn.
     QMetaObject::invokeMethod(this, &Conversation::startNext, Qt::QueuedConnection);
@@ -156,7 +161,8 @@ QString Conversation::understand(Input &input)
     }
     QElapsedTimer timer;
     timer.start();
-    const QString semantic = m_dialogue.turn(input.text, QDateTime::currentDateTime());
+    const QString semantic =
+        m_dialogue.turn(input.text, input.when.isValid() ? input.when : QDateTime::currentDateTime());
     m_turns[input.turn].understandingMsecs = static_cast<double>(timer.nsecsElapsed()) / 1e6;
     return semantic;
 }

@@ -8,6 +8,7 @@
 
 #include <understanding/dialogue.h>
 
+#include <QDateTime>
 #include <QHash>
 #include <QObject>
 #include <QPointer>
@@ -42,6 +43,8 @@ public:
 
     /// Queues a sentence and returns its turn. A text that starts with "{" is taken as semantic JSON.
     int say(const QString &text);
+    /// Queues a sentence that was said at @p when: its times are set against that.
+    int sayAsOf(const QString &sentence, const QDateTime &when);
     /// Queues a semantic text, which reaches the plugin as it is.
     int sendSemantic(const QString &semantic);
 
@@ -79,9 +82,10 @@ private:
         int turn = 0;
         QString text;
         bool isSemantic = false;
+        QDateTime when; ///< invalid for now
     };
 
-    int enqueue(const QString &text, bool isSemantic);
+    int enqueue(const QString &text, bool isSemantic, const QDateTime &when = QDateTime());
     QString shownSentence(const QString &sentence) const;
     void startNext();
     void answerWithHelp();

@@ -8,8 +8,9 @@ namespace devhost {
 /// What the program ends with; documented in its manual page.
 enum ExitStatus {
     EverythingAnswered = 0,
-    SomethingBroken = 1, ///< a line was no semantic JSON, a plugin threw, a picture could not be written
-    WrongUsage = 2,      ///< also a file that cannot be read
+    SomethingBroken =
+        1,          ///< a line was no semantic JSON, a plugin threw, a picture could not be written, no bus
+    WrongUsage = 2, ///< also a file that cannot be read
     NoPlugin = 3,
 };
 

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "krunnerrequests.h"
+
+#include "launcherdesk.h"
+
+namespace devhost {
+
+namespace {
+
+constexpr int ExactMatch = 100;
+
+QString windowAction()
+{
+    return QStringLiteral("window");
+}
+
+QString icon()
+{
+    return QStringLiteral("speakmate-devhost");
+}
+
+} // namespace
+
+KRunnerRequests::KRunnerRequests(LauncherDesk &desk, QObject *parent) : QObject(parent), m_desk(desk) {}
+
+KRunnerActions KRunnerRequests::Actions()
+{
+    return {{windowAction(), QStringLiteral("在语音助手的窗口中执行"), icon()}};
+}
+
+KRunnerMatches KRunnerRequests::Match(const QString &query)
+{
+    const LauncherAct act = m_desk.match(query);
+    if (act.isEmpty()) {
+        return {};
+    }
+    const QVariantMap properties{{QStringLiteral("category"), QStringLiteral("语音助手")},
+                                 {QStringLiteral("subtext"), QStringLiteral("语音助手")},
+                                 {QStringLiteral("actions"), QStringList{windowAction()}}};
+    return {{act.id, act.line, icon(), ExactMatch, 1.0, properties}};
+}
+
+void KRunnerRequests::Run(const QString &matchId, const QString &actionId)
+{
+    m_desk.run(matchId,
+               actionId == windowAction() ? LauncherDesk::Place::Window : LauncherDesk::Place::WhereItFits);
+}
+
+} // namespace devhost

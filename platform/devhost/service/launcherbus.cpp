@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "launcherbus.h"
+
+#include "krunneradaptor.h"
+#include "krunnerrequests.h"
+#include "searchprovideradaptor.h"
+#include "searchrequests.h"
+
+#include <busprobe.h>
+
+#include <QDBusConnectionInterface>
+#include <QDBusError>
+#include <QDebug>
+#include <QElapsedTimer>
+
+namespace devhost {
+
+namespace {
+
+constexpr int LongestSilenceMsecs = 3000;
+
+QString serviceName()
+{
+    return QStringLiteral("com.kelvane.speakmate.devhost");
+}
+
+QString connectionName()
+{
+    return QStringLiteral("speakmate-launcher");
+}
+
+} // namespace
+
+LauncherBus::LauncherBus() = default;
+
+LauncherBus::~LauncherBus()
+{
+    QDBusConnection::disconnectFromBus(connectionName());
+}
+
+QDBusConnection LauncherBus::bus() const
+{
+    return QDBusConnection(connectionName());
+}
+
+LauncherBus::Start LauncherBus::connectToBus()
+{
+    QElapsedTimer timer;
+    timer.start();
+    const auto found = BusProbe::ask(qgetenv("DBUS_SESSION_BUS_ADDRESS"),
+                                     [&timer] { return timer.elapsed() < LongestSilenceMsecs; });
+    if (found != BusProbe::Found::Bus) {
+        return Start::NoBus;
+    }
+    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName());
+    if (!bus.isConnected()) {
+        return Start::NoBus;
+    }
+    bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
+                QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
+                SIGNAL(disconnected()));
+    return Start::Done;
+}
+
+LauncherBus::Start LauncherBus::offer(LauncherDesk &desk)
+{
+    registerLauncherTypes();
+    auto *krunner = new KRunnerRequests(desk, this);
+    auto *search = new SearchRequests(desk, this);
+    // Adaptors belong to the objects that they speak for.
+    new KRunnerAdaptor(krunner);
+    new SearchProviderAdaptor(search);
+    QDBusConnection connection = bus();
+    // The objects first: whoever waits for the name calls at once.
+    const bool areOffered =
+        connection.registerObject(QStringLiteral("/krunner"), krunner) &&
+        connection.registerObject(QStringLiteral("/com/kelvane/speakmate/devhost/SearchProvider"), search);
+    if (areOffered && connection.registerService(serviceName())) {
+        return Start::Done;
+    }
+    if (areOffered && connection.interface()->isServiceRegistered(serviceName())) {
+        return Start::AlreadyRunning;
+    }
+    qCritical() << "The launchers cannot be served:" << connection.lastError().message();
+    return Start::Refused;
+}
+
+} // namespace devhost

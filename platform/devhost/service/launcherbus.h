@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+
+namespace devhost {
+
+class LauncherDesk;
+
+/// Puts the desk on the session bus, for both kinds of launcher, under one name.
+class LauncherBus final : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Start {
+        Done,
+        NoBus,
+        AlreadyRunning, ///< another process has the name
+        Refused,        ///< the bus does not take an object or the name; the reason is in the log
+    };
+
+    LauncherBus();
+    ~LauncherBus() override;
+
+    /// Waits at most three seconds for a bus that is silent.
+    Start connectToBus();
+    /// After connectToBus(). @p desk must outlive this object.
+    Start offer(LauncherDesk &desk);
+    QDBusConnection bus() const;
+
+Q_SIGNALS:
+    /// The bus has gone; there is nobody left to serve.
+    void disconnected();
+};
+
+} // namespace devhost

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "appearance.h"
+#include "conversation.h"
+#include "launchermatcher.h"
+
+#include <QHash>
+#include <QObject>
+
+#include <memory>
+
+namespace devhost {
+
+class MainWindow;
+class Notifier;
+
+/**
+ * The assistant behind the launchers: finds the act in what is typed, carries it out, and shows the reply, as
+ * a notification, or in the window where there is a card or a question. GUI thread.
+ */
+class LauncherDesk final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What is given must outlive the desk.
+    LauncherDesk(Conversation &conversation, Notifier &notifier, QObject *parent = nullptr);
+    ~LauncherDesk() override;
+
+    void setContactNames(const QStringList &names);
+
+    LauncherAct match(const QString &text) { return m_matcher.match(text, QDateTime::currentDateTime()); }
+    LauncherAct find(const QString &id) const { return m_matcher.find(id); }
+
+    enum class Place { WhereItFits, Window };
+    /// Carries out what match() has found, once. Says so where it is not known any more.
+    void run(const QString &id, Place place);
+    /// Brings the window up with @p text ready to be sent.
+    void openWith(const QString &text);
+
+private:
+    MainWindow &window();
+    void showWindow();
+    void showReply(const Turn &turn);
+
+    Conversation &m_conversation;
+    Notifier &m_notifier;
+    LauncherMatcher m_matcher;
+    QHash<int, QString> m_lines; ///< of the turns that came from a launcher
+    std::unique_ptr<Appearance> m_appearance;
+    std::unique_ptr<MainWindow> m_window; ///< made when it is first needed
+};
+
+} // namespace devhost

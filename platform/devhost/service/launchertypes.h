@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QDBusArgument>
+#include <QList>
+#include <QMetaType>
+#include <QString>
+#include <QVariantMap>
+
+namespace devhost {
+
+// What the launchers' protocols carry; the XML files beside this one explain them.
+
+struct KRunnerAction
+{
+    QString id;
+    QString text;
+    QString icon;
+};
+using KRunnerActions = QList<KRunnerAction>;
+
+struct KRunnerMatch
+{
+    QString id;
+    QString line;
+    QString icon;
+    int type = 0;
+    double relevance = 0;
+    QVariantMap properties;
+};
+using KRunnerMatches = QList<KRunnerMatch>;
+
+using SearchMetas = QList<QVariantMap>;
+
+QDBusArgument &operator<<(QDBusArgument &argument, const KRunnerAction &action);
+const QDBusArgument &operator>>(const QDBusArgument &argument, KRunnerAction &action);
+QDBusArgument &operator<<(QDBusArgument &argument, const KRunnerMatch &match);
+const QDBusArgument &operator>>(const QDBusArgument &argument, KRunnerMatch &match);
+
+/// Lets QtDBus carry them. Idempotent.
+void registerLauncherTypes();
+
+} // namespace devhost
+
+Q_DECLARE_METATYPE(devhost::KRunnerAction)
+Q_DECLARE_METATYPE(devhost::KRunnerMatch)

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "servicemode.h"
+
+#include "knownnames.h"
+#include "launcherbus.h"
+#include "launcherdesk.h"
+#include "notifier.h"
+#include "textmodes.h"
+#include "warmup.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include <iostream>
+
+namespace devhost {
+
+namespace {
+
+constexpr int IdleMsecs = 2000;
+
+ExitStatus complain(ExitStatus status, const QString &message)
+{
+    std::cerr << "speakmate-devhost: " << qUtf8Printable(message) << std::endl;
+    return status;
+}
+
+} // namespace
+
+ExitStatus runService(const Options &options, PluginHost &host, LogRecorder &logs)
+{
+    QStringList names;
+    if (!readContactNames(options.contacts, names)) {
+        return complain(WrongUsage, QStringLiteral("%1 cannot be read.").arg(options.contacts));
+    }
+    QApplication::setQuitOnLastWindowClosed(false);
+    LauncherBus bus;
+    if (bus.connectToBus() != LauncherBus::Start::Done) {
+        return complain(SomethingBroken, QStringLiteral("There is no session bus."));
+    }
+    Conversation conversation(host, logs);
+    Notifier notifier(bus.bus());
+    LauncherDesk desk(conversation, notifier);
+    desk.setContactNames(names);
+    // Followed in the background, so that no match waits for the contacts application.
+    const KnownNames knownNames;
+    QObject::connect(&knownNames, &KnownNames::changed, &desk,
+                     [&desk, names](const QStringList &known) { desk.setContactNames(names + known); });
+    QObject::connect(&bus, &LauncherBus::disconnected, &desk, &QCoreApplication::quit);
+    switch (bus.offer(desk)) {
+    case LauncherBus::Start::Done:
+        break;
+    case LauncherBus::Start::AlreadyRunning:
+        return complain(EverythingAnswered, QStringLiteral("The launchers are served already."));
+    case LauncherBus::Start::NoBus:
+    case LauncherBus::Start::Refused:
+        return complain(SomethingBroken, QStringLiteral("The session bus refuses the service."));
+    }
+    QTimer::singleShot(IdleMsecs, &desk, &warmUp);
+    QApplication::exec();
+    return EverythingAnswered;
+}
+
+} // namespace devhost

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "notificationserver.h"
+
+namespace {
+
+QString connectionName()
+{
+    return QStringLiteral("notification-server");
+}
+
+} // namespace
+
+NotificationServer::NotificationServer(const QStringList &capabilities)
+    : m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName()))
+    , m_capabilities(capabilities)
+{
+    if (!m_bus.registerObject(QStringLiteral("/org/freedesktop/Notifications"), this,
+                              QDBusConnection::ExportScriptableContents) ||
+        !m_bus.registerService(QStringLiteral("org.freedesktop.Notifications"))) {
+        qFatal("the test's notifications cannot be put on the bus");
+    }
+}
+
+NotificationServer::~NotificationServer()
+{
+    QDBusConnection::disconnectFromBus(connectionName());
+}
+
+uint NotificationServer::Notify(const QString & /*application*/, uint /*replaces*/, const QString &icon,
+                                const QString &summary, const QString &body, const QStringList &actions,
+                                const QVariantMap & /*hints*/, int /*timeout*/)
+{
+    m_shown.append({icon, summary, body, actions});
+    return uint(m_shown.size());
+}

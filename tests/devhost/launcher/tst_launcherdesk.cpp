@@ -1,0 +1,250 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "bubble.h"
+#include "conversationview.h"
+#include "inputline.h"
+#include "launcherdesk.h"
+#include "logrecorder.h"
+#include "mainwindow.h"
+#include "notificationserver.h"
+#include "notifier.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <memory>
+
+using namespace devhost;
+
+namespace {
+
+/// A desk with the test plugin, whose answer to an intent TESTPLUGIN_REPLIES names.
+class Desk
+{
+public:
+    Desk()
+        : m_notifier(QDBusConnection::sessionBus())
+        , m_conversation(host(), m_logs)
+        , m_desk(m_conversation, m_notifier)
+    {
+    }
+
+    LauncherDesk *operator->() { return &m_desk; }
+    Conversation &conversation() { return m_conversation; }
+    /// Matches and runs @p sentence.
+    void run(const QString &sentence, LauncherDesk::Place place = LauncherDesk::Place::WhereItFits)
+    {
+        const LauncherAct act = m_desk.match(sentence);
+        QVERIFY2(!act.isEmpty(), qPrintable(sentence));
+        m_desk.run(act.id, place);
+        QTRY_VERIFY(!m_conversation.isBusy());
+    }
+
+    /// The window, as far as there is one to be seen.
+    static MainWindow *window()
+    {
+        for (QWidget *widget : QApplication::topLevelWidgets()) {
+            auto *window = qobject_cast<MainWindow *>(widget);
+            if (window != nullptr && window->isVisible()) {
+                return window;
+            }
+        }
+        return nullptr;
+    }
+    static QStringList bubbles()
+    {
+        QStringList texts;
+        for (const Bubble *bubble : window()->view()->findChildren<Bubble *>()) {
+            if (bubble->isVisible()) {
+                texts.append(bubble->text());
+            }
+        }
+        return texts;
+    }
+
+private:
+    static PluginHost &host()
+    {
+        static std::unique_ptr<PluginHost> host;
+        if (host == nullptr) {
+            host = std::make_unique<PluginHost>();
+            if (!host->load(QStringLiteral(TEST_PLUGIN))) {
+                qFatal("%s", qUtf8Printable(host->problem().toText()));
+            }
+            qAddPostRoutine([] { host.reset(); });
+        }
+        return *host;
+    }
+
+    LogRecorder m_logs;
+    Notifier m_notifier;
+    Conversation m_conversation;
+    LauncherDesk m_desk;
+};
+
+} // namespace
+
+/// Where a reply to a launcher's act is shown.
+class TestLauncherDesk : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { qunsetenv("TESTPLUGIN_REPLIES"); }
+    void textIsNotified();
+    void markupIsEscapedOnlyForServersThatReadIt_data();
+    void markupIsEscapedOnlyForServersThatReadIt();
+    void cardBringsUpTheWindow();
+    void questionBringsUpTheWindow();
+    void actAnswersNoOpenQuestion();
+    void timesAreThoseOfTheLine();
+    void windowIsUsedWhenAskedFor();
+    void withoutNotificationsTheWindowComes();
+    void clickOnANotificationBringsUpTheWindow();
+    void unknownActIsSaidToBeGone();
+    void searchGoesOnInTheWindow();
+};
+
+void TestLauncherDesk::textIsNotified()
+{
+    const NotificationServer server;
+    Desk desk;
+    desk.run(QStringLiteral("加200002为好友"));
+    QTRY_COMPARE(server.shown().size(), 1);
+    QCOMPARE(server.last().summary, QStringLiteral("向 200002 发送好友申请"));
+    QCOMPARE(server.last().body, QStringLiteral("200002")); // the test plugin says the first slot
+    QCOMPARE(server.last().icon, QStringLiteral("speakmate-devhost"));
+    QVERIFY(Desk::window() == nullptr);
+}
+
+void TestLauncherDesk::markupIsEscapedOnlyForServersThatReadIt_data()
+{
+    QTest::addColumn<QStringList>("capabilities");
+    QTest::addColumn<QString>("body");
+    QTest::newRow("markup") << QStringList{QStringLiteral("body"), QStringLiteral("body-markup")}
+                            << QStringLiteral("&lt;b&gt;a &amp; b&lt;/b&gt;");
+    QTest::newRow("plain") << QStringList{QStringLiteral("body")} << QStringLiteral("<b>a & b</b>");
+}
+
+void TestLauncherDesk::markupIsEscapedOnlyForServersThatReadIt()
+{
+    QFETCH(QStringList, capabilities);
+    QFETCH(QString, body);
+    const NotificationServer server(capabilities);
+    Notifier notifier(QDBusConnection::sessionBus());
+    notifier.notify(QStringLiteral("title"), QStringLiteral("<b>a & b</b>"));
+    QTRY_COMPARE(server.shown().size(), 1);
+    QCOMPARE(server.last().body, body);
+}
+
+void TestLauncherDesk::cardBringsUpTheWindow()
+{
+    qputenv("TESTPLUGIN_REPLIES", "CARD");
+    const NotificationServer server;
+    Desk desk;
+    desk.run(QStringLiteral("加200002为好友"));
+    QTRY_VERIFY(Desk::window() != nullptr);
+    QVERIFY(Desk::bubbles().contains(QStringLiteral("加200002为好友")));
+    const auto buttons = Desk::window()->view()->findChildren<QPushButton *>();
+    QVERIFY(std::any_of(buttons.begin(), buttons.end(), [](const QPushButton *button) {
+        return button->text() == QStringLiteral("按我") && button->isVisible();
+    }));
+    QCOMPARE(server.shown().size(), 0);
+}
+
+void TestLauncherDesk::questionBringsUpTheWindow()
+{
+    qputenv("TESTPLUGIN_REPLIES", "ASKPASSWORD");
+    const NotificationServer server;
+    Desk desk;
+    desk.run(QStringLiteral("加入会议880100004"));
+    QTRY_VERIFY(Desk::window() != nullptr);
+    QVERIFY(desk.conversation().expectsSecret());
+    QCOMPARE(Desk::window()->input()->echoMode(), QLineEdit::Password);
+    QCOMPARE(server.shown().size(), 0);
+}
+
+void TestLauncherDesk::actAnswersNoOpenQuestion()
+{
+    const NotificationServer server;
+    Desk desk;
+    desk->openWith(QString());
+    Desk::window()->submit(QStringLiteral("下周和张伟开会"));
+    QTRY_VERIFY(!desk.conversation().isBusy());
+    QVERIFY(desk.conversation().turn(1).semantic.contains(QStringLiteral("请问是哪一天")));
+    // Not the time that was asked for.
+    desk.run(QStringLiteral("明天下午三点和李娜开会"));
+    const QString semantic = desk.conversation().turn(desk.conversation().lastTurn()).semantic;
+    QVERIFY2(semantic.contains(QStringLiteral("李娜")) && !semantic.contains(QStringLiteral("张伟")),
+             qUtf8Printable(semantic));
+}
+
+void TestLauncherDesk::timesAreThoseOfTheLine()
+{
+    LogRecorder logs;
+    PluginHost none;
+    Conversation conversation(none, logs);
+    const int turn = conversation.sayAsOf(QStringLiteral("明天下午三点开会"),
+                                          QDateTime(QDate(2026, 12, 31), QTime(23, 59, 59)));
+    QTRY_VERIFY(!conversation.isBusy());
+    QVERIFY(conversation.turn(turn).semantic.contains(QLatin1String("2027-01-01T15:00:00")));
+}
+
+void TestLauncherDesk::windowIsUsedWhenAskedFor()
+{
+    const NotificationServer server;
+    Desk desk;
+    desk.run(QStringLiteral("加200002为好友"), LauncherDesk::Place::Window);
+    QTRY_VERIFY(Desk::window() != nullptr);
+    QTRY_VERIFY(Desk::bubbles().contains(QStringLiteral("200002")));
+}
+
+void TestLauncherDesk::withoutNotificationsTheWindowComes()
+{
+    Desk desk;
+    desk.run(QStringLiteral("加200002为好友"));
+    QTRY_VERIFY(Desk::window() != nullptr);
+    QVERIFY(Desk::bubbles().contains(QStringLiteral("200002")));
+}
+
+void TestLauncherDesk::clickOnANotificationBringsUpTheWindow()
+{
+    NotificationServer server;
+    Desk desk;
+    desk.run(QStringLiteral("加200002为好友"));
+    QTRY_COMPARE(server.shown().size(), 1);
+    QCOMPARE(server.last().actions.value(0), QStringLiteral("default"));
+    Q_EMIT server.ActionInvoked(77, QStringLiteral("default")); // somebody else's
+    Q_EMIT server.ActionInvoked(1, QStringLiteral("other"));
+    Q_EMIT server.NotificationClosed(77, 2);
+    // In order: what came before has not brought it up.
+    desk.run(QStringLiteral("加200003为好友"));
+    QTRY_COMPARE(server.shown().size(), 2);
+    QVERIFY(Desk::window() == nullptr);
+    Q_EMIT server.ActionInvoked(1, QStringLiteral("default"));
+    QTRY_VERIFY(Desk::window() != nullptr);
+}
+
+void TestLauncherDesk::unknownActIsSaidToBeGone()
+{
+    const NotificationServer server;
+    Desk desk;
+    desk->run(QStringLiteral("nonsense"), LauncherDesk::Place::WhereItFits);
+    QTRY_COMPARE(server.shown().size(), 1);
+    QCOMPARE(server.last().summary, QStringLiteral("没有执行"));
+    QCOMPARE(desk.conversation().lastTurn(), 0);
+}
+
+void TestLauncherDesk::searchGoesOnInTheWindow()
+{
+    const NotificationServer server;
+    Desk desk;
+    desk->openWith(QStringLiteral("明天和张伟开会"));
+    QTRY_VERIFY(Desk::window() != nullptr);
+    QCOMPARE(Desk::window()->input()->text(), QStringLiteral("明天和张伟开会"));
+    QCOMPARE(desk.conversation().lastTurn(), 0);
+}
+
+QTEST_MAIN(TestLauncherDesk)
+#include "tst_launcherdesk.moc"

@@ -5,6 +5,7 @@
 
 #include <busprobe.h>
 
+#include <QDBusPendingCallWatcher>
 #include <QElapsedTimer>
 
 namespace devhost {
@@ -50,6 +51,14 @@ bool BusClient::connectToBus(int msecs)
                 ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, m_connectionName)
                 : QDBusConnection::connectToBus(QString::fromLocal8Bit(address), m_connectionName))
         .isConnected();
+}
+
+QDBusPendingCallWatcher *BusClient::call(const QDBusMessage &message, int msecs)
+{
+    auto *watcher = new QDBusPendingCallWatcher(bus().asyncCall(message, msecs), this);
+    // A connection's functor goes in QObject's destructor, after the watcher's reference to its call.
+    connect(watcher, &QObject::destroyed, watcher, [open = bus()] { Q_UNUSED(open) });
+    return watcher;
 }
 
 BusThread::BusThread(BusClient *client) : m_client(client), m_thread(new QThread)

@@ -9,6 +9,11 @@
 
 #include <atomic>
 
+QT_BEGIN_NAMESPACE
+class QDBusMessage;
+class QDBusPendingCallWatcher;
+QT_END_NAMESPACE
+
 namespace devhost {
 
 /**
@@ -36,6 +41,12 @@ protected:
 
     /// Connects unless it is connected, and waits at most @p msecs for a bus that is silent.
     bool connectToBus(int msecs);
+    /**
+     * Sends @p message; the answer has to come within @p msecs milliseconds. The watcher belongs to this
+     * client and keeps the connection open until it is deleted: closing a connection deletes its unfinished
+     * calls, whoever still refers to them.
+     */
+    QDBusPendingCallWatcher *call(const QDBusMessage &message, int msecs);
     QDBusConnection bus() const { return QDBusConnection(m_connectionName); }
 
 private:

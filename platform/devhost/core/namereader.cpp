@@ -70,20 +70,19 @@ void NameReader::ask()
     }
     m_isAsking = true;
     m_askAgain = false;
-    QDBusMessage call =
+    QDBusMessage message =
         QDBusMessage::createMethodCall(service(), path(), interfaceName(), QStringLiteral("ContactNames"));
-    call.setAutoStartService(false); // whether the application runs is the plugin's affair
-    const QDBusPendingCall pending = bus().asyncCall(call, AnswerMsecs);
-    auto *watcher = new QDBusPendingCallWatcher(pending, this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher *finished) {
-        const QDBusPendingReply<QStringList> reply = *finished;
-        finished->deleteLater();
-        m_isAsking = false;
-        Q_EMIT read(reply.isError() ? QStringList() : usable(reply.value()));
-        if (m_askAgain) {
-            ask();
-        }
-    });
+    message.setAutoStartService(false); // whether the application runs is the plugin's affair
+    connect(call(message, AnswerMsecs), &QDBusPendingCallWatcher::finished, this,
+            [this](QDBusPendingCallWatcher *finished) {
+                const QDBusPendingReply<QStringList> reply = *finished;
+                finished->deleteLater();
+                m_isAsking = false;
+                Q_EMIT read(reply.isError() ? QStringList() : usable(reply.value()));
+                if (m_askAgain) {
+                    ask();
+                }
+            });
 }
 
 } // namespace devhost

@@ -58,9 +58,9 @@ void ApplicationAsker::ask()
     }
     m_isAsking = true;
     m_askAgain = false;
-    QDBusMessage call = callOf(QStringLiteral("Overview"));
-    call.setAutoStartService(false);
-    auto *watcher = new QDBusPendingCallWatcher(bus().asyncCall(call, AnswerMsecs), this);
+    QDBusMessage message = callOf(QStringLiteral("Overview"));
+    message.setAutoStartService(false);
+    QDBusPendingCallWatcher *watcher = call(message, AnswerMsecs);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         const QDBusPendingReply<QString> reply = *watcher;
         watcher->deleteLater();
@@ -78,9 +78,9 @@ void ApplicationAsker::openWindow()
         Q_EMIT windowRefused();
         return;
     }
-    QDBusMessage call = callOf(QStringLiteral("Request"));
-    call << QStringLiteral("Open Conference List") << QString() << qlonglong(0) << QString();
-    auto *watcher = new QDBusPendingCallWatcher(bus().asyncCall(call, StartMsecs), this);
+    QDBusMessage message = callOf(QStringLiteral("Request"));
+    message << QStringLiteral("Open Conference List") << QString() << qlonglong(0) << QString();
+    QDBusPendingCallWatcher *watcher = call(message, StartMsecs);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         const QDBusPendingReply<QString> reply = *watcher;
         watcher->deleteLater();

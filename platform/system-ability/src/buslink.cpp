@@ -105,13 +105,18 @@ void BusLink::askLater(const std::shared_ptr<PendingRequest> &request)
         Qt::QueuedConnection);
 }
 
+// A watcher's functor keeps the connection open until the watcher is deleted: closing a connection deletes
+// its unfinished calls, whoever still refers to them.
+
 void BusLink::askWhatBecame()
 {
     // In front of the next request on the same connection, and so answered before it.
     for (const Unclear &unclear : qAsConst(m_unclear)) {
         auto *watcher = new QDBusPendingCallWatcher(m_proxy->WasPerformed(unclear.request->id), this);
         connect(watcher, &QDBusPendingCallWatcher::finished, this,
-                [this, request = unclear.request](QDBusPendingCallWatcher *finished) {
+                [this, open = m_proxy->connection(),
+                 request = unclear.request](QDBusPendingCallWatcher *finished) {
+                    Q_UNUSED(open)
                     take(request, *finished);
                     finished->deleteLater();
                 });
@@ -158,10 +163,12 @@ void BusLink::call(const std::shared_ptr<PendingRequest> &request)
     request->noteSent();
     auto *watcher = new QDBusPendingCallWatcher(
         m_proxy->Request(request->action, request->parameters, request->deadlineMsecs(), request->id), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [request](QDBusPendingCallWatcher *finished) {
-        request->finish(resultOf(*finished));
-        finished->deleteLater();
-    });
+    connect(watcher, &QDBusPendingCallWatcher::finished, this,
+            [open = m_proxy->connection(), request](QDBusPendingCallWatcher *finished) {
+                Q_UNUSED(open)
+                request->finish(resultOf(*finished));
+                finished->deleteLater();
+            });
 }
 
 bool BusLink::findBus(const PendingRequest &request) const

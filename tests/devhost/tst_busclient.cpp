@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "busclient.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QtTest>
+
+using namespace devhost;
+
+namespace {
+
+constexpr int LongMsecs = 60000;
+const QString Silent = QStringLiteral("org.example.Silent");
+
+/// Answers after the test, which gives its event loop no time.
+class SilentObject : public QObject
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    Q_SCRIPTABLE void wait() {}
+};
+
+/// Sends one call that nobody answers.
+class Caller : public BusClient
+{
+    Q_OBJECT
+
+public:
+    Caller() : BusClient(QStringLiteral("caller")) {}
+
+    void start() override
+    {
+        connectToBus(AsLongAsItTakes);
+        call(QDBusMessage::createMethodCall(Silent, QStringLiteral("/"), QString(), QStringLiteral("wait")),
+             LongMsecs);
+        Q_EMIT called(bus().name(), bus().baseService());
+    }
+
+Q_SIGNALS:
+    void called(const QString &connection, const QString &address);
+};
+
+bool isOnTheBus(const QString &address)
+{
+    return QDBusConnection::sessionBus().interface()->isServiceRegistered(address);
+}
+
+} // namespace
+
+class TestBusClient : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void unfinishedCallKeepsItsConnection();
+};
+
+/// A connection that closes deletes its unfinished calls on a thread of its own, while their watchers are
+/// about to let go of them: a desk that was closed at the wrong moment had its heap corrupted.
+void TestBusClient::unfinishedCallKeepsItsConnection()
+{
+    SilentObject silent;
+    QVERIFY(QDBusConnection::sessionBus().registerObject(QStringLiteral("/"), &silent,
+                                                         QDBusConnection::ExportScriptableSlots));
+    QVERIFY(QDBusConnection::sessionBus().registerService(Silent));
+
+    auto *caller = new Caller;
+    QString connection;
+    QString address;
+    QSemaphore hasCalled;
+    connect(
+        caller, &Caller::called, caller,
+        [&](const QString &name, const QString &uniqueName) {
+            connection = name;
+            address = uniqueName;
+            hasCalled.release();
+        },
+        Qt::DirectConnection);
+    {
+        BusThread thread(caller);
+        thread.start();
+        QVERIFY(hasCalled.tryAcquire(1, LongMsecs));
+        QVERIFY(isOnTheBus(address));
+
+        QDBusConnection::disconnectFromBus(connection);
+        QTest::qSleep(200);
+        QVERIFY(isOnTheBus(address));
+    }
+    QTRY_VERIFY(!isOnTheBus(address));
+}
+
+QTEST_GUILESS_MAIN(TestBusClient)
+
+#include "tst_busclient.moc"

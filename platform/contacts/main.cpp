@@ -4,6 +4,7 @@
 #include "book/administration.h"
 #include "book/contactsbook.h"
 #include "core/databaseerror.h"
+#include "reminders/reminders.h"
 #include "service/busservice.h"
 #include "service/display.h"
 #include "window/contactswindow.h"
@@ -59,6 +60,7 @@ int serve(QCoreApplication &application, FirstSight firstSight, Audience audienc
         break;
     }
     Administration administration(*book);
+    Reminders reminders(*book, QDBusConnection::sessionBus());
     std::unique_ptr<LSystemPalette> palette;
     std::unique_ptr<ContactsWindow> window; // made when it is first wanted: most of the time nobody looks
     if (qobject_cast<QApplication *>(&application)) {
@@ -76,6 +78,7 @@ int serve(QCoreApplication &application, FirstSight firstSight, Audience audienc
         // Not within the request that wants it: the answer goes first.
         QObject::connect(book.get(), &ContactsBook::windowWanted, book.get(), showWindow,
                          Qt::QueuedConnection);
+        QObject::connect(&reminders, &Reminders::windowWanted, book.get(), showWindow);
         if (firstSight == FirstSight::Window) {
             showWindow();
         }

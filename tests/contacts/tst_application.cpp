@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "admin1proxy.h"
+#include "notificationserver.h"
 
 #include <kelvane/kelvaneabilitymanager.h>
 
@@ -86,6 +87,7 @@ private Q_SLOTS:
     void itServesWithoutAScreen();
     void aSecondStartEndsAtOnce();
     void itTellsWhatItIs();
+    void itRemindsAlsoWithoutAWindow();
     void itNeedsABus();
 };
 
@@ -253,6 +255,37 @@ void TestApplication::itTellsWhatItIs()
     application.start(QStringLiteral(APPLICATION), {QStringLiteral("--version")});
     QVERIFY(application.waitForFinished(10000));
     QCOMPARE(application.readAllStandardOutput().trimmed(), QByteArray("kelvane-contacts " CONTACTS_VERSION));
+}
+
+void TestApplication::itRemindsAlsoWithoutAWindow()
+{
+    const NotificationServer server;
+    Admin1Proxy admin(ServiceName, AdminPath, QDBusConnection::sessionBus());
+    QVERIFY(admin.LoadSample().value());
+    const auto mine = [&server] {
+        return server.summaries().filter(QStringLiteral("设计"));
+    };
+    const qint64 start = QDateTime::currentMSecsSinceEpoch() + 700;
+    QVERIFY(!admin
+                 .AddConference(QStringLiteral("1"), QStringLiteral("设计讨论"), QStringLiteral("100001"),
+                                start, 3600000, 10, QString(), {})
+                 .value()
+                 .isEmpty());
+    QTRY_COMPARE(mine().size(), 1);
+    QCOMPARE(mine().last(), QStringLiteral("设计讨论：1 分钟后开始"));
+    QTRY_COMPARE(mine().size(), 2);
+    QVERIFY(QDateTime::currentMSecsSinceEpoch() >= start);
+    QCOMPARE(mine().last(), QStringLiteral("设计讨论：现在开始"));
+    // Killed and started again, it shows none of them once more.
+    stopService();
+    admin.SetFriendLimit(500).waitForFinished();
+    QVERIFY(!admin
+                 .AddConference(QStringLiteral("2"), QStringLiteral("设计评审"), QStringLiteral("100001"),
+                                start + 60000, 3600000, 10, QString(), {})
+                 .value()
+                 .isEmpty());
+    QTRY_COMPARE(mine().size(), 3);
+    QCOMPARE(mine().last(), QStringLiteral("设计评审：1 分钟后开始"));
 }
 
 void TestApplication::itNeedsABus()

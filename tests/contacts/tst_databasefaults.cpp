@@ -347,8 +347,8 @@ void TestDatabaseFaults::ofManyStartsOneSetsAside()
             ContactsBook book(folder.file, fixedClock());
             addPeople(book, 500);
         }
-        const qint64 size = QFileInfo(folder.file).size();
-        overwrite(folder.file, size / 2, size / 2 + 4 * 4096);
+        // Not a place in the file: what lies there changes with every table that is added.
+        overwriteTable(folder.file, QStringLiteral("notice"));
         const LogCapture log(LogCapture::Unexpected::Passes);
         std::atomic<int> replaced{0};
         std::atomic<int> failed{0};

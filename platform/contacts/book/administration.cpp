@@ -113,6 +113,7 @@ bool Administration::LoadSample()
         m_book.people().removeAll();
         m_book.session().reset();
         SampleDirectory::load(m_book.people(), m_book.conferences(), m_book.session(), m_book.nowMsecs());
+        m_book.reminders().forgetNews();
         return true;
     });
 }

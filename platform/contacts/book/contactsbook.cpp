@@ -31,6 +31,7 @@ ContactsBook::ContactsBook(const QString &databaseFile, Clock clock, QObject *pa
     , m_people(m_database.handle())
     , m_conferences(m_database.handle())
     , m_session(m_database.handle())
+    , m_reminders(m_database.handle())
 {
     Transaction transaction(m_database.handle());
     noteSetAside();
@@ -39,6 +40,9 @@ ContactsBook::ContactsBook(const QString &databaseFile, Clock clock, QObject *pa
         m_database.setAsideFile().isEmpty() ? m_session.isSeeded() : m_database.salvaged().people > 0;
     if (!hasContent) {
         SampleDirectory::load(m_people, m_conferences, m_session, nowMsecs());
+    }
+    if (!hasContent || !m_database.setAsideFile().isEmpty()) {
+        m_reminders.forgetNews(); // copying and loading invite nobody
     }
     m_session.setSeeded();
     transaction.commit();

@@ -7,6 +7,7 @@
 #include "core/conferencerepository.h"
 #include "core/database.h"
 #include "core/peoplerepository.h"
+#include "core/reminderrepository.h"
 #include "core/sessionrepository.h"
 
 #include <QObject>
@@ -46,6 +47,7 @@ public:
     PeopleRepository &people() { return m_people; }
     ConferenceRepository &conferences() { return m_conferences; }
     SessionRepository &session() { return m_session; }
+    ReminderRepository &reminders() { return m_reminders; }
     Database &database() { return m_database; }
 
 Q_SIGNALS:
@@ -62,4 +64,5 @@ private:
     PeopleRepository m_people;
     ConferenceRepository m_conferences;
     SessionRepository m_session;
+    ReminderRepository m_reminders;
 };

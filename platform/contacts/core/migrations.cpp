@@ -86,10 +86,54 @@ QStringList secondVersion()
     };
 }
 
+/// Reminders, and what people have not been told yet. What is there already needs no telling.
+QStringList thirdVersion()
+{
+    return {
+        QStringLiteral("CREATE TABLE reminder_settings ("
+                       " id INTEGER PRIMARY KEY CHECK (id = 1),"
+                       " is_on INTEGER NOT NULL CHECK (is_on IN (0, 1)),"
+                       " lead_minutes INTEGER NOT NULL"
+                       ")"),
+        // A conference that is moved has another start, so its reminders come again.
+        QStringLiteral("CREATE TABLE shown_reminder ("
+                       " user_id TEXT NOT NULL REFERENCES person(user_id) ON DELETE CASCADE,"
+                       " conference_id INTEGER NOT NULL REFERENCES conference(id) ON DELETE CASCADE,"
+                       " kind INTEGER NOT NULL CHECK (kind IN (1, 2)),"
+                       " start_msecs INTEGER NOT NULL,"
+                       " PRIMARY KEY (conference_id, user_id, kind, start_msecs)"
+                       ") WITHOUT ROWID"),
+        QStringLiteral("CREATE INDEX shown_reminder_by_user ON shown_reminder(user_id)"),
+        QStringLiteral("CREATE TABLE untold_invitation ("
+                       " user_id TEXT NOT NULL REFERENCES person(user_id) ON DELETE CASCADE,"
+                       " conference_id INTEGER NOT NULL REFERENCES conference(id) ON DELETE CASCADE,"
+                       " PRIMARY KEY (user_id, conference_id)"
+                       ") WITHOUT ROWID"),
+        QStringLiteral("CREATE INDEX untold_invitation_by_conference ON untold_invitation(conference_id)"),
+        QStringLiteral("CREATE TABLE untold_request ("
+                       " user_id TEXT NOT NULL REFERENCES person(user_id) ON DELETE CASCADE,"
+                       " asker_id TEXT NOT NULL REFERENCES person(user_id) ON DELETE CASCADE,"
+                       " PRIMARY KEY (user_id, asker_id)"
+                       ") WITHOUT ROWID"),
+        QStringLiteral("CREATE INDEX untold_request_by_asker ON untold_request(asker_id)"),
+        QStringLiteral(
+            "CREATE TRIGGER invited AFTER INSERT ON participant WHEN NEW.attendance = 0"
+            " AND NEW.user_id <> (SELECT host_id FROM conference WHERE id = NEW.conference_id) BEGIN"
+            " INSERT OR IGNORE INTO untold_invitation VALUES (NEW.user_id, NEW.conference_id); END"),
+        QStringLiteral(
+            "CREATE TRIGGER invited_again AFTER UPDATE OF attendance ON participant"
+            " WHEN OLD.attendance = 2 AND NEW.attendance = 0"
+            " AND NEW.user_id <> (SELECT host_id FROM conference WHERE id = NEW.conference_id) BEGIN"
+            " INSERT OR IGNORE INTO untold_invitation VALUES (NEW.user_id, NEW.conference_id); END"),
+        QStringLiteral("CREATE TRIGGER asked AFTER INSERT ON friend_request BEGIN"
+                       " INSERT OR IGNORE INTO untold_request VALUES (NEW.person_id, NEW.owner_id); END"),
+    };
+}
+
 } // namespace
 
 const QVector<QStringList> &databaseMigrations()
 {
-    static const QVector<QStringList> steps{firstVersion(), secondVersion()};
+    static const QVector<QStringList> steps{firstVersion(), secondVersion(), thirdVersion()};
     return steps;
 }

@@ -3,7 +3,7 @@
 
 #include "window/conferencepage.h"
 
-#include "window/outcometext.h"
+#include "core/outcometext.h"
 #include "window/question.h"
 
 #include "book/administration.h"

@@ -5,7 +5,7 @@
 
 #include "window/accountbar.h"
 #include "window/conferencepage.h"
-#include "window/outcometext.h"
+#include "core/outcometext.h"
 #include "window/peoplemodel.h"
 #include "window/question.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "window/outcometext.h"
+#include "core/outcometext.h"
 
 #include "core/outcome.h"
 

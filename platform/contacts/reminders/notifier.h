@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "reminders/notification.h"
+
+#include <QDBusConnection>
+#include <QObject>
+
+#include <functional>
+#include <optional>
+
+class QDBusMessage;
+class QDBusPendingCall;
+
+/// The desktop's notification server, as a client sees it. Never waits for it. On the thread that made it.
+class Notifier : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Result {
+        Shown,
+        Unclear, ///< the server did not answer in time; it may show the notification or not
+        Refused, ///< there is no server, or it does not want it
+    };
+    /// The id is 0 unless it is shown.
+    using Done = std::function<void(Result, quint32 id)>;
+
+    explicit Notifier(const QDBusConnection &connection, QObject *parent = nullptr);
+
+    /// Calls @p done once, later, unless it is deleted before.
+    void show(const Notification &notification, Done done);
+    void close(quint32 id);
+
+Q_SIGNALS:
+    void actionInvoked(quint32 id, const QString &action);
+    void closed(quint32 id);
+    /// A server is there that was not there before; it shows nothing yet.
+    void serverCame();
+    void serverWent();
+
+private Q_SLOTS:
+    void onActionInvoked(uint id, const QString &action, const QDBusMessage &message);
+    void onClosed(uint id, uint reason, const QDBusMessage &message);
+
+private:
+    void send(const Notification &notification, Done done);
+    QDBusPendingCall call(const QString &method, const QVariantList &arguments);
+    void followServer();
+
+    QDBusConnection m_connection;
+    QString m_server; ///< the unique name of who showed something; only its signals count
+    std::optional<QStringList> m_capabilities; ///< of the server that is there; unknown until somebody asks
+};

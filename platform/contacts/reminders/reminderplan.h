@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "core/reminderrepository.h"
+
+#include <QVector>
+
+#include <optional>
+
+/// One notification about a conference.
+struct Reminder
+{
+    enum class Occasion {
+        Invitation,
+        Soon,  ///< starts within the lead time
+        Start, ///< has started; also when that was a while ago, because the computer slept
+    };
+
+    Occasion occasion = Occasion::Soon;
+    AwaitedConference conference;
+    /// The reminder that needs not be shown any more once this one has been.
+    std::optional<ReminderKind> covers;
+};
+
+/// What is to be shown now and when to look again.
+struct ReminderPlan
+{
+    QVector<Reminder> due;
+    std::optional<qint64> nextMsecs; ///< of what is known here; nothing when nothing is left to wait for
+};
+
+/**
+ * Decides what is due at @p nowMsecs, by the clock alone: how it got there, by waiting, by sleeping or by
+ * being set, makes no difference. What ended is never due; what is running is, until its start has been
+ * shown. An invitation says by itself how far the conference is, so there is one notification for both.
+ */
+ReminderPlan planReminders(const QVector<AwaitedConference> &awaited,
+                           const QVector<AwaitedConference> &invitations, int leadMinutes, qint64 nowMsecs);

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "reminders/notifier.h"
+#include "reminders/reminderplan.h"
+#include "reminders/walltimer.h"
+
+#include <QDBusConnection>
+#include <QHash>
+#include <QObject>
+#include <QSet>
+#include <QTimer>
+
+class ContactsBook;
+
+/**
+ * Reminds the user who is logged in of their conferences, and tells of invitations and friend requests, with
+ * desktop notifications. Looks when something changed, when something is due and when the clock was set. What
+ * the server has taken is noted in the database, so it is shown once; what it refused is tried again.
+ * Withdraws what is no longer true. Owned by main, on the book's thread, with or without a window.
+ */
+class Reminders : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p book must outlive it.
+    Reminders(ContactsBook &book, const QDBusConnection &connection, QObject *parent = nullptr);
+
+    /// Shows what is due. Never throws.
+    void look();
+    /// When it looks next by itself, in milliseconds since the epoch.
+    qint64 nextLookMsecs() const { return m_nextLookMsecs; }
+    /// Whether the server has answered to everything and nothing has changed since it looked.
+    bool isSettled() const { return m_sending.isEmpty() && !m_afterChange.isActive(); }
+
+Q_SIGNALS:
+    /// The user has clicked something that is done in the window.
+    void windowWanted();
+
+private:
+    /// A notification on the screen; without a conference it is about something else.
+    struct Shown
+    {
+        QString userId;
+        qint64 conferenceId = 0;
+        QString dialNumber;
+        QString title;
+        qint64 startMsecs = 0;
+    };
+
+    void lookAs(const QString &userId, const ReminderSettings &settings);
+    void showReminder(const QString &userId, const Reminder &reminder);
+    void showRequest(const QString &userId, const Person &asker);
+    void send(const QString &key, const Notification &notification, const Shown &shown,
+              const std::function<void()> &note);
+    /// Runs @p note in a transaction of its own; nobody who shows the state needs to know. False when it
+    /// fails.
+    bool write(const std::function<void()> &note);
+    void withdrawStale(const QString &userId);
+    quint32 shownFor(qint64 conferenceId) const;
+    bool isHeldBack() const;
+    void waitUntil(qint64 msecs);
+    void onAction(quint32 id, const QString &action);
+    void join(const Shown &shown);
+    void decline(const Shown &shown);
+
+    ContactsBook &m_book;
+    Notifier m_notifier;
+    WallTimer m_timer;
+    QTimer m_afterChange;
+    QHash<quint32, Shown> m_shown;
+    QSet<QString> m_sending; ///< what the server has not answered to yet, or nobody could note
+    qint64 m_nextLookMsecs = 0;
+    std::optional<qint64> m_refusedMsecs; ///< when the server did not want something
+};

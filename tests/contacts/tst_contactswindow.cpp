@@ -5,6 +5,7 @@
 
 #include "logcapture.h"
 
+#include "core/statement.h"
 #include "window/conferencemodel.h"
 #include "window/contactswindow.h"
 #include "window/tablepage.h"
@@ -47,6 +48,7 @@ private Q_SLOTS:
     void closingHidesIt();
     void aNoticeStaysUntilItIsRead();
     void usersDoNotSeeWhatIsForDevelopers();
+    void remindersAreSetWithTheKeyboard();
     void pictures_data();
     void pictures();
 
@@ -349,6 +351,45 @@ void TestContactsWindow::usersDoNotSeeWhatIsForDevelopers()
     QVERIFY(!child<QCheckBox>("elsewhere")->isVisible());
 }
 
+void TestContactsWindow::remindersAreSetWithTheKeyboard()
+{
+    const auto settings = [this] {
+        return m_world->book.reminders().settings();
+    };
+    QTest::keyClick(m_window.get(), Qt::Key_3, Qt::AltModifier);
+    auto *tabs = m_window->findChild<QTabWidget *>();
+    QCOMPARE(tabs->currentIndex(), 2);
+    QTest::keyClick(m_window.get(), Qt::Key_F, Qt::ControlModifier); // nothing to search here
+    tabs->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("remind"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("leadMinutes"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("15"));
+    QCOMPARE(settings().leadMinutes, 5);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCOMPARE(settings().leadMinutes, 15);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QVERIFY(!settings().isOn);
+    QCOMPARE(settings().leadMinutes, 15);
+    QVERIFY(!child<QWidget>("leadMinutes")->isEnabled());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QVERIFY(settings().isOn);
+
+    // What cannot be saved is not shown as if it were.
+    m_log.reset();
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    Statement(m_world->book.database().handle(),
+              QStringLiteral("CREATE TRIGGER refuse BEFORE INSERT ON reminder_settings BEGIN"
+                             " SELECT RAISE(ABORT, 'no'); END"))
+        .run();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QVERIFY(child<QCheckBox>("remind")->isChecked());
+    QVERIFY(settings().isOn);
+}
+
 void TestContactsWindow::pictures_data()
 {
     QTest::addColumn<int>("theme");
@@ -361,6 +402,7 @@ void TestContactsWindow::pictures_data()
             scale;
         QTest::newRow(qPrintable(QStringLiteral("conferences-") + name)) << theme << 0 << true;
         QTest::newRow(qPrintable(QStringLiteral("people-") + name)) << theme << 1 << true;
+        QTest::newRow(qPrintable(QStringLiteral("reminders-") + name)) << theme << 2 << true;
         QTest::newRow(qPrintable(QStringLiteral("empty-") + name)) << theme << 0 << false;
     }
 }

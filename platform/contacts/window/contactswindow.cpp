@@ -3,11 +3,12 @@
 
 #include "window/contactswindow.h"
 
+#include "core/outcometext.h"
 #include "window/accountbar.h"
 #include "window/conferencepage.h"
-#include "core/outcometext.h"
 #include "window/peoplemodel.h"
 #include "window/question.h"
+#include "window/reminderpage.h"
 
 #include "book/administration.h"
 #include "book/contactsbook.h"
@@ -33,7 +34,8 @@ ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administratio
     connect(conferences, &ConferencePage::told, this, &ContactsWindow::tell);
     m_pages->addTab(conferences, QStringLiteral("会议(&1)"));
     m_pages->addTab(makePeoplePage(book), QStringLiteral("联系人(&2)"));
-    m_pages->setAccessibleName(QStringLiteral("会议和联系人"));
+    m_pages->addTab(new ReminderPage(book), QStringLiteral("提醒(&3)"));
+    m_pages->setAccessibleName(QStringLiteral("会议、联系人和提醒"));
 
     m_told->setObjectName(QStringLiteral("told"));
     m_told->setTextFormat(Qt::PlainText);
@@ -145,7 +147,9 @@ void ContactsWindow::addShortcuts()
 {
     auto *find = new QShortcut(QKeySequence::Find, this);
     connect(find, &QShortcut::activated, this, [this] {
-        static_cast<TablePage *>(m_pages->currentWidget())->filter()->setFocus(Qt::ShortcutFocusReason);
+        if (const auto *page = qobject_cast<TablePage *>(m_pages->currentWidget())) {
+            page->filter()->setFocus(Qt::ShortcutFocusReason);
+        }
     });
     auto *hide = new QShortcut(QKeySequence(QStringLiteral("Ctrl+W")), this);
     connect(hide, &QShortcut::activated, this, &QWidget::close);

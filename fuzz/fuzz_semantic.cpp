@@ -9,7 +9,12 @@
 
 #include <QJsonDocument>
 
+#include <new>
+
 namespace {
+
+/// Whether whoever asks for memory and can do without gets some.
+bool hasMemory = true;
 
 constexpr const char *Command =
     "{'intent':{'shouldEndSession':true,'semantic':[{'intent':'CREATE_CONFERENCE|ADD_BUDDY|QUERY_CONFERENCE|'"
@@ -34,7 +39,21 @@ void readIntents(const QString &text)
     }
 }
 
+void readWithoutMemory(const QString &text)
+{
+    SemanticParser parser;
+    hasMemory = false;
+    const bool isRead = parser.parseSemanticJson(text);
+    hasMemory = true;
+    require(!isRead && parser.semantic().intents.isEmpty());
+}
+
 } // namespace
+
+void *operator new(std::size_t size, const std::nothrow_t &) noexcept
+{
+    return hasMemory ? ::operator new(size) : nullptr;
+}
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
@@ -48,6 +67,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const char *const chosen = pick(bytes, {Command, Question});
     const QString text = QString::fromUtf8(TemplateText(bytes).after(chosen));
     readIntents(text);
+    constexpr int oneIn = 20;
+    if (bytes.ConsumeIntegralInRange(0, oneIn) == oneIn) {
+        readWithoutMemory(text);
+    }
     require(ContactUtils::analyzeIsShouldEndSession(text) ==
             ContactUtils::analyzeIsShouldEndSession(QJsonDocument::fromJson(text.toUtf8())));
     QString shown = QStringLiteral("before");

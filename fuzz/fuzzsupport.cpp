@@ -3,9 +3,26 @@
 
 #include "fuzzsupport.h"
 
+#include <QJsonDocument>
 #include <QtGlobal>
 
 #include <cstdlib>
+
+#include <dlfcn.h>
+#include <sanitizer/lsan_interface.h>
+
+/// In front of Qt's own. That one forgets the first value of a key that comes twice, when it is an object or
+/// an array, and what it allocates is no leak of ours. A suppression "leak:QJsonDocument::fromJson" would say
+/// the same, but it takes whole stacks of a Qt without frame pointers, which leaves a sixth of the runs.
+QJsonDocument QJsonDocument::fromJson(const QByteArray &json, QJsonParseError *error)
+{
+    using Function = QJsonDocument (*)(const QByteArray &, QJsonParseError *);
+    static const auto original = reinterpret_cast<Function>(
+        dlsym(RTLD_NEXT, "_ZN13QJsonDocument8fromJsonERK10QByteArrayP15QJsonParseError"));
+    require(original != nullptr);
+    const __lsan::ScopedDisabler unobserved;
+    return original(json, error);
+}
 
 const char *pick(FuzzedDataProvider &bytes, Words words)
 {

@@ -78,9 +78,8 @@ QByteArray TemplateText::object(const QJsonObject &object, int depth)
         const QString key = oneIn(VeryRareFault) ? member.key() + QLatin1Char('?') : member.key();
         const QByteArray value = written(member.value(), depth + 1);
         result += (result.isEmpty() ? "" : ",") + quoted(key) + ":" + value;
-        // Twice: but a first one that is no scalar leaks inside Qt's own parser.
-        if (!value.startsWith('{') && !value.startsWith('[') && oneIn(VeryRareFault)) {
-            result += "," + quoted(key) + ":" + number();
+        if (oneIn(VeryRareFault)) {
+            result += "," + quoted(key) + ":" + (m_bytes.ConsumeBool() ? number() : otherValue(depth + 1));
         }
     }
     return "{" + result + "}";

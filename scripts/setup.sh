@@ -19,7 +19,7 @@ packages_package=(abigail-tools binutils build-essential debhelper dpkg-dev lint
 # What the benchmarks take on top.
 packages_bench=(libbenchmark-dev)
 # What the checks of .ci/run take on top.
-packages_ci=(clang clang-format-16 clang-tidy clazy libclang-rt-14-dev shellcheck)
+packages_ci=(clang clang-format-16 clang-tidy clazy libclang-rt-14-dev llvm shellcheck)
 
 say() { printf '%s\n' "$*" >&2; }
 die() {

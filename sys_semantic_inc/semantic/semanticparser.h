@@ -9,6 +9,7 @@
 #include <QObject>
 
 #include <memory>
+#include <new>
 
 /**
  * Reads the understanding service's whole answer, of which only the intents matter here. Meant to be local to
@@ -43,10 +44,14 @@ public:
     [[nodiscard]] const CloudSemantic &semantic() const { return m_semantic; }
 
 private:
-    /// {"semantic": [...]} lifted out of the "intent" object; a null document when the path is not there.
+    /// {"semantic": [...]} lifted out of the "intent" object; an empty document when the path is not there,
+    /// none when there is no memory for one.
     static std::unique_ptr<QJsonDocument> intentsOf(const QJsonDocument &answer)
     {
-        auto document = std::make_unique<QJsonDocument>();
+        std::unique_ptr<QJsonDocument> document(new (std::nothrow) QJsonDocument);
+        if (!document) {
+            return nullptr;
+        }
         const QJsonObject understanding =
             answer.object().value(QLatin1String(SemanticKey::Intent)).toObject();
         const auto semantic = understanding.constFind(QLatin1String(SemanticKey::Semantic));

@@ -8,6 +8,7 @@
 #include <QtTest>
 
 #include <cstddef>
+#include <new>
 
 // The order of members is part of the binary layout.
 static_assert(offsetof(CloudIntent, name) == 0 && offsetof(CloudIntent, slotList) == sizeof(QString));
@@ -29,7 +30,15 @@ QString answerWith(const QByteArray &semantic)
     return QStringLiteral(R"({"intent": {"semantic": %1}, "sid": "x"})").arg(QString::fromUtf8(semantic));
 }
 
+/// Whether whoever asks for memory and can do without gets some.
+bool hasMemory = true;
+
 } // namespace
+
+void *operator new(std::size_t size, const std::nothrow_t &) noexcept
+{
+    return hasMemory ? ::operator new(size) : nullptr;
+}
 
 class TestSemanticParser : public QObject
 {
@@ -170,6 +179,25 @@ private Q_SLOTS:
         QVERIFY(parser.parseSemanticJson(answerWith(R"([{"intent": "A", "slots": []}])")));
         QVERIFY(parser.parseSemanticJson(answerWith(R"([{"intent": "B", "slots": []}])")));
         QCOMPARE(parser.semantic().intents.last().name, QStringLiteral("B"));
+    }
+
+    void withoutMemoryForADocumentNothingIsRead()
+    {
+        const QString json = answerWith(R"([{"intent": "A", "slots": []}])");
+        const LogCapture log(LogCapture::Unexpected::Passes);
+        SemanticParser parser;
+        QVERIFY(parser.parseSemanticJson(answerWith("[]")));
+        hasMemory = false;
+        const bool isRead = parser.parseSemanticJson(json);
+        hasMemory = true;
+        QVERIFY(!isRead);
+        QVERIFY(parser.semantic().intents.isEmpty());
+        QCOMPARE(log.lines(),
+                 QStringList(QStringLiteral("debug: Parse semantic json error, invalid syntax:  ") +
+                             QLatin1Char('"') +
+                             QString(json).replace(QLatin1Char('"'), QLatin1String("\\\"")) +
+                             QLatin1Char('"')));
+        QVERIFY(parser.parseSemanticJson(json));
     }
 
     void recordsNameTheirSource_data()

@@ -1,0 +1,246 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "core/tablesalvage.h"
+
+#include <QQueue>
+#include <QSqlError>
+
+#include <algorithm>
+
+namespace {
+
+/// A gap that was halved so often without reading anything holds nothing, or nothing that can be found.
+constexpr int MostFailures = 12;
+/// The search in gaps ends then: whoever has started the application waits.
+constexpr qint64 LongestSearchMsecs = 20000;
+
+const QString Comma = QStringLiteral(", "); // clazy:exclude=non-pod-global-static
+
+QStringList columnsOf(const QSqlDatabase &database, const QString &table)
+{
+    QStringList columns;
+    QSqlQuery query(database);
+    query.setForwardOnly(true);
+    if (query.exec(QStringLiteral("PRAGMA table_info(%1)").arg(table))) {
+        while (query.next()) {
+            columns.append(query.value(1).toString());
+        }
+    }
+    return columns;
+}
+
+/// "(?, ?, ?)"
+QString places(int count)
+{
+    return QLatin1Char('(') + QVector<QString>(count, QStringLiteral("?")).toList().join(Comma) +
+           QLatin1Char(')');
+}
+
+void bind(QSqlQuery &query, const RowKey &key)
+{
+    for (const QVariant &value : key) {
+        query.addBindValue(value);
+    }
+}
+
+} // namespace
+
+TableSalvage::TableSalvage(const QSqlDatabase &damaged, const QSqlDatabase &fresh, const QString &table,
+                           const QStringList &keys, const QElapsedTimer &clock)
+    : m_damaged(damaged)
+    , m_fresh(fresh)
+    , m_table(table)
+    , m_keys(keys)
+    , m_clock(clock)
+    , m_write(fresh)
+    , m_find(fresh)
+{
+}
+
+int TableSalvage::run()
+{
+    if (!prepare()) {
+        return 0;
+    }
+    const Walk up = walk(Direction::Up, {}, {});
+    const Walk down = walk(Direction::Down, {}, {});
+    if (!up.isWhole || !down.isWhole) {
+        copyByIndexes();
+        search(up.last, down.last);
+    }
+    return m_copied;
+}
+
+bool TableSalvage::prepare()
+{
+    m_columns = m_keys;
+    const QStringList known = columnsOf(m_fresh, m_table);
+    const QStringList present = columnsOf(m_damaged, m_table);
+    for (const QString &column : present) {
+        if (known.contains(column) && !m_columns.contains(column)) {
+            m_columns.append(column);
+        }
+    }
+    // The session's row is there already; a row that was copied from another side is not copied again.
+    const QString verb =
+        m_table == QLatin1String("session") ? QStringLiteral("REPLACE") : QStringLiteral("IGNORE");
+    return !present.isEmpty() &&
+           m_write.prepare(QStringLiteral("INSERT OR %1 INTO %2 (%3) VALUES %4")
+                               .arg(verb, m_table, m_columns.join(Comma), places(m_columns.size()))) &&
+           m_find.prepare(QStringLiteral("SELECT 1 FROM %1 WHERE (%2) = %3")
+                              .arg(m_table, m_keys.join(Comma), places(m_keys.size())));
+}
+
+TableSalvage::Walk TableSalvage::walk(Direction direction, const RowKey &from, const RowKey &to)
+{
+    const bool isUp = direction == Direction::Up;
+    const QString keys = QLatin1Char('(') + m_keys.join(Comma) + QLatin1Char(')');
+    QStringList conditions;
+    if (!from.isEmpty()) {
+        conditions << keys + (isUp ? QStringLiteral(" >= ") : QStringLiteral(" < ")) + places(from.size());
+    }
+    if (!to.isEmpty()) {
+        conditions << keys + (isUp ? QStringLiteral(" < ") : QStringLiteral(" > ")) + places(to.size());
+    }
+    QString sql = QStringLiteral("SELECT %1 FROM %2 ").arg(m_columns.join(Comma), m_table);
+    if (!conditions.isEmpty()) {
+        sql += QStringLiteral("WHERE ") + conditions.join(QStringLiteral(" AND "));
+    }
+    QSqlQuery read(m_damaged);
+    read.setForwardOnly(true);
+    Walk walk;
+    if (!read.prepare(sql + QStringLiteral(" ORDER BY ") + ordered(m_keys, direction))) {
+        return walk;
+    }
+    bind(read, from);
+    bind(read, to);
+    if (!read.exec()) {
+        return walk;
+    }
+    while (read.next()) {
+        copy(read);
+        walk.last = keyOf(read, 0);
+    }
+    walk.isWhole = !read.lastError().isValid();
+    return walk;
+}
+
+void TableSalvage::search(const RowKey &low, const RowKey &high)
+{
+    QQueue<Gap> gaps;
+    if (!low.isEmpty() && !high.isEmpty()) {
+        gaps.enqueue({low, high, 0});
+    }
+    while (!gaps.isEmpty() && m_clock.elapsed() < LongestSearchMsecs) {
+        const Gap gap = gaps.dequeue();
+        const std::optional<RowKey> middle = m_middle.between(gap.low, gap.high);
+        if (!middle || gap.failures > MostFailures) {
+            continue;
+        }
+        const auto failures = [&gap](const Walk &walk) {
+            return walk.last.isEmpty() ? gap.failures + 1 : 0;
+        };
+        const Walk up = walk(Direction::Up, *middle, gap.high);
+        if (!up.isWhole) {
+            gaps.enqueue({up.last.isEmpty() ? *middle : up.last, gap.high, failures(up)});
+        }
+        const Walk down = walk(Direction::Down, *middle, gap.low);
+        if (!down.isWhole) {
+            gaps.enqueue({gap.low, down.last.isEmpty() ? *middle : down.last, failures(down)});
+        }
+    }
+}
+
+void TableSalvage::copyByIndexes()
+{
+    QStringList indexes;
+    QSqlQuery list(m_damaged);
+    list.setForwardOnly(true);
+    if (list.exec(QStringLiteral("PRAGMA index_list(%1)").arg(m_table))) {
+        while (list.next()) {
+            indexes.append(list.value(1).toString());
+        }
+    }
+    QSqlQuery read(m_damaged);
+    read.setForwardOnly(true);
+    if (!read.prepare(QStringLiteral("SELECT %1 FROM %2 WHERE (%3) = %4")
+                          .arg(m_columns.join(Comma), m_table, m_keys.join(Comma), places(m_keys.size())))) {
+        return;
+    }
+    for (const QString &index : qAsConst(indexes)) {
+        for (const Direction direction : {Direction::Up, Direction::Down}) {
+            const QVector<RowKey> keys = keysIn(index, direction);
+            for (const RowKey &key : keys) {
+                if (m_clock.elapsed() >= LongestSearchMsecs) {
+                    return;
+                }
+                if (isCopied(key)) {
+                    continue;
+                }
+                bind(read, key);
+                if (read.exec() && read.next()) {
+                    copy(read);
+                }
+            }
+        }
+    }
+}
+
+QVector<RowKey> TableSalvage::keysIn(const QString &index, Direction direction) const
+{
+    QStringList columns;
+    QSqlQuery info(m_damaged);
+    if (info.exec(QStringLiteral("PRAGMA index_info(%1)").arg(index))) {
+        while (info.next()) {
+            columns.append(info.value(2).toString());
+        }
+    }
+    QVector<RowKey> keys;
+    QSqlQuery read(m_damaged);
+    read.setForwardOnly(true);
+    // In the index's own order, or all of it would be sorted before the first row is seen.
+    if (!columns.isEmpty() &&
+        read.exec(QStringLiteral("SELECT %1 FROM %2 INDEXED BY %3 ORDER BY %4")
+                      .arg(m_keys.join(Comma), m_table, index, ordered(columns, direction)))) {
+        while (read.next()) {
+            keys.append(keyOf(read, 0));
+        }
+    }
+    return keys;
+}
+
+bool TableSalvage::isCopied(const RowKey &key)
+{
+    bind(m_find, key);
+    const bool is = m_find.exec() && m_find.next();
+    m_find.finish();
+    return is;
+}
+
+void TableSalvage::copy(const QSqlQuery &row)
+{
+    for (int column = 0; column < m_columns.size(); ++column) {
+        m_write.bindValue(column, row.value(column));
+    }
+    m_middle.meet(keyOf(row, 0));
+    // Refused when it refers to something that is lost, or makes no sense.
+    if (m_write.exec()) {
+        m_copied += m_write.numRowsAffected();
+    }
+}
+
+RowKey TableSalvage::keyOf(const QSqlQuery &row, int column) const
+{
+    RowKey key;
+    for (int i = 0; i < m_keys.size(); ++i) {
+        key.append(row.value(column + i));
+    }
+    return key;
+}
+
+QString TableSalvage::ordered(const QStringList &columns, Direction direction) const
+{
+    const QString way = direction == Direction::Up ? QStringLiteral(" ASC") : QStringLiteral(" DESC");
+    return columns.join(way + Comma) + way;
+}

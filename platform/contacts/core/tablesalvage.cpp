@@ -11,7 +11,7 @@
 namespace {
 
 /// A gap that was halved so often without reading anything holds nothing, or nothing that can be found.
-constexpr int MostFailures = 12;
+constexpr int MostFailures = 8;
 /// The search in gaps ends then: whoever has started the application waits.
 constexpr qint64 LongestSearchMsecs = 20000;
 

@@ -16,6 +16,8 @@ packages_run=(
 packages_test=(appstream bash-completion binutils desktop-file-utils faketime man-db python3 sqlite3)
 # What building the Debian packages takes on top.
 packages_package=(abigail-tools binutils build-essential debhelper dpkg-dev lintian xz-utils)
+# What tst_krunner takes, which is skipped without: a whole desktop of 380 packages, so nothing here installs it.
+packages_launcher=(plasma-workspace xdotool xvfb)
 # What the benchmarks take on top.
 packages_bench=(libbenchmark-dev)
 # What the checks of .ci/run take on top.

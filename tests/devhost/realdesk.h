@@ -41,10 +41,10 @@ public:
     devhost::Conversation &conversation() { return m_conversation; }
     devhost::MainWindow &window() { return m_window; }
 
-private:
     /// The plugin and its configuration: once per process.
     static devhost::PluginHost &host();
 
+private:
     devhost::LogRecorder m_logs;
     devhost::Appearance m_appearance;
     devhost::Conversation m_conversation;

@@ -27,7 +27,7 @@ KRunnerRequests::KRunnerRequests(LauncherDesk &desk, QObject *parent) : QObject(
 
 KRunnerActions KRunnerRequests::Actions()
 {
-    return {{windowAction(), QStringLiteral("在语音助手的窗口中执行"), icon()}};
+    return {{windowAction(), QStringLiteral("在语音助手的窗口中执行"), QStringLiteral("window-new")}};
 }
 
 KRunnerMatches KRunnerRequests::Match(const QString &query)
@@ -37,7 +37,6 @@ KRunnerMatches KRunnerRequests::Match(const QString &query)
         return {};
     }
     const QVariantMap properties{{QStringLiteral("category"), QStringLiteral("语音助手")},
-                                 {QStringLiteral("subtext"), QStringLiteral("语音助手")},
                                  {QStringLiteral("actions"), QStringList{windowAction()}}};
     return {{act.id, act.line, icon(), ExactMatch, 1.0, properties}};
 }

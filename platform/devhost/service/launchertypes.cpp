@@ -46,6 +46,10 @@ void registerLauncherTypes()
     qDBusRegisterMetaType<KRunnerMatch>();
     qDBusRegisterMetaType<KRunnerMatches>();
     qDBusRegisterMetaType<SearchMetas>();
+    // The adaptors know the lists by these names.
+    qRegisterMetaType<KRunnerActions>("devhost::KRunnerActions");
+    qRegisterMetaType<KRunnerMatches>("devhost::KRunnerMatches");
+    qRegisterMetaType<SearchMetas>("devhost::SearchMetas");
 }
 
 } // namespace devhost

@@ -1,0 +1,215 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "fakecontacts.h"
+#include "launcherprogram.h"
+#include "notificationserver.h"
+
+#include <QtDBus>
+#include <QtTest>
+
+namespace {
+
+QString meeting()
+{
+    return QStringLiteral("明天下午三点和张伟开会");
+}
+
+QString meetingLine()
+{
+    return QStringLiteral("预约 11月22日 15:00 与张伟的视频会议");
+}
+
+} // namespace
+
+/// The program as KRunner and GNOME Shell talk to it, over a bus of its own, on 21 November 2026.
+class TestLauncherProgram : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void krunnerGetsALineAndRunsIt();
+    void krunnerGetsNothingForDoubt();
+    void shellGetsALineAndRunsIt();
+    void shellGetsNothingForDoubt();
+    void contactsAreFollowedAndNotAskedByMatches();
+    void nothingTypedIsLogged();
+    void secondProgramLeavesTheFirstAlone();
+    void programEndsWithItsBus();
+    void withoutABusItSaysSo();
+};
+
+void TestLauncherProgram::krunnerGetsALineAndRunsIt()
+{
+    const NotificationServer notifications;
+    const LauncherProgram program;
+    QTRY_VERIFY(LauncherProgram::isThere());
+
+    const QDBusMessage matched = LauncherProgram::krunner(QStringLiteral("Match"), {meeting()});
+    QCOMPARE(matched.signature(), QStringLiteral("a(sssida{sv})"));
+    const devhost::KRunnerMatches matches = LauncherProgram::match(meeting());
+    QCOMPARE(matches.size(), 1);
+    const devhost::KRunnerMatch &match = matches.first();
+    QCOMPARE(match.line, meetingLine());
+    QCOMPARE(match.icon, QStringLiteral("speakmate-devhost"));
+    QCOMPARE(match.type, 100);
+    QVERIFY(match.relevance > 0 && match.relevance <= 1);
+    QCOMPARE(match.properties.value(QStringLiteral("category")).toString(), QStringLiteral("语音助手"));
+
+    const QDBusMessage actions = LauncherProgram::krunner(QStringLiteral("Actions"));
+    QCOMPARE(actions.signature(), QStringLiteral("a(sss)"));
+    const QDBusReply<devhost::KRunnerActions> offered = actions;
+    QCOMPARE(match.properties.value(QStringLiteral("actions")).toStringList(),
+             QStringList{offered.value().first().id});
+
+    QCOMPARE(notifications.shown().size(), 0);
+    QCOMPARE(LauncherProgram::krunner(QStringLiteral("Run"), {match.id, QString()}).type(),
+             QDBusMessage::ReplyMessage);
+    QTRY_COMPARE(notifications.shown().size(), 1);
+    QCOMPARE(notifications.last().summary, meetingLine());
+    QCOMPARE(notifications.last().body, QStringLiteral("张伟")); // the test plugin says the first slot
+
+    LauncherProgram::krunner(QStringLiteral("Run"), {match.id, QString()});
+    QTRY_COMPARE(notifications.shown().size(), 2);
+    QCOMPARE(notifications.last().summary, QStringLiteral("没有执行"));
+}
+
+void TestLauncherProgram::krunnerGetsNothingForDoubt()
+{
+    const LauncherProgram program;
+    QTRY_VERIFY(LauncherProgram::isThere());
+    for (const QString &query : {QStringLiteral("firefox"), QStringLiteral("加入会议"), QString()}) {
+        const QDBusMessage reply = LauncherProgram::krunner(QStringLiteral("Match"), {query});
+        QCOMPARE(reply.type(), QDBusMessage::ReplyMessage);
+        QCOMPARE(LauncherProgram::match(query).size(), 0);
+    }
+}
+
+void TestLauncherProgram::shellGetsALineAndRunsIt()
+{
+    const NotificationServer notifications;
+    const LauncherProgram program;
+    QTRY_VERIFY(LauncherProgram::isThere());
+
+    const QStringList results = LauncherProgram::search({meeting()});
+    QCOMPARE(results.size(), 1);
+    const QDBusReply<QStringList> narrowed =
+        LauncherProgram::shell(QStringLiteral("GetSubsearchResultSet"),
+                               {QStringList{QStringLiteral("former")}, QStringList{meeting()}});
+    QCOMPARE(narrowed.value(), results);
+
+    const QDBusMessage answered = LauncherProgram::shell(QStringLiteral("GetResultMetas"), {results});
+    QCOMPARE(answered.signature(), QStringLiteral("aa{sv}"));
+    const devhost::SearchMetas metas =
+        LauncherProgram::metas(QStringList{QStringLiteral("unknown")} + results);
+    QCOMPARE(metas.size(), 1);
+    QCOMPARE(metas.first().value(QStringLiteral("id")).toString(), results.first());
+    QCOMPARE(metas.first().value(QStringLiteral("name")).toString(), meetingLine());
+    QCOMPARE(metas.first().value(QStringLiteral("gicon")).toString(), QStringLiteral("speakmate-devhost"));
+
+    LauncherProgram::shell(QStringLiteral("ActivateResult"),
+                           {results.first(), QStringList{meeting()}, uint(0)});
+    QTRY_COMPARE(notifications.shown().size(), 1);
+    QCOMPARE(notifications.last().summary, meetingLine());
+    QCOMPARE(notifications.last().body, QStringLiteral("张伟"));
+}
+
+void TestLauncherProgram::shellGetsNothingForDoubt()
+{
+    const LauncherProgram program;
+    QTRY_VERIFY(LauncherProgram::isThere());
+    QCOMPARE(LauncherProgram::search({QStringLiteral("text"), QStringLiteral("editor")}), QStringList());
+    QCOMPARE(LauncherProgram::search({}), QStringList());
+    // What is split at blanks is one sentence.
+    QCOMPARE(LauncherProgram::search({QStringLiteral("加入会议"), QStringLiteral("880100004")}).size(), 1);
+}
+
+void TestLauncherProgram::contactsAreFollowedAndNotAskedByMatches()
+{
+    FakeContacts contacts({QStringLiteral("张伟")});
+    const LauncherProgram program;
+    QTRY_VERIFY(LauncherProgram::isThere());
+    const QString stranger = QStringLiteral("和小白开会");
+    QTRY_VERIFY(LauncherProgram::match(stranger).isEmpty()); // from when the names are there
+    const int asked = contacts.asked();
+    QVERIFY(asked > 0);
+    for (int i = 0; i < 50; ++i) {
+        QCOMPARE(LauncherProgram::match(meeting()).size(), 1);
+        QCOMPARE(LauncherProgram::search({meeting()}).size(), 1);
+    }
+    QCOMPARE(contacts.asked(), asked);
+
+    contacts.change({QStringLiteral("张伟"), QStringLiteral("小白")});
+    QTRY_COMPARE(LauncherProgram::match(stranger).size(), 1);
+    QCOMPARE(contacts.asked(), asked + 1);
+}
+
+void TestLauncherProgram::nothingTypedIsLogged()
+{
+    qputenv("QT_LOGGING_RULES", "*=true");
+    LauncherProgram program({QStringLiteral("--verbose")});
+    qunsetenv("QT_LOGGING_RULES");
+    QTRY_VERIFY(LauncherProgram::isThere());
+    QCOMPARE(LauncherProgram::match(QStringLiteral("加770077为好友")).size(), 1);
+    QCOMPARE(LauncherProgram::match(QStringLiteral("加入会议770077 密码770077")).size(), 0);
+    QCOMPARE(LauncherProgram::match(QStringLiteral("770077")).size(), 0);
+    QCOMPARE(LauncherProgram::search({QStringLiteral("加770077为好友")}).size(), 1);
+    LauncherProgram::metas(LauncherProgram::search({QStringLiteral("加770077为好友")}));
+    program.process().terminate();
+    QVERIFY(program.process().waitForFinished());
+    const QByteArray errors = program.process().readAllStandardError();
+    QVERIFY(!errors.isEmpty()); // it does log
+    QVERIFY2(!errors.contains("770077"), errors.constData());
+    QCOMPARE(program.process().readAllStandardOutput(), QByteArray());
+}
+
+void TestLauncherProgram::secondProgramLeavesTheFirstAlone()
+{
+    LauncherProgram first;
+    QTRY_VERIFY(LauncherProgram::isThere());
+    LauncherProgram second;
+    QVERIFY(second.process().waitForFinished());
+    QCOMPARE(second.process().exitCode(), 0);
+    QVERIFY(second.process().readAllStandardError().contains("served already"));
+    QCOMPARE(LauncherProgram::match(meeting()).size(), 1);
+}
+
+void TestLauncherProgram::programEndsWithItsBus()
+{
+    QProcess bus;
+    bus.start(QStringLiteral("dbus-daemon"),
+              {QStringLiteral("--config-file=" CONTACT_BINARY_DIR "/empty-bus.conf"),
+               QStringLiteral("--nofork"), QStringLiteral("--print-address")});
+    QVERIFY(bus.waitForReadyRead());
+    const QByteArray address = bus.readLine().trimmed();
+    const QByteArray ours = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+    LauncherProgram program;
+    qputenv("DBUS_SESSION_BUS_ADDRESS", ours);
+    {
+        QDBusConnection other =
+            QDBusConnection::connectToBus(QString::fromLocal8Bit(address), QStringLiteral("other bus"));
+        QTRY_VERIFY(other.interface()->isServiceRegistered(QStringLiteral("com.kelvane.speakmate.devhost")));
+    }
+    QDBusConnection::disconnectFromBus(QStringLiteral("other bus"));
+    bus.kill();
+    QVERIFY(bus.waitForFinished());
+    QVERIFY(program.process().waitForFinished(10000));
+    QCOMPARE(program.process().exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.process().exitCode(), 0);
+}
+
+void TestLauncherProgram::withoutABusItSaysSo()
+{
+    const QByteArray ours = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
+    LauncherProgram program;
+    qputenv("DBUS_SESSION_BUS_ADDRESS", ours);
+    QVERIFY(program.process().waitForFinished(10000));
+    QCOMPARE(program.process().exitCode(), 1);
+    QCOMPARE(program.process().readAllStandardError(),
+             QByteArray("speakmate-devhost: There is no session bus.\n"));
+}
+
+QTEST_GUILESS_MAIN(TestLauncherProgram)
+#include "tst_launcherprogram.moc"

@@ -28,10 +28,14 @@ NotificationServer::~NotificationServer()
     QDBusConnection::disconnectFromBus(connectionName());
 }
 
-uint NotificationServer::Notify(const QString & /*application*/, uint /*replaces*/, const QString &icon,
+uint NotificationServer::Notify(const QString &application, uint /*replaces*/, const QString &icon,
                                 const QString &summary, const QString &body, const QStringList &actions,
                                 const QVariantMap & /*hints*/, int /*timeout*/)
 {
+    constexpr uint another = 1000;
+    if (application != QStringLiteral("语音助手")) {
+        return another;
+    }
     m_shown.append({icon, summary, body, actions});
     return uint(m_shown.size());
 }

@@ -9,7 +9,8 @@
 #include <QVariantMap>
 #include <QVector>
 
-/// The desktop's notifications on the test's bus: keeps what it is asked to show.
+/// The desktop's notifications on the test's bus: keeps what the assistant asks it to show. The contacts
+/// application has notifications of its own.
 class NotificationServer : public QObject
 {
     Q_OBJECT

@@ -85,7 +85,7 @@ std::vector<FoundName> answeredNames(const Reading &reading)
     const bool onlyNames = holdsOnly(reading, [&](const Token &token) {
         return token.kind == Token::Kind::Name ||
                std::any_of(names.cbegin(), names.cend(), [&](const FoundName &name) {
-                   return name.position < token.end() && token.position < name.position + name.said.size();
+                   return name.start < token.end() && token.position < name.position + name.said.size();
                });
     });
     return onlyNames ? names : std::vector<FoundName>();

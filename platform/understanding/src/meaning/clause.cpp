@@ -61,6 +61,14 @@ bool Clause::isSupposed() const
     return has(WordClass::Framed);
 }
 
+bool Clause::isTimeCutOff() const
+{
+    const bool timed = any([&](std::size_t at) { return m_tokens[at].kind == Token::Kind::Time; });
+    return timed && any([&](std::size_t at) {
+               return isPieceOfTime(at) || (m_tokens[at].kind == Token::Kind::Latin && !isExplained(at));
+           });
+}
+
 bool Clause::isRefused() const
 {
     return (isSupposed() &&
@@ -189,7 +197,9 @@ bool Clause::isOtherQuestion() const
     static const QStringList settling = {QStringLiteral("定在"), QStringLiteral("定于"),
                                          QStringLiteral("约在"), QStringLiteral("放在")};
     const bool settled = any([&](std::size_t at) { return settling.contains(textOf(m_tokens[at])); });
-    return uncalled || settled || (has(WordClass::Have) && !m_reading.hasAny(asking) && !m_reading.isAsked());
+    const bool proposed = !m_reading.openVerb().isEmpty() && !m_reading.names().empty(); // 要不要跟Eric开会
+    return uncalled || settled || proposed ||
+           (has(WordClass::Have) && !m_reading.hasAny(asking) && !m_reading.isAsked());
 }
 
 bool Clause::isAtOtherTime() const
@@ -256,6 +266,9 @@ bool Clause::isExplained(std::size_t at) const
         return false;
     }
     switch (token.kind) {
+    case Token::Kind::Latin: // an account, a password or a name; else nobody knows what
+        return token.inName || m_intent == QLatin1String(AddBuddy) ||
+               m_intent == QLatin1String(EnterConferenceById) || isDescription(at) || isBeforeConference(at);
     case Token::Kind::Word:
         return (m_isQuery && token.is(WordClass::Framed)) || token.inName || token.isAny(m_allowed.beside) ||
                isNothing(token) || isDescription(at);
@@ -270,18 +283,35 @@ bool Clause::isExplained(std::size_t at) const
     }
 }
 
+bool Clause::isBeforeConference(std::size_t at) const
+{
+    constexpr std::size_t farthest = 6;
+    for (std::size_t next = at + 1; next < qMin(m_end, at + farthest); ++next) {
+        const Token &token = m_tokens[next];
+        if (token.is(WordClass::Conference)) {
+            return true;
+        }
+        if (token.kind != Token::Kind::Space && token.kind != Token::Kind::Latin &&
+            token.kind != Token::Kind::Other) {
+            return false;
+        }
+    }
+    return false;
+}
+
 bool Clause::isDescription(std::size_t at) const
 {
     constexpr WordClasses verbs = WordClass::StrongOpen | WordClass::WeakOpen | WordClass::GoverningOpen |
                                   WordClass::Join | WordClass::WeakJoin;
-    constexpr std::size_t farthest = 4;
+    constexpr std::size_t farthest = 6;
     if (at > m_begin && m_tokens[at - 1].is(WordClass::Video) && m_tokens[at].kind == Token::Kind::Other) {
         return true;
     }
     std::size_t next = at + 1;
-    while (next < m_end && next < at + farthest &&
-           (m_tokens[next].isAny(WordClass::Measure | WordClass::Title | WordClass::Plain) ||
-            m_tokens[next].kind == Token::Kind::Other || isNothing(m_tokens[next]))) {
+    while (
+        next < m_end && next < at + farthest &&
+        (m_tokens[next].isAny(WordClass::Measure | WordClass::Title | WordClass::Plain | WordClass::Filler) ||
+         m_tokens[next].kind == Token::Kind::Other || isNothing(m_tokens[next]))) {
         ++next;
     }
     if (next >= m_end || !m_tokens[next].is(WordClass::Conference)) {

@@ -21,6 +21,8 @@ public:
     bool isRequested() const;
     bool callsSomebody() const;
     bool isSupposed() const;
+    /// tmr下午三点: a time beside something strange.
+    bool isTimeCutOff() const;
 
     bool isRefused() const;
     /// 结束了会议, 会议结束了: done, unless it is asked for (把会议关了, 散了吧).
@@ -59,6 +61,8 @@ private:
     bool isExplained(std::size_t at) const;
     /// 需求 in 开个需求会, 张总的 in 加入张总的会议, 需求 in 对一下需求: what kind of conference it is.
     bool isDescription(std::size_t at) const;
+    /// team in team meeting.
+    bool isBeforeConference(std::size_t at) const;
     /// Little words that change nothing.
     bool isNothing(const Token &token) const;
 

@@ -48,7 +48,10 @@ void fillOpenVerb(Outcome &outcome, const Reading &reading, const QDateTime &)
 
 void fillSaidTime(Outcome &outcome, const Reading &reading, const QDateTime &now)
 {
-    if (reading.has(WordClass::UnclearDay) || reading.has(WordClass::Festival)) {
+    // 周末，周六上午十点 is clear.
+    const bool dayNamed = reading.time().day != TimeExpression::Day::None;
+    const bool clear = dayNamed && reading.clockCount() > 0 && !reading.namesOtherWeek();
+    if ((reading.has(WordClass::UnclearDay) && !clear) || (reading.has(WordClass::Festival) && !dayNamed)) {
         outcome.answer = QStringLiteral("which-day");
     } else if (!reading.timeSaid().isEmpty()) {
         fillTime(outcome, reading.time(), reading.timeSaid(), now);

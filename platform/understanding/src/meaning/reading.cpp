@@ -50,6 +50,14 @@ void Reading::markNames()
     }
 }
 
+bool Reading::namesOtherWeek() const
+{
+    static const QString others = QStringLiteral("下上过前隔");
+    return std::any_of(m_tokens.cbegin(), m_tokens.cend(), [&](const Token &token) {
+        return token.is(WordClass::UnclearDay) && others.contains(m_sentence.text().at(token.position));
+    });
+}
+
 bool Reading::hasDoubtfulName() const
 {
     return std::any_of(m_names.cbegin(), m_names.cend(), [](const FoundName &name) { return name.doubtful; });
@@ -233,7 +241,9 @@ void Reading::collectOpenVerb()
         if (rank > best) {
             best = rank;
             const bool once = token.length > 1 && m_sentence.text().at(token.end() - 1) == QChar(u'下');
-            const int length = once ? 1 : token.length; // 约 in 约一下
+            const QChar last = m_sentence.text().at(token.end() - 1);
+            const bool when = token.length > 2 && (last == QChar(u'到') || last == QChar(u'在'));
+            const int length = once ? 1 : token.length - (when ? 1 : 0); // 约 in 约一下, 安排 in 安排到
             m_openVerb = part(token.position, length, m_sentence.rawPart(token.position, length));
         }
     }

@@ -63,6 +63,13 @@ int modifierLength(const QString &text)
             return start + cut;
         }
     }
+    // 中介小李: nobody else begins so.
+    constexpr int shortest = 4;
+    static const QString prefixes = QStringLiteral("小老阿");
+    const int familiar = rest.size() - 2;
+    if (rest.size() >= shortest && prefixes.contains(rest.at(familiar)) && !looksLikeName(rest.left(3))) {
+        return start + familiar;
+    }
     // 闺女秀英, 外孙女朵朵: the given name alone.
     const int cut = rest.size() - 2;
     for (int length = qMin(LongestRole, cut); length > 0; --length) {
@@ -86,9 +93,9 @@ int headLength(const QString &name)
 
 bool isLikelyName(const QString &name)
 {
-    constexpr int longestGivenName = 3;
+    constexpr int longestName = 5; // 乌兰图雅
     static const QString strange =
-        QStringLiteral("去说吃喝打看做写买送聊谈拉让叫喊呗请找搞问想要进入把给是没不了过吗呢吧的");
+        QStringLiteral("去说吃喝打看做写送聊谈让叫喊呗请找搞问想要进入把给是没不了过吗呢吧的");
     const bool latin =
         std::any_of(name.cbegin(), name.cend(), [](QChar character) { return character.unicode() < 0x250; });
     if (latin || name.contains(QChar(u'·')) || isPersonsName(name) || endsWithRole(name)) {
@@ -96,7 +103,7 @@ bool isLikelyName(const QString &name)
     }
     const bool clean =
         std::none_of(name.cbegin(), name.cend(), [](QChar character) { return strange.contains(character); });
-    return clean && (name.size() <= longestGivenName || looksLikeName(name));
+    return clean && (name.size() <= longestName || looksLikeName(name));
 }
 
 } // namespace understanding

@@ -4,6 +4,7 @@
 #include "names/namefinder.h"
 
 #include "names/headreader.h"
+#include "names/namecollector.h"
 #include "names/namelook.h"
 #include "names/nameplaces.h"
 #include "text/scan.h"
@@ -15,13 +16,13 @@ namespace understanding {
 
 namespace {
 
-constexpr int LongestName = NamePlaces::LongestName;
+constexpr int LongestName = NameCollector::LongestName;
 
-class NameFinder final
+class NameFinder final : private NameCollector
 {
 public:
     NameFinder(const QString &raw, const QString &text, const Tokens &tokens)
-        : m_raw(raw)
+        : NameCollector(raw, text)
         , m_text(text)
         , m_tokens(tokens)
         , m_places(text, tokens)
@@ -53,11 +54,13 @@ private:
             return at;
         }
         constexpr WordClasses leads = WordClass::Trigger | WordClass::NameLabel | WordClass::Separator;
-        if (token.isAny(leads)) {
+        if (token.isAny(leads) && !m_places.isOpeningOne(at)) {
+            m_listed = m_text.at(token.position) == QChar(u'、');
             if (token.is(WordClass::Separator)) {
                 takeLeft(at);
             }
-            const bool clauseSign = token.is(WordClass::Separator) && !token.is(WordClass::Trigger);
+            const bool clauseSign =
+                token.is(WordClass::Separator) && !token.is(WordClass::Trigger) && !m_listed;
             return takeZone(at, token.is(WordClass::WeakTrigger) || clauseSign);
         }
         if (token.kind == Token::Kind::Name) {
@@ -66,66 +69,6 @@ private:
             return takeSubject(at);
         }
         return at;
-    }
-
-    void addKnown(const Token &token, bool called)
-    {
-        m_names.push_back({token.position, token.position, m_raw.mid(token.position, token.length),
-                           token.name, called, false});
-    }
-
-    void addUnknown(int position, const QString &normal, bool called)
-    {
-        int at = position;
-        const QStringList names = splitNames(normal);
-        for (const QString &name : names) {
-            addOne(at, name.size(), called);
-            at += name.size();
-        }
-    }
-
-    void addOne(int position, int length, bool called)
-    {
-        const QString said = m_raw.mid(position, length);
-        m_names.push_back({position, position, said, said, called, false});
-    }
-
-    /// The name between @p start and @p end, without what surrounds it.
-    void addChunk(int start, int end, bool mustLookLikeName, bool called)
-    {
-        const QString chunk = m_text.mid(start, end - start);
-        QString name = withoutParticles(chunk);
-        if (name.endsWith(QStringLiteral("的人"))) { // 市场部的人
-            name.chop(2);
-        }
-        const int modifier = modifierLength(name);
-        name = withoutParticles(name.mid(modifier));
-        if (name.size() < 2 || name.size() > LongestName || (mustLookLikeName && !looksLikeName(name))) {
-            return;
-        }
-        if (Lexicon::instance().classesOf(name).has(WordClass::Nobody)) {
-            return;
-        }
-        const int head = headLength(name);
-        const bool cut = withoutParticles(QStringLiteral("的的") + name.mid(head)).size() > 2;
-        name.truncate(head);
-        if (name.size() > 2 && name.at(0) == QChar(u'约') && isPersonsName(name.mid(1))) { // 约约王磊
-            name = name.mid(1);
-        }
-        const int offset = chunk.lastIndexOf(name);
-        const std::size_t before = m_names.size();
-        if (modifier > 0 && isPersonsName(name)) {
-            addOne(start + offset, name.size(), called);
-        } else {
-            addUnknown(start + offset, name, called);
-        }
-        if (m_names.size() > before) {
-            m_names[before].start = m_modifierStart >= 0 ? m_modifierStart : start;
-            m_modifierStart = -1;
-        }
-        for (std::size_t at = before; at < m_names.size(); ++at) {
-            m_names[at].doubtful = cut || !isLikelyName(m_names[at].name);
-        }
     }
 
     /// 赵云和...: who stands left of 和.
@@ -142,7 +85,7 @@ private:
         const bool taken = std::any_of(m_names.cbegin(), m_names.cend(),
                                        [&](const FoundName &name) { return name.position >= left.position; });
         if (!taken && left.end() == m_tokens[at].position) {
-            addChunk(left.position, left.end(), true, true);
+            addChunk(left.position, left.end(), !m_listed, true);
         }
     }
 
@@ -220,6 +163,9 @@ private:
                 at = takeKnownName(at);
             } else if (token.is(WordClass::Title) && token.length > 1 && someoneFollows) { // 董事长王建国
                 m_modifierStart = m_modifierStart < 0 ? token.position : m_modifierStart;
+            } else if (token.is(WordClass::Title) && token.length > 1 &&
+                       !token.is(WordClass::Nobody)) { // 跟老板开会
+                addOne(token.position, token.length, true);
             } else if (m_places.isPrefixOfLatin(at)) {
                 addOne(token.position, m_tokens[at + 1].end() - token.position, true);
                 ++at;
@@ -289,7 +235,14 @@ private:
             m_modifierStart = start;
             return next;
         }
+        const std::size_t before = m_names.size();
         addChunk(start, end, mustLookLikeName, true);
+        const bool listed = at > 0 && m_tokens[at - 1].is(WordClass::Separator);
+        if (m_names.size() == before && mustLookLikeName && listed && !m_names.empty()) { // 阿辉和思思
+            addChunk(start, end, false, true);
+            std::for_each(m_names.begin() + static_cast<std::ptrdiff_t>(before), m_names.end(),
+                          [](FoundName &name) { name.doubtful = true; });
+        }
         return last;
     }
 
@@ -308,6 +261,9 @@ private:
             last += 2;
         }
         const int start = m_tokens[at].position;
+        if (m_text.at(start).isDigit()) { // 1on1
+            return at;
+        }
         const QString name = m_text.mid(start, m_tokens[last].end() - start);
         const bool nameFollows =
             last + 1 < m_tokens.size() &&
@@ -349,12 +305,9 @@ private:
         return withoutParticles(QString(character) + character).isEmpty();
     }
 
-    const QString &m_raw;
     const QString &m_text;
     const Tokens &m_tokens;
     const NamePlaces m_places;
-    std::vector<FoundName> m_names;
-    int m_modifierStart = -1; ///< of the name that comes next, -1 for none
 };
 
 } // namespace

@@ -77,7 +77,7 @@ bool startsTwoCharacterSurname(const QString &text)
 
 bool looksLikeName(const QString &text)
 {
-    static const QString prefixes = QStringLiteral("小老阿大");
+    static const QString prefixes = QStringLiteral("小老阿大二");
     if (text.size() < 2) {
         return false;
     }
@@ -173,7 +173,7 @@ QString withoutParticles(const QString &text)
 {
     static const QString leading = QStringLiteral("的也都再就先在要想了个请给对着还又把将跟是有帮替");
     static const QString trailing = QStringLiteral(
-        "也都来去再就先在要想的给吧呢啊呀了过到于得能可需将又还会用里并且吗嘛上下把做成为参加");
+        "也都全来去再就先在要想的给吧呢啊呀了过到于得能可需将又还会用里并且吗嘛上下把做成为参加约让呗");
     int start = 0;
     int end = text.size();
     // What is left has two characters at least: 王来 is a name.

@@ -41,7 +41,7 @@ std::size_t NamePlaces::endOfModifier(std::size_t at) const
     constexpr std::size_t longest = 5;
     constexpr WordClasses between = WordClass::Nobody | WordClass::Plain | WordClass::Title |
                                     WordClass::AccountLabel | WordClass::Mine | WordClass::NameLabel |
-                                    WordClass::IdLabel;
+                                    WordClass::IdLabel | WordClass::Filler;
     for (std::size_t next = at; next < qMin(m_tokens.size(), at + longest); ++next) {
         const Token &token = m_tokens[next];
         const bool dayOfMonth = token.kind == Token::Kind::Time && next == at && !token.time.hasClock &&
@@ -58,22 +58,34 @@ std::size_t NamePlaces::endOfModifier(std::size_t at) const
             if (of >= 0 && next > at && !(afterDay && of == 0) && looksLikeName(head)) {
                 return next;
             }
+            const std::size_t latin = next + 1;
+            if (of + 1 == text.size() && latin < m_tokens.size() && m_tokens[latin].position == token.end() &&
+                (m_tokens[latin].kind == Token::Kind::Latin || m_tokens[latin].kind == Token::Kind::Name)) {
+                return latin; // A组的Frank
+            }
             if (of >= 0) {
                 return at;
             }
         } else if (!dayOfMonth && token.kind != Token::Kind::Number && token.kind != Token::Kind::Latin &&
-                   !token.isAny(between)) {
+                   !token.isAny(between) && !(token.length == 1 && token.classes.isEmpty())) {
             return at;
         }
     }
     return at;
 }
 
+bool NamePlaces::isOpeningOne(std::size_t at) const
+{
+    const std::size_t next = at + 1;
+    return m_tokens[at].isAny(WordClass::StrongOpen | WordClass::WeakOpen) && next < m_tokens.size() &&
+           m_tokens[next].is(WordClass::Measure) && !m_tokens[next].is(WordClass::Filler) &&
+           m_text.at(m_tokens[next].end() - 1) != QChar(u'下');
+}
+
 bool NamePlaces::isPrefixOfLatin(std::size_t at) const
 {
-    static const QString prefixes = QStringLiteral("小老阿大");
-    return at + 1 < m_tokens.size() && m_tokens[at].length == 1 &&
-           prefixes.contains(m_text.at(m_tokens[at].position)) &&
+    return at + 1 < m_tokens.size() && m_tokens[at].length == 1 && m_tokens[at].kind == Token::Kind::Other &&
+           looksLikeName(m_text.mid(m_tokens[at].position, 1) + QChar(u'子')) &&
            m_tokens[at + 1].kind == Token::Kind::Latin && m_tokens[at + 1].position == m_tokens[at].end();
 }
 

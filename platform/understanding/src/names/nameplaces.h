@@ -16,9 +16,6 @@ namespace understanding {
 class NamePlaces final
 {
 public:
-    /// In characters; also the most tokens of a run that begins with a word.
-    static constexpr int LongestName = 12;
-
     NamePlaces(const QString &text, const Tokens &tokens) : m_text(text), m_tokens(tokens) {}
 
     [[nodiscard]] bool standsApartBefore(std::size_t at) const;
@@ -36,7 +33,9 @@ public:
     [[nodiscard]] bool isOwner(std::size_t at) const;
     /// The token that holds the end of what says who somebody is, 号线的耿浩 in 4号线的耿浩; @p at for none.
     [[nodiscard]] std::size_t endOfModifier(std::size_t at) const;
-    /// 阿 in 阿Ken.
+    /// 安排 in 安排一个安全检查的会: what follows says what the conference is about.
+    [[nodiscard]] bool isOpeningOne(std::size_t at) const;
+    /// 阿 in 阿Ken, 林 in 林Sir.
     [[nodiscard]] bool isPrefixOfLatin(std::size_t at) const;
     [[nodiscard]] bool isMiddleDot(std::size_t at) const;
     [[nodiscard]] std::size_t skipTitle(std::size_t at) const;

@@ -107,6 +107,9 @@ bool followsConference(const Tokens &tokens, std::size_t verb)
         return false;
     }
     for (std::size_t before = 0; before < verb; ++before) {
+        if (tokens[before].is(WordClass::Join)) {
+            return false; // 我要加入会议，帮我弄一下
+        }
         if (tokens[before].is(WordClass::Conference)) {
             return true;
         }
@@ -168,15 +171,22 @@ void settleCalls(const QString &text, Tokens &tokens)
     }
 }
 
+/// 需求评审安排到明天上午: the topic ends before its verb.
+bool settlesTime(const QString &text, const Token &token)
+{
+    static const QString where = QStringLiteral("到在");
+    return token.is(WordClass::StrongOpen) && token.length > 1 && where.contains(text.at(token.end() - 1));
+}
+
 /// What a conference is about runs to the end of its clause or to the conference: 关于预算的会议.
-void settleTopics(Tokens &tokens)
+void settleTopics(const QString &text, Tokens &tokens)
 {
     bool inTopic = false;
     for (Token &token : tokens) {
         const bool newTrigger =
             token.is(WordClass::Trigger) && !token.is(WordClass::WeakTrigger) && token.length > 1;
         if (token.is(WordClass::Conference) || token.is(WordClass::Punctuation) || newTrigger ||
-            token.is(WordClass::NameLabel)) {
+            token.is(WordClass::NameLabel) || settlesTime(text, token)) {
             inTopic = false;
         }
         token.inTopic = inTopic;
@@ -203,7 +213,7 @@ void settleWords(const QString &text, Tokens &tokens)
 {
     settleQuestions(tokens);
     settleConferences(text, tokens);
-    settleTopics(tokens);
+    settleTopics(text, tokens);
     settleOpening(text, tokens);
     settleCalls(text, tokens);
 }

@@ -103,7 +103,10 @@ private:
 
     bool takeTimeOrNumberOrWord()
     {
-        const WordMatch word = Lexicon::instance().longestAt(m_text, m_at);
+        WordMatch word = Lexicon::instance().longestAt(m_text, m_at);
+        if (takesPieceOfTime(word.length)) {
+            word = Lexicon::instance().longestAt(m_text.left(m_at + word.length - 1), m_at);
+        }
         const TimeMatch time = readTime(m_text, m_at);
         if (time.kind != TimeMatch::Kind::None && time.length >= word.length && !isInUnknownName(time)) {
             takeTime(time);
@@ -117,6 +120,17 @@ private:
         }
         append(Token::Kind::Word, word.length).classes = word.classes;
         return true;
+    }
+
+    /// 约下 in 约下午三点 and 约下周三, but not 约一下 in 约一下周三.
+    bool takesPieceOfTime(int wordLength) const
+    {
+        const int last = m_at + wordLength - 1;
+        if (wordLength < 2 || m_text.at(last) != QChar(u'下') || m_text.at(last - 1) == QChar(u'一') ||
+            charAt(m_text, last + 1) == QChar(u'下')) {
+            return false;
+        }
+        return readTime(m_text, last).kind != TimeMatch::Kind::None;
     }
 
     void takeTime(const TimeMatch &time)
@@ -200,7 +214,16 @@ private:
     /// aloud behind.
     int latinEnd() const
     {
-        int at = m_at;
+        if (const int form = firstOf(m_text, m_at, {u"Dr. ", u"Mr. ", u"Mrs. ", u"Ms. ", u"Prof. "})) {
+            const int end = latinEndFrom(m_at + form); // Mr. Brown
+            return end > m_at ? end : latinEndFrom(m_at);
+        }
+        return latinEndFrom(m_at);
+    }
+
+    int latinEndFrom(int start) const
+    {
+        int at = start;
         int end = m_at;
         bool letters = false;
         while (at < m_text.size()) {

@@ -91,7 +91,7 @@ bool callsPeople(const Token &token)
 
 /// 约小张开会，不对，约小王: the last call before @p repair with the name behind it, when the replacement
 /// calls, too. Drops them; false where nobody was called.
-bool dropCall(const Tokens &tokens, std::size_t repair, std::size_t later, std::vector<bool> &dropped)
+bool dropCall(Tokens &tokens, std::size_t repair, std::size_t later, std::vector<bool> &dropped)
 {
     bool called = false;
     for (std::size_t at = repair + 1; at < later; ++at) {
@@ -107,6 +107,9 @@ bool dropCall(const Tokens &tokens, std::size_t repair, std::size_t later, std::
     }
     if (end == trigger + 1) {
         return false;
+    }
+    if (!called) {
+        tokens[repair].classes = WordClass::Trigger; // 拉王姐进会，不对，彭姐: it calls now
     }
     const std::size_t begin = called ? trigger : trigger + 1;
     std::fill(dropped.begin() + static_cast<std::ptrdiff_t>(begin),
@@ -147,7 +150,7 @@ bool repairAt(Tokens &tokens, std::size_t repair, std::vector<bool> &dropped)
         return false;
     }
     // The repair goes with the pauses around it, so that one clause remains.
-    dropped[repair] = true;
+    dropped[repair] = !tokens[repair].is(WordClass::Trigger);
     for (std::size_t at = repair; at > 0 && (isPause(tokens[at - 1]) || dropped[at - 1]); --at) {
         dropped[at - 1] = true;
     }

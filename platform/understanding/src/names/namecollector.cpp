@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "names/namecollector.h"
+
+#include "names/headreader.h"
+#include "names/namelook.h"
+#include "words/lexicon.h"
+
+namespace understanding {
+
+void NameCollector::addKnown(const Token &token, bool called)
+{
+    m_names.push_back(
+        {token.position, token.position, m_raw.mid(token.position, token.length), token.name, called, false});
+}
+
+void NameCollector::addUnknown(int position, const QString &normal, bool called)
+{
+    int at = position;
+    const QStringList names = splitNames(normal);
+    for (const QString &name : names) {
+        addOne(at, name.size(), called);
+        at += name.size();
+    }
+}
+
+void NameCollector::addOne(int position, int length, bool called)
+{
+    const QString said = m_raw.mid(position, length);
+    m_names.push_back({position, position, said, said, called, false});
+}
+
+void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool called)
+{
+    const QString chunk = m_text.mid(start, end - start);
+    QString name = isWholeName(chunk, end) ? chunk : withoutParticles(chunk);
+    if (name.endsWith(QStringLiteral("的人"))) { // 市场部的人
+        name.chop(2);
+    }
+    const int modifier = modifierLength(name);
+    if (modifier > 0) {
+        name = withoutParticles(name.mid(modifier));
+    }
+    if (name.size() < 2 || name.size() > LongestName || (mustLookLikeName && !looksLikeName(name))) {
+        return;
+    }
+    if (Lexicon::instance().classesOf(name).has(WordClass::Nobody)) {
+        return;
+    }
+    const int head = headLength(name);
+    const bool cut = withoutParticles(QStringLiteral("的的") + name.mid(head)).size() > 2;
+    name.truncate(head);
+    if (name.size() > 2 && name.at(0) == QChar(u'约') && isPersonsName(name.mid(1))) { // 约约王磊
+        name = name.mid(1);
+    }
+    const int offset = chunk.lastIndexOf(name);
+    const std::size_t before = m_names.size();
+    if (modifier > 0 && isPersonsName(name)) {
+        addOne(start + offset, name.size(), called);
+    } else {
+        addUnknown(start + offset, name, called);
+    }
+    if (m_names.size() > before) {
+        m_names[before].start = m_modifierStart >= 0 ? m_modifierStart : start;
+        m_modifierStart = -1;
+    }
+    for (std::size_t at = before; at < m_names.size(); ++at) {
+        const QString &found = m_names[at].name;
+        const bool strange = m_listed && !looksLikeName(found) && !isModifier(found);
+        m_names[at].doubtful = cut || strange || !isLikelyName(found);
+    }
+}
+
+bool NameCollector::isWholeName(const QString &chunk, int end) const
+{
+    static const QString enclosing = QStringLiteral("、,。;/和跟与及 ");
+    static const QString never = QStringLiteral("也都全吧呢啊呀了的吗嘛呗参加");
+    const bool closed = end == m_text.size() || enclosing.contains(m_text.at(end));
+    return closed && chunk.size() == 3 && isPersonsName(chunk) && !never.contains(chunk.at(2));
+}
+
+} // namespace understanding

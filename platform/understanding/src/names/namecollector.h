@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "names/namefinder.h"
+
+namespace understanding {
+
+/// Gathers names and cuts them out of what surrounds them. The sentence must outlive it.
+class NameCollector
+{
+public:
+    static constexpr int LongestName = 12; ///< in characters
+
+protected:
+    NameCollector(const QString &raw, const QString &text) : m_raw(raw), m_text(text) {}
+    ~NameCollector() = default;
+    Q_DISABLE_COPY(NameCollector)
+
+    void addKnown(const Token &token, bool called);
+    void addUnknown(int position, const QString &normal, bool called);
+    void addOne(int position, int length, bool called);
+    /// The name between @p start and @p end, without what surrounds it.
+    void addChunk(int start, int end, bool mustLookLikeName, bool called);
+
+    std::vector<FoundName> m_names; // NOLINT(misc-non-private-member-variables-in-classes)
+    bool m_listed = false;          ///< beside 、, where anything may stand
+    int m_modifierStart = -1;       ///< of the name that comes next, -1 for none
+
+private:
+    /// 邓稼先 before a comma: 先 belongs to the name where no verb follows.
+    [[nodiscard]] bool isWholeName(const QString &chunk, int end) const;
+
+    const QString &m_raw;
+    const QString &m_text;
+};
+
+} // namespace understanding

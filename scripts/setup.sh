@@ -10,10 +10,10 @@ log=$root/build/setup.log
 # What building and running takes.
 packages_run=(
     cmake ninja-build g++ ccache qtbase5-dev qtbase5-dev-tools libqt5svg5 libqt5sql5-sqlite libqt5texttospeech5-dev
-    dbus dbus-daemon procps fonts-noto-cjk
+    libkf5calendarcore-dev dbus dbus-daemon procps fonts-noto-cjk
 )
 # What the tests take on top.
-packages_test=(appstream bash-completion binutils desktop-file-utils faketime man-db python3 sqlite3)
+packages_test=(appstream bash-completion binutils desktop-file-utils faketime libical-dev man-db python3 sqlite3)
 # What building the Debian packages takes on top.
 packages_package=(abigail-tools binutils build-essential debhelper dpkg-dev lintian xz-utils)
 # What tst_krunner takes, which is skipped without: a whole desktop of 380 packages, so nothing here installs it.

@@ -3,6 +3,7 @@
 
 #include "book/administration.h"
 #include "book/contactsbook.h"
+#include "calendar/calendarexport.h"
 #include "core/databaseerror.h"
 #include "reminders/reminders.h"
 #include "service/busservice.h"
@@ -22,7 +23,7 @@
 
 namespace {
 
-enum ExitStatus { Served = 0, DatabaseUnusable = 1, NoSessionBus = 2, BusRefused = 3 };
+enum ExitStatus { Served = 0, DatabaseUnusable = 1, NoSessionBus = 2, BusRefused = 3, NotExported = 4 };
 
 std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv, bool withWindow)
 {
@@ -32,16 +33,33 @@ std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv, bool w
     return std::make_unique<QCoreApplication>(argc, argv);
 }
 
+std::unique_ptr<ContactsBook> openBook()
+{
+    try {
+        return std::make_unique<ContactsBook>(Database::defaultFileName());
+    } catch (const DatabaseError &error) {
+        qCritical() << "The contacts cannot be opened:" << error.what();
+        return nullptr;
+    }
+}
+
+/// Needs no bus: it may be called from where there is none, and beside a running application.
+int exportCalendar(const QString &fileName, const QString &dialNumber)
+{
+    const std::unique_ptr<ContactsBook> book = openBook();
+    if (!book) {
+        return DatabaseUnusable;
+    }
+    return exportConference(*book, dialNumber, fileName) ? Served : NotExported;
+}
+
 enum class FirstSight { Window, Nothing };
 enum class Audience { Users, Developers };
 
 int serve(QCoreApplication &application, FirstSight firstSight, Audience audience)
 {
-    std::unique_ptr<ContactsBook> book;
-    try {
-        book = std::make_unique<ContactsBook>(Database::defaultFileName());
-    } catch (const DatabaseError &error) {
-        qCritical() << "The contacts cannot be opened:" << error.what();
+    const std::unique_ptr<ContactsBook> book = openBook();
+    if (!book) {
         return DatabaseUnusable;
     }
     const bool isForDevelopers = audience == Audience::Developers;
@@ -112,7 +130,21 @@ int main(int argc, char **argv)
                        "everything, and show what only a developer needs."));
     parser.addOption(service);
     parser.addOption(developer);
+    const QCommandLineOption exported(
+        QStringLiteral("export"),
+        QStringLiteral(
+            "Write one of your conferences to an iCalendar file, '-' for the standard output, and end."),
+        QStringLiteral("file"));
+    const QCommandLineOption conference(
+        QStringLiteral("conference"),
+        QStringLiteral("The number of the conference to export; without it the running or the next one."),
+        QStringLiteral("number"));
+    parser.addOption(exported);
+    parser.addOption(conference);
     parser.process(*application);
+    if (parser.isSet(exported)) {
+        return exportCalendar(parser.value(exported), parser.value(conference));
+    }
     return serve(*application, parser.isSet(service) ? FirstSight::Nothing : FirstSight::Window,
                  parser.isSet(developer) ? Audience::Developers : Audience::Users);
 }

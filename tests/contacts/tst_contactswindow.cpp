@@ -13,9 +13,13 @@
 #include <lumo/lguiapplicationhelper.h>
 
 #include <QAccessible>
+#include <QAction>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
+#include <QFileDialog>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
@@ -49,6 +53,8 @@ private Q_SLOTS:
     void aNoticeStaysUntilItIsRead();
     void usersDoNotSeeWhatIsForDevelopers();
     void remindersAreSetWithTheKeyboard();
+    void aConferenceIsExportedFromTheMenu();
+    void theMenuCopiesTheNumber();
     void pictures_data();
     void pictures();
 
@@ -388,6 +394,49 @@ void TestContactsWindow::remindersAreSetWithTheKeyboard()
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
     QVERIFY(child<QCheckBox>("remind")->isChecked());
     QVERIFY(settings().isOn);
+}
+
+void TestContactsWindow::aConferenceIsExportedFromTheMenu()
+{
+    QVERIFY(!child<QAction>("export")->isEnabled());
+    selectNumber("880100005");
+    conferences()->setFocus();
+    QTest::keyClick(conferences(), Qt::Key_E, Qt::ControlModifier);
+    const auto dialog = [this] {
+        return m_window->findChild<QFileDialog *>();
+    };
+    QVERIFY(dialog());
+    const QString file = m_world->folder.filePath(QStringLiteral("out"));
+    dialog()->selectFile(file);
+    QTest::keyClick(dialog(), Qt::Key_Return);
+    QTRY_VERIFY(!dialog());
+    QFile written(file + QStringLiteral(".ics"));
+    QVERIFY(written.open(QIODevice::ReadOnly));
+    QVERIFY(written.readAll().contains("880100005"));
+    QCOMPARE(told(), QStringLiteral("已导出到 %1。").arg(written.fileName()));
+
+    // Cancelled meanwhile.
+    child<QAction>("export")->trigger();
+    QVERIFY(dialog());
+    m_world->ask(
+        QStringLiteral("Delete Conference"),
+        QJsonObject{{QStringLiteral("conferenceId"), m_world->conferenceId(QStringLiteral("880100005"))}});
+    dialog()->selectFile(m_world->folder.filePath(QStringLiteral("gone.ics")));
+    QTest::keyClick(dialog(), Qt::Key_Return);
+    QTRY_COMPARE(told(), QStringLiteral("会议已不存在。"));
+    QVERIFY(!QFile::exists(m_world->folder.filePath(QStringLiteral("gone.ics"))));
+    QVERIFY(!child<QAction>("export")->isEnabled());
+}
+
+void TestContactsWindow::theMenuCopiesTheNumber()
+{
+    selectNumber("880100006");
+    conferences()->setFocus();
+    QTest::keyClick(conferences(), Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("880100006"));
+    QCOMPARE(told(), QStringLiteral("已复制会议号。"));
+    QVERIFY(conferences()->actions().contains(child<QAction>("export")));
+    QCOMPARE(conferences()->contextMenuPolicy(), Qt::ActionsContextMenu);
 }
 
 void TestContactsWindow::pictures_data()

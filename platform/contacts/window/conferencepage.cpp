@@ -10,7 +10,10 @@
 #include "book/contactsbook.h"
 #include "core/conference.h"
 #include "core/jsonkeys.h"
+#include "window/calendardialog.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QJsonDocument>
@@ -31,9 +34,14 @@ ConferencePage::ConferencePage(ConferenceModel *model, ContactsBook &book, Admin
     , m_start(addButton(QStringLiteral("start"), QStringLiteral("开始(&S)")))
     , m_end(addButton(QStringLiteral("end"), QStringLiteral("结束(&T)")))
     , m_delete(addButton(QStringLiteral("delete"), QStringLiteral("取消会议(&D)")))
+    , m_copyNumber(
+          addMenuEntry(QStringLiteral("copyNumber"), QStringLiteral("复制会议号(&C)"), QKeySequence::Copy))
+    , m_export(addMenuEntry(QStringLiteral("export"), QStringLiteral("导出日历文件(&X)…"),
+                            QKeySequence(QStringLiteral("Ctrl+E"))))
 {
     m_model->setParent(this);
     addControls();
+    addMenu();
     connectControls();
     showWhatIsPossible();
 }
@@ -45,6 +53,30 @@ QPushButton *ConferencePage::addButton(const QString &name, const QString &text)
     button->setAutoDefault(false);
     lowerRow()->addWidget(button);
     return button;
+}
+
+QAction *ConferencePage::addMenuEntry(const QString &name, const QString &text, const QKeySequence &shortcut)
+{
+    auto *entry = new QAction(text, table());
+    entry->setObjectName(name);
+    entry->setShortcut(shortcut);
+    entry->setShortcutContext(Qt::WidgetShortcut); // Ctrl+C in a field is the field's
+    table()->addAction(entry);
+    return entry;
+}
+
+void ConferencePage::addMenu()
+{
+    // Also opened with the menu key.
+    table()->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(m_copyNumber, &QAction::triggered, this, [this] {
+        QGuiApplication::clipboard()->setText(selected(ConferenceModel::NumberRole).toString());
+        Q_EMIT told(QStringLiteral("已复制会议号。"));
+    });
+    connect(m_export, &QAction::triggered, this, [this] {
+        askForCalendarFile(this, m_book, selected(ConferenceModel::NumberRole).toString(),
+                           [this](const QString &text) { Q_EMIT told(text); });
+    });
 }
 
 void ConferencePage::addControls()
@@ -133,4 +165,6 @@ void ConferencePage::showWhatIsPossible()
     m_delete->setEnabled(state.isValid());
     m_start->setEnabled(state.isValid() && !isRunning);
     m_end->setEnabled(isRunning);
+    m_copyNumber->setEnabled(state.isValid());
+    m_export->setEnabled(state.isValid());
 }

@@ -6,6 +6,7 @@
 #include "window/conferencemodel.h"
 #include "window/tablepage.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QPushButton>
 
@@ -27,7 +28,9 @@ Q_SIGNALS:
 
 private:
     QPushButton *addButton(const QString &name, const QString &text);
+    QAction *addMenuEntry(const QString &name, const QString &text, const QKeySequence &shortcut);
     void addControls();
+    void addMenu();
     void connectControls();
     void perform(const QString &action, const QJsonObject &parameters);
     void join();
@@ -45,4 +48,6 @@ private:
     QPushButton *m_start;
     QPushButton *m_end;
     QPushButton *m_delete;
+    QAction *m_copyNumber;
+    QAction *m_export;
 };

@@ -30,6 +30,7 @@ ReminderPage::ReminderPage(ContactsBook &book, QWidget *parent)
     hint->setTextFormat(Qt::PlainText);
     hint->setWordWrap(true);
     auto *layout = new QFormLayout(this);
+    layout->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     layout->addRow(m_isOn);
     layout->addRow(lead, m_lead);
     layout->addRow(hint);

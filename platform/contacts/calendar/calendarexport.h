@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QString>
+
+class ContactsBook;
+
+/**
+ * Writes one of the user's conferences to an iCalendar file, "-" for the standard output: the one with
+ * @p dialNumber, or the running or next one when that is empty. Says on standard error why it cannot; then
+ * false.
+ */
+bool exportConference(ContactsBook &book, const QString &dialNumber, const QString &fileName);

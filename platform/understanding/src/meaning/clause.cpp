@@ -4,12 +4,21 @@
 #include "meaning/clause.h"
 
 #include "meaning/outcome.h"
+#include "names/namelook.h"
 #include "text/chinesenumber.h"
 #include "text/scan.h"
+#include "words/lexicon.h"
 
 #include <algorithm>
 
 namespace understanding {
+
+namespace {
+
+constexpr WordClasses AskingWords = WordClass::Query | WordClass::Question | WordClass::QuestionParticle |
+                                    WordClass::AskedTime | WordClass::Schedule | WordClass::Next;
+
+} // namespace
 
 Clause::Clause(const Reading &reading, const QString &intent, std::size_t begin, std::size_t end)
     : m_reading(reading)
@@ -61,6 +70,22 @@ bool Clause::isSupposed() const
     return has(WordClass::Framed);
 }
 
+bool Clause::isOnlySomebody() const
+{
+    const bool strange = any([&](std::size_t at) {
+        const Token &token = m_tokens[at];
+        return token.inName || (token.kind != Token::Kind::Other && !token.is(WordClass::Title));
+    });
+    if (m_begin == m_end || strange) {
+        return false;
+    }
+    const int start = m_tokens[m_begin].position;
+    const QString text = m_reading.sentence().text().mid(start, m_tokens[m_end - 1].end() - start);
+    const QStringList names = splitNames(text);
+    const bool known = Lexicon::instance().longestAt(text, 0).length == text.size(); // 那个, 小艾
+    return !known && std::all_of(names.cbegin(), names.cend(), isPersonsName);
+}
+
 bool Clause::isTimeCutOff() const
 {
     const bool timed = any([&](std::size_t at) { return m_tokens[at].kind == Token::Kind::Time; });
@@ -78,9 +103,7 @@ bool Clause::isRefused() const
 
 bool Clause::isFinished() const
 {
-    constexpr WordClasses asking = WordClass::Query | WordClass::Question | WordClass::QuestionParticle |
-                                   WordClass::AskedTime | WordClass::Schedule | WordClass::Next;
-    if (has(WordClass::Request) || (m_isQuery && has(asking))) {
+    if (has(WordClass::Request) || (m_isQuery && has(AskingWords))) {
         return false;
     }
     return any([&](std::size_t at) {
@@ -190,16 +213,17 @@ bool Clause::isOtherQuestion() const
     if (!m_isQuery) {
         return false;
     }
-    constexpr WordClasses asking = WordClass::Query | WordClass::Question | WordClass::QuestionParticle |
-                                   WordClass::AskedTime | WordClass::Schedule | WordClass::Next;
     const bool uncalled =
         m_begin < m_end && m_tokens[m_begin].inName && !m_reading.isCalledAt(m_tokens[m_begin].position);
     static const QStringList settling = {QStringLiteral("定在"), QStringLiteral("定于"),
                                          QStringLiteral("约在"), QStringLiteral("放在")};
     const bool settled = any([&](std::size_t at) { return settling.contains(textOf(m_tokens[at])); });
-    const bool proposed = !m_reading.openVerb().isEmpty() && !m_reading.names().empty(); // 要不要跟Eric开会
+    // 要不要跟Eric开会, 开不开会都行
+    const bool proposed = !m_reading.openVerb().isEmpty() &&
+                          !m_reading.hasAny(WordClass::Query | WordClass::AskedTime) &&
+                          (!m_reading.names().empty() || m_reading.timeCount() == 0);
     return uncalled || settled || proposed ||
-           (has(WordClass::Have) && !m_reading.hasAny(asking) && !m_reading.isAsked());
+           (has(WordClass::Have) && !m_reading.hasAny(AskingWords) && !m_reading.isAsked());
 }
 
 bool Clause::isAtOtherTime() const

@@ -21,6 +21,8 @@ public:
     bool isRequested() const;
     bool callsSomebody() const;
     bool isSupposed() const;
+    /// 秦姐, alone before an order: somebody whom nothing calls.
+    bool isOnlySomebody() const;
     /// tmr下午三点: a time beside something strange.
     bool isTimeCutOff() const;
 

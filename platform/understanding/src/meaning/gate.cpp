@@ -25,6 +25,7 @@ Verdict judge(const Reading &reading, const QString &intent)
     // Nothing that was said is dropped in silence: 需求评审安排到明天十一点，拉上小唐 is no plain invitation.
     const bool untimely = intent == QLatin1String(InviteConference) || intent == QLatin1String(AddBuddy);
     doubtful = doubtful || (untimely && reading.clockCount() > 0);
+    doubtful = doubtful || (intent == QLatin1String(CreateConference) && reading.callsNobodyKnown());
     bool untitled = false; // the name of the conference was not understood
     bool quoted = false;
     for (std::size_t begin = 0; begin < tokens.size();) {
@@ -47,7 +48,8 @@ Verdict judge(const Reading &reading, const QString &intent)
             requested = requested || clause.isRequested();
             (clause.isFinished() ? finished : ordered) = true;
             ordered = ordered && !(clause.isTitle() && !understood);
-        } else if (clause.isTimeCutOff()) {
+        } else if (clause.isTimeCutOff() ||
+                   (clause.isOnlySomebody() && intent == QLatin1String(CreateConference))) {
             doubtful = true;
         } else if (clause.callsSomebody()) { // 要开会了，拉上王磊
             ordered = true;

@@ -92,7 +92,8 @@ void fillNumber(Outcome &outcome, const Reading &reading, const QDateTime &)
 void fillAccount(Outcome &outcome, const Reading &reading, const QDateTime &)
 {
     const Said &account = reading.account();
-    if (!account.isEmpty()) {
+    constexpr int shortest = 3; // initials are no account
+    if (account.normValue.size() >= shortest) {
         outcome.addSlot(AccountSlot, account.value, account.normValue);
     } else if (!reading.names().empty()) {
         const FoundName &name = reading.names().front();

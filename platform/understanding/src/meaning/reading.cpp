@@ -58,6 +58,14 @@ bool Reading::namesOtherWeek() const
     });
 }
 
+bool Reading::callsNobodyKnown() const
+{
+    return m_names.empty() && !has(WordClass::Nobody) &&
+           std::any_of(m_tokens.cbegin(), m_tokens.cend(), [](const Token &token) {
+               return token.isAny(WordClass::Arrive | WordClass::Pull) && token.length > 1 && !token.inTopic;
+           });
+}
+
 bool Reading::hasDoubtfulName() const
 {
     return std::any_of(m_names.cbegin(), m_names.cend(), [](const FoundName &name) { return name.doubtful; });

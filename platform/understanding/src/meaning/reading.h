@@ -51,6 +51,8 @@ public:
     int clockCount() const { return m_clockCount; }
 
     bool hasDoubtfulName() const;
+    /// 薛宝钗那边也叫上: somebody is called, but nobody was found.
+    bool callsNobodyKnown() const;
     /// 下周的今天: a day beside a week or a month that was not read with it.
     bool namesOtherWeek() const;
     /// True where a name stands that a word calls (叫上), not only mentions.

@@ -83,6 +83,9 @@ int modifierLength(const QString &text)
 int headLength(const QString &name)
 {
     static const QString verbs = QStringLiteral("去来说吃喝玩打看做写买送聊谈拉约让叫喊呗请找搞问想要进入");
+    if (isSurnameWithTitle(name)) { // 张顾问
+        return name.size();
+    }
     for (int at = 2; at < name.size(); ++at) {
         if (verbs.contains(name.at(at)) && isPersonsName(name.left(at))) {
             return at;

@@ -132,7 +132,11 @@ private:
     std::size_t takeZone(std::size_t lead, bool mustLookLikeName)
     {
         const std::size_t before = m_names.size();
-        std::size_t end = takeNames(m_places.skipToNames(lead), mustLookLikeName);
+        const std::size_t first = m_places.skipToNames(lead);
+        // 拉个表格给我
+        mustLookLikeName = mustLookLikeName ||
+                           (first > lead + 1 && m_text.at(m_tokens[first - 1].end() - 1) == QChar(u'个'));
+        std::size_t end = takeNames(first, mustLookLikeName);
         // What follows tells that it is somebody, however unlikely the name: 把加藤拉进来.
         constexpr WordClasses takesPeople =
             WordClass::Arrive | WordClass::Buddy | WordClass::BuddyNoun | WordClass::InviteNoun;

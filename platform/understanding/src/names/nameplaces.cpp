@@ -100,10 +100,18 @@ std::size_t NamePlaces::lastOfRun(std::size_t at, std::size_t limit) const
 {
     while (at + 1 < m_tokens.size() && at < limit && !m_tokens[at + 1].inTopic &&
            (m_tokens[at + 1].kind == Token::Kind::Other || isSmallWordInName(at + 1) ||
-            isPlainBeforeName(at + 1))) {
+            isPlainBeforeName(at + 1) || isGivenName(at + 1))) {
         ++at;
     }
     return at;
+}
+
+bool NamePlaces::isGivenName(std::size_t at) const
+{
+    return at > 1 && m_tokens[at].is(WordClass::Plain) && m_tokens[at].length == 2 &&
+           m_tokens[at - 1].kind == Token::Kind::Other && m_tokens[at - 1].length == 1 &&
+           m_tokens[at - 2].isAny(WordClass::Trigger | WordClass::Separator | WordClass::NameLabel) &&
+           looksLikeName(m_text.mid(m_tokens[at - 1].position, 3));
 }
 
 bool NamePlaces::isSmallWordInName(std::size_t at) const

@@ -27,6 +27,8 @@ public:
     [[nodiscard]] bool isNumberBeforeName(std::size_t at) const;
     /// The last token of the run of characters that begins at @p at: 关羽 is a word and a character.
     [[nodiscard]] std::size_t lastOfRun(std::size_t at, std::size_t limit) const;
+    /// 大同 in 跟方大同.
+    [[nodiscard]] bool isGivenName(std::size_t at) const;
     [[nodiscard]] bool isSmallWordInName(std::size_t at) const;
     [[nodiscard]] std::size_t skipToNames(std::size_t lead) const;
     /// 我的 in 和我的同事李静.

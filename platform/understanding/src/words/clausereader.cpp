@@ -199,6 +199,15 @@ void settleTopics(const QString &text, Tokens &tokens)
 /// 明天三点开会如何 proposes, 如何开会 asks for help.
 void settleQuestions(Tokens &tokens)
 {
+    // 还是明天下午开会吧 decides; only behind a first choice it asks.
+    for (Token &token : tokens) {
+        if (token.is(WordClass::EitherOr) || token.kind == Token::Kind::Time) {
+            if (token.kind != Token::Kind::Time) {
+                token.classes.remove(WordClass::EitherOr);
+            }
+            break;
+        }
+    }
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         if (tokens[at].is(WordClass::HowTo) && tokens[at].is(WordClass::Filler) &&
             isAtClauseEnd(tokens, at + 1)) {

@@ -32,7 +32,19 @@ bool isSmallTalkParticle(const Sentence &sentence, const Token &token)
 template <typename Answers>
 bool holdsOnly(const Reading &reading, Answers answers)
 {
-    return std::all_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+    const Tokens &tokens = reading.tokens();
+    const auto first = std::find_if(tokens.cbegin(), tokens.cend(), answers);
+    // 问着了，9901: what comes before the clause of the answer is an aside, unless it refuses or asks.
+    auto begin = first;
+    while (begin != tokens.cbegin() && !(begin - 1)->is(WordClass::Punctuation)) {
+        --begin;
+    }
+    constexpr WordClasses weighty = WordClass::Negation | WordClass::Question | WordClass::HowTo |
+                                    WordClass::GiveUp | WordClass::Query | WordClass::Unsupported;
+    const bool aside =
+        first != tokens.cend() &&
+        std::none_of(tokens.cbegin(), begin, [&](const Token &token) { return token.isAny(weighty); });
+    return std::all_of(aside ? begin : tokens.cbegin(), tokens.cend(), [&](const Token &token) {
         return token.kind == Token::Kind::Space || answers(token) || token.isAny(SurroundingWords) ||
                (token.kind == Token::Kind::Other && isSmallTalkParticle(reading.sentence(), token));
     });

@@ -44,6 +44,10 @@ bool Clause::any(Holds holds) const
 
 bool Clause::isOrder() const
 {
+    if (m_intent == QLatin1String(EnterConferenceById)) { // 会议号我记得: neither the number nor a verb
+        constexpr WordClasses joining = WordClass::Join | WordClass::WeakJoin | WordClass::PasswordLabel;
+        return has(joining) || any([&](std::size_t at) { return m_tokens[at].kind == Token::Kind::Number; });
+    }
     return has(m_allowed.anchors);
 }
 
@@ -297,7 +301,8 @@ bool Clause::isExplained(std::size_t at) const
         return (m_isQuery && token.is(WordClass::Framed)) || token.inName || token.isAny(m_allowed.beside) ||
                isNothing(token) || isDescription(at);
     case Token::Kind::Other:
-        return token.inName || isNothing(token) || isDescription(at) || isPreamble(at);
+        return token.inName || isNothing(token) || isDescription(at) || isPreamble(at) || isOfNumber(at) ||
+               (m_intent == QLatin1String(AddBuddy) && !m_reading.account().isEmpty());
     case Token::Kind::Number: // a date or an hour that was cut
         return m_intent != QLatin1String(CreateConference) || token.inName || isDescription(at);
     case Token::Kind::Duration: // how long a new one takes, or how long one took
@@ -305,6 +310,25 @@ bool Clause::isExplained(std::size_t at) const
     default:
         return true;
     }
+}
+
+bool Clause::isOfNumber(std::size_t at) const
+{
+    return m_intent == QLatin1String(EnterConferenceById) && any([&](std::size_t label) {
+               return label > at && m_tokens[label].isAny(WordClass::IdLabel | WordClass::Conference) &&
+                      charAt(m_reading.sentence().text(), m_tokens[label].position - 1) == QChar(u'的');
+           });
+}
+
+bool Clause::isPolitelyRequested() const
+{
+    static const QStringList proposing = {QStringLiteral("咱们"), QStringLiteral("要不"),
+                                          QStringLiteral("吧"),   QStringLiteral("我要"),
+                                          QStringLiteral("我想"), QStringLiteral("我得")};
+    return any([&](std::size_t at) {
+        const Token &token = m_tokens[at];
+        return token.is(WordClass::Request) && !token.inName && !proposing.contains(textOf(token));
+    });
 }
 
 bool Clause::isBeforeConference(std::size_t at) const

@@ -19,6 +19,8 @@ public:
     /// 第7次迭代会，...: only the name of the conference, which need not be understood.
     bool isTitle() const;
     bool isRequested() const;
+    /// Not only proposed, as 咱们开个会？ is.
+    bool isPolitelyRequested() const;
     bool callsSomebody() const;
     bool isSupposed() const;
     /// 秦姐, alone before an order: somebody whom nothing calls.
@@ -65,6 +67,8 @@ private:
     bool isDescription(std::size_t at) const;
     /// team in team meeting.
     bool isBeforeConference(std::size_t at) const;
+    /// 赵院长发来 in 赵院长发来的会议号.
+    bool isOfNumber(std::size_t at) const;
     /// Little words that change nothing.
     bool isNothing(const Token &token) const;
 

@@ -40,7 +40,7 @@ Verdict judge(const Reading &reading, const QString &intent)
             if (clause.isRefused()) {
                 return Verdict::Refuse;
             }
-            const bool asked = sign == QLatin1Char('?') && !clause.isRequested();
+            const bool asked = sign == QLatin1Char('?') && !clause.isPolitelyRequested();
             const bool understood = clause.isUnderstood();
             untitled = untitled || (!understood && clause.isTitle());
             doubtful = doubtful || (!understood && !clause.isTitle()) || quoted ||

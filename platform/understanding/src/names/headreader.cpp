@@ -82,7 +82,8 @@ int modifierLength(const QString &text)
 
 int headLength(const QString &name)
 {
-    static const QString verbs = QStringLiteral("去来说吃喝玩打看做写买送聊谈拉约让叫喊呗请找搞问想要进入");
+    static const QString verbs =
+        QStringLiteral("薅整去来说吃喝玩打看做写买送聊谈拉约让叫喊呗请找搞问想要进入");
     if (isSurnameWithTitle(name)) { // 张顾问
         return name.size();
     }
@@ -98,7 +99,7 @@ bool isLikelyName(const QString &name)
 {
     constexpr int longestName = 5; // 乌兰图雅
     static const QString strange =
-        QStringLiteral("去说吃喝打看做写送聊谈让叫喊呗请找搞问想要进入把给是没不了过吗呢吧的");
+        QStringLiteral("薅去说吃喝打看做写送聊谈让叫喊呗请找搞问想要进入把给是没不了过吗呢吧的");
     const bool latin =
         std::any_of(name.cbegin(), name.cend(), [](QChar character) { return character.unicode() < 0x250; });
     if (latin || name.contains(QChar(u'·')) || isPersonsName(name) || endsWithRole(name)) {

@@ -31,6 +31,13 @@ void NameCollector::addOne(int position, int length, bool called)
     m_names.push_back({position, position, said, said, called, false});
 }
 
+void NameCollector::doubtLast()
+{
+    if (!m_names.empty()) {
+        m_names.back().doubtful = true;
+    }
+}
+
 void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool called)
 {
     const QString chunk = m_text.mid(start, end - start);

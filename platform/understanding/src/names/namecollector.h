@@ -22,6 +22,8 @@ protected:
     void addUnknown(int position, const QString &normal, bool called);
     void addOne(int position, int length, bool called);
     /// The name between @p start and @p end, without what surrounds it.
+    /// Somebody stands between separators who was not found.
+    void doubtLast();
     void addChunk(int start, int end, bool mustLookLikeName, bool called);
 
     std::vector<FoundName> m_names; // NOLINT(misc-non-private-member-variables-in-classes)

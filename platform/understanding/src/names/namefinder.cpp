@@ -144,6 +144,12 @@ private:
             m_tokens[end].isAny(takesPeople)) {
             end = takeNames(m_places.skipToNames(lead), false);
         }
+        const bool listed = m_tokens[lead].is(WordClass::Separator) && lead > 0 && !m_names.empty() &&
+                            m_names.back().position + m_names.back().said.size() == m_tokens[lead].position;
+        if (listed && m_names.size() == before && first < m_tokens.size() &&
+            m_tokens[first].kind == Token::Kind::Other) {
+            doubtLast(); // 秦院士以及不知道谁
+        }
         // Where nobody stood, nothing is used up: 约 in 约个会.
         return m_names.size() > before ? end - 1 : lead;
     }
@@ -216,7 +222,13 @@ private:
         }
         const int end = m_tokens[last].end();
         if (dotted) {
-            const QString name = withoutParticles(m_text.mid(start, end - start));
+            static const QString leads = QStringLiteral("是的位叫请把");
+            const QString whole = m_text.mid(start, end - start);
+            int cut = 0;
+            for (int character = 0; whole.at(character) != QChar(u'·'); ++character) {
+                cut = leads.contains(whole.at(character)) ? character + 1 : cut;
+            }
+            const QString name = withoutParticles(whole.mid(cut));
             addOne(m_text.indexOf(name, start), name.size(), true);
             return last;
         }
@@ -277,7 +289,10 @@ private:
         if (nameFollows && (isModifier(name) || belongs)) {
             return last;
         }
-        addOne(start, name.size(), true);
+        const bool titled = last + 1 < m_tokens.size() && m_tokens[last + 1].is(WordClass::Title) &&
+                            m_tokens[last + 1].length > 1; // Novak博士
+        addOne(start, name.size() + (titled ? m_tokens[last + 1].length : 0), true);
+        last += titled ? 1 : 0;
         m_names.back().start = qMin(start, m_modifierStart >= 0 ? m_modifierStart : start);
         m_modifierStart = -1;
         return last;

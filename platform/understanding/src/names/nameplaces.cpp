@@ -145,8 +145,8 @@ std::size_t NamePlaces::skipToNames(std::size_t lead) const
 bool NamePlaces::isOwner(std::size_t at) const
 {
     return m_tokens[at].is(WordClass::Mine) && at + 1 < m_tokens.size() &&
-           (m_tokens[at + 1].is(WordClass::Nobody) || m_tokens[at + 1].kind == Token::Kind::Other ||
-            m_tokens[at + 1].kind == Token::Kind::Name);
+           (m_tokens[at + 1].isAny(WordClass::Nobody | WordClass::Filler | WordClass::Title) ||
+            m_tokens[at + 1].kind == Token::Kind::Other || m_tokens[at + 1].kind == Token::Kind::Name);
 }
 
 bool NamePlaces::isMiddleDot(std::size_t at) const

@@ -185,6 +185,28 @@ bool beginsWithGiveUp(const Reading &reading)
     return givesUp;
 }
 
+/// Names beside the time that was asked for: added, or in place of those before (改成跟老顾). False where
+/// they have no place.
+static bool takeFurtherNames(const Reading &reading, Outcome &outcome)
+{
+    if (reading.names().empty()) {
+        return true;
+    }
+    if (outcome.intent != QLatin1String(CreateConference) || reading.hasDoubtfulName()) {
+        return false;
+    }
+    if (reading.hasAny(WordClass::Repair | WordClass::Change)) {
+        outcome.slotList.erase(
+            std::remove_if(outcome.slotList.begin(), outcome.slotList.end(),
+                           [](const Slot &slot) { return slot.name == QLatin1String(NameSlot); }),
+            outcome.slotList.end());
+    }
+    for (const FoundName &name : reading.names()) {
+        outcome.addSlot(NameSlot, name.said, name.name);
+    }
+    return true;
+}
+
 /// 现在 is no moment of the clock, but it answers when.
 static bool isNow(const Reading &reading)
 {
@@ -216,13 +238,16 @@ bool takeAnswer(const QString &question, const Reading &reading, const QDateTime
             return taker.take(reading, outcome);
         }
     }
-    // Every other question is about the time.
+    // Every other question is about the time; 再加上小顾，五点 names somebody, too.
     if (question == QLatin1String("which-time") && isNow(reading)) {
         outcome.answer.clear();
         return true;
     }
     if (reading.timeSaid().isEmpty() ||
         !holdsOnly(reading, [](const Token &token) { return token.kind == Token::Kind::Time; })) {
+        return false;
+    }
+    if (!takeFurtherNames(reading, outcome)) {
         return false;
     }
     TimeExpression time = reading.time();

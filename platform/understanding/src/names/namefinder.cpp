@@ -144,6 +144,10 @@ private:
             m_tokens[end].isAny(takesPeople)) {
             end = takeNames(m_places.skipToNames(lead), false);
         }
+        if (end < m_tokens.size() && m_tokens[end].isAny(takesPeople)) {
+            std::for_each(m_names.begin() + static_cast<std::ptrdiff_t>(before), m_names.end(),
+                          [](FoundName &name) { name.doubtful = !isLikelyName(name.name); });
+        }
         const bool listed = m_tokens[lead].is(WordClass::Separator) && lead > 0 && !m_names.empty() &&
                             m_names.back().position + m_names.back().said.size() == m_tokens[lead].position;
         if (listed && m_names.size() == before && first < m_tokens.size() &&

@@ -54,7 +54,8 @@ int readNamedDay(const QString &text, int position, TimeExpression &expression)
         int offset;
     } shortDays[] = {{u'今', 0}, {u'明', 1}, {u'昨', -1}, {u'后', 2}};
     for (const auto &shortDay : shortDays) {
-        if (text.at(position) == QChar(shortDay.character) && dayPartAt(text, position + 1, true) >= 0) {
+        if (text.at(position) == QChar(shortDay.character) && dayPartAt(text, position, false) < 0 &&
+            dayPartAt(text, position + 1, true) >= 0) { // 后晚, but not 后半夜
             expression.day = TimeExpression::Day::Relative;
             expression.dayOffset = shortDay.offset;
             return 1;

@@ -114,6 +114,8 @@ int main(int argc, char **argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv, withWindow);
     QCoreApplication::setApplicationName(QStringLiteral("kelvane-contacts"));
+    // The desktop finds the window's name and icon by it.
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.kelvane.meetlynx"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CONTACTS_VERSION));
 
     QCommandLineParser parser;

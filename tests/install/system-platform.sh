@@ -43,7 +43,19 @@ use_platform() {
     cmake --build "$scratch/consumer" || return
     QT_QPA_PLATFORM=offscreen "$scratch/consumer/consumer"
 }
+# The same without CMake, where the tree was moved to.
+use_pkg_config() {
+    PKG_CONFIG_PATH=$(dirname "$(find "$scratch/desktop" -name lumo.pc)")
+    export PKG_CONFIG_PATH
+    flags=$(pkg-config --cflags --libs lumo kelvane-system-ability speakmate) || return
+    unset PKG_CONFIG_PATH
+    # shellcheck disable=SC2086
+    "$compiler" -std=c++17 -fPIC "$here/consumer/main.cpp" -o "$scratch/by-pkg-config" $flags || return
+    LD_LIBRARY_PATH=$installed QT_QPA_PLATFORM=offscreen "$scratch/by-pkg-config"
+}
 use_platform >"$scratch/consumer.log" 2>&1 || { tail -n 40 "$scratch/consumer.log"; fail "a project cannot use the installed platform"; }
+use_pkg_config >"$scratch/by-pkg-config.log" 2>&1 ||
+    { tail -n 40 "$scratch/by-pkg-config.log"; fail "pkg-config does not find the installed platform"; }
 
 # Not optimised: what is looked for is there or not, and it builds in half the time.
 cmake -G Ninja -S "$scratch/source" -B "$scratch/bare-build" -DCONTACT_PLATFORM=system -DBUILD_TESTING=ON \

@@ -19,6 +19,8 @@ CardFooter::CardFooter(int count, QWidget *parent)
     setFont(LFontSizeManager::instance()->get(LFontSizeManager::T8, font()));
     setFixedWidth(Width);
     setAutoDefault(false);
+    // The ground is painted below; some toolkits would paint a dark one of their own over it.
+    setFlat(true);
     QPalette fixed = palette();
     fixed.setBrush(QPalette::All, QPalette::ButtonText, CardTheme::footer());
     fixed.setBrush(QPalette::All, QPalette::WindowText, CardTheme::footer());

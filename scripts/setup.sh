@@ -13,7 +13,9 @@ packages_run=(
     libkf5calendarcore-dev dbus dbus-daemon procps fonts-noto-cjk
 )
 # What the tests take on top.
-packages_test=(appstream bash-completion binutils desktop-file-utils faketime libical-dev man-db pkgconf python3 sqlite3)
+packages_test=(
+    appstream at-spi2-core bash-completion binutils desktop-file-utils faketime libical-dev man-db pkgconf python3 sqlite3 xvfb
+)
 # What building the Debian packages takes on top.
 packages_package=(abigail-tools binutils build-essential debhelper dpkg-dev lintian xz-utils)
 # What tst_krunner takes, which is skipped without: a whole desktop of 380 packages, so nothing here installs it.

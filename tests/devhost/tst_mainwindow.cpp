@@ -89,6 +89,8 @@ private Q_SLOTS:
     void applicationThatDoesNotRunIsSaid();
     void disabledCardIsVeiledAndEveryCardHasAnEdge();
     void pageKeysScrollFromTheInput();
+    void tabGoesAsOneReads();
+    void focusReturnsToTheInputAfterACardsButton();
     void buttonToTheEndIsOpaqueAndAtTheSide();
     void windowSpeaksChinese();
     void problemIsShown();
@@ -426,6 +428,57 @@ void TestMainWindow::pageKeysScrollFromTheInput()
     QCOMPARE(bar->value(), qMax(0, end - bar->pageStep()));
     QTest::keyClick(desk.window.input(), Qt::Key_PageDown);
     QCOMPARE(bar->value(), end);
+}
+
+void TestMainWindow::tabGoesAsOneReads()
+{
+    Desk desk;
+    desk.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&desk.window));
+    for (int i = 0; i < 4; ++i) {
+        desk.type(semantic("CARD", QStringLiteral("卡片")));
+    }
+    QTRY_VERIFY(desk.isIdle() && desk.window.view()->count() == 8);
+    ConversationView *view = desk.window.view();
+    view->setFocus();
+    QWidgetList visited;
+    do {
+        visited.append(QApplication::focusWidget());
+        QTest::keyClick(desk.window.windowHandle(), Qt::Key_Tab);
+    } while (visited.size() < 40 && QApplication::focusWidget() != view);
+    QCOMPARE(QApplication::focusWidget(), view);
+    // The four cards' buttons from above, the input, the button beside it, the inspector.
+    for (int i = 1; i <= 4; ++i) {
+        QCOMPARE(visited.at(i)->parentWidget(), view->entries().at(2 * i - 1).card.data());
+    }
+    QCOMPARE(visited.at(5), desk.window.input());
+    QVERIFY(qobject_cast<QPushButton *>(visited.at(6)) != nullptr);
+    QVERIFY(visited.size() > 8);
+    for (int i = 7; i < visited.size(); ++i) {
+        QVERIFY2(desk.window.inspector()->isAncestorOf(visited.at(i)),
+                 visited.at(i)->metaObject()->className());
+    }
+    // And back.
+    for (int i = visited.size() - 1; i >= 0; --i) {
+        QTest::keyClick(desk.window.windowHandle(), Qt::Key_Backtab);
+        QCOMPARE(QApplication::focusWidget(), visited.at(i));
+    }
+}
+
+void TestMainWindow::focusReturnsToTheInputAfterACardsButton()
+{
+    Desk desk;
+    desk.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&desk.window));
+    desk.type(semantic("CARD", QStringLiteral("卡片")));
+    QTRY_VERIFY(desk.isIdle() && desk.window.view()->count() == 2);
+    auto *button = desk.window.view()->entries().at(1).card->findChild<QPushButton *>();
+    // The button may disable its card, as a cancellation does, which takes the focus away from it.
+    connect(button, &QPushButton::clicked, button, [button] { button->parentWidget()->setEnabled(false); });
+    button->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(button, Qt::Key_Space);
+    QTRY_COMPARE(desk.window.view()->count(), 3);
+    QTRY_COMPARE(QApplication::focusWidget(), desk.window.input());
 }
 
 void TestMainWindow::buttonToTheEndIsOpaqueAndAtTheSide()

@@ -3,6 +3,8 @@
 
 #include "bubble.h"
 
+#include "turnbutton.h"
+
 #include <QContextMenuEvent>
 #include <QPainter>
 #include <QTextLayout>
@@ -16,6 +18,9 @@ namespace {
 constexpr int HorizontalPadding = 14;
 constexpr int VerticalPadding = 9;
 constexpr qreal Radius = 12;
+constexpr qreal RingWidth = 2;
+constexpr qreal RingInset = 2;
+constexpr int ButtonGap = 4;
 constexpr qreal LineSpacing = 1.15;
 constexpr int Unbounded = 1 << 20;
 
@@ -46,9 +51,12 @@ QString layoutText(QString text)
 
 } // namespace
 
-Bubble::Bubble(QWidget *parent) : QWidget(parent)
+Bubble::Bubble(QWidget *parent) : QWidget(parent), m_button(new TurnButton(parent))
 {
     setCursor(Qt::PointingHandCursor);
+    m_button->hide();
+    connect(m_button, &TurnButton::clicked, this,
+            [this] { Q_EMIT menuWanted(m_button->mapToGlobal(m_button->rect().bottomLeft())); });
 }
 
 void Bubble::show(Role role, const QString &text, bool isDimmed)
@@ -59,6 +67,16 @@ void Bubble::show(Role role, const QString &text, bool isDimmed)
     setAccessibleName(text);
     update();
     QWidget::show();
+    placeButton();
+    m_button->show();
+}
+
+void Bubble::setCurrent(bool isCurrent)
+{
+    if (m_isCurrent != isCurrent) {
+        m_isCurrent = isCurrent;
+        update();
+    }
 }
 
 QSize Bubble::sizeFor(const QString &text, const QFont &font, int maximumWidth, int &naturalWidth)
@@ -92,6 +110,14 @@ void Bubble::paintEvent(QPaintEvent *)
         painter.setBrush(palette().brush(isSaid ? QPalette::Highlight : QPalette::Base));
     }
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Radius, Radius);
+    if (m_isCurrent) {
+        // On the accent colour itself the ring has the text's.
+        painter.setPen(
+            QPen(palette().color(isSaid ? QPalette::HighlightedText : QPalette::Highlight), RingWidth));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(RingInset, RingInset, -RingInset, -RingInset),
+                                Radius - RingInset, Radius - RingInset);
+    }
     painter.setPen(palette().color(isSaid ? QPalette::HighlightedText : QPalette::Text));
     QTextLayout layout(layoutText(m_text), font());
     breakLines(layout, width() - 2 * HorizontalPadding + 1);
@@ -108,6 +134,28 @@ void Bubble::mouseReleaseEvent(QMouseEvent *event)
 void Bubble::contextMenuEvent(QContextMenuEvent *event)
 {
     Q_EMIT menuWanted(event->globalPos());
+}
+
+void Bubble::moveEvent(QMoveEvent *)
+{
+    placeButton();
+}
+
+void Bubble::resizeEvent(QResizeEvent *)
+{
+    placeButton();
+}
+
+void Bubble::hideEvent(QHideEvent *)
+{
+    m_button->hide();
+}
+
+void Bubble::placeButton()
+{
+    const int x = m_role == Said ? geometry().left() - ButtonGap - m_button->width()
+                                 : geometry().right() + 1 + ButtonGap;
+    m_button->move(x, y() + (qMin(height(), 2 * m_button->height()) - m_button->height()) / 2);
 }
 
 } // namespace devhost

@@ -7,9 +7,12 @@
 
 namespace devhost {
 
+class TurnButton;
+
 /**
  * One utterance: plain text on a rounded ground. Shows every character as it is. Its size is what
- * Bubble::sizeFor() says; the conversation view makes bubbles only for what is in sight.
+ * Bubble::sizeFor() says; the conversation view makes bubbles only for what is in sight. Beside it stands a
+ * button for the menu of its turn, a child of the same parent.
  */
 class Bubble final : public QWidget
 {
@@ -21,6 +24,8 @@ public:
     explicit Bubble(QWidget *parent = nullptr);
 
     void show(Role role, const QString &text, bool isDimmed);
+    /// A ring around the bubble that the keyboard has come to.
+    void setCurrent(bool isCurrent);
     QString text() const { return m_text; }
     Role role() const { return m_role; }
 
@@ -35,11 +40,18 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
+    void placeButton();
+
+    TurnButton *m_button;
     QString m_text;
     Role m_role = Reply;
     bool m_isDimmed = false;
+    bool m_isCurrent = false;
 };
 
 } // namespace devhost

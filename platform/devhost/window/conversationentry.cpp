@@ -7,7 +7,8 @@ namespace devhost {
 
 namespace {
 
-constexpr int PreferredCardWidth = 380;
+/// A candidate's row with the card's margins: rows and the button below them are then equally wide.
+constexpr int PreferredCardWidth = 350;
 /// Of the column's width; the rest shows who speaks.
 constexpr double WidestBubble = 0.78;
 
@@ -29,8 +30,19 @@ void ConversationEntry::measure(int columnWidth, const QFont &font)
     measureCard(columnWidth);
 }
 
+void ConversationEntry::letCardGo()
+{
+    record = CardRecord(*card);
+    // Later: it may be one of its own signals that has led here.
+    card->deleteLater();
+    card = nullptr;
+}
+
 void ConversationEntry::measureCard(int columnWidth)
 {
+    if (!record.isEmpty()) {
+        return; // a picture keeps its size
+    }
     if (card == nullptr) {
         cardSize = QSize();
         return;

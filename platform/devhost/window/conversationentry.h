@@ -4,6 +4,7 @@
 #pragma once
 
 #include "bubble.h"
+#include "cardrecord.h"
 
 #include <QPointer>
 #include <QSize>
@@ -15,13 +16,23 @@ namespace devhost {
 /// One text of a conversation with its card, and where it stands. The view owns bubble and card.
 struct ConversationEntry
 {
+    ConversationEntry() = default;
+    ConversationEntry(int turnId, Bubble::Role saidAs, const QString &said)
+        : turn(turnId)
+        , role(saidAs)
+        , text(said)
+    {
+    }
+
     static constexpr int CardGap = 6; ///< between a text and its card
 
+    int serial = 0; ///< never used twice
     int turn = 0;
     Bubble::Role role = Bubble::Said;
     QString text;
     bool isQueued = false;
-    QPointer<QWidget> card;
+    QPointer<QWidget> card;   ///< a live one, or while in sight a picture of one that was let go
+    CardRecord record;        ///< of a card that was let go
     Bubble *bubble = nullptr; ///< while in sight
     bool isSized = false;
     int naturalWidth = 0;
@@ -31,6 +42,10 @@ struct ConversationEntry
 
     int height() const;
     int bottom() const { return top + height(); }
+    bool hasLiveCard() const { return card != nullptr && record.isEmpty(); }
+    bool hasCard() const { return card != nullptr || !record.isEmpty(); }
+    /// Replaces the card by a record of it.
+    void letCardGo();
 
     /// Gives text and card their sizes in a column of @p columnWidth pixels.
     void measure(int columnWidth, const QFont &font);

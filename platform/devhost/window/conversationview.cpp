@@ -4,10 +4,16 @@
 #include "conversationview.h"
 
 #include "cardsurround.h"
+#include "conversationaccessible.h"
+#include "conversationpage.h"
 #include "endbutton.h"
+#include "picturedcard.h"
 #include "waitingdots.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QEvent>
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
 
@@ -18,24 +24,28 @@ namespace devhost {
 
 namespace {
 
-constexpr int Margin = 16;
-constexpr int Gap = 10;
+constexpr int Margin = EntryList::Margin;
+constexpr int Gap = EntryList::Gap;
 constexpr int WidestColumn = 860;
 
 } // namespace
 
 ConversationView::ConversationView(QWidget *parent)
     : QAbstractScrollArea(parent)
-    , m_dots(new WaitingDots(viewport()))
+    , m_dots(new WaitingDots(this))
     , m_endButton(new EndButton(this))
 {
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(QStringLiteral("对话"));
+    setViewport(new ConversationPage(*this));
+    m_dots->setParent(viewport());
     viewport()->setBackgroundRole(QPalette::Window);
+    viewport()->setAutoFillBackground(true);
     m_dots->hide();
     m_endButton->hide();
+    m_endButton->raise();
     connect(m_endButton, &EndButton::clicked, this, &ConversationView::scrollToEnd);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &ConversationView::updateEndButton);
 }
@@ -53,10 +63,7 @@ ConversationView::~ConversationView()
 
 void ConversationView::addSaid(int turn, const QString &text, bool isQueued)
 {
-    Entry entry;
-    entry.turn = turn;
-    entry.role = Bubble::Said;
-    entry.text = text;
+    Entry entry(turn, Bubble::Said, text);
     entry.isQueued = isQueued;
     insert(entry);
     scrollToEnd();
@@ -64,19 +71,20 @@ void ConversationView::addSaid(int turn, const QString &text, bool isQueued)
 
 void ConversationView::changeSaid(int turn, const QString &text)
 {
-    const int position = saidPosition(turn);
+    const int position = m_entries.saidPosition(turn);
     if (position < 0) {
         return;
     }
     const bool wasAtEnd = isAtEnd();
     m_entries[position].text = text;
+    ConversationAccessible::renamed(*this, m_entries.at(position));
     m_entries[position].isSized = false;
     layOut(position, wasAtEnd);
 }
 
 void ConversationView::setStarted(int turn)
 {
-    const int position = saidPosition(turn);
+    const int position = m_entries.saidPosition(turn);
     if (position < 0) {
         return;
     }
@@ -86,10 +94,7 @@ void ConversationView::setStarted(int turn)
 
 void ConversationView::addReply(int turn, const QString &text, QWidget *card)
 {
-    Entry entry;
-    entry.turn = turn;
-    entry.role = Bubble::Reply;
-    entry.text = text;
+    Entry entry(turn, Bubble::Reply, text);
     entry.card = card;
     if (card != nullptr) {
         card->hide();
@@ -104,11 +109,7 @@ void ConversationView::addReply(int turn, const QString &text, QWidget *card)
 
 void ConversationView::addNotice(int turn, const QString &text)
 {
-    Entry entry;
-    entry.turn = turn;
-    entry.role = Bubble::Notice;
-    entry.text = text;
-    insert(entry);
+    insert(Entry(turn, Bubble::Notice, text));
 }
 
 void ConversationView::setWaiting(int turn)
@@ -121,7 +122,8 @@ void ConversationView::setWaiting(int turn)
 
 void ConversationView::clear()
 {
-    const QVector<Entry> gone = std::exchange(m_entries, {});
+    const EntryList gone = std::exchange(m_entries, {});
+    ConversationAccessible::forget(*this);
     for (Entry entry : gone) {
         release(entry);
         delete entry.card;
@@ -139,31 +141,45 @@ void ConversationView::scrollToEnd()
     verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
-void ConversationView::insert(const Entry &entry)
+void ConversationView::insert(Entry entry)
 {
     const bool wasAtEnd = isAtEnd();
-    const int position = positionAfter(entry.turn);
+    entry.serial = ++m_lastSerial;
+    const int position = m_entries.positionAfter(entry.turn);
     m_entries.insert(position, entry);
     layOut(position, wasAtEnd);
+    if (entry.card != nullptr) {
+        m_entries.letOldCardsGo(LiveCards, [](const QWidget &card) {
+            const QWidget *focus = QApplication::focusWidget();
+            return card.isVisible() || (focus != nullptr && card.isAncestorOf(focus));
+        });
+    }
+    ConversationAccessible::announce(*this, m_entries.at(position));
 }
 
-int ConversationView::positionAfter(int turn) const
+QRect ConversationView::textPlace(int position) const
 {
-    int position = m_entries.size();
-    while (position > 0 && m_entries.at(position - 1).turn > turn) {
-        --position;
-    }
-    return position;
+    const Entry &entry = m_entries.at(position);
+    const int left =
+        entry.role == Bubble::Said ? columnLeft() + columnWidth() - entry.textSize.width() : columnLeft();
+    return {QPoint(left, entry.top - verticalScrollBar()->value()), entry.textSize};
 }
 
-int ConversationView::saidPosition(int turn) const
+QRect ConversationView::cardPlace(int position) const
 {
-    for (int i = positionAfter(turn) - 1; i >= 0 && m_entries.at(i).turn == turn; --i) {
-        if (m_entries.at(i).role == Bubble::Said) {
-            return i;
-        }
-    }
-    return -1;
+    const Entry &entry = m_entries.at(position);
+    const int top = entry.bottom() - entry.cardSize.height() - verticalScrollBar()->value();
+    return {QPoint(columnLeft(), top), entry.cardSize};
+}
+
+void ConversationView::ensureVisible(const QRect &place)
+{
+    const int page = viewport()->height();
+    const int below = place.bottom() + Margin - page;
+    // What is higher than the page is shown from its top on.
+    const int shift =
+        place.top() - Margin < 0 || place.height() > page ? place.top() - Margin : qMax(0, below);
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + shift);
 }
 
 int ConversationView::columnWidth() const
@@ -174,7 +190,7 @@ int ConversationView::columnWidth() const
 int ConversationView::contentHeight() const
 {
     const int end = m_entries.isEmpty() ? Margin : m_entries.last().bottom() + Gap;
-    const bool areDotsLast = m_waitingTurn != 0 && positionAfter(m_waitingTurn) == m_entries.size();
+    const bool areDotsLast = m_waitingTurn != 0 && m_entries.positionAfter(m_waitingTurn) == m_entries.size();
     return end + (areDotsLast ? m_dots->height() + Gap : 0) + Margin - Gap;
 }
 
@@ -188,13 +204,7 @@ void ConversationView::layOut(int first, bool wasAtEnd)
     const int anchorIndex = anchor == m_entries.end() ? -1 : int(anchor - m_entries.begin());
     const int anchorTop = anchorIndex < 0 ? 0 : anchor->top;
 
-    const int dotsAfter = m_waitingTurn == 0 ? -1 : positionAfter(m_waitingTurn) - 1;
-    for (int i = first; i < m_entries.size(); ++i) {
-        Entry &entry = m_entries[i];
-        entry.measure(columnWidth(), font());
-        const int above = i == 0 ? Margin : m_entries.at(i - 1).bottom() + Gap;
-        entry.top = above + (i > 0 && i - 1 == dotsAfter ? m_dots->height() + Gap : 0);
-    }
+    m_entries.measure(first, columnWidth(), font(), m_waitingTurn, m_dots->height());
     const int height = contentHeight();
     const int page = viewport()->height();
     int value = offset;
@@ -227,32 +237,34 @@ void ConversationView::place()
         }
     }
     for (auto entry = firstShown; entry != endShown; ++entry) {
-        placeEntry(*entry, offset);
+        placeEntry(int(entry - m_entries.begin()));
     }
     if (m_waitingTurn != 0) {
-        const int position = positionAfter(m_waitingTurn);
+        const int position = m_entries.positionAfter(m_waitingTurn);
         const int top = position == 0 ? Margin : m_entries.at(position - 1).bottom() + Gap;
         m_dots->move(columnLeft(), top - offset);
     }
     updateEndButton();
 }
 
-void ConversationView::placeEntry(Entry &entry, int offset)
+void ConversationView::placeEntry(int position)
 {
-    const int top = entry.top - offset;
-    const bool isSaid = entry.role == Bubble::Said;
+    Entry &entry = m_entries[position];
     if (!entry.textSize.isEmpty()) {
         if (entry.bubble == nullptr) {
             entry.bubble = takeBubble();
         }
-        const int left = isSaid ? columnLeft() + columnWidth() - entry.textSize.width() : columnLeft();
-        entry.bubble->setGeometry(QRect(QPoint(left, top), entry.textSize));
+        entry.bubble->setGeometry(textPlace(position));
         entry.bubble->setProperty("turn", entry.turn);
         entry.bubble->show(entry.role, entry.text, entry.isQueued);
+        entry.bubble->setCurrent(m_keyboard.isAt(entry));
+    }
+    if (entry.card == nullptr && entry.hasCard()) {
+        entry.card = new PicturedCard(entry.record, viewport());
+        new CardSurround(entry.card);
     }
     if (entry.card != nullptr) {
-        entry.card->setGeometry(
-            QRect(QPoint(columnLeft(), top + entry.height() - entry.cardSize.height()), entry.cardSize));
+        entry.card->setGeometry(cardPlace(position));
         entry.card->show();
     }
 }
@@ -264,7 +276,9 @@ void ConversationView::release(Entry &entry)
         m_spare.append(entry.bubble);
         entry.bubble = nullptr;
     }
-    if (entry.card != nullptr && entry.card->isVisibleTo(viewport())) {
+    if (entry.card != nullptr && !entry.hasLiveCard()) {
+        delete entry.card;
+    } else if (entry.card != nullptr && entry.card->isVisibleTo(viewport())) {
         entry.card->hide();
     }
 }
@@ -353,13 +367,32 @@ void ConversationView::changeEvent(QEvent *event)
 
 void ConversationView::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_End) {
-        scrollToEnd();
-    } else if (event->key() == Qt::Key_Home) {
-        verticalScrollBar()->setValue(0);
-    } else {
+    if (!m_keyboard.press(*event)) {
         QAbstractScrollArea::keyPressEvent(event);
     }
+}
+
+void ConversationView::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        m_keyboard.openMenu();
+    } else {
+        QAbstractScrollArea::contextMenuEvent(event);
+    }
+}
+
+void ConversationView::focusInEvent(QFocusEvent *event)
+{
+    QAbstractScrollArea::focusInEvent(event);
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+        m_keyboard.moveCurrent(0);
+    }
+}
+
+void ConversationView::focusOutEvent(QFocusEvent *event)
+{
+    QAbstractScrollArea::focusOutEvent(event);
+    place();
 }
 
 } // namespace devhost

@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include "conversationentry.h"
+#include "conversationkeyboard.h"
+#include "entrylist.h"
 
 #include <QAbstractScrollArea>
-#include <QPointer>
 #include <QVector>
 
 namespace devhost {
@@ -19,7 +19,11 @@ class WaitingDots;
  * belongs to a turn stands together, so a late answer stands above what waits in the queue.
  *
  * It stays at its end while it is there, and keeps its position once the user has scrolled away. Widgets
- * exist only for the bubbles in sight and for the cards, so that thousands of turns cost little.
+ * exist only for the bubbles in sight and for the newest cards; older cards are kept as pictures. So
+ * thousands of turns cost little.
+ *
+ * With the keyboard one goes from bubble to bubble with the arrows, opens the menu of its turn with the Menu
+ * key, and comes to the cards' controls with Tab, also to those out of sight.
  */
 class ConversationView final : public QAbstractScrollArea
 {
@@ -48,6 +52,23 @@ public:
     bool isAtEnd() const;
     void scrollToEnd();
 
+    /// Moves the focus to the next or the previous control of a card, from above the first or from below the
+    /// last one if it is elsewhere, and scrolls there. False when there is none.
+    bool moveFocus(bool forward) { return m_keyboard.moveFocus(forward); }
+
+    const EntryList &entries() const { return m_entries; }
+    /// Where the text, or the card, of the entry at @p position stands in the viewport, in sight or not.
+    QRect textPlace(int position) const;
+    QRect cardPlace(int position) const;
+    /// Scrolls so that @p place, in the viewport, is in sight; what is higher than the page, from its top on.
+    void ensureVisible(const QRect &place);
+    /// Puts the widgets of what is in sight on their places.
+    void place();
+    ConversationKeyboard &keyboard() { return m_keyboard; }
+
+    /// How many cards stay alive.
+    static constexpr int LiveCards = 100;
+
 Q_SIGNALS:
     void turnActivated(int turn);
     /// The menu of one of its bubbles.
@@ -60,26 +81,28 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     using Entry = ConversationEntry;
 
-    void insert(const Entry &entry);
-    int positionAfter(int turn) const;
-    int saidPosition(int turn) const;
+    void insert(Entry entry);
     int columnWidth() const;
     int columnLeft() const { return (viewport()->width() - columnWidth()) / 2; }
     int contentHeight() const;
     /// Gives the entries from @p first on their places. Keeps the position, or the end when @p wasAtEnd.
     void layOut(int first, bool wasAtEnd);
-    void place();
-    void placeEntry(Entry &entry, int offset);
+    void placeEntry(int position);
     void release(Entry &entry);
     Bubble *takeBubble();
     void cardChanged();
     void updateEndButton();
 
-    QVector<Entry> m_entries;
+    EntryList m_entries;
+    int m_lastSerial = 0;
+    ConversationKeyboard m_keyboard{*this};
     QVector<Bubble *> m_bubbles; ///< all; children of the viewport
     QVector<Bubble *> m_spare;
     WaitingDots *m_dots;

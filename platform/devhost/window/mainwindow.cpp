@@ -5,6 +5,7 @@
 
 #include "appearance.h"
 #include "applicationlink.h"
+#include "cardstops.h"
 #include "cleantext.h"
 #include "conversationview.h"
 #include "inputline.h"
@@ -117,6 +118,9 @@ void MainWindow::build()
     m_splitter->setStretchFactor(1, 2);
     m_splitter->setChildrenCollapsible(false);
     setCentralWidget(m_splitter);
+    // As one reads: the conversation, then what one says to it.
+    setTabOrder(m_view, m_input);
+    setTabOrder(m_input, m_send);
 }
 
 void MainWindow::buildMenus()
@@ -339,6 +343,31 @@ void MainWindow::closeEvent(QCloseEvent *event)
 {
     remember();
     QMainWindow::closeEvent(event);
+}
+
+bool MainWindow::focusNextPrevChild(bool next)
+{
+    QWidget *const focus = focusWidget();
+    const bool isOnCard = focus != nullptr && focus != m_view && m_view->isAncestorOf(focus);
+    if ((isOnCard || (next && focus == m_view)) && m_view->moveFocus(next)) {
+        return true;
+    }
+    if (isOnCard && !next) {
+        m_view->setFocus(Qt::BacktabFocusReason);
+        return true;
+    }
+    // The cards stand in the chain where they came into the window; they have been visited with the view.
+    QWidget *const from = focus == nullptr ? this : isOnCard ? m_view : focus;
+    QWidget *candidate = from;
+    do {
+        candidate = next ? candidate->nextInFocusChain() : candidate->previousInFocusChain();
+        if (candidate == m_view && !next && m_view->isVisible() && m_view->moveFocus(false)) {
+            return true;
+        }
+    } while (candidate != from && ((candidate != m_view && m_view->isAncestorOf(candidate)) ||
+                                   !isTabStop(*candidate, *this)));
+    candidate->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return candidate != from;
 }
 
 void MainWindow::remember() const

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "cardstops.h"
+
+#include <QWidget>
+
+namespace devhost {
+
+bool isTabStop(const QWidget &widget, const QWidget &shownTo)
+{
+    return (widget.focusPolicy() & Qt::TabFocus) == Qt::TabFocus && widget.focusProxy() == nullptr &&
+           widget.isEnabled() && (&widget == &shownTo || widget.isVisibleTo(&shownTo));
+}
+
+QVector<QWidget *> cardStops(QWidget &card)
+{
+    QVector<QWidget *> stops;
+    QWidget *widget = &card;
+    do {
+        if ((widget == &card || card.isAncestorOf(widget)) && isTabStop(*widget, card)) {
+            stops.append(widget);
+        }
+        widget = widget->nextInFocusChain();
+    } while (widget != nullptr && widget != &card);
+    return stops;
+}
+
+} // namespace devhost

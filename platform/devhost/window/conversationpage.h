@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QWidget>
+
+namespace devhost {
+
+class ConversationView;
+
+/// What the conversation scrolls over; a widget of its own so that assistive technology finds the
+/// conversation below it (see ConversationAccessible).
+class ConversationPage final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ConversationPage(ConversationView &view);
+
+    ConversationView &view() const { return m_view; }
+
+private:
+    ConversationView &m_view;
+};
+
+} // namespace devhost

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "conversationentry.h"
+
+#include <QVector>
+
+namespace devhost {
+
+/// The entries of a conversation from top to bottom. What belongs to a turn stands together.
+class EntryList : public QVector<ConversationEntry>
+{
+public:
+    /// Where the next entry of @p turn belongs.
+    int positionAfter(int turn) const;
+    /// What was said to begin @p turn; -1 when it is unknown.
+    int saidPosition(int turn) const;
+    /// The entry whose card holds @p widget, or is it; -1 when there is none.
+    int positionOfCardWith(const QWidget &widget) const;
+    int positionOfSerial(int serial) const;
+
+    /// Gives the entries from @p first on their sizes and places. Below @p waitingTurn, 0 for none, stays
+    /// room for dots of @p dotsHeight.
+    void measure(int first, int columnWidth, const QFont &font, int waitingTurn, int dotsHeight);
+
+    static constexpr int Margin = 16; ///< above the first and below the last
+    static constexpr int Gap = 10;    ///< between two
+
+    /// Replaces the live cards above the newest @p kept by records of them, but for those that @p isNeeded.
+    template <typename Predicate>
+    void letOldCardsGo(int kept, Predicate isNeeded)
+    {
+        int alive = 0;
+        for (int i = size() - 1; i >= 0; --i) {
+            if (at(i).hasLiveCard() && ++alive > kept && !isNeeded(*at(i).card)) {
+                (*this)[i].letCardGo();
+            }
+        }
+    }
+};
+
+} // namespace devhost

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "cardrecord.h"
+
+#include <QWidget>
+
+namespace devhost {
+
+/// Shows a card that was let go as it last looked. It cannot be used any more, which its tool tip says.
+class PicturedCard final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    PicturedCard(const CardRecord &record, QWidget *parent);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QImage m_picture;
+};
+
+} // namespace devhost

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QAbstractButton>
+
+namespace devhost {
+
+/// Three dots beside a bubble that open the menu of its turn. Not in the Tab order: with the keyboard the
+/// Menu key does it.
+class TurnButton final : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    explicit TurnButton(QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+} // namespace devhost

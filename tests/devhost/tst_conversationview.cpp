@@ -1,0 +1,318 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "bubble.h"
+#include "conversationview.h"
+#include "picturedcard.h"
+#include "turnbutton.h"
+
+#include <lumo/lstyle.h>
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <unistd.h>
+
+using namespace devhost;
+
+namespace {
+
+/// As many widgets as a conference card has.
+QWidget *makeCard(const QString &title)
+{
+    auto *card = new QWidget;
+    card->setAutoFillBackground(true);
+    auto *layout = new QFormLayout(card);
+    for (int row = 0; row < 7; ++row) {
+        layout->addRow(QStringLiteral("第 %1 行").arg(row), new QLabel(title));
+    }
+    auto *buttons = new QHBoxLayout;
+    for (const char16_t *text : {u"取消", u"修改"}) {
+        buttons->addWidget(new QPushButton(QString::fromUtf16(text)));
+    }
+    layout->addRow(buttons);
+    return card;
+}
+
+int megabytesInUse()
+{
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return -1;
+    }
+    return int(file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE) / (1024 * 1024));
+}
+
+Bubble *bubbleWith(const ConversationView &view, const QString &text)
+{
+    for (Bubble *bubble : view.findChildren<Bubble *>()) {
+        if (bubble->isVisible() && bubble->text() == text) {
+            return bubble;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+/// The conversation by itself: how it is read, used with the keyboard, and what it keeps.
+class TestConversationView : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void oldCardsBecomePicturesThatComeBack();
+    void cardWithTheFocusStaysAlive();
+    void tenThousandTurnsStaySmall();
+    void arrowsGoFromBubbleToBubble();
+    void menuOpensByItsButtonAndByItsKey();
+    void tabReachesEveryCard();
+    void assistiveToolsReadTheConversation();
+};
+
+void TestConversationView::initTestCase()
+{
+    QApplication::setStyle(new LStyle);
+}
+
+void TestConversationView::oldCardsBecomePicturesThatComeBack()
+{
+    ConversationView view;
+    view.resize(500, 400);
+    view.show();
+    QImage first;
+    QPointer<QWidget> oldest;
+    for (int turn = 1; turn <= ConversationView::LiveCards + 20; ++turn) {
+        view.addSaid(turn, QStringLiteral("第 %1 句").arg(turn), false);
+        QWidget *card = makeCard(QStringLiteral("第 %1 张").arg(turn));
+        view.addReply(turn, QStringLiteral("好的"), card);
+        if (turn == 1) {
+            oldest = card;
+            first = card->grab().toImage();
+        }
+    }
+    QTRY_VERIFY(oldest.isNull());
+    int alive = 0;
+    for (const ConversationEntry &entry : view.entries()) {
+        alive += int(entry.hasLiveCard());
+    }
+    QCOMPARE(alive, ConversationView::LiveCards);
+    QVERIFY(view.findChildren<PicturedCard *>().isEmpty());
+
+    view.verticalScrollBar()->setValue(0);
+    QVERIFY(!view.findChildren<PicturedCard *>().isEmpty());
+    auto *pictured = qobject_cast<PicturedCard *>(view.entries().at(1).card.data());
+    QVERIFY(pictured != nullptr && pictured->isVisible());
+    QVERIFY(pictured->accessibleName().contains(QStringLiteral("第 1 张")));
+    const QImage again = pictured->grab().toImage();
+    QCOMPARE(again.size(), first.size());
+    // A colour has a few bits less.
+    const QRect inside = first.rect().adjusted(8, 8, -8, -8);
+    for (int y = inside.top(); y < inside.bottom(); ++y) {
+        for (int x = inside.left(); x < inside.right(); ++x) {
+            QVERIFY2(qAbs(qGray(first.pixel(x, y)) - qGray(again.pixel(x, y))) <= 8,
+                     qPrintable(QStringLiteral("%1, %2").arg(x).arg(y)));
+        }
+    }
+    view.scrollToEnd();
+    QVERIFY(view.findChildren<PicturedCard *>().isEmpty());
+}
+
+void TestConversationView::cardWithTheFocusStaysAlive()
+{
+    ConversationView view;
+    view.resize(500, 400);
+    view.show();
+    view.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    QPointer<QWidget> used = makeCard(QStringLiteral("在用"));
+    view.addReply(1, QString(), used);
+    used->findChild<QPushButton *>()->setFocus();
+    view.verticalScrollBar()->setValue(0);
+    const QPointer<QWidget> unused = makeCard(QStringLiteral("不用"));
+    view.addReply(2, QString(), unused);
+    for (int turn = 3; turn <= ConversationView::LiveCards + 5; ++turn) {
+        view.addReply(turn, QString(), makeCard(QStringLiteral("新的")));
+    }
+    QTRY_VERIFY(unused.isNull() || !unused->isVisible());
+    QVERIFY(!used.isNull());
+}
+
+void TestConversationView::tenThousandTurnsStaySmall()
+{
+    // As many as are measured, and what they say about as many as there may be.
+    const int turns = qEnvironmentVariableIntValue("CONVERSATION_TURNS") > 0
+                          ? qEnvironmentVariableIntValue("CONVERSATION_TURNS")
+                          : 1500;
+    constexpr int promisedTurns = 10000;
+    constexpr int mostMegabytes = 200;
+    ConversationView view;
+    view.resize(700, 600);
+    view.show();
+    const auto talk = [&view](int first, int last) {
+        for (int turn = first; turn <= last; ++turn) {
+            view.addSaid(turn, QStringLiteral("查询第 %1 天的会议").arg(turn), false);
+            view.addReply(turn, QStringLiteral("为您找到会议"),
+                          makeCard(QStringLiteral("会议 %1").arg(turn)));
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QCoreApplication::processEvents();
+        }
+    };
+    QElapsedTimer timer;
+    timer.start();
+    // The cards that stay alive take their room once.
+    const int begun = 3 * ConversationView::LiveCards;
+    talk(1, begun);
+    const int before = megabytesInUse();
+    talk(begun + 1, begun + turns);
+    const int after = megabytesInUse();
+    const int promised = before + int((after - before) * double(promisedTurns) / turns);
+    qInfo("%d turns with cards: %d MB, %d more: %d MB, so %d: %d MB; %lld ms", begun, before, turns, after,
+          promisedTurns, promised, timer.elapsed());
+    QVERIFY(before > 0);
+    QVERIFY2(promised < mostMegabytes, qPrintable(QString::number(promised)));
+}
+
+void TestConversationView::arrowsGoFromBubbleToBubble()
+{
+    ConversationView view;
+    view.resize(500, 300);
+    view.show();
+    view.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    for (int turn = 1; turn <= 30; ++turn) {
+        view.addSaid(turn, QStringLiteral("第 %1 句").arg(turn), false);
+    }
+    view.clearFocus();
+    view.setFocus(Qt::TabFocusReason);
+    const QString last = QStringLiteral("第 30 句");
+    QCOMPARE(view.entries().at(view.keyboard().currentPosition()).text, last);
+    const QImage ringed = bubbleWith(view, last)->grab().toImage();
+    QTest::keyClick(&view, Qt::Key_Up);
+    QCOMPARE(view.entries().at(view.keyboard().currentPosition()).text, QStringLiteral("第 29 句"));
+    // The ring is seen, and has moved on.
+    QVERIFY(bubbleWith(view, last)->grab().toImage() != ringed);
+    for (int i = 0; i < 40; ++i) {
+        QTest::keyClick(&view, Qt::Key_Up);
+    }
+    QCOMPARE(view.keyboard().currentPosition(), 0);
+    QVERIFY(bubbleWith(view, QStringLiteral("第 1 句")) != nullptr);
+    const QSignalSpy activated(&view, &ConversationView::turnActivated);
+    QTest::keyClick(&view, Qt::Key_Return);
+    QCOMPARE(activated.size(), 1);
+    QCOMPARE(activated.first().first().toInt(), 1);
+}
+
+void TestConversationView::menuOpensByItsButtonAndByItsKey()
+{
+    ConversationView view;
+    view.resize(500, 300);
+    view.show();
+    view.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    view.addSaid(1, QStringLiteral("问"), false);
+    view.addReply(1, QStringLiteral("答"), nullptr);
+    QSignalSpy wanted(&view, &ConversationView::turnMenuWanted);
+
+    const Bubble *said = bubbleWith(view, QStringLiteral("问"));
+    int buttons = 0;
+    for (TurnButton *button : view.findChildren<TurnButton *>()) {
+        QVERIFY(view.viewport()->rect().contains(button->geometry()));
+        if (button->isVisible() && button->geometry().center().y() < said->geometry().bottom()) {
+            QVERIFY(button->geometry().right() < said->x());
+            QTest::mouseClick(button, Qt::LeftButton);
+        }
+        ++buttons;
+    }
+    QCOMPARE(buttons, 2);
+    QCOMPARE(wanted.size(), 1);
+    QCOMPARE(wanted.takeFirst().at(1).toString(), QStringLiteral("问"));
+
+    view.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&view, Qt::Key_Up);
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint());
+    QApplication::sendEvent(&view, &key);
+    QCOMPARE(wanted.size(), 1);
+    QCOMPARE(wanted.first().at(1).toString(), QStringLiteral("问"));
+}
+
+void TestConversationView::tabReachesEveryCard()
+{
+    ConversationView view;
+    view.resize(500, 300);
+    view.show();
+    view.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    constexpr int cards = 8;
+    for (int turn = 1; turn <= cards; ++turn) {
+        view.addReply(turn, QStringLiteral("答"), makeCard(QString::number(turn)));
+    }
+    // One that comes late stands above, and has its turn there.
+    view.addReply(2, QStringLiteral("晚"), makeCard(QStringLiteral("2b")));
+    view.scrollToEnd();
+    view.setFocus();
+    QStringList visited;
+    while (view.moveFocus(true)) {
+        const QWidget *focus = QApplication::focusWidget();
+        QVERIFY(focus != nullptr);
+        const QRect place(focus->mapTo(view.viewport(), QPoint()), focus->size());
+        QVERIFY(focus->isVisible() && view.viewport()->rect().contains(place));
+        visited << focus->parentWidget()->findChildren<QLabel *>().at(1)->text() + QLatin1Char(' ') +
+                       static_cast<const QPushButton *>(focus)->text();
+    }
+    QCOMPARE(visited.size(), 2 * (cards + 1));
+    QCOMPARE(visited.mid(0, 6),
+             QStringList({QStringLiteral("1 取消"), QStringLiteral("1 修改"), QStringLiteral("2 取消"),
+                          QStringLiteral("2 修改"), QStringLiteral("2b 取消"), QStringLiteral("2b 修改")}));
+    QStringList back{visited.last()};
+    while (view.moveFocus(false)) {
+        const QWidget *focus = QApplication::focusWidget();
+        back.prepend(focus->parentWidget()->findChildren<QLabel *>().at(1)->text() + QLatin1Char(' ') +
+                     static_cast<const QPushButton *>(focus)->text());
+    }
+    QCOMPARE(back, visited);
+}
+
+void TestConversationView::assistiveToolsReadTheConversation()
+{
+    ConversationView view;
+    view.resize(500, 300);
+    view.show();
+    for (int turn = 1; turn <= 30; ++turn) {
+        view.addSaid(turn, QStringLiteral("问 %1").arg(turn), false);
+        view.addReply(turn, QStringLiteral("答 %1").arg(turn), turn == 2 ? makeCard(QString()) : nullptr);
+    }
+    view.addReply(1, QStringLiteral("晚答"), nullptr);
+    QAccessibleInterface *page = QAccessible::queryAccessibleInterface(view.viewport());
+    QCOMPARE(page->role(), QAccessible::List);
+    QCOMPARE(page->text(QAccessible::Name), QStringLiteral("对话"));
+    QCOMPARE(page->childCount(), 62);
+    const QStringList begins = {QStringLiteral("问 1"), QStringLiteral("答 1"), QStringLiteral("晚答"),
+                                QStringLiteral("问 2"), QStringLiteral("答 2")};
+    for (int i = 0; i < begins.size(); ++i) {
+        QAccessibleInterface *item = page->child(i);
+        QCOMPARE(item->role(), QAccessible::ListItem);
+        QCOMPARE(item->text(QAccessible::Name), begins.at(i));
+        QCOMPARE(item->parent(), page);
+        QCOMPARE(page->indexOfChild(item), i);
+    }
+    QCOMPARE(page->child(0)->text(QAccessible::Description), QStringLiteral("我说的"));
+    QCOMPARE(page->child(1)->text(QAccessible::Description), QStringLiteral("助手的回答"));
+    QCOMPARE(page->child(5)->object(), view.entries().at(4).card.data());
+    QVERIFY(page->child(0)->state().offscreen && !page->child(61)->state().offscreen);
+    const QRect last = page->child(61)->rect();
+    QCOMPARE(page->childAt(last.center().x(), last.center().y()), page->child(61));
+
+    const QSignalSpy activated(&view, &ConversationView::turnActivated);
+    const QSignalSpy menus(&view, &ConversationView::turnMenuWanted);
+    QAccessibleActionInterface *actions = page->child(3)->actionInterface();
+    actions->doAction(QAccessibleActionInterface::pressAction());
+    actions->doAction(QAccessibleActionInterface::showMenuAction());
+    QCOMPARE(activated.size(), 1);
+    QCOMPARE(activated.first().first().toInt(), 2);
+    QCOMPARE(menus.size(), 1);
+}
+
+QTEST_MAIN(TestConversationView)
+#include "tst_conversationview.moc"

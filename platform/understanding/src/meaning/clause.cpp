@@ -90,6 +90,18 @@ bool Clause::isOnlySomebody() const
     return !known && std::all_of(names.cbegin(), names.cend(), isPersonsName);
 }
 
+bool Clause::excludesSomebody() const
+{
+    static const QString negations = QStringLiteral("不没别甭勿莫");
+    return any([&](std::size_t at) {
+        const Token &token = m_tokens[at];
+        const QChar before = charAt(m_reading.sentence().text(), token.position - 1);
+        const bool negated =
+            at > m_begin && (m_tokens[at - 1].is(WordClass::Negation) || negations.contains(before));
+        return negated && token.isAny(WordClass::Trigger | WordClass::Pull) && !token.inName;
+    });
+}
+
 bool Clause::isTimeCutOff() const
 {
     const bool timed = any([&](std::size_t at) { return m_tokens[at].kind == Token::Kind::Time; });
@@ -152,7 +164,9 @@ bool Clause::isSomebodyElses() const
                                         WordClass::GoverningOpen | WordClass::Join | WordClass::Close |
                                         WordClass::Add | WordClass::AccountLabel;
         const bool owner = charAt(m_reading.sentence().text(), token.end()) == QChar(u'的');
-        if (token.is(WordClass::Actor) && !called && !owner) {
+        const bool accounted =
+            at + 1 < m_end && m_tokens[at + 1].isAny(WordClass::AccountLabel | WordClass::IdLabel);
+        if (token.is(WordClass::Actor) && !called && !owner && !accounted) {
             return true;
         }
         called = called || token.isAny(calling);
@@ -258,6 +272,17 @@ bool Clause::isQuestion() const
 
 bool Clause::isPreamble(std::size_t at) const
 {
+    // 孩子哭了我先退会
+    static const QStringList own = {QStringLiteral("我先"), QStringLiteral("我要"), QStringLiteral("我得"),
+                                    QStringLiteral("我就")};
+    const int next = m_tokens[at].end();
+    const bool beforeOwn = std::any_of(own.cbegin(), own.cend(), [&](const QString &words) {
+        const int found = m_reading.sentence().text().indexOf(words, next);
+        return found >= 0 && found < m_tokens[m_end - 1].end();
+    });
+    if (m_intent == QLatin1String(CloseConference) && beforeOwn) {
+        return true;
+    }
     for (std::size_t later = at + 1; later < qMin(m_end, at + 3); ++later) {
         if (m_tokens[later].is(WordClass::Request) && m_tokens[later].length > 1 &&
             charAt(m_reading.sentence().text(), m_tokens[later].position) == QChar(u'帮')) {

@@ -27,6 +27,8 @@ public:
     bool isOnlySomebody() const;
     /// tmr下午三点: a time beside something strange.
     bool isTimeCutOff() const;
+    /// 不带小王: somebody is named who is not to come.
+    bool excludesSomebody() const;
 
     bool isRefused() const;
     /// 结束了会议, 会议结束了: done, unless it is asked for (把会议关了, 散了吧).

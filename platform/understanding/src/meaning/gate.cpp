@@ -26,6 +26,8 @@ Verdict judge(const Reading &reading, const QString &intent)
     const bool untimely = intent == QLatin1String(InviteConference) || intent == QLatin1String(AddBuddy);
     doubtful = doubtful || (untimely && reading.clockCount() > 0);
     doubtful = doubtful || (intent == QLatin1String(CreateConference) && reading.callsNobodyKnown());
+    // 凌晨一点上线，零点四十五拉个会: which of the two hours?
+    doubtful = doubtful || (intent == QLatin1String(CreateConference) && reading.clockCount() > 1);
     bool untitled = false; // the name of the conference was not understood
     bool quoted = false;
     for (std::size_t begin = 0; begin < tokens.size();) {
@@ -36,6 +38,7 @@ Verdict judge(const Reading &reading, const QString &intent)
         const QChar sign = end < tokens.size() ? reading.sentence().text().at(tokens[end].position) : QChar();
         const Clause clause(reading, intent, begin, end);
         supposed = supposed || clause.isSupposed();
+        doubtful = doubtful || clause.excludesSomebody();
         if (clause.isOrder()) {
             if (clause.isRefused()) {
                 return Verdict::Refuse;

@@ -49,7 +49,11 @@ bool endsWithRole(const QString &text)
 
 bool isModifier(const QString &text)
 {
-    return text.endsWith(QChar(u'的')) || (endsWithRole(text) && !isSurnameWithTitle(text));
+    // 陪审员, 委托人, 供应处: whatever ends so tells what somebody does.
+    static const QString callings = QStringLiteral("员师长生人手者士部组处科室班队院校厂店社局所站方");
+    const bool calling =
+        text.size() > 2 && callings.contains(text.at(text.size() - 1)) && !isPersonsName(text);
+    return text.endsWith(QChar(u'的')) || ((calling || endsWithRole(text)) && !isSurnameWithTitle(text));
 }
 
 int modifierLength(const QString &text)

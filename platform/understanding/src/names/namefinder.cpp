@@ -187,7 +187,12 @@ private:
                 at = takeLatinName(at);
             } else if (token.kind == Token::Kind::Other || m_places.isSmallWordInName(at) ||
                        m_places.isPlainBeforeName(at) || m_places.isNumberBeforeName(at)) {
-                at = takeRun(at, mustLookLikeName || afterComma || followsName(at));
+                const bool follows = followsName(at);
+                const std::size_t before = m_names.size();
+                at = takeRun(at, mustLookLikeName || afterComma || follows);
+                if (follows && m_names.size() == before && m_modifierStart < 0) { // 跟Jerry过方案
+                    return at + 1;
+                }
             } else if (token.is(WordClass::Punctuation) && m_text.at(token.position) == QLatin1Char(',')) {
                 afterComma = true;
             } else if (!token.isAny(WordClass::Separator | WordClass::Nobody) && !m_places.isOwner(at) &&
@@ -279,6 +284,10 @@ private:
                startsCapital(m_text, m_tokens[last + 2]) &&
                (m_tokens[last + 1].kind == Token::Kind::Space || m_places.isMiddleDot(last + 1))) {
             last += 2;
+        }
+        const QString first = m_text.mid(m_tokens[at].position, m_tokens[at].length);
+        if (last > at && isModifier(first)) { // CFO Linda
+            at += 2;
         }
         const int start = m_tokens[at].position;
         if (m_text.at(start).isDigit()) { // 1on1

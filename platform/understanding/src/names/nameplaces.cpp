@@ -119,6 +119,12 @@ bool NamePlaces::isSmallWordInName(std::size_t at) const
     const Token &token = m_tokens[at];
     constexpr WordClasses hard = WordClass::Separator | WordClass::WeakOpen | WordClass::Conference |
                                  WordClass::Punctuation | WordClass::Nobody;
+    constexpr WordClasses coming = WordClass::ComeMeet | WordClass::Arrive | WordClass::Join;
+    const bool calls = token.isAny(WordClass::Trigger | WordClass::Pull) && at + 1 < m_tokens.size() &&
+                       m_tokens[at + 1].isAny(coming); // 阿水都喊来开会
+    if (calls) {
+        return false;
+    }
     const bool measure = m_text.at(token.position) == QChar(u'个'); // in no name, and in 约个时间
     return token.kind == Token::Kind::Word && token.length == 1 && !token.isAny(hard) && !measure &&
            m_text.at(token.position).isLetter();

@@ -5,7 +5,6 @@
 
 #include "meaning/outcome.h"
 #include "names/namelook.h"
-#include "text/chinesenumber.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
 
@@ -29,17 +28,6 @@ Clause::Clause(const Reading &reading, const QString &intent, std::size_t begin,
     , m_end(end)
     , m_isQuery(intent == QLatin1String(QueryConference))
 {
-}
-
-template <typename Holds>
-bool Clause::any(Holds holds) const
-{
-    for (std::size_t at = m_begin; at < m_end; ++at) {
-        if (!m_tokens[at].inTopic && holds(at)) {
-            return true;
-        }
-    }
-    return false;
 }
 
 bool Clause::isOrder() const
@@ -71,7 +59,21 @@ bool Clause::callsSomebody() const
 
 bool Clause::isSupposed() const
 {
-    return has(WordClass::Framed);
+    // 老板约我明天开会: somebody else calls the speaker; 约我同事 calls somebody.
+    static const QStringList calls = {QStringLiteral("约"), QStringLiteral("叫"), QStringLiteral("喊"),
+                                      QStringLiteral("邀请"), QStringLiteral("通知")};
+    constexpr WordClasses deeds = WordClass::WeakOpen | WordClass::StrongOpen | WordClass::Join |
+                                  WordClass::WeakJoin | WordClass::ComeMeet | WordClass::Arrive |
+                                  WordClass::Conference;
+    const bool calledMyself = any([&](std::size_t at) {
+        if (at + 2 >= m_end || !calls.contains(textOf(m_tokens[at])) ||
+            textOf(m_tokens[at + 1]) != QStringLiteral("我")) {
+            return false;
+        }
+        const Token &next = m_tokens[at + 2];
+        return !next.inName && (next.kind == Token::Kind::Time || next.isAny(deeds));
+    });
+    return calledMyself || has(WordClass::Framed);
 }
 
 bool Clause::isOnlySomebody() const
@@ -270,81 +272,6 @@ bool Clause::isQuestion() const
     return !m_isQuery && has(asking) && !has(WordClass::Request);
 }
 
-bool Clause::isPreamble(std::size_t at) const
-{
-    // 孩子哭了我先退会
-    static const QStringList own = {QStringLiteral("我先"), QStringLiteral("我要"), QStringLiteral("我得"),
-                                    QStringLiteral("我就")};
-    const int next = m_tokens[at].end();
-    const bool beforeOwn = std::any_of(own.cbegin(), own.cend(), [&](const QString &words) {
-        const int found = m_reading.sentence().text().indexOf(words, next);
-        return found >= 0 && found < m_tokens[m_end - 1].end();
-    });
-    if (m_intent == QLatin1String(CloseConference) && beforeOwn) {
-        return true;
-    }
-    for (std::size_t later = at + 1; later < qMin(m_end, at + 3); ++later) {
-        if (m_tokens[later].is(WordClass::Request) && m_tokens[later].length > 1 &&
-            charAt(m_reading.sentence().text(), m_tokens[later].position) == QChar(u'帮')) {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool Clause::isPieceOfTime(std::size_t at) const
-{
-    const Token &token = m_tokens[at];
-    if (token.inName) {
-        return false;
-    }
-    static const QString pieces = QStringLiteral("午点刻半");
-    const QString text = m_reading.sentence().text().mid(token.position, token.length);
-    if (token.kind == Token::Kind::Other) {
-        return !text.contains(QLatin1Char('.')) &&
-               std::any_of(text.cbegin(), text.cend(), [&](QChar character) {
-                   return pieces.contains(character) || digitValue(character) >= 0;
-               });
-    }
-    const bool behindTime = at == m_begin || m_tokens[at - 1].kind == Token::Kind::Time;
-    const bool beforeTime = behindTime && at + 1 < m_end && m_tokens[at + 1].kind == Token::Kind::Time &&
-                            m_tokens[at + 1].position == token.end();
-    return beforeTime && (text == QStringLiteral("下") || text == QStringLiteral("上"));
-}
-
-bool Clause::isExplained(std::size_t at) const
-{
-    const Token &token = m_tokens[at];
-    if (isPieceOfTime(at)) {
-        return false;
-    }
-    switch (token.kind) {
-    case Token::Kind::Latin: // an account, a password or a name; else nobody knows what
-        return token.inName || m_intent == QLatin1String(AddBuddy) ||
-               m_intent == QLatin1String(EnterConferenceById) || isDescription(at) || isBeforeConference(at);
-    case Token::Kind::Word:
-        return (m_isQuery && token.is(WordClass::Framed)) || token.inName || token.isAny(m_allowed.beside) ||
-               isNothing(token) || isDescription(at);
-    case Token::Kind::Other:
-        return token.inName || isNothing(token) || isDescription(at) || isPreamble(at) || isOfNumber(at) ||
-               (m_intent == QLatin1String(AddBuddy) && !m_reading.account().isEmpty());
-    case Token::Kind::Number: // a date or an hour that was cut
-        return m_intent != QLatin1String(CreateConference) || token.inName || isDescription(at);
-    case Token::Kind::Duration: // how long a new one takes, or how long one took
-        return m_intent == QLatin1String(CreateConference);
-    default:
-        return true;
-    }
-}
-
-bool Clause::isOfNumber(std::size_t at) const
-{
-    return m_intent == QLatin1String(EnterConferenceById) && any([&](std::size_t label) {
-               return label > at && m_tokens[label].isAny(WordClass::IdLabel | WordClass::Conference) &&
-                      charAt(m_reading.sentence().text(), m_tokens[label].position - 1) == QChar(u'的');
-           });
-}
-
 bool Clause::isPolitelyRequested() const
 {
     static const QStringList proposing = {QStringLiteral("咱们"), QStringLiteral("要不"),
@@ -354,61 +281,6 @@ bool Clause::isPolitelyRequested() const
         const Token &token = m_tokens[at];
         return token.is(WordClass::Request) && !token.inName && !proposing.contains(textOf(token));
     });
-}
-
-bool Clause::isBeforeConference(std::size_t at) const
-{
-    constexpr std::size_t farthest = 6;
-    for (std::size_t next = at + 1; next < qMin(m_end, at + farthest); ++next) {
-        const Token &token = m_tokens[next];
-        if (token.is(WordClass::Conference)) {
-            return true;
-        }
-        if (token.kind != Token::Kind::Space && token.kind != Token::Kind::Latin &&
-            token.kind != Token::Kind::Other) {
-            return false;
-        }
-    }
-    return false;
-}
-
-bool Clause::isDescription(std::size_t at) const
-{
-    constexpr WordClasses verbs = WordClass::StrongOpen | WordClass::WeakOpen | WordClass::GoverningOpen |
-                                  WordClass::Join | WordClass::WeakJoin;
-    constexpr std::size_t farthest = 6;
-    if (at > m_begin && m_tokens[at - 1].is(WordClass::Video) && m_tokens[at].kind == Token::Kind::Other) {
-        return true;
-    }
-    std::size_t next = at + 1;
-    while (
-        next < m_end && next < at + farthest &&
-        (m_tokens[next].isAny(WordClass::Measure | WordClass::Title | WordClass::Plain | WordClass::Filler) ||
-         m_tokens[next].kind == Token::Kind::Other || isNothing(m_tokens[next]))) {
-        ++next;
-    }
-    if (next >= m_end || !m_tokens[next].is(WordClass::Conference)) {
-        return false;
-    }
-    for (std::size_t before = at; before > m_begin && at - before < farthest; --before) {
-        if (m_tokens[before - 1].isAny(verbs)) {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool Clause::isNothing(const Token &token) const
-{
-    if ((token.kind != Token::Kind::Other && token.kind != Token::Kind::Word)) {
-        return false;
-    }
-    if (token.kind == Token::Kind::Word && token.classes.isEmpty()) {
-        return true; // 创建 in 我创建的会议, settled to be no verb
-    }
-    const QString text = m_reading.sentence().text().mid(token.position, token.length);
-    return std::all_of(text.cbegin(), text.cend(),
-                       [&](QChar character) { return m_allowed.light.contains(character); });
 }
 
 } // namespace understanding

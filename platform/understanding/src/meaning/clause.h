@@ -83,4 +83,15 @@ private:
     const bool m_isQuery;
 };
 
+template <typename Holds>
+bool Clause::any(Holds holds) const
+{
+    for (std::size_t at = m_begin; at < m_end; ++at) {
+        if (!m_tokens[at].inTopic && holds(at)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace understanding

@@ -74,6 +74,15 @@ int modifierLength(const QString &text)
     if (rest.size() >= shortest && prefixes.contains(rest.at(familiar)) && !looksLikeName(rest.left(3))) {
         return start + familiar;
     }
+    // 法务海洋, 测试组圆圆: whatever two characters follow a calling.
+    constexpr int longestCalling = 6;
+    for (int length = 2; rest.size() >= shortest && length <= 3; ++length) {
+        const int left = rest.size() - length;
+        const bool called = left >= 2 && left <= longestCalling && endsWithRole(rest.left(left));
+        if (called && !endsWithRole(rest) && !looksLikeName(rest) && !isPersonsName(rest.left(left))) {
+            return start + left;
+        }
+    }
     // 闺女秀英, 外孙女朵朵: the given name alone.
     const int cut = rest.size() - 2;
     for (int length = qMin(LongestRole, cut); length > 0; --length) {

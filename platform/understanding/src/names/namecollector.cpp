@@ -41,13 +41,15 @@ void NameCollector::doubtLast()
 void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool called)
 {
     const QString chunk = m_text.mid(start, end - start);
-    QString name = isWholeName(chunk, end) ? chunk : withoutParticles(chunk);
+    const bool whole = isWholeName(chunk, end) ||
+                       (modifierLength(chunk) == chunk.size() - 3 && isWholeName(chunk.right(3), end));
+    QString name = whole ? chunk : withoutParticles(chunk);
     if (name.endsWith(QStringLiteral("的人"))) { // 市场部的人
         name.chop(2);
     }
     const int modifier = modifierLength(name);
     if (modifier > 0) {
-        name = withoutParticles(name.mid(modifier));
+        name = whole ? name.mid(modifier) : withoutParticles(name.mid(modifier));
     }
     if (name.size() < 2 || name.size() > LongestName || (mustLookLikeName && !looksLikeName(name))) {
         return;
@@ -75,7 +77,13 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
     for (std::size_t at = before; at < m_names.size(); ++at) {
         const QString &found = m_names[at].name;
         const bool strange = m_listed && !looksLikeName(found) && !isModifier(found);
-        m_names[at].doubtful = cut || strange || !isLikelyName(found);
+        const bool ofConference =
+            end < m_text.size() && Lexicon::instance()
+                                       .longestAt(m_text, end)
+                                       .classes.intersects(WordClass::Conference | WordClass::Video);
+        const bool onlyOf =
+            chunk.endsWith(QChar(u'的')) && !ofConference && isModifier(found) && !isPersonsName(found);
+        m_names[at].doubtful = cut || strange || onlyOf || !isLikelyName(found);
     }
 }
 
@@ -83,8 +91,10 @@ bool NameCollector::isWholeName(const QString &chunk, int end) const
 {
     static const QString enclosing = QStringLiteral("、,。;/和跟与及 ");
     static const QString never = QStringLiteral("也都全吧呢啊呀了的吗嘛呗参加");
+    static const QString always = QStringLiteral("为可成能做");
     const bool closed = end == m_text.size() || enclosing.contains(m_text.at(end));
-    return closed && chunk.size() == 3 && isPersonsName(chunk) && !never.contains(chunk.at(2));
+    return chunk.size() == 3 && isPersonsName(chunk) &&
+           ((closed && !never.contains(chunk.at(2))) || always.contains(chunk.at(2)));
 }
 
 } // namespace understanding

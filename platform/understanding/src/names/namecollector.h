@@ -31,7 +31,7 @@ protected:
     int m_modifierStart = -1;       ///< of the name that comes next, -1 for none
 
 private:
-    /// 邓稼先 before a comma: 先 belongs to the name where no verb follows.
+    /// 邓稼先 before a comma, 佟大为 anywhere: the last character belongs to the name.
     [[nodiscard]] bool isWholeName(const QString &chunk, int end) const;
 
     const QString &m_raw;

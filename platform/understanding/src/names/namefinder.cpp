@@ -34,6 +34,9 @@ public:
         for (std::size_t at = 0; at < m_tokens.size(); ++at) {
             at = step(at);
         }
+        if (m_lost) {
+            doubtLast();
+        }
         std::stable_sort(m_names.begin(), m_names.end(),
                          [](const FoundName &a, const FoundName &b) { return a.position < b.position; });
         return std::move(m_names);
@@ -59,6 +62,7 @@ private:
             if (token.is(WordClass::Separator)) {
                 takeLeft(at);
             }
+            m_lost = m_lost || isLostBefore(at);
             const bool clauseSign =
                 token.is(WordClass::Separator) && !token.is(WordClass::Trigger) && !m_listed;
             return takeZone(at, token.is(WordClass::WeakTrigger) || clauseSign);
@@ -128,6 +132,27 @@ private:
         return m_names.size() > before ? last : at;
     }
 
+    /// 一鸣 in 参会人一鸣、芳姐: somebody was named before the separator who was not found.
+    bool isLostBefore(std::size_t at) const
+    {
+        if (at == 0 || !m_tokens[at].is(WordClass::Separator) ||
+            m_tokens[at - 1].end() != m_tokens[at].position) {
+            return false;
+        }
+        const bool found = std::any_of(m_names.crbegin(), m_names.crend(), [&](const FoundName &name) {
+            return name.position + name.said.size() == m_tokens[at].position;
+        });
+        const Token &before = m_tokens[at - 1];
+        static const QString light = QStringLiteral("的要先再就得去来想需能会可又还");
+        const bool strange =
+            (before.kind == Token::Kind::Other && !light.contains(m_text.at(before.end() - 1))) ||
+            before.is(WordClass::Plain);
+        const bool listed =
+            m_text.at(m_tokens[at].position) == QChar(u'、') && before.kind == Token::Kind::Word &&
+            !before.isAny(WordClass::Nobody | WordClass::Conference | WordClass::NameTail | WordClass::Title);
+        return !found && (strange || listed);
+    }
+
     /// The names behind the word at @p lead; returns the last token that belongs to them.
     std::size_t takeZone(std::size_t lead, bool mustLookLikeName)
     {
@@ -138,8 +163,11 @@ private:
                            (first > lead + 1 && m_text.at(m_tokens[first - 1].end() - 1) == QChar(u'个'));
         std::size_t end = takeNames(first, mustLookLikeName);
         // What follows tells that it is somebody, however unlikely the name: 把加藤拉进来.
-        constexpr WordClasses takesPeople =
+        WordClasses takesPeople =
             WordClass::Arrive | WordClass::Buddy | WordClass::BuddyNoun | WordClass::InviteNoun;
+        if (m_tokens[lead].is(WordClass::Request)) { // 把子轩叫上开会
+            takesPeople.add(WordClass::Pull);
+        }
         if (mustLookLikeName && m_names.size() == before && end < m_tokens.size() &&
             m_tokens[end].isAny(takesPeople)) {
             end = takeNames(m_places.skipToNames(lead), false);
@@ -169,6 +197,7 @@ private:
             }
             at = behind;
             const Token &token = m_tokens[at];
+            m_lost = m_lost || isLostBefore(at);
             const bool someoneFollows =
                 at + 1 < m_tokens.size() &&
                 (m_tokens[at + 1].kind == Token::Kind::Name || m_tokens[at + 1].kind == Token::Kind::Latin ||
@@ -237,7 +266,13 @@ private:
             for (int character = 0; whole.at(character) != QChar(u'·'); ++character) {
                 cut = leads.contains(whole.at(character)) ? character + 1 : cut;
             }
-            const QString name = withoutParticles(whole.mid(cut));
+            QString name = withoutParticles(whole.mid(cut));
+            for (int length = name.indexOf(QChar(u'·')) - 2; length >= 2; --length) { // 人事部安娜·卡列尼娜
+                if (isModifier(name.left(length))) {
+                    name = name.mid(length);
+                    break;
+                }
+            }
             addOne(m_text.indexOf(name, start), name.size(), true);
             return last;
         }
@@ -338,6 +373,7 @@ private:
     }
 
     const QString &m_text;
+    bool m_lost = false; ///< somebody stands in a list who was not found
     const Tokens &m_tokens;
     const NamePlaces m_places;
 };

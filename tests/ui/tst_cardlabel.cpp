@@ -84,14 +84,13 @@ void TestCardLabel::markupIsPaintedAsCharacters()
     CardLabel *label = makeLabel(Markup, &parent);
     QCOMPARE(label->textFormat(), Qt::PlainText);
     QCOMPARE(label->text(), Markup);
-    QCOMPARE(label->textWidth(), label->fontMetrics().horizontalAdvance(Markup));
-    label->resize(label->textWidth() + 10, label->sizeHint().height());
-
     QLabel plain(&parent);
     plain.setTextFormat(Qt::PlainText);
     plain.setText(Markup);
     plain.setFont(label->font());
     plain.setPalette(label->palette());
+    QCOMPARE(label->wholeWidth(), plain.sizeHint().width());
+    label->resize(label->wholeWidth() + 10, label->sizeHint().height());
     plain.resize(label->size());
     QCOMPARE(painted(*label), painted(plain));
 }
@@ -101,8 +100,8 @@ void TestCardLabel::aTextThatDoesNotFitIsElided()
     QWidget parent;
     const QString text(40, QLatin1Char('m'));
     CardLabel *label = makeLabel(text, &parent);
-    QVERIFY(label->minimumSizeHint().width() < label->textWidth() / 4);
-    QCOMPARE(label->sizeHint().width(), qMin(260, label->textWidth()));
+    QVERIFY(label->minimumSizeHint().width() < label->wholeWidth() / 4);
+    QCOMPARE(label->sizeHint().width(), qMin(260, label->wholeWidth()));
     QCOMPARE(label->text(), text);
 
     label->resize(100, label->sizeHint().height());
@@ -122,7 +121,7 @@ void TestCardLabel::aLabelThatIsNotElidedKeepsItsWidth()
     QWidget parent;
     CardLabel *label = makeLabel(QStringLiteral("进行中"), &parent);
     label->disableEliding();
-    QVERIFY(label->minimumSizeHint().width() >= label->textWidth());
+    QVERIFY(label->minimumSizeHint().width() >= label->wholeWidth());
 }
 
 void TestCardLabel::onlyAnElidedTextHasAToolTip_data()

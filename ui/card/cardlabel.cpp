@@ -38,11 +38,6 @@ void CardLabel::disableEliding()
     update();
 }
 
-int CardLabel::textWidth() const
-{
-    return fontMetrics().horizontalAdvance(CardText::beginning(text()));
-}
-
 QSize CardLabel::sizeHint() const
 {
     return wholeSize().boundedTo({WidestHint, QWIDGETSIZE_MAX});

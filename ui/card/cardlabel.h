@@ -23,7 +23,7 @@ public:
     void disableEliding();
 
     /// What the text needs on one line, in pixels.
-    [[nodiscard]] int textWidth() const;
+    [[nodiscard]] int wholeWidth() const { return wholeSize().width(); }
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;

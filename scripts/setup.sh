@@ -21,7 +21,7 @@ packages_package=(abigail-tools binutils build-essential debhelper dpkg-dev lint
 # What tst_krunner takes, which is skipped without: a whole desktop of 380 packages, so nothing here installs it.
 packages_launcher=(plasma-workspace xdotool xvfb)
 # What the benchmarks take on top.
-packages_bench=(libbenchmark-dev)
+packages_bench=(libbenchmark-dev python3 valgrind xvfb)
 # What the checks of .ci/run take on top.
 packages_ci=(clang clang-format-16 clang-tidy clazy libclang-rt-14-dev llvm shellcheck)
 

@@ -3,15 +3,41 @@
 
 #include "plainwidgets.h"
 
+#include "card/cardmeasures.h"
+#include "card/cardtheme.h"
+#include "conferencemsgstaticwidget.h"
 #include "customizecombobox.h"
+#include "customizeitem.h"
 
 #include <QBoxLayout>
 #include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QSpinBox>
+
+namespace {
+
+/// What a row stands on.
+class RoundedGround : public QWidget
+{
+public:
+    explicit RoundedGround(QWidget *parent) : QWidget(parent) {}
+
+protected:
+    void paintEvent(QPaintEvent * /*event*/) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setBrush(CardTheme::panelGround());
+        painter.setPen(Qt::transparent);
+        painter.drawRoundedRect(rect(), CardMeasures::CornerRadius, CardMeasures::CornerRadius);
+    }
+};
+
+} // namespace
 
 PlainWidgets::PlainWidgets(const QWidget &card)
 {
@@ -54,6 +80,9 @@ void PlainWidgets::readWidget(const QWidget &widget)
         }
     } else if (qobject_cast<const QSpinBox *>(&widget) != nullptr) {
         m_kind = Kind::SpinBox;
+    } else if (qobject_cast<const CustomizeItem *>(&widget) != nullptr ||
+               qobject_cast<const ConferenceMsgStaticWidget *>(&widget) != nullptr) {
+        m_kind = Kind::Ground;
     }
     m_font = widget.font();
     m_hasPalette = widget.testAttribute(Qt::WA_SetPalette);
@@ -123,6 +152,9 @@ QWidget *PlainWidgets::buildWidget(QWidget *parent) const
     }
     case Kind::SpinBox:
         widget = new QSpinBox(parent);
+        break;
+    case Kind::Ground:
+        widget = new RoundedGround(parent);
         break;
     default:
         widget = new QWidget(parent);

@@ -19,8 +19,8 @@ QT_END_NAMESPACE
 
 /**
  * A card as somebody would put it together from Qt's own widgets: the same number of the same kinds, with the
- * same texts, fonts, colours and layouts, and nothing of ours. Read from a card once, and built as often as
- * wanted.
+ * same texts, fonts, colours, layouts and rounded grounds, and nothing of ours. Read from a card once, and
+ * built as often as wanted.
  */
 class PlainWidgets
 {
@@ -35,7 +35,7 @@ public:
     int count() const;
 
 private:
-    enum class Kind { Panel, Label, Button, ComboBox, DateBox, SpinBox, CheckBox, Space, Layout };
+    enum class Kind { Panel, Ground, Label, Button, ComboBox, DateBox, SpinBox, CheckBox, Space, Layout };
 
     void readWidget(const QWidget &widget);
     void readLayout(const QBoxLayout &layout);

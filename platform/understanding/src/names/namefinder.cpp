@@ -139,9 +139,8 @@ private:
             m_tokens[at - 1].end() != m_tokens[at].position) {
             return false;
         }
-        const bool found = std::any_of(m_names.crbegin(), m_names.crend(), [&](const FoundName &name) {
-            return name.position + name.said.size() == m_tokens[at].position;
-        });
+        const bool found =
+            !m_names.empty() && m_names.back().position + m_names.back().said.size() >= m_tokens[at].position;
         const Token &before = m_tokens[at - 1];
         static const QString light = QStringLiteral("的要先再就得去来想需能会可又还");
         const bool strange =
@@ -189,8 +188,15 @@ private:
     /// Takes names from @p at on; returns the first token that is none of theirs.
     std::size_t takeNames(std::size_t at, bool mustLookLikeName)
     {
+        constexpr std::size_t farthest = 24; // tokens without a name; keeps long sentences linear
         bool afterComma = false;
-        while (at < m_tokens.size() && !m_tokens[at].inTopic) {
+        std::size_t limit = at + farthest;
+        std::size_t count = m_names.size();
+        while (at < qMin(limit, m_tokens.size()) && !m_tokens[at].inTopic) {
+            if (m_names.size() > count) {
+                count = m_names.size();
+                limit = at + farthest;
+            }
             const std::size_t behind = m_places.endOfModifier(at);
             if (behind > at && m_modifierStart < 0) {
                 m_modifierStart = m_tokens[at].position;

@@ -171,9 +171,13 @@ void Lexicon::addWord(const QString &word, WordClass wordClass)
 
 WordMatch Lexicon::longestAt(const QString &text, int position) const
 {
-    for (const Entry &entry : m_byFirst[m_bucket[text.at(position).unicode()]]) {
+    const QChar *const here = text.constData() + position;
+    const int left = text.size() - position;
+    for (const Entry &entry : m_byFirst[m_bucket[here->unicode()]]) {
         const int length = entry.word.size();
-        if (text.midRef(position, length) != entry.word) {
+        const QChar *const word = entry.word.constData();
+        // The first characters are the same; the second tells most words apart.
+        if (length > left || (length > 1 && here[1] != word[1]) || !std::equal(word, word + length, here)) {
             continue;
         }
         WordClasses classes = entry.classes;

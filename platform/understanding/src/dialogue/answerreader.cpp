@@ -202,7 +202,13 @@ static bool takeFurtherNames(const Reading &reading, Outcome &outcome)
             outcome.slotList.end());
     }
     for (const FoundName &name : reading.names()) {
-        outcome.addSlot(NameSlot, name.said, name.name);
+        const bool known =
+            std::any_of(outcome.slotList.cbegin(), outcome.slotList.cend(), [&](const Slot &slot) {
+                return slot.name == QLatin1String(NameSlot) && slot.normValue == name.name;
+            });
+        if (!known) {
+            outcome.addSlot(NameSlot, name.said, name.name);
+        }
     }
     return true;
 }
@@ -243,8 +249,9 @@ bool takeAnswer(const QString &question, const Reading &reading, const QDateTime
         outcome.answer.clear();
         return true;
     }
-    if (reading.timeSaid().isEmpty() ||
-        !holdsOnly(reading, [](const Token &token) { return token.kind == Token::Kind::Time; })) {
+    if (reading.timeSaid().isEmpty() || !holdsOnly(reading, [](const Token &token) {
+            return token.kind == Token::Kind::Time || token.inName;
+        })) {
         return false;
     }
     if (!takeFurtherNames(reading, outcome)) {

@@ -104,6 +104,11 @@ bool Clause::excludesSomebody() const
     });
 }
 
+bool Clause::isReport() const
+{
+    return has(WordClass::Reported) && has(WordClass::Actor);
+}
+
 bool Clause::isTimeCutOff() const
 {
     const bool timed = any([&](std::size_t at) { return m_tokens[at].kind == Token::Kind::Time; });
@@ -257,7 +262,9 @@ bool Clause::isAboutRoom() const
     const auto isRoom = [&](const Token &token) {
         return text.at(token.end() - 1) == QChar(u'室') || charAt(text, token.end()) == QChar(u'室');
     };
-    return m_intent == QLatin1String(CreateConference) && any([&](std::size_t at) {
+    const bool roomless = m_intent == QLatin1String(CreateConference) || m_isQuery ||
+                          (m_intent == QLatin1String(EnterMyConference) && !m_reading.has(WordClass::Mine));
+    return roomless && any([&](std::size_t at) {
                return m_tokens[at].is(WordClass::Conference) && isRoom(m_tokens[at]);
            }) &&
            !any([&](std::size_t at) {

@@ -25,6 +25,8 @@ public:
     bool isSupposed() const;
     /// 秦姐, alone before an order: somebody whom nothing calls.
     bool isOnlySomebody() const;
+    /// 他们终于开完了
+    bool isReport() const;
     /// tmr下午三点: a time beside something strange.
     bool isTimeCutOff() const;
     /// 不带小王: somebody is named who is not to come.

@@ -51,8 +51,12 @@ Verdict judge(const Reading &reading, const QString &intent)
             requested = requested || clause.isRequested();
             (clause.isFinished() ? finished : ordered) = true;
             ordered = ordered && !(clause.isTitle() && !understood);
+        } else if (clause.isReport() && intent == QLatin1String(CloseConference) &&
+                   !reading.has(WordClass::Request)) {
+            doubtful = true; // 散会啦，他们终于开完了
         } else if (clause.isTimeCutOff() ||
-                   (clause.isOnlySomebody() && intent == QLatin1String(CreateConference))) {
+                   (clause.isOnlySomebody() && (intent == QLatin1String(CreateConference) ||
+                                                intent == QLatin1String(QueryConference)))) {
             doubtful = true;
         } else if (clause.callsSomebody()) { // 要开会了，拉上王磊
             ordered = true;

@@ -50,7 +50,8 @@ void fillSaidTime(Outcome &outcome, const Reading &reading, const QDateTime &now
 {
     // 周末，周六上午十点 is clear.
     const bool dayNamed = reading.time().day != TimeExpression::Day::None;
-    const bool clear = dayNamed && reading.clockCount() > 0 && !reading.namesOtherWeek();
+    const bool clear =
+        reading.clockCount() > 0 && ((dayNamed && !reading.namesOtherWeek()) || reading.namesOnlyOccasion());
     if ((reading.has(WordClass::UnclearDay) && !clear) || (reading.has(WordClass::Festival) && !dayNamed)) {
         outcome.answer = QStringLiteral("which-day");
     } else if (!reading.timeSaid().isEmpty()) {

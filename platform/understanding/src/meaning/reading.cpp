@@ -66,6 +66,17 @@ bool Reading::callsNobodyKnown() const
            });
 }
 
+bool Reading::namesOnlyOccasion() const
+{
+    static const QString occasions = QStringLiteral("饭班休课");
+    return std::all_of(m_tokens.cbegin(), m_tokens.cend(), [&](const Token &token) {
+        const QString text = m_sentence.text().mid(token.position, token.length);
+        return !token.is(WordClass::UnclearDay) ||
+               std::any_of(text.cbegin(), text.cend(),
+                           [&](QChar character) { return occasions.contains(character); });
+    });
+}
+
 bool Reading::hasDoubtfulName() const
 {
     return std::any_of(m_names.cbegin(), m_names.cend(), [](const FoundName &name) { return name.doubtful; });

@@ -55,6 +55,8 @@ public:
     bool callsNobodyKnown() const;
     /// 下周的今天: a day beside a week or a month that was not read with it.
     bool namesOtherWeek() const;
+    /// 饭后一点, 下班前五点: the hour tells when.
+    bool namesOnlyOccasion() const;
     /// True where a name stands that a word calls (叫上), not only mentions.
     bool isCalledAt(int position) const;
 

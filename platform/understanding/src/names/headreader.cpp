@@ -61,7 +61,7 @@ int modifierLength(const QString &text)
     const int of = text.lastIndexOf(QChar(u'的'));
     const int start = of >= 0 && of + 2 < text.size() ? of + 1 : 0;
     const QString rest = text.mid(start);
-    for (int length = qMin(LongestHead, rest.size() - 1); length >= 2; --length) {
+    for (int length = 2; length <= qMin(LongestHead, rest.size() - 1); ++length) {
         const int cut = rest.size() - length;
         if (isModifier(rest.left(cut)) && isPersonsName(rest.mid(cut))) {
             return start + cut;
@@ -96,7 +96,7 @@ int modifierLength(const QString &text)
 int headLength(const QString &name)
 {
     static const QString verbs =
-        QStringLiteral("薅整去来说吃喝玩打看做写买送聊谈拉约让叫喊呗请找搞问想要进入");
+        QStringLiteral("薅整下出回去来说吃喝玩打看做写买送聊谈拉约让叫喊呗请找搞问想要进入");
     if (isSurnameWithTitle(name)) { // 张顾问
         return name.size();
     }

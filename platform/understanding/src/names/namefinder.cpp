@@ -208,6 +208,9 @@ private:
                 at + 1 < m_tokens.size() &&
                 (m_tokens[at + 1].kind == Token::Kind::Name || m_tokens[at + 1].kind == Token::Kind::Latin ||
                  m_tokens[at + 1].kind == Token::Kind::Other);
+            if (token.is(WordClass::Nobody) && token.length == 1 && followsName(at)) { // 叫王磊来我办公室
+                return at;
+            }
             if (token.kind == Token::Kind::Name) {
                 at = takeKnownName(at);
             } else if (token.is(WordClass::Title) && token.length > 1 && someoneFollows) { // 董事长王建国

@@ -180,6 +180,13 @@ void settleChanges(const QString &text, Tokens &tokens)
 
 void applyRepairs(const QString &text, Tokens &tokens)
 {
+    for (std::size_t at = 1; at + 1 < tokens.size(); ++at) { // 五点，不，五点半
+        if (tokens[at].length == 1 && text.at(tokens[at].position) == QChar(u'不') &&
+            isPause(tokens[at - 1]) && isPause(tokens[at + 1])) {
+            tokens[at].kind = Token::Kind::Word;
+            tokens[at].classes = WordClass::Repair;
+        }
+    }
     settleChanges(text, tokens);
     const bool repairs = std::any_of(tokens.cbegin(), tokens.cend(),
                                      [](const Token &token) { return token.is(WordClass::Repair); });

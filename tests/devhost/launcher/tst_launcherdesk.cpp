@@ -162,6 +162,9 @@ void TestLauncherDesk::questionBringsUpTheWindow()
     QTRY_VERIFY(Desk::window() != nullptr);
     QVERIFY(desk.conversation().expectsSecret());
     QCOMPARE(Desk::window()->input()->echoMode(), QLineEdit::Password);
+    // A search is no password.
+    desk->openWith(QStringLiteral("text"));
+    QCOMPARE(Desk::window()->input()->text(), QString());
     QCOMPARE(server.shown().size(), 0);
 }
 

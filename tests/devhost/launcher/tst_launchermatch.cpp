@@ -211,7 +211,10 @@ void TestLauncherMatch::actWhoseMeaningHasChangedIsNotTaken()
 void TestLauncherMatch::matchTakesUnderFiveMsecs()
 {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-    QSKIP("A sanitizer's own work is measured too.");
+    // A sanitizer's own work is measured too.
+    constexpr double allowedMsecs = 200;
+#else
+    constexpr double allowedMsecs = 5;
 #endif
     QStringList names;
     const QString surnames = QStringLiteral("张王李赵刘陈杨黄周吴");
@@ -240,7 +243,7 @@ void TestLauncherMatch::matchTakesUnderFiveMsecs()
     std::sort(times.begin(), times.end());
     qInfo("%d texts: median %.3f ms, of a hundred 99 within %.3f ms, the slowest %.3f ms: %s", times.size(),
           times.at(times.size() / 2), times.at(times.size() * 99 / 100), longest, qUtf8Printable(slowest));
-    QVERIFY2(longest < 5, qPrintable(QString::number(longest)));
+    QVERIFY2(longest < allowedMsecs, qPrintable(QString::number(longest)));
 }
 
 QTEST_GUILESS_MAIN(TestLauncherMatch)

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void shellGetsALineAndRunsIt();
     void shellGetsNothingForDoubt();
     void contactsAreFollowedAndNotAskedByMatches();
+    void contactsMayComeFromAFile();
     void nothingTypedIsLogged();
     void secondProgramLeavesTheFirstAlone();
     void programEndsWithItsBus();
@@ -142,6 +143,23 @@ void TestLauncherProgram::contactsAreFollowedAndNotAskedByMatches()
     contacts.change({QStringLiteral("张伟"), QStringLiteral("小白")});
     QTRY_COMPARE(LauncherProgram::match(stranger).size(), 1);
     QCOMPARE(contacts.asked(), asked + 1);
+}
+
+void TestLauncherProgram::contactsMayComeFromAFile()
+{
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    file.write("张伟\n");
+    file.close();
+    {
+        const LauncherProgram program({QStringLiteral("--contacts"), file.fileName()});
+        QTRY_VERIFY(LauncherProgram::isThere());
+        QCOMPARE(LauncherProgram::match(meeting()).size(), 1);
+        QCOMPARE(LauncherProgram::match(QStringLiteral("和小白开会")).size(), 0);
+    }
+    LauncherProgram program({QStringLiteral("--contacts"), QStringLiteral("/nowhere")});
+    QVERIFY(program.process().waitForFinished());
+    QCOMPARE(program.process().exitCode(), 2);
 }
 
 void TestLauncherProgram::nothingTypedIsLogged()

@@ -4,6 +4,7 @@
 #include "appearance.h"
 #include "cardsurround.h"
 #include "chinesetexts.h"
+#include "conversationscript.h"
 #include "conversationview.h"
 #include "endbutton.h"
 #include "inputline.h"
@@ -12,12 +13,15 @@
 #include "mainwindow.h"
 #include "semantics.h"
 #include "stallmeter.h"
+#include "windowscript.h"
 
 #include <lumo/lguiapplicationhelper.h>
 #include <lumo/lstyle.h>
 
 #include <QtTest>
 #include <QtWidgets>
+
+#include <sstream>
 
 using namespace devhost;
 
@@ -84,6 +88,10 @@ private Q_SLOTS:
     void inspectorShowsTheTurnAndSendsSemantics();
     void themeAndFontAreAppliedAndRemembered();
     void defaultThemeIsTheToolkitsNearestToTheSystems();
+    void fontSizeReachesCardsAndInspector();
+    void inspectorIndentsHighlightsFiltersAndFinds();
+    void conversationIsSavedAsAScript();
+    void narrowWindowShowsCardsWhole();
     void windowRemembersItself();
     void newConversationBeginsAtTheWelcomePage();
     void applicationThatDoesNotRunIsSaid();
@@ -335,6 +343,130 @@ void TestMainWindow::defaultThemeIsTheToolkitsNearestToTheSystems()
     const QPoint beside = example->mapTo(&desk.window, QPoint(-4, 4));
     QCOMPARE(picture.pixelColor(middle), light.color(QPalette::Button));
     QCOMPARE(picture.pixelColor(beside), light.color(QPalette::Window));
+}
+
+void TestMainWindow::fontSizeReachesCardsAndInspector()
+{
+    Desk desk;
+    auto *card = new QWidget;
+    auto *label = new QLabel(QStringLiteral("字"), card);
+    QFont own = label->font();
+    own.setPixelSize(20);
+    label->setFont(own);
+    auto *layout = new QVBoxLayout(card);
+    layout->addWidget(label);
+    desk.window.view()->addReply(1, QString(), card);
+    auto *edit = desk.window.findChild<QPlainTextEdit *>(QStringLiteral("inspectorRequests"));
+    const qreal before = edit->font().pointSizeF();
+    // The desktop's own font may already be larger than the one that cards are planned for.
+    const int atFirst = label->font().pixelSize();
+    QCOMPARE(atFirst, qRound(20 * desk.appearance.cardScale()));
+    QVERIFY(atFirst >= 20);
+    desk.appearance.setFontStep(2);
+    QVERIFY2(label->font().pixelSize() > atFirst + 1, qPrintable(QString::number(label->font().pixelSize())));
+    QCOMPARE(edit->font().pointSizeF(), before + 2);
+    QCOMPARE(edit->font().family(), QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+    // A row that the card gets later, too.
+    auto *late = new QLabel(QStringLiteral("后"), card);
+    late->setFont(own);
+    layout->addWidget(late);
+    QTRY_COMPARE(late->font().pixelSize(), label->font().pixelSize());
+    desk.appearance.setFontStep(0);
+    QCOMPARE(label->font().pixelSize(), atFirst);
+}
+
+void TestMainWindow::inspectorIndentsHighlightsFiltersAndFinds()
+{
+    Desk desk;
+    desk.type(semantic("ECHO", QStringLiteral("回声")));
+    QTRY_VERIFY(desk.isIdle());
+    auto *json = desk.window.findChild<QPlainTextEdit *>(QStringLiteral("inspectorSemantic"));
+    QTRY_VERIFY(json->toPlainText().contains(QStringLiteral("\n  \"intent\": {\n    \"")));
+    const QTextBlock line = json->document()->find(QStringLiteral("\"intent\": {")).block();
+    QTRY_VERIFY(!line.layout()->formats().isEmpty());
+    const QColor key = line.layout()->formats().first().format.foreground().color();
+    QVERIFY(key != json->palette().color(QPalette::Text));
+
+    auto *log = desk.window.findChild<QPlainTextEdit *>(QStringLiteral("inspectorLog"));
+    auto *filter = desk.window.findChild<QLineEdit *>(QStringLiteral("inspectorLogFilter"));
+    const QString whole = log->toPlainText();
+    QVERIFY(whole.contains(QStringLiteral("service ECHO")));
+    filter->setText(QStringLiteral("another echo"));
+    QCOMPARE(log->toPlainText().count(QStringLiteral("service ECHO")), 1);
+    filter->setText(QStringLiteral("gibt es nicht"));
+    QCOMPARE(log->toPlainText(), QString());
+    filter->clear();
+    QCOMPARE(log->toPlainText(), whole);
+
+    QLineEdit *search = desk.window.inspector()->searchField();
+    search->setFocus();
+    QTest::keyClicks(search, QStringLiteral("intent"));
+    QCOMPARE(json->textCursor().selectedText(), QStringLiteral("intent"));
+    const int first = json->textCursor().position();
+    QTest::keyClick(search, Qt::Key_Return);
+    QVERIFY(json->textCursor().position() > first);
+}
+
+void TestMainWindow::conversationIsSavedAsAScript()
+{
+    Desk desk;
+    desk.type(QStringLiteral("第一句"));
+    desk.type(semantic("ECHO", QStringLiteral("原样")));
+    desk.type(QStringLiteral("加入会议号902118340，密码是432187"));
+    QTRY_VERIFY(desk.isIdle());
+    const QString script = scriptOf(desk.conversation);
+    const QStringList lines = script.trimmed().split(QLatin1Char('\n'));
+    QCOMPARE(lines.size(), 3);
+    QCOMPARE(lines.at(0), QStringLiteral("第一句"));
+    QCOMPARE(QJsonDocument::fromJson(lines.at(1).toUtf8()),
+             QJsonDocument::fromJson(semantic("ECHO", QStringLiteral("原样")).toUtf8()));
+    QVERIFY2(!script.contains(QStringLiteral("432187")), qUtf8Printable(script));
+    QVERIFY(lines.at(2).startsWith(QLatin1Char('#')));
+
+    // And it is played: the same turns come again.
+    Desk again;
+    std::istringstream input(script.toStdString());
+    WindowScript player(again.window, again.conversation, input, QString());
+    const QSignalSpy finished(&player, &WindowScript::finished);
+    player.start();
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(again.conversation.lastTurn(), 2);
+    QCOMPARE(again.conversation.turn(2).display, QStringLiteral("原样"));
+}
+
+void TestMainWindow::narrowWindowShowsCardsWhole()
+{
+    Desk desk;
+    auto *card = new QWidget;
+    card->setFixedSize(350, 120);
+    desk.window.view()->addReply(1, QStringLiteral("好的"), card);
+    desk.type(semantic("ECHO", QStringLiteral("a")));
+    QTRY_VERIFY(desk.isIdle());
+    desk.window.resize(100, 100);
+    const ConversationView *view = desk.window.view();
+    QTRY_VERIFY(view->viewport()->rect().width() >= card->geometry().right() + 1);
+    QVERIFY(card->x() >= 0);
+    // Nothing stands on anything else, at any width above.
+    for (int width = desk.window.width(); width <= 1600; width += 123) {
+        desk.window.resize(width, 600);
+        const auto controls = desk.window.centralWidget()->findChildren<QWidget *>();
+        for (const QWidget *one : controls) {
+            for (const QWidget *other : controls) {
+                const bool areSiblings = one != other && one->parentWidget() == other->parentWidget();
+                if (!areSiblings || !one->isVisible() || !other->isVisible() || one->parentWidget() == view ||
+                    one->parentWidget() == view->viewport() || qobject_cast<const QFrame *>(one) != nullptr ||
+                    qobject_cast<const QFrame *>(other) != nullptr || one->size().isEmpty() ||
+                    qobject_cast<const QTabBar *>(one->parentWidget()) != nullptr) {
+                    continue;
+                }
+                QVERIFY2(!one->geometry().intersects(other->geometry()),
+                         qPrintable(QStringLiteral("%1 and %2 at %3")
+                                        .arg(QLatin1String(one->metaObject()->className()),
+                                             QLatin1String(other->metaObject()->className()))
+                                        .arg(width)));
+            }
+        }
+    }
 }
 
 void TestMainWindow::windowRemembersItself()

@@ -7,11 +7,17 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QFontInfo>
 #include <QSettings>
 
 namespace devhost {
 
 namespace {
+
+constexpr qreal SmallestPointSize = 6;
+constexpr qreal PlannedPixelSize = 14;
+constexpr qreal LeastCardScale = 0.8;
+constexpr qreal MostCardScale = 1.45; ///< rows and captions have fixed sizes, which hold no more
 
 QString themeKey()
 {
@@ -64,11 +70,22 @@ void Appearance::applyTheme()
                                                                       : LGuiApplicationHelper::LightType);
 }
 
-void Appearance::applyFont() const
+qreal Appearance::cardScale() const
+{
+    // Planned for a desktop's text of 14 pixels; a smaller one is no reason to shrink them.
+    QFont desktop = QApplication::font();
+    desktop.setPointSizeF(m_desktopPointSize);
+    const qreal ofDesktop = qMax(1.0, QFontInfo(desktop).pixelSize() / PlannedPixelSize);
+    const qreal ofStep = qMax(SmallestPointSize, m_desktopPointSize + m_fontStep) / m_desktopPointSize;
+    return qBound(LeastCardScale, ofDesktop * ofStep, MostCardScale);
+}
+
+void Appearance::applyFont()
 {
     QFont font = QApplication::font();
-    font.setPointSizeF(qMax(6.0, m_desktopPointSize + m_fontStep));
+    font.setPointSizeF(qMax(SmallestPointSize, m_desktopPointSize + m_fontStep));
     QApplication::setFont(font);
+    Q_EMIT fontChanged();
 }
 
 } // namespace devhost

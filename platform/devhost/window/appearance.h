@@ -28,12 +28,19 @@ public:
     int fontStep() const { return m_fontStep; }
     void setFontStep(int step);
 
+    /// How much larger than planned the texts on cards are, from the desktop's font, its resolution and the
+    /// step.
+    qreal cardScale() const;
+
     static constexpr int SmallestStep = -2;
     static constexpr int LargestStep = 8;
 
+Q_SIGNALS:
+    void fontChanged();
+
 private:
     void applyTheme();
-    void applyFont() const;
+    void applyFont();
 
     LSystemPalette m_systemPalette;
     Theme m_theme = System;

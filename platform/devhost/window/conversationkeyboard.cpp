@@ -52,7 +52,7 @@ void ConversationKeyboard::moveCurrent(int step)
 void ConversationKeyboard::setCurrent(int position)
 {
     m_serial = m_view.entries().at(position).serial;
-    m_view.ensureVisible(m_view.textPlace(position));
+    ensureVisible(m_view.textPlace(position));
     m_view.place();
     ConversationAccessible::focused(m_view, m_view.entries().at(position));
 }
@@ -91,7 +91,7 @@ void ConversationKeyboard::openMenu()
     if (current < 0) {
         return;
     }
-    m_view.ensureVisible(m_view.textPlace(current));
+    ensureVisible(m_view.textPlace(current));
     const ConversationEntry &entry = m_view.entries().at(current);
     const QPoint corner = m_view.textPlace(current).bottomLeft();
     Q_EMIT m_view.turnMenuWanted(entry.turn, entry.text, m_view.viewport()->mapToGlobal(corner));
@@ -122,16 +122,26 @@ bool ConversationKeyboard::moveFocus(bool forward)
     }
     QWidget *const target = stops.at(stop);
     QWidget *const card = entries.at(position).card;
-    m_view.ensureVisible(m_view.cardPlace(position));
+    ensureVisible(m_view.cardPlace(position));
     m_view.place();
     if (target != card) {
         // A card that comes into sight for the first time has not been laid out.
         QCoreApplication::sendPostedEvents(card, QEvent::LayoutRequest);
         const QPoint corner = m_view.cardPlace(position).topLeft() + target->mapTo(card, QPoint());
-        m_view.ensureVisible(QRect(corner, target->size()));
+        ensureVisible(QRect(corner, target->size()));
     }
     target->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
     return true;
+}
+
+void ConversationKeyboard::ensureVisible(const QRect &place)
+{
+    constexpr int margin = EntryList::Margin;
+    const int page = m_view.viewport()->height();
+    const bool fromTop = place.top() < margin || place.height() > page;
+    const int shift = fromTop ? place.top() - margin : qMax(0, place.bottom() + margin - page);
+    QScrollBar *bar = m_view.verticalScrollBar();
+    bar->setValue(bar->value() + shift);
 }
 
 } // namespace devhost

@@ -7,6 +7,7 @@
 
 QT_BEGIN_NAMESPACE
 class QKeyEvent;
+class QRect;
 QT_END_NAMESPACE
 
 namespace devhost {
@@ -39,6 +40,9 @@ public:
     bool moveFocus(bool forward);
 
 private:
+    /// Scrolls so that @p place, in the viewport, is in sight; what is higher than the page, from its top on.
+    void ensureVisible(const QRect &place);
+
     ConversationView &m_view;
     int m_serial = 0; ///< of the current bubble's entry, 0 for none
 };

@@ -3,6 +3,7 @@
 
 #include "conversationview.h"
 
+#include "cardfonts.h"
 #include "cardsurround.h"
 #include "conversationaccessible.h"
 #include "conversationpage.h"
@@ -26,6 +27,7 @@ namespace {
 
 constexpr int Margin = EntryList::Margin;
 constexpr int Gap = EntryList::Gap;
+constexpr int NarrowestCard = 360; ///< a card with an editor; one with candidates takes 350
 constexpr int WidestColumn = 860;
 
 } // namespace
@@ -38,6 +40,7 @@ ConversationView::ConversationView(QWidget *parent)
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::StrongFocus);
+    setMinimumWidth(NarrowestCard + 2 * Margin + verticalScrollBar()->sizeHint().width());
     setAccessibleName(QStringLiteral("对话"));
     setViewport(new ConversationPage(*this));
     m_dots->setParent(viewport());
@@ -100,6 +103,7 @@ void ConversationView::addReply(int turn, const QString &text, QWidget *card)
         card->hide();
         card->setParent(viewport());
         card->ensurePolished();
+        scaleCardFonts(*card, m_cardScale);
         card->installEventFilter(this);
         new CardSurround(card);
         connect(card, &QObject::destroyed, this, [this] { cardChanged(); });
@@ -170,16 +174,6 @@ QRect ConversationView::cardPlace(int position) const
     const Entry &entry = m_entries.at(position);
     const int top = entry.bottom() - entry.cardSize.height() - verticalScrollBar()->value();
     return {QPoint(columnLeft(), top), entry.cardSize};
-}
-
-void ConversationView::ensureVisible(const QRect &place)
-{
-    const int page = viewport()->height();
-    const int below = place.bottom() + Margin - page;
-    // What is higher than the page is shown from its top on.
-    const int shift =
-        place.top() - Margin < 0 || place.height() > page ? place.top() - Margin : qMax(0, below);
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + shift);
 }
 
 int ConversationView::columnWidth() const
@@ -298,6 +292,13 @@ Bubble *ConversationView::takeBubble()
     return bubble;
 }
 
+void ConversationView::setCardScale(qreal scale)
+{
+    m_cardScale = scale;
+    m_entries.scaleCards(scale);
+    cardChanged();
+}
+
 void ConversationView::cardChanged()
 {
     // A card changes several times before it is shown again; one layout for all of it.
@@ -309,6 +310,7 @@ void ConversationView::cardChanged()
         this,
         [this] {
             m_isRelayoutPending = false;
+            m_entries.scaleCards(m_cardScale); // there may be new rows
             layOut(0, isAtEnd());
         },
         Qt::QueuedConnection);

@@ -44,6 +44,9 @@ public:
     /// Dots after @p turn; 0 for none.
     void setWaiting(int turn);
 
+    /// Of the texts on cards, those to come too.
+    void setCardScale(qreal scale);
+
     /// Forgets everything, cards included.
     void clear();
 
@@ -60,8 +63,6 @@ public:
     /// Where the text, or the card, of the entry at @p position stands in the viewport, in sight or not.
     QRect textPlace(int position) const;
     QRect cardPlace(int position) const;
-    /// Scrolls so that @p place, in the viewport, is in sight; what is higher than the page, from its top on.
-    void ensureVisible(const QRect &place);
     /// Puts the widgets of what is in sight on their places.
     void place();
     ConversationKeyboard &keyboard() { return m_keyboard; }
@@ -102,6 +103,7 @@ private:
 
     EntryList m_entries;
     int m_lastSerial = 0;
+    qreal m_cardScale = 1;
     ConversationKeyboard m_keyboard{*this};
     QVector<Bubble *> m_bubbles; ///< all; children of the viewport
     QVector<Bubble *> m_spare;

@@ -3,6 +3,8 @@
 
 #include "entrylist.h"
 
+#include "cardfonts.h"
+
 #include <algorithm>
 
 namespace devhost {
@@ -49,6 +51,15 @@ void EntryList::measure(int first, int columnWidth, const QFont &font, int waiti
         entry.measure(columnWidth, font);
         const int above = i == 0 ? Margin : at(i - 1).bottom() + Gap;
         entry.top = above + (i > 0 && i - 1 == dotsAfter ? dotsHeight + Gap : 0);
+    }
+}
+
+void EntryList::scaleCards(qreal scale) const
+{
+    for (const ConversationEntry &entry : *this) {
+        if (entry.hasLiveCard()) {
+            scaleCardFonts(*entry.card, scale);
+        }
     }
 }
 

@@ -25,6 +25,9 @@ public:
     /// room for dots of @p dotsHeight.
     void measure(int first, int columnWidth, const QFont &font, int waitingTurn, int dotsHeight);
 
+    /// Of the texts on the live cards.
+    void scaleCards(qreal scale) const;
+
     static constexpr int Margin = 16; ///< above the first and below the last
     static constexpr int Gap = 10;    ///< between two
 

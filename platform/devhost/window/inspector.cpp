@@ -3,15 +3,18 @@
 
 #include "inspector.h"
 
+#include "jsonhighlighter.h"
 #include "turntexts.h"
 
 #include <lumo/lsuggestbutton.h>
 
 #include <QClipboard>
+#include <QEvent>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
@@ -25,7 +28,6 @@ QPlainTextEdit *makeEdit(const QString &name, QWidget *parent)
 {
     auto *edit = new QPlainTextEdit(parent);
     edit->setObjectName(name);
-    edit->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     edit->setTabChangesFocus(true);
     return edit;
 }
@@ -36,6 +38,8 @@ Inspector::Inspector(QWidget *parent)
     : QWidget(parent)
     , m_title(new QLabel(this))
     , m_tabs(new QTabWidget(this))
+    , m_search(new QLineEdit(this))
+    , m_logFilter(new QLineEdit(this))
 {
     m_title->setTextFormat(Qt::PlainText);
     m_title->setText(QStringLiteral("还没有对话"));
@@ -46,9 +50,25 @@ Inspector::Inspector(QWidget *parent)
     m_semantic = addTextTab(QStringLiteral("语义"), QStringLiteral("inspectorSemantic"));
     m_requests = addTextTab(QStringLiteral("请求"), QStringLiteral("inspectorRequests"));
     m_reply = addTextTab(QStringLiteral("回复"), QStringLiteral("inspectorReply"));
-    m_log = addTextTab(QStringLiteral("日志"), QStringLiteral("inspectorLog"));
+    m_log = makeEdit(QStringLiteral("inspectorLog"), m_tabs);
+    m_log->setReadOnly(true);
+    m_log->setAccessibleName(QStringLiteral("日志"));
+    m_tabs->addTab(makeLogTab(), QStringLiteral("日志"));
     m_entry = makeEdit(QStringLiteral("inspectorEntry"), this);
     m_tabs->addTab(makeSendTab(), QStringLiteral("发送"));
+
+    for (QPlainTextEdit *edit : {m_semantic, m_requests, m_entry}) {
+        new JsonHighlighter(edit->document());
+    }
+    m_search->setObjectName(QStringLiteral("inspectorSearch"));
+    m_search->setPlaceholderText(QStringLiteral("在这一页中查找"));
+    m_search->setAccessibleName(m_search->placeholderText());
+    m_search->setClearButtonEnabled(true);
+    // While one types, what is marked already may still be the right place; Return goes on to the next one.
+    connect(m_search, &QLineEdit::textEdited, this,
+            [this] { search(shownEdit()->textCursor().selectionStart()); });
+    connect(m_search, &QLineEdit::returnPressed, this,
+            [this] { search(shownEdit()->textCursor().selectionEnd()); });
 
     auto *header = new QHBoxLayout;
     header->addWidget(m_title, 1);
@@ -56,6 +76,77 @@ Inspector::Inspector(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(header);
     layout->addWidget(m_tabs, 1);
+    layout->addWidget(m_search);
+    setTabOrder(copyButton, m_tabs);
+    followFont();
+}
+
+QWidget *Inspector::makeLogTab()
+{
+    auto *page = new QWidget(m_tabs);
+    m_logFilter->setObjectName(QStringLiteral("inspectorLogFilter"));
+    m_logFilter->setPlaceholderText(QStringLiteral("只显示包含这些文字的记录"));
+    m_logFilter->setAccessibleName(m_logFilter->placeholderText());
+    m_logFilter->setClearButtonEnabled(true);
+    connect(m_logFilter, &QLineEdit::textChanged, this, &Inspector::filterLog);
+    auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 6, 0, 0);
+    layout->addWidget(m_logFilter);
+    layout->addWidget(m_log, 1);
+    return page;
+}
+
+void Inspector::filterLog()
+{
+    QStringList lines = m_wholeLog.split(QLatin1Char('\n'));
+    const QStringList words = m_logFilter->text().simplified().split(QLatin1Char(' '));
+    for (const QString &word : words) {
+        lines = lines.filter(word, Qt::CaseInsensitive);
+    }
+    m_log->setPlainText(lines.join(QLatin1Char('\n')));
+}
+
+void Inspector::search(int from)
+{
+    QPlainTextEdit *edit = shownEdit();
+    QTextDocument *document = edit->document();
+    QTextCursor found = document->find(m_search->text(), from);
+    if (found.isNull()) {
+        found = document->find(m_search->text(), 0);
+    }
+    if (!found.isNull()) {
+        edit->setTextCursor(found);
+    }
+}
+
+QPlainTextEdit *Inspector::shownEdit() const
+{
+    auto *edit = m_tabs->currentWidget()->findChild<QPlainTextEdit *>();
+    auto *page = qobject_cast<QPlainTextEdit *>(m_tabs->currentWidget());
+    return page != nullptr ? page : edit;
+}
+
+void Inspector::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        followFont();
+    } else if (event->type() == QEvent::PaletteChange) {
+        for (JsonHighlighter *highlighter : findChildren<JsonHighlighter *>()) {
+            highlighter->rehighlight();
+        }
+    }
+}
+
+void Inspector::followFont()
+{
+    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    if (font().pointSizeF() > 0) {
+        fixed.setPointSizeF(font().pointSizeF());
+    }
+    for (QPlainTextEdit *edit : findChildren<QPlainTextEdit *>()) {
+        edit->setFont(fixed);
+    }
 }
 
 QPlainTextEdit *Inspector::addTextTab(const QString &title, const QString &name)
@@ -90,13 +181,13 @@ void Inspector::show(const Turn &turn)
     m_semantic->setPlainText(turntexts::semantic(turn));
     m_requests->setPlainText(turntexts::requests(turn));
     m_reply->setPlainText(turntexts::reply(turn));
-    m_log->setPlainText(turntexts::log(turn));
+    m_wholeLog = turntexts::log(turn);
+    filterLog();
 }
 
 void Inspector::copyShown() const
 {
-    const auto *edit = qobject_cast<QPlainTextEdit *>(m_tabs->currentWidget());
-    QGuiApplication::clipboard()->setText((edit != nullptr ? edit : m_entry)->toPlainText());
+    QGuiApplication::clipboard()->setText(shownEdit()->toPlainText());
 }
 
 void Inspector::send()

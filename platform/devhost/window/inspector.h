@@ -9,6 +9,7 @@
 
 QT_BEGIN_NAMESPACE
 class QLabel;
+class QLineEdit;
 class QPlainTextEdit;
 class QTabWidget;
 QT_END_NAMESPACE
@@ -28,13 +29,25 @@ public:
     /// The turn that is shown, 0 for none.
     int shownTurn() const { return m_turn; }
 
+    /// Where one types what is looked for on the page in front.
+    QLineEdit *searchField() const { return m_search; }
+
 Q_SIGNALS:
     void semanticEntered(const QString &semantic);
+
+protected:
+    void changeEvent(QEvent *event) override;
 
 private:
     QPlainTextEdit *addTextTab(const QString &title, const QString &name);
     QWidget *makeSendTab();
+    QWidget *makeLogTab();
+    QPlainTextEdit *shownEdit() const;
     void copyShown() const;
+    /// Marks the next place from the position @p from on, or the first one.
+    void search(int from);
+    void filterLog();
+    void followFont();
     void send();
 
     QLabel *m_title;
@@ -44,6 +57,9 @@ private:
     QPlainTextEdit *m_reply;
     QPlainTextEdit *m_log;
     QPlainTextEdit *m_entry;
+    QLineEdit *m_search;
+    QLineEdit *m_logFilter;
+    QString m_wholeLog;
     int m_turn = 0;
 };
 

@@ -4,9 +4,11 @@
 #include "mainwindow.h"
 
 #include "appearance.h"
+#include "appearancemenus.h"
 #include "applicationlink.h"
 #include "cardstops.h"
 #include "cleantext.h"
+#include "conversationscript.h"
 #include "conversationview.h"
 #include "inputline.h"
 #include "inspector.h"
@@ -18,13 +20,14 @@
 #include <lumo/lsuggestbutton.h>
 
 #include <QAction>
-#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QSaveFile>
 #include <QScrollBar>
 #include <QSettings>
 #include <QSplitter>
@@ -130,6 +133,8 @@ void MainWindow::buildMenus()
                     QKeySequence(QKeySequence::New));
     talk->addAction(QStringLiteral("打开联系人应用(&C)"), m_application, &ApplicationLink::openWindow,
                     QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O));
+    talk->addAction(QStringLiteral("保存为脚本(&S)…"), this, &MainWindow::saveScript,
+                    QKeySequence(QKeySequence::Save));
     talk->addSeparator();
     talk->addAction(QStringLiteral("到最新一轮(&E)"), m_view, &ConversationView::scrollToEnd,
                     QKeySequence(int(Qt::CTRL) + int(Qt::Key_End)));
@@ -142,8 +147,7 @@ void MainWindow::buildMenus()
     m_inspectorAction->setShortcut(Qt::Key_F12);
     connect(m_inspectorAction, &QAction::toggled, m_inspector, &QWidget::setVisible);
     view->addSeparator();
-    buildThemeMenu(*view->addMenu(QStringLiteral("主题(&T)")));
-    buildFontMenu(*view->addMenu(QStringLiteral("字号(&F)")));
+    addAppearanceMenus(*view, m_appearance);
     view->addSeparator();
     m_speechAction = view->addAction(QStringLiteral("朗读回复(&S)"));
     m_speechAction->setCheckable(true);
@@ -164,41 +168,30 @@ void MainWindow::buildMenus()
     });
 }
 
-void MainWindow::buildThemeMenu(QMenu &menu)
+void MainWindow::saveScript()
 {
-    const struct
-    {
-        QString text;
-        Appearance::Theme theme;
-    } themes[] = {{QStringLiteral("跟随系统"), Appearance::System},
-                  {QStringLiteral("浅色"), Appearance::Light},
-                  {QStringLiteral("深色"), Appearance::Dark}};
-    auto *group = new QActionGroup(this);
-    for (const auto &entry : themes) {
-        QAction *action = menu.addAction(entry.text);
-        action->setCheckable(true);
-        action->setChecked(entry.theme == m_appearance.theme());
-        group->addAction(action);
-        connect(action, &QAction::triggered, this,
-                [this, theme = entry.theme] { m_appearance.setTheme(theme); });
-    }
-}
-
-void MainWindow::buildFontMenu(QMenu &menu)
-{
-    menu.addAction(
-        QStringLiteral("放大"), this, [this] { m_appearance.setFontStep(m_appearance.fontStep() + 1); },
-        QKeySequence(QKeySequence::ZoomIn));
-    menu.addAction(
-        QStringLiteral("缩小"), this, [this] { m_appearance.setFontStep(m_appearance.fontStep() - 1); },
-        QKeySequence(QKeySequence::ZoomOut));
-    menu.addAction(
-        QStringLiteral("原来大小"), this, [this] { m_appearance.setFontStep(0); },
-        QKeySequence(int(Qt::CTRL) + int(Qt::Key_0)));
+    auto *dialog = new QFileDialog(this, QStringLiteral("把对话保存为脚本"));
+    dialog->setObjectName(QStringLiteral("saveScript"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QStringLiteral("txt"));
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) {
+        QSaveFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(scriptOf(m_conversation).toUtf8()) < 0 ||
+            !file.commit()) {
+            showProblem(QStringLiteral("无法写入 %1。").arg(path));
+        }
+    });
+    dialog->open();
 }
 
 void MainWindow::follow()
 {
+    const auto scaleCards = [this] {
+        m_view->setCardScale(m_appearance.cardScale());
+    };
+    connect(&m_appearance, &Appearance::fontChanged, this, scaleCards);
+    scaleCards();
     const auto send = [this] {
         submit(m_input->takeText());
     };
@@ -364,8 +357,8 @@ bool MainWindow::focusNextPrevChild(bool next)
         if (candidate == m_view && !next && m_view->isVisible() && m_view->moveFocus(false)) {
             return true;
         }
-    } while (candidate != from && ((candidate != m_view && m_view->isAncestorOf(candidate)) ||
-                                   !isTabStop(*candidate, *this)));
+    } while (candidate != from &&
+             ((candidate != m_view && m_view->isAncestorOf(candidate)) || !isTabStop(*candidate, *this)));
     candidate->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
     return candidate != from;
 }

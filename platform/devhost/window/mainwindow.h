@@ -50,8 +50,7 @@ protected:
 private:
     void build();
     void buildMenus();
-    void buildThemeMenu(QMenu &menu);
-    void buildFontMenu(QMenu &menu);
+    void saveScript();
     void follow();
     void followApplication();
     void startOver();

@@ -15,11 +15,26 @@ namespace {
 /// A longer answer would make the pane slow; its whole length is said.
 constexpr int LongestText = 100000;
 
+/// By two instead of Qt's four.
+QString narrowed(const QString &json)
+{
+    QStringList lines = json.split(QLatin1Char('\n'));
+    for (QString &line : lines) {
+        int spaces = 0;
+        while (spaces < line.size() && line.at(spaces) == QLatin1Char(' ')) {
+            ++spaces;
+        }
+        line.remove(0, spaces / 2);
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
 QString indented(const QString &json)
 {
     const QJsonDocument document = QJsonDocument::fromJson(json.toUtf8());
     const QString text =
-        document.isNull() ? json : QString::fromUtf8(document.toJson(QJsonDocument::Indented)).trimmed();
+        document.isNull() ? json
+                          : narrowed(QString::fromUtf8(document.toJson(QJsonDocument::Indented)).trimmed());
     if (text.size() <= LongestText) {
         return text;
     }

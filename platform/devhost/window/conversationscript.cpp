@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "conversationscript.h"
+
+#include "conversation.h"
+
+#include <QJsonDocument>
+
+namespace devhost {
+
+namespace {
+
+constexpr QChar Blot(0x2022);
+
+QString lineOf(const Turn &turn)
+{
+    const bool isSentence = !turn.said.startsWith(QStringLiteral("语义 JSON"));
+    const QString text = isSentence ? turn.said : turn.semantic;
+    if (text.contains(Blot)) {
+        return QStringLiteral("# 这里输入过密码，没有保存");
+    }
+    const QJsonDocument json = QJsonDocument::fromJson(text.toUtf8());
+    return json.isNull() ? text.simplified() : QString::fromUtf8(json.toJson(QJsonDocument::Compact));
+}
+
+} // namespace
+
+QString scriptOf(const Conversation &conversation)
+{
+    QString script;
+    for (int id = 1; id <= conversation.lastTurn(); ++id) {
+        const Turn turn = conversation.turn(id);
+        if (turn.id != 0) {
+            script += lineOf(turn) + QLatin1Char('\n');
+        }
+    }
+    return script;
+}
+
+} // namespace devhost

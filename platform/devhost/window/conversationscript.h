@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QString>
+
+namespace devhost {
+
+class Conversation;
+
+/// What was said in @p conversation, one turn per line, as WindowScript plays it. A password was not kept by
+/// anybody; a comment stands in its place.
+QString scriptOf(const Conversation &conversation);
+
+} // namespace devhost

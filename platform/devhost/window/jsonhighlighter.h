@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QSyntaxHighlighter>
+
+namespace devhost {
+
+/// Colours the keys, strings, numbers and words of JSON, also where other text stands between. Its colours
+/// are those of the theme: one for each kind, mixed from the palette's.
+class JsonHighlighter final : public QSyntaxHighlighter
+{
+    Q_OBJECT
+
+public:
+    using QSyntaxHighlighter::QSyntaxHighlighter;
+
+protected:
+    void highlightBlock(const QString &text) override;
+};
+
+} // namespace devhost

@@ -49,7 +49,7 @@ void TestDatabase::itIsSetUpToLast()
     QCOMPARE(onlyText(database.handle(), "PRAGMA journal_mode"), QStringLiteral("wal"));
     QCOMPARE(onlyText(database.handle(), "PRAGMA synchronous"), QStringLiteral("2"));
     QCOMPARE(onlyText(database.handle(), "PRAGMA foreign_keys"), QStringLiteral("1"));
-    QCOMPARE(onlyText(database.handle(), "PRAGMA user_version"), QStringLiteral("3"));
+    QCOMPARE(onlyText(database.handle(), "PRAGMA user_version"), QStringLiteral("4"));
 }
 
 void TestDatabase::itIsOpenedAgainAsItWas()

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void anotherTimeZoneChangesOnlyTheText();
     void aMovedConferenceRemindsAnew();
     void theSwitchAndTheLeadTimeHold();
+    void whatCameWhileSwitchedOffIsNotTold();
     void aServerThatComesLateGetsThem();
     void aServerThatRefusesIsAskedAgain();
     void aServerThatStaysSilentIsNotAskedTwice();
@@ -334,6 +335,26 @@ void TestReminders::theSwitchAndTheLeadTimeHold()
     QCOMPARE(m_server->shown.size(), 1);
     QVERIFY(m_world->admin.LoadSample()); // other content, the same user's wishes
     QCOMPARE(book.reminders().settings().isOn, false);
+}
+
+void TestReminders::whatCameWhileSwitchedOffIsNotTold()
+{
+    const auto turn = [this](bool isOn) {
+        QVERIFY(m_world->book.change([this, isOn] {
+            m_world->book.reminders().setSettings({isOn, 5});
+            return true;
+        }));
+        settle();
+    };
+    turn(false);
+    m_world->admin.AddConference(QStringLiteral("1"), QStringLiteral("设计讨论"), Friend,
+                                 m_world->nowMsecs + HourMsecs, HourMsecs, 10, QString(), {User});
+    QVERIFY(m_world->admin.AddContact(Friend, User, QString(), QStringLiteral("requested")));
+    settle();
+    turn(true);
+    QCOMPARE(m_server->summaries(), QStringList());
+    pass(55 * MinuteMsecs); // but reminded of it
+    QCOMPARE(m_server->summaries(), QStringList{QStringLiteral("设计讨论：5 分钟后开始")});
 }
 
 void TestReminders::aServerThatComesLateGetsThem()

@@ -33,6 +33,16 @@ ContactsBook::ContactsBook(const QString &databaseFile, Clock clock, QObject *pa
     , m_session(m_database.handle())
     , m_reminders(m_database.handle())
 {
+    // As long as a frame on the screen; not started again by what comes meanwhile, so nothing puts it off.
+    constexpr int burstMsecs = 16;
+    m_burst.setInterval(burstMsecs);
+    m_burst.setSingleShot(true);
+    connect(this, &ContactsBook::changed, this, [this] {
+        if (!m_burst.isActive()) {
+            m_burst.start();
+        }
+    });
+    connect(&m_burst, &QTimer::timeout, this, &ContactsBook::changedLately);
     Transaction transaction(m_database.handle());
     noteSetAside();
     // What the session says of a damaged file may have been read although nobody else was.

@@ -12,6 +12,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 
 #include <functional>
 
@@ -51,8 +52,10 @@ public:
     Database &database() { return m_database; }
 
 Q_SIGNALS:
-    /// The state may be another than before.
+    /// The state may be another than before. Comes within the request that changed it, which waits.
     void changed();
+    /// The same, once for a burst of changes and after their answers: for whoever reads much.
+    void changedLately();
     /// The user is to see the window: asked for it, or has to log in.
     void windowWanted();
 
@@ -60,6 +63,7 @@ private:
     void noteSetAside();
 
     Clock m_clock;
+    QTimer m_burst;
     Database m_database;
     PeopleRepository m_people;
     ConferenceRepository m_conferences;

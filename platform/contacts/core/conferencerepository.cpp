@@ -269,7 +269,7 @@ QVector<Participant> ConferenceRepository::participants(qint64 conferenceId, con
 {
     Statement query(
         m_database,
-        QStringLiteral("SELECT person.user_id, account, name, coalesce(remark_name, ''), attendance"
+        QStringLiteral("SELECT person.user_id, person.account, name, coalesce(remark_name, ''), attendance"
                        " FROM participant JOIN person ON person.user_id = participant.user_id"
                        " LEFT JOIN contact ON contact.owner_id = ? AND contact.person_id = person.user_id"
                        " WHERE conference_id = ? AND attendance <> 2 ORDER BY place"));

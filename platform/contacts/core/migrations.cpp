@@ -130,10 +130,29 @@ QStringList thirdVersion()
     };
 }
 
+/// Contacts page by page in the order of their accounts, and friends counted without the other contacts.
+QStringList fourthVersion()
+{
+    return {
+        // The account is kept here too, so that one page is one walk along one index.
+        QStringLiteral("ALTER TABLE contact ADD COLUMN account TEXT NOT NULL DEFAULT '' COLLATE NOCASE"),
+        QStringLiteral("UPDATE contact SET account = (SELECT account FROM person WHERE user_id = person_id)"),
+        QStringLiteral("CREATE INDEX contact_by_account ON contact(owner_id, account)"),
+        QStringLiteral("CREATE INDEX contact_friend ON contact(owner_id) WHERE is_friend = 1"),
+        QStringLiteral(
+            "CREATE TRIGGER contact_added AFTER INSERT ON contact BEGIN"
+            " UPDATE contact SET account = (SELECT account FROM person WHERE user_id = NEW.person_id)"
+            " WHERE owner_id = NEW.owner_id AND person_id = NEW.person_id; END"),
+        QStringLiteral("CREATE TRIGGER account_changed AFTER UPDATE OF account ON person BEGIN"
+                       " UPDATE contact SET account = NEW.account WHERE person_id = NEW.user_id; END"),
+        QStringLiteral("CREATE INDEX contact_of_person ON contact(person_id)"),
+    };
+}
+
 } // namespace
 
 const QVector<QStringList> &databaseMigrations()
 {
-    static const QVector<QStringList> steps{firstVersion(), secondVersion(), thirdVersion()};
+    static const QVector<QStringList> steps{firstVersion(), secondVersion(), thirdVersion(), fourthVersion()};
     return steps;
 }

@@ -10,7 +10,7 @@ namespace {
 
 constexpr char PersonColumns[] = "SELECT person.user_id, account, name, kind FROM person ";
 constexpr char ContactColumns[] =
-    "SELECT person.user_id, account, name, kind, remark_name, is_friend,"
+    "SELECT person.user_id, person.account, name, kind, remark_name, is_friend,"
     " EXISTS (SELECT 1 FROM friend_request WHERE friend_request.owner_id = contact.owner_id"
     " AND friend_request.person_id = contact.person_id)"
     " FROM contact JOIN person ON person.user_id = contact.person_id ";
@@ -121,8 +121,22 @@ std::optional<Person> PeopleRepository::contactByUserId(const QString &ownerId, 
 
 QVector<Person> PeopleRepository::contacts(const QString &ownerId) const
 {
-    Statement query(m_database, contactQuery("WHERE owner_id = ? ORDER BY account"));
+    Statement query(m_database, contactQuery("WHERE owner_id = ? ORDER BY contact.account"));
     return allOf(query.bind(ownerId), readContact);
+}
+
+QVector<Person> PeopleRepository::contactsAfter(const QString &ownerId, const QString &afterAccount,
+                                                int limit) const
+{
+    Statement query(m_database, contactQuery("WHERE owner_id = ? AND contact.account > ?"
+                                             " ORDER BY contact.account LIMIT ?"));
+    return allOf(query.bind(ownerId).bind(afterAccount).bind(limit), readContact);
+}
+
+QVector<Person> PeopleRepository::everybodyAfter(const QString &afterAccount, int limit) const
+{
+    Statement query(m_database, personQuery("WHERE account > ? ORDER BY account LIMIT ?"));
+    return allOf(query.bind(afterAccount).bind(limit), readPerson);
 }
 
 QStringList PeopleRepository::contactNames(const QString &ownerId, int limit) const
@@ -149,7 +163,7 @@ QStringList PeopleRepository::unmistakableContactNames(const QString &ownerId, i
                        " WHERE owner_id = ? AND NOT EXISTS (SELECT 1 FROM contact AS other"
                        "  WHERE other.owner_id = contact.owner_id AND other.remark_name = person.name"
                        "  AND other.person_id <> contact.person_id)"
-                       " GROUP BY name HAVING count(*) = 1 ORDER BY min(account) LIMIT ?"));
+                       " GROUP BY name HAVING count(*) = 1 ORDER BY min(person.account) LIMIT ?"));
     query.bind(ownerId).bind(limit).run();
     QStringList names;
     while (query.next()) {
@@ -173,7 +187,8 @@ int PeopleRepository::friendCount(const QString &ownerId) const
 {
     Statement query(
         m_database,
-        QStringLiteral("SELECT (SELECT count(*) FROM contact WHERE owner_id = ? AND is_friend = 1)"
+        QStringLiteral("SELECT (SELECT count(*) FROM contact INDEXED BY contact_friend"
+                       "  WHERE owner_id = ? AND is_friend = 1)"
                        " + (SELECT count(*) FROM friend_request WHERE owner_id = ?)"));
     query.bind(ownerId).bind(ownerId).run().next();
     return query.smallNumber(0);

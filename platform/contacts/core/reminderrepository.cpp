@@ -151,12 +151,12 @@ void ReminderRepository::noteInvitationTold(const QString &userId, qint64 confer
 QVector<Person> ReminderRepository::untoldRequests(const QString &userId) const
 {
     Statement query(m_database,
-                    QStringLiteral("SELECT person.user_id, account, name, coalesce(remark_name, '')"
+                    QStringLiteral("SELECT person.user_id, person.account, name, coalesce(remark_name, '')"
                                    " FROM untold_request"
                                    " JOIN person ON person.user_id = untold_request.asker_id"
                                    " LEFT JOIN contact ON contact.owner_id = untold_request.user_id"
                                    "  AND contact.person_id = person.user_id"
-                                   " WHERE untold_request.user_id = ? ORDER BY account LIMIT ?"));
+                                   " WHERE untold_request.user_id = ? ORDER BY person.account LIMIT ?"));
     query.bind(userId).bind(MostAtOnce).run();
     QVector<Person> askers;
     while (query.next()) {

@@ -5,7 +5,7 @@
 
 #include "book/administration.h"
 #include "book/contactsbook.h"
-#include "core/displaytext.h"
+#include "window/accountmodel.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -16,6 +16,7 @@ AccountBar::AccountBar(ContactsBook &book, Administration &administration, Elsew
     : QWidget(parent)
     , m_book(book)
     , m_administration(administration)
+    , m_accounts(new AccountModel(book, this))
     , m_account(new QComboBox)
     , m_logout(new QPushButton(QStringLiteral("退出登录(&O)")))
     , m_kind(new QComboBox)
@@ -30,12 +31,13 @@ AccountBar::AccountBar(ContactsBook &book, Administration &administration, Elsew
                                         m_kind->currentData().toString());
     });
     connect(m_elsewhere, &QCheckBox::clicked, &m_administration, &Administration::SetEngagedElsewhere);
-    connect(&m_book, &ContactsBook::changed, this, &AccountBar::reload);
+    connect(&m_book, &ContactsBook::changedLately, this, &AccountBar::reload);
     reload();
 }
 
 void AccountBar::addControls()
 {
+    m_account->setModel(m_accounts);
     m_account->setObjectName(QStringLiteral("account"));
     m_account->setAccessibleName(QStringLiteral("登录账号"));
     m_account->setMinimumContentsLength(16);
@@ -66,16 +68,10 @@ void AccountBar::loginSelected()
 void AccountBar::reload()
 {
     const QSignalBlocker blocker(m_account);
-    m_account->clear();
     try {
-        m_account->addItem(QStringLiteral("未登录"), QString());
-        const QVector<Person> everybody = m_book.people().all();
-        for (const Person &person : everybody) {
-            m_account->addItem(QStringLiteral("%1 %2").arg(cleanDisplayText(person.name), person.account),
-                               person.account);
-        }
-        const std::optional<Person> user = m_book.session().user();
-        m_account->setCurrentIndex(user ? m_account->findData(user->account) : 0);
+        m_accounts->reload();
+        m_account->setCurrentIndex(m_accounts->currentRow());
+        const std::optional<Person> &user = m_accounts->user();
         m_kind->setCurrentIndex(user && user->kind == AccountKind::Free ? 1 : 0);
         m_kind->setEnabled(user.has_value());
         m_logout->setEnabled(user.has_value());

@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QPushButton>
 
+class AccountModel;
 class Administration;
 class ContactsBook;
 
@@ -32,7 +33,8 @@ private:
 
     ContactsBook &m_book;
     Administration &m_administration;
-    QComboBox *m_account; ///< children, all of them
+    AccountModel *m_accounts; ///< children, all of them
+    QComboBox *m_account;
     QPushButton *m_logout;
     QComboBox *m_kind;
     QCheckBox *m_elsewhere;

@@ -18,7 +18,8 @@ namespace {
 
 constexpr qint64 MinuteMsecs = 60 * 1000;
 constexpr qint64 LookBackMsecs = 30 * 24 * 60 * MinuteMsecs;
-constexpr int RowLimit = 1000;
+constexpr int PageSize = 100;
+constexpr int WholeSize = 1000;
 
 /// What the table says for a state. The colours are those of the assistant's cards.
 struct StateLook
@@ -86,19 +87,58 @@ ConferenceModel::ConferenceModel(ContactsBook &book, QObject *parent)
 {
     m_clock.setSingleShot(true);
     connect(&m_clock, &QTimer::timeout, this, &ConferenceModel::followClock);
-    connect(&m_book, &ContactsBook::changed, this, &ConferenceModel::reload);
+    connect(&m_book, &ContactsBook::changedLately, this, &ConferenceModel::reload);
     reload();
 }
 
 void ConferenceModel::setScope(Scope scope)
 {
     m_scope = scope;
+    m_pages = 1;
     reload();
+}
+
+void ConferenceModel::setReading(Reading reading)
+{
+    if (reading != m_reading) {
+        m_reading = reading;
+        reload();
+    }
+}
+
+int ConferenceModel::rowLimit() const
+{
+    return qMax(m_pages * PageSize, m_reading == Reading::Whole ? WholeSize : 0);
+}
+
+bool ConferenceModel::canFetchMore(const QModelIndex &parent) const
+{
+    return !parent.isValid() && m_conferences.size() == rowLimit();
+}
+
+void ConferenceModel::fetchMore(const QModelIndex &parent)
+{
+    if (!canFetchMore(parent)) {
+        return;
+    }
+    m_pages = rowLimit() / PageSize + 1;
+    const QVector<Conference> conferences = load(rowLimit());
+    const int known = m_conferences.size();
+    if (conferences.size() < known || !hasSameRows(conferences.mid(0, known), m_conferences)) {
+        reload(); // changed meanwhile
+        return;
+    }
+    if (conferences.size() > known) {
+        beginInsertRows({}, known, conferences.size() - 1);
+        m_conferences = conferences;
+        endInsertRows();
+        waitForNextChange();
+    }
 }
 
 void ConferenceModel::reload()
 {
-    QVector<Conference> conferences = load();
+    QVector<Conference> conferences = load(rowLimit());
     // Rows that stay keep their selection.
     if (hasSameRows(conferences, m_conferences)) {
         m_conferences = std::move(conferences);
@@ -166,15 +206,15 @@ QVariant ConferenceModel::headerData(int section, Qt::Orientation orientation, i
     return headerText(section);
 }
 
-QVector<Conference> ConferenceModel::load() const
+QVector<Conference> ConferenceModel::load(int limit) const
 {
     const qint64 from = m_book.nowMsecs() - LookBackMsecs;
     try {
         const std::optional<Person> user = m_book.session().user();
         const QString userId = user ? user->userId : QString();
         return m_scope == Scope::Mine
-                   ? m_book.conferences().ofUser(userId, from, std::numeric_limits<qint64>::max(), RowLimit)
-                   : m_book.conferences().startingAfter(from, userId, RowLimit);
+                   ? m_book.conferences().ofUser(userId, from, std::numeric_limits<qint64>::max(), limit)
+                   : m_book.conferences().startingAfter(from, userId, limit);
     } catch (const std::exception &error) {
         qWarning("The conferences cannot be shown: %s", error.what());
         return {};

@@ -21,9 +21,15 @@
 
 ConferencePage::ConferencePage(ConferenceModel *model, ContactsBook &book, Administration &administration,
                                QWidget *parent)
-    : TablePage(model, ConferenceModel::NumberRole, ConferenceModel::SortRole, ConferenceModel::SearchRole,
-                parent)
+    : ConferencePage(model, new QSortFilterProxyModel, book, administration, parent)
+{
+}
+
+ConferencePage::ConferencePage(ConferenceModel *model, QSortFilterProxyModel *sorted, ContactsBook &book,
+                               Administration &administration, QWidget *parent)
+    : TablePage(sorted, ConferenceModel::NumberRole, parent)
     , m_model(model)
+    , m_sorted(sorted)
     , m_book(book)
     , m_administration(administration)
     , m_scope(new QComboBox)
@@ -40,6 +46,13 @@ ConferencePage::ConferencePage(ConferenceModel *model, ContactsBook &book, Admin
                             QKeySequence(QStringLiteral("Ctrl+E"))))
 {
     m_model->setParent(this);
+    m_sorted->setParent(this);
+    m_sorted->setSourceModel(m_model);
+    m_sorted->setSortRole(ConferenceModel::SortRole);
+    m_sorted->setSortLocaleAware(true);
+    m_sorted->setFilterRole(ConferenceModel::SearchRole);
+    m_sorted->setFilterKeyColumn(0);
+    m_sorted->setFilterCaseSensitivity(Qt::CaseInsensitive);
     addControls();
     addMenu();
     connectControls();
@@ -107,6 +120,12 @@ void ConferencePage::connectControls()
     connect(m_scope, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
         m_model->setScope(index == 0 ? ConferenceModel::Scope::Mine : ConferenceModel::Scope::Everybody);
     });
+    connect(filter(), &QLineEdit::textChanged, this, [this](const QString &text) {
+        m_sorted->setFilterFixedString(text);
+        readEnough();
+    });
+    connect(table()->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
+            &ConferencePage::readEnough);
     connect(this, &TablePage::selectionChanged, this, &ConferencePage::showWhatIsPossible);
     connect(m_model, &QAbstractItemModel::dataChanged, this, &ConferencePage::showWhatIsPossible);
     connect(this, &TablePage::activated, this, &ConferencePage::join);
@@ -155,6 +174,15 @@ void ConferencePage::setState(const QString &state)
         Q_EMIT told(state == QLatin1String("ended") ? QStringLiteral("会议已结束。")
                                                     : QStringLiteral("会议已开始。"));
     }
+}
+
+void ConferencePage::readEnough()
+{
+    const QHeaderView *header = table()->horizontalHeader();
+    const bool isInReadingOrder = header->sortIndicatorSection() == ConferenceModel::Start &&
+                                  header->sortIndicatorOrder() == Qt::AscendingOrder &&
+                                  filter()->text().isEmpty();
+    m_model->setReading(isInReadingOrder ? ConferenceModel::Reading::Pages : ConferenceModel::Reading::Whole);
 }
 
 void ConferencePage::showWhatIsPossible()

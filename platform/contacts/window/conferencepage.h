@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QPushButton>
+#include <QSortFilterProxyModel>
 
 class Administration;
 
@@ -27,6 +28,8 @@ Q_SIGNALS:
     void told(const QString &text);
 
 private:
+    ConferencePage(ConferenceModel *model, QSortFilterProxyModel *sorted, ContactsBook &book,
+                   Administration &administration, QWidget *parent);
     QPushButton *addButton(const QString &name, const QString &text);
     QAction *addMenuEntry(const QString &name, const QString &text, const QKeySequence &shortcut);
     void addControls();
@@ -37,7 +40,10 @@ private:
     void setState(const QString &state);
     void showWhatIsPossible();
 
+    void readEnough();
+
     ConferenceModel *m_model;
+    QSortFilterProxyModel *m_sorted; ///< a child
     ContactsBook &m_book;
     Administration &m_administration;
     QComboBox *m_scope; ///< children, all of them

@@ -108,8 +108,9 @@ QWidget *ContactsWindow::makeNotice(ContactsBook &book)
 TablePage *ContactsWindow::makePeoplePage(ContactsBook &book)
 {
     auto *model = new PeopleModel(book);
-    auto *page = new TablePage(model, PeopleModel::AccountRole, Qt::DisplayRole, PeopleModel::SearchRole);
+    auto *page = new TablePage(model, PeopleModel::AccountRole);
     model->setParent(page);
+    connect(page->filter(), &QLineEdit::textChanged, model, &PeopleModel::setFilter);
     page->table()->setAccessibleName(QStringLiteral("联系人列表"));
     page->table()->setHint(QStringLiteral("还没有联系人。登录后可以在这里看到他们。"));
     page->table()->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);

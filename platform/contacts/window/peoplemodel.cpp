@@ -8,9 +8,13 @@
 
 #include <lumo/plaintooltip.h>
 
+#include <algorithm>
 #include <array>
+#include <limits>
 
 namespace {
+
+constexpr int PageSize = 100;
 
 QString headerText(int column)
 {
@@ -55,26 +59,126 @@ QString display(const Person &person, int column)
     }
 }
 
+bool matches(const Person &person, const QString &filter)
+{
+    return filter.isEmpty() || QString(nameText(person) + QLatin1Char(' ') + person.account +
+                                       QLatin1Char(' ') + relationText(person.friendship))
+                                   .contains(filter, Qt::CaseInsensitive);
+}
+
+bool isSame(const Person &left, const Person &right)
+{
+    return left.userId == right.userId;
+}
+
 } // namespace
 
 PeopleModel::PeopleModel(ContactsBook &book, QObject *parent) : QAbstractTableModel(parent), m_book(book)
 {
-    connect(&m_book, &ContactsBook::changed, this, &PeopleModel::reload);
+    connect(&m_book, &ContactsBook::changedLately, this, &PeopleModel::reload);
     reload();
 }
 
 void PeopleModel::reload()
 {
-    beginResetModel();
+    const QVector<Person> former = m_people;
+    // As many as there were, so that whoever has scrolled stays there.
     m_people.clear();
+    read(qMax(PageSize, former.size()));
+    QVector<Person> people;
+    people.swap(m_people);
+    if (std::equal(people.cbegin(), people.cend(), former.cbegin(), former.cend(), isSame)) {
+        m_people = std::move(people);
+        if (!m_people.isEmpty()) {
+            Q_EMIT dataChanged(index(0, 0), index(m_people.size() - 1, ColumnCount - 1));
+        }
+        return;
+    }
+    m_people = former;
+    beginResetModel();
+    m_people = std::move(people);
+    endResetModel();
+}
+
+void PeopleModel::setFilter(const QString &text)
+{
+    m_filter = text;
+    beginResetModel();
+    read(PageSize);
+    endResetModel();
+}
+
+void PeopleModel::sort(int column, Qt::SortOrder order)
+{
+    m_sortColumn = column;
+    m_sortOrder = order;
+    beginResetModel();
+    read(PageSize);
+    endResetModel();
+}
+
+void PeopleModel::read(int count)
+{
+    m_people.clear();
+    m_readUntil.clear();
+    m_hasMore = false;
     try {
-        if (const std::optional<Person> user = m_book.session().user()) {
-            m_people = m_book.people().contacts(user->userId);
+        const std::optional<Person> user = m_book.session().user();
+        m_ownerId = user ? user->userId : QString();
+        m_hasMore = user.has_value();
+        m_people = nextRows(isInAccountOrder() ? count : std::numeric_limits<int>::max());
+    } catch (const std::exception &error) {
+        qWarning("The people cannot be shown: %s", error.what());
+        m_hasMore = false;
+    }
+    if (isInAccountOrder()) {
+        return;
+    }
+    std::stable_sort(m_people.begin(), m_people.end(), [this](const Person &left, const Person &right) {
+        const int order =
+            QString::localeAwareCompare(display(left, m_sortColumn), display(right, m_sortColumn));
+        return m_sortOrder == Qt::AscendingOrder ? order < 0 : order > 0;
+    });
+}
+
+QVector<Person> PeopleModel::nextRows(int count)
+{
+    QVector<Person> rows;
+    while (m_hasMore && rows.size() < count) {
+        const int chunk = qBound(PageSize, count - rows.size(), 10 * PageSize);
+        const QVector<Person> people = m_book.people().contactsAfter(m_ownerId, m_readUntil, chunk);
+        m_hasMore = people.size() == chunk;
+        for (const Person &person : people) {
+            m_readUntil = person.account;
+            if (matches(person, m_filter)) {
+                rows.append(person);
+            }
+        }
+    }
+    return rows;
+}
+
+bool PeopleModel::canFetchMore(const QModelIndex &parent) const
+{
+    return !parent.isValid() && m_hasMore;
+}
+
+void PeopleModel::fetchMore(const QModelIndex &parent)
+{
+    if (!canFetchMore(parent)) {
+        return;
+    }
+    try {
+        const QVector<Person> rows = nextRows(PageSize);
+        if (!rows.isEmpty()) {
+            beginInsertRows({}, m_people.size(), m_people.size() + rows.size() - 1);
+            m_people += rows;
+            endInsertRows();
         }
     } catch (const std::exception &error) {
         qWarning("The people cannot be shown: %s", error.what());
+        m_hasMore = false;
     }
-    endResetModel();
 }
 
 int PeopleModel::rowCount(const QModelIndex &parent) const
@@ -101,9 +205,6 @@ QVariant PeopleModel::data(const QModelIndex &index, int role) const
         return plainToolTip(display(person, index.column()));
     case AccountRole:
         return person.account;
-    case SearchRole:
-        return QString(nameText(person) + QLatin1Char(' ') + person.account + QLatin1Char(' ') +
-                       relationText(person.friendship));
     default:
         return {};
     }

@@ -36,7 +36,7 @@ ReminderPage::ReminderPage(ContactsBook &book, QWidget *parent)
     layout->addRow(hint);
     connect(m_isOn, &QCheckBox::clicked, this, &ReminderPage::save);
     connect(m_lead, QOverload<int>::of(&QSpinBox::valueChanged), this, &ReminderPage::save);
-    connect(&m_book, &ContactsBook::changed, this, &ReminderPage::reload);
+    connect(&m_book, &ContactsBook::changedLately, this, &ReminderPage::reload);
     reload();
 }
 

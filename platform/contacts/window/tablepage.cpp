@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPainter>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -27,30 +28,23 @@ void HintedTable::paintEvent(QPaintEvent *event)
     painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_hint);
 }
 
-TablePage::TablePage(QAbstractItemModel *model, int keyRole, int sortRole, int searchRole, QWidget *parent)
+TablePage::TablePage(QAbstractItemModel *model, int keyRole, QWidget *parent)
     : QWidget(parent)
+    , m_model(model)
     , m_keyRole(keyRole)
     , m_filter(new QLineEdit)
     , m_table(new HintedTable)
     , m_upperRow(new QHBoxLayout)
     , m_lowerRow(new QHBoxLayout)
 {
-    m_proxy.setSourceModel(model);
-    m_proxy.setSortRole(sortRole);
-    m_proxy.setFilterRole(searchRole);
-    m_proxy.setFilterKeyColumn(0);
-    m_proxy.setFilterCaseSensitivity(Qt::CaseInsensitive);
-    m_proxy.setSortLocaleAware(true);
-
     m_filter->setPlaceholderText(QStringLiteral("筛选"));
     m_filter->setAccessibleName(QStringLiteral("筛选"));
     m_filter->setClearButtonEnabled(true);
     m_filter->setMaxLength(100);
-    connect(m_filter, &QLineEdit::textChanged, &m_proxy, &QSortFilterProxyModel::setFilterFixedString);
     auto *escape = new QShortcut(Qt::Key_Escape, m_filter, nullptr, nullptr, Qt::WidgetShortcut);
     connect(escape, &QShortcut::activated, m_filter, &QLineEdit::clear);
 
-    m_table->setModel(&m_proxy);
+    m_table->setModel(m_model);
     m_table->setSortingEnabled(true);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -61,14 +55,19 @@ TablePage::TablePage(QAbstractItemModel *model, int keyRole, int sortRole, int s
     m_table->setWordWrap(false);
     m_table->verticalHeader()->hide();
     m_table->horizontalHeader()->setHighlightSections(false);
+    // As wide as what can be seen: looking at every row would take as long as there are rows.
+    m_table->horizontalHeader()->setResizeContentsPrecision(0);
     m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     connect(m_table, &QAbstractItemView::activated, this, &TablePage::activated);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &TablePage::selectionChanged);
-    connect(&m_proxy, &QAbstractItemModel::modelAboutToBeReset, this,
-            [this] { m_selectedKey = selected(m_keyRole); });
-    connect(&m_proxy, &QAbstractItemModel::modelReset, this, [this] {
+    connect(m_model, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
+        m_selectedKey = selected(m_keyRole);
+        m_scrolledTo = m_table->verticalScrollBar()->value();
+    });
+    connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
         select(m_selectedKey);
+        m_table->verticalScrollBar()->setValue(m_scrolledTo);
         Q_EMIT selectionChanged();
     });
 
@@ -90,8 +89,8 @@ void TablePage::select(const QVariant &key)
     if (!key.isValid()) {
         return;
     }
-    for (int row = 0; row < m_proxy.rowCount(); ++row) {
-        if (m_proxy.index(row, 0).data(m_keyRole) == key) {
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        if (m_model->index(row, 0).data(m_keyRole) == key) {
             m_table->selectRow(row);
             return;
         }

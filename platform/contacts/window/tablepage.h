@@ -4,7 +4,6 @@
 #pragma once
 
 #include <QLineEdit>
-#include <QSortFilterProxyModel>
 #include <QTableView>
 #include <QWidget>
 
@@ -36,9 +35,8 @@ class TablePage : public QWidget
     Q_OBJECT
 
 public:
-    /// @p keyRole names a row, @p sortRole and @p searchRole say what is sorted and filtered by.
-    TablePage(QAbstractItemModel *model, int keyRole, int sortRole, int searchRole,
-              QWidget *parent = nullptr);
+    /// @p model sorts and filters by itself and must outlive it; @p keyRole names a row.
+    TablePage(QAbstractItemModel *model, int keyRole, QWidget *parent = nullptr);
 
     QLineEdit *filter() const { return m_filter; }
     HintedTable *table() const { return m_table; }
@@ -55,11 +53,12 @@ Q_SIGNALS:
     void activated();
 
 private:
+    QAbstractItemModel *m_model;
     int m_keyRole;
-    QSortFilterProxyModel m_proxy;
     QLineEdit *m_filter; ///< children, all of them
     HintedTable *m_table;
     QHBoxLayout *m_upperRow;
     QHBoxLayout *m_lowerRow;
     QVariant m_selectedKey;
+    int m_scrolledTo = 0;
 };

@@ -4,6 +4,7 @@
 #include "sampleworld.h"
 
 #include "book/useroverview.h"
+#include "core/displaytext.h"
 #include "core/statement.h"
 
 #include <QJsonDocument>
@@ -151,6 +152,8 @@ private Q_SLOTS:
     void theStateFollowsTheClock();
     void theCreationLimitIsOfOneMinute();
     void aClockThatIsSetBackLocksNobodyOut();
+    void whatJoinsCharactersStaysInNames();
+    void theContactsNamesAndTheirRemarksAreKnown();
     void aCreationThatWasRefusedDoesNotCount();
     void namesThatWereAskedForComeBackClean();
     void aRequestThatIsTooLateChangesNothing();
@@ -224,6 +227,12 @@ void TestActions::outcome_data()
         "creating a little late, after picking among namesakes",
         [](SampleWorld &world) { world.admin.Login(QStringLiteral("100036")); }, Create,
         names({}, at("2026-03-07T10:15")), "OK");
+    row(
+        "creating for exactly as late as may be",
+        [](SampleWorld &world) { world.admin.Login(QStringLiteral("100036")); }, Create,
+        names({}, at("2026-03-07T10:10")), "OK");
+    row("creating with a name that has spaces around it", nothing, Create, names({QStringLiteral(" 赵磊 ")}),
+        "OK");
     row("creating for now while in a conference", startOne, Create, none, "In Other Conference");
     row("creating for now while in one on another device", engageElsewhere, Create, none,
         "In Other Conference");
@@ -271,6 +280,16 @@ void TestActions::outcome_data()
     row(
         "the host needs no passcode", [](SampleWorld &world) { world.admin.Login(QStringLiteral("100035")); },
         Join, number("880100002"), "OK");
+    row(
+        "the invited need no passcode",
+        [](SampleWorld &world) {
+            QVERIFY(!world.admin
+                         .AddConference(QStringLiteral("1"), QStringLiteral("小会"), QStringLiteral("100003"),
+                                        world.nowMsecs, 60000, 5, QStringLiteral("1234"),
+                                        {QStringLiteral("100001")})
+                         .isEmpty());
+        },
+        Join, number("1"), "OK");
     row("joining a full conference", nothing, Join, number("880100003"), "Participant Out Limit");
     row(
         "joining a full conference in which one has a seat",
@@ -347,6 +366,19 @@ void TestActions::outcome_data()
 
     row("adding a stranger by account", nothing, AddFriend, userId("200001"), "OK");
     row("adding a stranger by account with spaces around", nothing, AddFriend, userId(" 200001 "), "OK");
+    row("adding a stranger by user id", nothing, AddFriend, userId("u200001"), "OK");
+    row(
+        "what was asked for counts as a friend",
+        [](SampleWorld &world) {
+            world.admin.SetFriendLimit(4);
+            QCOMPARE(
+                ret(world.ask(AddFriend, QJsonObject{{QStringLiteral("userId"), QStringLiteral("200001")}})),
+                QStringLiteral("OK"));
+        },
+        AddFriend, userId("200002"), "Exceed Friend Limit");
+    row(
+        "a limit below nothing is nothing", [](SampleWorld &world) { world.admin.SetFriendLimit(-1); },
+        AddFriend, userId("200001"), "Exceed Friend Limit");
     row("adding a stranger by name", nothing, AddFriend, userId("孟欣"), "OK");
     row("adding a colleague", nothing, AddFriend, userId("100031"), "OK");
     row("adding a name that several people have", nothing, AddFriend, userId("张伟"), "Not Found");
@@ -399,6 +431,17 @@ void TestActions::outcome_data()
         conference("880100005", {{QStringLiteral("duration"), 14400000}}), "OK");
     row("updating to no time at all", nothing, Update,
         conference("880100005", {{QStringLiteral("duration"), 0}}), "Update Failed");
+    row("updating to a minute", nothing, Update,
+        conference("880100005", {{QStringLiteral("duration"), 60000}}), "OK");
+    row("updating to less than a minute", nothing, Update,
+        conference("880100005", {{QStringLiteral("duration"), 59999}}), "Update Failed");
+    row(
+        "updating so that it ends at this moment",
+        [](SampleWorld &world) {
+            world.admin.SetConferenceState(QStringLiteral("880100005"), QStringLiteral("running"));
+            world.nowMsecs += 120000;
+        },
+        Update, conference("880100005", {{QStringLiteral("duration"), 120000}}), "Update Failed");
     row("updating to 101 people", nothing, Update,
         conference("880100005", {{QStringLiteral("participantLimit"), 101}}), "Update Failed");
     row("updating to one person", nothing, Update,
@@ -763,6 +806,25 @@ void TestActions::namesThatWereAskedForComeBackClean()
     for (const QChar &character : whole) {
         QVERIFY2(character.category() != QChar::Other_Format, qPrintable(whole));
     }
+}
+
+void TestActions::whatJoinsCharactersStaysInNames()
+{
+    const QString family = QStringLiteral("👩\u200d💻");
+    const QString persian = QStringLiteral("می\u200cخواهم");
+    QCOMPARE(cleanDisplayText(family), family);
+    QCOMPARE(cleanDisplayText(persian), persian);
+    QCOMPARE(cleanDisplayText(QStringLiteral("a\u200bb\ufeffc")), QStringLiteral("abc"));
+}
+
+void TestActions::theContactsNamesAndTheirRemarksAreKnown()
+{
+    SampleWorld world;
+    const QStringList names = world.book.contactNames();
+    QVERIFY(names.contains(QStringLiteral("刘洋")));
+    QVERIFY(names.contains(QStringLiteral("小刘")));
+    QVERIFY(!names.contains(QStringLiteral("孟欣"))); // a stranger
+    QVERIFY(!names.contains(QString()));
 }
 
 void TestActions::aCreationThatWasRefusedDoesNotCount()

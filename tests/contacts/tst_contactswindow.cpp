@@ -124,6 +124,18 @@ void TestContactsWindow::itShowsTheUsersConferences()
     QCOMPARE(cell(1, ConferenceModel::Duration), QStringLiteral("240分钟"));
     QCOMPARE(cell(1, ConferenceModel::People), QStringLiteral("4/20"));
     QCOMPARE(cell(1, ConferenceModel::Host), QStringLiteral("李娜"));
+    // By their start at first, without a grid.
+    QCOMPARE(cell(0, ConferenceModel::Number), QStringLiteral("880100008"));
+    QVERIFY(!conferences()->showGrid());
+    const auto look = [this](int row, ConferenceModel::Column column, int role) {
+        return conferences()->model()->index(row, column).data(role);
+    };
+    QVERIFY(!look(0, ConferenceModel::State, Qt::ForegroundRole).isValid()); // ended
+    QCOMPARE(look(1, ConferenceModel::State, Qt::ForegroundRole).value<QColor>(), QColor(89, 190, 45));
+    QCOMPARE(look(2, ConferenceModel::State, Qt::ForegroundRole).value<QColor>(), QColor(0, 129, 255));
+    QVERIFY(!look(1, ConferenceModel::Title, Qt::ForegroundRole).isValid());
+    const QString people = look(1, ConferenceModel::People, Qt::ToolTipRole).toString();
+    QVERIFY2(people.contains(QStringLiteral("李娜、吴敏")), qPrintable(people));
     pick("scope", 1);
     QCOMPARE(conferences()->model()->rowCount(), 9);
 }
@@ -152,6 +164,10 @@ void TestContactsWindow::aHeaderSorts()
     QVERIFY(first != cell(0, ConferenceModel::Number));
     QCOMPARE(QSet<QString>({first, cell(0, ConferenceModel::Number)}),
              QSet<QString>({QStringLiteral("880100001"), QStringLiteral("880100008")}));
+    // Durations by their length, not by their text.
+    conferences()->sortByColumn(ConferenceModel::Duration, Qt::AscendingOrder);
+    QCOMPARE(cell(0, ConferenceModel::Duration), QStringLiteral("30分钟"));
+    QCOMPARE(cell(4, ConferenceModel::Duration), QStringLiteral("240分钟"));
 }
 
 void TestContactsWindow::theSelectionSurvivesAChange()
@@ -201,6 +217,12 @@ void TestContactsWindow::aConferenceIsStartedAndEndedByHand()
     QTest::keyClick(child<QPushButton>("refuse"), Qt::Key_Escape);
     QTRY_VERIFY(m_window->findChild<QPushButton *>(QStringLiteral("agree")) == nullptr);
     QCOMPARE(told(), before);
+    // Return, which is pressed without reading, keeps it.
+    click("delete");
+    QVERIFY(child<QPushButton>("refuse")->isDefault() && !child<QPushButton>("agree")->isDefault());
+    QTest::keyClick(child<QPushButton>("refuse")->window(), Qt::Key_Return);
+    QTRY_VERIFY(m_window->findChild<QPushButton *>(QStringLiteral("agree")) == nullptr);
+    QCOMPARE(told(), before);
     click("delete");
     click("agree");
     QCOMPARE(told(), QStringLiteral("没有正在进行的会议。"));
@@ -215,6 +237,7 @@ void TestContactsWindow::joiningAsksForThePasscode()
     QTest::keyClicks(child<QLineEdit>("passcode"), QStringLiteral("246810"));
     QTest::keyClick(child<QLineEdit>("passcode"), Qt::Key_Return);
     QCOMPARE(told(), QStringLiteral("好的。"));
+    QVERIFY(child<QLineEdit>("passcode")->text().isEmpty());
     selectNumber("880100004");
     click("join");
     QCOMPARE(told(), QStringLiteral("正在其他会议中。"));
@@ -248,6 +271,10 @@ void TestContactsWindow::loggingInAndOutChangesWhatIsShown()
     click("logout");
     follow();
     QCOMPARE(conferences()->model()->rowCount(), 0);
+    // An empty table says so.
+    const QImage hinted = conferences()->viewport()->grab().toImage();
+    conferences()->setHint(QString());
+    QVERIFY(conferences()->viewport()->grab().toImage() != hinted);
     QCOMPARE(page(1)->table()->model()->rowCount(), 0);
     QCOMPARE(child<QComboBox>("account")->currentText(), QStringLiteral("未登录"));
     QVERIFY(!child<QPushButton>("logout")->isEnabled());
@@ -277,6 +304,8 @@ void TestContactsWindow::aFriendIsAdded()
     click("addFriend");
     QCOMPARE(told(), QStringLiteral("好的。"));
     follow();
+    page(1)->filter()->setText(QStringLiteral("100005"));
+    QCOMPARE(page(1)->table()->model()->index(0, 0).data().toString(), QStringLiteral("小刘（刘洋）"));
     page(1)->filter()->setText(QStringLiteral("已发送好友申请"));
     QCOMPARE(page(1)->table()->model()->rowCount(), 1);
     QTest::keyClicks(child<QLineEdit>("friendAccount"), QStringLiteral("100001"));

@@ -118,7 +118,7 @@ int TestPlugin::init()
     if (how == "throw") {
         throw std::runtime_error("no start");
     }
-    return how == "fail" ? -3 : 0;
+    return how == "fail" ? -3 : how == "partly" ? 1 : 0;
 }
 
 QStringList TestPlugin::getSupportService()

@@ -13,7 +13,7 @@
  * card whose button answers later, "LATE" answers and then once more from another thread, "ASKPASSWORD"
  * answers like a conference that wants one, "THROW" and "THROWREPLY" throw, "NOREPLY" gives none; anything
  * else counts how often its service was used. The environment decides how it starts: TESTPLUGIN_INIT is
- * "fail" or "throw", TESTPLUGIN_SERVICES is "none".
+ * "fail", "partly" or "throw", TESTPLUGIN_SERVICES is "none".
  */
 class TestPlugin : public QObject, public IServicePlugin
 {

@@ -8,9 +8,11 @@
 #include "chinesetexts.h"
 #include "cleantext.h"
 #include "correction.h"
+#include "help.h"
 #include "inputhistory.h"
 #include "knownnames.h"
 #include "linereader.h"
+#include "logrecorder.h"
 #include "replyjson.h"
 #include "secrets.h"
 #include "silentsocket.h"
@@ -47,6 +49,8 @@ private Q_SLOTS:
     void traceIsReadAsARequest();
     void whatWasDoneAfterAllIsSaidWithTheNextAnswer();
     void cardIsSummarisedRowByRow();
+    void theHelpNamesThreePeople();
+    void ofTooManyLogRecordsTheNewestStay();
     void everyMessageIsThereInChinese();
     void silentBusKeepsNeitherTheDeskNorARequest();
 };
@@ -234,6 +238,29 @@ void TestHostPieces::cardIsSummarisedRowByRow()
     QCOMPARE(picture.size(), card.size());
     QCOMPARE(cardSummary(card), QStringList({QStringLiteral("<b>标题</b>"), QStringLiteral("时长  <1小时>"),
                                              QStringLiteral("[确定(O)]")}));
+}
+
+void TestHostPieces::theHelpNamesThreePeople()
+{
+    const QString text = help::text({QStringLiteral("甲一"), QStringLiteral("乙二"), QStringLiteral("丙三")});
+    QVERIFY2(text.contains(QStringLiteral("叫上甲一和乙二")), qPrintable(text));
+    QVERIFY2(text.contains(QStringLiteral("邀请丙三加入会议")), qPrintable(text));
+    // Who is not known is of the sample.
+    QVERIFY(help::text({QStringLiteral("甲一")}).contains(QStringLiteral("叫上甲一和赵磊")));
+}
+
+void TestHostPieces::ofTooManyLogRecordsTheNewestStay()
+{
+    constexpr int most = 4000;
+    LogRecorder logs;
+    for (int i = 0; i <= most; ++i) {
+        qDebug("%d", i);
+    }
+    const QVector<LogRecord> records = logs.take();
+    QCOMPARE(records.size(), most);
+    QCOMPARE(records.first().text, QStringLiteral("1"));
+    QCOMPARE(records.last().text, QString::number(most));
+    QVERIFY(logs.take().isEmpty());
 }
 
 void TestHostPieces::everyMessageIsThereInChinese()

@@ -4,9 +4,13 @@
 #include "conversation.h"
 #include "logrecorder.h"
 #include "pluginhost.h"
+#include "screenshots.h"
 #include "semantics.h"
+#include "terminalconversation.h"
 
 #include <QtTest>
+
+#include <sstream>
 
 using namespace devhost;
 
@@ -34,6 +38,8 @@ private Q_SLOTS:
     void replyFromAnotherThreadArrivesLater();
     void replyAfterTheHostHasGoneIsDropped();
     void passwordIsNeitherShownNorLogged();
+    void helpIsNoPassword();
+    void coloursEndWithTheirLine();
     void tooLongTextIsRefused();
     void withoutPluginEveryTurnFails();
 };
@@ -66,6 +72,9 @@ void TestPluginHost::unusablePluginIsExplained_data()
         << QStringLiteral("org.example.other.1");
     QTest::newRow("init() fails") << TestPlugin << QByteArray("fail") << none
                                   << int(PluginProblem::InitFailed) << QStringLiteral("-3");
+    QTest::newRow("init() answers something else than 0")
+        << TestPlugin << QByteArray("partly") << none << int(PluginProblem::InitFailed)
+        << QStringLiteral("init() answered 1");
     QTest::newRow("init() throws") << TestPlugin << QByteArray("throw") << none
                                    << int(PluginProblem::InitFailed) << QStringLiteral("no start");
     QTest::newRow("no service") << TestPlugin << none << QByteArray("none") << int(PluginProblem::NoService)
@@ -112,6 +121,7 @@ void TestPluginHost::serviceRunsOnAnotherThreadAndReplyIsFetched()
     QCOMPARE(turn.display, QStringLiteral("你好"));
     QCOMPARE(turn.code, 0);
     QCOMPARE(turn.type, 3);
+    QVERIFY(turn.serviceMsecs > 0 && turn.replyMsecs > 0);
     QVERIFY(turn.failure.isEmpty());
     QCOMPARE(turn.logs.size(), 1);
     QCOMPARE(turn.logs.first().text, QStringLiteral("service ECHO on another thread"));
@@ -229,6 +239,52 @@ void TestPluginHost::passwordIsNeitherShownNorLogged()
     for (const LogRecord &record : turn.logs) {
         QVERIFY2(!record.text.contains(QLatin1String("2468")), qUtf8Printable(record.text));
     }
+}
+
+void TestPluginHost::helpIsNoPassword()
+{
+    LogRecorder logs;
+    PluginHost host;
+    QVERIFY(host.load(TestPlugin));
+    Conversation conversation(host, logs);
+    QSignalSpy idle(&conversation, &Conversation::idle);
+    const int help = conversation.say(QStringLiteral("帮助"));
+    QVERIFY(idle.wait());
+    QVERIFY(conversation.turn(help).display.startsWith(QStringLiteral("您可以说")));
+    qputenv("TESTPLUGIN_REPLIES", "ASKPASSWORD");
+    conversation.say(QStringLiteral("加入会议880100002"));
+    QVERIFY(idle.wait());
+    QVERIFY(conversation.expectsSecret());
+    // What is typed now may be one; only the plugin's words are shown.
+    const int secret = conversation.say(QStringLiteral("help"));
+    QVERIFY(idle.wait());
+    qunsetenv("TESTPLUGIN_REPLIES");
+    QCOMPARE(conversation.turn(secret).display, QStringLiteral("请输入密码:"));
+}
+
+void TestPluginHost::coloursEndWithTheirLine()
+{
+    LogRecorder logs;
+    PluginHost host;
+    QVERIFY(host.load(TestPlugin));
+    Conversation conversation(host, logs);
+    std::istringstream input(semantic("ECHO", QStringLiteral("好")).toStdString() + "\n" +
+                             semantic("THROW").toStdString() + "\n");
+    std::ostringstream output;
+    std::ostringstream errors;
+    TerminalConversation terminal(conversation, {input, output, errors, true, false}, Screenshots(QString()));
+    QSignalSpy finished(&terminal, &TerminalConversation::finished);
+    terminal.start();
+    QVERIFY(finished.wait());
+    const QStringList lines =
+        QString::fromStdString(output.str()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QVERIFY(lines.size() >= 4);
+    for (const QString &line : lines) {
+        QVERIFY2(line.startsWith(QLatin1String("\033[")) && line.endsWith(QLatin1String("\033[0m")),
+                 qPrintable(line));
+    }
+    QVERIFY(output.str().find("\033[1m助手：好\033[0m") != std::string::npos);
+    QVERIFY(output.str().find("\033[31m") != std::string::npos);
 }
 
 void TestPluginHost::tooLongTextIsRefused()

@@ -92,6 +92,19 @@ void TestLButtons::theSuggestedButtonHasTheAccentColour()
     QVERIFY(pixel.hslSaturation() > 100);
     QVERIFY(plain.grab().toImage().pixelColor(12, 15).hslSaturation() < 60);
 
+    // Also in a window that is not the active one.
+    QPalette marked = suggested.palette();
+    marked.setColor(QPalette::Inactive, QPalette::Highlight, Qt::magenta);
+    suggested.setPalette(marked);
+    QWidget other;
+    suggested.show();
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(!suggested.isActiveWindow());
+    const QColor inactive = suggested.grab().toImage().pixelColor(12, 15);
+    QVERIFY2(qAbs(inactive.hslHue() - QColor(Qt::magenta).hslHue()) < 12, qPrintable(inactive.name()));
+
     suggested.setEnabled(false);
     QVERIFY(suggested.grab().toImage().pixelColor(12, 15).hslSaturation() < 60);
     LGuiApplicationHelper::instance()->setPaletteType(LGuiApplicationHelper::UnknownType);
@@ -119,6 +132,9 @@ void TestLButtons::theLinkIsAsWideAsItsText()
     const int difference = wide.sizeHint().width() - narrow.sizeHint().width();
     QCOMPARE(difference, wide.fontMetrics().horizontalAdvance(wide.text()) -
                              narrow.fontMetrics().horizontalAdvance(narrow.text()));
+    // And a little higher.
+    QCOMPARE(narrow.sizeHint().height(),
+             narrow.fontMetrics().size(Qt::TextSingleLine, narrow.text()).height() + 8);
 }
 
 void TestLButtons::theLinkShowsTheFocusOfTheKeyboard()

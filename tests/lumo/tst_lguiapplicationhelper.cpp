@@ -146,6 +146,11 @@ void TestLGuiApplicationHelper::theThemesAreReadable()
     };
     const QPalette palette = Helper::standardPalette(static_cast<Helper::ColorType>(theme));
     QCOMPARE(int(Helper::toColorType(palette)), theme);
+    for (const QPalette::ColorRole role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText}) {
+        const QColor faint = palette.color(QPalette::Disabled, role);
+        QCOMPARE(faint.rgb(), palette.color(QPalette::Active, role).rgb());
+        QVERIFY2(qAbs(faint.alphaF() - 0.4) < 0.01, qPrintable(QString::number(faint.alphaF())));
+    }
     const std::pair<QPalette::ColorRole, QPalette::ColorRole> pairs[] = {
         {QPalette::WindowText, QPalette::Window},
         {QPalette::Text, QPalette::Base},

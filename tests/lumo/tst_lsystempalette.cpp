@@ -100,6 +100,10 @@ void TestLSystemPalette::whatWasChosenStays()
     palette.stop();
     Helper::instance()->setPaletteType(Helper::LightType);
     QVERIFY(isOurs(Helper::LightType));
+    QWindow window;
+    QEvent change(QEvent::ThemeChange);
+    QCoreApplication::sendEvent(&window, &change);
+    QVERIFY(isOurs(Helper::LightType));
     setDesktop(Qt::yellow, Qt::blue);
     QCOMPARE(QApplication::palette().color(QPalette::Window), QColor(Qt::yellow));
     // And the desktop's is known again.

@@ -10,6 +10,7 @@
 #include <QDBusConnection>
 #include <QDBusPendingCall>
 #include <QElapsedTimer>
+#include <QLoggingCategory>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -82,6 +83,7 @@ private Q_SLOTS:
     void failures_data();
     void failures();
     void anAnswerIsHandedOver();
+    void thePasswordIsNotTraced();
     void aSlowAnswerInTimeIsAnAnswer();
     void theTimeOutIsKept_data();
     void theTimeOutIsKept();
@@ -160,6 +162,21 @@ void TestContactAbility::anAnswerIsHandedOver()
     const Asked asked = ask(QStringLiteral("Echo"), text);
     QCOMPARE(asked.code, 0);
     QCOMPARE(asked.answer, text);
+}
+
+void TestContactAbility::thePasswordIsNotTraced()
+{
+    const Running application(scripted());
+    QVERIFY(application.isReady());
+    QLoggingCategory::setFilterRules(QStringLiteral("kelvane.ability.debug=true"));
+    const LogCapture log;
+    const QString text = QStringLiteral(R"({"conferenceId":"880","password":"246810"})");
+    // What it answers is traced as it is; this one does not repeat the question.
+    QCOMPARE(ask(QStringLiteral("Late"), text).code, 0);
+    QLoggingCategory::setFilterRules(QString());
+    const QString traced = log.lines().join(QLatin1Char('\n'));
+    QVERIFY2(traced.contains(QStringLiteral("880")), qPrintable(traced));
+    QVERIFY2(!traced.contains(QStringLiteral("246810")), qPrintable(traced));
 }
 
 void TestContactAbility::aSlowAnswerInTimeIsAnAnswer()

@@ -95,6 +95,7 @@ private Q_SLOTS:
     void init();
 
     void theGrid();
+    void longTextsAreElided();
     void onlyTheFirstConferenceIsShown();
     void withoutConferenceTheFormIsEmpty();
     void theStartIsChosenByMonthDayAndHour();
@@ -158,8 +159,31 @@ void TestContactDetailWidget::theGrid()
         lastRow = row;
     }
     QCOMPARE(found, captions);
+    for (int row = 1; row < lastRow; ++row) {
+        if (grid->itemAtPosition(row, 0) == nullptr) {
+            continue; // rows begin behind the one that the grid has of its own
+        }
+        QVERIFY(grid->itemAtPosition(row, 1) != nullptr);
+        QVERIFY(grid->itemAtPosition(row, 1)->widget() != grid->itemAtPosition(row, 0)->widget());
+        QCOMPARE(grid->itemAtPosition(row, 4), grid->itemAtPosition(row, 1));
+    }
     QVERIFY(grid->itemAtPosition(lastRow, 0)->widget()->isAncestorOf(form.button(QStringLiteral("取 消"))));
     QVERIFY(grid->itemAtPosition(lastRow, 0)->widget()->isAncestorOf(form.button(QStringLiteral("确 认"))));
+}
+
+void TestContactDetailWidget::longTextsAreElided()
+{
+    const int usual = Form({conference()}).widget.minimumSizeHint().width();
+    ContactDetailMsg talkative = conference();
+    talkative.title = QString(300, QChar(0x4f1a));
+    talkative.participants = {{QString(300, QChar(0x4eba)), {}, {}, {}}};
+    const Form form({talkative});
+    QCOMPARE(form.widget.minimumSizeHint().width(), usual);
+    int whole = 0;
+    for (const LLabel *label : form.widget.findChildren<LLabel *>()) {
+        whole += label->text() == talkative.title ? 1 : 0;
+    }
+    QCOMPARE(whole, 1);
 }
 
 void TestContactDetailWidget::onlyTheFirstConferenceIsShown()

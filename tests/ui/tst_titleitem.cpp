@@ -500,6 +500,24 @@ void TestTiTleItem::theFocusIsSeen()
     QCOMPARE(with.pixelColor(0, 20), QColor(0, 129, 255));
     QCOMPARE(with.pixelColor(165, 39), QColor(0, 129, 255));
     QVERIFY(without.pixelColor(165, 0) != QColor(0, 129, 255));
+    // Two pixels wide, all of it inside the row.
+    for (const QPoint &inside : {QPoint(165, 1), QPoint(1, 20), QPoint(165, 38), QPoint(328, 20)}) {
+        QCOMPARE(with.pixelColor(inside), QColor(0, 129, 255));
+    }
+    for (const QPoint &behind : {QPoint(165, 2), QPoint(2, 20), QPoint(165, 37), QPoint(327, 20)}) {
+        QCOMPARE(with.pixelColor(behind), without.pixelColor(behind));
+    }
+    // Its corners are round and smooth: between its colour and the ground there are others.
+    const QImage corner = with.copy(0, 0, 8, 8);
+    QSet<QRgb> between;
+    for (int y = 0; y < corner.height(); ++y) {
+        for (int x = 0; x < corner.width(); ++x) {
+            if (corner.pixelColor(x, y) != QColor(0, 129, 255) && corner.pixel(x, y) != without.pixel(x, y)) {
+                between.insert(corner.pixel(x, y));
+            }
+        }
+    }
+    QVERIFY2(between.size() > 4, qPrintable(QString::number(between.size())));
 }
 
 void TestTiTleItem::hoverAndSelectionAreSeen_data()

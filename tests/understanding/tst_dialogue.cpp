@@ -68,6 +68,13 @@ private Q_SLOTS:
         row("a day to query is asked for",
             {"下周有什么会", "? which-day", "下周二", "QUERY_CONFERENCE datetime=2026-03-10"});
 
+        row("an hour that no clock has is forgotten",
+            {"明天25点和张伟开会", "? contradiction", "下午",
+             "CREATE_CONFERENCE open=开 name=张伟 datetime=2026-03-08T15:00"});
+        row("a number with something strange in it is asked for again",
+            {"加入会议", "? which-conference", "123百456", "? whole-number", "123456",
+             "ENETR_ID_CONFERENCE id=123456"});
+
         row("算了 ends a question",
             {"加入会议", "? which-conference", "算了", "? cancelled", "123456", "? not-understood"});
         row("取消 ends a question",
@@ -107,6 +114,13 @@ private Q_SLOTS:
                                            "2222", "ENETR_ID_CONFERENCE id=123456 password=2222", "!password",
                                            "3333", "ENETR_ID_CONFERENCE id=123456 password=3333", "!password",
                                            "4444", "? passwords-tried", "5555", "? not-understood"});
+        row("the passwords of another conference do not count",
+            {"加入会议123456", "ENETR_ID_CONFERENCE id=123456", "!password", "1111",
+             "ENETR_ID_CONFERENCE id=123456 password=1111", "!password", "2222",
+             "ENETR_ID_CONFERENCE id=123456 password=2222", "!password", "加入会议654321",
+             "ENETR_ID_CONFERENCE id=654321", "!password", "3333",
+             "ENETR_ID_CONFERENCE id=654321 password=3333", "!password", "4444",
+             "ENETR_ID_CONFERENCE id=654321 password=4444"});
         row("the password question is put three times",
             {"加入会议123456", "ENETR_ID_CONFERENCE id=123456", "!password", "我忘了", "? which-password",
              "等等", "? which-password", "哈哈", "? given-up"});

@@ -147,6 +147,8 @@ private Q_SLOTS:
         row("a month on", "一个月后", "2026-04-07T10:20:00");
         row("seconds are dropped", "半小时后", "2026-03-07T10:50:00", "2026-03-07T10:20:45");
 
+        row("seconds on do not end in the past", "三十秒后", "2026-03-07T10:21:00", "2026-03-07T10:20:10");
+        row("seconds on across a minute", "三十秒后", "2026-03-07T10:22:00", "2026-03-07T10:20:45");
         row("half past", "三点半", "2026-03-07T15:30:00");
         row("a quarter past", "三点一刻", "2026-03-07T15:15:00");
         row("three quarters past", "三点三刻", "2026-03-07T15:45:00");
@@ -160,6 +162,8 @@ private Q_SLOTS:
         row("digits and a colon", "15:30", "2026-03-07T15:30:00");
         row("three thirty is in the afternoon", "3:30", "2026-03-07T15:30:00");
         row("an English afternoon", "3pm", "2026-03-07T15:00:00");
+        row("twelve pm is noon", "12pm", "2026-03-07T12:00:00");
+        row("twelve am is midnight", "明天12am", "2026-03-08T00:00:00");
         row("an English morning", "明天9:30 AM", "2026-03-08T09:30:00");
         row("a span gives its start", "三点到四点", "2026-03-07T15:00:00");
         row("a span whose end comes first gives its start", "四点到三点", "2026-03-07T16:00:00");

@@ -38,10 +38,7 @@ LineReader::Outcome LineReader::read(QString &line)
     if (bytes.endsWith('\r')) {
         bytes.chop(1);
     }
-    if (m_lineNumber == 1 && bytes.startsWith("\xef\xbb\xbf")) {
-        bytes.remove(0, 3);
-    }
-    QTextCodec::ConverterState state;
+    QTextCodec::ConverterState state; // with which the codec takes a byte order mark away
     const QString text =
         QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
     if (state.invalidChars > 0 || state.remainingChars > 0) {

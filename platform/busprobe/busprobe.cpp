@@ -3,11 +3,11 @@
 
 #include "busprobe.h"
 
+#include "busaddress.h"
+
 #include <QByteArrayList>
 
 #include <cerrno>
-#include <cstddef>
-#include <cstring>
 
 #include <poll.h>
 #include <sys/socket.h>
@@ -36,48 +36,15 @@ private:
     int m_descriptor;
 };
 
-/// The value of a key in "unix:path=/run/bus,guid=…"; null without it.
-QByteArray valueOf(const QByteArray &address, const QByteArray &key)
-{
-    const QByteArrayList pairs = address.mid(address.indexOf(':') + 1).split(',');
-    for (const QByteArray &pair : pairs) {
-        if (pair.startsWith(key + '=')) {
-            return QByteArray::fromPercentEncoding(pair.mid(key.size() + 1));
-        }
-    }
-    return {};
-}
-
-/// Where the socket of a "unix:" address is; an abstract name starts with a NUL. Null for other addresses.
-QByteArray socketOf(const QByteArray &address)
-{
-    if (!address.startsWith("unix:")) {
-        return {};
-    }
-    const QByteArray abstractName = valueOf(address, "abstract");
-    if (!abstractName.isNull()) {
-        return '\0' + abstractName;
-    }
-    if (valueOf(address, "runtime") == "yes") {
-        return qgetenv("XDG_RUNTIME_DIR") + "/bus";
-    }
-    return valueOf(address, "path");
-}
-
 bool connectTo(const Socket &socket, const QByteArray &path, const std::function<bool()> &goesOn)
 {
-    sockaddr_un name{};
-    if (path.size() >= static_cast<int>(sizeof(name.sun_path))) {
+    sockaddr_un name;
+    const socklen_t length = BusAddress::fill(name, path);
+    if (length == 0) {
         return false;
     }
-    name.sun_family = AF_UNIX;
-    std::memcpy(name.sun_path, path.constData(), static_cast<size_t>(path.size()));
-    // A file's name ends with its NUL, an abstract name with its length.
-    const size_t length =
-        offsetof(sockaddr_un, sun_path) + static_cast<size_t>(path.size()) + (path.startsWith('\0') ? 0 : 1);
     // "Again" says that the queue of a bus that does not take connections is full.
-    while (connect(socket.descriptor(), reinterpret_cast<const sockaddr *>(&name),
-                   static_cast<socklen_t>(length)) != 0) {
+    while (connect(socket.descriptor(), reinterpret_cast<const sockaddr *>(&name), length) != 0) {
         if ((errno != EAGAIN && errno != EINTR) || !goesOn()) {
             return false;
         }
@@ -106,7 +73,7 @@ BusProbe::Found hasAnswer(const Socket &socket, const std::function<bool()> &goe
 
 BusProbe::Found askOne(const QByteArray &address, const std::function<bool()> &goesOn)
 {
-    const QByteArray path = socketOf(address);
+    const QByteArray path = BusAddress::socketOf(address);
     if (path.isEmpty()) {
         return BusProbe::Found::Bus;
     }
@@ -128,7 +95,7 @@ BusProbe::Found BusProbe::ask(const QByteArray &addresses, const std::function<b
         if (access(own.constData(), F_OK) != 0) {
             return Found::Bus;
         }
-        all = "unix:path=" + own;
+        all = BusAddress::ownBus();
     }
     Found found = Found::Nothing;
     const QList<QByteArray> alternatives = all.split(';');

@@ -16,6 +16,7 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <atomic>
 #include <csignal>
 #include <ctime>
 #include <limits>
@@ -67,6 +68,52 @@ private:
     bool m_isReady = false;
 };
 
+/// Answers the first connection's greeting like a bus, and never says a word to later ones: a bus that is
+/// stopped between two connections.
+class BusForOneQuestion
+{
+public:
+    explicit BusForOneQuestion(const QString &path)
+        : m_descriptor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0))
+    {
+        sockaddr_un name{};
+        name.sun_family = AF_UNIX;
+        qstrncpy(name.sun_path, QFile::encodeName(path).constData(), sizeof(name.sun_path));
+        m_isListening = bind(m_descriptor, reinterpret_cast<const sockaddr *>(&name), sizeof(name)) == 0 &&
+                        listen(m_descriptor, 5) == 0;
+        m_thread = std::thread([this] { answerOne(); });
+    }
+    ~BusForOneQuestion()
+    {
+        shutdown(m_descriptor, SHUT_RDWR); // ends a wait for somebody who asks
+        m_thread.join();
+        close(m_descriptor);
+    }
+    Q_DISABLE_COPY(BusForOneQuestion)
+    bool isListening() const { return m_isListening; }
+    bool wasAsked() const { return m_wasAsked; }
+
+private:
+    void answerOne()
+    {
+        const int asking = accept(m_descriptor, nullptr, nullptr);
+        if (asking < 0) {
+            return;
+        }
+        char said[64];
+        const QByteArray word("REJECTED EXTERNAL\r\n");
+        m_wasAsked =
+            recv(asking, said, sizeof(said), 0) > 0 &&
+            send(asking, word.constData(), static_cast<size_t>(word.size()), MSG_NOSIGNAL) == word.size();
+        close(asking);
+    }
+
+    int m_descriptor;
+    bool m_isListening = false;
+    std::atomic<bool> m_wasAsked{false};
+    std::thread m_thread;
+};
+
 QString scripted()
 {
     return QStringLiteral(SCRIPTED_APPLICATION);
@@ -100,6 +147,7 @@ private Q_SLOTS:
     void aThousandRequestsMayWait();
     void aBusThatDoesNotAnswerKeepsNobody_data();
     void aBusThatDoesNotAnswerKeepsNobody();
+    void aGoodAddressThatComesLaterIsUsed_data();
     void aGoodAddressThatComesLaterIsUsed();
     void theDeadlineTravelsWithTheRequest();
     void whatWasPerformedAfterAllIsTold();
@@ -391,20 +439,25 @@ void TestContactAbility::aThousandRequestsMayWait()
 
 void TestContactAbility::aBusThatDoesNotAnswerKeepsNobody_data()
 {
-    QTest::addColumn<bool>("isStoppedBus");
-    QTest::newRow("a bus that is stopped") << true;
-    QTest::newRow("a socket that takes connections and says nothing") << false;
+    QTest::addColumn<QString>("kind");
+    QTest::newRow("a bus that is stopped") << "stopped";
+    QTest::newRow("a bus that is stopped right after it was asked") << "stopped later";
+    QTest::newRow("a socket that takes connections and says nothing") << "silent";
 }
 
 void TestContactAbility::aBusThatDoesNotAnswerKeepsNobody()
 {
-    QFETCH(bool, isStoppedBus);
+    QFETCH(QString, kind);
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("bus"));
     const QString address = QStringLiteral("unix:path=") + path;
     std::unique_ptr<Running> bus;
     std::unique_ptr<SilentSocket> silent;
-    if (isStoppedBus) {
+    std::unique_ptr<BusForOneQuestion> forOne;
+    if (kind == QLatin1String("stopped later")) {
+        forOne = std::make_unique<BusForOneQuestion>(path);
+        QVERIFY(forOne->isListening());
+    } else if (kind == QLatin1String("stopped")) {
         bus = std::make_unique<Running>(QStringLiteral("dbus-daemon"),
                                         QStringList{QStringLiteral("--nofork"),
                                                     QStringLiteral("--print-address"),
@@ -426,16 +479,31 @@ void TestContactAbility::aBusThatDoesNotAnswerKeepsNobody()
     process.kill();
     process.waitForFinished();
     QVERIFY(hasEnded);
+    QVERIFY(forOne == nullptr || forOne->wasAsked());
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.readAllStandardOutput().trimmed().toInt(), int(AbilityCode::TimedOut));
 }
 
+void TestContactAbility::aGoodAddressThatComesLaterIsUsed_data()
+{
+    QTest::addColumn<bool>("answersOneQuestion");
+    QTest::newRow("after a silent socket") << false;
+    QTest::newRow("after a bus that stopped right after it was asked") << true;
+}
+
 void TestContactAbility::aGoodAddressThatComesLaterIsUsed()
 {
+    QFETCH(bool, answersOneQuestion);
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("bus"));
-    const SilentSocket silent(path);
-    QVERIFY(silent.isListening());
+    std::unique_ptr<SilentSocket> silent;
+    std::unique_ptr<BusForOneQuestion> forOne;
+    if (answersOneQuestion) {
+        forOne = std::make_unique<BusForOneQuestion>(path);
+    } else {
+        silent = std::make_unique<SilentSocket>(path);
+    }
+    QVERIFY(answersOneQuestion ? forOne->isListening() : silent->isListening());
     const Running application(scripted());
     QVERIFY(application.isReady());
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

@@ -6,6 +6,7 @@
 #include "abilitytrace.h"
 #include "busprobe.h"
 #include "callerror.h"
+#include "connectionguard.h"
 #include "contact1proxy.h"
 #include "pendingrequest.h"
 
@@ -13,16 +14,22 @@
 
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QElapsedTimer>
 
 #include <algorithm>
 #include <functional>
 #include <limits>
+
+#include <dlfcn.h>
 
 namespace {
 
 /// The bus's own time-out comes after the caller's: until then, "no reply" from the bus can only mean that
 /// the application has gone.
 constexpr int GraceMsecs = 1000;
+
+/// Whoever ends the process waits so long for the thread, which usually takes no time.
+constexpr int LongestFarewellMsecs = 3000;
 
 /// So many requests without an answer are remembered.
 constexpr int MostUnclear = 100;
@@ -55,35 +62,77 @@ PendingRequest::Result resultOf(const QDBusPendingReply<QString> &reply)
 
 } // namespace
 
+namespace {
+
+/// Ends the link with the process.
+class LinkHolder
+{
+public:
+    explicit LinkHolder(BusLink *link) : m_link(link) {}
+    ~LinkHolder()
+    {
+        if (m_link->end()) {
+            delete m_link;
+            return;
+        }
+        // Left to the process's end, with all that it uses: also its code, should somebody unload the
+        // library.
+        Dl_info self{};
+        static const char ours = 0;
+        if (dladdr(&ours, &self) != 0) {
+            dlopen(self.dli_fname, RTLD_NOW | RTLD_NOLOAD | RTLD_NODELETE);
+        }
+    }
+    Q_DISABLE_COPY(LinkHolder)
+    BusLink &link() const { return *m_link; }
+
+private:
+    BusLink *m_link;
+};
+
+} // namespace
+
 BusLink &BusLink::instance()
 {
-    static BusLink link;
-    return link;
+    static const LinkHolder holder(new BusLink);
+    return holder.link();
 }
 
-BusLink::BusLink()
+BusLink::BusLink() : m_thread(std::make_unique<QThread>())
 {
     // Makes Qt's own manager of connections exist before this object does, and so outlive it.
     const QDBusConnection older(QStringLiteral("contact-ability"));
-    m_thread.setObjectName(QStringLiteral("contact-ability"));
-    moveToThread(&m_thread);
+    m_thread->setObjectName(QStringLiteral("contact-ability"));
+    moveToThread(m_thread.get());
     // At the end of the process there is no application object any more, and without one no event reaches a
     // thread; a direct connection does.
     connect(
-        &m_thread, &QThread::finished, this,
+        m_thread.get(), &QThread::finished, this,
         [this] {
             qDeleteAll(children());
             disconnectFromBus();
         },
         Qt::DirectConnection);
-    m_thread.start();
+    m_thread->start();
 }
 
-BusLink::~BusLink()
+BusLink::~BusLink() = default;
+
+bool BusLink::end()
 {
     m_isEnding = true; // ends a wait for a bus that does not answer
-    m_thread.quit();
-    m_thread.wait();
+    m_thread->quit();
+    // Looked at again and again, because a bounded wait goes by the calendar in some surroundings and ends at
+    // once where that is set.
+    QElapsedTimer timer;
+    timer.start();
+    while (!m_thread->isFinished()) {
+        if (timer.elapsed() >= LongestFarewellMsecs) {
+            return false;
+        }
+        QThread::msleep(1);
+    }
+    return m_thread->wait();
 }
 
 void BusLink::send(const std::shared_ptr<PendingRequest> &request)
@@ -198,11 +247,7 @@ QDBusError BusLink::connectToBus(const PendingRequest &request)
         return {QDBusError::NoServer, QStringLiteral("nobody answers at the session bus's address")};
     }
     m_connectionName = QStringLiteral("contact-ability-%1").arg(++m_connectionCount);
-    // The address is read anew each time: the library below remembers the first one for ever.
-    const QString address = QString::fromLocal8Bit(qgetenv("DBUS_SESSION_BUS_ADDRESS"));
-    const QDBusConnection bus =
-        address.isEmpty() ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, m_connectionName)
-                          : QDBusConnection::connectToBus(address, m_connectionName);
+    const QDBusConnection bus = openConnection(request);
     if (!bus.isConnected()) {
         const QDBusError error = bus.lastError();
         disconnectFromBus();
@@ -210,6 +255,18 @@ QDBusError BusLink::connectToBus(const PendingRequest &request)
     }
     m_proxy = std::make_unique<Contact1Proxy>(serviceName(), objectPath(), bus);
     return {};
+}
+
+QDBusConnection BusLink::openConnection(const PendingRequest &request) const
+{
+    // The address is read anew each time: the library below remembers the first one for ever.
+    const QByteArray address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    // The bus has answered a moment ago, and may be stopped since.
+    const ConnectionGuard guard(address,
+                                [this, &request] { return !m_isEnding && request.remainingMsecs() > 0; });
+    return address.isEmpty()
+               ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, m_connectionName)
+               : QDBusConnection::connectToBus(QString::fromLocal8Bit(address), m_connectionName);
 }
 
 void BusLink::disconnectFromBus()

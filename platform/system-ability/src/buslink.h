@@ -28,6 +28,9 @@ public:
     static BusLink &instance();
     ~BusLink() override;
 
+    /// Ends the thread. It is given a few seconds; whether it has ended then.
+    bool end();
+
     /// Carries the request to its end. Returns at once; any thread.
     void send(const std::shared_ptr<PendingRequest> &request);
 
@@ -55,9 +58,10 @@ private:
     QDBusError connectToBus(const PendingRequest &request);
     /// Waits for a bus that answers, as long as the request has time.
     bool findBus(const PendingRequest &request) const;
+    QDBusConnection openConnection(const PendingRequest &request) const;
     void disconnectFromBus();
 
-    QThread m_thread;
+    std::unique_ptr<QThread> m_thread;
     std::atomic<bool> m_isEnding{false};
     // Only touched on the thread.
     QString m_connectionName; ///< empty while there is none

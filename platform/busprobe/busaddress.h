@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QByteArray>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+
+/// What the addresses of buses mean.
+namespace BusAddress {
+
+/// The address of the user's own bus.
+QByteArray ownBus();
+
+/// Where the socket of a "unix:" address is; an abstract name starts with a NUL. Null for other addresses.
+QByteArray socketOf(const QByteArray &address);
+
+/// Fills @p name and returns its length; 0 when the path is too long for a socket.
+socklen_t fill(sockaddr_un &name, const QByteArray &path);
+
+} // namespace BusAddress

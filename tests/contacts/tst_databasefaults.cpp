@@ -7,6 +7,7 @@
 
 #include "core/databaseerror.h"
 #include "core/middlekey.h"
+#include "core/openinglock.h"
 #include "core/statement.h"
 
 #include <QDir>
@@ -242,6 +243,8 @@ private Q_SLOTS:
     void nobodySalvagedBringsTheSample();
     void whoCreatedWhatIsSalvagedOnce();
     void ofManyStartsOneSetsAside();
+    void aDamagedFileInUseIsLeftToItsUser();
+    void damageThatIsMetInALargeFileIsMendedAtTheNextStart();
     void othersCannotRead();
 
 private:
@@ -536,6 +539,70 @@ void TestDatabaseFaults::ofManyStartsOneSetsAside()
         ContactsBook book(folder.file, fixedClock());
         QVERIFY(book.people().byAccount(QStringLiteral("9000000")).has_value());
     }
+}
+
+void TestDatabaseFaults::aDamagedFileInUseIsLeftToItsUser()
+{
+    const DataFolder folder;
+    {
+        ContactsBook book(folder.file, fixedClock());
+        addPeople(book, 500);
+        QVERIFY(UseLock::isHeld(folder.file));
+    }
+    QVERIFY(!UseLock::isHeld(folder.file));
+    Application running(folder.root.path());
+    QVERIFY(running.waitForStarted());
+    QTRY_VERIFY_WITH_TIMEOUT(UseLock::isHeld(folder.file), 20000);
+    const qint64 size = QFileInfo(folder.file).size();
+    overwrite(folder.file, size / 2, size / 2 + 4 * 4096);
+
+    Application second(folder.root.path());
+    QVERIFY(second.waitForFinished(30000));
+    const QByteArray said = second.readAllStandardError();
+    QCOMPARE(second.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(second.exitCode(), 1);
+    QVERIFY2(said.contains("another process works with it"), said.constData());
+    QCOMPARE(folder.setAside(), QStringList());
+    QCOMPARE(running.state(), QProcess::Running);
+
+    running.kill();
+    running.waitForFinished();
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    worldIn(folder.file);
+    QCOMPARE(folder.setAside().size(), 1);
+}
+
+void TestDatabaseFaults::damageThatIsMetInALargeFileIsMendedAtTheNextStart()
+{
+    const DataFolder folder;
+    {
+        ContactsBook book(folder.file, fixedClock());
+        addPeople(book, 3000);
+    }
+    const QVector<int> pages = leavesOf(folder.file, QStringLiteral("person"));
+    const qint64 page = pages.at(pages.size() / 2) - 1;
+    overwrite(folder.file, page * 4096, (page + 1) * 4096);
+    // Larger than what is checked at a start, with nothing in it.
+    QFile large(folder.file);
+    QVERIFY(large.resize(300 * 1024 * 1024));
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    {
+        ContactsBook book(folder.file, fixedClock());
+        QCOMPARE(folder.setAside(), QStringList());
+        QVERIFY(
+            book.perform(QStringLiteral("Search Conference"), QString()).contains(QStringLiteral("\"OK\"")));
+        QVERIFY(!QFile::exists(folder.file + QStringLiteral(".check")));
+        const QString lost = QStringLiteral("p%1").arg(1500, 6, 10, QLatin1Char('0'));
+        const QString answer =
+            book.perform(QStringLiteral("Add Friends"), QStringLiteral("{\"userId\":\"%1\"}").arg(lost));
+        QVERIFY2(answer.contains(QStringLiteral("Internal Error")), qPrintable(answer));
+        QVERIFY(QFile::exists(folder.file + QStringLiteral(".check")));
+    }
+    ContactsBook book(folder.file, fixedClock());
+    QCOMPARE(folder.setAside().size(), 1);
+    QVERIFY(book.session().notice().contains(folder.setAside().at(0)));
+    QVERIFY(book.people().all().size() > 2800);
+    QVERIFY(!QFile::exists(folder.file + QStringLiteral(".check")));
 }
 
 void TestDatabaseFaults::othersCannotRead()

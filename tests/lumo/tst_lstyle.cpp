@@ -151,27 +151,6 @@ void TestLStyle::theSignsOfTheSpinBoxSayItsStyle()
     QVERIFY(arrows != signs);
     box.setEnabledEmbedStyle(true);
     QCOMPARE(paint(box), arrows);
-
-    // The upper arrow points up: it begins in its middle.
-    QStyleOptionSpinBox option;
-    option.initFrom(&box);
-    option.buttonSymbols = QAbstractSpinBox::UpDownArrows;
-    option.subControls = QStyle::SC_All;
-    option.rect = QRect(QPoint(), box.size());
-    const auto firstDark = [&](QStyle::SubControl button) {
-        const QRect room = box.style()->subControlRect(QStyle::CC_SpinBox, &option, button, &box);
-        for (int y = room.top(); y <= room.bottom(); ++y) {
-            for (int x = room.left() + 1; x < room.right(); ++x) {
-                if (arrows.pixelColor(x, y).lightness() < 140) {
-                    return x - room.center().x();
-                }
-            }
-        }
-        return 100;
-    };
-    QVERIFY2(qAbs(firstDark(QStyle::SC_SpinBoxUp)) <= 1,
-             qPrintable(QString::number(firstDark(QStyle::SC_SpinBoxUp))));
-    QVERIFY(qAbs(firstDark(QStyle::SC_SpinBoxDown)) > 1);
 }
 
 void TestLStyle::aStepThatIsNotPossibleIsFaint()

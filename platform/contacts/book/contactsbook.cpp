@@ -123,6 +123,12 @@ QString ContactsBook::perform(const QString &action, const QString &parameters, 
     } catch (const InvalidParameters &error) {
         qWarning() << "Refused parameters for" << action << ":" << error.what();
         return toText(answerWord(Outcome::InvalidParameters));
+    } catch (const DatabaseError &error) {
+        qCritical() << "Action" << action << "failed:" << error.what();
+        if (error.isDamage()) {
+            m_database.demandCheck();
+        }
+        return toText(answerWord(Outcome::InternalError));
     } catch (const std::exception &error) {
         qCritical() << "Action" << action << "failed:" << error.what();
         return toText(answerWord(Outcome::InternalError));

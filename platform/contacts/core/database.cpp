@@ -47,8 +47,15 @@ QString setAside(const QString &fileName)
 
 /// Somebody else's lock on the file is waited for this long.
 constexpr int PatienceMsecs = 5000;
-/// A check reads the whole file; one that is larger than this would keep the start waiting for too long.
+/// A check reads the whole file; one that is larger than this, with a quarter of a million conferences, would
+/// keep the start waiting for too long. Damage in it is found when it is met.
 constexpr qint64 LargestCheckedFile = 256 * 1024 * 1024;
+
+/// Beside the database, when somebody has met damage in it.
+QString checkDemand(const QString &fileName)
+{
+    return fileName + QStringLiteral(".check");
+}
 
 } // namespace
 
@@ -63,8 +70,19 @@ Database::Database(const QString &fileName) : m_connectionName(QUuid::createUuid
         if (!error.isDamage()) {
             throw;
         }
+        if (UseLock::isHeld(fileName)) {
+            throw DatabaseError(
+                QStringLiteral("%1 is damaged, and another process works with it; it is left as it is: %2")
+                    .arg(fileName, QString::fromUtf8(error.what())));
+        }
         qCritical() << "The database" << fileName << "is damaged and is set aside:" << error.what();
         replace(fileName);
+    }
+    try {
+        m_use = std::make_unique<UseLock>(fileName);
+    } catch (...) {
+        close();
+        throw;
     }
 }
 
@@ -123,6 +141,14 @@ qint64 Database::writtenRows() const
     return query.number(0);
 }
 
+void Database::demandCheck() const
+{
+    QFile demand(checkDemand(m_database.databaseName()));
+    if (!demand.open(QIODevice::WriteOnly)) {
+        qWarning() << "The database's next start will not check all of it:" << demand.errorString();
+    }
+}
+
 void Database::open(const QString &fileName)
 {
     m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connectionName);
@@ -137,13 +163,15 @@ void Database::check(const QString &fileName)
 {
     // The first look into the file; SQLite calls anything else than its own format "not a database".
     Statement(m_database, QStringLiteral("SELECT count(*) FROM sqlite_master")).run().next();
-    if (QFileInfo(fileName).size() > LargestCheckedFile) {
+    const QString demand = checkDemand(fileName);
+    if (QFileInfo(fileName).size() > LargestCheckedFile && !QFile::exists(demand)) {
         return;
     }
     Statement check(m_database, QStringLiteral("PRAGMA quick_check(1)"));
     check.run();
     const QString result = check.next() ? check.text(0) : QString();
     if (result == QLatin1String("ok")) {
+        QFile::remove(demand);
         return;
     }
     // A page that could not be fetched for another reason than damage is reported in a row, too.

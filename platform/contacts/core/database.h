@@ -7,6 +7,10 @@
 
 #include <QSqlDatabase>
 
+#include <memory>
+
+class UseLock;
+
 /**
  * The application's database file, brought up to date when it is opened. What is committed is on disk. Lives
  * on the thread that made it, and everything that uses it does so there. Throws DatabaseError.
@@ -17,7 +21,8 @@ public:
     /**
      * Creates the file and its folder, readable by their owner alone, when they are missing. A damaged file
      * is set aside, never deleted, and what can be read of it is copied. Only what SQLite itself calls
-     * damaged is: a lock is waited for, a few seconds, and anything else is thrown.
+     * damaged is: a lock is waited for, a few seconds, and anything else is thrown, also damage in a file
+     * that another process works with.
      */
     explicit Database(const QString &fileName);
     ~Database();
@@ -28,6 +33,9 @@ public:
     Salvaged salvaged() const { return m_salvaged; }
     /// Grows with every row that is written.
     qint64 writtenRows() const;
+
+    /// Damage was met while working: the next start checks the whole file, however large it is.
+    void demandCheck() const;
 
     /// The user's own file, below the XDG data folder.
     static QString defaultFileName();
@@ -45,6 +53,7 @@ private:
 
     QString m_connectionName;
     QSqlDatabase m_database;
+    std::unique_ptr<UseLock> m_use;
     QString m_setAsideFile;
     Salvaged m_salvaged;
 };

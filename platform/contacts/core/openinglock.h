@@ -22,3 +22,23 @@ private:
 
     int m_descriptor;
 };
+
+/**
+ * Held, in the same file, as long as a database is open: a damaged one is not taken away from a process that
+ * works with it. Any number of them may be held at once.
+ */
+class UseLock
+{
+public:
+    /// Throws DatabaseError.
+    explicit UseLock(const QString &databaseFile);
+    ~UseLock();
+
+    /// Whether anybody holds one. Throws DatabaseError.
+    static bool isHeld(const QString &databaseFile);
+
+private:
+    Q_DISABLE_COPY(UseLock)
+
+    int m_descriptor;
+};

@@ -27,6 +27,8 @@ constexpr SalvagedTable Tables[] = {
     {"creation", "rowid"}, // where there is no other key, it tells that a row has been copied already
     {"performed_request", "id"},
     {"session", "id"},
+    {"reminder_settings", "id"},
+    {"shown_reminder", "conference_id user_id kind start_msecs"},
 };
 
 } // namespace

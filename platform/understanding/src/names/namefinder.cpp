@@ -16,8 +16,6 @@ namespace understanding {
 
 namespace {
 
-constexpr int LongestName = NameCollector::LongestName;
-
 class NameFinder final : private NameCollector
 {
 public:

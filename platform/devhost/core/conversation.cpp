@@ -64,7 +64,12 @@ void Conversation::startOver()
 {
     Q_ASSERT(!isBusy());
     m_turns.clear();
-    // The way in which a user closes a question.
+    closeQuestion();
+}
+
+void Conversation::closeQuestion()
+{
+    // The way in which a user does it.
     m_dialogue.turn(QStringLiteral("算了"), QDateTime::currentDateTime());
 }
 
@@ -122,6 +127,9 @@ void Conversation::startNext()
     Input input = m_queue.dequeue();
     m_running = m_latest = input.turn;
     m_runningIsSentence = !input.isSemantic;
+    if (input.when.isValid()) {
+        closeQuestion();
+    }
     m_turns[m_running].state = Turn::Running;
     Q_EMIT started(m_running);
     if (input.text.size() > LongestInput) {

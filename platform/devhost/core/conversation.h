@@ -43,7 +43,7 @@ public:
 
     /// Queues a sentence and returns its turn. A text that starts with "{" is taken as semantic JSON.
     int say(const QString &text);
-    /// Queues a sentence that was said at @p when: its times are set against that.
+    /// Queues a sentence that was said at @p when, which its times are set against, and to no open question.
     int sayAsOf(const QString &sentence, const QDateTime &when);
     /// Queues a semantic text, which reaches the plugin as it is.
     int sendSemantic(const QString &semantic);
@@ -89,6 +89,7 @@ private:
     QString shownSentence(const QString &sentence) const;
     void startNext();
     void answerWithHelp();
+    void closeQuestion();
     QString understand(Input &input);
     void takeResult(const TurnResult &result);
     void takeLater(const Reply &reply);

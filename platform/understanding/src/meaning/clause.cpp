@@ -80,7 +80,9 @@ bool Clause::isOnlySomebody() const
 {
     const bool strange = any([&](std::size_t at) {
         const Token &token = m_tokens[at];
-        return token.inName || (token.kind != Token::Kind::Other && !token.is(WordClass::Title));
+        return token.inName ||
+               (token.kind != Token::Kind::Other && token.length > 1 && !token.is(WordClass::Title)) ||
+               token.kind == Token::Kind::Time;
     });
     if (m_begin == m_end || strange) {
         return false;

@@ -37,6 +37,14 @@ bool Clause::isPreamble(std::size_t at) const
 
 bool Clause::isPieceOfTime(std::size_t at) const
 {
+    // 后个儿头晌: a day that was not read, right before a time.
+    static const QString days = QStringLiteral("天日周晌个");
+    const bool unreadDay = m_tokens[at].kind == Token::Kind::Other && !m_tokens[at].inName &&
+                           at + 1 < m_end && m_tokens[at + 1].kind == Token::Kind::Time &&
+                           days.contains(m_reading.sentence().text().at(m_tokens[at].end() - 1));
+    if (unreadDay) {
+        return true;
+    }
     const Token &token = m_tokens[at];
     if (token.inName) {
         return false;

@@ -83,8 +83,11 @@ int modifierLength(const QString &text)
             return start + left;
         }
     }
-    // 闺女秀英, 外孙女朵朵: the given name alone.
+    // 闺女秀英, 外孙女朵朵: the given name alone; 隔壁二婶: nothing but a relative.
     const int cut = rest.size() - 2;
+    if (cut > 0 && roles().value(rest.mid(cut), false) && isModifier(rest.left(cut))) {
+        return start + cut;
+    }
     for (int length = qMin(LongestRole, cut); length > 0; --length) {
         if (roles().value(rest.mid(cut - length, length), false) && !roles().contains(rest.mid(cut))) {
             return start + cut;

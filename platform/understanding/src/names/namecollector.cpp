@@ -97,4 +97,22 @@ bool NameCollector::isWholeName(const QString &chunk, int end) const
            ((closed && !never.contains(chunk.at(2))) || always.contains(chunk.at(2)));
 }
 
+bool NameCollector::isLostBefore(const Tokens &tokens, std::size_t at) const
+{
+    if (at == 0 || !tokens[at].is(WordClass::Separator) || tokens[at - 1].end() != tokens[at].position) {
+        return false;
+    }
+    const bool found =
+        !m_names.empty() && m_names.back().position + m_names.back().said.size() >= tokens[at].position;
+    const Token &before = tokens[at - 1];
+    static const QString light = QStringLiteral("的要先再就得去来想需能会可又还");
+    const bool strange =
+        (before.kind == Token::Kind::Other && !light.contains(m_text.at(before.end() - 1))) ||
+        before.is(WordClass::Plain);
+    const bool listed =
+        m_text.at(tokens[at].position) == QChar(u'、') && before.kind == Token::Kind::Word &&
+        !before.isAny(WordClass::Nobody | WordClass::Conference | WordClass::NameTail | WordClass::Title);
+    return !found && (strange || listed);
+}
+
 } // namespace understanding

@@ -26,6 +26,9 @@ protected:
     void doubtLast();
     void addChunk(int start, int end, bool mustLookLikeName, bool called);
 
+    /// 一鸣 in 参会人一鸣、芳姐: somebody was named before the separator who was not found.
+    [[nodiscard]] bool isLostBefore(const Tokens &tokens, std::size_t at) const;
+
     std::vector<FoundName> m_names; // NOLINT(misc-non-private-member-variables-in-classes)
     bool m_listed = false;          ///< beside 、, where anything may stand
     int m_modifierStart = -1;       ///< of the name that comes next, -1 for none

@@ -60,7 +60,7 @@ private:
             if (token.is(WordClass::Separator)) {
                 takeLeft(at);
             }
-            m_lost = m_lost || isLostBefore(at);
+            m_lost = m_lost || isLostBefore(m_tokens, at);
             const bool clauseSign =
                 token.is(WordClass::Separator) && !token.is(WordClass::Trigger) && !m_listed;
             return takeZone(at, token.is(WordClass::WeakTrigger) || clauseSign);
@@ -130,26 +130,6 @@ private:
         return m_names.size() > before ? last : at;
     }
 
-    /// 一鸣 in 参会人一鸣、芳姐: somebody was named before the separator who was not found.
-    bool isLostBefore(std::size_t at) const
-    {
-        if (at == 0 || !m_tokens[at].is(WordClass::Separator) ||
-            m_tokens[at - 1].end() != m_tokens[at].position) {
-            return false;
-        }
-        const bool found =
-            !m_names.empty() && m_names.back().position + m_names.back().said.size() >= m_tokens[at].position;
-        const Token &before = m_tokens[at - 1];
-        static const QString light = QStringLiteral("的要先再就得去来想需能会可又还");
-        const bool strange =
-            (before.kind == Token::Kind::Other && !light.contains(m_text.at(before.end() - 1))) ||
-            before.is(WordClass::Plain);
-        const bool listed =
-            m_text.at(m_tokens[at].position) == QChar(u'、') && before.kind == Token::Kind::Word &&
-            !before.isAny(WordClass::Nobody | WordClass::Conference | WordClass::NameTail | WordClass::Title);
-        return !found && (strange || listed);
-    }
-
     /// The names behind the word at @p lead; returns the last token that belongs to them.
     std::size_t takeZone(std::size_t lead, bool mustLookLikeName)
     {
@@ -201,17 +181,24 @@ private:
             }
             at = behind;
             const Token &token = m_tokens[at];
-            m_lost = m_lost || isLostBefore(at);
+            m_lost = m_lost || isLostBefore(m_tokens, at);
             const bool someoneFollows =
                 at + 1 < m_tokens.size() &&
                 (m_tokens[at + 1].kind == Token::Kind::Name || m_tokens[at + 1].kind == Token::Kind::Latin ||
                  m_tokens[at + 1].kind == Token::Kind::Other);
+            if (m_places.isOnlyRelative(at)) { // 叫上我姐: asked about, for nobody is called so
+                addOne(token.position, 2, true);
+                m_names.back().doubtful = true;
+                at += 2;
+                continue;
+            }
             if (token.is(WordClass::Nobody) && token.length == 1 && followsName(at)) { // 叫王磊来我办公室
                 return at;
             }
             if (token.kind == Token::Kind::Name) {
                 at = takeKnownName(at);
-            } else if (token.is(WordClass::Title) && token.length > 1 && someoneFollows) { // 董事长王建国
+            } else if (token.isAny(WordClass::Title | WordClass::Topic) && token.length > 1 &&
+                       someoneFollows) { // 董事长王建国, 评审专家戚教授
                 m_modifierStart = m_modifierStart < 0 ? token.position : m_modifierStart;
             } else if (token.is(WordClass::Title) && token.length > 1 &&
                        !token.is(WordClass::Nobody)) { // 跟老板开会

@@ -82,6 +82,20 @@ bool NamePlaces::isOpeningOne(std::size_t at) const
            m_text.at(m_tokens[next].end() - 1) != QChar(u'下');
 }
 
+bool NamePlaces::isOnlyRelative(std::size_t at) const
+{
+    static const QString speakers = QStringLiteral("我咱俺");
+    static const QString relatives = QStringLiteral("妈爸娘爹姐哥弟妹爷奶姨舅叔伯姑婶嫂");
+    const std::size_t next = at + 1;
+    if (m_tokens[at].length != 1 || !speakers.contains(m_text.at(m_tokens[at].position)) ||
+        next >= m_tokens.size() || m_tokens[next].length != 1 ||
+        m_tokens[next].position != m_tokens[at].end()) {
+        return false;
+    }
+    const bool ends = next + 1 == m_tokens.size() || m_tokens[next + 1].kind != Token::Kind::Other;
+    return ends && relatives.contains(m_text.at(m_tokens[next].position));
+}
+
 bool NamePlaces::isPrefixOfLatin(std::size_t at) const
 {
     return at + 1 < m_tokens.size() && m_tokens[at].length == 1 && m_tokens[at].kind == Token::Kind::Other &&

@@ -182,6 +182,7 @@ bool settlesTime(const QString &text, const Token &token)
 void settleTopics(const QString &text, Tokens &tokens)
 {
     bool inTopic = false;
+    bool called = false; // right before
     for (Token &token : tokens) {
         const bool newTrigger =
             token.is(WordClass::Trigger) && !token.is(WordClass::WeakTrigger) && token.length > 1;
@@ -190,9 +191,12 @@ void settleTopics(const QString &text, Tokens &tokens)
             inTopic = false;
         }
         token.inTopic = inTopic;
-        if (token.is(WordClass::Topic)) {
+        // 评审 in 邀请评审专家戚教授 tells who is called.
+        if (token.is(WordClass::Topic) && !called) {
             inTopic = true;
         }
+        called = token.isAny(WordClass::Trigger | WordClass::Invite) && !token.is(WordClass::StrongOpen) &&
+                 token.length > 1;
     }
 }
 

@@ -84,6 +84,17 @@ private Q_SLOTS:
         row("a new full command ends a question",
             {"加入会议", "? which-conference", "明天有会吗", "QUERY_CONFERENCE datetime=2026-03-08", "123456",
              "? not-understood"});
+        row("a new full command with other people and a time keeps nobody of the old one",
+            {"一会儿和张伟开会", "? which-time", "明天下午三点和李娜开会",
+             "CREATE_CONFERENCE open=开 name=李娜 datetime=2026-03-08T15:00"});
+        row("somebody more comes with the time that was asked for",
+            {"一会儿和张伟开会", "? which-time", "再加上李娜，下午五点",
+             "CREATE_CONFERENCE open=开 name=张伟 name=李娜 datetime=2026-03-07T17:00"});
+        row("somebody else comes in place of who was named",
+            {"一会儿和张伟开会", "? which-time", "改成跟李娜，下午五点",
+             "CREATE_CONFERENCE open=开 name=李娜 datetime=2026-03-07T17:00"});
+        row("now answers when",
+            {"一会儿和张伟开会", "? which-time", "现在", "CREATE_CONFERENCE open=开 name=张伟"});
         row("a new command that lacks something asks its own question",
             {"加入会议", "? which-conference", "加好友", "? whom-to-add", "lisi2024",
              "ADD_BUDDY account=lisi2024"});

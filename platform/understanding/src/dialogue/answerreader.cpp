@@ -192,7 +192,9 @@ static bool takeFurtherNames(const Reading &reading, Outcome &outcome)
     if (reading.names().empty()) {
         return true;
     }
-    if (outcome.intent != QLatin1String(CreateConference) || reading.hasDoubtfulName()) {
+    // 明天三点和李娜开会 is a command of its own.
+    const bool full = reading.has(WordClass::Conference) && !reading.openVerb().isEmpty();
+    if (outcome.intent != QLatin1String(CreateConference) || reading.hasDoubtfulName() || full) {
         return false;
     }
     if (reading.hasAny(WordClass::Repair | WordClass::Change)) {

@@ -185,11 +185,10 @@ Friendship PeopleRepository::friendship(const QString &ownerId, const QString &p
 
 int PeopleRepository::friendCount(const QString &ownerId) const
 {
-    Statement query(
-        m_database,
-        QStringLiteral("SELECT (SELECT count(*) FROM contact INDEXED BY contact_friend"
-                       "  WHERE owner_id = ? AND is_friend = 1)"
-                       " + (SELECT count(*) FROM friend_request WHERE owner_id = ?)"));
+    Statement query(m_database,
+                    QStringLiteral("SELECT (SELECT count(*) FROM contact INDEXED BY contact_friend"
+                                   "  WHERE owner_id = ? AND is_friend = 1)"
+                                   " + (SELECT count(*) FROM friend_request WHERE owner_id = ?)"));
     query.bind(ownerId).bind(ownerId).run().next();
     return query.smallNumber(0);
 }

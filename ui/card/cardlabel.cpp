@@ -38,6 +38,12 @@ void CardLabel::disableEliding()
     update();
 }
 
+void CardLabel::capAtText()
+{
+    m_isCapped = true;
+    setMaximumWidth(qMin(QWIDGETSIZE_MAX, wholeWidth()));
+}
+
 QSize CardLabel::sizeHint() const
 {
     return wholeSize().boundedTo({WidestHint, QWIDGETSIZE_MAX});
@@ -65,6 +71,14 @@ bool CardLabel::event(QEvent *event)
         return true;
     }
     return LLabel::event(event);
+}
+
+void CardLabel::changeEvent(QEvent *event)
+{
+    LLabel::changeEvent(event);
+    if (m_isCapped && event->type() == QEvent::FontChange) {
+        capAtText();
+    }
 }
 
 void CardLabel::paintEvent(QPaintEvent *event)

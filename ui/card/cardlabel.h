@@ -22,6 +22,9 @@ public:
     /// Never makes the label narrower than its text.
     void disableEliding();
 
+    /// Never makes the label wider than its text, whatever its font becomes.
+    void capAtText();
+
     /// What the text needs on one line, in pixels.
     [[nodiscard]] int wholeWidth() const { return wholeSize().width(); }
 
@@ -30,6 +33,7 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
@@ -37,6 +41,7 @@ private:
     [[nodiscard]] QSize wholeSize() const;
 
     bool m_elides = true;
+    bool m_isCapped = false;
 };
 
 /// A label whose colour does not follow the theme; in the dark one it stands on a chip if it needs one.

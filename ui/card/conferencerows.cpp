@@ -59,7 +59,7 @@ CardLabel *addValue(const ConferenceRows::CaptionedRow &row, const QString &text
     CardLabel *value = valueLabel(text, row.widget);
     // A long text takes the width that there is, and none that it does not need.
     value->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    value->setMaximumWidth(qMin(QWIDGETSIZE_MAX, value->wholeWidth()));
+    value->capAtText();
     row.layout->addWidget(value);
     return value;
 }

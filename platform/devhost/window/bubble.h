@@ -28,6 +28,7 @@ public:
     void setCurrent(bool isCurrent);
     QString text() const { return m_text; }
     Role role() const { return m_role; }
+    bool isDimmed() const { return m_isDimmed; }
 
     /// The size of a bubble no wider than @p maximumWidth. @p naturalWidth is its width without that bound.
     static QSize sizeFor(const QString &text, const QFont &font, int maximumWidth, int &naturalWidth);

@@ -1,0 +1,269 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "appearance.h"
+#include "bubble.h"
+#include "card/cardlabel.h"
+#include "cardsamples.h"
+#include "conferencemsgstaticwidget.h"
+#include "conversationview.h"
+#include "inputline.h"
+#include "inspector.h"
+#include "logrecorder.h"
+#include "mainwindow.h"
+#include "paintedcontrast.h"
+#include "titleitem.h"
+
+#include <lumo/lstyle.h>
+
+#include <QtTest>
+#include <QtWidgets>
+
+using namespace CardSamples;
+using namespace devhost;
+
+namespace {
+
+constexpr QSize WindowSize(900, 600);
+/// Pictures are compared in cells of ten pixels, so that another release of a font is no difference.
+constexpr int Cell = 10;
+constexpr int MostOfCell = 70;
+constexpr double MostOnAverage = 4;
+constexpr double LeastTextContrast = 4.5;
+
+struct Desk
+{
+    LogRecorder logs;
+    PluginHost host;
+    Appearance appearance;
+    Conversation conversation{host, logs};
+    MainWindow window{conversation, appearance};
+
+    ConversationView &view() { return *window.view(); }
+    void talk()
+    {
+        // As if it had been said: the page changes to the conversation with the first turn.
+        window.submit(QStringLiteral("你好"));
+        QTRY_VERIFY(!conversation.isBusy());
+        view().clear();
+    }
+};
+
+ConferenceMsgStaticWidget *found()
+{
+    auto *card = new ConferenceMsgStaticWidget;
+    card->singleInit({conference()});
+    return card;
+}
+
+using Arrange = void (*)(Desk &);
+
+void welcome(Desk &) {}
+
+void answer(Desk &desk)
+{
+    desk.talk();
+    desk.view().addSaid(1, QStringLiteral("查询今天的会议"), false);
+    desk.view().addReply(1, QStringLiteral("以下是您查询的视频会议:"), found());
+}
+
+void waiting(Desk &desk)
+{
+    desk.talk();
+    desk.view().addSaid(1, QStringLiteral("查询今天的会议"), false);
+    desk.view().setWaiting(1);
+    desk.view().addSaid(2, QStringLiteral("你会什么"), true);
+}
+
+void editable(Desk &desk)
+{
+    desk.talk();
+    auto *card = new ConferenceMsgStaticWidget;
+    QVector<ContactDetailMsg> list = {conference()};
+    card->createInviteConference(list);
+    desk.view().addReply(1, QStringLiteral("好的，为您预约如下。"), card);
+}
+
+void picked(Desk &desk)
+{
+    desk.talk();
+    auto *card = new ConferenceMsgStaticWidget;
+    card->createMultiplePerson(createdDetail(), true);
+    card->findChildren<TiTleItem *>().at(1)->toggleSelection();
+    desk.view().addReply(1, QStringLiteral("您需要邀请以下哪位好友:"), card);
+}
+
+void disabled(Desk &desk)
+{
+    answer(desk);
+    desk.view().findChild<ConferenceMsgStaticWidget *>()->setEnabled(false);
+}
+
+void failed(Desk &desk)
+{
+    desk.talk();
+    desk.view().addSaid(1, QStringLiteral("查询今天的会议"), false);
+    desk.view().addNotice(1, QStringLiteral("插件没有回答。"));
+}
+
+void problem(Desk &desk)
+{
+    desk.window.showProblem(QStringLiteral("找不到插件。\n请把它安装到那里，或者用 --plugin 指定文件。"));
+}
+
+void scrolledUp(Desk &desk)
+{
+    desk.talk();
+    for (int turn = 1; turn <= 20; ++turn) {
+        desk.view().addSaid(turn, QStringLiteral("第 %1 句").arg(turn), false);
+        desk.view().addReply(turn, QStringLiteral("第 %1 个回答").arg(turn), nullptr);
+    }
+    desk.view().verticalScrollBar()->setValue(100);
+}
+
+void password(Desk &desk)
+{
+    answer(desk);
+    desk.window.input()->setSecret(true);
+    desk.window.input()->setText(QStringLiteral("1234"));
+}
+
+struct State
+{
+    const char *name;
+    Arrange arrange;
+};
+
+constexpr State States[] = {{"welcome", welcome},   {"answer", answer},   {"waiting", waiting},
+                            {"editable", editable}, {"picked", picked},   {"disabled", disabled},
+                            {"failed", failed},     {"problem", problem}, {"scrolled-up", scrolledUp},
+                            {"password", password}};
+
+QImage coarse(const QImage &picture)
+{
+    return picture.convertToFormat(QImage::Format_RGB32)
+        .scaled(WindowSize / Cell, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(State)
+
+/**
+ * The window in ten states, in both themes: compared with the pictures in docs/pictures/desk, and every text
+ * of the desk measured against its ground. With UPDATE_PICTURES set it writes those pictures.
+ */
+class TestWindowPictures : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void everyState_data();
+    void everyState();
+
+private:
+    QTemporaryDir m_settings;
+};
+
+void TestWindowPictures::initTestCase()
+{
+    QApplication::setStyle(new LStyle);
+    QApplication::setCursorFlashTime(0);
+    QCoreApplication::setOrganizationName(QStringLiteral("test"));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
+    QVERIFY(QDir(QStringLiteral(CONTACT_BINARY_DIR)).mkpath(QStringLiteral("pictures")));
+}
+
+void TestWindowPictures::everyState_data()
+{
+    QTest::addColumn<State>("state");
+    QTest::addColumn<bool>("isDark");
+    for (const State &state : States) {
+        QTest::addRow("%s, light", state.name) << state << false;
+        QTest::addRow("%s, dark", state.name) << state << true;
+    }
+}
+
+void TestWindowPictures::everyState()
+{
+    QFETCH(State, state);
+    QFETCH(bool, isDark);
+    Desk desk;
+    desk.appearance.setTheme(isDark ? Appearance::Dark : Appearance::Light);
+    desk.window.resize(WindowSize);
+    desk.window.show();
+    state.arrange(desk);
+    QCoreApplication::sendPostedEvents();
+    QTest::qWait(1); // the queued layout
+    const QImage picture = desk.window.grab().toImage();
+
+    const QString name =
+        QStringLiteral("%1-%2-x%3.png")
+            .arg(QLatin1String(state.name), isDark ? QStringLiteral("dark") : QStringLiteral("light"))
+            .arg(picture.devicePixelRatio());
+    const QString shown = QStringLiteral(CONTACT_SOURCE_DIR "/docs/pictures/desk/") + name;
+    if (qEnvironmentVariableIsSet("UPDATE_PICTURES")) {
+        QVERIFY(picture.save(shown, "PNG", 0));
+    }
+    QVERIFY(picture.save(QStringLiteral(CONTACT_BINARY_DIR "/pictures/desk-") + name));
+
+    // Every text of the desk's own; the cards' colours are the plugin's.
+    const qreal ratio = picture.devicePixelRatio();
+    const auto widgets = desk.window.findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        const auto *bubble = qobject_cast<const Bubble *>(widget);
+        const auto *label = qobject_cast<const QLabel *>(widget);
+        const auto *button = qobject_cast<const QPushButton *>(widget);
+        const bool hasText = (bubble != nullptr && !bubble->isDimmed()) ||
+                             (label != nullptr && !label->text().isEmpty()) || button != nullptr;
+        const QRect place(widget->mapTo(&desk.window, QPoint()), widget->size());
+        bool isOnCard = false;
+        for (const ConversationEntry &entry : desk.view().entries()) {
+            isOnCard = isOnCard || (entry.card != nullptr && entry.card->isAncestorOf(widget));
+        }
+        if (!hasText || isOnCard || !widget->isVisible() || !widget->isEnabled() ||
+            !desk.window.rect().contains(place)) {
+            continue;
+        }
+        const QRect pixels(place.topLeft() * ratio, place.size() * ratio);
+        const double contrast = PaintedContrast::ofText(picture.copy(pixels));
+        QVERIFY2(
+            contrast >= LeastTextContrast,
+            qPrintable(QStringLiteral("%1 %2: %3")
+                           .arg(QLatin1String(widget->metaObject()->className()), widget->accessibleName())
+                           .arg(contrast)));
+    }
+
+    // Fixed texts of a card are never shortened, however large the desktop's text.
+    for (const ConversationEntry &entry : desk.view().entries()) {
+        const auto labels =
+            entry.card == nullptr ? QList<CardLabel *>() : entry.card->findChildren<CardLabel *>();
+        for (const CardLabel *label : labels) {
+            QVERIFY2(!label->isVisible() || label->width() >= label->wholeWidth(), qPrintable(label->text()));
+        }
+    }
+
+    const QImage documented(shown);
+    QVERIFY2(!documented.isNull(), qPrintable(shown));
+    QCOMPARE(documented.size(), picture.size());
+    const QImage one = coarse(documented);
+    const QImage other = coarse(picture);
+    double sum = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const QRgb a = one.pixel(x, y);
+            const QRgb b = other.pixel(x, y);
+            const int difference =
+                qMax(qAbs(qRed(a) - qRed(b)), qMax(qAbs(qGreen(a) - qGreen(b)), qAbs(qBlue(a) - qBlue(b))));
+            QVERIFY2(difference <= MostOfCell,
+                     qPrintable(QStringLiteral("%1 at %2, %3").arg(difference).arg(x * Cell).arg(y * Cell)));
+            sum += difference;
+        }
+    }
+    const double average = sum / (one.width() * one.height());
+    QVERIFY2(average <= MostOnAverage, qPrintable(QString::number(average)));
+}
+
+QTEST_MAIN(TestWindowPictures)
+#include "tst_windowpictures.moc"

@@ -36,15 +36,10 @@ void readInvitation(const QString &answer)
 
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
-{
-    silenceTheLog();
-    return 0;
-}
+void prepareToFuzz(int & /*argc*/, char ** /*argv*/) {}
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+void fuzz(FuzzedDataProvider &bytes)
 {
-    FuzzedDataProvider bytes(data, size);
     const char *const chosen = pick(bytes, {AnswerTemplate::People, AnswerTemplate::TooMany,
                                             AnswerTemplate::Conferences, AnswerTemplate::Outcome});
     const QString answer = QString::fromUtf8(TemplateText(bytes).after(chosen));
@@ -68,5 +63,4 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 
     ContactCreatedConferenceDetail updated;
     require(isCode(ContactUtils::analyzeUpdateReturnContext(answer, updated)));
-    return 0;
 }

@@ -156,18 +156,15 @@ bool contactsApplicationIsRunning()
     return true;
 }
 
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+void prepareToFuzz(int &argc, char **argv)
 {
-    silenceTheLog();
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    static const QApplication application(*argc, *argv);
+    static const QApplication application(argc, argv);
     static const ContactReplyWidget dispatcher;
-    return 0;
 }
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+void fuzz(FuzzedDataProvider &bytes)
 {
-    FuzzedDataProvider bytes(data, size);
     const int action = bytes.ConsumeIntegralInRange<int>(Create_Success, Query_List + 1);
     // Once in a while the record is that of another action.
     const bool fits = bytes.ConsumeIntegralInRange(0, 15) != 15;
@@ -200,5 +197,4 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     require(QApplication::topLevelWidgets().isEmpty());
-    return 0;
 }

@@ -122,17 +122,14 @@ void writeTime(FuzzedDataProvider &bytes)
 
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
+void prepareToFuzz(int & /*argc*/, char ** /*argv*/)
 {
-    silenceTheLog();
     qputenv("TZ", "America/New_York"); // where an hour of 10 March 2030 does not exist
     tzset();
-    return 0;
 }
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+void fuzz(FuzzedDataProvider &bytes)
 {
-    FuzzedDataProvider bytes(data, size);
     switch (bytes.ConsumeIntegralInRange(0, 2)) {
     case 0:
         writeTime(bytes);
@@ -143,5 +140,4 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     default:
         writeRecords(bytes);
     }
-    return 0;
 }

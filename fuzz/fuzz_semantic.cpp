@@ -55,15 +55,10 @@ void *operator new(std::size_t size, const std::nothrow_t &) noexcept
     return hasMemory ? ::operator new(size) : nullptr;
 }
 
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
-{
-    silenceTheLog();
-    return 0;
-}
+void prepareToFuzz(int & /*argc*/, char ** /*argv*/) {}
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+void fuzz(FuzzedDataProvider &bytes)
 {
-    FuzzedDataProvider bytes(data, size);
     const char *const chosen = pick(bytes, {Command, Question});
     const QString text = QString::fromUtf8(TemplateText(bytes).after(chosen));
     readIntents(text);
@@ -76,5 +71,4 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     QString shown = QStringLiteral("before");
     QString spoken = QStringLiteral("before");
     ContactUtils::getVoiceAnswerContext(text, shown, spoken);
-    return 0;
 }

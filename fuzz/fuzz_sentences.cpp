@@ -51,15 +51,10 @@ void requireSemantic(const QString &json)
 
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
-{
-    silenceTheLog();
-    return 0;
-}
+void prepareToFuzz(int & /*argc*/, char ** /*argv*/) {}
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+void fuzz(FuzzedDataProvider &bytes)
 {
-    FuzzedDataProvider bytes(data, size);
     const QDateTime now(QDate(2026, 3, 7), QTime(10, 20));
     QStringList contacts{QStringLiteral("张伟"), QStringLiteral("a")};
     if (bytes.ConsumeBool()) {
@@ -76,5 +71,4 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             dialogue.noteReply(bytes.ConsumeBool() ? -16014 : 0, QStringLiteral("请输入密码"));
         }
     }
-    return 0;
 }

@@ -4,7 +4,6 @@
 #include "fuzzsupport.h"
 
 #include <QJsonDocument>
-#include <QtGlobal>
 
 #include <cstdlib>
 
@@ -42,12 +41,6 @@ QString anyText(FuzzedDataProvider &bytes, Words words)
         text += QChar(static_cast<uchar>(raw[at]), static_cast<uchar>(raw[at + 1]));
     }
     return text;
-}
-
-void silenceTheLog()
-{
-    qInstallMessageHandler(
-        [](QtMsgType type, const QMessageLogContext &, const QString &) { require(type != QtFatalMsg); });
 }
 
 void require(bool holds)

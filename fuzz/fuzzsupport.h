@@ -17,8 +17,12 @@ const char *pick(FuzzedDataProvider &bytes, Words words);
 /// One of @p words, or any characters at all, broken surrogates included.
 QString anyText(FuzzedDataProvider &bytes, Words words);
 
-/// Drops all log records: the fuzzer's own output is what one wants to see.
-void silenceTheLog();
+// Each harness defines these two.
+
+/// Called once, before any input.
+void prepareToFuzz(int &argc, char **argv);
+/// Called for each input. Returns with everything as it was.
+void fuzz(FuzzedDataProvider &bytes);
 
 /// Ends the run as a finding when @p holds is false.
 void require(bool holds);

@@ -5,7 +5,7 @@
 
 #include "book/administration.h"
 #include "book/requestticket.h"
-#include "service/busnames.h"
+#include "busnames.h"
 #include "service/contactrequests.h"
 
 #include "admin1adaptor.h"
@@ -70,9 +70,8 @@ bool BusService::putOnBus(const QString &path, QObject *object)
 void BusService::askOtherForWindow()
 {
     constexpr int timeoutMsecs = 5000;
-    QDBusMessage message = QDBusMessage::createMethodCall(BusName::service(), BusName::contactPath(),
-                                                          QStringLiteral("com.kelvane.meetlynx.Contact1"),
-                                                          QStringLiteral("Request"));
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        BusName::service(), BusName::contactPath(), BusName::contactInterface(), QStringLiteral("Request"));
     const qint64 deadlineMsecs = RequestTicket::nowMsecs() + timeoutMsecs;
     message << QStringLiteral("Open Conference List") << QString() << deadlineMsecs << QString();
     const QDBusMessage reply = m_connection.call(message, QDBus::Block, timeoutMsecs);

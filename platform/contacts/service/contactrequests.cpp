@@ -5,7 +5,7 @@
 
 #include "book/contactsbook.h"
 #include "book/useroverview.h"
-#include "service/busnames.h"
+#include "busnames.h"
 
 ContactRequests::ContactRequests(ContactsBook &book, QObject *parent) : QObject(parent), m_book(book)
 {

@@ -3,6 +3,8 @@
 
 #include "namereader.h"
 
+#include "busnames.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -16,21 +18,6 @@ namespace {
 constexpr int AnswerMsecs = 3000;
 constexpr int MostNames = 10000;
 constexpr int LongestName = 400;
-
-QString service()
-{
-    return QStringLiteral("com.kelvane.meetlynx");
-}
-
-QString path()
-{
-    return QStringLiteral("/com/kelvane/meetlynx");
-}
-
-QString interfaceName()
-{
-    return QStringLiteral("com.kelvane.meetlynx.Contact1");
-}
 
 /// What another program sent is bounded before it is used.
 QStringList usable(const QStringList &names)
@@ -54,10 +41,10 @@ void NameReader::start()
         Q_EMIT read({});
         return;
     }
-    bus().connect(service(), path(), interfaceName(), QStringLiteral("ContactNamesChanged"), this,
-                  SLOT(ask()));
+    bus().connect(BusName::service(), BusName::contactPath(), BusName::contactInterface(),
+                  QStringLiteral("ContactNamesChanged"), this, SLOT(ask()));
     auto *watcher =
-        new QDBusServiceWatcher(service(), bus(), QDBusServiceWatcher::WatchForRegistration, this);
+        new QDBusServiceWatcher(BusName::service(), bus(), QDBusServiceWatcher::WatchForRegistration, this);
     connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &NameReader::ask);
     ask();
 }
@@ -71,8 +58,9 @@ void NameReader::ask()
     m_isAsking = true;
     m_askAgain = false;
     QDBusMessage message =
-        QDBusMessage::createMethodCall(service(), path(), interfaceName(), QStringLiteral("ContactNames"));
-    message.setAutoStartService(false); // whether the application runs is the plugin's affair
+        QDBusMessage::createMethodCall(BusName::service(), BusName::contactPath(),
+                                       BusName::contactInterface(), QStringLiteral("ContactNames"));
+    message.setAutoStartService(false); // starting the application is up to the plugin
     connect(call(message, AnswerMsecs), &QDBusPendingCallWatcher::finished, this,
             [this](QDBusPendingCallWatcher *finished) {
                 const QDBusPendingReply<QStringList> reply = *finished;

@@ -3,6 +3,8 @@
 
 #include "applicationasker.h"
 
+#include "busnames.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -16,15 +18,10 @@ constexpr int BusMsecs = 3000;
 constexpr int AnswerMsecs = 3000;
 constexpr int StartMsecs = 10000;
 
-QString serviceName()
-{
-    return QStringLiteral("com.kelvane.meetlynx");
-}
-
 QDBusMessage callOf(const QString &method)
 {
-    return QDBusMessage::createMethodCall(serviceName(), QStringLiteral("/com/kelvane/meetlynx"),
-                                          QStringLiteral("com.kelvane.meetlynx.Contact1"), method);
+    return QDBusMessage::createMethodCall(BusName::service(), BusName::contactPath(),
+                                          BusName::contactInterface(), method);
 }
 
 } // namespace
@@ -41,7 +38,8 @@ bool ApplicationAsker::reachBus()
     if (!connectToBus(BusMsecs)) {
         return false;
     }
-    m_watcher = new QDBusServiceWatcher(serviceName(), bus(), QDBusServiceWatcher::WatchForOwnerChange, this);
+    m_watcher =
+        new QDBusServiceWatcher(BusName::service(), bus(), QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &ApplicationAsker::ask);
     return true;
 }

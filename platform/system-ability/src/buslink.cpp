@@ -4,6 +4,7 @@
 #include "buslink.h"
 
 #include "abilitytrace.h"
+#include "busnames.h"
 #include "busprobe.h"
 #include "callerror.h"
 #include "connectionguard.h"
@@ -35,16 +36,6 @@ constexpr int LongestFarewellMsecs = 3000;
 constexpr int MostUnclear = 100;
 /// And so often the application may fail to tell what became of one.
 constexpr int MostErrors = 10;
-
-QString serviceName()
-{
-    return QStringLiteral("com.kelvane.meetlynx");
-}
-
-QString objectPath()
-{
-    return QStringLiteral("/com/kelvane/meetlynx");
-}
 
 PendingRequest::Result resultOf(const QDBusPendingReply<QString> &reply)
 {
@@ -253,7 +244,7 @@ QDBusError BusLink::connectToBus(const PendingRequest &request)
         disconnectFromBus();
         return error.isValid() ? error : QDBusError(QDBusError::NoServer, QStringLiteral("no session bus"));
     }
-    m_proxy = std::make_unique<Contact1Proxy>(serviceName(), objectPath(), bus);
+    m_proxy = std::make_unique<Contact1Proxy>(BusName::service(), BusName::contactPath(), bus);
     return {};
 }
 

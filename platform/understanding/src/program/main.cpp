@@ -4,7 +4,7 @@
 #include "dialogue/answers.h"
 #include "dialogue/semanticwriter.h"
 #include "meaning/interpreter.h"
-#include "program/linereader.h"
+#include "program/linesplitter.h"
 #include "words/contactindex.h"
 
 #include <QCommandLineParser>
@@ -62,7 +62,7 @@ bool writeAll(const QByteArray &bytes)
 int run(const Options &options)
 {
     const ContactIndex contacts(options.contacts);
-    LineReader lines;
+    LineSplitter lines;
     std::array<char, 65536> buffer{};
     const auto moment = [&] {
         return options.now.isValid() ? options.now : QDateTime::currentDateTime();

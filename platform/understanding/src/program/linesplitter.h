@@ -12,7 +12,7 @@ namespace understanding {
 /// Cuts a stream of bytes into lines as it arrives. A line keeps no more bytes than any sentence that is read
 /// at all can have, so that endless lines take no memory; what is cut off leaves the line too long to be
 /// read.
-class LineReader final
+class LineSplitter final
 {
 public:
     /// The lines that @p bytes completes, without their ends.

@@ -5,7 +5,7 @@
 
 #include <QString>
 
-/// Where the application is found on the session bus.
+/// Where the contacts application is found on the session bus.
 namespace BusName {
 inline QString service()
 {
@@ -14,6 +14,10 @@ inline QString service()
 inline QString contactPath()
 {
     return QStringLiteral("/com/kelvane/meetlynx");
+}
+inline QString contactInterface()
+{
+    return QStringLiteral("com.kelvane.meetlynx.Contact1");
 }
 inline QString adminPath()
 {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "program/linereader.h"
+#include "program/linesplitter.h"
 
 #include <cstring>
 #include <utility>
@@ -14,7 +14,7 @@ constexpr int LongestLine = 4096; // twice the bytes of the longest sentence
 
 } // namespace
 
-std::vector<QByteArray> LineReader::add(const char *bytes, qint64 count)
+std::vector<QByteArray> LineSplitter::add(const char *bytes, qint64 count)
 {
     std::vector<QByteArray> lines;
     const char *end = bytes + count;
@@ -31,7 +31,7 @@ std::vector<QByteArray> LineReader::add(const char *bytes, qint64 count)
     return lines;
 }
 
-bool LineReader::takeRest(QByteArray &line)
+bool LineSplitter::takeRest(QByteArray &line)
 {
     if (!m_hasPending) {
         return false;
@@ -40,14 +40,14 @@ bool LineReader::takeRest(QByteArray &line)
     return true;
 }
 
-void LineReader::append(const char *bytes, qint64 count)
+void LineSplitter::append(const char *bytes, qint64 count)
 {
     m_hasPending = true;
     const qint64 room = LongestLine - m_pending.size();
     m_pending.append(bytes, static_cast<int>(qMin(count, room)));
 }
 
-QByteArray LineReader::take()
+QByteArray LineSplitter::take()
 {
     QByteArray line = std::exchange(m_pending, QByteArray());
     m_hasPending = false;

@@ -3,6 +3,7 @@
 
 #include "configmanager.h"
 #include "logcapture.h"
+#include "testcolumns.h"
 #include "virtualplace.h"
 
 #include <QElapsedTimer>
@@ -175,8 +176,7 @@ private Q_SLOTS:
 
     void listsAreSplitAtBars_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("parts");
+        addColumns<QString, QStringList>({"text", "parts"});
         QTest::newRow("two") << QStringLiteral("a|b")
                              << QStringList({QStringLiteral("a"), QStringLiteral("b")});
         QTest::newRow("one") << QStringLiteral("a b,c") << QStringList{QStringLiteral("a b,c")};
@@ -263,8 +263,7 @@ private Q_SLOTS:
 
     void onlyRegularFilesAreRead_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("reason");
+        addColumns<QString, QString>({"path", "reason"});
         const QString fifo = m_folder.filePath(QStringLiteral("fifo"));
         QVERIFY(::mkfifo(QFile::encodeName(fifo).constData(), 0600) == 0 || errno == EEXIST);
         const QString notRegular = QStringLiteral("it is not a regular file");

@@ -3,6 +3,7 @@
 
 #include "contactutils.h"
 #include "logcapture.h"
+#include "testcolumns.h"
 #include "wire/resultcodes.h"
 
 #include <QJsonArray>
@@ -39,8 +40,7 @@ const char *const AllWords[] = {
 template <std::size_t Size>
 void addRows(const Row (&table)[Size], int otherwise)
 {
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<int>("code");
+    addColumns<QString, int>({"word", "code"});
     for (const char *word : AllWords) {
         int code = otherwise;
         for (const Row &row : table) {
@@ -150,8 +150,7 @@ private Q_SLOTS:
 
     void listOfACreatedConferenceIsReadWhenScheduled_data()
     {
-        QTest::addColumn<bool>("isSchedule");
-        QTest::addColumn<int>("conferences");
+        addColumns<bool, int>({"isSchedule", "conferences"});
         QTest::newRow("scheduled: read") << true << 1;
         QTest::newRow("at once: left as it was") << false << 3;
     }
@@ -242,8 +241,7 @@ private Q_SLOTS:
 
     void namesDecideWhatReturnMeans_data()
     {
-        QTest::addColumn<QStringList>("statuses");
-        QTest::addColumn<int>("code");
+        addColumns<QStringList, int>({"statuses", "code"});
         const QString ok = QStringLiteral("OK");
         const QString twice = QStringLiteral("Duplicate");
         const QString missing = QStringLiteral("Not Found");
@@ -283,8 +281,7 @@ private Q_SLOTS:
 
     void membersLimitTellsHowManyFit_data()
     {
-        QTest::addColumn<QByteArray>("number");
-        QTest::addColumn<int>("canInvite");
+        addColumns<QByteArray, int>({"number", "canInvite"});
         QTest::newRow("two") << QByteArray(", \"can_invite_num\": 2") << 2;
         QTest::newRow("none") << QByteArray(", \"can_invite_num\": 0") << 0;
         QTest::newRow("missing") << QByteArray() << 0;

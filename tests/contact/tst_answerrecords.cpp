@@ -4,6 +4,7 @@
 #include "contactutils.h"
 #include "logcapture.h"
 #include "signalactiontype.h"
+#include "testcolumns.h"
 #include "wire/answerwords.h"
 
 #include <QJsonArray>
@@ -132,8 +133,7 @@ private Q_SLOTS:
 
     void startTimes_data()
     {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<qint64>("msecs");
+        addColumns<QByteArray, qint64>({"json", "msecs"});
         QTest::newRow("beyond 32 bits") << QByteArray("1700000000000") << qint64(1700000000000);
         QTest::newRow("before the epoch") << QByteArray("-1") << qint64(-1);
         QTest::newRow("a text with a number") << QByteArray("\"1700000000000\"") << qint64(1700000000000);
@@ -150,8 +150,7 @@ private Q_SLOTS:
 
     void durations_data()
     {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<qint64>("duration");
+        addColumns<QByteArray, qint64>({"json", "duration"});
         QTest::newRow("an hour") << QByteArray("3600000") << qint64(3600000);
         QTest::newRow("written with an exponent") << QByteArray("36e5") << qint64(3600000);
         QTest::newRow("the largest in 32 bits") << QByteArray("2147483647") << qint64(2147483647);
@@ -167,8 +166,7 @@ private Q_SLOTS:
 
     void statuses_data()
     {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<int>("status");
+        addColumns<QByteArray, int>({"json", "status"});
         QTest::newRow("a text with a number") << QByteArray("\"2\"") << 2;
         QTest::newRow("a number") << QByteArray("2") << 0;
         QTest::newRow("a text without") << QByteArray("\"running\"") << 0;

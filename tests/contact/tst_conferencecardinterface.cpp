@@ -8,6 +8,7 @@
 #include "logcapture.h"
 #include "scriptedability.h"
 #include "signalactiontype.h"
+#include "testcolumns.h"
 
 #include <QJsonObject>
 #include <QThread>
@@ -26,11 +27,8 @@ const QString Params = QStringLiteral("{\"as\":\"given\"}");
 
 void addOperations()
 {
-    QTest::addColumn<Operation>("operation");
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<QString>("parameters");
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<int>("code");
+    addColumns<Operation, QString, QString, QString, int>(
+        {"operation", "action", "parameters", "word", "code"});
     const auto row = [](const char *name, const Operation &operation, const char *action,
                         const QString &parameters, const char *word, int code) {
         QTest::newRow(name) << operation << QString::fromUtf8(action) << parameters << QString::fromUtf8(word)
@@ -256,9 +254,7 @@ private Q_SLOTS:
 
     void inMeeting_data()
     {
-        QTest::addColumn<int>("call");
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<bool>("isInMeeting");
+        addColumns<int, QString, bool>({"call", "answer", "isInMeeting"});
         QTest::newRow("host") << 0 << answerOf(QStringLiteral("True")) << true;
         QTest::newRow("guest") << 0 << answerOf(QStringLiteral("False")) << true;
         QTest::newRow("ok") << 0 << answerOf(QStringLiteral("OK")) << true;

@@ -3,6 +3,7 @@
 
 #include "contactutils.h"
 #include "logcapture.h"
+#include "testcolumns.h"
 
 #include <QtTest>
 
@@ -15,8 +16,7 @@ class TestContactUtils : public QObject
 private Q_SLOTS:
     void singleTexts_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("inJson");
+        addColumns<QString, QString>({"text", "inJson"});
         QTest::newRow("plain") << QStringLiteral("lilei") << QStringLiteral("lilei");
         QTest::newRow("Chinese") << QStringLiteral("李 雷") << QStringLiteral("李 雷");
         QTest::newRow("quotes and line breaks")
@@ -40,8 +40,7 @@ private Q_SLOTS:
 
     void inviteLeavesOutEmptyAndRepeatedNames_data()
     {
-        QTest::addColumn<QVector<QString>>("names");
-        QTest::addColumn<QString>("members");
+        addColumns<QVector<QString>, QString>({"names", "members"});
         const QString a = QStringLiteral("A");
         const QString b = QStringLiteral("B");
         QTest::newRow("nobody") << QVector<QString>() << QString();
@@ -70,8 +69,7 @@ private Q_SLOTS:
 
     void namesAreJoined_data()
     {
-        QTest::addColumn<QVector<QString>>("names");
-        QTest::addColumn<QString>("text");
+        addColumns<QVector<QString>, QString>({"names", "text"});
         const QString a = QStringLiteral("A");
         QTest::newRow("none") << QVector<QString>() << QString();
         QTest::newRow("one") << QVector<QString>{a} << a;

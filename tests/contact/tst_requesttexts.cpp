@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "request/requesttexts.h"
+#include "testcolumns.h"
 
 #include <QtTest>
 
@@ -46,8 +47,7 @@ void TestRequestTexts::numbersBeyond32BitsStayWhole()
 
 void TestRequestTexts::theMembersOfARequest_data()
 {
-    QTest::addColumn<QVector<UserInfo>>("members");
-    QTest::addColumn<QString>("array");
+    addColumns<QVector<UserInfo>, QString>({"members", "array"});
     const UserInfo zhang = {QStringLiteral("张三"), QStringLiteral("张三（市场部）"), QStringLiteral("z1"),
                             QStringLiteral("zhangsan01")};
     const UserInfo quoted = {QStringLiteral("\"\\"), {}, QStringLiteral("q"), {}};
@@ -73,8 +73,7 @@ void TestRequestTexts::theMembersOfARequest()
 
 void TestRequestTexts::membersKnownByNameOnly_data()
 {
-    QTest::addColumn<QVector<QString>>("names");
-    QTest::addColumn<QString>("array");
+    addColumns<QVector<QString>, QString>({"names", "array"});
     const QString a = QStringLiteral("a");
     QTest::newRow("nobody") << QVector<QString>() << QStringLiteral("[]");
     QTest::newRow("a repeated name once, in the order said")

@@ -5,6 +5,7 @@
 #include "contactutils.h"
 #include "fakeprocesstable.h"
 #include "logcapture.h"
+#include "testcolumns.h"
 
 #include <QJsonObject>
 #include <QTemporaryDir>
@@ -66,8 +67,7 @@ private Q_SLOTS:
 
     void runningMeansExactlyOneProcess_data()
     {
-        QTest::addColumn<int>("matches");
-        QTest::addColumn<bool>("isRunning");
+        addColumns<int, bool>({"matches", "isRunning"});
         QTest::newRow("none") << 0 << false;
         QTest::newRow("one") << 1 << true;
         QTest::newRow("two") << 2 << false;
@@ -127,10 +127,7 @@ private Q_SLOTS:
 
     void timeOuts_data()
     {
-        QTest::addColumn<QString>("timeOut");
-        QTest::addColumn<QString>("maxTimeOut");
-        QTest::addColumn<int>("matches");
-        QTest::addColumn<int>("msecs");
+        addColumns<QString, QString, int, int>({"timeOut", "maxTimeOut", "matches", "msecs"});
         const auto row = [](const char *name, const char *timeOut, const char *maxTimeOut, int matches,
                             int msecs) {
             QTest::newRow(name) << QString::fromUtf8(timeOut) << QString::fromUtf8(maxTimeOut) << matches

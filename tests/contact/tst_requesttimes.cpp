@@ -3,6 +3,7 @@
 
 #include "contactutils.h"
 #include "logcapture.h"
+#include "testcolumns.h"
 
 #include <QDateTime>
 #include <QJsonDocument>
@@ -206,9 +207,7 @@ private Q_SLOTS:
 
     void scheduledStart_data()
     {
-        QTest::addColumn<QString>("slot");
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<bool>("isAccepted");
+        addColumns<QString, QString, bool>({"slot", "start", "isAccepted"});
         for (const Schedule &row : schedules()) {
             if (clockOfThisRun() == QString::fromUtf8(row.clock)) {
                 QTest::newRow(row.name) << row.slot << QString::fromUtf8(row.startUtc) << row.isAccepted;
@@ -278,8 +277,7 @@ private Q_SLOTS:
 
     void unreadableSlotChangesNothing_data()
     {
-        QTest::addColumn<QString>("slot");
-        QTest::addColumn<QString>("warning");
+        addColumns<QString, QString>({"slot", "warning"});
         const auto broken = [](const char *name, const char *slot) {
             QJsonParseError error;
             QJsonDocument::fromJson(slot, &error);
@@ -319,11 +317,7 @@ private Q_SLOTS:
 
     void queriedRange_data()
     {
-        QTest::addColumn<QString>("slot");
-        QTest::addColumn<qint64>("startIn");
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<QString>("end");
-        QTest::addColumn<QString>("exact");
+        addColumns<QString, qint64, QString, QString, QString>({"slot", "startIn", "start", "end", "exact"});
         for (const Query &row : queries()) {
             if (clockOfThisRun() == QString::fromUtf8(row.clock)) {
                 QTest::newRow(row.name) << row.slot << row.startIn << QString::fromUtf8(row.startUtc)

@@ -3,6 +3,7 @@
 
 #include "contactutils.h"
 #include "logcapture.h"
+#include "testcolumns.h"
 
 #include <QtTest>
 
@@ -13,9 +14,7 @@ class TestSemanticReaders : public QObject
 private Q_SLOTS:
     void shouldEndSession_data()
     {
-        QTest::addColumn<QString>("json");
-        QTest::addColumn<bool>("ends");
-        QTest::addColumn<QString>("record");
+        addColumns<QString, bool, QString>({"json", "ends", "record"});
         const auto row = [](const char *name, const char *json, bool ends, const char *record = "") {
             QTest::newRow(name) << QString::fromUtf8(json) << ends << QString::fromUtf8(record);
         };
@@ -46,9 +45,7 @@ private Q_SLOTS:
 
     void voiceAnswers_data()
     {
-        QTest::addColumn<QString>("json");
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<QString>("spoken");
+        addColumns<QString, QString, QString>({"json", "shown", "spoken"});
         const QString untouched = QStringLiteral("(untouched)");
         const auto row = [](const char *name, const char *json, const QString &shown, const QString &spoken) {
             QTest::newRow(name) << QString::fromUtf8(json) << shown << spoken;

@@ -6,6 +6,7 @@
 #include "book/useroverview.h"
 #include "core/displaytext.h"
 #include "core/statement.h"
+#include "testcolumns.h"
 
 #include <QJsonDocument>
 #include <QtTest>
@@ -171,10 +172,7 @@ private:
 
 void TestActions::outcome_data()
 {
-    QTest::addColumn<Arrange>("arrange");
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<Parameters>("parameters");
-    QTest::addColumn<QString>("expected");
+    addColumns<Arrange, QString, Parameters, QString>({"arrange", "action", "parameters", "expected"});
     const auto row = [](const char *name, const Arrange &arrange, const QString &action,
                         const Parameters &parameters, const char *expected) {
         QTest::newRow(name) << arrange << action << parameters << QString::fromLatin1(expected);

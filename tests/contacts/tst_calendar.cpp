@@ -5,6 +5,7 @@
 
 #include "calendar/calendarexport.h"
 #include "calendar/conferencecalendar.h"
+#include "testcolumns.h"
 
 #include <QFile>
 #include <QProcess>
@@ -76,9 +77,7 @@ void TestCalendar::cleanup()
 
 void TestCalendar::anotherLibraryReadsIt_data()
 {
-    QTest::addColumn<QByteArray>("zone");
-    QTest::addColumn<QString>("startUtc");
-    QTest::addColumn<QByteArray>("localTime");
+    addColumns<QByteArray, QString, QByteArray>({"zone", "startUtc", "localTime"});
     QTest::newRow("no summer time") << QByteArray("Asia/Shanghai") << QStringLiteral("2026-03-08T02:00:00Z")
                                     << QByteArray("20260308T100000");
     QTest::newRow("winter in Berlin") << QByteArray("Europe/Berlin") << QStringLiteral("2026-01-15T09:00:00Z")
@@ -155,8 +154,7 @@ void TestCalendar::anotherLibraryReadsIt()
 
 void TestCalendar::oddTitlesStayOneText_data()
 {
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("read");
+    addColumns<QString, QString>({"title", "read"});
     QTest::newRow("what the format uses")
         << QStringLiteral("a;b,c\\n:\"d\"") << QStringLiteral("a;b,c\\n:\"d\"");
     QTest::newRow("a property of its own") << QStringLiteral("x\r\nEND:VEVENT\r\nATTACH:file:///etc/passwd")

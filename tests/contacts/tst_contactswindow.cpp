@@ -6,6 +6,7 @@
 #include "logcapture.h"
 
 #include "core/statement.h"
+#include "testcolumns.h"
 #include "window/conferencemodel.h"
 #include "window/contactswindow.h"
 #include "window/tablepage.h"
@@ -486,9 +487,7 @@ void TestContactsWindow::theMenuCopiesTheNumber()
 
 void TestContactsWindow::pictures_data()
 {
-    QTest::addColumn<int>("theme");
-    QTest::addColumn<int>("tab");
-    QTest::addColumn<bool>("loggedIn");
+    addColumns<int, int, bool>({"theme", "tab", "loggedIn"});
     const QString scale = qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1"));
     for (const int theme : {int(LGuiApplicationHelper::LightType), int(LGuiApplicationHelper::DarkType)}) {
         const QString name =

@@ -9,6 +9,7 @@
 #include "core/middlekey.h"
 #include "core/openinglock.h"
 #include "core/statement.h"
+#include "testcolumns.h"
 
 #include <QDir>
 #include <QProcess>
@@ -253,8 +254,7 @@ private:
 
 void TestDatabaseFaults::aHealthyFileIsNeverSetAside_data()
 {
-    QTest::addColumn<int>("roomBytes");
-    QTest::addColumn<Obstacle>("obstacle");
+    addColumns<int, Obstacle>({"roomBytes", "obstacle"});
     const Obstacle none = [](const QString &) {
         return [] {
         };
@@ -358,8 +358,7 @@ void TestDatabaseFaults::whatCanBeReadOfADamagedFileIsKept()
 
 void TestDatabaseFaults::whatLiesBetweenDamagedPlacesIsKept_data()
 {
-    QTest::addColumn<QString>("table");
-    QTest::addColumn<QVector<int>>("places");
+    addColumns<QString, QVector<int>>({"table", "places"});
     for (const char *table : {"person", "contact", "conference", "participant", "friend_request"}) {
         QTest::addRow("%s, seven places", table)
             << QString::fromLatin1(table) << QVector<int>{8, 20, 35, 50, 65, 80, 92};
@@ -411,9 +410,7 @@ void TestDatabaseFaults::whatLiesBetweenDamagedPlacesIsKept()
 
 void TestDatabaseFaults::aMiddleKeyIsInTheMiddle_data()
 {
-    QTest::addColumn<RowKey>("low");
-    QTest::addColumn<RowKey>("high");
-    QTest::addColumn<RowKey>("middle");
+    addColumns<RowKey, RowKey, RowKey>({"low", "high", "middle"});
     const auto text = [](const char *value) {
         return QVariant(QString::fromUtf8(value));
     };

@@ -6,6 +6,7 @@
 #include "logcapture.h"
 
 #include "actions/requestparameters.h"
+#include "testcolumns.h"
 
 #include <QtTest>
 
@@ -44,8 +45,7 @@ private Q_SLOTS:
 
 void TestHostileParameters::refused_data()
 {
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<QString>("parameters");
+    addColumns<QString, QString>({"action", "parameters"});
     const auto create = QStringLiteral("Create Conference");
     const auto update = QStringLiteral("Update Conference");
     const auto search = QStringLiteral("Search Conference");
@@ -113,9 +113,7 @@ void TestHostileParameters::refused()
 
 void TestHostileParameters::oddButHarmless_data()
 {
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<QString>("parameters");
-    QTest::addColumn<QString>("expected");
+    addColumns<QString, QString, QString>({"action", "parameters", "expected"});
     const auto row = [](const char *name, const char *action, const QString &parameters,
                         const char *expected) {
         QTest::newRow(name) << QString::fromLatin1(action) << parameters << QString::fromLatin1(expected);

@@ -3,6 +3,7 @@
 
 #include "semantics.h"
 #include "silentsocket.h"
+#include "testcolumns.h"
 
 #include <QImage>
 #include <QProcess>
@@ -153,8 +154,7 @@ void TestDevhostProgram::batchReadsAFile()
 
 void TestDevhostProgram::wrongUsageEndsWithTwo_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QByteArray>("told");
+    addColumns<QStringList, QByteArray>({"arguments", "told"});
     QTest::newRow("unknown option") << QStringList{QStringLiteral("--converse"), QStringLiteral("--nonsense")}
                                     << QByteArray("nonsense");
     QTest::newRow("no file") << QStringList{QStringLiteral("--batch"), QStringLiteral("/nowhere")}

@@ -3,6 +3,7 @@
 
 #include "realdesk.h"
 
+#include "testcolumns.h"
 #include "welcomepage.h"
 
 using namespace devhost;
@@ -139,8 +140,7 @@ void TestExamples::welcomePageWorksOneByOne()
 
 void TestExamples::documentsWork_data()
 {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<int>("sentences");
+    addColumns<QString, int>({"file", "sentences"});
 
     QTest::newRow("README.md") << "README.md" << 1;
     QTest::newRow("README.zh-CN.md") << "README.zh-CN.md" << 7;

@@ -16,6 +16,7 @@
 #include "replyjson.h"
 #include "secrets.h"
 #include "silentsocket.h"
+#include "testcolumns.h"
 #include "textlayout.h"
 
 #include <kelvane/abilitycodes.h>
@@ -57,8 +58,7 @@ private Q_SLOTS:
 
 void TestHostPieces::textsAreShownWithoutWhatHides_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("shown");
+    addColumns<QString, QString>({"text", "shown"});
     QTest::newRow("plain text stays") << QStringLiteral("张伟 <b>x</b>") << QStringLiteral("张伟 <b>x</b>");
     QTest::newRow("line breaks stay, tabs become blanks")
         << QStringLiteral("a\nb\tc") << QStringLiteral("a\nb c");

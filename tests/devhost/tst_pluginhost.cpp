@@ -7,6 +7,7 @@
 #include "screenshots.h"
 #include "semantics.h"
 #include "terminalconversation.h"
+#include "testcolumns.h"
 
 #include <QtTest>
 
@@ -52,11 +53,8 @@ void TestPluginHost::cleanup()
 
 void TestPluginHost::unusablePluginIsExplained_data()
 {
-    QTest::addColumn<QString>("plugin");
-    QTest::addColumn<QByteArray>("init");
-    QTest::addColumn<QByteArray>("services");
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("named");
+    addColumns<QString, QByteArray, QByteArray, int, QString>(
+        {"plugin", "init", "services", "kind", "named"});
     const QByteArray none;
     QTest::newRow("a file that is not there")
         << QStringLiteral("/nowhere/x.so") << none << none << int(PluginProblem::Missing)
@@ -143,8 +141,7 @@ void TestPluginHost::everyTurnGetsAFreshService()
 
 void TestPluginHost::failingTurnIsToldAndTheNextGoesOn_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("told");
+    addColumns<QString, QString>({"text", "told"});
     QTest::newRow("service() throws") << semantic("THROW") << QStringLiteral("thrown on purpose");
     QTest::newRow("getServiceReply() throws")
         << semantic("THROWREPLY") << QStringLiteral("thrown in the reply");

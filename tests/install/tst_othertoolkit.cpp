@@ -6,6 +6,7 @@
 #include "logcapture.h"
 #include "scriptedability.h"
 #include "signalactiontype.h"
+#include "testcolumns.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -110,8 +111,7 @@ void TestOtherToolkit::theOtherToolkitIsLoaded()
 
 void TestOtherToolkit::addCards()
 {
-    QTest::addColumn<int>("action");
-    QTest::addColumn<QVariant>("data");
+    addColumns<int, QVariant>({"action", "data"});
     ContactCreatedConferenceDetail created = CardSamples::createdDetail();
     created.conferences = manyConferences();
     const QVariant invite = QVariant::fromValue(CardSamples::inviteDetail());

@@ -4,6 +4,7 @@
 #include "handlertest.h"
 
 #include "sourcerecords.h"
+#include "testcolumns.h"
 
 #include <QTest>
 
@@ -39,9 +40,7 @@ HandlerRun HandlerTest::runWith(const Script &script, const char *slotArray) con
 
 void HandlerTest::eachOutcomeHasItsReply_data()
 {
-    QTest::addColumn<QByteArray>("slotArray");
-    QTest::addColumn<Script>("script");
-    QTest::addColumn<Expected>("expected");
+    addColumns<QByteArray, Script, Expected>({"slotArray", "script", "expected"});
     QVERIFY2(!m_subject.outcomes.isEmpty(), "a handler has outcomes");
     for (const Outcome &outcome : allOutcomes()) {
         const char *slotArray = outcome.slotArray == nullptr ? m_subject.usualSlots : outcome.slotArray;
@@ -81,8 +80,7 @@ void HandlerTest::eachOtherCodeLeavesTheReply()
 
 void HandlerTest::requestHoldsWhatWasSaid_data()
 {
-    QTest::addColumn<QByteArray>("slotArray");
-    QTest::addColumn<QString>("parameters");
+    addColumns<QByteArray, QString>({"slotArray", "parameters"});
     QVERIFY2(!m_subject.requests.isEmpty(), "a handler sends something");
     for (const Request &request : m_subject.requests) {
         QTest::newRow(request.name) << QByteArray(request.slotArray) << QString::fromUtf8(request.parameters);

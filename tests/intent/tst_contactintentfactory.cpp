@@ -4,6 +4,7 @@
 #include "contactintentfactory.h"
 #include "contactintents.h"
 #include "semantic/semantic.h"
+#include "testcolumns.h"
 
 #include <QFile>
 #include <QTest>
@@ -54,8 +55,7 @@ private Q_SLOTS:
 
 void TestContactIntentFactory::eachNameHasItsHandler_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<Check>("isExpected");
+    addColumns<QString, Check>({"name", "isExpected"});
     const auto row = [](const char *name, Check check) {
         QTest::newRow(name) << QString::fromLatin1(name) << check;
     };

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "memberphrases.h"
+#include "testcolumns.h"
 
 #include <QTest>
 
@@ -18,8 +19,7 @@ private Q_SLOTS:
 
 void TestMemberPhrases::namesAreJoined_data()
 {
-    QTest::addColumn<QStringList>("names");
-    QTest::addColumn<QString>("joined");
+    addColumns<QStringList, QString>({"names", "joined"});
     QTest::newRow("nobody") << QStringList() << QString();
     QTest::newRow("one") << QStringList{QStringLiteral("张三")} << QStringLiteral("张三");
     QTest::newRow("three") << QStringList{QStringLiteral("甲"), QStringLiteral("乙"), QStringLiteral("甲")}
@@ -40,8 +40,7 @@ void TestMemberPhrases::namesAreJoined()
 
 void TestMemberPhrases::promptNamesWhoIsMissing_data()
 {
-    QTest::addColumn<QVector<QString>>("missing");
-    QTest::addColumn<QString>("prompt");
+    addColumns<QVector<QString>, QString>({"missing", "prompt"});
     QTest::newRow("nobody") << QVector<QString>() << QStringLiteral("您需要邀请以下哪位好友:");
     QTest::newRow("one") << QVector<QString>{QStringLiteral("A")}
                          << QStringLiteral("未找到A，您需要邀请以下哪位好友:");

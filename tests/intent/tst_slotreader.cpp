@@ -3,6 +3,7 @@
 
 #include "semantic/semantic.h"
 #include "slotreader.h"
+#include "testcolumns.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -31,8 +32,7 @@ private Q_SLOTS:
 
 void TestSlotReader::normalFormGoesFirst_data()
 {
-    QTest::addColumn<QString>("slot");
-    QTest::addColumn<QString>("text");
+    addColumns<QString, QString>({"slot", "text"});
     QTest::newRow("only said") << QStringLiteral("{'name':'id','value':'a'}") << QStringLiteral("a");
     QTest::newRow("both") << QStringLiteral("{'name':'id','value':'a','normValue':'b'}")
                           << QStringLiteral("b");

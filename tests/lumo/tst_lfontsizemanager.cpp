@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "testcolumns.h"
+
 #include <lumo/lfontsizemanager.h>
 
 #include <QtTest>
@@ -18,9 +20,7 @@ private Q_SLOTS:
 
 void TestLFontSizeManager::theClassesAreNumberedFromTheLargest_data()
 {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<int>("pixelSize");
+    addColumns<int, int, int>({"type", "value", "pixelSize"});
     QTest::newRow("T1") << int(LFontSizeManager::T1) << 0 << 38;
     QTest::newRow("T2") << int(LFontSizeManager::T2) << 1 << 30;
     QTest::newRow("T3") << int(LFontSizeManager::T3) << 2 << 24;

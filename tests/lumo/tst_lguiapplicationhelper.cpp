@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "testcolumns.h"
+
 #include <lumo/lguiapplicationhelper.h>
 
 #include <QApplication>
@@ -62,9 +64,7 @@ void TestLGuiApplicationHelper::theValuesOfTheThemes()
 
 void TestLGuiApplicationHelper::theThemeIsReadFromThePalette_data()
 {
-    QTest::addColumn<QColor>("window");
-    QTest::addColumn<QColor>("text");
-    QTest::addColumn<int>("theme");
+    addColumns<QColor, QColor, int>({"window", "text", "theme"});
     QTest::newRow("black on white is light")
         << QColor(Qt::white) << QColor(Qt::black) << int(Helper::LightType);
     QTest::newRow("white on black is dark")

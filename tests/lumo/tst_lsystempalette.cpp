@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "testcolumns.h"
+
 #include <lumo/lguiapplicationhelper.h>
 #include <lumo/lsystempalette.h>
 
@@ -50,9 +52,7 @@ bool TestLSystemPalette::isOurs(Helper::ColorType type)
 
 void TestLSystemPalette::theNearerOneIsTaken_data()
 {
-    QTest::addColumn<QColor>("window");
-    QTest::addColumn<QColor>("text");
-    QTest::addColumn<int>("theme");
+    addColumns<QColor, QColor, int>({"window", "text", "theme"});
 
     QTest::newRow("grey with black texts")
         << QColor(239, 239, 239) << QColor(Qt::black) << int(Helper::LightType);

@@ -7,6 +7,7 @@
 #include "configmanager.h"
 #include "logcapture.h"
 #include "redirectedfile.h"
+#include "testcolumns.h"
 
 #include <QPointer>
 #include <QTemporaryDir>
@@ -187,8 +188,7 @@ void TestContactPlugin::initReadsTheConfiguration()
 
 void TestContactPlugin::initFailsWithoutAReadableConfiguration_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("critical");
+    addColumns<QByteArray, QString>({"content", "critical"});
     const QString notAnObject = QStringLiteral("config root must be a object.");
     QTest::newRow("missing") << QByteArray() << notAnObject;
     QTest::newRow("not JSON") << QByteArray("TimeOut=1") << notAnObject;

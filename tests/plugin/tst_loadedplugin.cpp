@@ -5,6 +5,7 @@
 #include "redirectedfile.h"
 #include "scriptedability.h"
 #include "semantictext.h"
+#include "testcolumns.h"
 
 #include <speakmate/iserviceplugin.h>
 
@@ -169,14 +170,8 @@ void TestLoadedPlugin::thereIsOneInstance()
 
 void TestLoadedPlugin::eachIntentEndToEnd_data()
 {
-    QTest::addColumn<QString>("semantic");
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<QString>("parameters");
-    QTest::addColumn<QString>("answer");
-    QTest::addColumn<int>("ret");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("hasCard");
+    addColumns<QString, QString, QString, QString, int, int, QString, bool>(
+        {"semantic", "action", "parameters", "answer", "ret", "code", "text", "hasCard"});
     const auto row = [](const char *name, const QString &semantic, const char *action, const char *parameters,
                         const QByteArray &answer, int ret, int code, const char *text, bool hasCard) {
         QTest::newRow(name) << semantic << QString::fromUtf8(action) << QString::fromUtf8(parameters)

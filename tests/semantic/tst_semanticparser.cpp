@@ -3,6 +3,7 @@
 
 #include "logcapture.h"
 #include "semantic/semanticparser.h"
+#include "testcolumns.h"
 
 #include <QJsonDocument>
 #include <QtTest>
@@ -91,8 +92,7 @@ private Q_SLOTS:
 
     void failuresAreLogged_data()
     {
-        QTest::addColumn<QString>("json");
-        QTest::addColumn<QStringList>("lines");
+        addColumns<QString, QStringList>({"json", "lines"});
         const QStringList rejected{NoSemantic};
         QTest::newRow("empty text") << QString() << rejected;
         QTest::newRow("not JSON") << QStringLiteral("create a conference") << rejected;
@@ -202,9 +202,7 @@ private Q_SLOTS:
 
     void recordsNameTheirSource_data()
     {
-        QTest::addColumn<QString>("json");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QByteArray>("function");
+        addColumns<QString, QString, QByteArray>({"json", "text", "function"});
         QTest::newRow("semantic") << QString() << NoSemantic
                                   << QByteArray("bool CloudSemantic::parse(const QJsonValue&)");
         QTest::newRow("intent in the semantic")

@@ -3,6 +3,7 @@
 
 #include "logcapture.h"
 #include "silentsocket.h"
+#include "testcolumns.h"
 
 #include <kelvane/abilitycodes.h>
 #include <kelvane/kelvaneabilitymanager.h>
@@ -158,10 +159,7 @@ private Q_SLOTS:
 
 void TestContactAbility::failures_data()
 {
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("error");
-    QTest::addColumn<QString>("parameters");
+    addColumns<QString, int, QString, QString>({"action", "code", "error", "parameters"});
     QTest::newRow("an error") << QStringLiteral("Fail") << int(AbilityCode::Refused)
                               << QStringLiteral("org.example.Error.NotToday not today") << QString();
     for (const char *signature : {"i", "", "is"}) {
@@ -570,8 +568,7 @@ void TestContactAbility::whatWasNotPerformedIsNotTold()
 
 void TestContactAbility::whoCannotTellIsNotAskedForEver_data()
 {
-    QTest::addColumn<QString>("error");
-    QTest::addColumn<QString>("timesAsked");
+    addColumns<QString, QString>({"error", "timesAsked"});
     QTest::newRow("an application that does not know the method")
         << "org.freedesktop.DBus.Error.UnknownMethod"
         << "1";

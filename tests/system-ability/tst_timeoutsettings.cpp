@@ -5,6 +5,7 @@
 #include "configmanager.h"
 #include "contactutils.h"
 #include "fakeprocesstable.h"
+#include "testcolumns.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -25,8 +26,7 @@ private Q_SLOTS:
 
 void TestTimeoutSettings::aRequestIsAnswered_data()
 {
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("value");
+    addColumns<QString, QString>({"key", "value"});
     constexpr qint64 largest = std::numeric_limits<int>::max();
     constexpr qint64 smallest = std::numeric_limits<int>::min();
     for (const char *key : {"TimeOut", "MaxTimeOut"}) {

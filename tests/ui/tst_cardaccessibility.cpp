@@ -4,6 +4,7 @@
 #include "cardhost.h"
 #include "cardsamples.h"
 #include "conferencemsgstaticwidget.h"
+#include "testcolumns.h"
 #include "titleitem.h"
 
 #include <lumo/lspinbox.h>
@@ -76,8 +77,7 @@ Q_DECLARE_METATYPE(Build)
 
 void TestCardAccessibility::everyControlHasANameAndATurn_data()
 {
-    QTest::addColumn<Build>("build");
-    QTest::addColumn<int>("controls");
+    addColumns<Build, int>({"build", "controls"});
     QTest::newRow("one conference: the card")
         << Build([](ConferenceMsgStaticWidget &card) { card.singleInit({conference()}); }) << 1;
     QTest::newRow("three conferences: the card")
@@ -140,9 +140,7 @@ void TestCardAccessibility::everyControlHasANameAndATurn()
 
 void TestCardAccessibility::theControlsOfAnEditor_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("role");
-    QTest::addColumn<QString>("value");
+    addColumns<QString, int, QString>({"name", "role", "value"});
     QTest::newRow("the day") << QStringLiteral("日期") << int(QAccessible::ComboBox)
                              << QStringLiteral("3月7日 周四");
     QTest::newRow("the hour") << QStringLiteral("开始时间") << int(QAccessible::ComboBox)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "card/cardicons.h"
+#include "testcolumns.h"
 
 #include <QFile>
 #include <QWidget>
@@ -24,9 +25,7 @@ private Q_SLOTS:
 
 void TestCardIcons::eachIconIsThere_data()
 {
-    QTest::addColumn<QByteArray>("path");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QColor>("color");
+    addColumns<QByteArray, QString, QColor>({"path", "file", "color"});
     QTest::newRow("in progress is green")
         << QByteArray(CardIcons::InProgress) << ":/icon/conferenceIn.svg" << QColor(89, 190, 45);
     QTest::newRow("ended is grey") << QByteArray(CardIcons::Ended) << ":/icon/conferenceEnd.svg"

@@ -7,6 +7,7 @@
 #include "card/cardtheme.h"
 #include "desktoptheme.h"
 #include "paintedcontrast.h"
+#include "testcolumns.h"
 
 #include <QElapsedTimer>
 #include <QHelpEvent>
@@ -126,9 +127,7 @@ void TestCardLabel::aLabelThatIsNotElidedKeepsItsWidth()
 
 void TestCardLabel::onlyAnElidedTextHasAToolTip_data()
 {
-    QTest::addColumn<int>("width");
-    QTest::addColumn<QString>("ownToolTip");
-    QTest::addColumn<QString>("shown");
+    addColumns<int, QString, QString>({"width", "ownToolTip", "shown"});
     QTest::newRow("too narrow") << 100 << QString() << CardText::plainToolTip(Markup);
     QTest::newRow("wide enough") << 2000 << QString() << QString();
     QTest::newRow("too narrow with a tool tip of its own") << 100 << "mine"
@@ -225,9 +224,7 @@ void TestCardLabel::aMegabyteTakesNoTime()
 
 void TestCardLabel::aFixedColourGetsALegibleGround_data()
 {
-    QTest::addColumn<int>("theme");
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<bool>("hasGround");
+    addColumns<int, QColor, bool>({"theme", "color", "hasGround"});
     QTest::newRow("dark on dark") << int(DesktopTheme::Dark) << CardTheme::ended() << true;
     QTest::newRow("bright on dark") << int(DesktopTheme::Dark) << CardTheme::inProgress() << false;
     QTest::newRow("dark on light") << int(DesktopTheme::Light) << CardTheme::ended() << false;

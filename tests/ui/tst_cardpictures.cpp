@@ -7,6 +7,7 @@
 #include "fakeprocesstable.h"
 #include "logcapture.h"
 #include "scriptedability.h"
+#include "testcolumns.h"
 #include "titleitem.h"
 
 #include <QComboBox>
@@ -177,8 +178,7 @@ void TestCardPictures::initTestCase()
 
 void TestCardPictures::everyCard_data()
 {
-    QTest::addColumn<State>("state");
-    QTest::addColumn<int>("theme");
+    addColumns<State, int>({"state", "theme"});
     for (const State &state : States) {
         QTest::addRow("%s in the light theme", state.name) << state << int(DesktopTheme::Light);
         QTest::addRow("%s in the dark theme", state.name) << state << int(DesktopTheme::Dark);

@@ -4,6 +4,7 @@
 #include "card/cardreplies.h"
 
 #include "card/confirmation.h"
+#include "testcolumns.h"
 
 #include <QtTest>
 
@@ -27,10 +28,7 @@ private Q_SLOTS:
 
 void TestCardReplies::whatAConfirmationSays_data()
 {
-    QTest::addColumn<Purpose>("purpose");
-    QTest::addColumn<QStringList>("names");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("text");
+    addColumns<Purpose, QStringList, int, QString>({"purpose", "names", "code", "text"});
 
     const QStringList none;
     const QStringList one = {QStringLiteral("A")};
@@ -101,8 +99,7 @@ void TestCardReplies::namesThatLookLikePlaces()
 
 void TestCardReplies::aJoinedList_data()
 {
-    QTest::addColumn<QStringList>("names");
-    QTest::addColumn<QString>("text");
+    addColumns<QStringList, QString>({"names", "text"});
     QTest::newRow("nobody") << QStringList() << QString();
     QTest::newRow("one") << QStringList{QStringLiteral("A")} << QStringLiteral("A");
     QTest::newRow("two") << QStringList{QStringLiteral("A"), QStringLiteral("B")} << QStringLiteral("A和B");

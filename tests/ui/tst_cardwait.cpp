@@ -4,6 +4,7 @@
 #include "cardhost.h"
 #include "cardsamples.h"
 #include "conferencemsgstaticwidget.h"
+#include "testcolumns.h"
 
 #include <lumo/lspinbox.h>
 
@@ -70,8 +71,7 @@ void buildEdited(ConferenceMsgStaticWidget &card)
 
 void addCards()
 {
-    QTest::addColumn<Build>("build");
-    QTest::addColumn<Ask>("ask");
+    addColumns<Build, Ask>({"build", "ask"});
     QTest::newRow("modify") << Build(buildEdited) << Ask([](ConferenceMsgStaticWidget &card) {
         Q_EMIT button(card, QStringLiteral("修 改"))->clicked();
     });

@@ -9,6 +9,7 @@
 #include "desktoptheme.h"
 #include "logcapture.h"
 #include "paintedcontrast.h"
+#include "testcolumns.h"
 
 #include <lumo/lcombobox.h>
 #include <lumo/lcommandlinkbutton.h>
@@ -180,9 +181,7 @@ void TestConferenceCard::theTitleRow()
 
 void TestConferenceCard::theStatusRow_data()
 {
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QColor>("color");
+    addColumns<int, QString, QColor>({"status", "text", "color"});
     QTest::newRow("not started") << 0 << QStringLiteral("未开始") << QColor(0, 129, 255);
     QTest::newRow("in progress") << 1 << QStringLiteral("进行中") << QColor(89, 190, 45);
     QTest::newRow("ended") << 2 << QStringLiteral("已结束") << QColor(0, 0, 0, 77);
@@ -243,9 +242,7 @@ void TestConferenceCard::theLineBetweenTheParts()
 
 void TestConferenceCard::aCaptionedRow_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("caption");
-    QTest::addColumn<QString>("value");
+    addColumns<int, QString, QString>({"index", "caption", "value"});
     QTest::newRow("the number") << 3 << QStringLiteral("会议号") << QStringLiteral("902 118 34");
     QTest::newRow("the start") << 4 << QStringLiteral("时间") << QStringLiteral("3月7日    09:00:00");
     QTest::newRow("the duration") << 5 << QStringLiteral("时长") << QStringLiteral("15分钟");
@@ -287,8 +284,7 @@ void TestConferenceCard::aCaptionedRow()
 
 void TestConferenceCard::theStaticStart_data()
 {
-    QTest::addColumn<QDateTime>("start");
-    QTest::addColumn<QString>("text");
+    addColumns<QDateTime, QString>({"start", "text"});
     QTest::newRow("no leading zeros in the date")
         << QDateTime(QDate(2024, 3, 7), QTime(9, 30)) << QStringLiteral("3月7日    09:30:00");
     QTest::newRow("two digits") << QDateTime(QDate(2024, 12, 31), QTime(23, 59, 58))
@@ -308,8 +304,7 @@ void TestConferenceCard::theStaticStart()
 
 void TestConferenceCard::theStaticDuration_data()
 {
-    QTest::addColumn<qint64>("duration");
-    QTest::addColumn<QString>("text");
+    addColumns<qint64, QString>({"duration", "text"});
     QTest::newRow("whole minutes") << 15 * Minute << QStringLiteral("15分钟");
     QTest::newRow("hours count as minutes too") << 2 * Hour << QStringLiteral("120分钟");
     QTest::newRow("a begun minute does not count") << 2 * Minute - 1 << QStringLiteral("1分钟");
@@ -327,8 +322,7 @@ void TestConferenceCard::theStaticDuration()
 
 void TestConferenceCard::participants_data()
 {
-    QTest::addColumn<QStringList>("names");
-    QTest::addColumn<QString>("text");
+    addColumns<QStringList, QString>({"names", "text"});
     QTest::newRow("nobody") << QStringList() << QString();
     QTest::newRow("one, with a blank behind") << QStringList{QStringLiteral("A")} << QStringLiteral("A ");
     QTest::newRow("two") << QStringList{QStringLiteral("A"), QStringLiteral("B")} << QStringLiteral("A B ");
@@ -363,9 +357,7 @@ void TestConferenceCard::theFontsAndColoursOfTheTexts()
 
 void TestConferenceCard::howManyConferencesAListShows_data()
 {
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("items");
-    QTest::addColumn<QString>("footer");
+    addColumns<int, int, QString>({"count", "items", "footer"});
     QTest::newRow("one") << 1 << 1 << QString();
     QTest::newRow("two") << 2 << 2 << QString();
     QTest::newRow("three") << 3 << 3 << QString();
@@ -539,8 +531,7 @@ void TestConferenceCard::noTextMakesTheCardWider()
 
 void TestConferenceCard::theBackground_data()
 {
-    QTest::addColumn<int>("theme");
-    QTest::addColumn<QColor>("color");
+    addColumns<int, QColor>({"theme", "color"});
     QTest::newRow("light") << int(DesktopTheme::Light) << QColor(247, 247, 247, 200);
     QTest::newRow("dark") << int(DesktopTheme::Dark) << QColor(0x19, 0x19, 0x19, 204);
 }

@@ -5,6 +5,7 @@
 #include "cardsamples.h"
 #include "conferencemsgstaticwidget.h"
 #include "customizecombobox.h"
+#include "testcolumns.h"
 #include "titleitem.h"
 
 #include <lumo/lcombobox.h>
@@ -147,10 +148,7 @@ void TestConferenceCardActions::aReplyHasTextsOnly()
 
 void TestConferenceCardActions::modify_data()
 {
-    QTest::addColumn<QString>("outcome");
-    QTest::addColumn<int>("callCode");
-    QTest::addColumn<int>("loggedCode");
-    QTest::addColumn<QString>("text");
+    addColumns<QString, int, int, QString>({"outcome", "callCode", "loggedCode", "text"});
     const QString failed = QStringLiteral("修改失败，请前往联系人应用修改。");
     QTest::newRow("success") << QStringLiteral("OK") << 0 << 0 << QStringLiteral("会议信息修改成功。");
     QTest::newRow("the application refuses") << QStringLiteral("Not Found") << 0 << -16007 << failed;
@@ -239,10 +237,7 @@ void TestConferenceCardActions::anOddMinuteIsKeptWhenSomethingElseIsModified()
 
 void TestConferenceCardActions::cancel_data()
 {
-    QTest::addColumn<QString>("outcome");
-    QTest::addColumn<int>("callCode");
-    QTest::addColumn<int>("loggedCode");
-    QTest::addColumn<QString>("text");
+    addColumns<QString, int, int, QString>({"outcome", "callCode", "loggedCode", "text"});
     const QString failed = QStringLiteral("会议取消失败，请前往联系人应用取消。");
     QTest::newRow("success") << QStringLiteral("OK") << 0 << 0 << QStringLiteral("已为您取消会议。");
     QTest::newRow("the application refuses") << QStringLiteral("Not Found") << 0 << -16011 << failed;
@@ -316,8 +311,7 @@ void TestConferenceCardActions::actionsWithoutAConferenceDoNothing()
 
 void TestConferenceCardActions::theRowsOfASelectionCard_data()
 {
-    QTest::addColumn<Build>("build");
-    QTest::addColumn<QStringList>("userIds");
+    addColumns<Build, QStringList>({"build", "userIds"});
     const QStringList candidates = {QStringLiteral("z1"), QStringLiteral("z2"), QStringLiteral("w1"),
                                     QStringLiteral("w2"), QStringLiteral("w3")};
     QTest::newRow("to create") << Build(buildCreate) << candidates;
@@ -384,13 +378,8 @@ void TestConferenceCardActions::aCardThatCannotBeConfirmed()
 
 void TestConferenceCardActions::confirm_data()
 {
-    QTest::addColumn<Build>("build");
-    QTest::addColumn<QVector<int>>("picks");
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("parameters");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("enabled");
+    addColumns<Build, QVector<int>, QString, int, QString, QString, bool>(
+        {"build", "picks", "action", "code", "parameters", "text", "enabled"});
 
     const QString create = QStringLiteral("Create Conference");
     const QString invite = QStringLiteral("Invite Members");
@@ -492,8 +481,7 @@ void TestConferenceCardActions::confirm()
 
 void TestConferenceCardActions::theNamesSaid_data()
 {
-    QTest::addColumn<Build>("build");
-    QTest::addColumn<QString>("text");
+    addColumns<Build, QString>({"build", "text"});
     QTest::newRow("to create, every pick is named") << Build([](ConferenceMsgStaticWidget &card) {
         ContactCreatedConferenceDetail detail = createdDetail();
         detail.inviteDetail.normalUsers.clear();
@@ -525,9 +513,7 @@ void TestConferenceCardActions::theNamesSaid()
 
 void TestConferenceCardActions::whoIsFoundTwiceIsSentTwice_data()
 {
-    QTest::addColumn<QString>("firstName");
-    QTest::addColumn<QString>("secondName");
-    QTest::addColumn<QString>("text");
+    addColumns<QString, QString, QString>({"firstName", "secondName", "text"});
     QTest::newRow("equal names") << QStringLiteral("a") << QStringLiteral("a")
                                  << QStringLiteral("好的，已为您发起和a的视频会议。");
     QTest::newRow("names that differ in their case")
@@ -582,8 +568,7 @@ void TestConferenceCardActions::theStartOfTheConference()
 
 void TestConferenceCardActions::aButtonAsksOnce_data()
 {
-    QTest::addColumn<Build>("build");
-    QTest::addColumn<QString>("text");
+    addColumns<Build, QString>({"build", "text"});
     QTest::newRow("cancel") << Build(buildEditable) << QStringLiteral("取 消");
     QTest::newRow("create") << Build(buildCreate) << QStringLiteral("确 认");
     QTest::newRow("invite") << Build(buildInvite) << QStringLiteral("确 认");
@@ -614,8 +599,7 @@ void TestConferenceCardActions::aButtonAsksOnce()
 
 void TestConferenceCardActions::howManyCanBePicked_data()
 {
-    QTest::addColumn<int>("canInviteNum");
-    QTest::addColumn<int>("selected");
+    addColumns<int, int>({"canInviteNum", "selected"});
     QTest::newRow("one") << 1 << 1;
     QTest::newRow("two") << 2 << 2;
     QTest::newRow("more than there are") << 9 << 6;
@@ -657,10 +641,7 @@ void TestConferenceCardActions::aPickTakenBackMakesRoom()
 
 void TestConferenceCardActions::anExceptionStaysInTheSlot_data()
 {
-    QTest::addColumn<Build>("build");
-    QTest::addColumn<Slot>("slot");
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<QString>("text");
+    addColumns<Build, Slot, QString, QString>({"build", "slot", "action", "text"});
     QTest::newRow("modify") << Build(buildEditable) << &ConferenceMsgStaticWidget::slotModifyConference
                             << QStringLiteral("Update Conference")
                             << QStringLiteral("修改失败，请前往联系人应用修改。");

@@ -4,6 +4,7 @@
 #include "cardhost.h"
 #include "cardsamples.h"
 #include "conferencemsgstaticwidget.h"
+#include "testcolumns.h"
 #include "titleitem.h"
 
 #include <lumo/lcombobox.h>
@@ -120,8 +121,7 @@ void TestConferenceCardInput::aDisabledCardOpensNothing()
 
 void TestConferenceCardInput::aKeyOpensTheContacts_data()
 {
-    QTest::addColumn<int>("key");
-    QTest::addColumn<bool>("opens");
+    addColumns<int, bool>({"key", "opens"});
     QTest::newRow("Return") << int(Qt::Key_Return) << true;
     QTest::newRow("Enter") << int(Qt::Key_Enter) << true;
     QTest::newRow("Space") << int(Qt::Key_Space) << true;
@@ -215,8 +215,7 @@ void TestConferenceCardInput::aClickOnACandidateSelectsOnly()
 
 void TestConferenceCardInput::theFrameIsForTheTabKey_data()
 {
-    QTest::addColumn<Qt::FocusReason>("reason");
-    QTest::addColumn<bool>("framed");
+    addColumns<Qt::FocusReason, bool>({"reason", "framed"});
     QTest::newRow("Tab") << Qt::TabFocusReason << true;
     QTest::newRow("Tab backwards") << Qt::BacktabFocusReason << false;
     QTest::newRow("the mouse") << Qt::MouseFocusReason << false;
@@ -243,9 +242,7 @@ void TestConferenceCardInput::theFrameIsForTheTabKey()
 
 void TestConferenceCardInput::returnClicksAButtonOnce_data()
 {
-    QTest::addColumn<Build>("build");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("action");
+    addColumns<Build, QString, QString>({"build", "text", "action"});
     const QString confirm = QStringLiteral("确 认");
     QTest::newRow("cancel") << Build(buildEditable) << QStringLiteral("取 消")
                             << QStringLiteral("Delete Conference");
@@ -345,8 +342,7 @@ void TestConferenceCardInput::returnOnADisabledButtonDoesNothing()
 
 void TestConferenceCardInput::returnOpensTheListOfABox_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("key");
+    addColumns<QString, int>({"name", "key"});
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
         QTest::addRow("the hours, key %d", int(key)) << QStringLiteral("开始时间") << int(key);
         QTest::addRow("the durations, key %d", int(key)) << QStringLiteral("时长") << int(key);

@@ -7,6 +7,7 @@
 #include "contactreplywidget.h"
 #include "customizecombobox.h"
 #include "desktoptheme.h"
+#include "testcolumns.h"
 
 #include <lumo/lcombobox.h>
 #include <lumo/lcommandlinkbutton.h>
@@ -107,9 +108,7 @@ void addActions()
              Q_EMIT target->clicked();
          }},
     };
-    QTest::addColumn<Build>("build");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<Go>("go");
+    addColumns<Build, QString, Go>({"build", "text", "go"});
     for (const Action &action : actions) {
         for (const Way &way : ways) {
             QTest::addRow("%s by %s", action.name, way.name)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "card/conferencedraft.h"
+#include "testcolumns.h"
 
 #include <QDateTime>
 #include <QtTest>
@@ -58,8 +59,7 @@ void TestConferenceDraft::theStartIsReadAsLocalDateAndTime()
 
 void TestConferenceDraft::whatCountsAsAChange_data()
 {
-    QTest::addColumn<Edit>("edit");
-    QTest::addColumn<bool>("changed");
+    addColumns<Edit, bool>({"edit", "changed"});
     QTest::newRow("nothing") << Edit([](ConferenceValues &) {}) << false;
     QTest::newRow("another day") << Edit([](ConferenceValues &values) {
         values.startDate = QDate(2024, 3, 8);
@@ -121,8 +121,7 @@ void TestConferenceDraft::theWorkingValuesAreWritten()
 
 void TestConferenceDraft::aStartThatWasNotTouchedKeepsItsMilliseconds_data()
 {
-    QTest::addColumn<QByteArray>("zone");
-    QTest::addColumn<qint64>("startTime");
+    addColumns<QByteArray, qint64>({"zone", "startTime"});
     QTest::newRow("a half hour") << QByteArray("Asia/Shanghai") << halfPastNine().startTime;
     // 02:30 local time, which comes twice in that night.
     QTest::newRow("the first of two equal hours") << QByteArray("Europe/Berlin") << Q_INT64_C(1729989000000);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "card/conferencedurations.h"
+#include "testcolumns.h"
 
 #include <QtTest>
 
@@ -19,8 +20,7 @@ private Q_SLOTS:
 
 void TestConferenceDurations::aDurationAndItsLabel_data()
 {
-    QTest::addColumn<qint64>("duration");
-    QTest::addColumn<QString>("label");
+    addColumns<qint64, QString>({"duration", "label"});
     QTest::newRow("five minutes") << Q_INT64_C(300000) << QStringLiteral("5分钟");
     QTest::newRow("ten minutes") << Q_INT64_C(600000) << QStringLiteral("10分钟");
     QTest::newRow("a quarter of an hour") << Q_INT64_C(900000) << QStringLiteral("15分钟");

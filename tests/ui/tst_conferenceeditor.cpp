@@ -5,6 +5,7 @@
 #include "cardsamples.h"
 #include "conferencemsgstaticwidget.h"
 #include "customizecombobox.h"
+#include "testcolumns.h"
 
 #include <lumo/lcombobox.h>
 #include <lumo/lfontsizemanager.h>
@@ -144,9 +145,7 @@ void TestConferenceEditor::theDatePicker()
 
 void TestConferenceEditor::theHourBox_data()
 {
-    QTest::addColumn<int>("hour");
-    QTest::addColumn<int>("minute");
-    QTest::addColumn<QString>("label");
+    addColumns<int, int, QString>({"hour", "minute", "label"});
     QTest::newRow("midnight") << 0 << 0 << QStringLiteral("00:00");
     QTest::newRow("nine") << 9 << 0 << QStringLiteral("09:00");
     QTest::newRow("half past nine") << 9 << 30 << QStringLiteral("09:00");
@@ -169,10 +168,7 @@ void TestConferenceEditor::theHourBox()
 
 void TestConferenceEditor::theDurationBox_data()
 {
-    QTest::addColumn<bool>("isPayingUser");
-    QTest::addColumn<qint64>("duration");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<QString>("current");
+    addColumns<bool, qint64, int, QString>({"isPayingUser", "duration", "count", "current"});
     QTest::newRow("four choices without paying") << false << 15 * Minute << 4 << QStringLiteral("15分钟");
     QTest::newRow("the longest without paying") << false << 30 * Minute << 4 << QStringLiteral("30分钟");
     QTest::newRow("eight choices when paying") << true << 15 * Minute << 8 << QStringLiteral("15分钟");
@@ -196,10 +192,7 @@ void TestConferenceEditor::theDurationBox()
 
 void TestConferenceEditor::theHeadCount_data()
 {
-    QTest::addColumn<bool>("isPayingUser");
-    QTest::addColumn<int>("limit");
-    QTest::addColumn<int>("maximum");
-    QTest::addColumn<int>("value");
+    addColumns<bool, int, int, int>({"isPayingUser", "limit", "maximum", "value"});
     QTest::newRow("not above the limit without paying") << false << 20 << 20 << 20;
     QTest::newRow("up to a hundred when paying") << true << 20 << 100 << 20;
     QTest::newRow("two is the least") << false << 2 << 2 << 2;
@@ -304,8 +297,7 @@ void TestConferenceEditor::anEditIsAChange()
 
 void TestConferenceEditor::anEditTakenBackIsNone_data()
 {
-    QTest::addColumn<Edit>("edit");
-    QTest::addColumn<Edit>("takeBack");
+    addColumns<Edit, Edit>({"edit", "takeBack"});
     QTest::newRow("the day") << Edit([](const Editor &editor) {
         editor.date->slotSelectionData(QDate(2024, 3, 8));
     }) << Edit([](const Editor &editor) { editor.date->slotSelectionData(QDate(2024, 3, 7)); });
@@ -349,8 +341,7 @@ void TestConferenceEditor::anOddMinuteStaysUntilAnHourIsPicked()
 
 void TestConferenceEditor::aDurationThatIsNotOfferedIsAChange_data()
 {
-    QTest::addColumn<bool>("isPayingUser");
-    QTest::addColumn<qint64>("duration");
+    addColumns<bool, qint64>({"isPayingUser", "duration"});
     QTest::newRow("in no table") << true << 45 * Minute;
     QTest::newRow("only for who pays") << false << 2 * Hour;
     QTest::newRow("none") << true << Q_INT64_C(0);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "card/conferencehours.h"
+#include "testcolumns.h"
 
 #include <QtTest>
 
@@ -19,8 +20,7 @@ private Q_SLOTS:
 
 void TestConferenceHours::thereIsOneChoiceForEachHour_data()
 {
-    QTest::addColumn<int>("hour");
-    QTest::addColumn<QString>("label");
+    addColumns<int, QString>({"hour", "label"});
     for (int hour = 0; hour < 24; ++hour) {
         QTest::addRow("at %d", hour) << hour << QStringLiteral("%1:00").arg(hour, 2, 10, QLatin1Char('0'));
     }

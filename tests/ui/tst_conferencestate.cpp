@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "card/conferencestate.h"
+#include "testcolumns.h"
 
 #include <QtTest>
 
@@ -16,10 +17,7 @@ private Q_SLOTS:
 
 void TestConferenceState::aStatusAndHowItIsShown_data()
 {
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("icon");
-    QTest::addColumn<QColor>("color");
+    addColumns<int, QString, QString, QColor>({"status", "text", "icon", "color"});
     const QString running = QStringLiteral("进行中");
     const QString runningIcon = QStringLiteral(":/icon/conferenceIn.svg");
     const QColor green(89, 190, 45);

@@ -5,6 +5,7 @@
 
 #include "logcapture.h"
 #include "scriptedability.h"
+#include "testcolumns.h"
 
 #include <lumo/lcombobox.h>
 #include <lumo/llabel.h>
@@ -226,10 +227,7 @@ void TestContactDetailWidget::theStartIsChosenByMonthDayAndHour()
 
 void TestContactDetailWidget::theDaysAreThoseOfTheMonth_data()
 {
-    QTest::addColumn<int>("year");
-    QTest::addColumn<QString>("month");
-    QTest::addColumn<int>("days");
-    QTest::addColumn<QString>("day");
+    addColumns<int, QString, int, QString>({"year", "month", "days", "day"});
     QTest::newRow("April has no 31st") << 2024 << "4" << 30 << "30";
     QTest::newRow("February in a leap year") << 2024 << "2" << 29 << "29";
     QTest::newRow("February in another year") << 2023 << "2" << 28 << "28";
@@ -257,8 +255,7 @@ void TestContactDetailWidget::theDaysAreThoseOfTheMonth()
 
 void TestContactDetailWidget::twoDurationsAreOffered_data()
 {
-    QTest::addColumn<qint64>("duration");
-    QTest::addColumn<QString>("text");
+    addColumns<qint64, QString>({"duration", "text"});
     QTest::newRow("15 minutes") << qint64(900000) << QStringLiteral("15分钟");
     QTest::newRow("30 minutes") << qint64(1800000) << QStringLiteral("30分钟");
     QTest::newRow("another duration is shown as it is") << qint64(2700000) << QStringLiteral("45分钟");
@@ -287,8 +284,7 @@ void TestContactDetailWidget::twoDurationsAreOffered()
 
 void TestContactDetailWidget::theHeadCountsBounds_data()
 {
-    QTest::addColumn<bool>("isPayingUser");
-    QTest::addColumn<int>("maximum");
+    addColumns<bool, int>({"isPayingUser", "maximum"});
     QTest::newRow("who pays may have a hundred") << true << 100;
     QTest::newRow("who does not pay keeps the limit") << false << 40;
 }
@@ -330,13 +326,8 @@ void TestContactDetailWidget::theParticipantsAreNamed()
 
 void TestContactDetailWidget::confirmingSendsTheChange_data()
 {
-    QTest::addColumn<QString>("month");
-    QTest::addColumn<QString>("day");
-    QTest::addColumn<QString>("hour");
-    QTest::addColumn<int>("durationIndex");
-    QTest::addColumn<int>("persons");
-    QTest::addColumn<QDateTime>("start");
-    QTest::addColumn<int>("minutes");
+    addColumns<QString, QString, QString, int, int, QDateTime, int>(
+        {"month", "day", "hour", "durationIndex", "persons", "start", "minutes"});
     QTest::newRow("nothing changed but the minute of the start")
         << "3"
         << "31"

@@ -9,6 +9,7 @@
 #include "logcapture.h"
 #include "scriptedability.h"
 #include "signalactiontype.h"
+#include "testcolumns.h"
 
 #include <QPushButton>
 #include <QtTest>
@@ -83,10 +84,7 @@ Q_DECLARE_METATYPE(Kind)
 
 void TestContactReplyWidget::theCardOfEachAction_data()
 {
-    QTest::addColumn<int>("actionType");
-    QTest::addColumn<QVariant>("data");
-    QTest::addColumn<Kind>("kind");
-    QTest::addColumn<QString>("shownText");
+    addColumns<int, QVariant, Kind, QString>({"actionType", "data", "kind", "shownText"});
 
     const QVariant invite = QVariant::fromValue(inviteDetail());
     const QString candidate = QStringLiteral("张三（市场部）");
@@ -142,9 +140,7 @@ void TestContactReplyWidget::theCardOfEachAction()
 
 void TestContactReplyWidget::onlyTheCardBitIsAdded_data()
 {
-    QTest::addColumn<int>("actionType");
-    QTest::addColumn<int>("before");
-    QTest::addColumn<int>("after");
+    addColumns<int, int, int>({"actionType", "before", "after"});
     QTest::newRow("to the texts") << int(Query_List) << 3 << 11;
     QTest::newRow("to nothing") << int(Query_List) << 0 << 8;
     QTest::newRow("to itself") << int(Query_List) << 11 << 11;

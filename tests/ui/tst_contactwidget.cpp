@@ -5,6 +5,7 @@
 
 #include "conferencemsgstaticwidget.h"
 #include "contactdetailwidget.h"
+#include "testcolumns.h"
 #include "titleitem.h"
 
 #include <QLabel>
@@ -102,8 +103,7 @@ void TestContactWidget::theEditorStandsUnderATitle()
 
 void TestContactWidget::theCardStandsUnderATitle_data()
 {
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("mode");
+    addColumns<int, int>({"count", "mode"});
     QTest::newRow("one conference is shown whole") << 1 << int(ConferenceMsgStaticWidget::Single);
     QTest::newRow("two make a list") << 2 << int(ConferenceMsgStaticWidget::List);
     QTest::newRow("and so do five") << 5 << int(ConferenceMsgStaticWidget::List);

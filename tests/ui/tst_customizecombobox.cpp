@@ -5,6 +5,7 @@
 
 #include "desktoptheme.h"
 #include "paintedcontrast.h"
+#include "testcolumns.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -116,8 +117,7 @@ void TestCustomizeComboBox::theCalendarIsAHiddenWindowWithoutFrame()
 
 void TestCustomizeComboBox::aDayIsShownWithMonthDayAndWeekday_data()
 {
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<QString>("text");
+    addColumns<QDate, QString>({"date", "text"});
     QTest::newRow("Monday") << QDate(2024, 3, 4) << QStringLiteral("3月4日 周一");
     QTest::newRow("Tuesday") << QDate(2024, 3, 5) << QStringLiteral("3月5日 周二");
     QTest::newRow("Wednesday") << QDate(2024, 3, 6) << QStringLiteral("3月6日 周三");
@@ -177,8 +177,7 @@ void TestCustomizeComboBox::aSelectionHidesTheCalendar()
 
 void TestCustomizeComboBox::theCalendarOpens_data()
 {
-    QTest::addColumn<int>("key");
-    QTest::addColumn<bool>("clicked");
+    addColumns<int, bool>({"key", "clicked"});
     QTest::newRow("on a click") << 0 << true;
     QTest::newRow("on Return") << int(Qt::Key_Return) << false;
     QTest::newRow("on Enter") << int(Qt::Key_Enter) << false;
@@ -207,9 +206,7 @@ void TestCustomizeComboBox::theCalendarOpens()
 
 void TestCustomizeComboBox::otherKeysAndButtonsDoNotOpenIt_data()
 {
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("button");
-    QTest::addColumn<QPoint>("releasedAt");
+    addColumns<int, int, QPoint>({"key", "button", "releasedAt"});
     QTest::newRow("a letter") << int(Qt::Key_A) << 0 << QPoint();
     QTest::newRow("Escape") << int(Qt::Key_Escape) << 0 << QPoint();
     QTest::newRow("the right button") << 0 << int(Qt::RightButton) << QPoint(5, 5);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "customizeitem.h"
+#include "testcolumns.h"
 
 #include <QtTest>
 
@@ -59,11 +60,8 @@ void TestCustomizeItem::theColourThatWasSet()
 
 void TestCustomizeItem::theCorners_data()
 {
-    QTest::addColumn<int>("radius");
-    QTest::addColumn<bool>("bottomRadius");
-    QTest::addColumn<bool>("topRadius");
-    QTest::addColumn<bool>("upperRound");
-    QTest::addColumn<bool>("lowerRound");
+    addColumns<int, bool, bool, bool, bool>(
+        {"radius", "bottomRadius", "topRadius", "upperRound", "lowerRound"});
     QTest::newRow("all round at first") << 8 << true << true << true << true;
     QTest::newRow("without bottom radius the lower ones are square") << 8 << false << true << true << false;
     QTest::newRow("without top radius nothing changes") << 8 << true << false << true << true;

@@ -4,6 +4,7 @@
 #include "conferencemsgstaticwidget.h"
 #include "desktoptheme.h"
 #include "paintedcontrast.h"
+#include "testcolumns.h"
 #include "titleitem.h"
 
 #include <QAccessible>
@@ -141,10 +142,7 @@ void TestTiTleItem::theTitleIsNotDisplayed()
 
 void TestTiTleItem::whatIsShownOfAPerson_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("remarkName");
-    QTest::addColumn<QString>("account");
-    QTest::addColumn<QString>("texts");
+    addColumns<QString, QString, QString, QString>({"name", "remarkName", "account", "texts"});
     QTest::newRow("display name, caption and account") << "a"
                                                        << "b"
                                                        << "d"
@@ -221,9 +219,7 @@ void TestTiTleItem::theLayoutOfAPerson()
 
 void TestTiTleItem::theColoursFollowTheTheme_data()
 {
-    QTest::addColumn<int>("before");
-    QTest::addColumn<int>("theme");
-    QTest::addColumn<QColor>("text");
+    addColumns<int, int, QColor>({"before", "theme", "text"});
     const int light = DesktopTheme::Light;
     const int dark = DesktopTheme::Dark;
     QTest::newRow("made in the light theme") << light << light << QColor(Qt::black);
@@ -418,8 +414,7 @@ void TestTiTleItem::aRowIsToggledWherever()
 
 void TestTiTleItem::whatIsNoClickDoesNotToggle_data()
 {
-    QTest::addColumn<int>("button");
-    QTest::addColumn<QPoint>("releasedAt");
+    addColumns<int, QPoint>({"button", "releasedAt"});
     QTest::newRow("the right button") << int(Qt::RightButton) << QPoint(20, 20);
     QTest::newRow("the middle button") << int(Qt::MiddleButton) << QPoint(20, 20);
     QTest::newRow("let go below the row") << int(Qt::LeftButton) << QPoint(20, 60);
@@ -449,8 +444,7 @@ void TestTiTleItem::aClickDoesNotReachTheCard()
 
 void TestTiTleItem::keysToggle_data()
 {
-    QTest::addColumn<int>("key");
-    QTest::addColumn<bool>("toggles");
+    addColumns<int, bool>({"key", "toggles"});
     QTest::newRow("Space") << int(Qt::Key_Space) << true;
     QTest::newRow("Return") << int(Qt::Key_Return) << true;
     QTest::newRow("Enter") << int(Qt::Key_Enter) << true;

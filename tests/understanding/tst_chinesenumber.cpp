@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "testcolumns.h"
 #include "text/chinesenumber.h"
 
 #include <QtTest>
@@ -14,9 +15,7 @@ class TestChineseNumber : public QObject
 private Q_SLOTS:
     void quantities_data()
     {
-        QTest::addColumn<QString>("said");
-        QTest::addColumn<int>("value");
-        QTest::addColumn<int>("length");
+        addColumns<QString, int, int>({"said", "value", "length"});
         const auto row = [](const char *said, int value, int length) {
             QTest::newRow(said) << QString::fromUtf8(said) << value << length;
         };
@@ -56,8 +55,7 @@ private Q_SLOTS:
 
     void stringsOfDigits_data()
     {
-        QTest::addColumn<QString>("said");
-        QTest::addColumn<QString>("digits");
+        addColumns<QString, QString>({"said", "digits"});
         const auto row = [](const char *name, const char *said, const char *digits) {
             QTest::newRow(name) << QString::fromUtf8(said) << QString::fromLatin1(digits);
         };
@@ -79,8 +77,7 @@ private Q_SLOTS:
 
     void aStringOfDigitsEndsWithItsLastDigit_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("end");
+        addColumns<QString, int>({"text", "end"});
         QTest::newRow("before a word") << QStringLiteral("123456会议") << 6;
         QTest::newRow("without the space behind") << QStringLiteral("123 456 会议") << 7;
         QTest::newRow("without the dash behind") << QStringLiteral("123-会议") << 3;

@@ -3,6 +3,7 @@
 
 #include "logcapture.h"
 #include "sentencefile.h"
+#include "testcolumns.h"
 
 #include <understanding/dialogue.h>
 
@@ -230,9 +231,7 @@ private Q_SLOTS:
 
     void aPasswordIsMasked_data()
     {
-        QTest::addColumn<bool>("asked");
-        QTest::addColumn<QString>("sentence");
-        QTest::addColumn<QString>("shown");
+        addColumns<bool, QString, QString>({"asked", "sentence", "shown"});
         QTest::newRow("as the answer") << true << QStringLiteral("8888") << QStringLiteral("••••");
         QTest::newRow("read aloud as the answer")
             << true << QStringLiteral("八八八八") << QStringLiteral("••••");

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "sentencefile.h"
+#include "testcolumns.h"
 
 #include <understanding/understand.h>
 
@@ -23,10 +24,7 @@ private:
 
     static void addRows(const QStringList &names)
     {
-        QTest::addColumn<QString>("sentence");
-        QTest::addColumn<QDateTime>("now");
-        QTest::addColumn<QStringList>("contacts");
-        QTest::addColumn<QString>("meaning");
+        addColumns<QString, QDateTime, QStringList, QString>({"sentence", "now", "contacts", "meaning"});
         for (const QString &name : names) {
             const std::vector<LabelledSentence> rows = readSentences(file(name));
             for (const LabelledSentence &row : rows) {

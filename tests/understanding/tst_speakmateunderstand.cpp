@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "sentencefile.h"
+#include "testcolumns.h"
 
 #include <QElapsedTimer>
 #include <QProcess>
@@ -47,8 +48,7 @@ private:
 private Q_SLOTS:
     void everyLineGetsOneLine_data()
     {
-        QTest::addColumn<QByteArray>("input");
-        QTest::addColumn<QStringList>("meanings");
+        addColumns<QByteArray, QStringList>({"input", "meanings"});
         QTest::newRow("a sentence") << QByteArray("开会\n")
                                     << QStringList{QStringLiteral("CREATE_CONFERENCE open=开")};
         QTest::newRow("no line at all") << QByteArray() << QStringList();
@@ -116,9 +116,7 @@ private Q_SLOTS:
 
     void wrongUsageIsRefused_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("exitCode");
-        QTest::addColumn<QByteArray>("says");
+        addColumns<QStringList, int, QByteArray>({"arguments", "exitCode", "says"});
         QTest::newRow("a now that is no time")
             << QStringList{QStringLiteral("--now"), QStringLiteral("noon")} << 2 << QByteArray("--now");
         QTest::newRow("a file that is not there")

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "testcolumns.h"
 #include "time/timereader.h"
 #include "time/timeresolver.h"
 
@@ -16,9 +17,7 @@ class TestTimes : public QObject
 private Q_SLOTS:
     void aTimeMeans_data()
     {
-        QTest::addColumn<QString>("said");
-        QTest::addColumn<QString>("meant");
-        QTest::addColumn<QString>("now");
+        addColumns<QString, QString, QString>({"said", "meant", "now"});
         const auto row = [](const char *name, const char *said, const char *meant,
                             const char *now = "2026-03-07T10:20:00") {
             QTest::newRow(name) << QString::fromUtf8(said) << QString::fromLatin1(meant)

@@ -9,6 +9,7 @@
 #include "mainwindow.h"
 #include "notificationserver.h"
 #include "notifier.h"
+#include "testcolumns.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -120,8 +121,7 @@ void TestLauncherDesk::textIsNotified()
 
 void TestLauncherDesk::markupIsEscapedOnlyForServersThatReadIt_data()
 {
-    QTest::addColumn<QStringList>("capabilities");
-    QTest::addColumn<QString>("body");
+    addColumns<QStringList, QString>({"capabilities", "body"});
     QTest::newRow("markup") << QStringList{QStringLiteral("body"), QStringLiteral("body-markup")}
                             << QStringLiteral("&lt;b&gt;a &amp; b&lt;/b&gt;");
     QTest::newRow("plain") << QStringList{QStringLiteral("body")} << QStringLiteral("<b>a & b</b>");

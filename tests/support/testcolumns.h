@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QTest>
+
+#include <cstddef>
+
+/// Adds the columns of a test's table: addColumns<QString, int>({"text", "code"}).
+template <typename... Types>
+void addColumns(const char *const (&names)[sizeof...(Types)])
+{
+    std::size_t column = 0;
+    (QTest::addColumn<Types>(names[column++]), ...);
+}

@@ -307,14 +307,14 @@ void ConferenceMsgStaticWidget::focusOutEvent(QFocusEvent * /*event*/)
 void ConferenceMsgStaticWidget::keyPressEvent(QKeyEvent *event)
 {
     // Acted on when the key is let go. Not passed on either: the host's default button is not meant.
-    if (!hasFocus() || !CardInput::isOpenKey(*event)) {
+    if (!hasFocus() || !CardInput::isActivationKey(*event)) {
         QWidget::keyPressEvent(event);
     }
 }
 
 void ConferenceMsgStaticWidget::keyReleaseEvent(QKeyEvent *event)
 {
-    if (!hasFocus() || !CardInput::isOpenKey(*event)) {
+    if (!hasFocus() || !CardInput::isActivationKey(*event)) {
         QWidget::keyReleaseEvent(event);
         return;
     }

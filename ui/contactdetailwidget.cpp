@@ -4,6 +4,9 @@
 #include "contactdetailwidget.h"
 
 #include "card/cardlabel.h"
+#include "card/cardmeasures.h"
+#include "card/conferencedurations.h"
+#include "card/participantlimits.h"
 #include "conferencecardinterface.h"
 #include "request/requesttexts.h"
 
@@ -25,15 +28,9 @@ namespace {
 constexpr int Margin = 20;
 constexpr int Spacing = 20;
 constexpr int ColumnCount = 5;
-constexpr int LabelWidth = 60;
 constexpr int ControlWidth = 100;
 constexpr int UnitSpacing = 5;
 
-constexpr int LeastPersons = 2;
-constexpr int MostPersonsOfPayingUser = 100;
-constexpr int MonthsOfYear = 12;
-constexpr int LastHour = 23;
-constexpr qint64 MsecsPerMinute = 60000;
 constexpr std::array OfferedMinutes = {15, 30};
 
 QString minutesText(qint64 minutes)
@@ -52,7 +49,7 @@ CardLabel *makeLabel(const QString &text, LFontSizeManager::SizeType size, QWidg
 CardLabel *makeUnit(const QString &text, QWidget *parent)
 {
     CardLabel *label = makeLabel(text, LFontSizeManager::T6, parent);
-    label->setFixedWidth(LabelWidth);
+    label->setFixedWidth(CardMeasures::CaptionWidth);
     return label;
 }
 
@@ -108,9 +105,9 @@ QWidget *ContactDetailWidget::createMeetingTimeWidget(const ContactDetailMsg &co
     auto *row = new QWidget(this);
     QHBoxLayout *layout = makeRow(row);
 
-    m_month = makeNumberCombo(1, MonthsOfYear, start.date().month(), QStringLiteral("月"), row);
+    m_month = makeNumberCombo(1, 12, start.date().month(), QStringLiteral("月"), row);
     m_day = makeNumberCombo(1, start.date().daysInMonth(), start.date().day(), QStringLiteral("日"), row);
-    m_hour = makeNumberCombo(0, LastHour, start.time().hour(), QStringLiteral("开始时间"), row);
+    m_hour = makeNumberCombo(0, 23, start.time().hour(), QStringLiteral("开始时间"), row);
     layout->addWidget(m_month);
     layout->addWidget(makeUnit(QStringLiteral("月"), row));
     layout->addWidget(m_day);
@@ -133,7 +130,7 @@ QWidget *ContactDetailWidget::createMeetingTimeLengthWidget(const ContactDetailM
     for (const int minutes : OfferedMinutes) {
         m_duration->addItem(minutesText(minutes));
     }
-    m_duration->setCurrentText(minutesText(conference.duration / MsecsPerMinute));
+    m_duration->setCurrentText(minutesText(conference.duration / ConferenceDurations::Minute));
     return m_duration;
 }
 
@@ -144,8 +141,7 @@ QWidget *ContactDetailWidget::createMeegtingPersonNumWidget(const ContactDetailM
     m_personNum = new LSpinBox(row);
     m_personNum->setFixedWidth(ControlWidth);
     m_personNum->setAccessibleName(QStringLiteral("参会方数"));
-    m_personNum->setRange(LeastPersons,
-                          conference.isPayingUser ? MostPersonsOfPayingUser : conference.participantLimit);
+    m_personNum->setRange(ParticipantLimits::Least, ParticipantLimits::most(conference));
     m_personNum->setValue(conference.participantLimit);
     layout->addWidget(m_personNum);
     layout->addWidget(makeUnit(QStringLiteral("人"), row));
@@ -186,7 +182,7 @@ void ContactDetailWidget::addRow(const QString &caption, QWidget *control)
 {
     const int row = m_grid->rowCount();
     CardLabel *label = makeLabel(caption, LFontSizeManager::T7, this);
-    label->setFixedWidth(LabelWidth);
+    label->setFixedWidth(CardMeasures::CaptionWidth);
     m_grid->addWidget(label, row, 0);
     m_grid->addWidget(control, row, 1, 1, ColumnCount - 1);
 }
@@ -237,7 +233,7 @@ ContactDetailMsg ContactDetailWidget::changedConference(const QDateTime &start) 
     minutes.chop(QStringLiteral("分钟").size());
     ContactDetailMsg changed = m_conference;
     changed.startTime = start.toMSecsSinceEpoch();
-    changed.duration = minutes.toLongLong() * MsecsPerMinute;
+    changed.duration = minutes.toLongLong() * ConferenceDurations::Minute;
     changed.participantLimit = m_personNum->value();
     return changed;
 }

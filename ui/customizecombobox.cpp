@@ -4,6 +4,7 @@
 #include "customizecombobox.h"
 
 #include "card/calendarlook.h"
+#include "card/cardinput.h"
 
 #include <QCalendarWidget>
 #include <QDebug>
@@ -14,12 +15,6 @@
 #include <array>
 
 namespace {
-
-bool isConfirmKey(const QEvent &event)
-{
-    const int key = static_cast<const QKeyEvent &>(event).key();
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
 
 /// A frameless window has no button to close it.
 bool isDismissal(const QEvent &event)
@@ -105,7 +100,8 @@ void CustomizeComboBox::slotSelectionData(const QDate &date)
 bool CustomizeComboBox::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_calendar.get()) {
-        if (event->type() == QEvent::KeyRelease && isConfirmKey(*event)) {
+        if (event->type() == QEvent::KeyRelease &&
+            CardInput::isConfirmKey(static_cast<const QKeyEvent &>(*event))) {
             const QPointer<CustomizeComboBox> self(this);
             Q_EMIT m_calendar->clicked(m_calendar->selectedDate());
             if (self.isNull()) {
@@ -139,7 +135,7 @@ void CustomizeComboBox::hideEvent(QHideEvent *event)
 
 void CustomizeComboBox::keyReleaseEvent(QKeyEvent *event)
 {
-    if (isConfirmKey(*event) && !event->isAutoRepeat()) {
+    if (CardInput::isConfirmKey(*event) && !event->isAutoRepeat()) {
         openCalendar();
     }
     LComboBox::keyReleaseEvent(event);

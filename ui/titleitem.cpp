@@ -3,7 +3,9 @@
 
 #include "titleitem.h"
 
+#include "card/cardinput.h"
 #include "card/cardlabel.h"
+#include "card/cardmeasures.h"
 #include "card/cardtext.h"
 #include "card/cardtheme.h"
 #include "card/selectionbudget.h"
@@ -21,18 +23,12 @@ namespace {
 constexpr QSize RowSize(330, 40);
 constexpr int Margin = 10;
 constexpr int SpaceAfterName = 20;
-constexpr int SpaceAfterCaption = 10;
 constexpr int SpaceBeforeMark = 6;
 constexpr int LeastTextWidth = 110;
 
 constexpr qreal FocusWidth = 2;
 constexpr qreal PickedWidth = 1;
 constexpr qreal FrameRadius = 8;
-
-bool isToggleKey(const QKeyEvent &event)
-{
-    return event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
 
 } // namespace
 
@@ -74,7 +70,7 @@ void TiTleItem::insertConferenceMsg(const UserInfo &user)
     m_layout->addSpacing(SpaceAfterName);
     if (!user.name.isEmpty() && user.name != QLatin1String(" ")) {
         m_captionLabel = addLabel(QStringLiteral("ID"), CardTheme::CaptionAlpha);
-        m_layout->addSpacing(SpaceAfterCaption);
+        m_layout->addSpacing(CardMeasures::SpaceAfterCaption);
     }
     m_detailLabel = addLabel(user.account, CardTheme::CaptionAlpha, SpaceBeforeMark);
     m_layout->addWidget(m_checkBox);
@@ -119,7 +115,7 @@ void TiTleItem::setWidgetColor(QWidget *widget, int alpha)
 
 void TiTleItem::keyPressEvent(QKeyEvent *event)
 {
-    if (!isToggleKey(*event)) {
+    if (!CardInput::isActivationKey(*event)) {
         CustomizeItem::keyPressEvent(event);
         return;
     }
@@ -130,7 +126,7 @@ void TiTleItem::keyPressEvent(QKeyEvent *event)
 
 void TiTleItem::keyReleaseEvent(QKeyEvent *event)
 {
-    if (!isToggleKey(*event)) {
+    if (!CardInput::isActivationKey(*event)) {
         CustomizeItem::keyReleaseEvent(event);
     }
 }

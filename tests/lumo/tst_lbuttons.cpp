@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "themerows.h"
+
 #include <lumo/lcommandlinkbutton.h>
 #include <lumo/lguiapplicationhelper.h>
 #include <lumo/lsuggestbutton.h>
@@ -71,9 +73,7 @@ private Q_SLOTS:
 
 void TestLButtons::theSuggestedButtonHasTheAccentColour_data()
 {
-    QTest::addColumn<int>("theme");
-    QTest::newRow("light") << static_cast<int>(LGuiApplicationHelper::LightType);
-    QTest::newRow("dark") << static_cast<int>(LGuiApplicationHelper::DarkType);
+    addThemes();
 }
 
 void TestLButtons::theSuggestedButtonHasTheAccentColour()

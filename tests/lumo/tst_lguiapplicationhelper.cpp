@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "testcolumns.h"
+#include "themerows.h"
 
 #include <lumo/lguiapplicationhelper.h>
 
@@ -123,9 +124,7 @@ void TestLGuiApplicationHelper::theNextApplicationIsFollowedToo()
 
 void TestLGuiApplicationHelper::theThemesAreReadable_data()
 {
-    QTest::addColumn<int>("theme");
-    QTest::newRow("light") << int(Helper::LightType);
-    QTest::newRow("dark") << int(Helper::DarkType);
+    addThemes();
 }
 
 /// The contrast that WCAG asks for in texts of normal size: 4.5 to 1.

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "themerows.h"
+
 #include <lumo/lcombobox.h>
 #include <lumo/lguiapplicationhelper.h>
 #include <lumo/lspinbox.h>
@@ -78,9 +80,7 @@ void TestLStyle::thePaletteOfTheStyleIsTheLightOne()
 
 void TestLStyle::buttonsAreFlatRoundedAndInThePalettesColour_data()
 {
-    QTest::addColumn<int>("theme");
-    QTest::newRow("light") << int(Helper::LightType);
-    QTest::newRow("dark") << int(Helper::DarkType);
+    addThemes();
 }
 
 void TestLStyle::buttonsAreFlatRoundedAndInThePalettesColour()

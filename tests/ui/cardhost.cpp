@@ -13,7 +13,9 @@ constexpr int OneInstance = 1;
 constexpr int HostWidth = 400;
 } // namespace
 
-CardHost::CardHost() : m_processes(OneInstance), m_card(new ConferenceMsgStaticWidget)
+CardHost::CardHost(void (*build)(ConferenceMsgStaticWidget &))
+    : m_processes(OneInstance)
+    , m_card(new ConferenceMsgStaticWidget)
 {
     ScriptedAbility::instance().reset();
     for (const char *action : {"Create Conference", "Invite Members", "Update Conference",
@@ -25,6 +27,9 @@ CardHost::CardHost() : m_processes(OneInstance), m_card(new ConferenceMsgStaticW
     setFixedWidth(HostWidth);
     connect(m_card.data(), &ConferenceMsgStaticWidget::signalSendShowMessgae, this,
             [this](const Reply &reply) { m_replies.append(reply); });
+    if (build != nullptr) {
+        build(*m_card);
+    }
 }
 
 CardHost::~CardHost() = default;

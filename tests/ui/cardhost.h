@@ -22,7 +22,8 @@ class ConferenceMsgStaticWidget;
 class CardHost : public QDialog
 {
 public:
-    CardHost();
+    /// The card is empty without @p build.
+    explicit CardHost(void (*build)(ConferenceMsgStaticWidget &card) = nullptr);
     ~CardHost() override;
 
     /// Null once the card is deleted.

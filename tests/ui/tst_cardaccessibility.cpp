@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "cardbuilds.h"
 #include "cardhost.h"
 #include "cardsamples.h"
 #include "conferencemsgstaticwidget.h"
@@ -37,8 +38,6 @@ private Q_SLOTS:
 
 namespace {
 
-using Build = void (*)(ConferenceMsgStaticWidget &);
-
 void forEach(QAccessibleInterface *interface, const std::function<void(QAccessibleInterface *)> &visit)
 {
     visit(interface);
@@ -48,13 +47,6 @@ void forEach(QAccessibleInterface *interface, const std::function<void(QAccessib
             forEach(child, visit);
         }
     }
-}
-
-void buildEditable(ConferenceMsgStaticWidget &card)
-{
-    QVector<ContactDetailMsg> list = {conference()};
-    card.createInviteConference(list);
-    named<LSpinBox>(card, QStringLiteral("人数"))->setValue(7);
 }
 
 QAccessibleInterface *controlNamed(QWidget &parent, const QString &name)
@@ -73,8 +65,6 @@ QAccessibleInterface *controlNamed(QWidget &parent, const QString &name)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Build)
-
 void TestCardAccessibility::everyControlHasANameAndATurn_data()
 {
     addColumns<Build, int>({"build", "controls"});
@@ -84,7 +74,7 @@ void TestCardAccessibility::everyControlHasANameAndATurn_data()
         << Build([](ConferenceMsgStaticWidget &card) { card.multipleInit(conferences(3)); }) << 1;
     QTest::newRow("four conferences: the card and the footer")
         << Build([](ConferenceMsgStaticWidget &card) { card.multipleInit(conferences(4)); }) << 2;
-    QTest::newRow("an editor: the card, four fields and two buttons") << Build(buildEditable) << 7;
+    QTest::newRow("an editor: the card, four fields and two buttons") << Build(buildEdited) << 7;
     QTest::newRow("people to create with: the card, five rows and a button")
         << Build([](ConferenceMsgStaticWidget &card) { card.createMultiplePerson(createdDetail(), true); })
         << 7;
@@ -98,8 +88,7 @@ void TestCardAccessibility::everyControlHasANameAndATurn()
 {
     QFETCH(Build, build);
     QFETCH(int, controls);
-    CardHost host;
-    build(*host.card());
+    CardHost host(build);
     QVERIFY(host.activate());
 
     // With the keyboard, from the card on until it has its turn again.
@@ -156,8 +145,7 @@ void TestCardAccessibility::theControlsOfAnEditor_data()
 void TestCardAccessibility::theControlsOfAnEditor()
 {
     QFETCH(QString, name);
-    CardHost host;
-    buildEditable(*host.card());
+    CardHost host(buildEdited);
     QVERIFY(host.activate());
     QAccessibleInterface *control = controlNamed(*host.card(), name);
     QVERIFY(control != nullptr);
@@ -167,8 +155,7 @@ void TestCardAccessibility::theControlsOfAnEditor()
 
 void TestCardAccessibility::captionsBelongToTheirControls()
 {
-    CardHost host;
-    buildEditable(*host.card());
+    CardHost host(buildEdited);
     QVERIFY(host.activate());
     const QMap<QString, QString> captions = {{QStringLiteral("时间"), QStringLiteral("日期")},
                                              {QStringLiteral("时长"), QStringLiteral("时长")},
@@ -227,8 +214,7 @@ void TestCardAccessibility::theCardCanBePressed()
 
 void TestCardAccessibility::separatorsAreSeparators()
 {
-    CardHost host;
-    buildEditable(*host.card());
+    CardHost host(buildEdited);
     QVERIFY(host.activate());
     int separators = 0;
     forEach(QAccessible::queryAccessibleInterface(host.card()), [&](QAccessibleInterface *interface) {

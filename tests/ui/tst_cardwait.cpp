@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "cardbuilds.h"
 #include "cardhost.h"
 #include "cardsamples.h"
 #include "conferencemsgstaticwidget.h"
@@ -33,7 +34,6 @@ private Q_SLOTS:
 
 namespace {
 
-using Build = void (*)(ConferenceMsgStaticWidget &);
 using Ask = void (*)(ConferenceMsgStaticWidget &);
 
 /// Counts how often a widget is painted.
@@ -60,13 +60,6 @@ bool isWaitCursor()
 {
     const QCursor *cursor = QGuiApplication::overrideCursor();
     return cursor != nullptr && cursor->shape() == Qt::WaitCursor;
-}
-
-void buildEdited(ConferenceMsgStaticWidget &card)
-{
-    QVector<ContactDetailMsg> list = {conference()};
-    card.createInviteConference(list);
-    named<LSpinBox>(card, QStringLiteral("人数"))->setValue(7);
 }
 
 void addCards()
@@ -97,8 +90,6 @@ void addCards()
 
 } // namespace
 
-Q_DECLARE_METATYPE(Build)
-
 void TestCardWait::itIsSeenThatAButtonWaits_data()
 {
     addCards();
@@ -108,8 +99,7 @@ void TestCardWait::itIsSeenThatAButtonWaits()
 {
     QFETCH(Build, build);
     QFETCH(Ask, ask);
-    CardHost host;
-    build(*host.card());
+    CardHost host(build);
     QVERIFY(host.activate());
     const PaintCounter paints(host.card());
     bool isWaiting = false;
@@ -150,8 +140,7 @@ void TestCardWait::theConfirmButtonSaysThatItWaits()
 
 void TestCardWait::theNewValuesArePaintedBeforeTheAnswer()
 {
-    CardHost host;
-    buildEdited(*host.card());
+    CardHost host(buildEdited);
     QVERIFY(host.activate());
     QStringList painted;
     ScriptedAbility::instance().duringNextRequest([&] {
@@ -175,8 +164,7 @@ void TestCardWait::theCursorIsRestoredWhenTheCardIsDeletedMeanwhile()
 {
     QFETCH(Build, build);
     QFETCH(Ask, ask);
-    CardHost host;
-    build(*host.card());
+    CardHost host(build);
     QVERIFY(host.activate());
     ScriptedAbility::instance().duringNextRequest([&host] { delete host.card(); });
     ask(*host.card());

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "cardbuilds.h"
 #include "cardhost.h"
 #include "cardsamples.h"
 #include "conferencemsgstaticwidget.h"
@@ -63,29 +64,7 @@ private Q_SLOTS:
 
 namespace {
 
-using Build = void (*)(ConferenceMsgStaticWidget &);
 using Slot = void (ConferenceMsgStaticWidget::*)();
-
-void buildEditable(ConferenceMsgStaticWidget &card)
-{
-    QVector<ContactDetailMsg> list = {conference()};
-    card.createInviteConference(list);
-}
-
-void buildCreate(ConferenceMsgStaticWidget &card)
-{
-    card.createMultiplePerson(createdDetail(), true);
-}
-
-void buildInvite(ConferenceMsgStaticWidget &card)
-{
-    card.inviteMultiplePerson(inviteDetail());
-}
-
-void buildLimit(ConferenceMsgStaticWidget &card)
-{
-    card.invitePersonLimit(inviteDetail());
-}
 
 QPushButton *confirmButton(const CardHost &host)
 {
@@ -129,13 +108,11 @@ bool isEditable(const CardHost &host)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Build)
 Q_DECLARE_METATYPE(Slot)
 
 void TestConferenceCardActions::aReplyHasTextsOnly()
 {
-    CardHost host;
-    buildEditable(*host.card());
+    CardHost host(buildEditable);
     QTest::mouseClick(button(*host.card(), QStringLiteral("取 消")), Qt::LeftButton);
     QCOMPARE(host.replies().size(), 1);
     const Reply reply = host.replies().first();
@@ -161,8 +138,7 @@ void TestConferenceCardActions::modify()
     QFETCH(int, callCode);
     QFETCH(int, loggedCode);
     QFETCH(QString, text);
-    CardHost host;
-    buildEditable(*host.card());
+    CardHost host(buildEditable);
     if (callCode == 0) {
         CardHost::answer(QStringLiteral("Update Conference"), outcome);
     } else {
@@ -208,8 +184,7 @@ void TestConferenceCardActions::theModifiedValuesAreSentAndShown()
 
 void TestConferenceCardActions::modifyIsShownBeforeTheAnswer()
 {
-    CardHost host;
-    buildEditable(*host.card());
+    CardHost host(buildEditable);
     QVERIFY(host.activate());
     named<LSpinBox>(*host.card(), QStringLiteral("人数"))->setValue(7);
     QStringList textsAtReply;
@@ -250,8 +225,7 @@ void TestConferenceCardActions::cancel()
     QFETCH(int, callCode);
     QFETCH(int, loggedCode);
     QFETCH(QString, text);
-    CardHost host;
-    buildEditable(*host.card());
+    CardHost host(buildEditable);
     if (callCode == 0) {
         CardHost::answer(QStringLiteral("Delete Conference"), outcome);
     } else {
@@ -273,8 +247,7 @@ void TestConferenceCardActions::cancel()
 
 void TestConferenceCardActions::cancelDiscardsEdits()
 {
-    CardHost host;
-    buildEditable(*host.card());
+    CardHost host(buildEditable);
     named<LSpinBox>(*host.card(), QStringLiteral("人数"))->setValue(7);
     QTest::mouseClick(button(*host.card(), QStringLiteral("取 消")), Qt::LeftButton);
     QCOMPARE(texts(*host.card()), unchangedTexts());
@@ -282,8 +255,7 @@ void TestConferenceCardActions::cancelDiscardsEdits()
 
 void TestConferenceCardActions::inviteGoesOnInTheContacts()
 {
-    CardHost host;
-    buildEditable(*host.card());
+    CardHost host(buildEditable);
     QMetaObject::invokeMethod(host.card(), "slotInviteConference");
     QCOMPARE(CardHost::actions(),
              (QStringList{QStringLiteral("Update Conference"), QStringLiteral("Open Conference List")}));
@@ -331,8 +303,7 @@ void TestConferenceCardActions::theRowsOfASelectionCard()
 {
     QFETCH(Build, build);
     QFETCH(QStringList, userIds);
-    CardHost host;
-    build(*host.card());
+    CardHost host(build);
     QStringList shownIds;
     for (const TiTleItem *row : shown<TiTleItem>(*host.card())) {
         shownIds.append(row->getUserInfo().userId);
@@ -460,8 +431,7 @@ void TestConferenceCardActions::confirm()
     QFETCH(QVector<int>, picks);
     QFETCH(QString, action);
     QFETCH(int, code);
-    CardHost host;
-    build(*host.card());
+    CardHost host(build);
     QVERIFY(host.activate());
     if (code != 0) {
         CardHost::fail(action, code);
@@ -503,8 +473,7 @@ void TestConferenceCardActions::theNamesSaid()
 {
     QFETCH(Build, build);
     QFETCH(QString, text);
-    CardHost host;
-    build(*host.card());
+    CardHost host(build);
     // Both 张三 and the first 王五.
     pick(host, {0, 1, 2});
     QTest::mouseClick(confirmButton(host), Qt::LeftButton);
@@ -540,8 +509,7 @@ void TestConferenceCardActions::whoIsFoundTwiceIsSentTwice()
 
 void TestConferenceCardActions::thePickedPersonIsTakenBack()
 {
-    CardHost host;
-    buildLimit(*host.card());
+    CardHost host(buildLimit);
     pick(host, {0, 1, 0});
     QTest::mouseClick(confirmButton(host), Qt::LeftButton);
     QCOMPARE(CardHost::parameters(), QStringLiteral(R"({"members":[{"name":"张三","userId":"z1"}]})"));
@@ -579,8 +547,7 @@ void TestConferenceCardActions::aButtonAsksOnce()
 {
     QFETCH(Build, build);
     QFETCH(QString, text);
-    CardHost host;
-    build(*host.card());
+    CardHost host(build);
     const int rows = shown<TiTleItem>(*host.card()).size();
     QPushButton *target = button(*host.card(), text);
     const auto clickAgain = [target] {
@@ -666,8 +633,7 @@ void TestConferenceCardActions::anExceptionStaysInTheSlot()
     QFETCH(Slot, slot);
     QFETCH(QString, action);
     QFETCH(QString, text);
-    CardHost host;
-    build(*host.card());
+    CardHost host(build);
     ScriptedAbility::instance().throwFromNextRequest("no memory left");
     host.log().expect(QtWarningMsg,
                       QStringLiteral("The contact ability failed: \"%1\" no memory left").arg(action));

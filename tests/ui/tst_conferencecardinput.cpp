@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "cardbuilds.h"
 #include "cardhost.h"
 #include "cardsamples.h"
 #include "conferencemsgstaticwidget.h"
@@ -58,12 +59,6 @@ QStringList once(const char *action)
 
 const char OpenList[] = "Open Conference List";
 
-void buildEditable(ConferenceMsgStaticWidget &card)
-{
-    QVector<ContactDetailMsg> list = {conference()};
-    card.createInviteConference(list);
-}
-
 bool hasBlueFrame(QWidget &card)
 {
     const QImage image = card.grab().toImage();
@@ -73,8 +68,6 @@ bool hasBlueFrame(QWidget &card)
 
 } // namespace
 
-using Build = void (*)(ConferenceMsgStaticWidget &);
-Q_DECLARE_METATYPE(Build)
 Q_DECLARE_METATYPE(Qt::FocusReason)
 
 void TestConferenceCardInput::aClickOpensTheContacts_data()
@@ -165,8 +158,7 @@ void TestConferenceCardInput::aHeldKeyOpensTheContactsOnce()
 
 void TestConferenceCardInput::aKeyForAControlIsNotOneForTheCard()
 {
-    CardHost host;
-    buildEditable(*host.card());
+    CardHost host(buildEditable);
     QVERIFY(host.activate());
     auto *people = named<QWidget>(*host.card(), QStringLiteral("人数"));
     people->setFocus(Qt::TabFocusReason);
@@ -186,8 +178,7 @@ void TestConferenceCardInput::aClickOnAControlIsNotOneOnTheCard_data()
 void TestConferenceCardInput::aClickOnAControlIsNotOneOnTheCard()
 {
     QFETCH(int, mouseButton);
-    CardHost host;
-    buildEditable(*host.card());
+    CardHost host(buildEditable);
     QVERIFY(host.activate());
     // Disabled: a click on it would otherwise fall through.
     QTest::mouseClick(button(*host.card(), QStringLiteral("修 改")),
@@ -225,8 +216,7 @@ void TestConferenceCardInput::theFrameIsForTheTabKey_data()
 void TestConferenceCardInput::theFrameIsForTheTabKey()
 {
     QFETCH(Qt::FocusReason, reason);
-    CardHost host;
-    buildEditable(*host.card());
+    CardHost host(buildEditable);
     QVERIFY(host.activate());
     QWidget *control = named<QWidget>(*host.card(), QStringLiteral("人数"));
     control->setFocus();
@@ -295,8 +285,7 @@ void TestConferenceCardInput::returnClicksAButtonOnce()
          }},
     };
     for (const Press &press : presses) {
-        CardHost host;
-        build(*host.card());
+        CardHost host(build);
         QVERIFY(host.activate());
         QPushButton *target = button(*host.card(), text);
         QVERIFY(target != nullptr);
@@ -328,8 +317,7 @@ void TestConferenceCardInput::aHeldReturnClicksOnce()
 
 void TestConferenceCardInput::returnOnADisabledButtonDoesNothing()
 {
-    CardHost host;
-    buildEditable(*host.card());
+    CardHost host(buildEditable);
     QVERIFY(host.activate());
     QPushButton *modify = button(*host.card(), QStringLiteral("修 改"));
     QVERIFY(!modify->isEnabled());
@@ -353,8 +341,7 @@ void TestConferenceCardInput::returnOpensTheListOfABox()
 {
     QFETCH(QString, name);
     QFETCH(int, key);
-    CardHost host;
-    buildEditable(*host.card());
+    CardHost host(buildEditable);
     QVERIFY(host.activate());
     auto *box = named<LComboBox>(*host.card(), name);
     box->setFocus(Qt::TabFocusReason);
@@ -369,8 +356,7 @@ void TestConferenceCardInput::returnOpensTheListOfABox()
 
 void TestConferenceCardInput::otherKeysDoNotClick()
 {
-    CardHost host;
-    buildEditable(*host.card());
+    CardHost host(buildEditable);
     QVERIFY(host.activate());
     QPushButton *cancel = button(*host.card(), QStringLiteral("取 消"));
     cancel->setFocus();
@@ -383,8 +369,7 @@ void TestConferenceCardInput::otherKeysDoNotClick()
 
 void TestConferenceCardInput::theFilterSwallowsNothing()
 {
-    CardHost host;
-    buildEditable(*host.card());
+    CardHost host(buildEditable);
     QPushButton *cancel = button(*host.card(), QStringLiteral("取 消"));
     auto *hours = named<LComboBox>(*host.card(), QStringLiteral("开始时间"));
     for (QObject *watched : {static_cast<QObject *>(cancel), static_cast<QObject *>(hours)}) {
@@ -413,8 +398,7 @@ void TestConferenceCardInput::theKeyThatPressedAButtonDoesNotOpenTheContacts()
 
 void TestConferenceCardInput::everythingIsReachedByTab()
 {
-    CardHost host;
-    buildEditable(*host.card());
+    CardHost host(buildEditable);
     QVERIFY(host.activate());
     named<LComboBox>(*host.card(), QStringLiteral("时长"))->setCurrentIndex(0);
     host.card()->setFocus(Qt::TabFocusReason);

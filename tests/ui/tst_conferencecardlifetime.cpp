@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "cardbuilds.h"
 #include "cardhost.h"
 #include "cardsamples.h"
 #include "conferencemsgstaticwidget.h"
@@ -42,30 +43,7 @@ private Q_SLOTS:
 
 namespace {
 
-using Build = void (*)(ConferenceMsgStaticWidget &);
 using Go = void (*)(QPushButton *);
-
-void buildEdited(ConferenceMsgStaticWidget &card)
-{
-    QVector<ContactDetailMsg> list = {conference()};
-    card.createInviteConference(list);
-    named<LSpinBox>(card, QStringLiteral("人数"))->setValue(7);
-}
-
-void buildCreate(ConferenceMsgStaticWidget &card)
-{
-    card.createMultiplePerson(createdDetail(), true);
-}
-
-void buildInvite(ConferenceMsgStaticWidget &card)
-{
-    card.inviteMultiplePerson(inviteDetail());
-}
-
-void buildLimit(ConferenceMsgStaticWidget &card)
-{
-    card.invitePersonLimit(inviteDetail());
-}
 
 /// Everything that makes a card ask and answer, on each way on which a person can get there.
 void addActions()
@@ -119,7 +97,6 @@ void addActions()
 
 } // namespace
 
-Q_DECLARE_METATYPE(Build)
 Q_DECLARE_METATYPE(Go)
 
 void TestConferenceCardLifetime::deletedByItsOwnReply_data()
@@ -132,8 +109,7 @@ void TestConferenceCardLifetime::deletedByItsOwnReply()
     QFETCH(Build, build);
     QFETCH(QString, text);
     QFETCH(Go, go);
-    CardHost host;
-    build(*host.card());
+    CardHost host(build);
     QVERIFY(host.activate());
     connect(host.card(), &ConferenceMsgStaticWidget::signalSendShowMessgae, &host,
             [&host] { delete host.card(); });
@@ -153,8 +129,7 @@ void TestConferenceCardLifetime::deletedWhileItsRequestIsUnderWay()
     QFETCH(Build, build);
     QFETCH(QString, text);
     QFETCH(Go, go);
-    CardHost host;
-    build(*host.card());
+    CardHost host(build);
     QVERIFY(host.activate());
     ScriptedAbility::instance().duringNextRequest([&host] { delete host.card(); });
     go(button(*host.card(), text));
@@ -167,8 +142,7 @@ void TestConferenceCardLifetime::deletedWhileItsRequestIsUnderWay()
 void TestConferenceCardLifetime::deletedWhenItGoesOnInTheContacts()
 {
     for (const bool duringRequest : {false, true}) {
-        CardHost host;
-        buildEdited(*host.card());
+        CardHost host(buildEdited);
         if (duringRequest) {
             ScriptedAbility::instance().duringNextRequest([&host] { delete host.card(); });
         } else {

@@ -291,9 +291,7 @@ void TestCustomizeComboBox::pastDaysAreDimmedAndSelectable()
 
 void TestCustomizeComboBox::theCalendarHasTheThemesColours_data()
 {
-    QTest::addColumn<int>("theme");
-    QTest::newRow("light") << int(DesktopTheme::Light);
-    QTest::newRow("dark") << int(DesktopTheme::Dark);
+    DesktopTheme::addRows();
 }
 
 void TestCustomizeComboBox::theCalendarHasTheThemesColours()

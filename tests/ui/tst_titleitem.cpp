@@ -516,9 +516,7 @@ void TestTiTleItem::theFocusIsSeen()
 
 void TestTiTleItem::hoverAndSelectionAreSeen_data()
 {
-    QTest::addColumn<int>("theme");
-    QTest::newRow("light") << int(DesktopTheme::Light);
-    QTest::newRow("dark") << int(DesktopTheme::Dark);
+    DesktopTheme::addRows();
 }
 
 void TestTiTleItem::hoverAndSelectionAreSeen()

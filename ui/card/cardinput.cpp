@@ -10,7 +10,7 @@ bool CardInput::isConfirmKey(const QKeyEvent &event)
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
-bool CardInput::isOpenKey(const QKeyEvent &event)
+bool CardInput::isActivationKey(const QKeyEvent &event)
 {
     return isConfirmKey(event) || event.key() == Qt::Key_Space;
 }

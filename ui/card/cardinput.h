@@ -14,8 +14,8 @@ public:
     static bool isConfirmKey(const QKeyEvent &event);
     /// Whether @p event is such a key going down; holding it does not press again.
     static bool isPress(const QEvent &event);
-    /// A key that opens the contacts application from the card itself.
-    static bool isOpenKey(const QKeyEvent &event);
+    /// Return, Enter or Space, which activate the card itself or a row of it.
+    static bool isActivationKey(const QKeyEvent &event);
 
     /// @return whether the card now shows its frame.
     [[nodiscard]] bool focusIn(const QFocusEvent &event);

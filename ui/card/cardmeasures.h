@@ -5,12 +5,18 @@
 
 #include <QBoxLayout>
 
-/// The measures that the card and its items share, in device independent pixels.
+/// The measures shared by the card and its items, in device independent pixels.
 namespace CardMeasures {
 
 constexpr int Margin = 10;
 constexpr int Spacing = 10;
 constexpr int CornerRadius = 8;
+constexpr int LineThickness = 1; ///< of separators and dividers
+
+// A row with a caption in front.
+constexpr int CaptionWidth = 60;
+constexpr int CaptionMinimumHeight = 20;
+constexpr int SpaceAfterCaption = 10;
 
 /// Gives @p layout the margins, the spacing and the alignment of a card.
 inline void apply(QBoxLayout &layout)

@@ -3,11 +3,6 @@
 
 #include "card/conferencedurations.h"
 
-namespace {
-constexpr qint64 Minute = Q_INT64_C(60) * 1000;
-constexpr qint64 Hour = 60 * Minute;
-} // namespace
-
 ConferenceDurations::ConferenceDurations()
     : m_labels{
           {5 * Minute, QStringLiteral("5分钟")},   {10 * Minute, QStringLiteral("10分钟")},

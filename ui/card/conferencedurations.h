@@ -7,22 +7,24 @@
 #include <QString>
 #include <QStringList>
 
-/// The durations that a conference card offers, in milliseconds, and how it calls them.
+/// Maps the durations offered by a conference card (ms) to their labels.
 class ConferenceDurations
 {
 public:
+    static constexpr qint64 Minute = Q_INT64_C(60) * 1000;
+    static constexpr qint64 Hour = 60 * Minute;
+
     ConferenceDurations();
 
-    /// What may be chosen, the shortest first. Who does not pay gets those below an hour.
+    /// The labels on offer, shortest first. Free accounts get only those below one hour.
     [[nodiscard]] QStringList choices(bool isPayingUser) const;
 
     /**
-     * How @p duration is called. A duration that the table does not know joins it under an empty name, and
-     * the empty name is the answer: the card then shows its first choice and counts that as a change.
+     * The label of @p duration. An unknown duration joins the table with an empty label, which is returned:
+     * the card then shows its first choice and counts that as a change.
      */
     QString label(qint64 duration);
 
-    /// The duration that is called @p label.
     [[nodiscard]] qint64 duration(const QString &label) const;
 
 private:

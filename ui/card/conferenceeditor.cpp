@@ -4,8 +4,10 @@
 #include "card/conferenceeditor.h"
 
 #include "card/cardbuttons.h"
+#include "card/cardmeasures.h"
 #include "card/cardtheme.h"
 #include "card/conferencerows.h"
+#include "card/participantlimits.h"
 #include "conferencecardinterface.h"
 #include "customizecombobox.h"
 #include "request/requesttexts.h"
@@ -25,11 +27,6 @@ namespace {
 constexpr int DatePickerWidth = 160;
 constexpr int HourBoxWidth = 100;
 constexpr int WideControlWidth = 138;
-constexpr int SpaceAfterDatePicker = 10;
-constexpr int LeastParticipants = 2;
-constexpr int MostParticipants = 100;
-constexpr int ButtonSpacing = 10;
-constexpr int DividerWidth = 1;
 
 /// The width, in physical pixels, of the screen that the cards were drawn for.
 constexpr double PlannedScreenWidth = 1920.0;
@@ -86,7 +83,7 @@ QWidget *ConferenceEditor::beginTime(const ContactDetailMsg &conference, QWidget
     QWidget *picker = datePicker(conference, row.widget, card);
     row.caption->setBuddy(picker);
     row.layout->addWidget(picker);
-    row.layout->addSpacing(SpaceAfterDatePicker);
+    row.layout->addSpacing(CardMeasures::Spacing);
     row.layout->addWidget(hourBox(conference, row.widget, card), 0, Qt::AlignRight);
     return row.widget;
 }
@@ -118,8 +115,8 @@ QWidget *ConferenceEditor::personNum(const ContactDetailMsg &conference, QWidget
     prepare(*box, ConferenceRows::personNumCaption(), scaledWidth(WideControlWidth));
     row.caption->setBuddy(box);
     box->setEnabledEmbedStyle(true);
-    const int most = conference.isPayingUser ? MostParticipants : conference.participantLimit;
-    box->setRange(LeastParticipants, qMax(LeastParticipants, most));
+    const int most = ParticipantLimits::most(conference);
+    box->setRange(ParticipantLimits::Least, qMax(ParticipantLimits::Least, most));
     box->setValue(conference.participantLimit);
     // A count that the box cannot show is sent as it came until a person sets another one.
     m_draft.working().participantLimit = conference.participantLimit;
@@ -167,14 +164,14 @@ QWidget *ConferenceEditor::buttons(QWidget *card)
     auto *row = new QWidget(card);
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(ButtonSpacing);
+    layout->setSpacing(CardMeasures::Spacing);
 
     m_cancelButton = new QPushButton(QStringLiteral("取 消"), row);
     CardButtons::prepare(*m_cancelButton, card);
     layout->addWidget(m_cancelButton);
 
     QPushButton *divider = ConferenceRows::line(row);
-    divider->setFixedWidth(DividerWidth);
+    divider->setFixedWidth(CardMeasures::LineThickness);
     layout->addWidget(divider);
 
     m_modifyButton = new LSuggestButton(QStringLiteral("修 改"), row);

@@ -9,6 +9,7 @@
 #include "card/cardmeasures.h"
 #include "card/cardtext.h"
 #include "card/cardtheme.h"
+#include "card/conferencedurations.h"
 #include "card/conferencestate.h"
 #include "customizeitem.h"
 
@@ -21,14 +22,7 @@
 
 namespace {
 
-constexpr int CaptionWidth = 60;
-constexpr int CaptionMinimumHeight = 20;
-constexpr int SpaceAfterCaption = 10;
-constexpr int TitleSpacing = 10;
-constexpr int SpaceBeforeState = 10;
 constexpr int StateSpacing = 5;
-constexpr int SeparatorHeight = 1;
-constexpr qint64 MsecsPerMinute = 60000;
 
 constexpr Qt::Alignment ContentLeft = Qt::AlignLeft | Qt::AlignVCenter;
 constexpr Qt::Alignment ContentRight = Qt::AlignRight | Qt::AlignVCenter;
@@ -92,7 +86,7 @@ QWidget *ConferenceRows::title(QWidget *parent)
     auto *row = new QWidget(parent);
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(TitleSpacing);
+    layout->setSpacing(CardMeasures::Spacing);
     layout->addWidget(iconLabel(CardIcons::Contacts, row), TitleIconStretch);
     CardLabel *text =
         CardText::label(QStringLiteral("联系人"), LFontSizeManager::T8, CardTheme::TitleAlpha, row);
@@ -106,7 +100,7 @@ QWidget *ConferenceRows::status(const ContactDetailMsg &conference, bool isStati
     auto *row = new QWidget(parent);
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(SpaceBeforeState);
+    layout->setSpacing(CardMeasures::Spacing);
     layout->setAlignment(Qt::AlignLeft);
     layout->addWidget(valueLabel(conference.title, row), 1);
     if (isStatic) {
@@ -133,7 +127,7 @@ QWidget *ConferenceRows::beginTime(const ContactDetailMsg &conference, QWidget *
 
 QWidget *ConferenceRows::timeLength(const ContactDetailMsg &conference, QWidget *parent)
 {
-    const QString text = QStringLiteral("%1分钟").arg(conference.duration / MsecsPerMinute);
+    const QString text = QStringLiteral("%1分钟").arg(conference.duration / ConferenceDurations::Minute);
     return valueRow(timeLengthCaption(), text, parent);
 }
 
@@ -159,10 +153,10 @@ ConferenceRows::CaptionedRow ConferenceRows::captioned(const QString &caption, Q
     layout->setSpacing(0);
     layout->setAlignment(Qt::AlignLeft);
     CardLabel *label = CardText::label(caption, LFontSizeManager::T7, CardTheme::CaptionAlpha, row);
-    label->setFixedWidth(CaptionWidth);
-    label->setMinimumHeight(CaptionMinimumHeight);
+    label->setFixedWidth(CardMeasures::CaptionWidth);
+    label->setMinimumHeight(CardMeasures::CaptionMinimumHeight);
     layout->addWidget(label);
-    layout->addSpacing(SpaceAfterCaption);
+    layout->addSpacing(CardMeasures::SpaceAfterCaption);
     return {row, layout, label};
 }
 
@@ -174,7 +168,7 @@ QPushButton *ConferenceRows::line(QWidget *parent)
 QPushButton *ConferenceRows::separator(QWidget *parent)
 {
     QPushButton *separator = line(parent);
-    separator->setFixedHeight(SeparatorHeight);
+    separator->setFixedHeight(CardMeasures::LineThickness);
     return separator;
 }
 

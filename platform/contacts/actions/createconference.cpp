@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr qint64 MinuteMsecs = 60 * 1000;
-
 bool isTooFrequent(const ActionContext &context)
 {
     return context.conferences.creationsBetween(context.user.userId, context.nowMsecs - MinuteMsecs,

@@ -21,8 +21,6 @@ struct Change
     std::optional<qint64> participantLimit;
 };
 
-constexpr qint64 MinuteMsecs = 60 * 1000;
-
 /// A value that stays as it is is allowed, however it came about.
 bool isTimeAllowed(const ActionContext &context, const Conference &conference, const Change &change)
 {

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QVector>
 
+constexpr qint64 MinuteMsecs = 60 * 1000;
+
 /// Follows from the clock alone. The numbers are sent.
 enum class ConferenceState { NotStarted = 0, Running = 1, Ended = 2 };
 

@@ -23,8 +23,6 @@ static void registerSample()
 
 namespace {
 
-constexpr qint64 MinuteMsecs = 60 * 1000;
-
 QJsonObject readSample()
 {
     registerSample();

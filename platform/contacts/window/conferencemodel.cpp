@@ -16,7 +16,6 @@
 
 namespace {
 
-constexpr qint64 MinuteMsecs = 60 * 1000;
 constexpr qint64 LookBackMsecs = 30 * 24 * 60 * MinuteMsecs;
 constexpr int PageSize = 100;
 constexpr int WholeSize = 1000;

@@ -8,13 +8,7 @@
  * this one to show that it needs no more.
  */
 
-#include <lumo/lcombobox.h>
-#include <lumo/lcommandlinkbutton.h>
-#include <lumo/lfontsizemanager.h>
-#include <lumo/lguiapplicationhelper.h>
-#include <lumo/llabel.h>
-#include <lumo/lspinbox.h>
-#include <lumo/lsuggestbutton.h>
+#include <lumo/toolkit.h>
 
 #include <QGuiApplication>
 #include <QPalette>

@@ -3,12 +3,4 @@
 
 #pragma once
 
-#include <QComboBox>
-
-class Q_DECL_EXPORT LComboBox : public QComboBox
-{
-    Q_OBJECT
-
-public:
-    explicit LComboBox(QWidget *parent = nullptr);
-};
+#include "toolkit.h"

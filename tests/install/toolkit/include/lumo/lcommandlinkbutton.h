@@ -3,13 +3,4 @@
 
 #pragma once
 
-#include <QPushButton>
-
-class Q_DECL_EXPORT LCommandLinkButton : public QPushButton
-{
-    Q_OBJECT
-
-public:
-    explicit LCommandLinkButton(QWidget *parent = nullptr);
-    explicit LCommandLinkButton(const QString &text, QWidget *parent = nullptr);
-};
+#include "toolkit.h"

@@ -3,14 +3,4 @@
 
 #pragma once
 
-#include <QFont>
-
-class Q_DECL_EXPORT LFontSizeManager
-{
-public:
-    enum SizeType : int { T6 = 5, T7 = 6, T8 = 7 };
-
-    static LFontSizeManager *instance();
-
-    QFont get(SizeType type, const QFont &base) const;
-};
+#include "toolkit.h"

@@ -3,15 +3,4 @@
 
 #pragma once
 
-#include <QObject>
-
-class Q_DECL_EXPORT LGuiApplicationHelper : public QObject
-{
-    Q_OBJECT
-
-public:
-    static LGuiApplicationHelper *instance();
-
-    /// 1 is light.
-    int themeType() const;
-};
+#include "toolkit.h"

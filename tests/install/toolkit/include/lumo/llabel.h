@@ -3,13 +3,4 @@
 
 #pragma once
 
-#include <QLabel>
-
-class Q_DECL_EXPORT LLabel : public QLabel
-{
-    Q_OBJECT
-
-public:
-    explicit LLabel(QWidget *parent = nullptr);
-    explicit LLabel(const QString &text, QWidget *parent = nullptr);
-};
+#include "toolkit.h"

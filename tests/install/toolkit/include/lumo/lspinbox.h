@@ -3,14 +3,4 @@
 
 #pragma once
 
-#include <QSpinBox>
-
-class Q_DECL_EXPORT LSpinBox : public QSpinBox
-{
-    Q_OBJECT
-
-public:
-    explicit LSpinBox(QWidget *parent = nullptr);
-
-    void setEnabledEmbedStyle(bool enabled);
-};
+#include "toolkit.h"

@@ -3,13 +3,4 @@
 
 #pragma once
 
-#include <QPushButton>
-
-class Q_DECL_EXPORT LSuggestButton : public QPushButton
-{
-    Q_OBJECT
-
-public:
-    explicit LSuggestButton(QWidget *parent = nullptr);
-    explicit LSuggestButton(const QString &text, QWidget *parent = nullptr);
-};
+#include "toolkit.h"

@@ -4,9 +4,9 @@
 #include "sampleworld.h"
 
 #include "logcapture.h"
+#include "testcolumns.h"
 
 #include "core/statement.h"
-#include "testcolumns.h"
 #include "window/conferencemodel.h"
 #include "window/contactswindow.h"
 #include "window/tablepage.h"

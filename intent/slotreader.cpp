@@ -9,22 +9,13 @@
 
 namespace {
 
-QString nameKey()
-{
-    return QStringLiteral("name");
-}
-QString valueKey()
-{
-    return QStringLiteral("value");
-}
-QString normValueKey()
-{
-    return QStringLiteral("normValue");
-}
+const QLatin1String NameKey("name");
+const QLatin1String ValueKey("value");
+const QLatin1String NormValueKey("normValue");
 
 bool isCalled(const CloudSlot &slot, const char *slotName)
 {
-    return slot.map.value(nameKey()).toString() == QLatin1String(slotName);
+    return slot.map.value(NameKey).toString() == QLatin1String(slotName);
 }
 
 } // namespace
@@ -39,13 +30,13 @@ const CloudSlot *SlotReader::first(const CloudIntent &intent, const char *slotNa
 
 QString SlotReader::text(const CloudSlot &slot)
 {
-    const auto normValue = slot.map.constFind(normValueKey());
+    const auto normValue = slot.map.constFind(NormValueKey);
     return normValue == slot.map.constEnd() ? spokenValue(slot) : normValue->toString();
 }
 
 QString SlotReader::spokenValue(const CloudSlot &slot)
 {
-    return slot.map.value(valueKey()).toString();
+    return slot.map.value(ValueKey).toString();
 }
 
 QString SlotReader::firstText(const CloudIntent &intent, const char *slotName, const QString &fallback)

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QDBusMessage>
 #include <QString>
 
 /// Where the contacts application is found on the session bus.
@@ -22,6 +23,11 @@ inline QString contactInterface()
 inline QString adminPath()
 {
     return QStringLiteral("/com/kelvane/meetlynx/admin");
+}
+/// A call of @p method of the contacts interface.
+inline QDBusMessage contactCall(const QString &method)
+{
+    return QDBusMessage::createMethodCall(service(), contactPath(), contactInterface(), method);
 }
 inline QString deadlinePassedError()
 {

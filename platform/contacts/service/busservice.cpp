@@ -70,8 +70,7 @@ bool BusService::putOnBus(const QString &path, QObject *object)
 void BusService::askOtherForWindow()
 {
     constexpr int timeoutMsecs = 5000;
-    QDBusMessage message = QDBusMessage::createMethodCall(
-        BusName::service(), BusName::contactPath(), BusName::contactInterface(), QStringLiteral("Request"));
+    QDBusMessage message = BusName::contactCall(QStringLiteral("Request"));
     const qint64 deadlineMsecs = RequestTicket::nowMsecs() + timeoutMsecs;
     message << QStringLiteral("Open Conference List") << QString() << deadlineMsecs << QString();
     const QDBusMessage reply = m_connection.call(message, QDBus::Block, timeoutMsecs);

@@ -57,9 +57,7 @@ void NameReader::ask()
     }
     m_isAsking = true;
     m_askAgain = false;
-    QDBusMessage message =
-        QDBusMessage::createMethodCall(BusName::service(), BusName::contactPath(),
-                                       BusName::contactInterface(), QStringLiteral("ContactNames"));
+    QDBusMessage message = BusName::contactCall(QStringLiteral("ContactNames"));
     message.setAutoStartService(false); // starting the application is up to the plugin
     connect(call(message, AnswerMsecs), &QDBusPendingCallWatcher::finished, this,
             [this](QDBusPendingCallWatcher *finished) {

@@ -11,15 +11,8 @@ namespace {
 
 constexpr int ExactMatch = 100;
 
-QString windowAction()
-{
-    return QStringLiteral("window");
-}
-
-QString icon()
-{
-    return QStringLiteral("speakmate-devhost");
-}
+const QLatin1String WindowAction("window");
+const QLatin1String Icon("speakmate-devhost");
 
 } // namespace
 
@@ -27,7 +20,7 @@ KRunnerRequests::KRunnerRequests(LauncherDesk &desk, QObject *parent) : QObject(
 
 KRunnerActions KRunnerRequests::Actions()
 {
-    return {{windowAction(), QStringLiteral("在语音助手的窗口中执行"), QStringLiteral("window-new")}};
+    return {{WindowAction, QStringLiteral("在语音助手的窗口中执行"), QStringLiteral("window-new")}};
 }
 
 KRunnerMatches KRunnerRequests::Match(const QString &query)
@@ -37,14 +30,14 @@ KRunnerMatches KRunnerRequests::Match(const QString &query)
         return {};
     }
     const QVariantMap properties{{QStringLiteral("category"), QStringLiteral("语音助手")},
-                                 {QStringLiteral("actions"), QStringList{windowAction()}}};
-    return {{act.id, act.line, icon(), ExactMatch, 1.0, properties}};
+                                 {QStringLiteral("actions"), QStringList{WindowAction}}};
+    return {{act.id, act.line, Icon, ExactMatch, 1.0, properties}};
 }
 
 void KRunnerRequests::Run(const QString &matchId, const QString &actionId)
 {
     m_desk.run(matchId,
-               actionId == windowAction() ? LauncherDesk::Place::Window : LauncherDesk::Place::WhereItFits);
+               actionId == WindowAction ? LauncherDesk::Place::Window : LauncherDesk::Place::WhereItFits);
 }
 
 } // namespace devhost

@@ -21,15 +21,8 @@ namespace {
 
 constexpr int LongestSilenceMsecs = 3000;
 
-QString serviceName()
-{
-    return QStringLiteral("com.kelvane.speakmate.devhost");
-}
-
-QString connectionName()
-{
-    return QStringLiteral("speakmate-launcher");
-}
+const QLatin1String ServiceName("com.kelvane.speakmate.devhost");
+const QLatin1String ConnectionName("speakmate-launcher");
 
 } // namespace
 
@@ -37,12 +30,12 @@ LauncherBus::LauncherBus() = default;
 
 LauncherBus::~LauncherBus()
 {
-    QDBusConnection::disconnectFromBus(connectionName());
+    QDBusConnection::disconnectFromBus(ConnectionName);
 }
 
 QDBusConnection LauncherBus::bus() const
 {
-    return QDBusConnection(connectionName());
+    return QDBusConnection(ConnectionName);
 }
 
 LauncherBus::Start LauncherBus::connectToBus()
@@ -54,7 +47,7 @@ LauncherBus::Start LauncherBus::connectToBus()
     if (found != BusProbe::Found::Bus) {
         return Start::NoBus;
     }
-    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName());
+    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, ConnectionName);
     if (!bus.isConnected()) {
         return Start::NoBus;
     }
@@ -77,10 +70,10 @@ LauncherBus::Start LauncherBus::offer(LauncherDesk &desk)
     const bool areOffered =
         connection.registerObject(QStringLiteral("/krunner"), krunner) &&
         connection.registerObject(QStringLiteral("/com/kelvane/speakmate/devhost/SearchProvider"), search);
-    if (areOffered && connection.registerService(serviceName())) {
+    if (areOffered && connection.registerService(ServiceName)) {
         return Start::Done;
     }
-    if (areOffered && connection.interface()->isServiceRegistered(serviceName())) {
+    if (areOffered && connection.interface()->isServiceRegistered(ServiceName)) {
         return Start::AlreadyRunning;
     }
     qCritical() << "The launchers cannot be served:" << connection.lastError().message();

@@ -14,28 +14,21 @@ namespace {
 
 constexpr int AnswerMsecs = 3000;
 
-QString service()
-{
-    return QStringLiteral("org.freedesktop.Notifications");
-}
-
-QString path()
-{
-    return QStringLiteral("/org/freedesktop/Notifications");
-}
+const QLatin1String Service("org.freedesktop.Notifications");
+const QLatin1String Path("/org/freedesktop/Notifications");
 
 QDBusMessage callOf(const QString &method)
 {
-    return QDBusMessage::createMethodCall(service(), path(), service(), method);
+    return QDBusMessage::createMethodCall(Service, Path, Service, method);
 }
 
 } // namespace
 
 Notifier::Notifier(const QDBusConnection &bus, QObject *parent) : QObject(parent), m_bus(bus)
 {
-    m_bus.connect(service(), path(), service(), QStringLiteral("ActionInvoked"), this,
+    m_bus.connect(Service, Path, Service, QStringLiteral("ActionInvoked"), this,
                   SLOT(noteAction(uint, QString)));
-    m_bus.connect(service(), path(), service(), QStringLiteral("NotificationClosed"), this,
+    m_bus.connect(Service, Path, Service, QStringLiteral("NotificationClosed"), this,
                   SLOT(noteClosed(uint, uint)));
 }
 

@@ -19,15 +19,8 @@ constexpr qreal PlannedPixelSize = 14;
 constexpr qreal LeastCardScale = 0.8;
 constexpr qreal MostCardScale = 1.45; ///< rows and captions have fixed sizes, which hold no more
 
-QString themeKey()
-{
-    return QStringLiteral("appearance/theme");
-}
-
-QString fontStepKey()
-{
-    return QStringLiteral("appearance/fontStep");
-}
+const QLatin1String ThemeKey("appearance/theme");
+const QLatin1String FontStepKey("appearance/fontStep");
 
 } // namespace
 
@@ -39,8 +32,8 @@ Appearance::Appearance(QObject *parent)
         m_desktopPointSize = QApplication::font().pixelSize() * 0.75;
     }
     const QSettings settings;
-    m_theme = Theme(qBound(int(System), settings.value(themeKey(), int(System)).toInt(), int(Dark)));
-    m_fontStep = qBound(SmallestStep, settings.value(fontStepKey(), 0).toInt(), LargestStep);
+    m_theme = Theme(qBound(int(System), settings.value(ThemeKey, int(System)).toInt(), int(Dark)));
+    m_fontStep = qBound(SmallestStep, settings.value(FontStepKey, 0).toInt(), LargestStep);
     applyTheme();
     applyFont();
 }
@@ -48,14 +41,14 @@ Appearance::Appearance(QObject *parent)
 void Appearance::setTheme(Theme theme)
 {
     m_theme = theme;
-    QSettings().setValue(themeKey(), int(theme));
+    QSettings().setValue(ThemeKey, int(theme));
     applyTheme();
 }
 
 void Appearance::setFontStep(int step)
 {
     m_fontStep = qBound(SmallestStep, step, LargestStep);
-    QSettings().setValue(fontStepKey(), m_fontStep);
+    QSettings().setValue(FontStepKey, m_fontStep);
     applyFont();
 }
 

@@ -18,12 +18,6 @@ constexpr int BusMsecs = 3000;
 constexpr int AnswerMsecs = 3000;
 constexpr int StartMsecs = 10000;
 
-QDBusMessage callOf(const QString &method)
-{
-    return QDBusMessage::createMethodCall(BusName::service(), BusName::contactPath(),
-                                          BusName::contactInterface(), method);
-}
-
 } // namespace
 
 ApplicationAsker::ApplicationAsker() : BusClient(QStringLiteral("speakmate-application")) {}
@@ -56,7 +50,7 @@ void ApplicationAsker::ask()
     }
     m_isAsking = true;
     m_askAgain = false;
-    QDBusMessage message = callOf(QStringLiteral("Overview"));
+    QDBusMessage message = BusName::contactCall(QStringLiteral("Overview"));
     message.setAutoStartService(false);
     QDBusPendingCallWatcher *watcher = call(message, AnswerMsecs);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
@@ -76,7 +70,7 @@ void ApplicationAsker::openWindow()
         Q_EMIT windowRefused();
         return;
     }
-    QDBusMessage message = callOf(QStringLiteral("Request"));
+    QDBusMessage message = BusName::contactCall(QStringLiteral("Request"));
     message << QStringLiteral("Open Conference List") << QString() << qlonglong(0) << QString();
     QDBusPendingCallWatcher *watcher = call(message, StartMsecs);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {

@@ -40,25 +40,10 @@ namespace {
 
 constexpr QSize FirstSize(1080, 760);
 
-QString geometryKey()
-{
-    return QStringLiteral("window/geometry");
-}
-
-QString splitterKey()
-{
-    return QStringLiteral("window/splitter");
-}
-
-QString inspectorKey()
-{
-    return QStringLiteral("window/inspector");
-}
-
-QString speechKey()
-{
-    return QStringLiteral("speech/on");
-}
+const QLatin1String GeometryKey("window/geometry");
+const QLatin1String SplitterKey("window/splitter");
+const QLatin1String InspectorKey("window/inspector");
+const QLatin1String SpeechKey("speech/on");
 
 } // namespace
 
@@ -366,24 +351,24 @@ bool MainWindow::focusNextPrevChild(bool next)
 void MainWindow::remember() const
 {
     QSettings settings;
-    settings.setValue(geometryKey(), saveGeometry());
-    settings.setValue(splitterKey(), m_splitter->saveState());
-    settings.setValue(inspectorKey(), m_inspectorAction->isChecked());
-    settings.setValue(speechKey(), m_speechAction->isChecked());
+    settings.setValue(GeometryKey, saveGeometry());
+    settings.setValue(SplitterKey, m_splitter->saveState());
+    settings.setValue(InspectorKey, m_inspectorAction->isChecked());
+    settings.setValue(SpeechKey, m_speechAction->isChecked());
 }
 
 void MainWindow::restore()
 {
     const QSettings settings;
-    if (!restoreGeometry(settings.value(geometryKey()).toByteArray())) {
+    if (!restoreGeometry(settings.value(GeometryKey).toByteArray())) {
         resize(FirstSize);
     }
-    if (!m_splitter->restoreState(settings.value(splitterKey()).toByteArray())) {
+    if (!m_splitter->restoreState(settings.value(SplitterKey).toByteArray())) {
         m_splitter->setSizes({FirstSize.width() * 3 / 5, FirstSize.width() * 2 / 5});
     }
-    m_inspectorAction->setChecked(settings.value(inspectorKey(), true).toBool());
+    m_inspectorAction->setChecked(settings.value(InspectorKey, true).toBool());
     m_inspector->setVisible(m_inspectorAction->isChecked());
-    m_speechAction->setChecked(m_speechAction->isEnabled() && settings.value(speechKey(), false).toBool());
+    m_speechAction->setChecked(m_speechAction->isEnabled() && settings.value(SpeechKey, false).toBool());
 }
 
 } // namespace devhost

@@ -5,15 +5,12 @@
 
 namespace {
 
-QString connectionName()
-{
-    return QStringLiteral("fake-contacts");
-}
+const QLatin1String ConnectionName("fake-contacts");
 
 } // namespace
 
 FakeContacts::FakeContacts(const QStringList &names)
-    : m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName()))
+    : m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, ConnectionName))
     , m_names(names)
 {
     if (!m_bus.registerObject(QStringLiteral("/com/kelvane/meetlynx"), this,
@@ -25,7 +22,7 @@ FakeContacts::FakeContacts(const QStringList &names)
 
 FakeContacts::~FakeContacts()
 {
-    QDBusConnection::disconnectFromBus(connectionName());
+    QDBusConnection::disconnectFromBus(ConnectionName);
 }
 
 void FakeContacts::change(const QStringList &names)

@@ -5,15 +5,12 @@
 
 namespace {
 
-QString connectionName()
-{
-    return QStringLiteral("notification-server");
-}
+const QLatin1String ConnectionName("notification-server");
 
 } // namespace
 
 NotificationServer::NotificationServer(const QStringList &capabilities)
-    : m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName()))
+    : m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, ConnectionName))
     , m_capabilities(capabilities)
 {
     if (!m_bus.registerObject(QStringLiteral("/org/freedesktop/Notifications"), this,
@@ -25,7 +22,7 @@ NotificationServer::NotificationServer(const QStringList &capabilities)
 
 NotificationServer::~NotificationServer()
 {
-    QDBusConnection::disconnectFromBus(connectionName());
+    QDBusConnection::disconnectFromBus(ConnectionName);
 }
 
 uint NotificationServer::Notify(const QString &application, uint /*replaces*/, const QString &icon,

@@ -3,6 +3,7 @@
 
 #include "conferencelistwidget.h"
 
+#include "card/cardmeasures.h"
 #include "conferencemsgstaticwidget.h"
 
 #include <QScrollArea>
@@ -14,7 +15,6 @@ constexpr int PlaceholderCount = 100;
 constexpr int PlaceholderHeight = 120;
 /// More than the spacing of the layout, which leaves a little room below the last one.
 constexpr int HeightBetweenPlaceholders = 11;
-constexpr int Spacing = 10;
 constexpr QMargins Margins(10, 0, 20, 0);
 } // namespace
 
@@ -28,7 +28,7 @@ void ConferenceListWidget::multipleInit(SignalActionType /*type*/)
     auto *content = new QWidget;
     auto *layout = new QVBoxLayout(content);
     layout->setAlignment(Qt::AlignTop);
-    layout->setSpacing(Spacing);
+    layout->setSpacing(CardMeasures::Spacing);
     layout->setContentsMargins(Margins);
 
     int contentHeight = 0;

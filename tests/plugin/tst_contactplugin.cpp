@@ -5,6 +5,7 @@
 
 #include "conferencecardinterface.h"
 #include "configmanager.h"
+#include "configurationfile.h"
 #include "logcapture.h"
 #include "redirectedfile.h"
 #include "testcolumns.h"
@@ -169,14 +170,9 @@ void TestContactPlugin::releaseDeletesOnlyItsOwnLiveServices()
 
 void TestContactPlugin::initReadsTheConfiguration()
 {
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("any.json")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(R"({"Contact":{"TimeOut":"1234","MaxTimeOut":"2345"}})");
-    file.close();
-
+    const ConfigurationFile file(R"({"Contact":{"TimeOut":"1234","MaxTimeOut":"2345"}})");
     const LogCapture log;
-    const RedirectedFile redirected(ConfigurationPath, file.fileName().toUtf8());
+    const RedirectedFile redirected(ConfigurationPath, file.path());
     ContactPlugin plugin;
     QCOMPARE(plugin.init(), 0);
     QCOMPARE(redirected.opened(), 1);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "configurationfile.h"
 #include "logcapture.h"
 #include "redirectedfile.h"
 #include "scriptedability.h"
@@ -376,14 +377,9 @@ void TestLoadedPlugin::servicesComeAndGoOnManyThreads()
 
 void TestLoadedPlugin::configurationDecidesTheTimeout()
 {
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("any.json")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
     // Whether the application runs or not, one of the two is the time-out.
-    file.write(R"({"Contact":{"TimeOut":"600","MaxTimeOut":"700"}})");
-    file.close();
-    const RedirectedFile redirected("/etc/xdg/kelvane-speakmate-plugins/contact-plugin.json",
-                                    file.fileName().toUtf8());
+    const ConfigurationFile file(R"({"Contact":{"TimeOut":"600","MaxTimeOut":"700"}})");
+    const RedirectedFile redirected("/etc/xdg/kelvane-speakmate-plugins/contact-plugin.json", file.path());
     QCOMPARE(m_plugin->init(), 0);
     QCOMPARE(redirected.opened(), 1);
 

@@ -3,55 +3,31 @@
 
 #include "conferencemsgstaticwidget.h"
 
+#include "cardlooks.h"
 #include "cardsamples.h"
-#include "customizecombobox.h"
 #include "customizeitem.h"
 #include "desktoptheme.h"
-#include "logcapture.h"
 #include "paintedcontrast.h"
 #include "testcolumns.h"
 
-#include <lumo/lcombobox.h>
 #include <lumo/lcommandlinkbutton.h>
 #include <lumo/lfontsizemanager.h>
-#include <lumo/lspinbox.h>
-#include <lumo/lsuggestbutton.h>
 
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
-#include <QScreen>
 #include <QVBoxLayout>
 #include <QtTest>
 
+using namespace CardLooks;
 using namespace CardSamples;
 
-/// What a card shows and how it is laid out. Nothing here asks the contacts application.
-class TestConferenceCard : public QObject
+/// What a card shows of one conference and of several, and its colours. Nothing here asks the contacts
+/// application.
+class TestConferenceCard : public CardLooks::LightTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void anEmptyCard();
-    void theRowsOfASingleConference();
-    void theMeasuresOfTheMainLayout();
-    void theTitleRow();
-    void theStatusRow_data();
-    void theStatusRow();
-    void theSubjectAloneWhileItIsEdited();
-    void theLineBetweenTheParts();
-    void aCaptionedRow_data();
-    void aCaptionedRow();
-    void theStaticStart_data();
-    void theStaticStart();
-    void theStaticDuration_data();
-    void theStaticDuration();
-    void participants_data();
-    void participants();
-    void theFontsAndColoursOfTheTexts();
 
     void howManyConferencesAListShows_data();
     void howManyConferencesAListShows();
@@ -72,54 +48,7 @@ private Q_SLOTS:
     void theTextsFollowTheTheme();
     void coloursThatDoNotFollowTheTheme();
     void noStyleSheetIsUsed();
-
-private:
-    std::unique_ptr<LogCapture> m_log;
 };
-
-namespace {
-
-std::unique_ptr<ConferenceMsgStaticWidget> singleCard(const ContactDetailMsg &conference)
-{
-    auto card = std::make_unique<ConferenceMsgStaticWidget>();
-    card->singleInit({conference});
-    return card;
-}
-
-QLabel *labelWith(const QWidget &parent, const QString &text)
-{
-    for (QLabel *label : shown<QLabel>(parent)) {
-        if (label->text() == text) {
-            return label;
-        }
-    }
-    return nullptr;
-}
-
-QColor textColor(const QWidget &widget)
-{
-    return widget.palette().color(QPalette::Active, QPalette::WindowText);
-}
-
-/// The widget's own font in the size of that class.
-QFont sized(const QWidget &widget, LFontSizeManager::SizeType size)
-{
-    return LFontSizeManager::instance()->get(size, widget.font());
-}
-
-} // namespace
-
-void TestConferenceCard::init()
-{
-    m_log = std::make_unique<LogCapture>();
-    DesktopTheme::set(DesktopTheme::Light);
-}
-
-void TestConferenceCard::cleanup()
-{
-    m_log.reset();
-    DesktopTheme::set(DesktopTheme::Light);
-}
 
 void TestConferenceCard::anEmptyCard()
 {
@@ -132,227 +61,6 @@ void TestConferenceCard::anEmptyCard()
     QCOMPARE(card.sizePolicy().horizontalPolicy(), QSizePolicy::Ignored);
     QCOMPARE(card.sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
     QCOMPARE(card.focusPolicy(), Qt::TabFocus);
-}
-
-void TestConferenceCard::theRowsOfASingleConference()
-{
-    const auto card = singleCard(conference());
-    QCOMPARE(texts(*card),
-             (QStringList{QStringLiteral("联系人"), QStringLiteral("周例会"), QStringLiteral("未开始"),
-                          QStringLiteral("会议号"), QStringLiteral("902 118 34"), QStringLiteral("时间"),
-                          QStringLiteral("3月7日    09:00:00"), QStringLiteral("时长"),
-                          QStringLiteral("15分钟"), QStringLiteral("人数"), QStringLiteral("20人"),
-                          QStringLiteral("参与人"), QStringLiteral("张三 李四 ")}));
-    QCOMPARE(card->layout()->count(), 8);
-    QVERIFY(qobject_cast<QPushButton *>(card->layout()->itemAt(2)->widget()) != nullptr);
-    // It took its own size.
-    QCOMPARE(card->height(), card->sizeHint().height());
-}
-
-void TestConferenceCard::theMeasuresOfTheMainLayout()
-{
-    const ConferenceMsgStaticWidget card;
-    const auto *layout = qobject_cast<QVBoxLayout *>(card.layout());
-    QVERIFY(layout != nullptr);
-    QCOMPARE(layout->contentsMargins(), QMargins(10, 10, 10, 10));
-    QCOMPARE(layout->spacing(), 10);
-    QCOMPARE(layout->alignment(), Qt::AlignLeft | Qt::AlignTop);
-}
-
-void TestConferenceCard::theTitleRow()
-{
-    ConferenceMsgStaticWidget card;
-    const QWidget *row = card.getConferenceTitleWidget();
-    QCOMPARE(row->parentWidget(), &card);
-    const auto *layout = qobject_cast<QHBoxLayout *>(row->layout());
-    QCOMPARE(layout->contentsMargins(), QMargins());
-    QCOMPARE(layout->spacing(), 10);
-    QCOMPARE(layout->count(), 2);
-    QCOMPARE(layout->stretch(0), 1);
-    QCOMPARE(layout->stretch(1), 129);
-    const auto *icon = qobject_cast<QLabel *>(layout->itemAt(0)->widget());
-    QVERIFY(!icon->pixmap(Qt::ReturnByValue).isNull());
-    const auto *text = qobject_cast<QLabel *>(layout->itemAt(1)->widget());
-    QCOMPARE(text->text(), QStringLiteral("联系人"));
-    QCOMPARE(text->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
-    QCOMPARE(textColor(*text), QColor(0, 0, 0, 102));
-    QCOMPARE(text->font(), sized(*text, LFontSizeManager::T8));
-}
-
-void TestConferenceCard::theStatusRow_data()
-{
-    addColumns<int, QString, QColor>({"status", "text", "color"});
-    QTest::newRow("not started") << 0 << QStringLiteral("未开始") << QColor(0, 129, 255);
-    QTest::newRow("in progress") << 1 << QStringLiteral("进行中") << QColor(89, 190, 45);
-    QTest::newRow("ended") << 2 << QStringLiteral("已结束") << QColor(0, 0, 0, 77);
-    QTest::newRow("unknown") << 5 << QStringLiteral("进行中") << QColor(89, 190, 45);
-}
-
-void TestConferenceCard::theStatusRow()
-{
-    QFETCH(int, status);
-    QFETCH(QString, text);
-    ConferenceMsgStaticWidget card;
-    ContactDetailMsg one = conference();
-    one.status = status;
-    const QWidget *row = card.getConferenceStatusWidget(one, true);
-    QCOMPARE(row->parentWidget(), &card);
-    const auto *layout = qobject_cast<QHBoxLayout *>(row->layout());
-    QCOMPARE(layout->count(), 2);
-    QCOMPARE(layout->stretch(0), 1);
-    const auto *subject = qobject_cast<QLabel *>(layout->itemAt(0)->widget());
-    QCOMPARE(subject->text(), one.title);
-    QCOMPARE(textColor(*subject), QColor(0, 0, 0, 178));
-    QCOMPARE(subject->font(), sized(*subject, LFontSizeManager::T6));
-
-    const auto *state = qobject_cast<QHBoxLayout *>(layout->itemAt(1)->layout());
-    QVERIFY(state != nullptr);
-    QCOMPARE(state->spacing(), 5);
-    QCOMPARE(state->count(), 2);
-    QCOMPARE(state->stretch(0), 130);
-    QCOMPARE(state->stretch(1), 130);
-    const auto *icon = qobject_cast<QLabel *>(state->itemAt(0)->widget());
-    QVERIFY(!icon->pixmap(Qt::ReturnByValue).isNull());
-    QCOMPARE(icon->alignment(), Qt::AlignRight | Qt::AlignVCenter);
-    const auto *label = qobject_cast<QLabel *>(state->itemAt(1)->widget());
-    QCOMPARE(label->text(), text);
-    QCOMPARE(label->alignment(), Qt::AlignRight | Qt::AlignVCenter);
-    QCOMPARE(label->font(), sized(*label, LFontSizeManager::T8));
-    QTEST(textColor(*label), "color");
-}
-
-void TestConferenceCard::theSubjectAloneWhileItIsEdited()
-{
-    ConferenceMsgStaticWidget card;
-    const QWidget *row = card.getConferenceStatusWidget(conference(), false);
-    QCOMPARE(row->layout()->count(), 1);
-    QCOMPARE(texts(*row), QStringList{QStringLiteral("周例会")});
-}
-
-void TestConferenceCard::theLineBetweenTheParts()
-{
-    const auto card = singleCard(conference());
-    const auto *line = qobject_cast<QPushButton *>(card->layout()->itemAt(2)->widget());
-    QVERIFY(line->isFlat());
-    QCOMPARE(line->minimumHeight(), 1);
-    QCOMPARE(line->maximumHeight(), 1);
-    QCOMPARE(line->focusPolicy(), Qt::NoFocus);
-    QCOMPARE(line->parentWidget(), card.get());
-}
-
-void TestConferenceCard::aCaptionedRow_data()
-{
-    addColumns<int, QString, QString>({"index", "caption", "value"});
-    QTest::newRow("the number") << 3 << QStringLiteral("会议号") << QStringLiteral("902 118 34");
-    QTest::newRow("the start") << 4 << QStringLiteral("时间") << QStringLiteral("3月7日    09:00:00");
-    QTest::newRow("the duration") << 5 << QStringLiteral("时长") << QStringLiteral("15分钟");
-    QTest::newRow("the head count") << 6 << QStringLiteral("人数") << QStringLiteral("20人");
-    QTest::newRow("the participants") << 7 << QStringLiteral("参与人") << QStringLiteral("张三 李四 ");
-}
-
-void TestConferenceCard::aCaptionedRow()
-{
-    QFETCH(int, index);
-    QFETCH(QString, caption);
-    QFETCH(QString, value);
-    const auto card = singleCard(conference());
-    const QWidget *row = card->layout()->itemAt(index)->widget();
-    QCOMPARE(row->parentWidget(), card.get());
-    const auto *layout = qobject_cast<QHBoxLayout *>(row->layout());
-    QCOMPARE(layout->contentsMargins(), QMargins());
-    QCOMPARE(layout->spacing(), 0);
-    QCOMPARE(layout->alignment(), Qt::Alignment(Qt::AlignLeft));
-    QCOMPARE(layout->count(), 3);
-
-    const auto *captionLabel = qobject_cast<QLabel *>(layout->itemAt(0)->widget());
-    QCOMPARE(captionLabel->text(), caption);
-    QCOMPARE(captionLabel->minimumWidth(), 60);
-    QCOMPARE(captionLabel->maximumWidth(), 60);
-    QCOMPARE(captionLabel->minimumHeight(), 20);
-    QCOMPARE(textColor(*captionLabel), QColor(0, 0, 0, 153));
-    QCOMPARE(captionLabel->font(), sized(*captionLabel, LFontSizeManager::T7));
-
-    QCOMPARE(layout->itemAt(1)->spacerItem()->sizeHint().width(), 10);
-
-    const auto *valueLabel = qobject_cast<QLabel *>(layout->itemAt(2)->widget());
-    QCOMPARE(valueLabel->text(), value);
-    QCOMPARE(textColor(*valueLabel), QColor(0, 0, 0, 178));
-    QCOMPARE(valueLabel->font(), sized(*valueLabel, LFontSizeManager::T6));
-    const bool isNumber = caption == QStringLiteral("会议号");
-    QCOMPARE(valueLabel->alignment(), (isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-}
-
-void TestConferenceCard::theStaticStart_data()
-{
-    addColumns<QDateTime, QString>({"start", "text"});
-    QTest::newRow("no leading zeros in the date")
-        << QDateTime(QDate(2024, 3, 7), QTime(9, 30)) << QStringLiteral("3月7日    09:30:00");
-    QTest::newRow("two digits") << QDateTime(QDate(2024, 12, 31), QTime(23, 59, 58))
-                                << QStringLiteral("12月31日    23:59:58");
-    QTest::newRow("midnight") << QDateTime(QDate(2024, 1, 1), QTime(0, 0))
-                              << QStringLiteral("1月1日    00:00:00");
-}
-
-void TestConferenceCard::theStaticStart()
-{
-    QFETCH(QDateTime, start);
-    ConferenceMsgStaticWidget card;
-    ContactDetailMsg one = conference();
-    one.startTime = start.toMSecsSinceEpoch();
-    QTEST(texts(*card.getConferenceBeginTimeWidget(one, true)).last(), "text");
-}
-
-void TestConferenceCard::theStaticDuration_data()
-{
-    addColumns<qint64, QString>({"duration", "text"});
-    QTest::newRow("whole minutes") << 15 * Minute << QStringLiteral("15分钟");
-    QTest::newRow("hours count as minutes too") << 2 * Hour << QStringLiteral("120分钟");
-    QTest::newRow("a begun minute does not count") << 2 * Minute - 1 << QStringLiteral("1分钟");
-    QTest::newRow("none") << Q_INT64_C(0) << QStringLiteral("0分钟");
-}
-
-void TestConferenceCard::theStaticDuration()
-{
-    QFETCH(qint64, duration);
-    ConferenceMsgStaticWidget card;
-    ContactDetailMsg one = conference();
-    one.duration = duration;
-    QTEST(texts(*card.getConferenceTimeLengthWidget(one, true)).last(), "text");
-}
-
-void TestConferenceCard::participants_data()
-{
-    addColumns<QStringList, QString>({"names", "text"});
-    QTest::newRow("nobody") << QStringList() << QString();
-    QTest::newRow("one, with a blank behind") << QStringList{QStringLiteral("A")} << QStringLiteral("A ");
-    QTest::newRow("two") << QStringList{QStringLiteral("A"), QStringLiteral("B")} << QStringLiteral("A B ");
-    QTest::newRow("a name that is missing leaves its blank")
-        << QStringList{QStringLiteral("A"), QString(), QStringLiteral("B")} << QStringLiteral("A  B ");
-}
-
-void TestConferenceCard::participants()
-{
-    QFETCH(QStringList, names);
-    ConferenceMsgStaticWidget card;
-    ContactDetailMsg one = conference();
-    one.participants.clear();
-    for (const QString &name : names) {
-        one.participants.append(user(name, QStringLiteral("别名"), {}, QStringLiteral("account")));
-    }
-    QTEST(texts(*card.getConferenceparticipateNameWidget(one)).last(), "text");
-}
-
-void TestConferenceCard::theFontsAndColoursOfTheTexts()
-{
-    ConferenceMsgStaticWidget card;
-    QLabel label;
-    card.setWidgetColor(&label, 42);
-    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        QCOMPARE(label.palette().color(group, QPalette::WindowText), QColor(0, 0, 0, 42));
-    }
-    DesktopTheme::set(DesktopTheme::Dark);
-    card.setWidgetColor(&label, 255);
-    QCOMPARE(textColor(label), QColor(255, 255, 255, 255));
 }
 
 void TestConferenceCard::howManyConferencesAListShows_data()

@@ -10,6 +10,18 @@
 #include <QVBoxLayout>
 #include <QtTest>
 
+namespace {
+
+bool show(ConferenceListWidget &list, SignalActionType type)
+{
+    list.resize(360, 500);
+    list.multipleInit(type);
+    list.show();
+    return QTest::qWaitForWindowExposed(&list);
+}
+
+} // namespace
+
 class TestConferenceListWidget : public QObject
 {
     Q_OBJECT
@@ -46,10 +58,7 @@ void TestConferenceListWidget::theScrollArea()
 void TestConferenceListWidget::theScrollAreaFollowsTheSize()
 {
     ConferenceListWidget list;
-    list.resize(360, 500);
-    list.multipleInit(JoinMy_List);
-    list.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&list));
+    QVERIFY(show(list, JoinMy_List));
     list.resize(400, 300);
     const auto *area = list.findChild<QScrollArea *>();
     QTRY_COMPARE(area->geometry(), QRect(0, 70, 400, 230));
@@ -60,10 +69,7 @@ void TestConferenceListWidget::theScrollAreaFollowsTheSize()
 void TestConferenceListWidget::theContent()
 {
     ConferenceListWidget list;
-    list.resize(360, 500);
-    list.multipleInit(Query_List);
-    list.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&list));
+    QVERIFY(show(list, Query_List));
     const auto *area = list.findChild<QScrollArea *>();
     const QWidget *content = area->widget();
     const auto *layout = qobject_cast<QVBoxLayout *>(content->layout());

@@ -56,15 +56,19 @@ struct Form
 {
     explicit Form(const QVector<ContactDetailMsg> &list) { widget.gridLayout(list); }
 
+    /// The first child for which @p isWanted says so; null if there is none.
+    template <typename Widget, typename IsWanted>
+    Widget *found(IsWanted isWanted) const
+    {
+        const auto children = widget.findChildren<Widget *>();
+        const auto child = std::find_if(children.cbegin(), children.cend(),
+                                        [&isWanted](const Widget *one) { return isWanted(*one); });
+        return child == children.cend() ? nullptr : *child;
+    }
+
     LComboBox *combo(const QString &name) const
     {
-        const auto combos = widget.findChildren<LComboBox *>();
-        for (LComboBox *combo : combos) {
-            if (combo->accessibleName() == name) {
-                return combo;
-            }
-        }
-        return nullptr;
+        return found<LComboBox>([&name](const LComboBox &combo) { return combo.accessibleName() == name; });
     }
     LComboBox *month() const { return combo(QStringLiteral("月")); }
     LComboBox *day() const { return combo(QStringLiteral("日")); }
@@ -73,13 +77,7 @@ struct Form
     LSpinBox *persons() const { return widget.findChild<LSpinBox *>(); }
     QPushButton *button(const QString &text) const
     {
-        const auto buttons = widget.findChildren<QPushButton *>();
-        for (QPushButton *button : buttons) {
-            if (button->text() == text) {
-                return button;
-            }
-        }
-        return nullptr;
+        return found<QPushButton>([&text](const QPushButton &button) { return button.text() == text; });
     }
     QGridLayout *grid() const { return qobject_cast<QGridLayout *>(widget.layout()); }
 

@@ -60,6 +60,13 @@ bool moveTo(Conference &conference, const QString &state, qint64 now)
     return true;
 }
 
+void removeEverything(ContactsBook &book)
+{
+    book.conferences().removeAll();
+    book.people().removeAll();
+    book.session().reset();
+}
+
 } // namespace
 
 Administration::Administration(ContactsBook &book, QObject *parent) : QObject(parent), m_book(book) {}
@@ -99,9 +106,7 @@ bool Administration::SetAccountKind(const QString &account, const QString &kind)
 bool Administration::Reset()
 {
     return m_book.change([this] {
-        m_book.conferences().removeAll();
-        m_book.people().removeAll();
-        m_book.session().reset();
+        removeEverything(m_book);
         return true;
     });
 }
@@ -109,9 +114,7 @@ bool Administration::Reset()
 bool Administration::LoadSample()
 {
     return m_book.change([this] {
-        m_book.conferences().removeAll();
-        m_book.people().removeAll();
-        m_book.session().reset();
+        removeEverything(m_book);
         SampleDirectory::load(m_book.people(), m_book.conferences(), m_book.session(), m_book.nowMsecs());
         m_book.reminders().forgetNews();
         return true;

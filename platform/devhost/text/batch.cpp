@@ -13,10 +13,8 @@
 namespace devhost {
 
 Batch::Batch(PluginHost &host, const Streams &streams, const Screenshots &screenshots, QObject *parent)
-    : QObject(parent)
+    : LineMode(streams.input, streams.errors, screenshots, parent)
     , m_streams(streams)
-    , m_screenshots(screenshots)
-    , m_reader(streams.input)
     , m_runner(host)
 {
     connect(&m_runner, &TurnRunner::finished, this, &Batch::answer);
@@ -29,18 +27,13 @@ Batch::Batch(PluginHost &host, const Streams &streams, const Screenshots &screen
     });
 }
 
-void Batch::start()
-{
-    QMetaObject::invokeMethod(this, &Batch::next, Qt::QueuedConnection);
-}
-
 void Batch::next()
 {
     QString line;
     for (;;) {
         switch (m_reader.read(line)) {
         case LineReader::End:
-            Q_EMIT finished(m_status);
+            finish();
             return;
         case LineReader::TooLong:
             complain(QStringLiteral("longer than 1 MiB, skipped"));
@@ -86,7 +79,7 @@ void Batch::answer(const TurnResult &result)
         const QString picture = QStringLiteral("line-%1").arg(m_reader.lineNumber(), 4, 10, QLatin1Char('0'));
         m_streams.output << describe(result.reply, picture).constData() << std::endl;
     }
-    QMetaObject::invokeMethod(this, &Batch::next, Qt::QueuedConnection);
+    start();
 }
 
 QByteArray Batch::describe(const Reply &reply, const QString &pictureName)
@@ -105,12 +98,6 @@ QByteArray Batch::describe(const Reply &reply, const QString &pictureName)
     note.width = card->width();
     note.height = card->height();
     return replyJson(reply, &note);
-}
-
-void Batch::complain(const QString &message)
-{
-    m_status = SomethingBroken;
-    m_streams.errors << "line " << m_reader.lineNumber() << ": " << qUtf8Printable(message) << std::endl;
 }
 
 } // namespace devhost

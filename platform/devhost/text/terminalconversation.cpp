@@ -32,11 +32,9 @@ QString turnPicture(int turn)
 
 TerminalConversation::TerminalConversation(Conversation &conversation, const Terminal &terminal,
                                            const Screenshots &screenshots, QObject *parent)
-    : QObject(parent)
+    : LineMode(terminal.input, terminal.errors, screenshots, parent)
     , m_conversation(conversation)
     , m_terminal(terminal)
-    , m_screenshots(screenshots)
-    , m_reader(terminal.input)
 {
     connect(&m_conversation, &Conversation::started, this, [this](int turn) {
         // With an echoing terminal the sentence stands there already.
@@ -56,11 +54,6 @@ TerminalConversation::TerminalConversation(Conversation &conversation, const Ter
     connect(&m_conversation, &Conversation::idle, this, &TerminalConversation::next);
 }
 
-void TerminalConversation::start()
-{
-    QMetaObject::invokeMethod(this, &TerminalConversation::next, Qt::QueuedConnection);
-}
-
 void TerminalConversation::next()
 {
     for (;;) {
@@ -72,7 +65,7 @@ void TerminalConversation::next()
             m_terminal.isPrompting && m_conversation.expectsSecret() ? std::make_unique<EchoOff>() : nullptr;
         const LineReader::Outcome outcome = m_reader.read(line);
         if (outcome == LineReader::End) {
-            Q_EMIT finished(m_status);
+            finish();
             return;
         }
         if (outcome != LineReader::Line) {
@@ -137,12 +130,6 @@ void TerminalConversation::printLine(const char *colour, const QString &line)
     } else {
         m_terminal.output << qUtf8Printable(line) << std::endl;
     }
-}
-
-void TerminalConversation::complain(const QString &message)
-{
-    m_status = SomethingBroken;
-    m_terminal.errors << "line " << m_reader.lineNumber() << ": " << qUtf8Printable(message) << std::endl;
 }
 
 } // namespace devhost

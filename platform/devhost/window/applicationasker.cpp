@@ -14,7 +14,6 @@ namespace devhost {
 
 namespace {
 
-constexpr int BusMsecs = 3000;
 constexpr int AnswerMsecs = 3000;
 constexpr int StartMsecs = 10000;
 
@@ -29,7 +28,7 @@ bool ApplicationAsker::reachBus()
     }
     delete m_watcher; // of a connection that is gone
     m_watcher = nullptr;
-    if (!connectToBus(BusMsecs)) {
+    if (!connectToBus(AnswerMsecs)) {
         return false;
     }
     m_watcher =

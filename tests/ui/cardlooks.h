@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "cardsamples.h"
+#include "conferencemsgstaticwidget.h"
+#include "desktoptheme.h"
+#include "logcapture.h"
+
+#include <lumo/lfontsizemanager.h>
+
+#include <QLabel>
+#include <QTest>
+
+#include <memory>
+
+/// How cards look, for the tests that measure them.
+namespace CardLooks {
+
+inline std::unique_ptr<ConferenceMsgStaticWidget> singleCard(const ContactDetailMsg &conference)
+{
+    auto card = std::make_unique<ConferenceMsgStaticWidget>();
+    card->singleInit({conference});
+    return card;
+}
+
+inline QLabel *labelWith(const QWidget &parent, const QString &text)
+{
+    for (QLabel *label : CardSamples::shown<QLabel>(parent)) {
+        if (label->text() == text) {
+            return label;
+        }
+    }
+    return nullptr;
+}
+
+inline QColor textColor(const QWidget &widget)
+{
+    return widget.palette().color(QPalette::Active, QPalette::WindowText);
+}
+
+/// The widget's own font in the size of that class.
+inline QFont sized(const QWidget &widget, LFontSizeManager::SizeType size)
+{
+    return LFontSizeManager::instance()->get(size, widget.font());
+}
+
+/// Base of tests in the light theme in which nothing is logged.
+class LightTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_log = std::make_unique<LogCapture>();
+        DesktopTheme::set(DesktopTheme::Light);
+    }
+    void cleanup()
+    {
+        m_log.reset();
+        DesktopTheme::set(DesktopTheme::Light);
+    }
+
+private:
+    std::unique_ptr<LogCapture> m_log;
+};
+
+} // namespace CardLooks

@@ -18,7 +18,6 @@
 
 namespace {
 
-constexpr qint64 MinuteMsecs = 60 * 1000;
 constexpr qint64 HourMsecs = 60 * MinuteMsecs;
 const auto User = QStringLiteral("100001");
 const auto Friend = QStringLiteral("100003");

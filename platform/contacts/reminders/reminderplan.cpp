@@ -3,9 +3,9 @@
 
 #include "reminders/reminderplan.h"
 
-namespace {
+#include "core/conference.h"
 
-constexpr qint64 MinuteMsecs = 60 * 1000;
+namespace {
 
 std::optional<ReminderKind> kindAt(const AwaitedConference &conference, qint64 leadMsecs, qint64 nowMsecs)
 {

@@ -4,6 +4,7 @@
 #include "reminders/reminders.h"
 
 #include "book/contactsbook.h"
+#include "core/conference.h"
 #include "core/jsonkeys.h"
 #include "core/outcome.h"
 #include "core/outcometext.h"
@@ -15,7 +16,6 @@
 
 namespace {
 
-constexpr qint64 MinuteMsecs = 60 * 1000;
 /// How long the server is left alone after it refused something.
 constexpr qint64 RetryMsecs = MinuteMsecs;
 /// Looks at least this often, in case there is a reason to that nobody thought of.

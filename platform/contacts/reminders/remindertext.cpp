@@ -3,6 +3,7 @@
 
 #include "reminders/remindertext.h"
 
+#include "core/conference.h"
 #include "core/displaytext.h"
 #include "core/person.h"
 #include "reminders/reminderplan.h"
@@ -10,8 +11,6 @@
 #include <QDateTime>
 
 namespace {
-
-constexpr qint64 MinuteMsecs = 60 * 1000;
 
 QString clockText(const QDateTime &time, const QDate &today)
 {

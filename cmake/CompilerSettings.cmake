@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# What every target of the tree is compiled with.
+# Compiler and linker settings for every target.
 
 if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
     # A debug build would write "debug": true into the plugin's metadata.
@@ -33,7 +33,7 @@ if(CONTACT_WERROR)
     add_compile_options(-Werror)
 endif()
 
-# Log records name their source relative to the tree, also when ccache shortens the paths it hands to the compiler.
+# Log records name their source relative to the tree, even if ccache passes shortened paths to the compiler.
 file(RELATIVE_PATH source_from_build ${CMAKE_BINARY_DIR} ${CMAKE_SOURCE_DIR})
 add_compile_options(-fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
 string(REGEX REPLACE "/$" "" source_from_build "${source_from_build}") # it has one when it consists of dots alone
@@ -47,7 +47,7 @@ add_compile_definitions(
     # Release builds drop the source of log records unless asked to keep it; the host shows it.
     QT_MESSAGELOGCONTEXT)
 
-# Qt's Q_ASSERT and the standard library's own checks, also in builds with optimisation. Never for an installed plugin.
+# Q_ASSERT and the standard library's checks, even in optimised builds. Never for an installed plugin.
 option(CONTACT_ASSERTIONS "Keep assertions in every build type" OFF)
 if(CONTACT_ASSERTIONS)
     add_compile_definitions(QT_FORCE_ASSERTS _GLIBCXX_ASSERTIONS)

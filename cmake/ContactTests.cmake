@@ -2,18 +2,18 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
 # contact_add_test(NAME SOURCES... LIBRARIES... [NO_TEST] [SCRIPTED_ABILITY])
-#   A QtTest program. With NO_TEST it is only built, and contact_add_test_run() says how it runs.
+#   A QtTest program. With NO_TEST it is only built; add its runs with contact_add_test_run().
 # contact_add_test_run(NAME TARGET t [AT "2026-03-07 10:20:00"] [TZ zone] [ENVIRONMENT var=value...] [COMMAND cmd...]
 #                      [ARGUMENTS ...] [LABELS ...] [TIMEOUT seconds] [SERIAL] [BUS] [EMPTY_BUS] [SCRIPTED_ABILITY])
-#   One run of such a program: AT starts the clock at that local time, BUS gives it a session bus, a home and XDG folders of its
-#   own, where the contacts application can be started and nothing else, EMPTY_BUS the same without the application, SERIAL
-#   keeps runs apart that would see each other in the process table, SCRIPTED_ABILITY puts the ability library that the test
-#   controls (tests/support/scriptedability.h) in the real one's place.
+#   One run of such a program. AT sets the clock to that local time. BUS provides a private session bus, home and XDG folders,
+#   where only the contacts application can be started; EMPTY_BUS is the same without the application. SERIAL separates runs
+#   that would see each other in the process table. SCRIPTED_ABILITY replaces the ability library by one that the test controls
+#   (tests/support/scriptedability.h).
 
 find_package(Qt5 REQUIRED COMPONENTS Test)
 find_program(CONTACT_FAKETIME faketime REQUIRED)
 
-# A session bus is only for the bundled platform.
+# Only the bundled platform needs a session bus.
 if(CONTACT_PLATFORM STREQUAL bundled)
     find_program(CONTACT_DBUS_RUN_SESSION dbus-run-session REQUIRED)
     set(CONTACT_TEST_BUS_DIR ${CMAKE_SOURCE_DIR}/tests/support/bus)
@@ -57,8 +57,7 @@ function(contact_add_test_run name)
     endif()
     set(command)
     if(arg_AT)
-        # Only the calendar is faked: timers and waits keep the real clock. Around the bus, so that what it starts shares the
-        # clock.
+        # Fakes the calendar only; timers and waits keep the real clock. Wraps the bus too, so that services share the clock.
         list(APPEND command ${CONTACT_FAKETIME} --exclude-monotonic -f "@${arg_AT}")
     endif()
     if(arg_BUS)
@@ -75,7 +74,7 @@ function(contact_add_test_run name)
         list(APPEND command $<TARGET_FILE:${arg_TARGET}>)
     endif()
     if(arg_SCRIPTED_ABILITY)
-        # Searched before the run path that names the real library's folder.
+        # Takes precedence over the run path, which names the real library's folder.
         list(APPEND arg_ENVIRONMENT LD_LIBRARY_PATH=$<TARGET_FILE_DIR:scripted-ability>)
         if(arg_TARGET)
             add_dependencies(${arg_TARGET} scripted-ability)

@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
 # platform_package(NAME TARGET t NAMESPACE n EXPORT_NAME e HEADERS dir DESCRIPTION text QT components... [LIBRARY l])
-#   Installs what others need to build against a part of the platform: the headers, find_package(NAME) with the target n::e,
-#   and a pkg-config file. LIBRARY is the library's name for pkg-config; without it the part is header-only.
+#   Installs the development files of a part of the platform: headers, find_package(NAME) with the target n::e, and a
+#   pkg-config file. LIBRARY is the library's name for pkg-config; omit it for header-only parts.
 
 include(CMakePackageConfigHelpers)
 

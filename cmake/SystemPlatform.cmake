@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# The platform as the desktop has it installed, under the same target names as the bundled one. CMAKE_PREFIX_PATH leads
-# to it when it is not in the usual places.
+# The installed desktop's platform, under the same target names as the bundled one. Set CMAKE_PREFIX_PATH if it is in an
+# unusual place.
 
 # contact_find_platform(PACKAGE p TARGET t HEADER h [LIBRARY l]): the imported target t of the CMake package p that is installed
 # beside the header h; on a platform without CMake packages, with the headers around h and the library l.

@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Far more than a configuration of this form needs.
+/// Far more than any such configuration needs.
 constexpr qint64 MostBytes = Q_INT64_C(1024) * 1024;
 
 void reportUnread(const QString &path, const QString &reason)
@@ -27,10 +27,10 @@ void reportUnread(const QString &path, const QString &reason)
     }
 }
 
-/// The content of a regular file of at most MostBytes; none, with the reason in the log, of anything else.
+/// Returns the content of a regular file of at most MostBytes. Logs the reason and returns nothing otherwise.
 std::optional<QByteArray> readFile(const QString &path)
 {
-    // A FIFO would wait for its writer.
+    // Opening a FIFO would block until somebody writes.
     const int descriptor =
         ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (descriptor < 0) {
@@ -43,13 +43,13 @@ std::optional<QByteArray> readFile(const QString &path)
         reportUnread(path, file.errorString());
         return {};
     }
-    // Asked of what was opened; the path may lead elsewhere by now.
+    // Check the open file: the path may lead elsewhere by now.
     struct stat status = {};
     if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
         reportUnread(path, QStringLiteral("it is not a regular file"));
         return {};
     }
-    // Its size is not asked: it may grow while it is read.
+    // Do not trust its size: it may grow while it is read.
     QByteArray content = file.read(MostBytes + 1);
     if (content.size() > MostBytes) {
         reportUnread(path, QStringLiteral("it is larger than 1 MB"));
@@ -73,8 +73,8 @@ QJsonDocument *JsonConfigLoader::load(const QString &path)
     if (!content) {
         return nullptr;
     }
-    // JSON is UTF-8 by definition, so the bytes go to the parser as they are. The former document is let go
-    // of and not deleted: somebody may still read it, and a process loads its configuration once.
+    // JSON is UTF-8 by definition, so the bytes go straight to the parser. Deliberately leaks the previous
+    // document: somebody may still read it, and a process loads its configuration once.
     m_document = new QJsonDocument(QJsonDocument::fromJson(*content));
     return m_document;
 }

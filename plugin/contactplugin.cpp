@@ -33,8 +33,8 @@ ContactPlugin::ContactPlugin(QObject *parent)
 
 ContactPlugin::~ContactPlugin()
 {
-    // The dispatcher stays for the cards that are still shown, but must not build any more: after the next
-    // loading another one does.
+    // Keep the dispatcher for cards that are still shown, but stop it from building new ones: the next load
+    // creates another.
     m_replyWidget->stopListening();
 }
 

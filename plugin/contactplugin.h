@@ -12,8 +12,8 @@
 class ContactReplyWidget;
 
 /**
- * What the host loads: gives out services called "contact" and passes on what a card answers later. Lives on
- * the GUI thread; createService() and releaseService() may be called on any.
+ * The plugin object loaded by the host. Creates the "contact" services and forwards replies that a card gives
+ * later. Lives on the GUI thread; createService() and releaseService() are thread-safe.
  */
 class ContactPlugin : public QObject, public IServicePlugin
 {
@@ -23,24 +23,24 @@ class ContactPlugin : public QObject, public IServicePlugin
 
 public:
     explicit ContactPlugin(QObject *parent = nullptr);
-    /// Services that are still out belong to the host; it has released them by now.
+    /// Services not yet released are left to the host.
     ~ContactPlugin() override;
 
-    /// Reads the configuration file; -3 when that fails.
+    /// Reads the configuration file. Returns -3 on failure.
     int init() override;
     void uninit() override;
     QStringList getSupportService() override;
     IService *createService(const QString &name) override;
-    /// Ignores a pointer that is not a live service of this plugin.
+    /// Ignores pointers to anything but a live service of this plugin.
     void releaseService(IService *service) override;
 
 public Q_SLOTS:
-    /// Hands @p reply to the host; dropped while the host has not installed its handle.
+    /// Forwards @p reply to the host, or drops it if the host has not installed a handle yet.
     void slotMessageHandle(Reply reply);
 
 private:
     QSet<IService *> m_services;
     QMutex m_mutex;                    ///< guards m_services and m_lastService
-    ContactReplyWidget *m_replyWidget; ///< never deleted: cards that the host still shows send through it
+    ContactReplyWidget *m_replyWidget; ///< never deleted: cards still shown by the host send through it
     IService *m_lastService = nullptr;
 };

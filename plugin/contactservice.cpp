@@ -21,7 +21,7 @@ constexpr IRet NoFactory = -20;
 constexpr IRet IntentFailed = -21;
 constexpr IRet SemanticUnreadable = -100;
 
-/// The service has answered these itself; no handler is asked.
+/// Answered by the service itself, without a handler.
 bool isOwnAnswer(int code)
 {
     return code == ResultCode::UnsupportedIntent || code == ResultCode::UnsupportedPhrasing;
@@ -63,7 +63,7 @@ IRet ContactService::service(const QString &semantic)
         return NoFactory;
     }
 
-    // Read once: reading is most of what a turn costs.
+    // Parse only once: parsing dominates the cost of a turn.
     const QJsonDocument understanding = QJsonDocument::fromJson(semantic.toUtf8());
     SemanticParser parser;
     if (!parser.parseSemanticDocument(understanding)) {
@@ -77,7 +77,7 @@ IRet ContactService::service(const QString &semantic)
         return Handled;
     }
 
-    // A semantic without any intent gives a nameless one, which no handler knows.
+    // A semantic without intents yields a nameless one, which no handler accepts.
     const int result = handleIntentSafely(parser.semantic().intents.value(0));
     m_reply.code = result;
     if (result != ResultCode::Success) {
@@ -90,9 +90,8 @@ IRet ContactService::service(const QString &semantic)
 int ContactService::handleIntent(const CloudIntent &intent)
 {
     m_intent = intent;
-    // The former handler is not deleted, on purpose: this runs on the host's worker thread, and the GUI
-    // thread may still be inside the former turn's reply. A host takes a fresh service for each dialogue, so
-    // they are few.
+    // Deliberately leaks the previous handler: this is the worker thread, and the GUI thread may still be
+    // inside the previous turn's reply. Hosts create a service per dialogue, so few handlers pile up.
     m_handler = m_factory->createIntent(intent.name);
     if (m_handler == nullptr) {
         qCritical() << "Unsupport this intent: " << intent.name;
@@ -109,7 +108,7 @@ int ContactService::handleIntent(const CloudIntent &intent)
     return result;
 }
 
-/// The host is not prepared for exceptions: one counts as a failed call.
+/// The host cannot handle exceptions: one counts as a failed call.
 int ContactService::handleIntentSafely(const CloudIntent &intent)
 {
     try {
@@ -144,7 +143,7 @@ bool ContactService::dialogueIsOpen() const
            !ContactUtils::analyzeIsShouldEndSession(m_openSessionSemantic);
 }
 
-/// Leaves the reply as it stands when no handler has run yet, or one that does not answer.
+/// Keeps the reply if no handler has run yet, or only one that does not reply.
 void ContactService::takeHandlersReply()
 {
     auto *handler = dynamic_cast<IReplyableIntent *>(m_handler);
@@ -164,7 +163,7 @@ void ContactService::takeHandlersReply()
     }
 }
 
-/// A reply of texts never carries the card of a former turn.
+/// A text reply never carries the card of an earlier turn.
 void ContactService::setTextReply(int code, const QString &displayText, const QString &speechText)
 {
     m_reply.code = code;

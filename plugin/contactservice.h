@@ -10,20 +10,20 @@
 class IBusinessIntent;
 class IIntentFactory;
 
-// QObject is twice among the bases because the host's interface is one too and the binary layout has both;
-// nobody converts a service to QObject but through IService.
+// QObject is a base twice because the host's interface derives from it too, and both are part of the binary
+// layout. Convert a service to QObject only through IService.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Winaccessible-base"
 
 /**
- * The plugin's one service: runs the handler of an utterance's first intent and turns the outcome into the
- * reply. Made and deleted by ContactPlugin. Like every service it is used from one thread at a time:
- * service() on the host's worker, getServiceReply() on the GUI thread, because it may build a card.
+ * The plugin's only service. Runs the handler for the first intent of an utterance and turns the outcome into
+ * the reply. Owned by ContactPlugin. Used by one thread at a time: service() on the host's worker thread,
+ * getServiceReply() on the GUI thread, where it may build a card.
  */
 class ContactService : public QObject, public IService
 {
 public:
-    /// @p factory is not owned and may be null: then service() can do nothing.
+    /// @p factory is not owned. If it is null, service() does nothing.
     ContactService(const QString &name, IIntentFactory *factory, ServicePriority priority);
     ~ContactService() override;
 
@@ -33,7 +33,7 @@ public:
     IRet service(const QString &semantic) override;
     Reply *getServiceReply() override;
 
-    /// Makes the handler of @p intent and lets it act. A result code.
+    /// Creates the handler for @p intent and runs it. Returns a result code.
     virtual int handleIntent(const CloudIntent &intent);
 
 private:
@@ -50,7 +50,7 @@ private:
     ServicePriority m_priority;
     CloudIntent m_intent;
     IBusinessIntent *m_handler = nullptr; ///< owned
-    QString m_openSessionSemantic;        ///< of the last turn that kept the dialogue open; never cleared
+    QString m_openSessionSemantic;        ///< the last turn that kept the dialogue open; never cleared
 };
 
 #pragma GCC diagnostic pop

@@ -2,27 +2,27 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# What ./run, ./test and .ci/run share: packages, quiet builds, the configuration file. To be sourced; works in $root.
+# Shared by ./run, ./test and .ci/run: packages, quiet builds, the configuration file. Source it with $root set.
 
 export LC_ALL=C.UTF-8
 log=$root/build/setup.log
 
-# What building and running takes.
+# Needed to build and run.
 packages_run=(
     cmake ninja-build g++ ccache qtbase5-dev qtbase5-dev-tools libqt5svg5 libqt5sql5-sqlite libqt5texttospeech5-dev
     libkf5calendarcore-dev dbus dbus-daemon procps fonts-noto-cjk
 )
-# What the tests take on top.
+# Also needed by the tests.
 packages_test=(
     appstream at-spi2-core bash-completion binutils desktop-file-utils faketime libical-dev man-db pkgconf python3 sqlite3 xvfb
 )
-# What building the Debian packages takes on top.
+# Also needed to build the Debian packages.
 packages_package=(abigail-tools binutils build-essential debhelper dpkg-dev lintian xz-utils)
-# What tst_krunner takes, which is skipped without: a whole desktop of 380 packages, so nothing here installs it.
+# Needed by tst_krunner, which is skipped otherwise. Never installed from here: it pulls in 380 packages.
 packages_launcher=(plasma-workspace xdotool xvfb)
-# What the benchmarks take on top.
+# Also needed by the benchmarks.
 packages_bench=(libbenchmark-dev python3 valgrind xvfb)
-# What the checks of .ci/run take on top.
+# Also needed by .ci/run.
 packages_ci=(clang clang-format-16 clang-tidy clazy libclang-rt-14-dev llvm shellcheck)
 
 say() { printf '%s\n' "$*" >&2; }
@@ -31,7 +31,7 @@ die() {
     exit 1
 }
 
-# step TEXT COMMAND...: runs quietly; shows what it printed only when it fails.
+# step TEXT COMMAND...: runs quietly and shows the output only on failure.
 step() {
     local text=$1
     shift
@@ -63,7 +63,7 @@ as_root() {
 
 may_become_root() { [ "$(id -u)" = 0 ] || command -v sudo >/dev/null; }
 
-# need_packages NAME...: installs those that are missing.
+# need_packages NAME...: installs the missing ones.
 need_packages() {
     if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
         say "This is no Debian system, so nothing is installed. These Debian packages are needed: $*"
@@ -83,7 +83,7 @@ need_packages() {
         apt-get install -y -qq --no-install-recommends $missing
 }
 
-# build PRESET: configures when needed and builds.
+# build PRESET: configures if necessary, then builds.
 build() {
     local preset=$1
     if [ ! -f "$root/build/$preset/build.ninja" ]; then
@@ -95,7 +95,7 @@ build() {
 
 config_file=/etc/xdg/kelvane-speakmate-plugins/contact-plugin.json
 
-# The plugin reads its configuration from a fixed place. A file that is there is the user's and stays.
+# The plugin reads its configuration from a fixed place. Never replace the user's file.
 need_configuration() {
     [ -e "$config_file" ] && return 0
     local install=(install -D -m 644 "$root/data/contact-plugin.json" "$config_file")

@@ -25,8 +25,7 @@
 
 namespace {
 
-constexpr int Margin = 20;
-constexpr int Spacing = 20;
+constexpr int Gap = 20; ///< between the rows and around them
 constexpr int ColumnCount = 5;
 constexpr int ControlWidth = 100;
 constexpr int UnitSpacing = 5;
@@ -84,8 +83,8 @@ void ContactDetailWidget::init() {}
 
 void ContactDetailWidget::gridLayout(const QVector<ContactDetailMsg> &list)
 {
-    m_grid->setContentsMargins(Margin, Margin, Margin, Margin);
-    m_grid->setSpacing(Spacing);
+    m_grid->setContentsMargins(Gap, Gap, Gap, Gap);
+    m_grid->setSpacing(Gap);
     if (list.isEmpty()) {
         return;
     }
@@ -191,7 +190,7 @@ void ContactDetailWidget::addButtons()
 {
     auto *row = new QWidget(this);
     QHBoxLayout *layout = makeRow(row);
-    layout->setSpacing(Spacing);
+    layout->setSpacing(Gap);
     m_cancel = new QPushButton(QStringLiteral("取 消"), row);
     m_confirm = new QPushButton(QStringLiteral("确 认"), row);
     connect(m_cancel, &QPushButton::clicked, this, &ContactDetailWidget::slotsClickCancel);

@@ -21,14 +21,12 @@
 namespace {
 
 constexpr QSize RowSize(330, 40);
-constexpr int Margin = 10;
 constexpr int SpaceAfterName = 20;
 constexpr int SpaceBeforeMark = 6;
 constexpr int LeastTextWidth = 110;
 
 constexpr qreal FocusWidth = 2;
 constexpr qreal PickedWidth = 1;
-constexpr qreal FrameRadius = 8;
 
 } // namespace
 
@@ -45,7 +43,8 @@ TiTleItem::TiTleItem(const QString &title, QWidget *parent)
         setAttribute(Qt::WA_Hover);
         setCursor(Qt::PointingHandCursor);
     }
-    m_layout->setContentsMargins(Margin, Margin, Margin, Margin);
+    m_layout->setContentsMargins(CardMeasures::Margin, CardMeasures::Margin, CardMeasures::Margin,
+                                 CardMeasures::Margin);
     m_layout->setSpacing(0);
     m_layout->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     // Only now: a layout that is changed on its widget posts an event, and Qt looks for its like among all
@@ -153,8 +152,8 @@ void TiTleItem::paintEvent(QPaintEvent *event)
         painter.setBrush(ground);
         painter.setPen(pen);
         const qreal inset = pen.widthF() / 2;
-        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), FrameRadius,
-                                FrameRadius);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset),
+                                CardMeasures::CornerRadius, CardMeasures::CornerRadius);
     };
     if (m_selected) {
         drawFrame(CardTheme::pickedGround(), QPen(CardTheme::focus(), PickedWidth));

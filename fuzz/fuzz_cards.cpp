@@ -85,7 +85,7 @@ QWidget *anyWidget(FuzzedDataProvider &bytes, QWidget &card)
 
 void touch(FuzzedDataProvider &bytes, QWidget &card)
 {
-    static const Qt::Key Keys[] = {Qt::Key_Tab,   Qt::Key_Return, Qt::Key_Space, Qt::Key_Down,
+    static const Qt::Key keys[] = {Qt::Key_Tab,   Qt::Key_Return, Qt::Key_Space, Qt::Key_Down,
                                    Qt::Key_Right, Qt::Key_Up,     Qt::Key_5,     Qt::Key_Backspace};
     // A button, more often than not: that is where cards change.
     const auto buttons = card.findChildren<QAbstractButton *>();
@@ -104,7 +104,7 @@ void touch(FuzzedDataProvider &bytes, QWidget &card)
             QPoint(bytes.ConsumeIntegralInRange(0, qMax(0, widget->width() - 1)), widget->height() / 2));
         break;
     case 3:
-        QTest::keyClick(widget, bytes.PickValueInArray(Keys));
+        QTest::keyClick(widget, bytes.PickValueInArray(keys));
         break;
     case 4:
         if (auto *box = qobject_cast<QComboBox *>(widget)) {

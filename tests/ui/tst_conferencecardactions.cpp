@@ -12,6 +12,7 @@
 #include <lumo/lcombobox.h>
 #include <lumo/lspinbox.h>
 
+#include <QLayout>
 #include <QPushButton>
 #include <QtTest>
 

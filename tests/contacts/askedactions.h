@@ -5,6 +5,8 @@
 
 #include "sampleworld.h"
 
+#include <QTest>
+
 // The actions by their names, and what they are asked and answer most often.
 
 const auto Create = QStringLiteral("Create Conference");

@@ -8,6 +8,7 @@
 #include "testcolumns.h"
 #include "titleitem.h"
 
+#include <QLayout>
 #include <QPushButton>
 #include <QtTest>
 

@@ -4,6 +4,7 @@
 #include "sampleworld.h"
 
 #include "core/statement.h"
+#include "testcolumns.h"
 #include "window/conferencemodel.h"
 #include "window/contactswindow.h"
 #include "window/peoplemodel.h"
@@ -134,8 +135,7 @@ void TestLargeWindow::fill()
 
 void TestLargeWindow::aWriteIsAnsweredFirstAndShownSoon_data()
 {
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<int>("tab");
+    addColumns<QString, int>({"action", "tab"});
     QTest::newRow("create, conferences shown") << QStringLiteral("Create Conference") << 0;
     QTest::newRow("create, people shown") << QStringLiteral("Create Conference") << 1;
     QTest::newRow("add a friend, people shown") << QStringLiteral("Add Friends") << 1;

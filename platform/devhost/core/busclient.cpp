@@ -4,6 +4,7 @@
 #include "busclient.h"
 
 #include <busprobe.h>
+#include <connectionguard.h>
 
 #include <QDBusPendingCallWatcher>
 #include <QElapsedTimer>
@@ -46,6 +47,8 @@ bool BusClient::connectToBus(int msecs)
     if (BusProbe::ask(address, goesOn) != BusProbe::Found::Bus) {
         return false;
     }
+    // It has answered a moment ago, and may be stopped since.
+    const ConnectionGuard guard(address, goesOn);
     // By its address: the library below remembers the first one for ever.
     return (address.isEmpty()
                 ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, m_connectionName)

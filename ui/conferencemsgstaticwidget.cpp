@@ -226,13 +226,7 @@ void ConferenceMsgStaticWidget::slotModifyConference()
     m_editor->apply();
     // What was asked for is shown before the application has answered, and stays when it refuses.
     becomeStatic();
-
-    const QPointer<ConferenceMsgStaticWidget> alive(this);
-    const int code = CardWait::during(*this, nullptr, [this] { return m_editor->sendChange(); });
-    qDebug() << "create conference code:" << code;
-    if (!alive.isNull()) {
-        reply(CardReplies::modified(code));
-    }
+    sendAndReply([this] { return m_editor->sendChange(); }, CardReplies::modified);
 }
 
 void ConferenceMsgStaticWidget::slotCancleConference()
@@ -241,13 +235,8 @@ void ConferenceMsgStaticWidget::slotCancleConference()
         return;
     }
     becomeStatic();
-
     const QPointer<ConferenceMsgStaticWidget> alive(this);
-    const int code = CardWait::during(*this, nullptr, [this] { return m_editor->sendCancellation(); });
-    qDebug() << "Cancle conference code:" << code;
-    if (!alive.isNull()) {
-        reply(CardReplies::cancelled(code));
-    }
+    sendAndReply([this] { return m_editor->sendCancellation(); }, CardReplies::cancelled);
     if (!alive.isNull()) {
         setEnabled(false);
     }
@@ -391,6 +380,15 @@ void ConferenceMsgStaticWidget::confirm(const Confirmation &confirmation)
     reply(confirmation.reply(members, code));
     if (!alive.isNull() && confirmation.cardAfterwards == Confirmation::CardAfterwards::Disabled) {
         setEnabled(false);
+    }
+}
+
+void ConferenceMsgStaticWidget::sendAndReply(const std::function<int()> &send, QString (*words)(int code))
+{
+    const QPointer<ConferenceMsgStaticWidget> alive(this);
+    const int code = CardWait::during(*this, nullptr, send);
+    if (!alive.isNull()) {
+        reply(words(code));
     }
 }
 

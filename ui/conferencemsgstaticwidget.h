@@ -12,6 +12,7 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 class CandidateList;
@@ -112,6 +113,9 @@ private:
 
     void activate(QObject *control);
     void confirm(const Confirmation &confirmation);
+    /// Sends what a button asks for and replies, unless the card is gone by then. It may be gone afterwards,
+    /// too.
+    void sendAndReply(const std::function<int()> &send, QString (*words)(int code));
     void reply(const QString &text);
 
     CardRowList m_rows;

@@ -16,6 +16,7 @@
 #include <lumo/lspinbox.h>
 #include <lumo/lsuggestbutton.h>
 
+#include <QDebug>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -67,14 +68,18 @@ ConferenceEditor::ConferenceEditor(QWidget *card) : QObject(card) {}
 int ConferenceEditor::sendChange() const
 {
     const QString request = RequestText::updateConference(m_conferences.first());
-    return ConferenceCardInterface::instance()->UpdateVideoConference(request);
+    const int code = ConferenceCardInterface::instance()->UpdateVideoConference(request);
+    qDebug() << "create conference code:" << code;
+    return code;
 }
 
 int ConferenceEditor::sendCancellation() const
 {
     // A copy: the editor's own may be gone before the request is done with it.
     const QString conferenceId = m_conferences.first().confId;
-    return ConferenceCardInterface::instance()->deleteVideoConference(conferenceId);
+    const int code = ConferenceCardInterface::instance()->deleteVideoConference(conferenceId);
+    qDebug() << "Cancle conference code:" << code;
+    return code;
 }
 
 QWidget *ConferenceEditor::beginTime(const ContactDetailMsg &conference, QWidget *card)

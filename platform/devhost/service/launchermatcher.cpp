@@ -66,8 +66,8 @@ LauncherAct LauncherMatcher::match(const QString &text, const QDateTime &now)
     act.id = QString::fromLatin1(hash.result().toHex());
 
     const auto former = withId(m_recent, act.id);
-    if (former != m_recent.end()) {
-        m_recent.removeAt(int(former - m_recent.begin()));
+    if (former != m_recent.cend()) {
+        m_recent.removeAt(int(former - m_recent.cbegin()));
     } else if (m_recent.size() >= MostRecent) {
         m_recent.removeFirst();
     }
@@ -89,8 +89,8 @@ LauncherAct LauncherMatcher::take(const QString &id)
     }
     const bool isTheSame = match(act.sentence, act.when).id == id;
     const auto place = withId(m_recent, id);
-    if (place != m_recent.end()) {
-        m_recent.removeAt(int(place - m_recent.begin()));
+    if (place != m_recent.cend()) {
+        m_recent.removeAt(int(place - m_recent.cbegin()));
     }
     return isTheSame ? act : LauncherAct();
 }

@@ -179,7 +179,7 @@ void TestAssistiveTools::initTestCase()
     QVERIFY(!address.isEmpty());
     m_bus = QDBusConnection::connectToBus(address, QStringLiteral("reader"));
     QVERIFY(m_bus.isConnected());
-    if (!QTest::qWaitFor([this] { return !children(registry()).isEmpty(); }, 1500)) {
+    if (!QTest::qWaitFor([this] { return !children(registry()).isEmpty(); }, 400)) {
         std::_Exit(NotConnected); // see with-assistive-bus.sh
     }
     QVERIFY(QAccessible::isActive());

@@ -45,7 +45,7 @@ export TEST_ASSISTIVE_BUS="$address"
 # unknown ends with 75 before it has tested anything.
 status=75
 tries=0
-while [ "$status" = 75 ] && [ "$tries" -lt 15 ]; do
+while [ "$status" = 75 ] && [ "$tries" -lt 100 ]; do
     tries=$((tries + 1))
     status=0
     "$@" || status=$?

@@ -115,7 +115,7 @@ int readSpanEnd(const QString &text, int end)
 TimeMatch readTime(const QString &text, int position)
 {
     TimeMatch match;
-    if (!canBegin(text.at(position))) {
+    if (position >= text.size() || !canBegin(text.at(position))) {
         return match;
     }
     bool unclear = false;

@@ -33,8 +33,11 @@ QStringList columnsOf(const QSqlDatabase &database, const QString &table)
 /// "(?, ?, ?)"
 QString places(int count)
 {
-    return QLatin1Char('(') + QVector<QString>(count, QStringLiteral("?")).toList().join(Comma) +
-           QLatin1Char(')');
+    QStringList marks;
+    for (int i = 0; i < count; ++i) {
+        marks.append(QStringLiteral("?"));
+    }
+    return QLatin1Char('(') + marks.join(Comma) + QLatin1Char(')');
 }
 
 void bind(QSqlQuery &query, const RowKey &key)

@@ -132,7 +132,8 @@ void Inspector::changeEvent(QEvent *event)
     if (event->type() == QEvent::FontChange) {
         followFont();
     } else if (event->type() == QEvent::PaletteChange) {
-        for (JsonHighlighter *highlighter : findChildren<JsonHighlighter *>()) {
+        const auto highlighters = findChildren<JsonHighlighter *>();
+        for (JsonHighlighter *highlighter : highlighters) {
             highlighter->rehighlight();
         }
     }
@@ -144,7 +145,8 @@ void Inspector::followFont()
     if (font().pointSizeF() > 0) {
         fixed.setPointSizeF(font().pointSizeF());
     }
-    for (QPlainTextEdit *edit : findChildren<QPlainTextEdit *>()) {
+    const auto edits = findChildren<QPlainTextEdit *>();
+    for (QPlainTextEdit *edit : edits) {
         edit->setFont(fixed);
     }
 }

@@ -20,6 +20,34 @@ QString onlyText(const QSqlDatabase &database, const char *sql)
     return query.text(0);
 }
 
+/// A file of that former version, with content.
+void makeVersion3(const QString &file)
+{
+    const QString connection = QStringLiteral("version 3");
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
+        database.setDatabaseName(file);
+        QVERIFY(database.open());
+        QFile schema(QStringLiteral(CONTACT_SOURCE_DIR "/tests/contacts/version3.sql"));
+        QVERIFY(schema.open(QIODevice::ReadOnly));
+        QStringList statements = QString::fromUtf8(schema.readAll()).split(QLatin1Char('\n'));
+        statements += {
+            QStringLiteral(
+                "INSERT INTO person VALUES ('u1', '100001', '王小明', 0), ('u2', '100002', '李静', 0)"),
+            // Foreign keys are off here, as they were for whoever has lost u3.
+            QStringLiteral("INSERT INTO contact VALUES ('u1', 'u2', '小李', 1), ('u1', 'u3', '', 1),"
+                           " ('u3', 'u1', '', 0)"),
+            QStringLiteral("UPDATE session SET user_id = 'u1', seeded = 1, friend_limit = 7"),
+        };
+        for (const QString &statement : qAsConst(statements)) {
+            if (!statement.isEmpty() && !statement.startsWith(QLatin1String("--"))) {
+                Statement(database, statement).run();
+            }
+        }
+    }
+    QSqlDatabase::removeDatabase(connection);
+}
+
 } // namespace
 
 /// The file under the application: how it is made, kept and searched.
@@ -32,6 +60,7 @@ private Q_SLOTS:
     void itIsOpenedAgainAsItWas();
     void whatWasEmptiedStaysEmpty();
     void aTransactionThatIsNotCommittedIsUndone();
+    void aFileOfVersion3IsBroughtUpToDate();
     void aFileOfANewerVersionIsRefusedUntouched();
     void aFileThatIsNoDatabaseIsSetAside();
     void aFolderThatCannotBeMadeIsAnError();
@@ -90,6 +119,23 @@ void TestDatabase::aTransactionThatIsNotCommittedIsUndone()
         QVERIFY(world.book.people().all().isEmpty());
     }
     QCOMPARE(world.snapshot(), before);
+}
+
+void TestDatabase::aFileOfVersion3IsBroughtUpToDate()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("contacts.db"));
+    makeVersion3(file);
+    ContactsBook book(file);
+    QCOMPARE(onlyText(book.database().handle(), "PRAGMA user_version"), QStringLiteral("4"));
+    QCOMPARE(book.session().user()->account, QStringLiteral("100001"));
+    QCOMPARE(book.session().friendLimit(), 7);
+    // Whose person is missing is no contact any more.
+    const QVector<Person> contacts = book.people().contactsAfter(QStringLiteral("u1"), QString(), 10);
+    QCOMPARE(contacts.size(), 1);
+    QCOMPARE(contacts.at(0).account, QStringLiteral("100002"));
+    QCOMPARE(contacts.at(0).remarkName, QStringLiteral("小李"));
+    QCOMPARE(onlyText(book.database().handle(), "SELECT count(*) FROM contact"), QStringLiteral("1"));
 }
 
 void TestDatabase::aFileOfANewerVersionIsRefusedUntouched()

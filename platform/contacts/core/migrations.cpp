@@ -134,6 +134,10 @@ QStringList thirdVersion()
 QStringList fourthVersion()
 {
     return {
+        // A contact whose person is missing, as a file may have it that was written without foreign keys, has
+        // no account.
+        QStringLiteral("DELETE FROM contact WHERE owner_id NOT IN (SELECT user_id FROM person)"
+                       " OR person_id NOT IN (SELECT user_id FROM person)"),
         // The account is kept here too, so that one page is one walk along one index.
         QStringLiteral("ALTER TABLE contact ADD COLUMN account TEXT NOT NULL DEFAULT '' COLLATE NOCASE"),
         QStringLiteral("UPDATE contact SET account = (SELECT account FROM person WHERE user_id = person_id)"),

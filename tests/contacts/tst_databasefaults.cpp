@@ -8,6 +8,7 @@
 #include "core/databaseerror.h"
 #include "core/middlekey.h"
 #include "core/openinglock.h"
+#include "core/salvage.h"
 #include "core/statement.h"
 #include "testcolumns.h"
 
@@ -245,6 +246,11 @@ private Q_SLOTS:
     void whoCreatedWhatIsSalvagedOnce();
     void ofManyStartsOneSetsAside();
     void aDamagedFileInUseIsLeftToItsUser();
+    void aStartThatIsKilledLosesNothing();
+    void aReplacementThatWasInterruptedIsFinished_data();
+    void aReplacementThatWasInterruptedIsFinished();
+    void withoutRoomTheDamagedFileStays();
+    void noRoomInTheMiddleOfATableIsAnError();
     void damageThatIsMetInALargeFileIsMendedAtTheNextStart();
     void othersCannotRead();
 
@@ -567,6 +573,138 @@ void TestDatabaseFaults::aDamagedFileInUseIsLeftToItsUser()
     const LogCapture log(LogCapture::Unexpected::Passes);
     worldIn(folder.file);
     QCOMPARE(folder.setAside().size(), 1);
+}
+
+void TestDatabaseFaults::aStartThatIsKilledLosesNothing()
+{
+    constexpr int count = 3000;
+    const DataFolder folder;
+    {
+        ContactsBook book(folder.file, fixedClock());
+        addPeople(book, count);
+    }
+    overwriteTable(folder.file, QStringLiteral("notice"));
+    const auto isReplacing = [&folder] {
+        const QStringList patterns{QStringLiteral("*.new"), QStringLiteral("*damaged*")};
+        return !QFileInfo(folder.file).dir().entryList(patterns, QDir::Files).isEmpty();
+    };
+    Application application(folder.root.path());
+    QVERIFY(application.waitForStarted());
+    while (!isReplacing()) {
+        QCOMPARE(application.state(), QProcess::Running);
+    }
+    application.kill();
+    application.waitForFinished();
+    QCOMPARE(application.exitStatus(), QProcess::CrashExit);
+
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    ContactsBook book(folder.file, fixedClock());
+    QCOMPARE(folder.setAside().size(), 1);
+    QVERIFY(book.session().notice().contains(folder.setAside().at(0)));
+    QVERIFY(book.people().byAccount(QStringLiteral("9000000")).has_value());
+    QVERIFY(book.people().all().size() > count);
+    QVERIFY(!QFile::exists(folder.file + QStringLiteral(".new")));
+}
+
+void TestDatabaseFaults::aReplacementThatWasInterruptedIsFinished_data()
+{
+    addColumns<bool, bool, bool>({"journalMoved", "fileMoved", "anotherStart"});
+    QTest::newRow("before anything was set aside") << false << false << false;
+    QTest::newRow("after the journal") << true << false << false;
+    QTest::newRow("after the file") << true << true << false;
+    QTest::newRow("after the file, and a start that made an empty one") << true << true << true;
+}
+
+void TestDatabaseFaults::aReplacementThatWasInterruptedIsFinished()
+{
+    QFETCH(bool, journalMoved);
+    QFETCH(bool, fileMoved);
+    QFETCH(bool, anotherStart);
+    const DataFolder folder;
+    {
+        ContactsBook book(folder.file, fixedClock());
+        addPeople(book, 10);
+    }
+    overwriteTable(folder.file, QStringLiteral("notice"));
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    const QString world = worldIn(folder.file);
+    QCOMPARE(folder.setAside().size(), 1);
+    const QString name = folder.setAside().at(0);
+    const QString setAside = QFileInfo(folder.file).dir().filePath(name);
+    const qint64 size = QFileInfo(setAside).size();
+    // Back to how it was in between.
+    QVERIFY(QFile::rename(folder.file, QString(folder.file + QStringLiteral(".replacement-"))
+                                           .append(name.mid(name.indexOf(QLatin1Char('-')) + 1))));
+    const QString journal = QStringLiteral("-wal");
+    QFile::remove(setAside + journal);
+    QFile rest((journalMoved ? setAside : folder.file) + journal);
+    QVERIFY(rest.open(QIODevice::WriteOnly));
+    rest.write("rest");
+    rest.close();
+    if (!fileMoved) {
+        QVERIFY(QFile::rename(setAside, folder.file));
+    }
+    if (anotherStart) {
+        QFile empty(folder.file);
+        QVERIFY(empty.open(QIODevice::WriteOnly));
+    }
+    QCOMPARE(worldIn(folder.file), world);
+    ContactsBook book(folder.file, fixedClock());
+    QVERIFY(book.session().notice().contains(name));
+    QCOMPARE(folder.setAside(), QStringList{name});
+    QCOMPARE(QFileInfo(setAside).size(), size);
+    QCOMPARE(QFileInfo(setAside + journal).size(), qint64(4));
+    QVERIFY(QFileInfo(folder.file).dir().entryList({QStringLiteral("*replacement*")}, QDir::Files).isEmpty());
+}
+
+void TestDatabaseFaults::withoutRoomTheDamagedFileStays()
+{
+    const DataFolder folder;
+    {
+        ContactsBook book(folder.file, fixedClock());
+        addPeople(book, 3000);
+    }
+    overwriteTable(folder.file, QStringLiteral("notice"));
+    const auto bytes = [&folder] {
+        QFile file(folder.file);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    const QByteArray before = bytes();
+    Application application(folder.root.path(), before.size() / 2);
+    const bool hasEnded = application.waitForFinished(30000);
+    application.kill();
+    application.waitForFinished();
+    const QByteArray said = application.readAllStandardError();
+    QVERIFY2(hasEnded, said.constData());
+    QCOMPARE(application.exitCode(), 1);
+    QVERIFY2(said.contains("The contacts cannot be opened"), said.constData());
+    QCOMPARE(folder.setAside(), QStringList());
+    QVERIFY(bytes() == before);
+
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    ContactsBook book(folder.file, fixedClock());
+    QCOMPARE(folder.setAside().size(), 1);
+    QVERIFY(book.session().notice().contains(folder.setAside().at(0)));
+    QVERIFY(book.people().all().size() > 3000);
+}
+
+void TestDatabaseFaults::noRoomInTheMiddleOfATableIsAnError()
+{
+    const DataFolder folder;
+    {
+        ContactsBook book(folder.file, fixedClock());
+        addPeople(book, 3000);
+    }
+    const QTemporaryDir other;
+    const Database fresh(other.filePath(QStringLiteral("contacts.db")));
+    {
+        Statement limit(fresh.handle(), QStringLiteral("PRAGMA max_page_count = 50"));
+        QVERIFY(limit.run().next());
+        QCOMPARE(limit.smallNumber(0), 50);
+    }
+    Transaction transaction(fresh.handle());
+    QVERIFY_EXCEPTION_THROWN(salvage(folder.file, fresh.handle()), DatabaseError);
+    QCOMPARE(QSqlDatabase::connectionNames().size(), 1); // the fresh one's
 }
 
 void TestDatabaseFaults::damageThatIsMetInALargeFileIsMendedAtTheNextStart()

@@ -44,33 +44,12 @@ ContactsBook::ContactsBook(const QString &databaseFile, Clock clock, QObject *pa
     });
     connect(&m_burst, &QTimer::timeout, this, &ContactsBook::changedLately);
     Transaction transaction(m_database.handle());
-    noteSetAside();
-    // What the session says of a damaged file may have been read although nobody else was.
-    const bool hasContent =
-        m_database.setAsideFile().isEmpty() ? m_session.isSeeded() : m_database.salvaged().people > 0;
-    if (!hasContent) {
+    if (!m_session.isSeeded()) {
         SampleDirectory::load(m_people, m_conferences, m_session, nowMsecs());
+        m_reminders.forgetNews(); // loading invites nobody
+        m_session.setSeeded(true);
+        transaction.commit();
     }
-    if (!hasContent || !m_database.setAsideFile().isEmpty()) {
-        m_reminders.forgetNews(); // copying and loading invite nobody
-    }
-    m_session.setSeeded();
-    transaction.commit();
-}
-
-void ContactsBook::noteSetAside()
-{
-    const QString file = m_database.setAsideFile();
-    if (file.isEmpty()) {
-        return;
-    }
-    const Salvaged salvaged = m_database.salvaged();
-    const QString kept = salvaged.people > 0
-                             ? QStringLiteral("已找回 %1 位联系人和 %2 个会议，其余内容可能已丢失。")
-                                   .arg(salvaged.people)
-                                   .arg(salvaged.conferences)
-                             : QStringLiteral("没有可找回的内容，现在显示的是示例数据。");
-    m_session.setNotice(QStringLiteral("数据库已损坏，原文件保存为 %1。%2").arg(file, kept));
 }
 
 QString ContactsBook::perform(const QString &action, const QString &parameters, const RequestTicket &ticket)

@@ -60,8 +60,6 @@ Q_SIGNALS:
     void windowWanted();
 
 private:
-    void noteSetAside();
-
     Clock m_clock;
     QTimer m_burst;
     Database m_database;

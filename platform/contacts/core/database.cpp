@@ -7,9 +7,9 @@
 #include "core/migrations.h"
 #include "core/openinglock.h"
 #include "core/privatefiles.h"
+#include "core/replacement.h"
 #include "core/statement.h"
 
-#include <QDateTime>
 #include <QDebug>
 #include <QElapsedTimer>
 #include <QFile>
@@ -31,20 +31,6 @@ void runPragma(const QSqlDatabase &database, const QString &sql, const QString &
     }
 }
 
-/// Keeps a damaged file for whoever wants to rescue it, with its journal. @return its new name.
-QString setAside(const QString &fileName)
-{
-    const QString stamp = QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMddThhmmsszzz"));
-    const QString name = fileName + QStringLiteral(".damaged-") + stamp;
-    for (const QLatin1String suffix : {QLatin1String("-wal"), QLatin1String("-shm"), QLatin1String("")}) {
-        if (QFile::exists(fileName + suffix) && !QFile::rename(fileName + suffix, name + suffix)) {
-            throw DatabaseError(
-                QStringLiteral("the damaged database %1 cannot be set aside").arg(fileName + suffix));
-        }
-    }
-    return name;
-}
-
 /// Somebody else's lock on the file is waited for this long.
 constexpr int PatienceMsecs = 5000;
 /// A check reads the whole file; one that is larger than this, with a quarter of a million conferences, would
@@ -63,6 +49,11 @@ Database::Database(const QString &fileName) : m_connectionName(QUuid::createUuid
 {
     makePrivate(fileName);
     const OpeningLock lock(fileName);
+    m_setAsideFile = Replacement::resume(fileName);
+    if (!m_setAsideFile.isEmpty()) {
+        qWarning() << "The database" << fileName
+                   << "was damaged, and is now replaced as a former start meant to";
+    }
     try {
         openPatiently(fileName);
     } catch (const DatabaseError &error) {
@@ -75,7 +66,7 @@ Database::Database(const QString &fileName) : m_connectionName(QUuid::createUuid
                 QStringLiteral("%1 is damaged, and another process works with it; it is left as it is: %2")
                     .arg(fileName, QString::fromUtf8(error.what())));
         }
-        qCritical() << "The database" << fileName << "is damaged and is set aside:" << error.what();
+        qCritical() << "The database" << fileName << "is damaged and is replaced:" << error.what();
         replace(fileName);
     }
     try {
@@ -88,15 +79,22 @@ Database::Database(const QString &fileName) : m_connectionName(QUuid::createUuid
 
 void Database::replace(const QString &fileName)
 {
-    m_setAsideFile = setAside(fileName);
-    makePrivate(fileName);
+    const Replacement replacement(fileName);
+    makePrivate(replacement.buildingFile());
     try {
-        openPatiently(fileName);
-        m_salvaged = salvage(m_setAsideFile, m_database);
+        openPatiently(replacement.buildingFile());
+        Transaction transaction(m_database);
+        m_salvaged = salvage(fileName, m_database);
+        replacement.note(m_database, m_salvaged);
+        transaction.commit();
     } catch (...) {
         close();
         throw;
     }
+    close();
+    replacement.finish();
+    m_setAsideFile = replacement.setAsideFile();
+    openPatiently(fileName);
     qCritical() << "Of the damaged database" << m_setAsideFile << "was kept:" << m_salvaged.people
                 << "people," << m_salvaged.conferences << "conferences";
 }

@@ -20,9 +20,9 @@ class Database
 public:
     /**
      * Creates the file and its folder, readable by their owner alone, when they are missing. A damaged file
-     * is set aside, never deleted, and what can be read of it is copied. Only what SQLite itself calls
-     * damaged is: a lock is waited for, a few seconds, and anything else is thrown, also damage in a file
-     * that another process works with.
+     * is set aside, never deleted, what can be read of it is copied, and a notice to the user says so. Only
+     * what SQLite itself calls damaged is: a lock is waited for, a few seconds, and anything else is thrown,
+     * also damage in a file that another process works with.
      */
     explicit Database(const QString &fileName);
     ~Database();

@@ -6,7 +6,7 @@
 namespace {
 
 // SQLite's primary result codes; the upper bits of an extended code say more about the same.
-enum ResultCode { Busy = 5, Locked = 6, Corrupt = 11, NotADatabase = 26 };
+enum ResultCode { Busy = 5, Locked = 6, Corrupt = 11, Constraint = 19, NotADatabase = 26 };
 constexpr int PrimaryCode = 0xff;
 
 } // namespace
@@ -25,4 +25,9 @@ bool DatabaseError::isDamage() const
 bool DatabaseError::isBusy() const
 {
     return m_code == Busy || m_code == Locked;
+}
+
+bool DatabaseError::isConstraint() const
+{
+    return m_code == Constraint;
 }

@@ -22,6 +22,8 @@ public:
     bool isDamage() const;
     /// Whether somebody else has the file locked.
     bool isBusy() const;
+    /// Whether a rule of the tables has refused a row.
+    bool isConstraint() const;
 
 private:
     int m_code = 0;

@@ -3,7 +3,6 @@
 
 #include "core/salvage.h"
 
-#include "core/database.h"
 #include "core/tablesalvage.h"
 
 #include <QElapsedTimer>
@@ -31,34 +30,40 @@ constexpr SalvagedTable Tables[] = {
     {"shown_reminder", "conference_id user_id kind start_msecs"},
 };
 
+/// Ends after the database that has its name.
+struct Connection
+{
+    Connection() = default;
+    ~Connection() { QSqlDatabase::removeDatabase(name); }
+    Q_DISABLE_COPY(Connection)
+
+    const QString name = QUuid::createUuid().toString();
+};
+
 } // namespace
 
 Salvaged salvage(const QString &damagedFile, const QSqlDatabase &fresh)
 {
-    const QString connection = QUuid::createUuid().toString();
+    const Connection connection;
     Salvaged salvaged;
-    {
-        QSqlDatabase damaged = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
-        damaged.setDatabaseName(damagedFile);
-        damaged.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
-        if (damaged.open()) {
-            QElapsedTimer clock;
-            clock.start();
-            Transaction transaction(fresh);
-            for (const SalvagedTable &table : Tables) {
-                const QString name = QLatin1String(table.name);
-                const QStringList keys = QString(QLatin1String(table.keys)).split(QLatin1Char(' '));
-                const int copied = TableSalvage(damaged, fresh, name, keys, clock).run();
-                salvaged.rows += copied;
-                if (name == QLatin1String("person")) {
-                    salvaged.people = copied;
-                } else if (name == QLatin1String("conference")) {
-                    salvaged.conferences = copied;
-                }
-            }
-            transaction.commit();
+    QSqlDatabase damaged = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection.name);
+    damaged.setDatabaseName(damagedFile);
+    damaged.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
+    if (!damaged.open()) {
+        return salvaged;
+    }
+    QElapsedTimer clock;
+    clock.start();
+    for (const SalvagedTable &table : Tables) {
+        const QString name = QLatin1String(table.name);
+        const QStringList keys = QString(QLatin1String(table.keys)).split(QLatin1Char(' '));
+        const int copied = TableSalvage(damaged, fresh, name, keys, clock).run();
+        salvaged.rows += copied;
+        if (name == QLatin1String("person")) {
+            salvaged.people = copied;
+        } else if (name == QLatin1String("conference")) {
+            salvaged.conferences = copied;
         }
     }
-    QSqlDatabase::removeDatabase(connection);
     return salvaged;
 }

@@ -15,5 +15,6 @@ struct Salvaged
 
 /// Copies what can be read of @p damagedFile into @p fresh, a database of the present version without
 /// content, row by row, also what lies between two damaged places. Rows whose person or conference is lost
-/// are left out. The damaged file is only read. Throws DatabaseError when @p fresh fails.
+/// are left out. The damaged file is only read. Within a transaction of the caller's, which has to be undone
+/// when it throws: DatabaseError, when @p fresh fails.
 Salvaged salvage(const QString &damagedFile, const QSqlDatabase &fresh);

@@ -65,9 +65,9 @@ bool SessionRepository::isSeeded() const
     return number(QStringLiteral("SELECT seeded FROM session")) != 0;
 }
 
-void SessionRepository::setSeeded()
+void SessionRepository::setSeeded(bool seeded)
 {
-    setNumber(QStringLiteral("UPDATE session SET seeded = ?"), 1);
+    setNumber(QStringLiteral("UPDATE session SET seeded = ?"), seeded ? 1 : 0);
 }
 
 void SessionRepository::notePerformed(const QString &requestId)

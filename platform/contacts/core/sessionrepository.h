@@ -30,7 +30,7 @@ public:
 
     /// Whether the database has had its first content; what somebody emptied later stays empty.
     bool isSeeded() const;
-    void setSeeded();
+    void setSeeded(bool seeded);
 
     /// Notes that the request of that id has been carried out; the last 1000 are known.
     void notePerformed(const QString &requestId);

@@ -3,6 +3,8 @@
 
 #include "core/tablesalvage.h"
 
+#include "core/databaseerror.h"
+
 #include <QQueue>
 #include <QSqlError>
 
@@ -227,9 +229,14 @@ void TableSalvage::copy(const QSqlQuery &row)
         m_write.bindValue(column, row.value(column));
     }
     m_middle.meet(keyOf(row, 0));
-    // Refused when it refers to something that is lost, or makes no sense.
     if (m_write.exec()) {
         m_copied += m_write.numRowsAffected();
+        return;
+    }
+    // A row that refers to something that is lost, or makes no sense, is left out. Without room none is.
+    const DatabaseError error(m_write.lastError(), m_table);
+    if (!error.isConstraint()) {
+        throw error;
     }
 }
 

@@ -22,7 +22,8 @@ public:
     TableSalvage(const QSqlDatabase &damaged, const QSqlDatabase &fresh, const QString &table,
                  const QStringList &keys, const QElapsedTimer &clock);
 
-    /// How many rows were copied. Rows that refer to something lost are left out.
+    /// How many rows were copied. Rows that refer to something lost are left out. Throws
+    /// DatabaseError when @p fresh fails otherwise.
     int run();
 
 private:

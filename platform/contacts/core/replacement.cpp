@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "core/replacement.h"
+
+#include "core/databaseerror.h"
+#include "core/reminderrepository.h"
+#include "core/sessionrepository.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+const char *const Journals[] = {"-wal", "-shm"};
+
+QString wholePrefix(const QString &fileName)
+{
+    return fileName + QStringLiteral(".replacement-");
+}
+
+void renameOver(const QString &from, const QString &to)
+{
+    if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0) {
+        throw DatabaseError(QStringLiteral("%1 cannot be renamed to %2: %3")
+                                .arg(from, to, QString::fromLocal8Bit(std::strerror(errno))));
+    }
+}
+
+} // namespace
+
+Replacement::Replacement(const QString &fileName)
+    : Replacement(fileName, QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMddThhmmsszzz")))
+{
+    for (const char *suffix : {"", Journals[0], Journals[1]}) {
+        const QString former = buildingFile() + QLatin1String(suffix);
+        if (QFile::exists(former) && !QFile::remove(former)) {
+            throw DatabaseError(QStringLiteral("%1 cannot be removed").arg(former));
+        }
+    }
+}
+
+QString Replacement::buildingFile() const
+{
+    return m_fileName + QStringLiteral(".new");
+}
+
+QString Replacement::setAsideFile() const
+{
+    return m_fileName + QStringLiteral(".damaged-") + m_stamp;
+}
+
+QString Replacement::wholeFile() const
+{
+    return wholePrefix(m_fileName) + m_stamp;
+}
+
+void Replacement::note(const QSqlDatabase &successor, const Salvaged &salvaged) const
+{
+    const QString kept = salvaged.people > 0
+                             ? QStringLiteral("已找回 %1 位联系人和 %2 个会议，其余内容可能已丢失。")
+                                   .arg(salvaged.people)
+                                   .arg(salvaged.conferences)
+                             : QStringLiteral("没有可找回的内容，现在显示的是示例数据。");
+    SessionRepository session(successor);
+    session.setNotice(QStringLiteral("数据库已损坏，原文件保存为 %1。%2").arg(setAsideFile(), kept));
+    // What the session says of a damaged file may have been read although nobody else was.
+    session.setSeeded(salvaged.people > 0);
+    ReminderRepository(successor).forgetNews(); // copying invites nobody
+}
+
+void Replacement::finish() const
+{
+    // What is in a journal that could not be written back is not in the file.
+    for (const char *journal : Journals) {
+        if (QFile::exists(buildingFile() + QLatin1String(journal))) {
+            throw DatabaseError(QStringLiteral("%1 cannot be completed").arg(buildingFile()));
+        }
+    }
+    renameOver(buildingFile(), wholeFile());
+    swap();
+}
+
+void Replacement::swap() const
+{
+    // The journals go first: once the file itself is set aside, everything is, and what is at its name is an
+    // empty file of a start that was interrupted after it. A journal without its file would be deleted by
+    // whoever opens that name; a file without its journal is only found here, and set aside after it.
+    if (!QFile::exists(setAsideFile())) {
+        for (const char *suffix : {Journals[0], Journals[1], ""}) {
+            const QString damaged = m_fileName + QLatin1String(suffix);
+            if (QFile::exists(damaged)) {
+                renameOver(damaged, setAsideFile() + QLatin1String(suffix));
+            }
+        }
+    }
+    renameOver(wholeFile(), m_fileName);
+}
+
+QString Replacement::resume(const QString &fileName)
+{
+    const QString prefix = QFileInfo(wholePrefix(fileName)).fileName();
+    const QStringList found =
+        QFileInfo(fileName).absoluteDir().entryList({prefix + QLatin1Char('*')}, QDir::Files, QDir::Name);
+    if (found.isEmpty()) {
+        return {};
+    }
+    const Replacement replacement(fileName, found.constLast().mid(prefix.size()));
+    replacement.swap();
+    return replacement.setAsideFile();
+}

@@ -208,6 +208,14 @@ private Q_SLOTS:
         QVERIFY(readTime(said, 0).kind != TimeMatch::Kind::Time);
     }
 
+    /// What looks one character ahead may stand at the last one.
+    void noTimeBeginsBehindTheEnd()
+    {
+        for (const QString &said : {QString(), QStringLiteral("和张明")}) {
+            QCOMPARE(readTime(said, said.size()).kind, TimeMatch::Kind::None);
+        }
+    }
+
     void lengthsOfTimeAreNoMoments_data()
     {
         QTest::addColumn<QString>("said");

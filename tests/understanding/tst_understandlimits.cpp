@@ -78,6 +78,26 @@ private Q_SLOTS:
         QVERIFY2(best < generous, qPrintable(QString::number(best)));
     }
 
+    /// As a launcher asks: while the sentence is typed, so that it may end in the middle of anything.
+    void everyBeginningGetsOneAnswer()
+    {
+        const QStringList contacts{QStringLiteral("张伟"), QStringLiteral("a")};
+        QStringList typed{QStringLiteral("和张明"), QStringLiteral("约李晨"), QStringLiteral("叫上王五")};
+        for (const char *name : {"sentences.tsv", "sentences-more.tsv"}) {
+            for (const LabelledSentence &row : readSentences(
+                     QStringLiteral(CONTACT_SOURCE_DIR "/tests/understanding/") + QString::fromUtf8(name))) {
+                typed.append(row.sentence);
+            }
+        }
+        QVERIFY(typed.size() > 500);
+        for (const QString &sentence : qAsConst(typed)) {
+            for (int length = 1; length <= sentence.size(); ++length) {
+                const QString begun = sentence.left(length);
+                QVERIFY2(isSemantic(understanding::understand(begun, m_now, contacts)), qPrintable(begun));
+            }
+        }
+    }
+
     void anythingGetsOneAnswer()
     {
         // Pieces of real sentences in any order are nearer to trouble than random characters; both are tried.

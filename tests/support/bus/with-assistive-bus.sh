@@ -26,6 +26,15 @@ export DISPLAY=":$shown" QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 
 
 "$launcher" --launch-immediately >"$XDG_RUNTIME_DIR/launcher.log" 2>&1 &
 bus=$!
+# insist COMMAND...: again and again until it succeeds, because the bus's programs may still be starting, or end and start anew.
+insist() {
+    left=100
+    until "$@" >/dev/null 2>&1; do
+        left=$((left - 1))
+        [ "$left" -gt 0 ] || { echo "this never succeeds: $*" >&2; exit 1; }
+        sleep 0.1
+    done
+}
 tries=0
 address=
 until [ -n "$address" ]; do
@@ -36,10 +45,10 @@ until [ -n "$address" ]; do
     [ -n "$address" ] || sleep 0.1
 done
 # The registry is there before the first program wants to be known to it: what is said while it starts can get lost.
-dbus-send --bus="$address" --print-reply --dest=org.a11y.atspi.Registry /org/a11y/atspi/accessible/root \
-    org.a11y.atspi.Accessible.GetChildren >/dev/null
-dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus org.freedesktop.DBus.Properties.Set \
-    string:org.a11y.Status string:IsEnabled variant:boolean:true >/dev/null
+insist dbus-send --bus="$address" --print-reply --dest=org.a11y.atspi.Registry /org/a11y/atspi/accessible/root \
+    org.a11y.atspi.Accessible.GetChildren
+insist dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus org.freedesktop.DBus.Properties.Set \
+    string:org.a11y.Status string:IsEnabled variant:boolean:true
 export TEST_ASSISTIVE_BUS="$address"
 # Qt 5.15 may want to be known to the registry before it has connected, and never tries again; a program that finds itself
 # unknown ends with 75 before it has tested anything.

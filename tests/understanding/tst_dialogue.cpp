@@ -50,6 +50,15 @@ private Q_SLOTS:
             {"邀请", "? whom-to-invite", "张伟和李娜", "INVITE_CONFERENCE name=张伟 name=李娜"});
         row("whom to invite, somebody unknown",
             {"邀请成员", "? whom-to-invite", "赵云，还有马超", "INVITE_CONFERENCE name=赵云 name=马超"});
+        row("whom to meet, when only a form of address was said",
+            {"和兄弟明天下午三点开会", "? whom-to-invite", "张伟",
+             "CREATE_CONFERENCE open=开 name=张伟 datetime=2026-03-08T15:00"});
+        row("whom to meet comes behind the time, and is not forgotten",
+            {"下周下午三点和兄弟开会", "? which-day", "周三", "? whom-to-invite", "李娜",
+             "CREATE_CONFERENCE open=开 name=李娜 datetime=2026-03-11T15:00"});
+        row("a form of address beside an answer is nothing",
+            {"加入会议", "? which-conference", "123456，兄弟", "ENETR_ID_CONFERENCE id=123456"});
+        row("nor beside an end", {"加入会议", "? which-conference", "算了兄弟", "? cancelled"});
         row("whom to add, a phone number",
             {"加好友", "? whom-to-add", "138 0013 8000", "ADD_BUDDY account=13800138000"});
         row("whom to add, a mail address",

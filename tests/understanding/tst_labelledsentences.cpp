@@ -92,9 +92,9 @@ private Q_SLOTS:
     }
 
 private:
-    static constexpr int OwnSentences = 1531;
+    static constexpr int OwnSentences = 1532;
     static constexpr int OwnDialogues = 157;
-    static constexpr int OwnNegatives = 2;
+    static constexpr int OwnNegatives = 1;
     static constexpr int LearnedSentences = 531;
     static constexpr int LearnedDialogues = 69;
     static constexpr int LearnedNegatives = 0;

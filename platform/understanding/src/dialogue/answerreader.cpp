@@ -18,7 +18,8 @@ constexpr WordClasses SurroundingWords =
     WordClass::PasswordLabel | WordClass::AccountLabel | WordClass::NameLabel | WordClass::Measure |
     WordClass::Separator | WordClass::Trigger | WordClass::Pull | WordClass::Nobody | WordClass::NameTail |
     WordClass::Title | WordClass::Conference | WordClass::NoPassword | WordClass::Request |
-    WordClass::StrongOpen | WordClass::WeakOpen | WordClass::OpenParticle | WordClass::Repair;
+    WordClass::StrongOpen | WordClass::WeakOpen | WordClass::OpenParticle | WordClass::Repair |
+    WordClass::Address;
 
 bool isSmallTalkParticle(const Sentence &sentence, const Token &token)
 {
@@ -161,7 +162,8 @@ TimeExpression usableRest(const QString &question, const TimeExpression &before)
 
 bool isGiveUp(const Reading &reading)
 {
-    constexpr WordClasses harmless = WordClass::GiveUp | WordClass::Filler | WordClass::Punctuation;
+    constexpr WordClasses harmless =
+        WordClass::GiveUp | WordClass::Filler | WordClass::Address | WordClass::Punctuation;
     return reading.has(WordClass::GiveUp) &&
            std::all_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
                return token.isAny(harmless) || token.kind == Token::Kind::Space ||
@@ -171,7 +173,7 @@ bool isGiveUp(const Reading &reading)
 
 bool beginsWithGiveUp(const Reading &reading)
 {
-    constexpr WordClasses harmless = WordClass::GiveUp | WordClass::Filler;
+    constexpr WordClasses harmless = WordClass::GiveUp | WordClass::Filler | WordClass::Address;
     bool givesUp = false;
     for (const Token &token : reading.tokens()) {
         if (token.is(WordClass::Punctuation)) {

@@ -73,6 +73,8 @@ private:
     bool isBeforeConference(std::size_t at) const;
     /// 赵院长发来 in 赵院长发来的会议号.
     bool isOfNumber(std::size_t at) const;
+    /// 兄弟 in 兄弟，开会 and 开会吧兄弟, 同志 in 王磊同志.
+    bool isAddress(std::size_t at) const;
     /// Little words that change nothing.
     bool isNothing(const Token &token) const;
 

@@ -75,7 +75,7 @@ bool Clause::isExplained(std::size_t at) const
                m_intent == QLatin1String(EnterConferenceById) || isDescription(at) || isBeforeConference(at);
     case Token::Kind::Word:
         return (m_isQuery && token.is(WordClass::Framed)) || token.inName || token.isAny(m_allowed.beside) ||
-               isNothing(token) || isDescription(at);
+               isNothing(token) || isDescription(at) || isAddress(at);
     case Token::Kind::Other:
         return token.inName || isNothing(token) || isDescription(at) || isPreamble(at) || isOfNumber(at) ||
                (m_intent == QLatin1String(AddBuddy) && !m_reading.account().isEmpty());
@@ -86,6 +86,27 @@ bool Clause::isExplained(std::size_t at) const
     default:
         return true;
     }
+}
+
+bool Clause::isAddress(std::size_t at) const
+{
+    if (!m_tokens[at].is(WordClass::Address)) {
+        return false;
+    }
+    if (at > m_begin && m_tokens[at - 1].inName && m_tokens[at - 1].end() == m_tokens[at].position) {
+        return true;
+    }
+    constexpr WordClasses around = WordClass::Filler | WordClass::Address | WordClass::Request |
+                                   WordClass::OpenParticle | WordClass::QuestionParticle |
+                                   WordClass::NameTail;
+    const auto isEmpty = [&](const Token &token) {
+        return token.kind == Token::Kind::Space || token.isAny(around) || isNothing(token);
+    };
+    const auto place = [&](std::size_t index) {
+        return m_tokens.cbegin() + static_cast<std::ptrdiff_t>(index);
+    };
+    return std::all_of(place(m_begin), place(at), isEmpty) ||
+           std::all_of(place(at + 1), place(m_end), isEmpty);
 }
 
 bool Clause::isOfNumber(std::size_t at) const

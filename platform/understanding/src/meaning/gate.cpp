@@ -3,6 +3,7 @@
 
 #include "meaning/gate.h"
 
+#include "meaning/callings.h"
 #include "meaning/clause.h"
 #include "meaning/outcome.h"
 
@@ -26,6 +27,12 @@ Verdict judge(const Reading &reading, const QString &intent)
     const bool untimely = intent == QLatin1String(InviteConference) || intent == QLatin1String(AddBuddy);
     doubtful = doubtful || (untimely && reading.clockCount() > 0);
     doubtful = doubtful || (intent == QLatin1String(CreateConference) && reading.callsNobodyKnown());
+    const bool takesPeople =
+        intent == QLatin1String(CreateConference) || intent == QLatin1String(InviteConference);
+    doubtful = doubtful || (takesPeople && (reading.isElsewhere() || callsByAddressOnly(reading)));
+    // 拉张伟和200002进来: not everybody was found.
+    doubtful = doubtful || (intent == QLatin1String(InviteConference) && pullsOther(reading) &&
+                            !reading.conferenceNumber().isEmpty());
     // 凌晨一点上线，零点四十五拉个会: which of the two hours?
     doubtful = doubtful || (intent == QLatin1String(CreateConference) && reading.clockCount() > 1);
     bool untitled = false; // the name of the conference was not understood

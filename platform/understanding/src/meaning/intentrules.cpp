@@ -3,6 +3,7 @@
 
 #include "meaning/intentrules.h"
 
+#include "meaning/callings.h"
 #include "text/rulefile.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
@@ -157,6 +158,8 @@ constexpr Finding Findings[] = {
     {"whether", asksWhether},
     {"of", isOfConference},
     {"bare", isBare},
+    {"pulls-other", pullsOther},
+    {"pulls-speaker", pullsSpeaker},
 };
 
 /// One alternative of a condition: a class of words or a finding.

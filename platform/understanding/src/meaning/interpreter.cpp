@@ -3,6 +3,7 @@
 
 #include "meaning/interpreter.h"
 
+#include "meaning/callings.h"
 #include "meaning/gate.h"
 #include "meaning/intentrules.h"
 #include "time/timeresolver.h"
@@ -37,6 +38,7 @@ void fillNames(Outcome &outcome, const Reading &reading)
     for (const FoundName &name : reading.names()) {
         outcome.addSlot(NameSlot, name.said, name.name);
     }
+    outcome.needsName = callsByAddressOnly(reading) || callsNumber(reading);
 }
 
 void fillOpenVerb(Outcome &outcome, const Reading &reading, const QDateTime &)
@@ -156,6 +158,9 @@ void fillTime(Outcome &outcome, const TimeExpression &time, const QString &said,
 
 QString missingSlotQuestion(const Outcome &outcome)
 {
+    if (outcome.needsName && !outcome.hasSlot(NameSlot)) {
+        return QStringLiteral("whom-to-invite");
+    }
     for (const auto &row : IntentTable) {
         if (outcome.intent == QLatin1String(row.intent) && row.required != nullptr &&
             !outcome.hasSlot(row.required)) {

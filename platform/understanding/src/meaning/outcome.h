@@ -39,7 +39,8 @@ struct Outcome
 {
     QString intent; ///< also set for a question: what it is asked for
     QVector<Slot> slotList;
-    QString answer; ///< empty for an intent that can be carried out
+    bool needsName = false; ///< somebody was called, but by no name
+    QString answer;         ///< empty for an intent that can be carried out
 
     bool isCommand() const { return answer.isEmpty(); }
     bool hasSlot(const char *name) const;

@@ -26,6 +26,10 @@ Reading::Reading(const QString &sentence, const ContactIndex &contacts) : m_sent
     applyRepairs(m_sentence.text(), m_tokens);
     settleWords(m_sentence.text(), m_tokens);
     m_names = findNames(m_sentence.raw(), m_sentence.text(), m_tokens);
+    m_elsewhere = findElsewhere(m_sentence.text());
+    m_names.erase(std::remove_if(m_names.begin(), m_names.end(),
+                                 [&](const FoundName &name) { return m_elsewhere.holds(name.start); }),
+                  m_names.end());
     markNames();
     collectClasses();
     collectTimes();

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "names/elsewhere.h"
 #include "names/namefinder.h"
 #include "text/sentence.h"
 #include "time/timeresolver.h"
@@ -51,6 +52,8 @@ public:
     int clockCount() const { return m_clockCount; }
 
     bool hasDoubtfulName() const;
+    /// 来我办公室: somebody is to come, but to no conference.
+    bool isElsewhere() const { return !m_elsewhere.isEmpty(); }
     /// 薛宝钗那边也叫上: somebody is called, but nobody was found.
     bool callsNobodyKnown() const;
     /// 下周的今天: a day beside a week or a month that was not read with it.
@@ -82,6 +85,7 @@ private:
     Sentence m_sentence;
     Tokens m_tokens;
     std::vector<FoundName> m_names;
+    Elsewhere m_elsewhere;
     WordClasses m_classes;
     Said m_number;
     Said m_password;

@@ -197,8 +197,9 @@ private:
             }
             if (token.kind == Token::Kind::Name) {
                 at = takeKnownName(at);
-            } else if (token.isAny(WordClass::Title | WordClass::Topic) && token.length > 1 &&
-                       someoneFollows) { // 董事长王建国, 评审专家戚教授
+            } else if (m_places.isAddressBeforeName(at) ||
+                       (token.isAny(WordClass::Title | WordClass::Topic) && token.length > 1 &&
+                        someoneFollows)) { // 董事长王建国, 评审专家戚教授
                 m_modifierStart = m_modifierStart < 0 ? token.position : m_modifierStart;
             } else if (token.is(WordClass::Title) && token.length > 1 &&
                        !token.is(WordClass::Nobody)) { // 跟老板开会

@@ -74,6 +74,18 @@ std::size_t NamePlaces::endOfModifier(std::size_t at) const
     return at;
 }
 
+bool NamePlaces::isAddressBeforeName(std::size_t at) const
+{
+    if (!m_tokens[at].is(WordClass::Address) || at + 1 == m_tokens.size()) {
+        return false;
+    }
+    const Token &next = m_tokens[at + 1];
+    constexpr int longest = 3;
+    return next.kind == Token::Kind::Name || next.kind == Token::Kind::Latin ||
+           (next.kind == Token::Kind::Other &&
+            isPersonsName(m_text.mid(next.position, qMin(next.length, longest))));
+}
+
 bool NamePlaces::isOpeningOne(std::size_t at) const
 {
     const std::size_t next = at + 1;

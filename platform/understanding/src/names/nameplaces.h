@@ -23,6 +23,8 @@ public:
     [[nodiscard]] bool hasConference() const;
     /// 居委会 in 居委会的小乔.
     [[nodiscard]] bool isPlainBeforeName(std::size_t at) const;
+    /// 兄弟 in 和兄弟王磊开会.
+    [[nodiscard]] bool isAddressBeforeName(std::size_t at) const;
     /// 3 in 3床家属魏淑芬.
     [[nodiscard]] bool isNumberBeforeName(std::size_t at) const;
     /// The last token of the run of characters that begins at @p at: 关羽 is a word and a character.

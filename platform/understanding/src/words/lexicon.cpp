@@ -81,6 +81,7 @@ constexpr struct
     {"reported", WordClass::Reported},
     {"framed", WordClass::Framed},
     {"repair", WordClass::Repair},
+    {"address", WordClass::Address},
 };
 
 bool isClauseEnd(const QString &text, int position)

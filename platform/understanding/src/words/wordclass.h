@@ -73,6 +73,7 @@ enum class WordClass : quint8 {
     Reported, ///< 已经, 刚刚: it has happened, or has not
     Framed,   ///< 听说, 如果: told, wished or supposed, not ordered
     Repair,   ///< 不对: what follows replaces what was said
+    Address,  ///< 兄弟, 管家: how somebody is addressed, no name
     Count
 };
 

@@ -22,6 +22,15 @@ bool isSpeaker(const Reading &reading, const Token &token)
             startsAt(text, token.position, QStringLiteral("本人")));
 }
 
+/// 兄弟, 那谁: somebody, but nobody can tell who.
+bool standsForName(const Reading &reading, const Token &token)
+{
+    static const QString vague = QStringLiteral("那某");
+    return token.is(WordClass::Address) ||
+           (token.isAny(WordClass::Filler | WordClass::Nobody | WordClass::Actor) &&
+            vague.contains(reading.sentence().text().at(token.position)));
+}
+
 bool isCalling(const Token &token)
 {
     constexpr WordClasses calling = WordClass::Trigger | WordClass::Pull | WordClass::Invite |
@@ -104,8 +113,11 @@ bool callsByAddressOnly(const Reading &reading)
         while (next < tokens.size() && isSpeaker(reading, tokens[next])) { // 和我兄弟
             ++next;
         }
+        if (next + 1 < tokens.size() && tokens[next + 1].inName) { // 和那个王磊
+            return false;
+        }
         // 请管家帮我开个会 talks to the assistant.
-        return next < tokens.size() && tokens[next].is(WordClass::Address) && !tokens[next].inName &&
+        return next < tokens.size() && standsForName(reading, tokens[next]) && !tokens[next].inName &&
                !tokens[next].inTopic &&
                !(next + 1 < tokens.size() && tokens[next + 1].is(WordClass::Request));
     });

@@ -9,7 +9,7 @@
 
 namespace understanding {
 
-/// 和兄弟开会, 叫上管家: a form of address where a name is expected.
+/// 和兄弟开会, 叫上管家, 和那谁开会: a form of address where a name is expected.
 bool callsByAddressOnly(const Reading &reading);
 /// 和200002开会, 把200002拉进会议: accounts are numbers, too.
 bool callsNumber(const Reading &reading);

@@ -5,6 +5,7 @@
 
 #include "logcapture.h"
 
+#include "book/useroverview.h"
 #include "core/databaseerror.h"
 #include "core/middlekey.h"
 #include "core/openinglock.h"
@@ -225,7 +226,10 @@ std::function<void()> lockExclusively(const QString &file)
 
 } // namespace
 
+using Use = std::function<void(ContactsBook &book)>;
+
 Q_DECLARE_METATYPE(Obstacle)
+Q_DECLARE_METATYPE(Use)
 
 /// A database that cannot be read, for reasons that have nothing to do with it and for damage.
 class TestDatabaseFaults : public QObject
@@ -252,6 +256,8 @@ private Q_SLOTS:
     void withoutRoomTheDamagedFileStays();
     void noRoomInTheMiddleOfATableIsAnError();
     void damageThatIsMetInALargeFileIsMendedAtTheNextStart();
+    void damageIsHeededWhereverItIsMet_data();
+    void damageIsHeededWhereverItIsMet();
     void othersCannotRead();
 
 private:
@@ -738,6 +744,42 @@ void TestDatabaseFaults::damageThatIsMetInALargeFileIsMendedAtTheNextStart()
     QVERIFY(book.session().notice().contains(folder.setAside().at(0)));
     QVERIFY(book.people().all().size() > 2800);
     QVERIFY(!QFile::exists(folder.file + QStringLiteral(".check")));
+}
+
+void TestDatabaseFaults::damageIsHeededWhereverItIsMet_data()
+{
+    addColumns<QString, Use>({"damaged", "use"});
+    const auto person = QStringLiteral("person");
+    QTest::newRow("a request") << person << Use([](ContactsBook &book) {
+        book.perform(QStringLiteral("Search Conference"), QString());
+    });
+    QTest::newRow("the contacts' names") << person << Use([](ContactsBook &book) { book.contactNames(); });
+    QTest::newRow("what was performed")
+        << QStringLiteral("sqlite_autoindex_performed_request_1")
+        << Use([](ContactsBook &book) { book.wasPerformed(QStringLiteral("1")); });
+    QTest::newRow("a change") << person << Use([](ContactsBook &book) {
+        book.change([&book] { return !book.people().all().isEmpty(); });
+    });
+    QTest::newRow("the snapshot") << person
+                                  << Use([](ContactsBook &book) { Administration(book).Snapshot(); });
+    QTest::newRow("how things are") << person << Use([](ContactsBook &book) { userOverview(book); });
+}
+
+void TestDatabaseFaults::damageIsHeededWhereverItIsMet()
+{
+    QFETCH(QString, damaged);
+    QFETCH(Use, use);
+    const DataFolder folder;
+    worldIn(folder.file);
+    overwriteTable(folder.file, damaged);
+    // Larger than what is checked at a start.
+    QFile large(folder.file);
+    QVERIFY(large.resize(300 * 1024 * 1024));
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    ContactsBook book(folder.file, fixedClock());
+    QVERIFY(!QFile::exists(folder.file + QStringLiteral(".check")));
+    use(book);
+    QVERIFY(QFile::exists(folder.file + QStringLiteral(".check")));
 }
 
 void TestDatabaseFaults::othersCannotRead()

@@ -240,6 +240,7 @@ QString Administration::Snapshot()
         return worldSnapshot(m_book);
     } catch (const std::exception &error) {
         qCritical() << "The snapshot failed:" << error.what();
+        m_book.noteFailure(error);
         return {};
     }
 }

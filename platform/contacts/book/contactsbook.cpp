@@ -43,6 +43,16 @@ ContactsBook::ContactsBook(const QString &databaseFile, Clock clock, QObject *pa
         }
     });
     connect(&m_burst, &QTimer::timeout, this, &ContactsBook::changedLately);
+    try {
+        seed();
+    } catch (const std::exception &error) {
+        noteFailure(error);
+        throw;
+    }
+}
+
+void ContactsBook::seed()
+{
     Transaction transaction(m_database.handle());
     if (!m_session.isSeeded()) {
         SampleDirectory::load(m_people, m_conferences, m_session, nowMsecs());
@@ -102,14 +112,9 @@ QString ContactsBook::perform(const QString &action, const QString &parameters, 
     } catch (const InvalidParameters &error) {
         qWarning() << "Refused parameters for" << action << ":" << error.what();
         return toText(answerWord(Outcome::InvalidParameters));
-    } catch (const DatabaseError &error) {
-        qCritical() << "Action" << action << "failed:" << error.what();
-        if (error.isDamage()) {
-            m_database.demandCheck();
-        }
-        return toText(answerWord(Outcome::InternalError));
     } catch (const std::exception &error) {
         qCritical() << "Action" << action << "failed:" << error.what();
+        noteFailure(error);
         return toText(answerWord(Outcome::InternalError));
     }
 }
@@ -120,6 +125,7 @@ bool ContactsBook::wasPerformed(const QString &requestId) const
         return m_session.wasPerformed(requestId);
     } catch (const std::exception &error) {
         qCritical() << "It cannot be told what was performed:" << error.what();
+        noteFailure(error);
         return false;
     }
 }
@@ -132,6 +138,7 @@ QStringList ContactsBook::contactNames()
         return user ? m_people.contactNames(user->userId, most) : QStringList();
     } catch (const std::exception &error) {
         qCritical() << "Reading the contacts' names failed:" << error.what();
+        noteFailure(error);
         return {};
     }
 }
@@ -146,8 +153,17 @@ bool ContactsBook::change(const std::function<bool()> &change)
         transaction.commit();
     } catch (const std::exception &error) {
         qCritical() << "A change failed:" << error.what();
+        noteFailure(error);
         return false;
     }
     Q_EMIT changed();
     return true;
+}
+
+void ContactsBook::noteFailure(const std::exception &error) const
+{
+    const auto *databaseError = dynamic_cast<const DatabaseError *>(&error);
+    if (databaseError && databaseError->isDamage()) {
+        m_database.demandCheck();
+    }
 }

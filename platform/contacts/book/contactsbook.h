@@ -44,6 +44,10 @@ public:
     /// it fails, and then nothing has changed; also when @p change answers false.
     bool change(const std::function<bool()> &change);
 
+    /// For whoever catches what reading or writing threw: after damage, the next start checks the whole file.
+    /// Never throws.
+    void noteFailure(const std::exception &error) const;
+
     qint64 nowMsecs() const { return m_clock(); }
     PeopleRepository &people() { return m_people; }
     ConferenceRepository &conferences() { return m_conferences; }
@@ -60,6 +64,9 @@ Q_SIGNALS:
     void windowWanted();
 
 private:
+    /// Loads the sample where there was never anything.
+    void seed();
+
     Clock m_clock;
     QTimer m_burst;
     Database m_database;

@@ -40,6 +40,7 @@ QString userOverview(ContactsBook &book)
     try {
         return QString::fromUtf8(QJsonDocument(overviewOf(book)).toJson(QJsonDocument::Compact));
     } catch (const std::exception &error) {
+        book.noteFailure(error);
         qCritical() << "Reading how things are failed:" << error.what();
         return {};
     }

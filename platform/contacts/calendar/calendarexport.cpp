@@ -60,6 +60,7 @@ bool exportConference(ContactsBook &book, const QString &dialNumber, const QStri
         const QString error = writeCalendar(calendar, fileName);
         return error.isEmpty() || fail(fileName + QStringLiteral(": ") + error);
     } catch (const std::exception &error) {
+        book.noteFailure(error);
         return fail(QString::fromUtf8(error.what()));
     }
 }

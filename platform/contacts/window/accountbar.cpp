@@ -78,5 +78,6 @@ void AccountBar::reload()
         m_elsewhere->setChecked(m_book.session().isEngagedElsewhere());
     } catch (const std::exception &error) {
         qWarning("The accounts cannot be shown: %s", error.what());
+        m_book.noteFailure(error);
     }
 }

@@ -70,6 +70,7 @@ void AccountModel::fetchMore(const QModelIndex &parent)
         }
     } catch (const std::exception &error) {
         qWarning("The accounts cannot be shown: %s", error.what());
+        m_book.noteFailure(error);
         m_hasMore = false;
     }
 }

@@ -26,6 +26,7 @@ QString exportTo(ContactsBook &book, const QString &dialNumber, const QString &f
         return error.isEmpty() ? QStringLiteral("已导出到 %1。").arg(fileName)
                                : QStringLiteral("无法写入 %1：%2").arg(fileName, error);
     } catch (const std::exception &error) {
+        book.noteFailure(error);
         qWarning("A conference cannot be exported: %s", error.what());
         return QStringLiteral("操作失败。");
     }

@@ -216,6 +216,7 @@ QVector<Conference> ConferenceModel::load(int limit) const
                    : m_book.conferences().startingAfter(from, userId, limit);
     } catch (const std::exception &error) {
         qWarning("The conferences cannot be shown: %s", error.what());
+        m_book.noteFailure(error);
         return {};
     }
 }

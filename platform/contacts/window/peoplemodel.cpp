@@ -129,6 +129,7 @@ void PeopleModel::read(int count)
         m_people = nextRows(isInAccountOrder() ? count : std::numeric_limits<int>::max());
     } catch (const std::exception &error) {
         qWarning("The people cannot be shown: %s", error.what());
+        m_book.noteFailure(error);
         m_hasMore = false;
     }
     if (isInAccountOrder()) {
@@ -177,6 +178,7 @@ void PeopleModel::fetchMore(const QModelIndex &parent)
         }
     } catch (const std::exception &error) {
         qWarning("The people cannot be shown: %s", error.what());
+        m_book.noteFailure(error);
         m_hasMore = false;
     }
 }

@@ -52,6 +52,7 @@ void ReminderPage::reload()
         m_lead->setEnabled(settings.isOn);
     } catch (const std::exception &error) {
         qWarning("The reminders' settings cannot be shown: %s", error.what());
+        m_book.noteFailure(error);
     }
 }
 

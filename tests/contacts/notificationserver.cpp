@@ -3,6 +3,7 @@
 
 #include "notificationserver.h"
 
+#include <QDBusConnectionInterface>
 #include <QUuid>
 
 namespace {
@@ -50,6 +51,11 @@ void NotificationServer::dismiss(uint id)
     constexpr uint byUser = 2;
     m_onScreen.removeAll(id);
     Q_EMIT NotificationClosed(id, byUser);
+}
+
+void NotificationServer::flush()
+{
+    m_connection.interface()->isServiceRegistered(Service);
 }
 
 uint NotificationServer::Notify(const QString &, uint replacesId, const QString &, const QString &summary,

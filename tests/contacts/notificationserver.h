@@ -37,6 +37,8 @@ public:
     void click(uint id, const QString &action);
     /// As the user does it.
     void dismiss(uint id);
+    /// Waits, without handling any events, until the bus has what was sent.
+    void flush();
 
     Mood mood = Mood::Shows;
     QVector<Shown> shown; ///< all there ever were, also replaced ones

@@ -10,8 +10,11 @@
 #include "reminders/reminders.h"
 #include "reminders/walltimer.h"
 
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QRegularExpression>
 #include <QtTest>
 
 #include <ctime>
@@ -49,7 +52,10 @@ private Q_SLOTS:
     void aServerThatRefusesIsAskedAgain();
     void aServerThatStaysSilentIsNotAskedTwice();
     void whatCannotBeNotedIsNotRepeated();
+    void whatCouldNotBeNotedIsNotedLater();
+    void afterAFailureItLooksAgainSoon();
     void joiningFromTheNotification();
+    void anothersNotificationJoinsNobody();
     void joiningTooEarlySaysSo();
     void aClickOnTheNotificationShowsTheWindow();
     void othersNotificationsAreLeftAlone();
@@ -64,6 +70,7 @@ private Q_SLOTS:
     void namesAndTitlesAreNoMarkup();
     void nothingIsAskedOfTheServerWithinARequest();
     void aMomentOfTheCalendarIsWaitedFor();
+    void aClockThatIsNotSetIsNeverDue();
     void manyConferencesCostNothing();
 
 private:
@@ -417,6 +424,37 @@ void TestReminders::whatCannotBeNotedIsNotRepeated()
     QCOMPARE(m_server->shown.size(), 1);
 }
 
+void TestReminders::whatCouldNotBeNotedIsNotedLater()
+{
+    m_log.reset();
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    addConference("1", "设计讨论", 5 * MinuteMsecs);
+    const QSqlDatabase database = m_world->book.database().handle();
+    Statement(database, QStringLiteral("CREATE TRIGGER refuse BEFORE INSERT ON shown_reminder BEGIN"
+                                       " SELECT RAISE(ABORT, 'no'); END"))
+        .run();
+    settle();
+    QCOMPARE(m_server->shown.size(), 1);
+    Statement(database, QStringLiteral("DROP TRIGGER refuse")).run();
+    settle();
+    restart();
+    settle();
+    QCOMPARE(m_server->shown.size(), 1);
+}
+
+void TestReminders::afterAFailureItLooksAgainSoon()
+{
+    m_log.reset();
+    const LogCapture log(LogCapture::Unexpected::Passes);
+    const QSqlDatabase database = m_world->book.database().handle();
+    Statement(database, QStringLiteral("ALTER TABLE reminder_settings RENAME TO away")).run();
+    m_reminders->look();
+    QCOMPARE(m_reminders->nextLookMsecs(), m_world->nowMsecs + MinuteMsecs);
+    Statement(database, QStringLiteral("ALTER TABLE away RENAME TO reminder_settings")).run();
+    m_reminders->look();
+    QVERIFY(m_reminders->nextLookMsecs() > m_world->nowMsecs + MinuteMsecs);
+}
+
 void TestReminders::joiningFromTheNotification()
 {
     addConference("1", "设计讨论", MinuteMsecs, HourMsecs, Friend);
@@ -430,6 +468,21 @@ void TestReminders::joiningFromTheNotification()
     QVERIFY(joined);
     QCOMPARE(joined->dialNumber, QStringLiteral("1"));
     QCOMPARE(m_server->shown.size(), 2);
+}
+
+void TestReminders::anothersNotificationJoinsNobody()
+{
+    addConference("1", "设计讨论", MinuteMsecs, HourMsecs);
+    settle();
+    pass(MinuteMsecs);
+    m_server->click(m_server->shown.last().id, QStringLiteral("join"));
+    m_server->flush();
+    // The click comes before the answer to this, and is handled after the login.
+    QVERIFY(!QDBusConnection::sessionBus().interface()->isServiceRegistered(QStringLiteral("no.body")));
+    QVERIFY(m_world->admin.Login(Friend));
+    QCoreApplication::sendPostedEvents();
+    const QString userId = m_world->book.session().user()->userId;
+    QVERIFY(!m_world->book.conferences().joinedBy(userId, m_world->nowMsecs));
 }
 
 void TestReminders::joiningTooEarlySaysSo()
@@ -666,6 +719,29 @@ void TestReminders::aMomentOfTheCalendarIsWaitedFor()
     timer.start(-5); // past already
     QVERIFY(timeout.wait());
     QVERIFY(!timeout.wait(50)); // once
+}
+
+void TestReminders::aClockThatIsNotSetIsNeverDue()
+{
+    // What the kernel tells of this process's timers on the calendar's clock.
+    static const QRegularExpression waits(
+        QStringLiteral("clockid: %1\\n.*it_value: \\((\\d+),").arg(CLOCK_REALTIME),
+        QRegularExpression::DotMatchesEverythingOption);
+    const WallTimer timer;
+    int found = 0;
+    const QDir folder(QStringLiteral("/proc/self/fdinfo"));
+    const QStringList descriptors = folder.entryList(QDir::Files);
+    for (const QString &descriptor : descriptors) {
+        QFile file(folder.filePath(descriptor));
+        const QRegularExpressionMatch match =
+            waits.match(file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : QString());
+        if (match.hasMatch()) {
+            constexpr qint64 century = 100LL * 365 * 24 * 3600;
+            ++found;
+            QVERIFY2(match.captured(1).toLongLong() > century, qPrintable(match.captured(1)));
+        }
+    }
+    QVERIFY(found > 0);
 }
 
 void TestReminders::manyConferencesCostNothing()

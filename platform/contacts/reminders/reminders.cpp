@@ -16,7 +16,7 @@
 
 namespace {
 
-/// How long the server is left alone after it refused something.
+/// How long the server is left alone after it refused something, and the database after it failed.
 constexpr qint64 RetryMsecs = MinuteMsecs;
 /// Looks at least this often, in case there is a reason to that nobody thought of.
 constexpr qint64 LongestWaitMsecs = 60 * MinuteMsecs;
@@ -55,6 +55,8 @@ void Reminders::look()
         }
     } catch (const std::exception &error) {
         qWarning("Reminders cannot be looked for: %s", error.what());
+        m_book.noteFailure(error);
+        waitUntil(m_book.nowMsecs() + RetryMsecs);
     }
 }
 
@@ -62,7 +64,9 @@ void Reminders::lookAs(const QString &userId, const ReminderSettings &settings)
 {
     if (!settings.isOn) {
         // What came while nobody wanted to hear of it is not told later.
-        write([this, &userId] { m_book.reminders().forgetNews(userId); });
+        if (!write([this, &userId] { m_book.reminders().forgetNews(userId); })) {
+            waitUntil(m_book.nowMsecs() + RetryMsecs);
+        }
         return;
     }
     const qint64 now = m_book.nowMsecs();
@@ -129,17 +133,23 @@ void Reminders::send(const QString &key, const Notification &notification, const
     if (m_sending.contains(key)) {
         return;
     }
+    if (m_unnoted.contains(key)) {
+        if (write(note)) {
+            m_unnoted.remove(key);
+        }
+        return;
+    }
     m_sending.insert(key);
     m_notifier.show(notification, [this, key, shown, note](Notifier::Result result, quint32 id) {
+        m_sending.remove(key);
         if (result == Notifier::Result::Refused) {
-            m_sending.remove(key);
             m_refusedMsecs = m_book.nowMsecs();
             waitUntil(qMin(m_nextLookMsecs, *m_refusedMsecs + RetryMsecs));
             return; // tried again when a server comes, or then
         }
         // What was shown and cannot be noted is at least not shown again by this process.
-        if (write(note)) {
-            m_sending.remove(key);
+        if (note && !write(note)) {
+            m_unnoted.insert(key);
         }
         if (result == Notifier::Result::Shown) {
             m_shown.insert(id, shown);
@@ -157,6 +167,7 @@ bool Reminders::write(const std::function<void()> &note)
         return true;
     } catch (const std::exception &error) {
         qWarning("It cannot be noted what was shown: %s", error.what());
+        m_book.noteFailure(error);
         return false;
     }
 }
@@ -218,6 +229,9 @@ void Reminders::onAction(quint32 id, const QString &action)
 
 void Reminders::join(const Shown &shown)
 {
+    if (!isPresentUsers(shown)) {
+        return; // somebody else has logged in since, and it is about to be withdrawn
+    }
     // By the same way as the assistant's requests.
     const QJsonObject parameters{{JsonKey::ConferenceId, shown.dialNumber}, {JsonKey::Password, QString()}};
     const QString answer =
@@ -233,8 +247,19 @@ void Reminders::join(const Shown &shown)
                              : outcomeText(word);
     Shown told;
     told.userId = shown.userId;
-    send(QStringLiteral("join %1").arg(shown.conferenceId), notificationAbout(shown.title, text), told,
-         [] {});
+    send(QStringLiteral("join %1").arg(shown.conferenceId), notificationAbout(shown.title, text), told, {});
+}
+
+bool Reminders::isPresentUsers(const Shown &shown) const
+{
+    try {
+        const std::optional<Person> user = m_book.session().user();
+        return user && user->userId == shown.userId;
+    } catch (const std::exception &error) {
+        qWarning("It cannot be told whose notification was clicked: %s", error.what());
+        m_book.noteFailure(error);
+        return false;
+    }
 }
 
 void Reminders::decline(const Shown &shown)

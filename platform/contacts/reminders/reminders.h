@@ -54,6 +54,7 @@ private:
     void lookAs(const QString &userId, const ReminderSettings &settings);
     void showReminder(const QString &userId, const Reminder &reminder);
     void showRequest(const QString &userId, const Person &asker);
+    /// @p note is run when the server has taken it; empty for what needs no noting.
     void send(const QString &key, const Notification &notification, const Shown &shown,
               const std::function<void()> &note);
     /// Runs @p note in a transaction of its own; nobody who shows the state needs to know. False when it
@@ -65,6 +66,7 @@ private:
     void waitUntil(qint64 msecs);
     void onAction(quint32 id, const QString &action);
     void join(const Shown &shown);
+    bool isPresentUsers(const Shown &shown) const;
     void decline(const Shown &shown);
 
     ContactsBook &m_book;
@@ -72,7 +74,8 @@ private:
     WallTimer m_timer;
     QTimer m_afterChange;
     QHash<quint32, Shown> m_shown;
-    QSet<QString> m_sending; ///< what the server has not answered to yet, or nobody could note
+    QSet<QString> m_sending; ///< what the server has not answered to yet
+    QSet<QString> m_unnoted; ///< what was shown and could not be noted; tried again at each look
     qint64 m_nextLookMsecs = 0;
     std::optional<qint64> m_refusedMsecs; ///< when the server did not want something
 };

@@ -66,6 +66,8 @@ void WallTimer::watch(int descriptor)
 void WallTimer::watchClock()
 {
     itimerspec never{};
-    never.it_value.tv_sec = std::numeric_limits<int>::max();
+    // The kernel takes what is beyond its own end for that end. A moment that the clock can pass would be due
+    // again and again.
+    never.it_value.tv_sec = std::numeric_limits<time_t>::max();
     timerfd_settime(m_clock, TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &never, nullptr);
 }

@@ -27,7 +27,7 @@ ConferencePage::ConferencePage(ConferenceModel *model, ContactsBook &book, Admin
 
 ConferencePage::ConferencePage(ConferenceModel *model, QSortFilterProxyModel *sorted, ContactsBook &book,
                                Administration &administration, QWidget *parent)
-    : TablePage(sorted, ConferenceModel::NumberRole, parent)
+    : TablePage(sorted, ConferenceModel::NumberRole, ConferenceModel::Start, parent)
     , m_model(model)
     , m_sorted(sorted)
     , m_book(book)

@@ -92,6 +92,7 @@ QWidget *ContactsWindow::makeNotice(ContactsBook &book)
     try {
         text->setText(book.session().notice());
     } catch (const std::exception &error) {
+        book.noteFailure(error);
         qWarning("The notice cannot be shown: %s", error.what());
     }
     notice->setHidden(text->text().isEmpty());
@@ -108,14 +109,13 @@ QWidget *ContactsWindow::makeNotice(ContactsBook &book)
 TablePage *ContactsWindow::makePeoplePage(ContactsBook &book)
 {
     auto *model = new PeopleModel(book);
-    auto *page = new TablePage(model, PeopleModel::AccountRole);
+    auto *page = new TablePage(model, PeopleModel::AccountRole, PeopleModel::Account);
     model->setParent(page);
     connect(page->filter(), &QLineEdit::textChanged, model, &PeopleModel::setFilter);
     page->table()->setAccessibleName(QStringLiteral("联系人列表"));
     page->table()->setHint(QStringLiteral("还没有联系人。登录后可以在这里看到他们。"));
     page->table()->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     page->table()->horizontalHeader()->setSectionResizeMode(PeopleModel::Name, QHeaderView::Stretch);
-    page->table()->sortByColumn(PeopleModel::Account, Qt::AscendingOrder);
 
     auto *account = new QLineEdit;
     account->setObjectName(QStringLiteral("friendAccount"));

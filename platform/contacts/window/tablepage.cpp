@@ -28,7 +28,7 @@ void HintedTable::paintEvent(QPaintEvent *event)
     painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_hint);
 }
 
-TablePage::TablePage(QAbstractItemModel *model, int keyRole, QWidget *parent)
+TablePage::TablePage(QAbstractItemModel *model, int keyRole, int sortColumn, QWidget *parent)
     : QWidget(parent)
     , m_model(model)
     , m_keyRole(keyRole)
@@ -45,6 +45,8 @@ TablePage::TablePage(QAbstractItemModel *model, int keyRole, QWidget *parent)
     connect(escape, &QShortcut::activated, m_filter, &QLineEdit::clear);
 
     m_table->setModel(m_model);
+    // First, because the next line sorts at once: another order may have to read everything.
+    m_table->horizontalHeader()->setSortIndicator(sortColumn, Qt::AscendingOrder);
     m_table->setSortingEnabled(true);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);

@@ -35,8 +35,9 @@ class TablePage : public QWidget
     Q_OBJECT
 
 public:
-    /// @p model sorts and filters by itself and must outlive it; @p keyRole names a row.
-    TablePage(QAbstractItemModel *model, int keyRole, QWidget *parent = nullptr);
+    /// @p model sorts and filters by itself and must outlive it; @p keyRole names a row. It begins sorted by
+    /// @p sortColumn, upwards.
+    TablePage(QAbstractItemModel *model, int keyRole, int sortColumn, QWidget *parent = nullptr);
 
     QLineEdit *filter() const { return m_filter; }
     HintedTable *table() const { return m_table; }

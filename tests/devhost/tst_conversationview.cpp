@@ -64,9 +64,11 @@ private Q_SLOTS:
     void initTestCase();
     void oldCardsBecomePicturesThatComeBack();
     void cardWithTheFocusStaysAlive();
+    void scrollingTakesTheFocusFromNoCard();
     void tenThousandTurnsStaySmall();
     void arrowsGoFromBubbleToBubble();
     void menuOpensByItsButtonAndByItsKey();
+    void menuButtonsComeBackWithTheWindow();
     void tabReachesEveryCard();
     void assistiveToolsReadTheConversation();
 };
@@ -135,8 +137,41 @@ void TestConversationView::cardWithTheFocusStaysAlive()
     for (int turn = 3; turn <= ConversationView::LiveCards + 5; ++turn) {
         view.addReply(turn, QString(), makeCard(QStringLiteral("新的")));
     }
-    QTRY_VERIFY(unused.isNull() || !unused->isVisible());
+    QTRY_VERIFY(unused.isNull());
     QVERIFY(!used.isNull());
+    QVERIFY(used->isAncestorOf(QApplication::focusWidget()));
+}
+
+/// Hiding the card gave the focus to another one, and the view scrolled there.
+void TestConversationView::scrollingTakesTheFocusFromNoCard()
+{
+    ConversationView view;
+    view.resize(500, 300);
+    view.show();
+    view.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    constexpr int cards = 6;
+    for (int turn = 1; turn <= cards; ++turn) {
+        view.addReply(turn, QStringLiteral("答"), makeCard(QString::number(turn)));
+    }
+    view.verticalScrollBar()->setValue(0);
+    QVERIFY(view.moveFocus(true));
+    QVERIFY(view.moveFocus(true));
+    QVERIFY(view.moveFocus(true)); // the second card's first button
+    QWidget *focus = QApplication::focusWidget();
+    QWidget *card = view.entries().at(1).card;
+    QVERIFY(card->isAncestorOf(focus));
+    for (const int value : {view.verticalScrollBar()->maximum(), 0, view.verticalScrollBar()->maximum()}) {
+        view.verticalScrollBar()->setValue(value);
+        QCOMPARE(view.verticalScrollBar()->value(), value);
+        QCOMPARE(QApplication::focusWidget(), focus);
+        QVERIFY(!card->geometry().intersects(view.viewport()->rect()) || value == 0);
+    }
+    // The way goes on from there, and the card is hidden like the others once the focus has left it.
+    QVERIFY(view.moveFocus(true) && view.moveFocus(true));
+    QVERIFY(view.entries().at(2).card->isAncestorOf(QApplication::focusWidget()));
+    view.scrollToEnd();
+    QVERIFY(!card->isVisible());
 }
 
 void TestConversationView::tenThousandTurnsStaySmall()
@@ -235,6 +270,31 @@ void TestConversationView::menuOpensByItsButtonAndByItsKey()
     QApplication::sendEvent(&view, &key);
     QCOMPARE(wanted.size(), 1);
     QCOMPARE(wanted.first().at(1).toString(), QStringLiteral("问"));
+}
+
+/// They were hidden with the window and stayed hidden until one scrolled.
+void TestConversationView::menuButtonsComeBackWithTheWindow()
+{
+    ConversationView view;
+    view.resize(500, 300);
+    view.show();
+    for (int turn = 1; turn <= 30; ++turn) {
+        view.addSaid(turn, QStringLiteral("第 %1 句").arg(turn), false);
+    }
+    const auto shownButtons = [&view] {
+        const auto buttons = view.findChildren<TurnButton *>();
+        return int(std::count_if(buttons.begin(), buttons.end(),
+                                 [](const TurnButton *button) { return button->isVisible(); }));
+    };
+    const int before = shownButtons();
+    QVERIFY(before > 1);
+    view.hide();
+    QCOMPARE(shownButtons(), 0);
+    view.show();
+    QCOMPARE(shownButtons(), before);
+    // A bubble that is out of sight takes its button along.
+    view.clear();
+    QCOMPARE(shownButtons(), 0);
 }
 
 void TestConversationView::tabReachesEveryCard()

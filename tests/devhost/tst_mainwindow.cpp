@@ -102,6 +102,7 @@ private Q_SLOTS:
     void tabGoesAsOneReads();
     void focusReturnsToTheInputAfterACardsButton();
     void buttonToTheEndIsOpaqueAndAtTheSide();
+    void buttonToTheEndLeadsThereFromCards();
     void windowSpeaksChinese();
     void problemIsShown();
     void namesAreShownWithoutWhatHides();
@@ -639,6 +640,39 @@ void TestMainWindow::buttonToTheEndIsOpaqueAndAtTheSide()
     QVERIFY(button->x() > view->width() * 3 / 4);
     QTest::mouseClick(button, Qt::LeftButton);
     QVERIFY(view->isAtEnd() && !button->isVisible());
+}
+
+/// The button took the focus and hid itself, whereupon the focus went to the first card and the view with it.
+void TestMainWindow::buttonToTheEndLeadsThereFromCards()
+{
+    Desk desk;
+    desk.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&desk.window));
+    for (int i = 0; i < 12; ++i) {
+        desk.type(semantic("CARD", QStringLiteral("卡片")));
+    }
+    QTRY_VERIFY(desk.isIdle() && desk.window.view()->count() == 24);
+    ConversationView *view = desk.window.view();
+    auto *button = view->findChild<EndButton *>();
+    const auto goesToTheEnd = [&] {
+        view->verticalScrollBar()->setValue(0);
+        QTest::mouseClick(button, Qt::LeftButton);
+        return view->isAtEnd() && !button->isVisible();
+    };
+    QVERIFY(desk.window.input()->hasFocus());
+    QVERIFY(goesToTheEnd());
+    // As a click beside the cards would have it.
+    QVERIFY(view->hasFocus());
+    // Nor does the button itself, where a screen reader has given it the focus.
+    view->verticalScrollBar()->setValue(0);
+    button->setFocus();
+    QVERIFY(button->hasFocus());
+    QVERIFY(goesToTheEnd());
+    QVERIFY(!view->isAncestorOf(QApplication::focusWidget()));
+    // Nor does the card that had the focus bring the view back when it goes out of sight.
+    view->entries().at(1).card->findChild<QPushButton *>()->setFocus();
+    QVERIFY(goesToTheEnd());
+    QVERIFY(view->hasFocus());
 }
 
 void TestMainWindow::windowSpeaksChinese()

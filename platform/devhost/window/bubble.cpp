@@ -148,7 +148,10 @@ void Bubble::resizeEvent(QResizeEvent *)
 
 void Bubble::hideEvent(QHideEvent *)
 {
-    m_button->hide();
+    // With the window both go and come by themselves.
+    if (isHidden()) {
+        m_button->hide();
+    }
 }
 
 void Bubble::placeButton()

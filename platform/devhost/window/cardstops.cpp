@@ -13,6 +13,12 @@ bool isTabStop(const QWidget &widget, const QWidget &shownTo)
            widget.isEnabled() && (&widget == &shownTo || widget.isVisibleTo(&shownTo));
 }
 
+bool hasFocusWithin(const QWidget &card)
+{
+    const QWidget *focus = card.window()->focusWidget();
+    return focus != nullptr && (focus == &card || card.isAncestorOf(focus));
+}
+
 QVector<QWidget *> cardStops(QWidget &card)
 {
     QVector<QWidget *> stops;

@@ -17,4 +17,7 @@ QVector<QWidget *> cardStops(QWidget &card);
 /// Whether Tab may stop at @p widget, which is shown to @p shownTo.
 bool isTabStop(const QWidget &widget, const QWidget &shownTo);
 
+/// Whether @p card has its window's focus, which comes back with the window when that is not active.
+bool hasFocusWithin(const QWidget &card);
+
 } // namespace devhost

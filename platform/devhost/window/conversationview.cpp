@@ -4,6 +4,7 @@
 #include "conversationview.h"
 
 #include "cardfonts.h"
+#include "cardstops.h"
 #include "cardsurround.h"
 #include "conversationaccessible.h"
 #include "conversationpage.h"
@@ -11,9 +12,7 @@
 #include "picturedcard.h"
 #include "waitingdots.h"
 
-#include <QApplication>
 #include <QContextMenuEvent>
-#include <QEvent>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -153,10 +152,8 @@ void ConversationView::insert(Entry entry)
     m_entries.insert(position, entry);
     layOut(position, wasAtEnd);
     if (entry.card != nullptr) {
-        m_entries.letOldCardsGo(LiveCards, [](const QWidget &card) {
-            const QWidget *focus = QApplication::focusWidget();
-            return card.isVisible() || (focus != nullptr && card.isAncestorOf(focus));
-        });
+        m_entries.letOldCardsGo(LiveCards,
+                                [](const QWidget &card) { return card.isVisible() || hasFocusWithin(card); });
     }
     ConversationAccessible::announce(*this, m_entries.at(position));
 }
@@ -228,6 +225,9 @@ void ConversationView::place()
     for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry) {
         if (entry < firstShown || entry >= endShown) {
             release(*entry);
+            if (entry->card != nullptr && entry->card->isVisibleTo(viewport())) {
+                entry->card->setGeometry(cardPlace(int(entry - m_entries.begin())));
+            }
         }
     }
     for (auto entry = firstShown; entry != endShown; ++entry) {
@@ -272,7 +272,7 @@ void ConversationView::release(Entry &entry)
     }
     if (entry.card != nullptr && !entry.hasLiveCard()) {
         delete entry.card;
-    } else if (entry.card != nullptr && entry.card->isVisibleTo(viewport())) {
+    } else if (entry.card != nullptr && entry.card->isVisibleTo(viewport()) && !hasFocusWithin(*entry.card)) {
         entry.card->hide();
     }
 }

@@ -96,6 +96,8 @@ private:
     /// Gives the entries from @p first on their places. Keeps the position, or the end when @p wasAtEnd.
     void layOut(int first, bool wasAtEnd);
     void placeEntry(int position);
+    /// Lets go of what shows @p entry. A card with the focus stays, out of sight: hiding it would hand the
+    /// focus to another one, and the view would go there.
     void release(Entry &entry);
     Bubble *takeBubble();
     void cardChanged();

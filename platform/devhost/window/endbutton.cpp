@@ -21,6 +21,7 @@ EndButton::EndButton(QWidget *parent) : QAbstractButton(parent)
     setAccessibleName(QStringLiteral("回到最新"));
     setCursor(Qt::PointingHandCursor);
     setAttribute(Qt::WA_Hover);
+    setFocusPolicy(Qt::TabFocus); // its click hides it, and would hand the focus on
     resize(sizeHint());
 }
 

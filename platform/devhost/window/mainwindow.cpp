@@ -326,7 +326,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
 bool MainWindow::focusNextPrevChild(bool next)
 {
     QWidget *const focus = focusWidget();
-    const bool isOnCard = focus != nullptr && focus != m_view && m_view->isAncestorOf(focus);
+    const bool isInView = focus != nullptr && focus != m_view && m_view->isAncestorOf(focus);
+    const bool isOnCard = isInView && m_view->entries().positionOfCardWith(*focus) >= 0;
     if ((isOnCard || (next && focus == m_view)) && m_view->moveFocus(next)) {
         return true;
     }
@@ -335,7 +336,7 @@ bool MainWindow::focusNextPrevChild(bool next)
         return true;
     }
     // The cards stand in the chain where they came into the window; they have been visited with the view.
-    QWidget *const from = focus == nullptr ? this : isOnCard ? m_view : focus;
+    QWidget *const from = focus == nullptr ? this : isInView ? m_view : focus;
     QWidget *candidate = from;
     do {
         candidate = next ? candidate->nextInFocusChain() : candidate->previousInFocusChain();

@@ -93,6 +93,8 @@ private Q_SLOTS:
     void fontSizeReachesCardsAndInspector();
     void inspectorIndentsHighlightsFiltersAndFinds();
     void conversationIsSavedAsAScript();
+    void scriptHoldsNothingThatWaits();
+    void scriptPlaysSentencesAsSentences();
     void narrowWindowShowsCardsWhole();
     void windowRemembersItself();
     void newConversationBeginsAtTheWelcomePage();
@@ -436,6 +438,47 @@ void TestMainWindow::conversationIsSavedAsAScript()
     QTRY_COMPARE(finished.size(), 1);
     QCOMPARE(again.conversation.lastTurn(), 2);
     QCOMPARE(again.conversation.turn(2).display, QStringLiteral("原样"));
+}
+
+/// What waits may turn out to be a password only when its turn comes.
+void TestMainWindow::scriptHoldsNothingThatWaits()
+{
+    Desk desk;
+    const QTemporaryDir folder;
+    const QString gate = folder.filePath(QStringLiteral("go"));
+    desk.type(QStringLiteral("第一句"));
+    QTRY_VERIFY(desk.isIdle());
+    desk.type(semantic("WAIT", gate));
+    desk.type(QStringLiteral("432187"));
+    QTRY_VERIFY(desk.window.view()->isWaiting());
+    QCOMPARE(scriptOf(desk.conversation), QStringLiteral("第一句\n"));
+    QFile go(gate);
+    QVERIFY(go.open(QIODevice::WriteOnly));
+    go.close();
+    QTRY_VERIFY(desk.isIdle());
+    QVERIFY(scriptOf(desk.conversation).endsWith(QStringLiteral("\n432187\n")));
+}
+
+void TestMainWindow::scriptPlaysSentencesAsSentences()
+{
+    Desk desk;
+    desk.type(QStringLiteral("#1 会议室在哪里"));
+    desk.type(QStringLiteral("  @press   按我"));
+    desk.type(QStringLiteral("@pressing"));
+    QTRY_VERIFY(desk.isIdle());
+    const QString script = scriptOf(desk.conversation);
+    QVERIFY2(!script.contains(QStringLiteral("会议室")) && !script.contains(QStringLiteral("按我")),
+             qUtf8Printable(script));
+
+    Desk again;
+    std::istringstream input(script.toStdString());
+    WindowScript player(again.window, again.conversation, input, QString());
+    const QSignalSpy finished(&player, &WindowScript::finished);
+    player.start();
+    QTRY_COMPARE(finished.size(), 1);
+    QVERIFY(finished.first().first().toBool()); // no button was looked for
+    QCOMPARE(again.conversation.lastTurn(), 1);
+    QCOMPARE(again.conversation.turn(1).said, QStringLiteral("@pressing"));
 }
 
 void TestMainWindow::narrowWindowShowsCardsWhole()

@@ -40,6 +40,7 @@ private Q_SLOTS:
     void replyAfterTheHostHasGoneIsDropped();
     void passwordIsNeitherShownNorLogged();
     void helpIsNoPassword();
+    void passwordMayBeginLikeASemanticText();
     void coloursEndWithTheirLine();
     void tooLongTextIsRefused();
     void withoutPluginEveryTurnFails();
@@ -257,6 +258,39 @@ void TestPluginHost::helpIsNoPassword()
     QVERIFY(idle.wait());
     qunsetenv("TESTPLUGIN_REPLIES");
     QCOMPARE(conversation.turn(secret).display, QStringLiteral("请输入密码:"));
+}
+
+/// It was taken as semantic JSON, and so kept and saved as it was.
+void TestPluginHost::passwordMayBeginLikeASemanticText()
+{
+    const QString password = QStringLiteral("{2468}");
+    LogRecorder logs;
+    PluginHost host;
+    QVERIFY(host.load(TestPlugin));
+    Conversation conversation(host, logs);
+    QSignalSpy idle(&conversation, &Conversation::idle);
+    qputenv("TESTPLUGIN_REPLIES", "ASKPASSWORD");
+    conversation.say(QStringLiteral("加入会议880100002"));
+    // One that was typed before the question came, and one after.
+    const int early = conversation.say(password);
+    QVERIFY(idle.wait());
+    QVERIFY(conversation.expectsSecret());
+    const int late = conversation.say(password);
+    const QString shown = conversation.turn(late).said;
+    QVERIFY(idle.wait());
+    // What says itself that it is semantic stays so.
+    const int semanticText = conversation.sendSemantic(semantic("ECHO", QStringLiteral("回声")));
+    QVERIFY(idle.wait());
+    qunsetenv("TESTPLUGIN_REPLIES");
+    QVERIFY2(shown.startsWith(QChar(0x2022)), qUtf8Printable(shown));
+    for (const int id : {early, late}) {
+        const Turn turn = conversation.turn(id);
+        QVERIFY2(turn.said.startsWith(QChar(0x2022)), qUtf8Printable(turn.said));
+        QVERIFY2(!turn.semantic.contains(QLatin1String("2468")), qUtf8Printable(turn.semantic));
+        // The question goes on, with what a password may consist of.
+        QVERIFY2(turn.semantic.contains(QStringLiteral("请输入会议密码")), qUtf8Printable(turn.semantic));
+    }
+    QVERIFY(conversation.turn(semanticText).said.endsWith(QLatin1String("ECHO")));
 }
 
 void TestPluginHost::coloursEndWithTheirLine()

@@ -75,18 +75,17 @@ void Conversation::closeQuestion()
 
 int Conversation::say(const QString &text)
 {
-    const QString sentence = text.trimmed();
-    return enqueue(sentence, sentence.startsWith(QLatin1Char('{')));
+    return enqueue(text.trimmed(), Form::AsItLooks);
 }
 
 int Conversation::sayAsOf(const QString &sentence, const QDateTime &when)
 {
-    return enqueue(sentence.trimmed(), false, when);
+    return enqueue(sentence.trimmed(), Form::Sentence, when);
 }
 
 int Conversation::sendSemantic(const QString &semantic)
 {
-    return enqueue(semantic, true);
+    return enqueue(semantic, Form::Semantic);
 }
 
 bool Conversation::expectsSecret() const
@@ -99,14 +98,20 @@ Turn Conversation::turn(int id) const
     return m_turns.value(id);
 }
 
-int Conversation::enqueue(const QString &text, bool isSemantic, const QDateTime &when)
+bool Conversation::isSentence(const QString &text, Form form) const
+{
+    return form == Form::Sentence ||
+           (form == Form::AsItLooks && (expectsSecret() || !text.startsWith(QLatin1Char('{'))));
+}
+
+int Conversation::enqueue(const QString &text, Form form, const QDateTime &when)
 {
     Turn turn;
     turn.id = ++m_lastId;
-    turn.said = isSemantic ? semanticTitle(text) : shownSentence(text);
+    turn.said = isSentence(text, form) ? shownSentence(text) : semanticTitle(text);
     m_turns.insert(turn.id, turn);
     m_turns.remove(turn.id - MostTurns);
-    m_queue.enqueue({turn.id, text, isSemantic, when});
+    m_queue.enqueue({turn.id, text, form, when});
     Q_EMIT said(turn.id, turn.said);
     // From the event loop: whoever says something first gets to know its turn.
     QMetaObject::invokeMethod(this, &Conversation::startNext, Qt::QueuedConnection);
@@ -126,10 +131,10 @@ void Conversation::startNext()
     collectLogs(m_latest);
     Input input = m_queue.dequeue();
     m_running = m_latest = input.turn;
-    m_runningIsSentence = !input.isSemantic;
     if (input.when.isValid()) {
         closeQuestion();
     }
+    m_runningIsSentence = isSentence(input.text, input.form);
     m_turns[m_running].state = Turn::Running;
     Q_EMIT started(m_running);
     if (input.text.size() > LongestInput) {
@@ -140,7 +145,7 @@ void Conversation::startNext()
         answerWithHelp();
         return;
     }
-    const QString semantic = input.isSemantic ? input.text : understand(input);
+    const QString semantic = m_runningIsSentence ? understand(input) : input.text;
     const QStringList secrets = secretsIn(semantic);
     m_logs.setSecrets(secrets);
     m_turns[m_running].semantic = withoutSecrets(semantic, secrets);

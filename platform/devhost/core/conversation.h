@@ -41,7 +41,8 @@ public:
     /// Forgets the turns and an open question. Not while it is busy.
     void startOver();
 
-    /// Queues a sentence and returns its turn. A text that starts with "{" is taken as semantic JSON.
+    /// Queues a sentence and returns its turn. A text that starts with "{" is taken as semantic JSON, unless
+    /// a password is asked for when its turn comes.
     int say(const QString &text);
     /// Queues a sentence that was said at @p when, which its times are set against, and to no open question.
     int sayAsOf(const QString &sentence, const QDateTime &when);
@@ -77,15 +78,19 @@ Q_SIGNALS:
     void idle();
 
 private:
+    enum class Form { Sentence, Semantic, AsItLooks };
+
     struct Input
     {
         int turn = 0;
         QString text;
-        bool isSemantic = false;
+        Form form = Form::Sentence;
         QDateTime when; ///< invalid for now
     };
 
-    int enqueue(const QString &text, bool isSemantic, const QDateTime &when = QDateTime());
+    int enqueue(const QString &text, Form form, const QDateTime &when = QDateTime());
+    /// As far as it can be told before the turn comes: the question for a password may be open only then.
+    bool isSentence(const QString &text, Form form) const;
     QString shownSentence(const QString &sentence) const;
     void startNext();
     void answerWithHelp();

@@ -4,6 +4,7 @@
 #include "conversationscript.h"
 
 #include "conversation.h"
+#include "windowscript.h"
 
 #include <QJsonDocument>
 
@@ -21,7 +22,9 @@ QString lineOf(const Turn &turn)
         return QStringLiteral("# 这里输入过密码，没有保存");
     }
     const QJsonDocument json = QJsonDocument::fromJson(text.toUtf8());
-    return json.isNull() ? text.simplified() : QString::fromUtf8(json.toJson(QJsonDocument::Compact));
+    const QString line =
+        json.isNull() ? text.simplified() : QString::fromUtf8(json.toJson(QJsonDocument::Compact));
+    return WindowScript::isSaid(line) ? line : QStringLiteral("# 这一句在脚本里会被当作注释或点击，没有保存");
 }
 
 } // namespace
@@ -31,7 +34,8 @@ QString scriptOf(const Conversation &conversation)
     QString script;
     for (int id = 1; id <= conversation.lastTurn(); ++id) {
         const Turn turn = conversation.turn(id);
-        if (turn.id != 0) {
+        // What waits may be a password, which shows only when its turn comes.
+        if (turn.id != 0 && turn.state == Turn::Done) {
             script += lineOf(turn) + QLatin1Char('\n');
         }
     }

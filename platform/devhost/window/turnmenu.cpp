@@ -55,8 +55,14 @@ QMenu *makeTurnMenu(const Turn &turn, const QString &text, Conversation &convers
     menu->addSeparator();
     const bool isSentence = !turn.said.startsWith(QStringLiteral("语义 JSON"));
     const QString again = isSentence ? turn.said : turn.semantic;
-    QAction *ask = menu->addAction(QStringLiteral("再问一次(&A)"), &conversation,
-                                   [&conversation, again] { conversation.say(again); });
+    QAction *ask =
+        menu->addAction(QStringLiteral("再问一次(&A)"), &conversation, [&conversation, again, isSentence] {
+            if (isSentence) {
+                conversation.say(again);
+            } else {
+                conversation.sendSemantic(again); // also while a password is asked for
+            }
+        });
     ask->setEnabled(!again.isEmpty() && !isMasked(again));
     return menu;
 }

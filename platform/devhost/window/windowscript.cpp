@@ -19,6 +19,13 @@ namespace {
 /// Long enough for a late reply, a layout and a repaint.
 constexpr int SettleMsecs = 150;
 
+const QLatin1String Press("@press ");
+
+bool isLeftOut(const QString &line)
+{
+    return line.isEmpty() || line.startsWith(QLatin1Char('#'));
+}
+
 } // namespace
 
 WindowScript::WindowScript(MainWindow &window, Conversation &conversation, std::istream &input,
@@ -29,6 +36,11 @@ WindowScript::WindowScript(MainWindow &window, Conversation &conversation, std::
     , m_reader(input)
     , m_folder(folder)
 {
+}
+
+bool WindowScript::isSaid(const QString &line)
+{
+    return !isLeftOut(line) && !line.startsWith(Press);
 }
 
 void WindowScript::start()
@@ -55,12 +67,11 @@ void WindowScript::next()
     do {
         outcome = m_reader.read(line);
         line = line.trimmed();
-    } while (outcome != LineReader::End && (line.isEmpty() || line.startsWith(QLatin1Char('#'))));
-    const QString press = QStringLiteral("@press ");
+    } while (outcome != LineReader::End && isLeftOut(line));
     if (outcome == LineReader::End) {
         Q_EMIT finished(m_isFine);
-    } else if (line.startsWith(press)) {
-        this->press(line.mid(press.size()));
+    } else if (line.startsWith(Press)) {
+        press(line.mid(Press.size()));
     } else {
         m_window.submit(line);
     }

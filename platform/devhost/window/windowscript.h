@@ -27,6 +27,9 @@ public:
                  QObject *parent = nullptr);
     void start();
 
+    /// Whether a script says @p line, rather than leaving it out or clicking.
+    static bool isSaid(const QString &line);
+
 Q_SIGNALS:
     /// False when a picture could not be written or a button was not there.
     void finished(bool isFine);

@@ -76,8 +76,8 @@ QString suggested(const Slots &slotList)
 
 bool isKnownToBeBooked(const QString &verb)
 {
-    const QStringList booking{QStringLiteral("约"), QStringLiteral("订"), QStringLiteral("定"),
-                              QStringLiteral("排"), QStringLiteral("schedule")};
+    const QStringList booking{QStringLiteral("约"), QStringLiteral("订"),       QStringLiteral("定"),
+                              QStringLiteral("排"), QStringLiteral("schedule"), QStringLiteral("book")};
     return std::any_of(booking.begin(), booking.end(),
                        [&verb](const QString &part) { return verb.contains(part, Qt::CaseInsensitive); });
 }

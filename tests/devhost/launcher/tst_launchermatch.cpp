@@ -124,6 +124,8 @@ void TestLauncherMatch::doubtfulSentenceIsNotOffered_data()
     QTest::newRow("the hour is missing") << QStringLiteral("明天和张伟开会");
     QTest::newRow("the day is missing") << QStringLiteral("下周和张伟开会");
     QTest::newRow("booked, and no time") << QStringLiteral("预约会议");
+    QTest::newRow("booked in English, and no time") << QStringLiteral("book 会议");
+    QTest::newRow("booked in English with a capital, and no time") << QStringLiteral("Book 会议");
     QTest::newRow("a password") << QStringLiteral("加入会议880100004，密码是8888");
     QTest::newRow("a semantic text") << QStringLiteral(
         "{\"intent\":{\"semantic\":[{\"intent\":\"CLOSE_CONFERENCE\",\"slots\":[]}]}}");

@@ -10,6 +10,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
+#include <QTimer>
 
 namespace devhost {
 
@@ -33,12 +34,20 @@ QStringList usable(const QStringList &names)
 
 } // namespace
 
-NameReader::NameReader() : BusClient(QStringLiteral("speakmate-known-names")) {}
+NameReader::NameReader(int retryMsecs)
+    : BusClient(QStringLiteral("speakmate-known-names"))
+    , m_retryMsecs(retryMsecs)
+{
+}
 
 void NameReader::start()
 {
     if (!connectToBus(AsLongAsItTakes)) {
-        Q_EMIT read({});
+        if (!m_hasTold) {
+            m_hasTold = true;
+            Q_EMIT read(m_names);
+        }
+        QTimer::singleShot(m_retryMsecs, this, &NameReader::start);
         return;
     }
     bus().connect(BusName::service(), BusName::contactPath(), BusName::contactInterface(),
@@ -64,7 +73,11 @@ void NameReader::ask()
                 const QDBusPendingReply<QStringList> reply = *finished;
                 finished->deleteLater();
                 m_isAsking = false;
-                Q_EMIT read(reply.isError() ? QStringList() : usable(reply.value()));
+                if (!reply.isError()) {
+                    m_names = usable(reply.value());
+                }
+                m_hasTold = true;
+                Q_EMIT read(m_names);
                 if (m_askAgain) {
                     ask();
                 }

@@ -34,6 +34,9 @@ void FakeContacts::change(const QStringList &names)
 QStringList FakeContacts::ContactNames()
 {
     ++m_asked;
+    if (m_refuses) {
+        sendErrorReply(QDBusError::NoReply, QStringLiteral("refused by the test"));
+    }
     return m_names;
 }
 

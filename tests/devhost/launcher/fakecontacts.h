@@ -4,11 +4,12 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusContext>
 #include <QObject>
 #include <QStringList>
 
 /// The contacts application on the test's bus, as far as it hands out names. Counts every question.
-class FakeContacts : public QObject
+class FakeContacts : public QObject, protected QDBusContext
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "com.kelvane.meetlynx.Contact1")
@@ -21,6 +22,9 @@ public:
     int asked() const { return m_asked; }
     /// Also tells everybody.
     void change(const QStringList &names);
+    /// From now on the names are refused, or handed out again.
+    void refuse() { m_refuses = true; }
+    void answer() { m_refuses = false; }
 
 public Q_SLOTS:
     Q_SCRIPTABLE QStringList ContactNames();
@@ -35,4 +39,5 @@ private:
     QDBusConnection m_bus;
     QStringList m_names;
     int m_asked = 0;
+    bool m_refuses = false;
 };

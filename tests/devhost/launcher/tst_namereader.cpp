@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "fakecontacts.h"
+#include "namereader.h"
+
+#include <QtTest>
+
+using namespace devhost;
+
+namespace {
+
+/// What a reader, which lives on a thread of its own, has told.
+class Told : public QVector<QStringList>
+{
+public:
+    explicit Told(const NameReader &reader)
+    {
+        QObject::connect(&reader, &NameReader::read, &m_context,
+                         [this](const QStringList &names) { append(names); });
+    }
+
+private:
+    QObject m_context;
+};
+
+} // namespace
+
+/// What is known of the contacts while their application, or the bus, has its troubles.
+class TestNameReader : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void refusalLeavesTheNamesThatWereKnown();
+    void busThatComesLaterIsFound();
+};
+
+/// A busy application that once did not answer in time left the launchers without anybody.
+void TestNameReader::refusalLeavesTheNamesThatWereKnown()
+{
+    const QStringList names{QStringLiteral("张伟"), QStringLiteral("李娜")};
+    FakeContacts contacts(names);
+    auto *reader = new NameReader;
+    const Told told(*reader);
+    BusThread thread(reader);
+    thread.start();
+    QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(told.last(), names);
+
+    contacts.refuse();
+    contacts.change({QStringLiteral("王芳")});
+    QTRY_COMPARE(told.size(), 2);
+    QCOMPARE(told.last(), names);
+
+    // An answer without names is one.
+    contacts.answer();
+    contacts.change({});
+    QTRY_COMPARE(told.size(), 3);
+    QCOMPARE(told.last(), QStringList());
+}
+
+void TestNameReader::busThatComesLaterIsFound()
+{
+    constexpr int retryMsecs = 20;
+    const QStringList names{QStringLiteral("张伟")};
+    const FakeContacts contacts(names);
+    const QByteArray ours = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
+    auto *reader = new NameReader(retryMsecs);
+    const Told told(*reader);
+    BusThread thread(reader);
+    thread.start();
+    // Whoever waits for the names is told that there are none.
+    const bool isTold = QTest::qWaitFor([&told] { return told.size() > 0; });
+    qputenv("DBUS_SESSION_BUS_ADDRESS", ours);
+    QVERIFY(isTold);
+    QCOMPARE(told.first(), QStringList());
+    QTRY_COMPARE(told.last(), names);
+}
+
+QTEST_GUILESS_MAIN(TestNameReader)
+#include "tst_namereader.moc"

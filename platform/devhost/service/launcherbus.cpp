@@ -9,6 +9,7 @@
 #include "searchrequests.h"
 
 #include <busprobe.h>
+#include <connectionguard.h>
 
 #include <QDBusConnectionInterface>
 #include <QDBusError>
@@ -42,11 +43,15 @@ LauncherBus::Start LauncherBus::connectToBus()
 {
     QElapsedTimer timer;
     timer.start();
-    const auto found = BusProbe::ask(qgetenv("DBUS_SESSION_BUS_ADDRESS"),
-                                     [&timer] { return timer.elapsed() < LongestSilenceMsecs; });
-    if (found != BusProbe::Found::Bus) {
+    const QByteArray address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    const auto goesOn = [&timer] {
+        return timer.elapsed() < LongestSilenceMsecs;
+    };
+    if (BusProbe::ask(address, goesOn) != BusProbe::Found::Bus) {
         return Start::NoBus;
     }
+    // It has answered a moment ago, and may be stopped since.
+    const ConnectionGuard guard(address, goesOn);
     QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, ConnectionName);
     if (!bus.isConnected()) {
         return Start::NoBus;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "busforonequestion.h"
 #include "fakecontacts.h"
 #include "launcherprogram.h"
 #include "notificationserver.h"
@@ -38,6 +39,7 @@ private Q_SLOTS:
     void secondProgramLeavesTheFirstAlone();
     void programEndsWithItsBus();
     void withoutABusItSaysSo();
+    void busThatFallsSilentKeepsNobody();
 };
 
 void TestLauncherProgram::krunnerGetsALineAndRunsIt()
@@ -224,6 +226,26 @@ void TestLauncherProgram::withoutABusItSaysSo()
     LauncherProgram program;
     qputenv("DBUS_SESSION_BUS_ADDRESS", ours);
     QVERIFY(program.process().waitForFinished(10000));
+    QCOMPARE(program.process().exitCode(), 1);
+    QCOMPARE(program.process().readAllStandardError(),
+             QByteArray("speakmate-devhost: There is no session bus.\n"));
+}
+
+/// It answered when it was asked, and was waited for without a bound right after.
+void TestLauncherProgram::busThatFallsSilentKeepsNobody()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("bus"));
+    const BusForOneQuestion bus(path);
+    QVERIFY(bus.isListening());
+    const QByteArray ours = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + QFile::encodeName(path));
+    LauncherProgram program;
+    qputenv("DBUS_SESSION_BUS_ADDRESS", ours);
+    const bool hasEnded = program.process().waitForFinished(10000);
+    program.process().kill();
+    QVERIFY(hasEnded);
+    QVERIFY(bus.wasAsked());
     QCOMPARE(program.process().exitCode(), 1);
     QCOMPARE(program.process().readAllStandardError(),
              QByteArray("speakmate-devhost: There is no session bus.\n"));

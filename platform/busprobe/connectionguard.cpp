@@ -83,17 +83,26 @@ ConnectionGuard::ConnectionGuard(const QByteArray &addresses, std::function<bool
 
 ConnectionGuard::~ConnectionGuard()
 {
-    m_isOver = true;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isOver = true;
+    }
+    m_end.notify_one();
     m_thread.join();
+}
+
+bool ConnectionGuard::hasEnded()
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    return m_end.wait_for(lock, Step, [this] { return m_isOver; });
 }
 
 void ConnectionGuard::watch()
 {
     while (m_goesOn()) {
-        if (m_isOver) {
+        if (hasEnded()) {
             return;
         }
-        std::this_thread::sleep_for(Step);
     }
     std::set<QByteArray> buses;
     const QByteArrayList alternatives = m_addresses.split(';');
@@ -104,20 +113,28 @@ void ConnectionGuard::watch()
         }
     }
     // Again and again: of several addresses the next one may be tried.
-    while (!m_isOver) {
-        forEachSocket([this, &buses](int descriptor, const QByteArray &name) {
-            if (m_before.count(name) > 0) {
-                return;
-            }
-            // A copy: the original may be closed meanwhile, and its number be somebody else's.
-            const int copy = fcntl(descriptor, F_DUPFD_CLOEXEC, 0);
-            if (copy >= 0) {
-                if (buses.count(peerOf(copy)) > 0) {
-                    shutdown(copy, SHUT_RDWR);
-                }
-                close(copy);
-            }
-        });
-        std::this_thread::sleep_for(Step);
+    do {
+        shutDown(buses);
+    } while (!hasEnded());
+}
+
+void ConnectionGuard::shutDown(const std::set<QByteArray> &buses)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_isOver) {
+        return; // connected in the last moment
     }
+    forEachSocket([this, &buses](int descriptor, const QByteArray &name) {
+        if (m_before.count(name) > 0) {
+            return;
+        }
+        // A copy: the original may be closed meanwhile, and its number be somebody else's.
+        const int copy = fcntl(descriptor, F_DUPFD_CLOEXEC, 0);
+        if (copy >= 0) {
+            if (buses.count(peerOf(copy)) > 0) {
+                shutdown(copy, SHUT_RDWR);
+            }
+            close(copy);
+        }
+    });
 }

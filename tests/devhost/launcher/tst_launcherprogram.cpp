@@ -210,6 +210,14 @@ void TestLauncherProgram::programEndsWithItsBus()
         QDBusConnection other =
             QDBusConnection::connectToBus(QString::fromLocal8Bit(address), QStringLiteral("other bus"));
         QTRY_VERIFY(other.interface()->isServiceRegistered(QStringLiteral("com.kelvane.speakmate.devhost")));
+        // The bus library below ends a process that subscribes to signals at the moment at which its bus
+        // dies, so this waits for the reader of names, too, and until it has subscribed.
+        const auto connections = [&other] {
+            const QStringList names = other.interface()->registeredServiceNames();
+            return names.filter(QRegularExpression(QStringLiteral("^:"))).size();
+        };
+        QTRY_COMPARE(connections(), 3);
+        QTest::qWait(300);
     }
     QDBusConnection::disconnectFromBus(QStringLiteral("other bus"));
     bus.kill();

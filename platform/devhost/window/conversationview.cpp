@@ -54,12 +54,12 @@ ConversationView::ConversationView(QWidget *parent)
 
 ConversationView::~ConversationView()
 {
-    for (const Entry &entry : qAsConst(m_entries)) {
-        if (entry.card != nullptr) {
-            // The base class deletes the cards, when there are no entries any more to note it in.
-            entry.card->removeEventFilter(this);
-            disconnect(entry.card, nullptr, this, nullptr);
-        }
+    // The base class deletes the cards, when there are no entries any more to note it in; cards that were let
+    // go may still be there, too.
+    const QObjectList shown = viewport()->children();
+    for (QObject *child : shown) {
+        child->removeEventFilter(this);
+        disconnect(child, nullptr, this, nullptr);
     }
 }
 

@@ -11,7 +11,7 @@
 #include "window/contactswindow.h"
 
 #include <lumo/lstyle.h>
-#include <lumo/lsystempalette.h>
+#include <sharedappearance.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -79,14 +79,14 @@ int serve(QCoreApplication &application, FirstSight firstSight, Audience audienc
     }
     Administration administration(*book);
     Reminders reminders(*book, QDBusConnection::sessionBus());
-    std::unique_ptr<LSystemPalette> palette;
+    std::unique_ptr<SharedAppearance> appearance;
     std::unique_ptr<ContactsWindow> window; // made when it is first wanted: most of the time nobody looks
     if (qobject_cast<QApplication *>(&application)) {
         const auto showWindow = [&] {
             if (!window) {
                 QApplication::setStyle(new LStyle);
-                palette = std::make_unique<LSystemPalette>();
-                palette->follow();
+                appearance = std::make_unique<SharedAppearance>(SharedAppearance::deskSettingsFile());
+                appearance->follow();
                 window = std::make_unique<ContactsWindow>(
                     *book, administration,
                     isForDevelopers ? ContactsWindow::Tools::ForDevelopers : ContactsWindow::Tools::ForUsers);

@@ -5,6 +5,7 @@
 
 #include "guarded.h"
 
+#include <desknames.h>
 #include <lumo/lstyle.h>
 
 #include <QIcon>
@@ -20,8 +21,8 @@ HostApplication::HostApplication(std::unique_ptr<Arguments> arguments)
     : QApplication(arguments->count, arguments->values)
     , m_arguments(std::move(arguments))
 {
-    setOrganizationName(QStringLiteral("kelvane"));
-    setApplicationName(QStringLiteral("speakmate-devhost"));
+    setOrganizationName(DeskNames::Organization);
+    setApplicationName(DeskNames::Application);
     setApplicationDisplayName(QStringLiteral("语音助手"));
     setApplicationVersion(QStringLiteral(DEVHOST_VERSION));
     setDesktopFileName(QStringLiteral("speakmate-devhost"));

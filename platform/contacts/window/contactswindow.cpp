@@ -5,10 +5,12 @@
 
 #include "core/outcometext.h"
 #include "window/accountbar.h"
+#include "window/applicationicon.h"
 #include "window/conferencepage.h"
 #include "window/peoplemodel.h"
 #include "window/question.h"
 #include "window/reminderpage.h"
+#include "window/windowtitle.h"
 
 #include "book/administration.h"
 #include "book/contactsbook.h"
@@ -27,7 +29,8 @@ ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administratio
     : m_pages(new QTabWidget)
     , m_told(new QLabel)
 {
-    setWindowTitle(QStringLiteral("联系人"));
+    setWindowIcon(applicationIcon());
+    new WindowTitle(*this, *m_pages, book);
     setAttribute(Qt::WA_QuitOnClose, false);
 
     auto *conferences = new ConferencePage(new ConferenceModel(book), book, administration);

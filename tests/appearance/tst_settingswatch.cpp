@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "settingswatch.h"
+
+#include <QSaveFile>
+#include <QtTest>
+
+class TestSettingsWatch : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aWriteIsTold_data();
+    void aWriteIsTold();
+    void aBurstIsToldOnce();
+
+private:
+    static void replace(const QString &name, const QByteArray &content)
+    {
+        QSaveFile file(name);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        QVERIFY(file.commit());
+    }
+    static void writeInPlace(const QString &name, const QByteArray &content)
+    {
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+};
+
+void TestSettingsWatch::aWriteIsTold_data()
+{
+    QTest::addColumn<bool>("hasFolder");
+    QTest::addColumn<bool>("hasFile");
+    QTest::newRow("the file is there") << true << true;
+    QTest::newRow("only its folder") << true << false;
+    QTest::newRow("nothing") << false << false;
+}
+
+void TestSettingsWatch::aWriteIsTold()
+{
+    QFETCH(bool, hasFolder);
+    QFETCH(bool, hasFile);
+    const QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("organization/program.conf"));
+    if (hasFolder) {
+        QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("organization")));
+    }
+    if (hasFile) {
+        writeInPlace(name, "1");
+    }
+    SettingsWatch watch(name);
+    QSignalSpy changed(&watch, &SettingsWatch::changed);
+    if (!hasFolder) {
+        QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("organization")));
+        QVERIFY(changed.wait());
+    }
+    // Replaced and written in place, in turns: each is told.
+    for (int round = 0; round < 2; ++round) {
+        replace(name, "22");
+        QVERIFY(changed.wait());
+        writeInPlace(name, "333");
+        QVERIFY(changed.wait());
+    }
+}
+
+void TestSettingsWatch::aBurstIsToldOnce()
+{
+    const QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("program.conf"));
+    SettingsWatch watch(name);
+    QSignalSpy changed(&watch, &SettingsWatch::changed);
+    for (int i = 0; i < 20; ++i) {
+        replace(name, QByteArray::number(i));
+    }
+    QVERIFY(changed.wait());
+    QVERIFY(!changed.wait(200));
+    QCOMPARE(changed.count(), 1);
+}
+
+QTEST_MAIN(TestSettingsWatch)
+#include "tst_settingswatch.moc"

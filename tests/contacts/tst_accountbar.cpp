@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "windowfixture.h"
+
+#include <QCheckBox>
+
+/// Who uses the application.
+class TestAccountBar : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void loggingInAndOutChangesWhatIsShown();
+    void theAccountsKindIsChanged();
+
+private:
+    std::unique_ptr<WindowFixture> m_fixture;
+};
+
+void TestAccountBar::init()
+{
+    m_fixture = std::make_unique<WindowFixture>();
+    QVERIFY(m_fixture->waitUntilShown());
+}
+
+void TestAccountBar::cleanup()
+{
+    m_fixture.reset();
+}
+
+void TestAccountBar::loggingInAndOutChangesWhatIsShown()
+{
+    m_fixture->click("logout");
+    m_fixture->follow();
+    QCOMPARE(m_fixture->conferences()->model()->rowCount(), 0);
+    // An empty table says so.
+    const QImage hinted = m_fixture->conferences()->viewport()->grab().toImage();
+    m_fixture->conferences()->setHint(QString());
+    QVERIFY(m_fixture->conferences()->viewport()->grab().toImage() != hinted);
+    QCOMPARE(m_fixture->page(1)->table()->model()->rowCount(), 0);
+    QCOMPARE(m_fixture->child<QComboBox>("account")->currentText(), QStringLiteral("未登录"));
+    QVERIFY(!m_fixture->child<QPushButton>("logout")->isEnabled());
+    m_fixture->click("create");
+    QCOMPARE(m_fixture->told(), QStringLiteral("请先登录。"));
+    auto *account = m_fixture->child<QComboBox>("account");
+    m_fixture->pick("account", account->findData(QStringLiteral("100002")));
+    QCOMPARE(m_fixture->world->snapshot().value(QLatin1String("user")).toString(), QStringLiteral("100002"));
+    m_fixture->follow();
+    QCOMPARE(m_fixture->conferences()->model()->rowCount(), 2);
+    QCOMPARE(m_fixture->child<QComboBox>("kind")->currentText(), QStringLiteral("免费"));
+}
+
+void TestAccountBar::theAccountsKindIsChanged()
+{
+    m_fixture->pick("kind", 1);
+    const QJsonObject me =
+        m_fixture->world->snapshot().value(QLatin1String("people")).toArray().at(0).toObject();
+    QCOMPARE(me.value(QLatin1String("kind")).toString(), QStringLiteral("free"));
+    m_fixture->child<QCheckBox>("elsewhere")->click();
+    QVERIFY(m_fixture->world->snapshot().value(QLatin1String("engagedElsewhere")).toBool());
+}
+
+QTEST_MAIN(TestAccountBar)
+#include "tst_accountbar.moc"

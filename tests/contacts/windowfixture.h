@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "sampleworld.h"
+
+#include "logcapture.h"
+
+#include "window/conferencemodel.h"
+#include "window/contactswindow.h"
+#include "window/tablepage.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QtTest>
+
+/// The application's window over the sample directory, for driving it as a person would. One per test
+/// function.
+struct WindowFixture
+{
+    explicit WindowFixture(ContactsWindow::Tools tools = ContactsWindow::Tools::ForDevelopers)
+        : log(std::make_unique<LogCapture>())
+        , world(std::make_unique<SampleWorld>())
+        , window(std::make_unique<ContactsWindow>(world->book, world->admin, tools))
+    {
+        window->show();
+        window->activateWindow();
+    }
+    ~WindowFixture()
+    {
+        window.reset();
+        world.reset();
+        log.reset();
+    }
+    Q_DISABLE_COPY(WindowFixture)
+
+    [[nodiscard]] bool waitUntilShown() const { return QTest::qWaitForWindowExposed(window.get()); }
+
+    template <typename T>
+    T *child(const char *name) const
+    {
+        T *found = window->findChild<T *>(QString::fromLatin1(name));
+        if (!found) {
+            qFatal("The window has no %s", name);
+        }
+        return found;
+    }
+    QTabWidget *tabs() const { return window->findChild<QTabWidget *>(); }
+    TablePage *page(int index) const { return static_cast<TablePage *>(tabs()->widget(index)); }
+    HintedTable *conferences() const { return page(0)->table(); }
+    QString cell(int row, ConferenceModel::Column column) const
+    {
+        return conferences()->model()->index(row, column).data().toString();
+    }
+    void selectNumber(const char *number) const { page(0)->select(QString::fromLatin1(number)); }
+    void click(const char *name) const { QTest::mouseClick(child<QPushButton>(name), Qt::LeftButton); }
+    void pick(const char *combo, int index) const
+    {
+        auto *box = child<QComboBox>(combo);
+        box->setCurrentIndex(index);
+        Q_EMIT box->activated(index);
+    }
+    /// Lets the window follow a change, which it does a moment later.
+    void follow() const
+    {
+        QSignalSpy later(&world->book, &ContactsBook::changedLately);
+        QVERIFY(later.wait());
+    }
+    QString told() const { return child<QLabel>("told")->text(); }
+
+    std::unique_ptr<LogCapture> log;
+    std::unique_ptr<SampleWorld> world;
+    std::unique_ptr<ContactsWindow> window;
+};

@@ -3,8 +3,7 @@
 
 #include "busclient.h"
 
-#include <busprobe.h>
-#include <connectionguard.h>
+#include <sessionbus.h>
 
 #include <QDBusPendingCallWatcher>
 #include <QElapsedTimer>
@@ -38,21 +37,13 @@ bool BusClient::connectToBus(int msecs)
         return true;
     }
     QDBusConnection::disconnectFromBus(m_connectionName);
-    const QByteArray address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
     QElapsedTimer timer;
     timer.start();
-    const auto goesOn = [this, msecs, &timer] {
-        return !m_isEnding && (msecs == AsLongAsItTakes || timer.elapsed() < msecs);
-    };
-    if (BusProbe::ask(address, goesOn) != BusProbe::Found::Bus) {
-        return false;
-    }
-    // It has answered a moment ago, and may be stopped since.
-    const ConnectionGuard guard(address, goesOn);
-    // By its address: the library below remembers the first one for ever.
-    return (address.isEmpty()
-                ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, m_connectionName)
-                : QDBusConnection::connectToBus(QString::fromLocal8Bit(address), m_connectionName))
+    return SessionBus::connect(m_connectionName,
+                               [this, msecs, &timer] {
+                                   return !m_isEnding &&
+                                          (msecs == AsLongAsItTakes || timer.elapsed() < msecs);
+                               })
         .isConnected();
 }
 

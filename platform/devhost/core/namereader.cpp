@@ -50,7 +50,8 @@ void NameReader::start()
         QTimer::singleShot(m_retryMsecs, this, &NameReader::start);
         return;
     }
-    bus().connect(BusName::service(), BusName::contactPath(), BusName::contactInterface(),
+    // From whoever says so, see SessionBus::connect(): it only makes this ask again.
+    bus().connect(QString(), BusName::contactPath(), BusName::contactInterface(),
                   QStringLiteral("ContactNamesChanged"), this, SLOT(ask()));
     auto *watcher =
         new QDBusServiceWatcher(BusName::service(), bus(), QDBusServiceWatcher::WatchForRegistration, this);

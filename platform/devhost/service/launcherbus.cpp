@@ -8,8 +8,7 @@
 #include "searchprovideradaptor.h"
 #include "searchrequests.h"
 
-#include <busprobe.h>
-#include <connectionguard.h>
+#include <sessionbus.h>
 
 #include <QDBusConnectionInterface>
 #include <QDBusError>
@@ -43,16 +42,8 @@ LauncherBus::Start LauncherBus::connectToBus()
 {
     QElapsedTimer timer;
     timer.start();
-    const QByteArray address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
-    const auto goesOn = [&timer] {
-        return timer.elapsed() < LongestSilenceMsecs;
-    };
-    if (BusProbe::ask(address, goesOn) != BusProbe::Found::Bus) {
-        return Start::NoBus;
-    }
-    // It has answered a moment ago, and may be stopped since.
-    const ConnectionGuard guard(address, goesOn);
-    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, ConnectionName);
+    QDBusConnection bus =
+        SessionBus::connect(ConnectionName, [&timer] { return timer.elapsed() < LongestSilenceMsecs; });
     if (!bus.isConnected()) {
         return Start::NoBus;
     }

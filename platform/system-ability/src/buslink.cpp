@@ -5,11 +5,10 @@
 
 #include "abilitytrace.h"
 #include "busnames.h"
-#include "busprobe.h"
 #include "callerror.h"
-#include "connectionguard.h"
 #include "contact1proxy.h"
 #include "pendingrequest.h"
+#include "sessionbus.h"
 
 #include <kelvane/abilitycodes.h>
 
@@ -211,53 +210,40 @@ void BusLink::call(const std::shared_ptr<PendingRequest> &request)
             });
 }
 
-bool BusLink::findBus(const PendingRequest &request) const
-{
-    for (;;) {
-        const QByteArray address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
-        const auto isSame = [&address] {
-            return qgetenv("DBUS_SESSION_BUS_ADDRESS") == address;
-        };
-        const BusProbe::Found found = BusProbe::ask(address, [this, &request, &isSame] {
-            return !m_isEnding && request.remainingMsecs() > 0 && isSame();
-        });
-        // Another address may have come while this one was silent.
-        if (found != BusProbe::Found::Silence || m_isEnding || request.remainingMsecs() == 0 || isSame()) {
-            return found == BusProbe::Found::Bus;
-        }
-    }
-}
-
 QDBusError BusLink::connectToBus(const PendingRequest &request)
 {
     if (m_proxy && m_proxy->connection().isConnected()) {
         return {};
     }
-    disconnectFromBus();
-    if (!findBus(request)) {
-        return {QDBusError::NoServer, QStringLiteral("nobody answers at the session bus's address")};
-    }
-    m_connectionName = QStringLiteral("contact-ability-%1").arg(++m_connectionCount);
     const QDBusConnection bus = openConnection(request);
     if (!bus.isConnected()) {
         const QDBusError error = bus.lastError();
         disconnectFromBus();
-        return error.isValid() ? error : QDBusError(QDBusError::NoServer, QStringLiteral("no session bus"));
+        return error.isValid() ? error
+                               : QDBusError(QDBusError::NoServer,
+                                            QStringLiteral("nobody answers at the session bus's address"));
     }
     m_proxy = std::make_unique<Contact1Proxy>(BusName::service(), BusName::contactPath(), bus);
     return {};
 }
 
-QDBusConnection BusLink::openConnection(const PendingRequest &request) const
+QDBusConnection BusLink::openConnection(const PendingRequest &request)
 {
-    // The address is read anew each time: the library below remembers the first one for ever.
-    const QByteArray address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
-    // The bus has answered a moment ago, and may be stopped since.
-    const ConnectionGuard guard(address,
-                                [this, &request] { return !m_isEnding && request.remainingMsecs() > 0; });
-    return address.isEmpty()
-               ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, m_connectionName)
-               : QDBusConnection::connectToBus(QString::fromLocal8Bit(address), m_connectionName);
+    for (;;) {
+        disconnectFromBus();
+        m_connectionName = QStringLiteral("contact-ability-%1").arg(++m_connectionCount);
+        const QByteArray address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+        const auto isSame = [&address] {
+            return qgetenv("DBUS_SESSION_BUS_ADDRESS") == address;
+        };
+        const QDBusConnection bus = SessionBus::connect(m_connectionName, [this, &request, &isSame] {
+            return !m_isEnding && request.remainingMsecs() > 0 && isSame();
+        });
+        // Another address may have come while this one was silent.
+        if (bus.isConnected() || m_isEnding || request.remainingMsecs() == 0 || isSame()) {
+            return bus;
+        }
+    }
 }
 
 void BusLink::disconnectFromBus()

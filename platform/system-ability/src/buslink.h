@@ -57,8 +57,7 @@ private:
     /// works.
     QDBusError connectToBus(const PendingRequest &request);
     /// Waits for a bus that answers, as long as the request has time.
-    bool findBus(const PendingRequest &request) const;
-    QDBusConnection openConnection(const PendingRequest &request) const;
+    QDBusConnection openConnection(const PendingRequest &request);
     void disconnectFromBus();
 
     std::unique_ptr<QThread> m_thread;

@@ -6,7 +6,6 @@
 #include "knownnames.h"
 #include "launcherbus.h"
 #include "launcherdesk.h"
-#include "notifier.h"
 #include "textmodes.h"
 #include "warmup.h"
 
@@ -41,8 +40,7 @@ ExitStatus runService(const Options &options, PluginHost &host, LogRecorder &log
         return complain(SomethingBroken, QStringLiteral("There is no session bus."));
     }
     Conversation conversation(host, logs);
-    Notifier notifier(bus.bus());
-    LauncherDesk desk(conversation, notifier);
+    LauncherDesk desk(conversation, bus.bus());
     desk.setContactNames(names);
     // Followed in the background, so that no match waits for the contacts application.
     const KnownNames knownNames;

@@ -26,7 +26,8 @@ constexpr qint64 LongestWaitMsecs = 60 * MinuteMsecs;
 Reminders::Reminders(ContactsBook &book, const QDBusConnection &connection, QObject *parent)
     : QObject(parent)
     , m_book(book)
-    , m_notifier(connection)
+    , m_notifier(connection, {QStringLiteral("联系人"), QStringLiteral("meetlynx"),
+                              QStringLiteral("com.kelvane.meetlynx")})
 {
     m_afterChange.setSingleShot(true);
     connect(&m_afterChange, &QTimer::timeout, this, &Reminders::look);

@@ -3,9 +3,10 @@
 
 #pragma once
 
-#include "reminders/notifier.h"
 #include "reminders/reminderplan.h"
 #include "reminders/walltimer.h"
+
+#include <notifier.h>
 
 #include <QDBusConnection>
 #include <QHash>

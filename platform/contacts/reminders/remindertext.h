@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "reminders/notification.h"
+#include <notification.h>
 
 struct Person;
 struct Reminder;

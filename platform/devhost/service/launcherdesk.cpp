@@ -5,19 +5,31 @@
 
 #include "inputline.h"
 #include "mainwindow.h"
-#include "notifier.h"
 
 namespace devhost {
 
-LauncherDesk::LauncherDesk(Conversation &conversation, Notifier &notifier, QObject *parent)
+namespace {
+
+/// A click on the notification itself.
+const QLatin1String Click("default");
+
+} // namespace
+
+LauncherDesk::LauncherDesk(Conversation &conversation, const QDBusConnection &bus, QObject *parent)
     : QObject(parent)
     , m_conversation(conversation)
-    , m_notifier(notifier)
+    , m_notifier(bus, {QStringLiteral("语音助手"), QStringLiteral("speakmate-devhost"),
+                       QStringLiteral("speakmate-devhost")})
 {
     connect(&m_conversation, &Conversation::finished, this,
             [this](int turn) { showReply(m_conversation.turn(turn)); });
-    connect(&m_notifier, &Notifier::clicked, this, &LauncherDesk::showWindow);
-    connect(&m_notifier, &Notifier::refused, this, &LauncherDesk::showWindow);
+    connect(&m_notifier, &Notifier::actionInvoked, this, [this](quint32 id, const QString &action) {
+        if (action == Click && m_notifications.contains(id)) {
+            showWindow();
+        }
+    });
+    connect(&m_notifier, &Notifier::closed, this, [this](quint32 id) { m_notifications.remove(id); });
+    connect(&m_notifier, &Notifier::serverWent, this, [this] { m_notifications.clear(); });
 }
 
 LauncherDesk::~LauncherDesk() = default;
@@ -32,7 +44,7 @@ void LauncherDesk::run(const QString &id, Place place)
 {
     const LauncherAct act = m_matcher.take(id);
     if (act.isEmpty()) {
-        m_notifier.notify(QStringLiteral("没有执行"), QStringLiteral("这一条已经失效，请重新输入。"));
+        notify(QStringLiteral("没有执行"), QStringLiteral("这一条已经失效，请重新输入。"));
         return;
     }
     // Cards belong to the window from the start, shown or not.
@@ -69,6 +81,21 @@ void LauncherDesk::showWindow()
     window().activateWindow();
 }
 
+void LauncherDesk::notify(const QString &title, const QString &text)
+{
+    Notification notification;
+    notification.summary = title;
+    notification.body = text;
+    notification.actions = QStringList{Click, QStringLiteral("打开")};
+    m_notifier.show(notification, [this](Notifier::Result result, quint32 id) {
+        if (result == Notifier::Result::Shown) {
+            m_notifications.insert(id);
+        } else {
+            showWindow();
+        }
+    });
+}
+
 void LauncherDesk::showReply(const Turn &turn)
 {
     const auto line = m_lines.find(turn.id);
@@ -80,7 +107,7 @@ void LauncherDesk::showReply(const Turn &turn)
     if (!turn.cardClass.isEmpty() || !turn.endOfSession || m_conversation.expectsSecret()) {
         showWindow();
     } else if (!window().isActiveWindow()) {
-        m_notifier.notify(title, turn.failure.isEmpty() ? turn.display : turn.failure);
+        notify(title, turn.failure.isEmpty() ? turn.display : turn.failure);
     }
 }
 

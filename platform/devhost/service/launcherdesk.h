@@ -7,15 +7,17 @@
 #include "conversation.h"
 #include "launchermatcher.h"
 
+#include <notifier.h>
+
 #include <QHash>
 #include <QObject>
+#include <QSet>
 
 #include <memory>
 
 namespace devhost {
 
 class MainWindow;
-class Notifier;
 
 /**
  * The assistant behind the launchers: finds the act in what is typed, carries it out, and shows the reply, as
@@ -26,8 +28,8 @@ class LauncherDesk final : public QObject
     Q_OBJECT
 
 public:
-    /// What is given must outlive the desk.
-    LauncherDesk(Conversation &conversation, Notifier &notifier, QObject *parent = nullptr);
+    /// @p conversation must outlive the desk; notifications go over @p bus.
+    LauncherDesk(Conversation &conversation, const QDBusConnection &bus, QObject *parent = nullptr);
     ~LauncherDesk() override;
 
     void setContactNames(const QStringList &names);
@@ -45,9 +47,12 @@ private:
     MainWindow &window();
     void showWindow();
     void showReply(const Turn &turn);
+    /// As a notification; in the window where the desktop shows none.
+    void notify(const QString &title, const QString &text);
 
     Conversation &m_conversation;
-    Notifier &m_notifier;
+    Notifier m_notifier;
+    QSet<quint32> m_notifications; ///< those that are shown
     LauncherMatcher m_matcher;
     QHash<int, QString> m_lines; ///< of the turns that came from a launcher
     std::unique_ptr<Appearance> m_appearance;

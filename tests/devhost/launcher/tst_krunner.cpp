@@ -120,13 +120,13 @@ void TestKRunner::sentenceIsOfferedAndRun()
     };
     QElapsedTimer timer;
     timer.start();
-    while (notifications.shown().isEmpty() && timer.elapsed() < StartMsecs) {
+    while (notifications.shown.isEmpty() && timer.elapsed() < StartMsecs) {
         QVERIFY(pressReturn());
         QTest::qWait(500);
     }
-    QVERIFY(!notifications.shown().isEmpty());
-    QCOMPARE(notifications.shown().first().summary, QStringLiteral("预约 11月22日 15:00 与张伟的视频会议"));
-    QCOMPARE(notifications.shown().first().body,
+    QVERIFY(!notifications.shown.isEmpty());
+    QCOMPARE(notifications.shown.first().summary, QStringLiteral("预约 11月22日 15:00 与张伟的视频会议"));
+    QCOMPARE(notifications.shown.first().body,
              QStringLiteral("张伟")); // the test plugin says the first slot
 }
 

@@ -3,7 +3,6 @@
 
 #include "launcherdesk.h"
 #include "notificationserver.h"
-#include "notifier.h"
 #include "realdesk.h"
 
 using namespace devhost;
@@ -20,11 +19,11 @@ private Q_SLOTS:
 void TestLauncherConference::sentenceBooksTheConferenceAndShowsItsCard()
 {
     QVERIFY(RealDesk::loadSample());
-    const NotificationServer notifications;
+    NotificationServer notifications;
+    notifications.listenTo(QStringLiteral("语音助手"));
     LogRecorder logs;
-    Notifier notifier(QDBusConnection::sessionBus());
     Conversation conversation(RealDesk::host(), logs);
-    LauncherDesk desk(conversation, notifier);
+    LauncherDesk desk(conversation, QDBusConnection::sessionBus());
     const auto run = [&](const QString &sentence) {
         const LauncherAct act = desk.match(sentence);
         desk.run(act.id, LauncherDesk::Place::WhereItFits);
@@ -40,7 +39,7 @@ void TestLauncherConference::sentenceBooksTheConferenceAndShowsItsCard()
     QCOMPARE(lastTurn().display, QStringLiteral("好的，为您预约如下。"));
     QVERIFY(!lastTurn().cardClass.isEmpty());
     QTRY_VERIFY(QApplication::activeWindow() != nullptr);
-    QCOMPARE(notifications.shown().size(), 0);
+    QCOMPARE(notifications.shown.size(), 0);
 
     // The application has it, at the time that the line has named.
     run(QStringLiteral("查询明天的会议"));
@@ -55,7 +54,7 @@ void TestLauncherConference::sentenceBooksTheConferenceAndShowsItsCard()
 
     // A text alone is a notification.
     run(QStringLiteral("结束会议"));
-    QTRY_COMPARE(notifications.shown().size(), 1);
+    QTRY_COMPARE(notifications.shown.size(), 1);
     QCOMPARE(notifications.last().summary, QStringLiteral("退出当前的视频会议"));
     QCOMPARE(notifications.last().body, QStringLiteral("您没有正在开始的视频会议。"));
 }

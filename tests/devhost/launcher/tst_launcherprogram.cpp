@@ -65,15 +65,15 @@ void TestLauncherProgram::krunnerGetsALineAndRunsIt()
     QCOMPARE(match.properties.value(QStringLiteral("actions")).toStringList(),
              QStringList{offered.value().first().id});
 
-    QCOMPARE(notifications.shown().size(), 0);
+    QCOMPARE(notifications.shown.size(), 0);
     QCOMPARE(LauncherProgram::krunner(QStringLiteral("Run"), {match.id, QString()}).type(),
              QDBusMessage::ReplyMessage);
-    QTRY_COMPARE(notifications.shown().size(), 1);
+    QTRY_COMPARE(notifications.shown.size(), 1);
     QCOMPARE(notifications.last().summary, meetingLine());
     QCOMPARE(notifications.last().body, QStringLiteral("张伟")); // the test plugin says the first slot
 
     LauncherProgram::krunner(QStringLiteral("Run"), {match.id, QString()});
-    QTRY_COMPARE(notifications.shown().size(), 2);
+    QTRY_COMPARE(notifications.shown.size(), 2);
     QCOMPARE(notifications.last().summary, QStringLiteral("没有执行"));
 }
 
@@ -112,7 +112,7 @@ void TestLauncherProgram::shellGetsALineAndRunsIt()
 
     LauncherProgram::shell(QStringLiteral("ActivateResult"),
                            {results.first(), QStringList{meeting()}, uint(0)});
-    QTRY_COMPARE(notifications.shown().size(), 1);
+    QTRY_COMPARE(notifications.shown.size(), 1);
     QCOMPARE(notifications.last().summary, meetingLine());
     QCOMPARE(notifications.last().body, QStringLiteral("张伟"));
 }
@@ -210,14 +210,6 @@ void TestLauncherProgram::programEndsWithItsBus()
         QDBusConnection other =
             QDBusConnection::connectToBus(QString::fromLocal8Bit(address), QStringLiteral("other bus"));
         QTRY_VERIFY(other.interface()->isServiceRegistered(QStringLiteral("com.kelvane.speakmate.devhost")));
-        // The bus library below ends a process that subscribes to signals at the moment at which its bus
-        // dies, so this waits for the reader of names, too, and until it has subscribed.
-        const auto connections = [&other] {
-            const QStringList names = other.interface()->registeredServiceNames();
-            return names.filter(QRegularExpression(QStringLiteral("^:"))).size();
-        };
-        QTRY_COMPARE(connections(), 3);
-        QTest::qWait(300);
     }
     QDBusConnection::disconnectFromBus(QStringLiteral("other bus"));
     bus.kill();

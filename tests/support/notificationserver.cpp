@@ -58,9 +58,13 @@ void NotificationServer::flush()
     m_connection.interface()->isServiceRegistered(Service);
 }
 
-uint NotificationServer::Notify(const QString &, uint replacesId, const QString &, const QString &summary,
-                                const QString &body, const QStringList &actions, const QVariantMap &, int)
+uint NotificationServer::Notify(const QString &application, uint replacesId, const QString &icon,
+                                const QString &summary, const QString &body, const QStringList &actions,
+                                const QVariantMap &, int)
 {
+    if (!m_program.isEmpty() && application != m_program) {
+        return ++m_lastId;
+    }
     ++attempts;
     if (mood == Mood::Refuses) {
         sendErrorReply(QDBusError::Failed, QStringLiteral("too many"));
@@ -74,7 +78,7 @@ uint NotificationServer::Notify(const QString &, uint replacesId, const QString 
     if (!m_onScreen.contains(id)) {
         m_onScreen.append(id);
     }
-    shown.append({id, replacesId, summary, body, actions});
+    shown.append({id, replacesId, icon, summary, body, actions});
     return id;
 }
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "reminders/notification.h"
+#include "notification.h"
 
 #include <QDBusConnection>
 #include <QObject>
@@ -28,7 +28,15 @@ public:
     /// The id is 0 unless it is shown.
     using Done = std::function<void(Result, quint32 id)>;
 
-    explicit Notifier(const QDBusConnection &connection, QObject *parent = nullptr);
+    /// Whose notifications these are, for people and for the desktop.
+    struct Program
+    {
+        QString name;
+        QString icon;         ///< its name in the icon theme
+        QString desktopEntry; ///< the name of its desktop file, without ".desktop"
+    };
+
+    Notifier(const QDBusConnection &connection, const Program &program, QObject *parent = nullptr);
 
     /// Calls @p done once, later, unless it is deleted before.
     void show(const Notification &notification, Done done);
@@ -51,6 +59,7 @@ private:
     void followServer();
 
     QDBusConnection m_connection;
+    const Program m_program;
     QString m_server; ///< the unique name of who showed something; only its signals count
     std::optional<QStringList> m_capabilities; ///< of the server that is there; unknown until somebody asks
 };

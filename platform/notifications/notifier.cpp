@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "reminders/notifier.h"
+#include "notifier.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingReply>
@@ -28,9 +28,10 @@ Notifier::Result resultOf(const QDBusError &error)
 
 } // namespace
 
-Notifier::Notifier(const QDBusConnection &connection, QObject *parent)
+Notifier::Notifier(const QDBusConnection &connection, const Program &program, QObject *parent)
     : QObject(parent)
     , m_connection(connection)
+    , m_program(program)
 {
     followServer();
     // Without the service's name, which Qt would look up here and now, and wait for the bus.
@@ -95,13 +96,12 @@ void Notifier::send(const Notification &notification, Done done)
     const QStringList actions =
         m_capabilities->contains(QLatin1String("actions")) ? notification.actions : QStringList();
     constexpr uchar normalUrgency = 1;
-    const QVariantMap hints{{QStringLiteral("desktop-entry"), QStringLiteral("com.kelvane.meetlynx")},
+    const QVariantMap hints{{QStringLiteral("desktop-entry"), m_program.desktopEntry},
                             {QStringLiteral("urgency"), QVariant::fromValue(normalUrgency)}};
     constexpr int asTheServerLikes = -1;
     const QDBusPendingCall sent =
-        call(QStringLiteral("Notify"),
-             {QStringLiteral("联系人"), notification.replacesId, QStringLiteral("meetlynx"),
-              notification.summary, body, actions, hints, asTheServerLikes});
+        call(QStringLiteral("Notify"), {m_program.name, notification.replacesId, m_program.icon,
+                                        notification.summary, body, actions, hints, asTheServerLikes});
     auto *watcher = new QDBusPendingCallWatcher(sent, this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, done = std::move(done)] {
         watcher->deleteLater();

@@ -21,6 +21,7 @@ public:
     {
         uint id = 0;
         uint replacesId = 0;
+        QString icon;
         QString summary;
         QString body;
         QStringList actions;
@@ -31,6 +32,10 @@ public:
     explicit NotificationServer(const QStringList &capabilities = {QStringLiteral("actions"),
                                                                    QStringLiteral("body")});
     ~NotificationServer() override;
+
+    /// From here on only those of @p program are remembered; others may notify on the same bus.
+    void listenTo(const QString &program) { m_program = program; }
+    Shown last() const { return shown.isEmpty() ? Shown() : shown.last(); }
 
     QStringList summaries() const;
     bool isOnScreen(uint id) const { return m_onScreen.contains(id); }
@@ -59,6 +64,7 @@ private:
     QString m_connectionName;
     QDBusConnection m_connection;
     QStringList m_capabilities;
+    QString m_program; ///< everybody's while empty
     QVector<uint> m_onScreen;
     uint m_lastId = 0;
 };

@@ -9,6 +9,7 @@
 #include "service/busservice.h"
 #include "service/display.h"
 #include "window/contactswindow.h"
+#include "window/lastwindow.h"
 
 #include <lumo/lstyle.h>
 #include <sharedappearance.h>
@@ -16,6 +17,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDebug>
+#include <QFileInfo>
 
 #include <memory>
 
@@ -53,14 +55,36 @@ int exportCalendar(const QString &fileName, const QString &dialNumber)
     return exportConference(*book, dialNumber, fileName) ? Served : NotExported;
 }
 
-enum class FirstSight { Window, Nothing };
+bool remindersAreOn(ContactsBook &book)
+{
+    try {
+        return book.reminders().settings().isOn;
+    } catch (const std::exception &error) {
+        qWarning("It cannot be told whether reminders are wanted: %s", error.what());
+        return true;
+    }
+}
+
+/// Who starts the application.
+enum class Starter {
+    User,  ///< who wants to see the window
+    Bus,   ///< for a program that calls
+    Login, ///< for the reminders alone
+};
 enum class Audience { Users, Developers };
 
-int serve(QCoreApplication &application, FirstSight firstSight, Audience audience)
+int serve(QCoreApplication &application, Starter starter, Audience audience)
 {
+    // Somebody who has never used the application has nothing to be reminded of.
+    if (starter == Starter::Login && !QFileInfo::exists(Database::defaultFileName())) {
+        return Served;
+    }
     const std::unique_ptr<ContactsBook> book = openBook();
     if (!book) {
         return DatabaseUnusable;
+    }
+    if (starter == Starter::Login && !remindersAreOn(*book)) {
+        return Served;
     }
     const bool isForDevelopers = audience == Audience::Developers;
     BusService service(*book, isForDevelopers ? BusService::Interfaces::WithAdministration
@@ -71,6 +95,9 @@ int serve(QCoreApplication &application, FirstSight firstSight, Audience audienc
         qCritical() << "There is no session bus. Start one, for instance with dbus-run-session.";
         return NoSessionBus;
     case BusService::Start::AlreadyRunning:
+        if (starter == Starter::User) {
+            service.askOtherForWindow();
+        }
         return Served;
     case BusService::Start::Refused:
         return BusRefused;
@@ -82,6 +109,7 @@ int serve(QCoreApplication &application, FirstSight firstSight, Audience audienc
     std::unique_ptr<SharedAppearance> appearance;
     std::unique_ptr<ContactsWindow> window; // made when it is first wanted: most of the time nobody looks
     if (qobject_cast<QApplication *>(&application)) {
+        endWithLastWindowUnless([&book] { return remindersAreOn(*book); });
         const auto showWindow = [&] {
             if (!window) {
                 QApplication::setStyle(new LStyle);
@@ -97,7 +125,7 @@ int serve(QCoreApplication &application, FirstSight firstSight, Audience audienc
         QObject::connect(book.get(), &ContactsBook::windowWanted, book.get(), showWindow,
                          Qt::QueuedConnection);
         QObject::connect(&reminders, &Reminders::windowWanted, book.get(), showWindow);
-        if (firstSight == FirstSight::Window) {
+        if (starter == Starter::User) {
             showWindow();
         }
     }
@@ -126,11 +154,17 @@ int main(int argc, char **argv)
     const QCommandLineOption service(
         QStringLiteral("service"),
         QStringLiteral("Serve other programs and show no window until it is asked for."));
+    const QCommandLineOption reminders(
+        QStringLiteral("reminders"),
+        QStringLiteral(
+            "As --service, for the start of a session: end at once when reminders are switched off "
+            "or the application has never been used."));
     const QCommandLineOption developer(
         QStringLiteral("developer"),
         QStringLiteral("Put the administration on the session bus, which shows every passcode and can empty "
                        "everything, and show what only a developer needs."));
     parser.addOption(service);
+    parser.addOption(reminders);
     parser.addOption(developer);
     const QCommandLineOption exported(
         QStringLiteral("export"),
@@ -147,6 +181,8 @@ int main(int argc, char **argv)
     if (parser.isSet(exported)) {
         return exportCalendar(parser.value(exported), parser.value(conference));
     }
-    return serve(*application, parser.isSet(service) ? FirstSight::Nothing : FirstSight::Window,
-                 parser.isSet(developer) ? Audience::Developers : Audience::Users);
+    const Starter starter = parser.isSet(reminders) ? Starter::Login
+                            : parser.isSet(service) ? Starter::Bus
+                                                    : Starter::User;
+    return serve(*application, starter, parser.isSet(developer) ? Audience::Developers : Audience::Users);
 }

@@ -11,12 +11,18 @@ failed=0
 fail() { echo "FAIL: $*" >&2; failed=1; }
 cd "$source/data"
 
-for file in *.desktop; do
+for file in *.desktop autostart/*.desktop; do
     said=$(desktop-file-validate "$file" 2>&1) || true
     [ -z "$said" ] || fail "$file: $said"
     icon=$(sed -n 's/^Icon=//p' "$file")
     ls icons/48/"$icon".png >/dev/null || fail "$file has no icon of 48 pixels"
     find "$source/data/icons" "$source/platform/devhost/icons" -name "$icon.svg" | grep -q . || fail "$file has no icon that scales"
+    program=$(sed -n 's/^Exec=\([^ ]*\).*/\1/p' "$file")
+    [ -f "completions/$program" ] || fail "$file starts $program, which is none of ours"
+done
+# They stay when the package is removed and not purged.
+for file in autostart/*.desktop; do
+    grep -q "^TryExec=$(sed -n 's/^Exec=\([^ ]*\).*/\1/p' "$file")\$" "$file" || fail "$file starts what may be gone"
 done
 appstreamcli validate --no-net --pedantic ./*.metainfo.xml || fail "the descriptions for software centres"
 for file in *.metainfo.xml; do

@@ -53,7 +53,6 @@ BusService::Start BusService::start()
                     << m_connection.lastError().message();
         return Start::Refused;
     }
-    askOtherForWindow();
     return Start::AlreadyRunning;
 }
 

@@ -21,7 +21,7 @@ public:
     enum class Start {
         Done,
         NoBus,
-        AlreadyRunning, ///< another process has the name; it has been asked to show its window
+        AlreadyRunning, ///< another process has the name
         Refused,        ///< the bus does not take an object or the name; the reason is in the log
     };
 
@@ -33,6 +33,8 @@ public:
     BusService(ContactsBook &book, Interfaces interfaces, QObject *parent = nullptr);
 
     Start start();
+    /// Brings up the window of the process that has the name. Waits for its answer, 5 seconds at most.
+    void askOtherForWindow();
 
 Q_SIGNALS:
     /// The bus has gone; there is nobody left to serve.
@@ -40,7 +42,6 @@ Q_SIGNALS:
 
 private:
     bool putOnBus(const QString &path, QObject *object);
-    void askOtherForWindow();
 
     QDBusConnection m_connection;
     ContactRequests *m_requests;                ///< a child

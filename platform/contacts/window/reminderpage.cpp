@@ -26,7 +26,8 @@ ReminderPage::ReminderPage(ContactsBook &book, QWidget *parent)
     auto *lead = new QLabel(QStringLiteral("会议开始前(&B)"));
     lead->setBuddy(m_lead);
     auto *hint =
-        new QLabel(QStringLiteral("会议开始前和开始时各通知一次；已谢绝、已加入和已结束的会议不再提醒。"));
+        new QLabel(QStringLiteral("会议开始前和开始时各通知一次；已谢绝、已加入和已结束的会议不再提醒。"
+                                  "打开提醒后，登录桌面时会在后台启动，关闭窗口后仍会提醒。"));
     hint->setTextFormat(Qt::PlainText);
     hint->setWordWrap(true);
     auto *layout = new QFormLayout(this);

@@ -1,24 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "appearance.h"
 #include "applicationlink.h"
-#include "bubble.h"
 #include "cardsurround.h"
-#include "conversationview.h"
 #include "endbutton.h"
-#include "inputline.h"
 #include "inspector.h"
-#include "logrecorder.h"
-#include "mainwindow.h"
 #include "statusline.h"
 #include "turnmenu.h"
 #include "turntexts.h"
 #include "waitingdots.h"
 #include "welcomepage.h"
+#include "windowtest.h"
 
 #include <lumo/lfontsizemanager.h>
-#include <lumo/lstyle.h>
 #include <lumo/lsuggestbutton.h>
 
 #include <QtTest>
@@ -29,16 +23,6 @@
 using namespace devhost;
 
 namespace {
-
-/// The window as at its first start, without a plugin.
-struct Desk
-{
-    LogRecorder logs;
-    PluginHost host;
-    Appearance appearance;
-    Conversation conversation{host, logs};
-    MainWindow window{conversation, appearance};
-};
 
 QVector<Bubble *> bubblesIn(const ConversationView &view)
 {
@@ -60,13 +44,11 @@ QColor pixel(QWidget &widget, const QPoint &place)
 } // namespace
 
 /// Colours, spaces and sides of the window's parts, which nothing else would miss.
-class TestWindowLooks : public QObject
+class TestWindowLooks : public WindowTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
     void whatIsSaidStandsOnTheRightAndInTheAccentColour();
     void aSentenceInTheQueueIsDimmed();
     void bubblesStandApart();
@@ -80,22 +62,7 @@ private Q_SLOTS:
     void theInputStandsApartFromItsButton();
     void theInspectorIsThereAtFirstAndKeepsItsWidth();
     void cardsHaveAThinEdge();
-
-private:
-    QTemporaryDir m_settings;
 };
-
-void TestWindowLooks::initTestCase()
-{
-    QApplication::setStyle(new LStyle);
-}
-
-void TestWindowLooks::init()
-{
-    QCoreApplication::setOrganizationName(QStringLiteral("test"));
-    QCoreApplication::setApplicationName(QString::fromLatin1(QTest::currentTestFunction()));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
-}
 
 void TestWindowLooks::whatIsSaidStandsOnTheRightAndInTheAccentColour()
 {

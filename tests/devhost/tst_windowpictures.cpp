@@ -1,20 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "appearance.h"
-#include "bubble.h"
 #include "card/cardlabel.h"
 #include "cardsamples.h"
 #include "conferencemsgstaticwidget.h"
-#include "conversationview.h"
-#include "inputline.h"
 #include "inspector.h"
-#include "logrecorder.h"
-#include "mainwindow.h"
 #include "paintedcontrast.h"
 #include "titleitem.h"
-
-#include <lumo/lstyle.h>
+#include "windowtest.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -31,23 +24,13 @@ constexpr int MostOfCell = 70;
 constexpr double MostOnAverage = 4;
 constexpr double LeastTextContrast = 4.5;
 
-struct Desk
+/// As if it had been said: the page changes to the conversation with the first turn.
+void talk(Desk &desk)
 {
-    LogRecorder logs;
-    PluginHost host;
-    Appearance appearance;
-    Conversation conversation{host, logs};
-    MainWindow window{conversation, appearance};
-
-    ConversationView &view() { return *window.view(); }
-    void talk()
-    {
-        // As if it had been said: the page changes to the conversation with the first turn.
-        window.submit(QStringLiteral("你好"));
-        QTRY_VERIFY(!conversation.isBusy());
-        view().clear();
-    }
-};
+    desk.window.submit(QStringLiteral("你好"));
+    QTRY_VERIFY(desk.isIdle());
+    desk.view().clear();
+}
 
 ConferenceMsgStaticWidget *found()
 {
@@ -62,14 +45,14 @@ void welcome(Desk &) {}
 
 void answer(Desk &desk)
 {
-    desk.talk();
+    talk(desk);
     desk.view().addSaid(1, QStringLiteral("查询今天的会议"), false);
     desk.view().addReply(1, QStringLiteral("以下是您查询的视频会议:"), found());
 }
 
 void waiting(Desk &desk)
 {
-    desk.talk();
+    talk(desk);
     desk.view().addSaid(1, QStringLiteral("查询今天的会议"), false);
     desk.view().setWaiting(1);
     desk.view().addSaid(2, QStringLiteral("你会什么"), true);
@@ -77,7 +60,7 @@ void waiting(Desk &desk)
 
 void editable(Desk &desk)
 {
-    desk.talk();
+    talk(desk);
     auto *card = new ConferenceMsgStaticWidget;
     QVector<ContactDetailMsg> list = {conference()};
     card->createInviteConference(list);
@@ -86,7 +69,7 @@ void editable(Desk &desk)
 
 void picked(Desk &desk)
 {
-    desk.talk();
+    talk(desk);
     auto *card = new ConferenceMsgStaticWidget;
     card->createMultiplePerson(createdDetail(), true);
     card->findChildren<TiTleItem *>().at(1)->toggleSelection();
@@ -101,7 +84,7 @@ void disabled(Desk &desk)
 
 void failed(Desk &desk)
 {
-    desk.talk();
+    talk(desk);
     desk.view().addSaid(1, QStringLiteral("查询今天的会议"), false);
     desk.view().addNotice(1, QStringLiteral("插件没有回答。"));
 }
@@ -113,7 +96,7 @@ void problem(Desk &desk)
 
 void scrolledUp(Desk &desk)
 {
-    desk.talk();
+    talk(desk);
     for (int turn = 1; turn <= 20; ++turn) {
         desk.view().addSaid(turn, QStringLiteral("第 %1 句").arg(turn), false);
         desk.view().addReply(turn, QStringLiteral("第 %1 个回答").arg(turn), nullptr);

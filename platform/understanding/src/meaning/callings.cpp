@@ -25,8 +25,11 @@ bool isSpeaker(const Reading &reading, const Token &token)
 /// 兄弟, 那谁: somebody, but nobody can tell who.
 bool standsForName(const Reading &reading, const Token &token)
 {
-    static const QString vague = QStringLiteral("那某");
-    return token.is(WordClass::Address) ||
+    static const QString vague = QStringLiteral("那某谁");
+    static const QString referring = QStringLiteral("他她"); // to somebody who was never named
+    const bool unnamed = token.length == 1 && reading.names().empty() &&
+                         referring.contains(reading.sentence().text().at(token.position));
+    return unnamed || token.is(WordClass::Address) ||
            (token.isAny(WordClass::Filler | WordClass::Nobody | WordClass::Actor) &&
             vague.contains(reading.sentence().text().at(token.position)));
 }

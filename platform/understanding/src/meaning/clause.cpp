@@ -106,6 +106,16 @@ bool Clause::excludesSomebody() const
     });
 }
 
+bool Clause::isTold() const
+{
+    return isOrder() && hasOtherSubject() && !isRefused() && isSomebody(m_tokens[m_begin]);
+}
+
+bool Clause::isOnlyReported() const
+{
+    return isSupposed() && !isRequested() && !isNegated() && !isQuestion();
+}
+
 bool Clause::isReport() const
 {
     return has(WordClass::Reported) && has(WordClass::Actor);
@@ -183,26 +193,49 @@ bool Clause::isSomebodyElses() const
     });
 }
 
+bool Clause::isSomebody(const Token &token) const
+{
+    // 我 and everybody may be told to do something.
+    static const QString addressed = QStringLiteral("我咱俺你您大各全所诸在本自谁一");
+    return token.length > 1 && token.isAny(WordClass::Title | WordClass::Nobody) &&
+           !token.isAny(WordClass::Address | WordClass::Buddy) &&
+           !addressed.contains(m_reading.sentence().text().at(token.position));
+}
+
 bool Clause::hasOtherSubject() const
 {
     constexpr WordClasses deeds = WordClass::StrongOpen | WordClass::WeakOpen | WordClass::Close |
-                                  WordClass::Join | WordClass::Invite | WordClass::Add;
-    // 张三李四明天三点开会 is an order, 张三和李四明天开会 news.
-    const bool several = m_reading.names().size() > 1;
-    const bool together = m_reading.has(WordClass::Separator);
-    if (m_isQuery || (several && (!together || m_reading.clockCount() > 0 || m_reading.timeCount() == 0))) {
+                                  WordClass::CloseAlone | WordClass::Join | WordClass::Invite |
+                                  WordClass::Add;
+    constexpr WordClasses leads = WordClass::Trigger | WordClass::Pull | WordClass::Separator |
+                                  WordClass::NameLabel | WordClass::Request | WordClass::Conference |
+                                  WordClass::Video;
+    if (m_isQuery) {
         return false;
     }
     std::size_t subject = m_end;
-    bool first = m_begin == 0; // nothing but a time before
+    bool led = false; // by a word that calls, asks or says what is done
+    bool joined = false; // 和, 要: 张三李四明天三点开会 is an order, 张三和李四明天开会 news
     return any([&](std::size_t at) {
         const Token &token = m_tokens[at];
-        if (token.inName) {
-            subject = m_reading.isCalledAt(token.position) && !first ? m_end : at;
+        led = led || (!token.inName && (token.isAny(leads) || token.isAny(deeds)));
+        if (subject == m_end && !led && ((token.inName && isUncalled(token)) || isSomebody(token))) {
+            subject = at;
         }
-        first = first && token.kind == Token::Kind::Time;
-        return subject < at && !token.inName && token.isAny(m_allowed.anchors) && token.isAny(deeds);
+        static const QString joining = QStringLiteral("和跟与同约叫让喊");
+        joined = joined || (subject < at && !token.inName &&
+                            joining.contains(m_reading.sentence().text().at(token.position)));
+        static const QString modals = QStringLiteral("要想会得");
+        joined = joined || modals.contains(charAt(m_reading.sentence().text(), token.position - 1));
+        const bool listed = m_reading.names().size() > 1 && !joined;
+        return subject < at && !listed && !token.inName && token.isAny(m_allowed.anchors) &&
+               token.isAny(deeds);
     });
+}
+
+bool Clause::isUncalled(const Token &name) const
+{
+    return m_begin == 0 || !m_reading.isCalledAt(name.position); // 和张三，李四，王五明天开会
 }
 
 bool Clause::isPast() const

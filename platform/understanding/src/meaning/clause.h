@@ -25,6 +25,10 @@ public:
     bool isSupposed() const;
     /// 秦姐, alone before an order: somebody whom nothing calls.
     bool isOnlySomebody() const;
+    /// 老板喊开会了: somebody without a name does it, so it is only news.
+    bool isTold() const;
+    /// 领导要求明天开会: told or wished, whatever follows.
+    bool isOnlyReported() const;
     /// 他们终于开完了
     bool isReport() const;
     /// tmr下午三点: a time beside something strange.
@@ -48,6 +52,9 @@ private:
     bool isSomebodyElses() const;
     /// 张伟明天三点开会: somebody whom no word calls, right before what is done.
     bool hasOtherSubject() const;
+    bool isUncalled(const Token &name) const;
+    /// 老板, 同事: a person without a name.
+    bool isSomebody(const Token &token) const;
     /// 昨天和张三开会: nobody opens a conference of a day that is past.
     bool isPast() const;
     /// 我下午三点有个会: there is one, nobody wants a new one.

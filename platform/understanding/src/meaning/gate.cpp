@@ -7,12 +7,46 @@
 #include "meaning/clause.h"
 #include "meaning/outcome.h"
 
+#include <algorithm>
+
 namespace understanding {
 
 /// “开会” is an order, 他说“开会” is none.
 static bool isAllQuoted(const QString &text)
 {
     return text.startsWith(QChar(u'“')) && text.indexOf(QChar(u'”')) == text.size() - 1;
+}
+
+static bool isDeed(const Token &token)
+{
+    return token.isAny(WordClass::Conference | WordClass::Video | WordClass::Arrive | WordClass::Join |
+                       WordClass::CloseAlone | WordClass::Buddy);
+}
+
+/// 如果明天下雨，帮我开会: what depends on something is not wanted now.
+static bool isConditional(const Reading &reading)
+{
+    static const QStringList conditions = {
+        QStringLiteral("如果"), QStringLiteral("要是"), QStringLiteral("假如"), QStringLiteral("假设"),
+        QStringLiteral("只要"), QStringLiteral("除非"), QStringLiteral("一旦"), QStringLiteral("万一")};
+    const Tokens &tokens = reading.tokens();
+    bool begins = true; // a clause
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        const QString text = reading.sentence().text().mid(tokens[at].position, tokens[at].length);
+        const bool continues = at + 1 < tokens.size() && !tokens[at + 1].isAny(WordClass::Punctuation) &&
+                               tokens[at + 1].kind != Token::Kind::Space;
+        // 等张伟回来再开会
+        const bool waits = begins && continues && text == QStringLiteral("等");
+        const bool endsWaiting = waits && std::none_of(tokens.cbegin() + static_cast<std::ptrdiff_t>(at),
+                                                       tokens.cend(), isDeed); // 把老林拉进来，等他半天了
+        if (!tokens[at].inName && !tokens[at].inTopic &&
+            ((waits && !endsWaiting) || conditions.contains(text))) {
+            return true;
+        }
+        begins = tokens[at].is(WordClass::Punctuation) ||
+                 (begins && (tokens[at].is(WordClass::Filler) || tokens[at].kind == Token::Kind::Time));
+    }
+    return false;
 }
 
 Verdict judge(const Reading &reading, const QString &intent)
@@ -23,6 +57,7 @@ Verdict judge(const Reading &reading, const QString &intent)
     bool finished = false;
     bool supposed = false;
     bool doubtful = reading.hasDoubtfulName() && intent != QLatin1String(QueryConference);
+    doubtful = doubtful || isConditional(reading);
     // Nothing that was said is dropped in silence: 需求评审安排到明天十一点，拉上小唐 is no plain invitation.
     const bool untimely = intent == QLatin1String(InviteConference) || intent == QLatin1String(AddBuddy);
     doubtful = doubtful || (untimely && reading.clockCount() > 0);
@@ -33,20 +68,29 @@ Verdict judge(const Reading &reading, const QString &intent)
     // 拉张伟和200002进来: not everybody was found.
     doubtful = doubtful || (intent == QLatin1String(InviteConference) && pullsOther(reading) &&
                             !reading.conferenceNumber().isEmpty());
+    // 从这个会退出，加入123456: two things at once.
+    doubtful =
+        doubtful || (intent == QLatin1String(CloseConference) && !reading.conferenceNumber().isEmpty() &&
+                     reading.hasAny(WordClass::Join | WordClass::WeakJoin));
     // 凌晨一点上线，零点四十五拉个会: which of the two hours?
     doubtful = doubtful || (intent == QLatin1String(CreateConference) && reading.clockCount() > 1);
     bool untitled = false; // the name of the conference was not understood
     bool quoted = false;
+    bool told = false; // what somebody says or does, before the order
     for (std::size_t begin = 0; begin < tokens.size();) {
         std::size_t end = begin;
-        while (end < tokens.size() && !tokens[end].is(WordClass::Punctuation)) {
+        while (end < tokens.size() && (!tokens[end].is(WordClass::Punctuation) || tokens[end].inName)) {
             ++end;
         }
         const QChar sign = end < tokens.size() ? reading.sentence().text().at(tokens[end].position) : QChar();
         const Clause clause(reading, intent, begin, end);
         supposed = supposed || clause.isSupposed();
         doubtful = doubtful || clause.excludesSomebody();
-        if (clause.isOrder()) {
+        if (clause.isTold()) { // 老板喊开会了，帮我拉个会
+            told = true;
+        } else if (clause.isOrder() && clause.isOnlyReported()) { // 领导要求明天开会，帮我发起一个
+            told = true;
+        } else if (clause.isOrder()) {
             if (clause.isRefused()) {
                 return Verdict::Refuse;
             }
@@ -77,6 +121,7 @@ Verdict judge(const Reading &reading, const QString &intent)
         return Verdict::Refuse;
     }
     // 不开了，散会: the order follows what is finished.
+    doubtful = doubtful || (told && !(ordered && requested));
     return doubtful || ((finished || untitled) && !ordered) ? Verdict::Ask : Verdict::Act;
 }
 

@@ -3,6 +3,7 @@
 
 #include "meaning/reading.h"
 
+#include "names/framednames.h"
 #include "text/chinesenumber.h"
 #include "text/scan.h"
 #include "words/clausereader.h"
@@ -24,6 +25,7 @@ Reading::Reading(const QString &sentence, const ContactIndex &contacts) : m_sent
 {
     m_tokens = tokenize(m_sentence.text(), contacts);
     applyRepairs(m_sentence.text(), m_tokens);
+    joinFramedNames(m_sentence.raw(), m_sentence.text(), m_tokens);
     settleWords(m_sentence.text(), m_tokens);
     m_names = findNames(m_sentence.raw(), m_sentence.text(), m_tokens);
     m_elsewhere = findElsewhere(m_sentence.text());
@@ -109,6 +111,8 @@ void Reading::collectTimes()
         if ((token.kind != Token::Kind::Time && token.time.isEmpty()) || token.inTopic || token.inName) {
             continue;
         }
+        const bool again = m_time.hasClock && token.time.hasClock && m_time.hour == token.time.hour &&
+                           m_time.minute == token.time.minute; // 明天三点，对，三点
         m_timeSaid += m_sentence.rawPart(token.position, token.length);
         if (m_timeCount == 0) {
             m_time = token.time;
@@ -116,7 +120,7 @@ void Reading::collectTimes()
             m_time.complete(token.time);
         }
         ++m_timeCount;
-        m_clockCount += token.time.hasClock ? 1 : 0;
+        m_clockCount += token.time.hasClock && !again ? 1 : 0;
     }
 }
 

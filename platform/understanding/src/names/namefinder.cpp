@@ -104,12 +104,18 @@ private:
             return at;
         }
         std::size_t next = last + 1;
-        while (next < m_tokens.size() && m_tokens[next].is(WordClass::Filler) && m_tokens[next].length == 1) {
+        static const QString addressed = QStringLiteral("你您"); // 陈工你也叫上
+        while (next < m_tokens.size() && m_tokens[next].length <= 2 &&
+               (m_tokens[next].isAny(WordClass::Filler | WordClass::NameTail) ||
+                addressed.contains(m_text.at(m_tokens[next].position)))) {
             ++next;
         }
         const int end = m_tokens[last].end();
+        // 赵云也来
+        const bool comes = next + 1 == m_tokens.size() && next > last + 1 && m_tokens[next].length == 1 &&
+                           m_text.at(m_tokens[next].position) == QChar(u'来');
         const bool joins =
-            next < m_tokens.size() && m_tokens[next].isAny(WordClass::Join | WordClass::Arrive);
+            comes || (next < m_tokens.size() && m_tokens[next].isAny(WordClass::Join | WordClass::Arrive));
         const bool isLast = last + 1 == m_tokens.size();
         const bool afterOpening =
             isLast && at > 0 &&

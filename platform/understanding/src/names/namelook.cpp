@@ -146,8 +146,28 @@ int nameLengthAt(const QString &text, int at)
 
 } // namespace
 
+/// 小蔡小高, 大乔小乔: each begins as people call one another.
+static QStringList splitFamiliarNames(const QString &text)
+{
+    static const QString prefixes = QStringLiteral("小老阿大");
+    QStringList names;
+    for (int at = 0; at < text.size(); at += 2) {
+        const QString name = text.mid(at, 2);
+        if (name.size() < 2 || !prefixes.contains(name.at(0)) || prefixes.contains(name.at(1))) {
+            return {};
+        }
+        names.append(name);
+    }
+    return names;
+}
+
 QStringList splitNames(const QString &text)
 {
+    constexpr int shortestList = 4;
+    const QStringList familiar = text.size() < shortestList ? QStringList() : splitFamiliarNames(text);
+    if (!familiar.isEmpty()) {
+        return familiar;
+    }
     static const QString titles = QStringLiteral("总工哥姐");
     // A name of four characters with a family name of two is one.
     if (text.size() < 4 || text.size() > 12 || startsTwoCharacterSurname(text) || !isSurname(text.at(0))) {
@@ -173,7 +193,7 @@ QString withoutParticles(const QString &text)
 {
     static const QString leading = QStringLiteral("的也都再就先在要想了个请给对着还又把将跟是有帮替");
     static const QString trailing = QStringLiteral(
-        "也都全来去再就先在要想的给吧呢啊呀了过到于得能可需将又还会用里并且吗嘛上下把做成为参加约让呗");
+        "也都全来去再就先在要想等的给吧呢啊呀了过到于得能可需将又还会用里并且吗嘛上下把做成为参加约让呗");
     int start = 0;
     int end = text.size();
     // What is left has two characters at least: 王来 is a name.

@@ -144,7 +144,7 @@ bool NamePlaces::isSmallWordInName(std::size_t at) const
 {
     const Token &token = m_tokens[at];
     constexpr WordClasses hard = WordClass::Separator | WordClass::WeakOpen | WordClass::Conference |
-                                 WordClass::Punctuation | WordClass::Nobody;
+                                 WordClass::Punctuation | WordClass::Nobody | WordClass::Arrive;
     constexpr WordClasses coming = WordClass::ComeMeet | WordClass::Arrive | WordClass::Join;
     const bool calls = token.isAny(WordClass::Trigger | WordClass::Pull) && at + 1 < m_tokens.size() &&
                        m_tokens[at + 1].isAny(coming); // 阿水都喊来开会

@@ -94,8 +94,21 @@ bool isAtClauseEnd(const Tokens &tokens, std::size_t at)
            tokens[at].kind == Token::Kind::Space;
 }
 
+/// 上 in 约上: it is done to what stands before.
+bool isResultative(const QString &text, const Token &verb)
+{
+    static const QString results = QStringLiteral("来上好成下");
+    return verb.length > 1 && results.contains(text.at(verb.end() - 1));
+}
+
+/// 帮我约: what was said before is to be done.
+bool isAskedFor(const QString &text, const Tokens &tokens, std::size_t verb)
+{
+    return isResultative(text, tokens[verb]) || (verb > 0 && tokens[verb - 1].is(WordClass::Request));
+}
+
 /// 项目周会，帮我建一下: the conference stands before its verb.
-bool followsConference(const Tokens &tokens, std::size_t verb)
+bool followsConference(const QString &text, const Tokens &tokens, std::size_t verb)
 {
     std::size_t at = verb + 1;
     while (at < tokens.size() &&
@@ -103,7 +116,7 @@ bool followsConference(const Tokens &tokens, std::size_t verb)
         ++at;
     }
     const bool afterTime = verb > 0 && tokens[verb - 1].kind == Token::Kind::Time; // 复盘会，明天九点开
-    if ((at == verb + 1 && !afterTime) || !isAtClauseEnd(tokens, at)) {
+    if ((at == verb + 1 && !afterTime && !isAskedFor(text, tokens, verb)) || !isAtClauseEnd(tokens, at)) {
         return false;
     }
     for (std::size_t before = 0; before < verb; ++before) {
@@ -150,9 +163,54 @@ void settleOpening(const QString &text, Tokens &tokens)
             text.at(token.position) == QChar(u'来') && at > 0 &&
             (tokens[at - 1].kind == Token::Kind::Name || tokens[at - 1].kind == Token::Kind::Other);
         if (insideName || (comes && startsAt(text, token.end(), QStringLiteral("一下"))) ||
-            !(governsConference(text, tokens, at) || followsConference(tokens, at))) {
+            !(governsConference(text, tokens, at) || followsConference(text, tokens, at))) {
             token.classes.remove(WordClass::WeakOpen);
         }
+    }
+}
+
+/// 到 in 加张伟到我的会议, 加入 in 把李娜加入我这个会: somebody is called, and a conference follows, whosever
+/// it is.
+bool leadsIntoConference(const QString &text, const Tokens &tokens, std::size_t at)
+{
+    static const QString into = QStringLiteral("到进入来");
+    constexpr WordClasses moving =
+        WordClass::Filler | WordClass::Join | WordClass::WeakJoin | WordClass::WeakOpen;
+    const bool moves = tokens[at].isAny(moving) && into.contains(text.at(tokens[at].end() - 1));
+    if (!moves || tokens[at].inTopic) {
+        return false;
+    }
+    constexpr std::size_t farthest = 5;
+    constexpr WordClasses owning = WordClass::Mine | WordClass::Ongoing | WordClass::Nobody |
+                                   WordClass::Measure | WordClass::Filler | WordClass::Next;
+    for (std::size_t next = at + 1; next < qMin(tokens.size(), at + farthest); ++next) {
+        if (tokens[next].is(WordClass::Conference)) {
+            return next > at + 1;
+        }
+        if (!tokens[next].isAny(owning) && text.at(tokens[next].position) != QChar(u'的')) {
+            return false;
+        }
+    }
+    return false;
+}
+
+void settleArrivals(const QString &text, Tokens &tokens)
+{
+    bool called = false; // by a word that adds, with somebody behind it
+    bool calling = false;
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        Token &token = tokens[at];
+        if (called && leadsIntoConference(text, tokens, at)) {
+            token.classes.add(WordClass::Arrive);
+        }
+        const bool somebody = token.kind == Token::Kind::Name || token.kind == Token::Kind::Other ||
+                              token.kind == Token::Kind::Latin;
+        called = !token.is(WordClass::Punctuation) && (called || (calling && somebody));
+        constexpr WordClasses adding = WordClass::Add | WordClass::Pull | WordClass::Invite;
+        static const QString leads = QStringLiteral("把将拉带叫喊让请");
+        calling = token.isAny(adding) ||
+                  (token.is(WordClass::Trigger) && leads.contains(text.at(token.position))) ||
+                  (calling && somebody);
     }
 }
 
@@ -229,6 +287,7 @@ void settleWords(const QString &text, Tokens &tokens)
     settleTopics(text, tokens);
     settleOpening(text, tokens);
     settleCalls(text, tokens);
+    settleArrivals(text, tokens);
 }
 
 } // namespace understanding

@@ -107,6 +107,11 @@ private:
         if (takesPieceOfTime(word.length)) {
             word = Lexicon::instance().longestAt(m_text.left(m_at + word.length - 1), m_at);
         }
+        settleConferenceEnd(word);
+        const bool opened = m_text.at(m_at) == QChar(u'会') && charAt(m_text, m_at - 1) == QChar(u'开');
+        if (opened && word.classes.has(WordClass::Framed)) { // 会 in 开会怎么样 is a conference
+            word = Lexicon::instance().longestAt(m_text.left(m_at + 1), m_at);
+        }
         const TimeMatch time = readTime(m_text, m_at);
         if (time.kind != TimeMatch::Kind::None && time.length >= word.length && !isInUnknownName(time)) {
             takeTime(time);
@@ -131,6 +136,23 @@ private:
             return false;
         }
         return readTime(m_text, last).kind != TimeMatch::Kind::None;
+    }
+
+    /// 沟通会议 where only 沟通会 is known, and 启动会 in 启动会议, where 启动 is the verb.
+    void settleConferenceEnd(WordMatch &word) const
+    {
+        const int end = m_at + word.length;
+        if (word.length < 3 || !word.classes.has(WordClass::Conference) ||
+            m_text.at(end - 1) != QChar(u'会') || charAt(m_text, end) != QChar(u'议')) {
+            return;
+        }
+        const WordMatch verb = Lexicon::instance().longestAt(m_text.mid(m_at, word.length - 1), 0);
+        constexpr WordClasses opening = WordClass::StrongOpen | WordClass::GoverningOpen;
+        if (verb.length == word.length - 1 && verb.classes.intersects(opening)) {
+            word = verb;
+        } else {
+            ++word.length;
+        }
     }
 
     void takeTime(const TimeMatch &time)

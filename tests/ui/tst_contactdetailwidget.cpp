@@ -1,37 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "contactdetailwidget.h"
+#include "contactdetailform.h"
 
-#include "logcapture.h"
-#include "scriptedability.h"
 #include "testcolumns.h"
 
-#include <lumo/lcombobox.h>
 #include <lumo/llabel.h>
-#include <lumo/lspinbox.h>
 
-#include <QGridLayout>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QtTest>
 
 namespace {
-
-ContactDetailMsg conference()
-{
-    ContactDetailMsg conference;
-    conference.title = QStringLiteral("周会");
-    conference.confId = QStringLiteral("c7");
-    conference.startTime = QDateTime(QDate(2024, 3, 31), QTime(9, 30)).toMSecsSinceEpoch();
-    conference.duration = 30 * 60000;
-    conference.participantLimit = 40;
-    conference.isPayingUser = true;
-    conference.participants = {{QStringLiteral("李雷"), {}, {}, {}}, {QStringLiteral("韩梅梅"), {}, {}, {}}};
-    return conference;
-}
 
 QStringList items(const QComboBox &combo)
 {
@@ -51,48 +30,14 @@ QStringList numbers(int first, int last)
     return texts;
 }
 
-/// The form and its controls, found as a person finds them: by their names.
-struct Form
-{
-    explicit Form(const QVector<ContactDetailMsg> &list) { widget.gridLayout(list); }
-
-    /// The first child for which @p isWanted says so; null if there is none.
-    template <typename Widget, typename IsWanted>
-    Widget *found(IsWanted isWanted) const
-    {
-        const auto children = widget.findChildren<Widget *>();
-        const auto child = std::find_if(children.cbegin(), children.cend(),
-                                        [&isWanted](const Widget *one) { return isWanted(*one); });
-        return child == children.cend() ? nullptr : *child;
-    }
-
-    LComboBox *combo(const QString &name) const
-    {
-        return found<LComboBox>([&name](const LComboBox &combo) { return combo.accessibleName() == name; });
-    }
-    LComboBox *month() const { return combo(QStringLiteral("月")); }
-    LComboBox *day() const { return combo(QStringLiteral("日")); }
-    LComboBox *hour() const { return combo(QStringLiteral("开始时间")); }
-    LComboBox *duration() const { return combo(QStringLiteral("时长")); }
-    LSpinBox *persons() const { return widget.findChild<LSpinBox *>(); }
-    QPushButton *button(const QString &text) const
-    {
-        return found<QPushButton>([&text](const QPushButton &button) { return button.text() == text; });
-    }
-    QGridLayout *grid() const { return qobject_cast<QGridLayout *>(widget.layout()); }
-
-    ContactDetailWidget widget;
-};
-
 } // namespace
 
+/// What the form shows, and what can be chosen in it.
 class TestContactDetailWidget : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-
     void theGrid();
     void longTextsAreElided();
     void onlyTheFirstConferenceIsShown();
@@ -105,21 +50,7 @@ private Q_SLOTS:
     void theHeadCountsBounds_data();
     void theHeadCountsBounds();
     void theParticipantsAreNamed();
-    void confirmingSendsTheChange_data();
-    void confirmingSendsTheChange();
-    void confirmingWritesToTheDebugLog();
-    void withoutAFormConfirmingSendsNothing_data();
-    void withoutAFormConfirmingSendsNothing();
-    void cancellingOnlyWritesToTheDebugLog();
-    void aFailureLeavesTheFormAsItIs();
 };
-
-void TestContactDetailWidget::init()
-{
-    ScriptedAbility::instance().reset();
-    ScriptedAbility::instance().setAnswer(QStringLiteral("Update Conference"), 0,
-                                          QStringLiteral("{\"ret\":\"OK\"}"));
-}
 
 void TestContactDetailWidget::theGrid()
 {
@@ -320,131 +251,6 @@ void TestContactDetailWidget::theParticipantsAreNamed()
     const auto *nobody = qobject_cast<LLabel *>(empty.createConferenceInvite({}));
     QVERIFY(nobody != nullptr);
     QCOMPARE(nobody->text(), QString());
-}
-
-void TestContactDetailWidget::confirmingSendsTheChange_data()
-{
-    addColumns<QString, QString, QString, int, int, QDateTime, int>(
-        {"month", "day", "hour", "durationIndex", "persons", "start", "minutes"});
-    QTest::newRow("nothing changed but the minute of the start")
-        << "3"
-        << "31"
-        << "9" << 1 << 40 << QDateTime(QDate(2024, 3, 31), QTime(9, 0)) << 30;
-    QTest::newRow("everything changed")
-        << "12"
-        << "1"
-        << "23" << 0 << 2 << QDateTime(QDate(2024, 12, 1), QTime(23, 0)) << 15;
-    QTest::newRow("a shorter month") << "2"
-                                     << ""
-                                     << "0" << 0 << 100 << QDateTime(QDate(2024, 2, 29), QTime(0, 0)) << 15;
-    QTest::newRow("a duration that is not offered stays")
-        << "3"
-        << "31"
-        << "9" << -1 << 40 << QDateTime(QDate(2024, 3, 31), QTime(9, 0)) << 45;
-}
-
-void TestContactDetailWidget::confirmingSendsTheChange()
-{
-    QFETCH(QString, month);
-    QFETCH(QString, day);
-    QFETCH(QString, hour);
-    QFETCH(int, durationIndex);
-    QFETCH(int, persons);
-    QFETCH(QDateTime, start);
-    QFETCH(int, minutes);
-    ContactDetailMsg edited = conference();
-    if (durationIndex < 0) {
-        edited.duration = 45 * 60000;
-    }
-    const Form form({edited});
-    form.month()->setCurrentText(month);
-    if (!day.isEmpty()) {
-        form.day()->setCurrentText(day);
-    }
-    form.hour()->setCurrentText(hour);
-    if (durationIndex >= 0) {
-        form.duration()->setCurrentIndex(durationIndex);
-    }
-    form.persons()->setValue(persons);
-
-    const LogCapture log;
-    QTest::mouseClick(form.button(QStringLiteral("确 认")), Qt::LeftButton);
-    const AbilityEvent request = ScriptedAbility::instance().onlyRequest();
-    QCOMPARE(request.action, QStringLiteral("Update Conference"));
-    const QJsonObject sent = QJsonDocument::fromJson(request.parameters.toUtf8()).object();
-    const QJsonObject expected{
-        {QStringLiteral("conferenceId"), QStringLiteral("c7")},
-        {QStringLiteral("startTime"), start.toMSecsSinceEpoch()},
-        {QStringLiteral("duration"), minutes * 60000},
-        {QStringLiteral("participantLimit"), persons},
-    };
-    QCOMPARE(sent, expected);
-}
-
-void TestContactDetailWidget::confirmingWritesToTheDebugLog()
-{
-    Form form({conference()});
-    const QDateTime start(QDate(2024, 3, 31), QTime(9, 0));
-    QString startText;
-    QDebug(&startText).nospace() << start;
-
-    const LogCapture log;
-    form.widget.slotsClickConfirm();
-    const QStringList texts = log.texts(QtDebugMsg);
-    const int first = texts.indexOf(QStringLiteral("slotsClickConfirm"));
-    const int second = texts.indexOf(QStringLiteral("startTime: ") + startText);
-    QVERIFY(first >= 0);
-    QVERIFY2(second > first, qPrintable(texts.join(QLatin1Char('\n'))));
-    QCOMPARE(texts.last(), QStringLiteral("0"));
-}
-
-void TestContactDetailWidget::withoutAFormConfirmingSendsNothing_data()
-{
-    QTest::addColumn<bool>("emptyForm");
-    QTest::newRow("before the form is built") << false;
-    QTest::newRow("a form of no conference") << true;
-}
-
-void TestContactDetailWidget::withoutAFormConfirmingSendsNothing()
-{
-    QFETCH(const bool, emptyForm);
-    ScriptedAbility::instance().reset();
-    ContactDetailWidget widget;
-    if (emptyForm) {
-        widget.gridLayout({});
-    }
-    const LogCapture log;
-    widget.slotsClickConfirm();
-    QCOMPARE(log.lines(), QStringList{QStringLiteral("debug: slotsClickConfirm")});
-    QVERIFY(ScriptedAbility::instance().requests().isEmpty());
-
-    // A form that is built later works.
-    ScriptedAbility::instance().setAnswer(QStringLiteral("Update Conference"), 0,
-                                          QStringLiteral(R"({"ret":"OK"})"));
-    widget.gridLayout({conference()});
-    widget.slotsClickConfirm();
-    QCOMPARE(ScriptedAbility::instance().requests().size(), 1);
-}
-
-void TestContactDetailWidget::cancellingOnlyWritesToTheDebugLog()
-{
-    const Form form({conference()});
-    const LogCapture log;
-    QTest::mouseClick(form.button(QStringLiteral("取 消")), Qt::LeftButton);
-    QCOMPARE(log.lines(), QStringList{QStringLiteral("debug: slotsClickCancel")});
-    QVERIFY(ScriptedAbility::instance().events().isEmpty());
-}
-
-void TestContactDetailWidget::aFailureLeavesTheFormAsItIs()
-{
-    Form form({conference()});
-    form.hour()->setCurrentText(QStringLiteral("17"));
-    ScriptedAbility::instance().setAnswer(QStringLiteral("Update Conference"), -16020, QString());
-    const LogCapture log(LogCapture::Unexpected::Passes);
-    form.widget.slotsClickConfirm();
-    QCOMPARE(log.texts(QtDebugMsg).last(), QStringLiteral("-16020"));
-    QCOMPARE(form.hour()->currentText(), QStringLiteral("17"));
-    QVERIFY(form.widget.isEnabled());
 }
 
 QTEST_MAIN(TestContactDetailWidget)

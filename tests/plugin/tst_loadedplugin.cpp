@@ -1,42 +1,29 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "loadedplugintest.h"
+
 #include "configurationfile.h"
-#include "logcapture.h"
 #include "redirectedfile.h"
-#include "scriptedability.h"
-#include "semantictext.h"
 #include "testcolumns.h"
 
-#include <speakmate/iserviceplugin.h>
-
-#include <QApplication>
 #include <QJsonObject>
-#include <QPluginLoader>
-#include <QPointer>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QThread>
-#include <QWidget>
 
-#include <atomic>
-#include <memory>
-#include <thread>
+namespace {
 
-/**
- * A host as it would be written elsewhere: it knows the public headers only, loads the plugin like any other,
- * asks on a worker thread and takes the reply on the GUI thread. The contacts application is scripted, the
- * clock stands at 2026-03-07 10:20.
- */
-class TestLoadedPlugin : public QObject
+const char AConference[] =
+    "[{'confId':'c1','title':'周会','startTime':1772935200000,'duration':3600000,"
+    "'conferenceDialNumber':'4001','participantLimit':10,'status':'0','participants':[]}]";
+
+} // namespace
+
+/// What a host gets of the plugin: its metadata, each intent from the text to the reply, its configuration.
+class TestLoadedPlugin : public LoadedPluginTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
-
     void metadataNamesInterfaceAndClass();
     void interfaceCastAnswersTheDocumentedNames();
     void thereIsOneInstance();
@@ -45,93 +32,8 @@ private Q_SLOTS:
     void openDialogue();
     void unknownIntent();
     void throwingApplicationIsAFailedCall();
-    void lateRepliesOfACardReachTheHost();
-    void replyOfACardBeforeTheHandleIsDropped();
-    void aReplyFromAnotherThreadIsQueued();
-    void servicesComeAndGoOnManyThreads();
     void configurationDecidesTheTimeout();
-    void loadsAndUnloadsAHundredTimes();
-
-private:
-    /// service() on a thread of its own.
-    IRet ask(IService *service, const QString &semantic) const;
-
-    QPluginLoader m_loader{QStringLiteral(CONTACT_PLUGIN_FILE)};
-    IServicePlugin *m_plugin = nullptr;
-    std::unique_ptr<LogCapture> m_log;
 };
-
-namespace {
-
-const char Tomorrow[] = "{'name':'datetime','value':'{\\\"suggestDatetime\\\":\\\"2026-03-08T10:00:00\\\"}'}";
-const char AConference[] =
-    "[{'confId':'c1','title':'周会','startTime':1772935200000,'duration':3600000,"
-    "'conferenceDialNumber':'4001','participantLimit':10,'status':'0','participants':[]}]";
-
-QString contact()
-{
-    return QStringLiteral("contact");
-}
-
-QString quoted(const QByteArray &json)
-{
-    return QString::fromUtf8(json).replace(QLatin1Char('\''), QLatin1Char('"'));
-}
-
-int cardsAlive()
-{
-    int count = 0;
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (const QWidget *widget : widgets) {
-        count += widget->inherits("ConferenceMsgStaticWidget") ? 1 : 0;
-    }
-    return count;
-}
-
-/// Two conferences found, which the reply shows.
-Reply *askForTwoConferences(IService *service)
-{
-    ScriptedAbility::instance().enqueue(
-        0, quoted("{'ret':'OK','list':[{'confId':'a','title':'甲'},{'confId':'b','title':'乙'}]}"));
-    service->service(
-        SemanticText::of("QUERY_CONFERENCE", QByteArray("[").append(Tomorrow).append("]").constData()));
-    return service->getServiceReply();
-}
-
-bool emitFromCard(QObject *card, const Reply &reply)
-{
-    return QMetaObject::invokeMethod(card, "signalSendShowMessgae", Qt::DirectConnection,
-                                     Q_ARG(Reply, reply));
-}
-
-} // namespace
-
-void TestLoadedPlugin::initTestCase()
-{
-    QVERIFY2(m_loader.load(), qPrintable(m_loader.errorString()));
-    m_plugin = qobject_cast<IServicePlugin *>(m_loader.instance());
-    QVERIFY(m_plugin != nullptr);
-}
-
-void TestLoadedPlugin::init()
-{
-    ScriptedAbility::instance().reset();
-    m_log.reset(new LogCapture);
-}
-
-void TestLoadedPlugin::cleanup()
-{
-    QCOMPARE(ScriptedAbility::instance().alive(), 0);
-    m_log.reset();
-}
-
-IRet TestLoadedPlugin::ask(IService *service, const QString &semantic) const
-{
-    IRet result = 1;
-    std::thread worker([&result, service, &semantic] { result = service->service(semantic); });
-    worker.join();
-    return result;
-}
 
 void TestLoadedPlugin::metadataNamesInterfaceAndClass()
 {
@@ -294,87 +196,6 @@ void TestLoadedPlugin::throwingApplicationIsAFailedCall()
     m_plugin->releaseService(service);
 }
 
-void TestLoadedPlugin::lateRepliesOfACardReachTheHost()
-{
-    IService *service = m_plugin->createService(contact());
-    const std::unique_ptr<QWidget> card(askForTwoConferences(service)->widget);
-    QVERIFY(card != nullptr);
-    IServicePlugin *sender = nullptr;
-    QStringList texts;
-    m_plugin->setMessageHandle([&](IServicePlugin *plugin, const Reply &reply) {
-        sender = plugin;
-        texts.append(reply.displayText.toString());
-    });
-    m_plugin->releaseService(service);
-    QVERIFY(emitFromCard(card.get(), Reply(0, QStringLiteral("改好了。"), 3)));
-    QCOMPARE(texts, QStringList{QStringLiteral("改好了。")});
-    QCOMPARE(sender, m_plugin);
-    m_plugin->setMessageHandle({});
-}
-
-void TestLoadedPlugin::replyOfACardBeforeTheHandleIsDropped()
-{
-    IService *service = m_plugin->createService(contact());
-    const std::unique_ptr<QWidget> card(askForTwoConferences(service)->widget);
-    QVERIFY(card != nullptr);
-    QVERIFY(emitFromCard(card.get(), Reply(0, QStringLiteral("nobody hears it"), 3)));
-    int calls = 0;
-    m_plugin->setMessageHandle([&calls](IServicePlugin *, const Reply &) { ++calls; });
-    QCoreApplication::processEvents();
-    QCOMPARE(calls, 0);
-    m_plugin->setMessageHandle({});
-    m_plugin->releaseService(service);
-}
-
-void TestLoadedPlugin::aReplyFromAnotherThreadIsQueued()
-{
-    IService *service = m_plugin->createService(contact());
-    const std::unique_ptr<QWidget> card(askForTwoConferences(service)->widget);
-    QVERIFY(card != nullptr);
-    QVector<Qt::HANDLE> threads;
-    m_plugin->setMessageHandle(
-        [&threads](IServicePlugin *, const Reply &) { threads.append(QThread::currentThreadId()); });
-    std::thread worker([&card] { emitFromCard(card.get(), Reply(0, QStringLiteral("from afar"), 3)); });
-    worker.join();
-    QVERIFY(threads.isEmpty());
-    QTRY_COMPARE(threads, QVector<Qt::HANDLE>{QThread::currentThreadId()});
-    m_plugin->setMessageHandle({});
-    m_plugin->releaseService(service);
-}
-
-void TestLoadedPlugin::servicesComeAndGoOnManyThreads()
-{
-    constexpr int threadCount = 4;
-    constexpr int rounds = 500;
-    std::atomic<int> made{0};
-    std::atomic<int> started{0};
-    std::vector<std::thread> threads;
-    for (int i = 0; i < threadCount; ++i) {
-        threads.emplace_back([this, &made, &started] {
-            // All at once: a thread alone would be done before the next one has started.
-            ++started;
-            while (started.load() < threadCount) {
-                std::this_thread::yield();
-            }
-            for (int round = 0; round < rounds; ++round) {
-                IService *first = m_plugin->createService(contact());
-                IService *second = m_plugin->createService(contact());
-                m_plugin->releaseService(nullptr);
-                if (first != nullptr && second != nullptr && first != second &&
-                    first->serviceName() == contact()) {
-                    ++made;
-                }
-                m_plugin->releaseService(first);
-                m_plugin->releaseService(second);
-            }
-        });
-    }
-    for (std::thread &thread : threads) {
-        thread.join();
-    }
-    QCOMPARE(made.load(), threadCount * rounds);
-}
-
 void TestLoadedPlugin::configurationDecidesTheTimeout()
 {
     // Whether the application runs or not, one of the two is the time-out.
@@ -392,29 +213,5 @@ void TestLoadedPlugin::configurationDecidesTheTimeout()
     m_plugin->releaseService(service);
 }
 
-/// Last, because it takes the plugin that the others use.
-void TestLoadedPlugin::loadsAndUnloadsAHundredTimes()
-{
-    for (int round = 0; round < 100; ++round) {
-        const QPointer<QObject> instance(m_loader.instance());
-        m_plugin = qobject_cast<IServicePlugin *>(instance.data());
-        QVERIFY(m_plugin != nullptr);
-        IService *service = m_plugin->createService(contact());
-        const std::unique_ptr<QWidget> card(askForTwoConferences(service)->widget);
-        QVERIFY(card != nullptr);
-        // Plugins that are gone build no cards any more.
-        QCOMPARE(cardsAlive(), 1);
-        m_plugin->releaseService(service);
-        m_plugin->uninit();
-        QVERIFY(m_loader.unload());
-        QVERIFY(instance.isNull());
-        // Its plugin is unloaded, but the host may still show it.
-        card->show();
-        QVERIFY(emitFromCard(card.get(), Reply(0, QString(), 3)));
-        ScriptedAbility::instance().reset();
-    }
-}
-
 QTEST_MAIN(TestLoadedPlugin)
-
 #include "tst_loadedplugin.moc"

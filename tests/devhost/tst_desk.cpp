@@ -3,7 +3,6 @@
 
 #include "knownnames.h"
 #include "realdesk.h"
-#include "stallmeter.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -16,58 +15,6 @@
 #include <iostream>
 
 using namespace devhost;
-
-namespace {
-
-constexpr int LongestWaitMsecs = 20000;
-
-/// How long after start() a window has painted for the first time.
-class PaintMeter : public QObject
-{
-public:
-    explicit PaintMeter(QWidget &window) { window.installEventFilter(this); }
-
-    void start()
-    {
-        m_msecs = 0;
-        m_timer.start();
-    }
-    double msecs() const { return m_msecs; }
-    /// In an event loop, which sleeps only while there is nothing to do.
-    bool wait()
-    {
-        QEventLoop loop;
-        m_loop = &loop;
-        QTimer::singleShot(LongestWaitMsecs, &loop, &QEventLoop::quit);
-        if (m_timer.isValid()) {
-            loop.exec();
-        }
-        m_loop = nullptr;
-        return m_msecs > 0;
-    }
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() != QEvent::UpdateRequest || !m_timer.isValid()) {
-            return false;
-        }
-        const bool isHandled = watched->event(event);
-        m_msecs = double(m_timer.nsecsElapsed()) / 1e6;
-        m_timer.invalidate();
-        if (m_loop != nullptr) {
-            m_loop->quit();
-        }
-        return isHandled;
-    }
-
-private:
-    QElapsedTimer m_timer;
-    double m_msecs = 0;
-    QEventLoop *m_loop = nullptr;
-};
-
-} // namespace
 
 /**
  * The whole desk: the real window with the real plugin and the real application on a bus of its own, used as
@@ -90,7 +37,6 @@ private Q_SLOTS:
     void statusLineTellsTheConferenceAndLeavesIt();
     void statusLineNeedsNoAdministration();
     void namesComeFromTheApplication();
-    void turnsAreFastAndTheWindowDoesNotStall();
 
 private:
     /// Clicks, and prints how long the window was busy with it.
@@ -353,53 +299,6 @@ void TestDesk::namesComeFromTheApplication()
     QVERIFY(names.firstNames(0).contains(QStringLiteral("开会王")));
     QVERIFY(RealDesk::loadSample());
     QTRY_VERIFY(!changed.last().first().toStringList().contains(QStringLiteral("哆啦")));
-}
-
-void TestDesk::turnsAreFastAndTheWindowDoesNotStall()
-{
-    constexpr int turns = 200;
-    QVector<double> understanding, plugin, request, reply, paint, total;
-    QElapsedTimer sinceEnter;
-    qint64 replied = 0;
-    PaintMeter paintMeter(m_desk->window());
-    connect(&m_desk->conversation(), &Conversation::replied, &m_desk->window(), [&] {
-        replied = sinceEnter.nsecsElapsed();
-        paintMeter.start();
-    });
-    StallMeter meter;
-    for (int i = 1; i <= turns; ++i) {
-        m_desk->window().input()->setText(QStringLiteral("查询今天的会议"));
-        QSignalSpy answered(&m_desk->conversation(), &Conversation::replied);
-        sinceEnter.start();
-        QTest::keyClick(m_desk->window().input(), Qt::Key_Return);
-        // Not QTRY_VERIFY, whose naps of ten milliseconds would count.
-        QVERIFY(!answered.isEmpty() || answered.wait(LongestWaitMsecs));
-        QVERIFY(paintMeter.wait());
-        QTRY_VERIFY(!m_desk->conversation().isBusy());
-        total << double(replied) / 1e6 + paintMeter.msecs();
-        const Turn turn = m_desk->conversation().turn(i);
-        QCOMPARE(turn.code, 0);
-        QCOMPARE(turn.calls.size(), 1);
-        understanding << turn.understandingMsecs;
-        plugin << turn.serviceMsecs - turn.requestMsecs();
-        request << turn.requestMsecs();
-        reply << turn.replyMsecs;
-        paint << paintMeter.msecs();
-    }
-    const auto figure = [](QVector<double> values) {
-        std::sort(values.begin(), values.end());
-        return QStringLiteral("median %1 ms, slowest %2 ms")
-            .arg(values.at(values.size() / 2), 0, 'f', 2)
-            .arg(values.last(), 0, 'f', 2);
-    };
-    std::cout << "understanding:            " << qUtf8Printable(figure(understanding)) << std::endl;
-    std::cout << "plugin and process check: " << qUtf8Printable(figure(plugin)) << std::endl;
-    std::cout << "request:                  " << qUtf8Printable(figure(request)) << std::endl;
-    std::cout << "reply and card:           " << qUtf8Printable(figure(reply)) << std::endl;
-    std::cout << "showing and painting:     " << qUtf8Printable(figure(paint)) << std::endl;
-    std::cout << "Enter to screen:          " << qUtf8Printable(figure(total)) << std::endl;
-    std::cout << "longest stall:            " << meter.longestMsecs() << " ms" << std::endl;
-    QVERIFY2(meter.longestMsecs() < 1000, qPrintable(QString::number(meter.longestMsecs())));
 }
 
 QTEST_MAIN(TestDesk)

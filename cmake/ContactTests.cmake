@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# contact_add_test(NAME SOURCES... LIBRARIES... [NO_TEST] [SCRIPTED_ABILITY])
-#   A QtTest program. With NO_TEST it is only built; add its runs with contact_add_test_run().
+# contact_add_test(NAME SOURCES... LIBRARIES... [NO_TEST] [OWN_LANGUAGE] [SCRIPTED_ABILITY])
+#   A QtTest program. The desk's window speaks Chinese in it unless it has its OWN_LANGUAGE. With NO_TEST it is only built; add its runs with contact_add_test_run().
 # contact_add_test_run(NAME TARGET t [AT "2026-03-07 10:20:00"] [TZ zone] [ENVIRONMENT var=value...] [COMMAND cmd...]
 #                      [ARGUMENTS ...] [LABELS ...] [TIMEOUT seconds] [SERIAL] [BUS] [EMPTY_BUS] [SCRIPTED_ABILITY])
 #   One run of such a program. AT sets the clock to that local time. BUS provides a private session bus, home and XDG folders,
@@ -23,7 +23,7 @@ if(CONTACT_PLATFORM STREQUAL bundled)
 endif()
 
 set(CONTACT_TEST_ENVIRONMENT
-    QT_QPA_PLATFORM=offscreen LANG=C.UTF-8 LC_ALL=C.UTF-8
+    QT_QPA_PLATFORM=offscreen LANG=C.UTF-8 LC_ALL=C.UTF-8 LANGUAGE=
     QT_SCALE_FACTOR=1
     # faketime is preloaded before the sanitizer's runtime.
     ASAN_OPTIONS=verify_asan_link_order=0:detect_leaks=1:new_delete_type_mismatch=1
@@ -34,11 +34,14 @@ set(CONTACT_TEST_ENVIRONMENT
     TSAN_OPTIONS=ignore_noninstrumented_modules=1)
 
 function(contact_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "NO_TEST;SCRIPTED_ABILITY" "" "SOURCES;LIBRARIES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "NO_TEST;OWN_LANGUAGE;SCRIPTED_ABILITY" "" "SOURCES;LIBRARIES")
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE Qt5::Test ${arg_LIBRARIES})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests/support)
     target_compile_definitions(${name} PRIVATE CONTACT_SOURCE_DIR="${CMAKE_SOURCE_DIR}" CONTACT_BINARY_DIR="${CMAKE_BINARY_DIR}")
+    if(NOT arg_OWN_LANGUAGE AND arg_LIBRARIES MATCHES "devhost_(window|service)")
+        target_sources(${name} PRIVATE $<TARGET_OBJECTS:chinese-desk>)
+    endif()
     if(NOT arg_NO_TEST)
         if(arg_SCRIPTED_ABILITY)
             set(ability SCRIPTED_ABILITY)

@@ -9,7 +9,8 @@ log=$root/build/setup.log
 
 # Needed to build and run.
 packages_run=(
-    cmake ninja-build g++ ccache qtbase5-dev qtbase5-dev-tools libqt5svg5 libqt5sql5-sqlite libqt5texttospeech5-dev
+    cmake ninja-build g++ ccache qtbase5-dev qtbase5-dev-tools qttools5-dev qttools5-dev-tools
+    qttranslations5-l10n libqt5svg5 libqt5sql5-sqlite libqt5texttospeech5-dev
     libkf5calendarcore-dev dbus dbus-daemon procps fonts-noto-cjk
 )
 # Also needed by the tests.

@@ -23,7 +23,6 @@ HostApplication::HostApplication(std::unique_ptr<Arguments> arguments)
 {
     setOrganizationName(DeskNames::Organization);
     setApplicationName(DeskNames::Application);
-    setApplicationDisplayName(QStringLiteral("语音助手"));
     setApplicationVersion(QStringLiteral(DEVHOST_VERSION));
     setDesktopFileName(QStringLiteral("speakmate-devhost"));
     setAttribute(Qt::AA_UseHighDpiPixmaps);

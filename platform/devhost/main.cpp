@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "abilitycall.h"
-#include "chinesetexts.h"
+#include "desklanguage.h"
 #include "hostapplication.h"
 #include "logrecorder.h"
 #include "options.h"
@@ -41,6 +41,41 @@ void complain(const QString &message)
     std::cerr << "speakmate-devhost: " << qUtf8Printable(message) << std::endl;
 }
 
+void complainOfUsage(const QString &message)
+{
+    complain(Options::tr("%1 See --help.").arg(message));
+}
+
+/// Chooses @p language first, so that what is wrong with the rest is said in it.
+Options readOptions(const QStringList &arguments, ProgramLanguage &language)
+{
+    language.followUser();
+    Options options = Options::read(arguments);
+    if (!options.isLanguageSet) {
+        return options;
+    }
+    if (language.choose(options.language)) {
+        return Options::read(arguments);
+    }
+    options.usageError = Options::tr("There is no translation to '%1'; --language takes one of: %2.")
+                             .arg(options.language, language.codes().join(QStringLiteral(", ")));
+    return options;
+}
+
+/// The window's application would end the process without a display, in English.
+int complainOfDisplay(const QStringList &arguments, char *programName)
+{
+    int count = 1;
+    char *values[] = {programName, nullptr};
+    const QCoreApplication application(count, values);
+    ProgramLanguage language = deskLanguage();
+    const QString usageError = readOptions(arguments, language).usageError;
+    complainOfUsage(usageError.isEmpty()
+                        ? Options::tr("There is no display to open a window on. Use --converse or --batch.")
+                        : usageError);
+    return WrongUsage;
+}
+
 void applyTheme(Options::Theme theme)
 {
     auto *helper = LGuiApplicationHelper::instance();
@@ -53,10 +88,6 @@ void applyTheme(Options::Theme theme)
 
 int run(const Options &options)
 {
-    ChineseTexts texts;
-    if (options.mode == Options::Mode::Window || options.mode == Options::Mode::Service) {
-        QCoreApplication::installTranslator(&texts);
-    }
     LogRecorder logs(options.isVerbose ? LogRecorder::Terminal::Verbose : LogRecorder::Terminal::Quiet);
     QLoggingCategory::setFilterRules(AbilityCall::category() + QStringLiteral(".debug=true"));
     PluginHost host;
@@ -87,15 +118,15 @@ int main(int argc, char **argv)
     const bool wantsWindow = Options::wantsWindow(arguments);
     choosePlatform(wantsWindow);
     if (wantsWindow && !isDisplayNamed()) {
-        complain(QStringLiteral(
-            "There is no display to open a window on. Use --converse or --batch; see --help."));
-        return WrongUsage;
+        return complainOfDisplay(arguments, argv[0]);
     }
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     const HostApplication application(argv[0]);
-    const Options options = Options::read(arguments);
+    ProgramLanguage language = deskLanguage();
+    const Options options = readOptions(arguments, language);
+    QGuiApplication::setApplicationDisplayName(HostApplication::tr("Voice Assistant"));
     if (!options.usageError.isEmpty()) {
-        complain(options.usageError + QStringLiteral(" See --help."));
+        complainOfUsage(options.usageError);
         return WrongUsage;
     }
     switch (options.mode) {

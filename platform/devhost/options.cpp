@@ -14,58 +14,57 @@ class Parser
 public:
     Parser()
     {
-        m_parser.setApplicationDescription(QStringLiteral(
-            "Development host for plugins of the voice assistant: a window to talk to a plugin "
-            "and to see what it does, or the same in a terminal."));
-        m_parser.addOptions(
-            {batch, converse, script, service, plugin, screenshots, contacts, theme, verbose, help, version});
-        m_parser.addPositionalArgument(
-            QStringLiteral("file"),
-            QStringLiteral("With --converse: the conversation to play. Without it, "
-                           "or with \"-\", sentences come from standard input."),
-            QStringLiteral("[file]"));
+        m_parser.setApplicationDescription(
+            Options::tr("Development host for plugins of the voice assistant: a window to talk to a plugin "
+                        "and to see what it does, or the same in a terminal."));
+        m_parser.addOptions({batch, converse, script, service, plugin, screenshots, contacts, theme, language,
+                             verbose, help, version});
+        m_parser.addPositionalArgument(QStringLiteral("file"),
+                                       Options::tr("With --converse: the conversation to play. Without it, "
+                                                   "or with \"-\", sentences come from standard input."),
+                                       QStringLiteral("[file]"));
     }
 
     QCommandLineParser *operator->() { return &m_parser; }
 
-    const QCommandLineOption batch{
-        QStringLiteral("batch"),
-        QStringLiteral("One semantic JSON per line in FILE (\"-\": standard input), "
-                       "one JSON reply per line on standard output."),
-        QStringLiteral("FILE")};
-    const QCommandLineOption converse{
-        QStringLiteral("converse"), QStringLiteral("A conversation in the terminal: one sentence or semantic "
-                                                   "JSON per line.")};
-    const QCommandLineOption script{
-        QStringLiteral("script"),
-        QStringLiteral("Play the conversation in FILE in the window; with "
-                       "--screenshots, picture the window after each turn and end."),
-        QStringLiteral("FILE")};
+    const QCommandLineOption batch{QStringLiteral("batch"),
+                                   Options::tr("One semantic JSON per line in FILE (\"-\": standard input), "
+                                               "one JSON reply per line on standard output."),
+                                   QStringLiteral("FILE")};
+    const QCommandLineOption converse{QStringLiteral("converse"),
+                                      Options::tr("A conversation in the terminal: one sentence or semantic "
+                                                  "JSON per line.")};
+    const QCommandLineOption script{QStringLiteral("script"),
+                                    Options::tr("Play the conversation in FILE in the window; with "
+                                                "--screenshots, picture the window after each turn and end."),
+                                    QStringLiteral("FILE")};
     const QCommandLineOption service{
         QStringLiteral("service"),
-        QStringLiteral("Serve the search of the desktop's launchers, without a window until a reply needs "
-                       "one.")};
+        Options::tr("Serve the search of the desktop's launchers, without a window until a reply needs "
+                    "one.")};
     const QCommandLineOption plugin{QStringLiteral("plugin"),
-                                    QStringLiteral("The plugin's file, or its name in the installed folder "
-                                                   "(contact-plugin unless told otherwise)."),
+                                    Options::tr("The plugin's file, or its name in the installed folder "
+                                                "(contact-plugin unless told otherwise)."),
                                     QStringLiteral("PATH"), QStringLiteral("contact-plugin")};
     const QCommandLineOption screenshots{QStringLiteral("screenshots"),
-                                         QStringLiteral("Write a PNG of every card to DIR."),
+                                         Options::tr("Write a PNG of every card to DIR."),
                                          QStringLiteral("DIR")};
-    const QCommandLineOption contacts{
-        QStringLiteral("contacts"), QStringLiteral("Names that sentences may mention, one per line of FILE."),
-        QStringLiteral("FILE")};
-    const QCommandLineOption theme{
-        QStringLiteral("theme"),
-        QStringLiteral("light, dark or system. The window remembers its own choice."),
-        QStringLiteral("THEME")};
-    const QCommandLineOption verbose{
-        QStringLiteral("verbose"),
-        QStringLiteral("Also write the log, the plugin's too, to standard error.")};
-    const QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
-                                  QStringLiteral("This text.")};
+    const QCommandLineOption contacts{QStringLiteral("contacts"),
+                                      Options::tr("Names that sentences may mention, one per line of FILE."),
+                                      QStringLiteral("FILE")};
+    const QCommandLineOption theme{QStringLiteral("theme"),
+                                   Options::tr("light, dark or system. The window remembers its own choice."),
+                                   QStringLiteral("THEME")};
+    const QCommandLineOption language{
+        QStringLiteral("language"),
+        Options::tr("The language of the window and of these texts, such as en or zh_CN; without it, the "
+                    "user's."),
+        QStringLiteral("CODE")};
+    const QCommandLineOption verbose{QStringLiteral("verbose"),
+                                     Options::tr("Also write the log, the plugin's too, to standard error.")};
+    const QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, Options::tr("This text.")};
     const QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")},
-                                     QStringLiteral("The version.")};
+                                     Options::tr("The version.")};
 
 private:
     QCommandLineParser m_parser;
@@ -115,7 +114,10 @@ Options Options::read(const QStringList &arguments)
 {
     Parser parser;
     Options options;
-    if (!parser->parse(arguments)) {
+    const bool isRead = parser->parse(arguments);
+    options.isLanguageSet = parser->isSet(parser.language);
+    options.language = parser->value(parser.language);
+    if (!isRead) {
         options.usageError = parser->errorText();
         return options;
     }
@@ -136,12 +138,11 @@ Options Options::read(const QStringList &arguments)
     const int modes = int(parser->isSet(parser.batch)) + int(parser->isSet(parser.converse)) +
                       int(parser->isSet(parser.script)) + int(parser->isSet(parser.service));
     if (modes > 1) {
-        options.usageError =
-            QStringLiteral("--batch, --converse, --script and --service exclude each other.");
+        options.usageError = tr("--batch, --converse, --script and --service exclude each other.");
     } else if (files.size() > (options.mode == Mode::Converse ? 1 : 0)) {
-        options.usageError = QStringLiteral("Unexpected argument '%1'.").arg(files.last());
+        options.usageError = tr("Unexpected argument '%1'.").arg(files.last());
     } else if (parser->isSet(parser.theme) && !readTheme(parser->value(parser.theme), options.theme)) {
-        options.usageError = QStringLiteral("--theme takes light, dark or system.");
+        options.usageError = tr("--theme takes light, dark or system.");
     }
     return options;
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -15,6 +16,9 @@ namespace devhost {
 /// The command line, read.
 struct Options
 {
+    Q_DECLARE_TR_FUNCTIONS(devhost::Options)
+
+public:
     enum class Mode { Window, Batch, Converse, Service, Help, Version };
     enum class Theme { Remembered, System, Light, Dark };
 
@@ -23,6 +27,8 @@ struct Options
     QString input;       ///< of Batch and Converse, and what Window plays; "-" is standard input
     QString screenshots; ///< a folder, or empty
     QString contacts;    ///< a file of known names, or empty
+    QString language;    ///< a code; see isLanguageSet
+    bool isLanguageSet = false;
     Theme theme = Theme::Remembered;
     bool isVerbose = false;
 

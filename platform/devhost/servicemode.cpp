@@ -32,12 +32,12 @@ ExitStatus runService(const Options &options, PluginHost &host, LogRecorder &log
 {
     QStringList names;
     if (!readContactNames(options.contacts, names)) {
-        return complain(WrongUsage, QStringLiteral("%1 cannot be read.").arg(options.contacts));
+        return complain(WrongUsage, Options::tr("%1 cannot be read.").arg(options.contacts));
     }
     QApplication::setQuitOnLastWindowClosed(false);
     LauncherBus bus;
     if (bus.connectToBus() != LauncherBus::Start::Done) {
-        return complain(SomethingBroken, QStringLiteral("There is no session bus."));
+        return complain(SomethingBroken, Options::tr("There is no session bus."));
     }
     Conversation conversation(host, logs);
     LauncherDesk desk(conversation, bus.bus());
@@ -51,10 +51,10 @@ ExitStatus runService(const Options &options, PluginHost &host, LogRecorder &log
     case LauncherBus::Start::Done:
         break;
     case LauncherBus::Start::AlreadyRunning:
-        return complain(EverythingAnswered, QStringLiteral("The launchers are served already."));
+        return complain(EverythingAnswered, Options::tr("The launchers are served already."));
     case LauncherBus::Start::NoBus:
     case LauncherBus::Start::Refused:
-        return complain(SomethingBroken, QStringLiteral("The session bus refuses the service."));
+        return complain(SomethingBroken, Options::tr("The session bus refuses the service."));
     }
     QTimer::singleShot(IdleMsecs, &desk, &warmUp);
     QApplication::exec();

@@ -66,7 +66,7 @@ ExitStatus runTextMode(const Options &options, PluginHost &host, LogRecorder &lo
         if (!file || file.peek() == std::ifstream::traits_type::eof()) {
             // A folder opens but cannot be read; an empty file is nothing to answer.
             if (!file.eof() || !QFile::exists(options.input)) {
-                complain(QStringLiteral("%1 cannot be read.").arg(options.input));
+                complain(Options::tr("%1 cannot be read.").arg(options.input));
                 return WrongUsage;
             }
         }
@@ -75,12 +75,12 @@ ExitStatus runTextMode(const Options &options, PluginHost &host, LogRecorder &lo
     std::istream &input = isStandardInput ? std::cin : file;
     const Screenshots screenshots(options.screenshots);
     if (!screenshots.prepare()) {
-        complain(QStringLiteral("The folder %1 cannot be made.").arg(options.screenshots));
+        complain(Options::tr("The folder %1 cannot be made.").arg(options.screenshots));
         return WrongUsage;
     }
     QStringList names;
     if (!readContactNames(options.contacts, names)) {
-        complain(QStringLiteral("%1 cannot be read.").arg(options.contacts));
+        complain(Options::tr("%1 cannot be read.").arg(options.contacts));
         return WrongUsage;
     }
 

@@ -49,15 +49,15 @@ int runWindow(const Options &options, PluginHost &host, LogRecorder &logs)
 {
     QStringList names;
     if (!readContactNames(options.contacts, names)) {
-        complain(QStringLiteral("%1 cannot be read.").arg(options.contacts));
+        complain(Options::tr("%1 cannot be read.").arg(options.contacts));
         return WrongUsage;
     }
     std::ifstream script;
     if (!options.input.isEmpty()) {
         script.open(QFile::encodeName(options.input).constData(), std::ios::binary);
         if (!script || (!options.screenshots.isEmpty() && !QDir().mkpath(options.screenshots))) {
-            complain(QStringLiteral("%1 cannot be read, or the folder for pictures not be made.")
-                         .arg(options.input));
+            complain(
+                Options::tr("%1 cannot be read, or the folder for pictures not be made.").arg(options.input));
             return WrongUsage;
         }
     }

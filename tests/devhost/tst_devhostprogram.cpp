@@ -209,7 +209,9 @@ void TestDevhostProgram::conversationIsPrinted()
 {
     const QByteArray input = "# a comment\n" + semantic("CARD", QStringLiteral("看卡片")).toUtf8() + "\n" +
                              semantic("ASKPASSWORD").toUtf8() + "\n";
-    const Run result = run(withPlugin({QStringLiteral("--converse")}), input);
+    const Run result =
+        run(withPlugin({QStringLiteral("--converse"), QStringLiteral("--language"), QStringLiteral("zh_CN")}),
+            input);
     QCOMPARE(result.status, 0);
     const QString printed = QString::fromUtf8(result.output.join('\n'));
     QVERIFY(printed.contains(QStringLiteral("语义 JSON CARD  ：你")));

@@ -5,7 +5,6 @@
 #include "applicationlink.h"
 #include "cardpicture.h"
 #include "cardsummary.h"
-#include "chinesetexts.h"
 #include "cleantext.h"
 #include "correction.h"
 #include "help.h"
@@ -52,7 +51,6 @@ private Q_SLOTS:
     void cardIsSummarisedRowByRow();
     void theHelpNamesThreePeople();
     void ofTooManyLogRecordsTheNewestStay();
-    void everyMessageIsThereInChinese();
     void silentBusKeepsNeitherTheDeskNorARequest();
 };
 
@@ -261,34 +259,6 @@ void TestHostPieces::ofTooManyLogRecordsTheNewestStay()
     QCOMPARE(records.first().text, QStringLiteral("1"));
     QCOMPARE(records.last().text, QString::number(most));
     QVERIFY(logs.take().isEmpty());
-}
-
-void TestHostPieces::everyMessageIsThereInChinese()
-{
-    const QRegularExpression call(QStringLiteral("\\bmessage\\(\\s*((?:\"(?:[^\"\\\\]|\\\\.)*\"\\s*)+)\\)"));
-    const QRegularExpression joint(QStringLiteral("\"\\s*\""));
-    const ChineseTexts texts;
-    int found = 0;
-    QDirIterator files(QStringLiteral(CONTACT_SOURCE_DIR "/platform/devhost"), {QStringLiteral("*.cpp")},
-                       QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        QFile file(files.next());
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        auto calls = call.globalMatch(QString::fromUtf8(file.readAll()));
-        while (calls.hasNext()) {
-            QString english = calls.next().captured(1).trimmed().remove(joint);
-            english =
-                english.mid(1, english.size() - 2).replace(QStringLiteral("\\\""), QStringLiteral("\""));
-            const QString chinese = texts.translate("devhost", english.toUtf8().constData());
-            QVERIFY2(!chinese.isEmpty(), qUtf8Printable(english));
-            for (int place = 1; place <= 3; ++place) {
-                const QString mark = QStringLiteral("%%1").arg(place);
-                QCOMPARE(chinese.contains(mark), english.contains(mark));
-            }
-            ++found;
-        }
-    }
-    QVERIFY2(found >= 20, qPrintable(QString::number(found)));
 }
 
 void TestHostPieces::silentBusKeepsNeitherTheDeskNorARequest()

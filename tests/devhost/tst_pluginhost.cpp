@@ -314,7 +314,7 @@ void TestPluginHost::coloursEndWithTheirLine()
         QVERIFY2(line.startsWith(QLatin1String("\033[")) && line.endsWith(QLatin1String("\033[0m")),
                  qPrintable(line));
     }
-    QVERIFY(output.str().find("\033[1m助手：好\033[0m") != std::string::npos);
+    QVERIFY(output.str().find("\033[1mAssistant: 好\033[0m") != std::string::npos);
     QVERIFY(output.str().find("\033[31m") != std::string::npos);
 }
 

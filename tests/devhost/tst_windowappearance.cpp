@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "cardsurround.h"
-#include "chinesetexts.h"
 #include "plugindesk.h"
 
 #include <lumo/lguiapplicationhelper.h>
@@ -14,7 +13,7 @@
 
 using namespace devhost;
 
-/// Theme, font size, widths and language of the window and the cards in it.
+/// Theme, font size and widths of the window and the cards in it.
 class TestWindowAppearance : public WindowTest
 {
     Q_OBJECT
@@ -26,7 +25,6 @@ private Q_SLOTS:
     void fontSizeReachesCardsAndInspector();
     void narrowWindowShowsCardsWhole();
     void disabledCardIsVeiledAndEveryCardHasAnEdge();
-    void windowSpeaksChinese();
 };
 
 void TestWindowAppearance::thousandsOfTurnsStayFluid()
@@ -196,33 +194,6 @@ void TestWindowAppearance::disabledCardIsVeiledAndEveryCardHasAnEdge()
     QCOMPARE(view.findChildren<CardSurround *>().size(), 2);
     delete below;
     QTRY_COMPARE(view.findChildren<CardSurround *>().size(), 1);
-}
-
-void TestWindowAppearance::windowSpeaksChinese()
-{
-    ChineseTexts texts;
-    QCoreApplication::installTranslator(&texts);
-    PluginHost nothing;
-    QVERIFY(!nothing.load(QStringLiteral("/nowhere.so")));
-    QCOMPARE(nothing.problem().toText(),
-             QStringLiteral("找不到插件 /nowhere.so。\n请检查 --plugin 后面的路径。"));
-    // Qt's own menus too.
-    PluginDesk desk;
-    const std::unique_ptr<QMenu> menu(desk.window.input()->createStandardContextMenu());
-    for (const QAction *action : menu->actions()) {
-        const QString text = action->text().section(QLatin1Char('\t'), 0, 0).section(QLatin1Char('('), 0, 0);
-        QVERIFY2(!text.contains(QRegularExpression(QStringLiteral("[A-Za-z]"))), qUtf8Printable(text));
-    }
-    // And every text that the window itself shows, but names of fields and what plugin authors call so.
-    for (const QLabel *label : desk.window.findChildren<QLabel *>()) {
-        QVERIFY2(!label->text().contains(QRegularExpression(QStringLiteral("[a-z]{2}"))),
-                 qUtf8Printable(label->text()));
-    }
-    for (const QAbstractButton *button : desk.window.findChildren<QAbstractButton *>()) {
-        QVERIFY2(!button->text().contains(QRegularExpression(QStringLiteral("[a-z]{2}"))),
-                 qUtf8Printable(button->text()));
-    }
-    QCoreApplication::removeTranslator(&texts);
 }
 
 QTEST_MAIN(TestWindowAppearance)

@@ -7,7 +7,6 @@
 #include "correction.h"
 #include "help.h"
 #include "logrecorder.h"
-#include "message.h"
 #include "secrets.h"
 
 #include <QDateTime>
@@ -29,7 +28,7 @@ constexpr int ShownInputLength = 2000;
 /// What the conversation shows for a semantic text, which is too long to read: the names of its intents.
 QString semanticTitle(const QString &semantic)
 {
-    QString title = QStringLiteral("语义 JSON");
+    QString title = Conversation::tr("Semantic JSON");
     const QJsonObject intent =
         QJsonDocument::fromJson(semantic.toUtf8()).object().value(QLatin1String("intent")).toObject();
     const QJsonArray items = intent.value(QLatin1String("semantic")).toArray();
@@ -108,7 +107,8 @@ int Conversation::enqueue(const QString &text, Form form, const QDateTime &when)
 {
     Turn turn;
     turn.id = ++m_lastId;
-    turn.said = isSentence(text, form) ? shownSentence(text) : semanticTitle(text);
+    turn.isSentence = isSentence(text, form);
+    turn.said = turn.isSentence ? shownSentence(text) : semanticTitle(text);
     m_turns.insert(turn.id, turn);
     m_turns.remove(turn.id - MostTurns);
     m_queue.enqueue({turn.id, text, form, when});
@@ -135,10 +135,12 @@ void Conversation::startNext()
         closeQuestion();
     }
     m_runningIsSentence = isSentence(input.text, input.form);
-    m_turns[m_running].state = Turn::Running;
+    Turn &running = m_turns[m_running];
+    running.isSentence = running.isSentence || m_runningIsSentence;
+    running.state = Turn::Running;
     Q_EMIT started(m_running);
     if (input.text.size() > LongestInput) {
-        end(message("The text is too long: %1 characters.").arg(input.text.size()));
+        end(tr("The text is too long: %1 characters.").arg(input.text.size()));
         return;
     }
     if (m_runningIsSentence && !m_dialogue.nextIsSecret() && help::isAskedFor(input.text)) {
@@ -207,7 +209,7 @@ void Conversation::takeResult(const TurnResult &result)
         m_dialogue.noteReply(turn.code, cleanText(result.reply.displayText.toString()));
     }
     if (result.isUnread() && turn.display.isEmpty()) {
-        end(message("The plugin cannot read this as a semantic JSON (service() answered -100)."));
+        end(tr("The plugin cannot read this as a semantic JSON (service() answered -100)."));
         return;
     }
     Q_EMIT replied(id, reply);

@@ -5,7 +5,6 @@
 
 #include "guarded.h"
 #include "mailbox.h"
-#include "message.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -49,9 +48,9 @@ bool PluginHost::load(const QString &plugin)
     const QString thrown = guarded([this, &root] { root = m_loader.instance(); });
     if (root == nullptr) {
         return fail(PluginProblem::CannotLoad,
-                    message("The plugin %1 cannot be loaded: %2")
+                    tr("The plugin %1 cannot be loaded: %2")
                         .arg(m_path, thrown.isEmpty() ? m_loader.errorString() : thrown),
-                    message("Install the libraries that it names; \"ldd\" lists those that are missing."));
+                    tr("Install the libraries that it names; \"ldd\" lists those that are missing."));
     }
     return start(root);
 }
@@ -77,9 +76,9 @@ bool PluginHost::find(const QString &plugin)
         file.setFile(QDir(installedFolder()), QStringLiteral("lib%1.so").arg(plugin));
     }
     if (!file.isFile()) {
-        return fail(PluginProblem::Missing, message("There is no plugin %1.").arg(file.filePath()),
-                    isName ? message("Install it there, or give its file with --plugin PATH.")
-                           : message("Check the path after --plugin."));
+        return fail(PluginProblem::Missing, tr("There is no plugin %1.").arg(file.filePath()),
+                    isName ? tr("Install it there, or give its file with --plugin PATH.")
+                           : tr("Check the path after --plugin."));
     }
     m_path = file.absoluteFilePath();
     return true;
@@ -90,16 +89,16 @@ bool PluginHost::check()
     m_loader.setFileName(m_path);
     const QJsonObject metaData = m_loader.metaData();
     if (metaData.isEmpty()) {
-        return fail(PluginProblem::NotAPlugin, message("%1 is no Qt plugin.").arg(m_path),
-                    message("Give the plugin's own file, such as libcontact-plugin.so; "
-                            "its class needs Q_PLUGIN_METADATA."));
+        return fail(PluginProblem::NotAPlugin, tr("%1 is no Qt plugin.").arg(m_path),
+                    tr("Give the plugin's own file, such as libcontact-plugin.so; "
+                       "its class needs Q_PLUGIN_METADATA."));
     }
     const QString interfaceId = metaData.value(QLatin1String("IID")).toString();
     if (interfaceId != QLatin1String(IServicePlugin_iid)) {
         return fail(PluginProblem::OtherInterface,
-                    message("The plugin %1 has the interface \"%2\"; this host speaks \"%3\".")
+                    tr("The plugin %1 has the interface \"%2\"; this host speaks \"%3\".")
                         .arg(m_path, interfaceId, QLatin1String(IServicePlugin_iid)),
-                    message("Build the plugin with this host's headers, or use the host it was built for."));
+                    tr("Build the plugin with this host's headers, or use the host it was built for."));
     }
     return true;
 }
@@ -109,8 +108,8 @@ bool PluginHost::start(QObject *root)
     auto *plugin = qobject_cast<IServicePlugin *>(root);
     if (plugin == nullptr) {
         return fail(PluginProblem::OtherInterface,
-                    message("The root object of %1 is no IServicePlugin.").arg(m_path),
-                    message("Its class needs Q_INTERFACES(IServicePlugin)."));
+                    tr("The root object of %1 is no IServicePlugin.").arg(m_path),
+                    tr("Its class needs Q_INTERFACES(IServicePlugin)."));
     }
     int code = 0;
     QStringList names;
@@ -121,17 +120,16 @@ bool PluginHost::start(QObject *root)
         }
     });
     if (!thrown.isEmpty() || code != 0) {
-        return fail(
-            PluginProblem::InitFailed,
-            thrown.isEmpty()
-                ? message("The plugin %1 failed to start: init() answered %2.").arg(m_path).arg(code)
-                : message("The plugin %1 failed to start: init() threw %2.").arg(m_path, thrown),
-            message("A missing or broken configuration file is the usual cause; the contact plugin reads "
-                    "/etc/xdg/kelvane-speakmate-plugins/contact-plugin.json. --verbose shows its log."));
+        return fail(PluginProblem::InitFailed,
+                    thrown.isEmpty()
+                        ? tr("The plugin %1 failed to start: init() answered %2.").arg(m_path).arg(code)
+                        : tr("The plugin %1 failed to start: init() threw %2.").arg(m_path, thrown),
+                    tr("A missing or broken configuration file is the usual cause; the contact plugin reads "
+                       "/etc/xdg/kelvane-speakmate-plugins/contact-plugin.json. --verbose shows its log."));
     }
     if (names.isEmpty()) {
-        return fail(PluginProblem::NoService, message("The plugin %1 offers no service.").arg(m_path),
-                    message("Its getSupportService() has to name at least one."));
+        return fail(PluginProblem::NoService, tr("The plugin %1 offers no service.").arg(m_path),
+                    tr("Its getSupportService() has to name at least one."));
     }
     m_plugin = plugin;
     m_serviceName = names.first();

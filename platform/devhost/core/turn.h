@@ -19,9 +19,10 @@ struct Turn
 
     int id = 0; ///< counts from 1
     State state = Queued;
-    QString said;     ///< as it is shown
-    QString semantic; ///< as the inspector shows it
-    int status = 0;   ///< of service()
+    bool isSentence = true; ///< not semantic JSON, sent as it was
+    QString said;           ///< as it is shown
+    QString semantic;       ///< as the inspector shows it
+    int status = 0;         ///< of service()
     int code = 0;
     QString display;
     QString speech;

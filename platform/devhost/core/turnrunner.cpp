@@ -4,7 +4,6 @@
 #include "turnrunner.h"
 
 #include "guarded.h"
-#include "message.h"
 
 #include <QElapsedTimer>
 
@@ -39,8 +38,7 @@ void TurnRunner::run(const QString &semantic)
     m_service = m_host.createService();
     if (m_service == nullptr) {
         TurnResult result;
-        result.failure =
-            m_host.isLoaded() ? message("The plugin gave no service.") : message("No plugin is loaded.");
+        result.failure = m_host.isLoaded() ? tr("The plugin gave no service.") : tr("No plugin is loaded.");
         QMetaObject::invokeMethod(
             this, [this, result] { finish(result); }, Qt::QueuedConnection);
         return;
@@ -63,7 +61,7 @@ void TurnRunner::call(IService &service, const QString &semantic, TurnResult &re
     const QString thrown = guarded([&] { result.status = service.service(semantic); });
     result.serviceMsecs = msecsOf(timer);
     if (!thrown.isEmpty()) {
-        result.failure = message("The plugin's service() threw: %1").arg(thrown);
+        result.failure = tr("The plugin's service() threw: %1").arg(thrown);
     }
 }
 
@@ -75,9 +73,9 @@ void TurnRunner::fetchReply(TurnResult result)
         const Reply *reply = nullptr;
         const QString thrown = guarded([this, &reply] { reply = m_service->getServiceReply(); });
         if (!thrown.isEmpty()) {
-            result.failure = message("The plugin's getServiceReply() threw: %1").arg(thrown);
+            result.failure = tr("The plugin's getServiceReply() threw: %1").arg(thrown);
         } else if (reply == nullptr) {
-            result.failure = message("The plugin's getServiceReply() gave no reply.");
+            result.failure = tr("The plugin's getServiceReply() gave no reply.");
         } else {
             result.reply = *reply;
         }

@@ -20,7 +20,7 @@ KRunnerRequests::KRunnerRequests(LauncherDesk &desk, QObject *parent) : QObject(
 
 KRunnerActions KRunnerRequests::Actions()
 {
-    return {{WindowAction, QStringLiteral("在语音助手的窗口中执行"), QStringLiteral("window-new")}};
+    return {{WindowAction, tr("Run in the voice assistant's window"), QStringLiteral("window-new")}};
 }
 
 KRunnerMatches KRunnerRequests::Match(const QString &query)
@@ -29,7 +29,7 @@ KRunnerMatches KRunnerRequests::Match(const QString &query)
     if (act.isEmpty()) {
         return {};
     }
-    const QVariantMap properties{{QStringLiteral("category"), QStringLiteral("语音助手")},
+    const QVariantMap properties{{QStringLiteral("category"), tr("Voice Assistant")},
                                  {QStringLiteral("actions"), QStringList{WindowAction}}};
     return {{act.id, act.line, Icon, ExactMatch, 1.0, properties}};
 }

@@ -18,7 +18,7 @@ const QLatin1String Click("default");
 LauncherDesk::LauncherDesk(Conversation &conversation, const QDBusConnection &bus, QObject *parent)
     : QObject(parent)
     , m_conversation(conversation)
-    , m_notifier(bus, {QStringLiteral("语音助手"), QStringLiteral("speakmate-devhost"),
+    , m_notifier(bus, {tr("Voice Assistant"), QStringLiteral("speakmate-devhost"),
                        QStringLiteral("speakmate-devhost")})
 {
     connect(&m_conversation, &Conversation::finished, this,
@@ -44,7 +44,7 @@ void LauncherDesk::run(const QString &id, Place place)
 {
     const LauncherAct act = m_matcher.take(id);
     if (act.isEmpty()) {
-        notify(QStringLiteral("没有执行"), QStringLiteral("这一条已经失效，请重新输入。"));
+        notify(tr("Not carried out"), tr("This entry has expired; please type it again."));
         return;
     }
     // Cards belong to the window from the start, shown or not.
@@ -86,7 +86,7 @@ void LauncherDesk::notify(const QString &title, const QString &text)
     Notification notification;
     notification.summary = title;
     notification.body = text;
-    notification.actions = QStringList{Click, QStringLiteral("打开")};
+    notification.actions = QStringList{Click, tr("Open")};
     m_notifier.show(notification, [this](Notifier::Result result, quint32 id) {
         if (result == Notifier::Result::Shown) {
             m_notifications.insert(id);

@@ -29,7 +29,7 @@ SearchMetas SearchRequests::GetResultMetas(const QStringList &results)
         if (!act.isEmpty()) {
             metas.append({{QStringLiteral("id"), act.id},
                           {QStringLiteral("name"), act.line},
-                          {QStringLiteral("description"), QStringLiteral("语音助手")},
+                          {QStringLiteral("description"), tr("Voice Assistant")},
                           {QStringLiteral("gicon"), QStringLiteral("speakmate-devhost")}});
         }
     }

@@ -22,8 +22,10 @@ Batch::Batch(PluginHost &host, const Streams &streams, const Screenshots &screen
         const QString picture = QStringLiteral("line-%1-later-%2")
                                     .arg(m_reader.lineNumber(), 4, 10, QLatin1Char('0'))
                                     .arg(++m_laterReplies);
-        m_streams.errors << "line " << m_reader.lineNumber()
-                         << ": later reply: " << describe(reply, picture).constData() << std::endl;
+        m_streams.errors << qUtf8Printable(tr("line %1: later reply: %2")
+                                               .arg(m_reader.lineNumber())
+                                               .arg(QString::fromUtf8(describe(reply, picture))))
+                         << std::endl;
     });
 }
 
@@ -36,10 +38,10 @@ void Batch::next()
             finish();
             return;
         case LineReader::TooLong:
-            complain(QStringLiteral("longer than 1 MiB, skipped"));
+            complain(tr("longer than 1 MiB, skipped"));
             continue;
         case LineReader::NotUtf8:
-            complain(QStringLiteral("not UTF-8, skipped"));
+            complain(tr("not UTF-8, skipped"));
             continue;
         case LineReader::Line:
             break;
@@ -61,9 +63,9 @@ bool Batch::isSemantic(const QString &line, QString &reason)
     QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(line.toUtf8(), &error);
     if (error.error != QJsonParseError::NoError) {
-        reason = QStringLiteral("not JSON: %1 at byte %2").arg(error.errorString()).arg(error.offset);
+        reason = tr("not JSON: %1 at byte %2").arg(error.errorString()).arg(error.offset);
     } else if (!document.isObject()) {
-        reason = QStringLiteral("not a JSON object");
+        reason = tr("not a JSON object");
     }
     return reason.isEmpty();
 }
@@ -74,7 +76,7 @@ void Batch::answer(const TurnResult &result)
         complain(result.failure);
     } else {
         if (result.isUnread()) {
-            complain(QStringLiteral("the plugin cannot read this as a semantic (service() answered -100)"));
+            complain(tr("the plugin cannot read this as a semantic (service() answered -100)"));
         }
         const QString picture = QStringLiteral("line-%1").arg(m_reader.lineNumber(), 4, 10, QLatin1Char('0'));
         m_streams.output << describe(result.reply, picture).constData() << std::endl;
@@ -91,8 +93,7 @@ QByteArray Batch::describe(const Reply &reply, const QString &pictureName)
     CardNote note;
     note.screenshot = m_screenshots.take(*card, pictureName);
     if (m_screenshots.isOn() && note.screenshot.isEmpty()) {
-        complain(
-            QStringLiteral("the picture of the card could not be written to %1").arg(m_screenshots.folder()));
+        complain(tr("the picture of the card could not be written to %1").arg(m_screenshots.folder()));
     }
     note.className = QString::fromLatin1(card->metaObject()->className());
     note.width = card->width();

@@ -21,7 +21,7 @@ void LineMode::start()
 void LineMode::complain(const QString &message)
 {
     m_status = SomethingBroken;
-    m_errors << "line " << m_reader.lineNumber() << ": " << qUtf8Printable(message) << std::endl;
+    m_errors << qUtf8Printable(tr("line %1: %2").arg(m_reader.lineNumber()).arg(message)) << std::endl;
 }
 
 } // namespace devhost

@@ -49,7 +49,7 @@ TerminalConversation::TerminalConversation(Conversation &conversation, const Ter
     });
     connect(&m_conversation, &Conversation::failed, this, [this](int, const QString &reason) {
         m_status = SomethingBroken;
-        printLine(FailureColour, QStringLiteral("  ！ ") + reason);
+        printLine(FailureColour, tr("  ! %1").arg(reason));
     });
     connect(&m_conversation, &Conversation::idle, this, &TerminalConversation::next);
 }
@@ -58,7 +58,8 @@ void TerminalConversation::next()
 {
     for (;;) {
         if (m_terminal.isPrompting) {
-            m_terminal.output << (m_conversation.expectsSecret() ? "密码> " : "你> ") << std::flush;
+            const QString prompt = m_conversation.expectsSecret() ? tr("Password> ") : tr("You> ");
+            m_terminal.output << qUtf8Printable(prompt) << std::flush;
         }
         QString line;
         const std::unique_ptr<EchoOff> echoOff =
@@ -69,8 +70,8 @@ void TerminalConversation::next()
             return;
         }
         if (outcome != LineReader::Line) {
-            complain(outcome == LineReader::TooLong ? QStringLiteral("longer than 1 MiB, skipped")
-                                                    : QStringLiteral("not UTF-8, skipped"));
+            complain(outcome == LineReader::TooLong ? tr("longer than 1 MiB, skipped")
+                                                    : tr("not UTF-8, skipped"));
             continue;
         }
         line = line.trimmed();
@@ -85,7 +86,7 @@ void TerminalConversation::next()
 void TerminalConversation::printSaid(int turn)
 {
     m_terminal.output << '\n';
-    QString label = QStringLiteral("  ：你");
+    QString label = tr("  : You");
     const QStringList said = wrapped(m_conversation.turn(turn).said, TextColumns);
     for (const QString &line : said) {
         const int indent = qMax(0, Columns - terminalWidth(line) - terminalWidth(label));
@@ -101,8 +102,11 @@ void TerminalConversation::printReply(int turn, const Reply &reply, const QStrin
     if (code != 0) {
         lines.last() += QStringLiteral("  (%1)").arg(code);
     }
-    for (int i = 0; i < lines.size(); ++i) {
-        printLine(ReplyColour, (i == 0 ? QStringLiteral("助手：") : QStringLiteral("      ")) + lines.at(i));
+    QString label = tr("Assistant: ");
+    const QString indent(terminalWidth(label), QLatin1Char(' '));
+    for (const QString &line : qAsConst(lines)) {
+        printLine(ReplyColour, label + line);
+        label = indent;
     }
 
     const std::unique_ptr<QWidget> card(cardOf(reply));
@@ -112,14 +116,13 @@ void TerminalConversation::printReply(int turn, const Reply &reply, const QStrin
     const QString picture = m_screenshots.take(*card, pictureName);
     const QStringList summary = cardSummary(*card);
     for (const QString &line : summary) {
-        printLine(CardColour, QStringLiteral("      │ ") + line);
+        printLine(CardColour, indent + QStringLiteral("│ ") + line);
     }
     if (!picture.isEmpty()) {
-        printLine(CardColour, QStringLiteral("      └ %1/%2").arg(m_screenshots.folder(), picture));
+        printLine(CardColour, indent + QStringLiteral("└ %1/%2").arg(m_screenshots.folder(), picture));
     } else if (m_screenshots.isOn()) {
-        complain(QStringLiteral("the picture of turn %1 could not be written to %2")
-                     .arg(turn)
-                     .arg(m_screenshots.folder()));
+        complain(
+            tr("the picture of turn %1 could not be written to %2").arg(turn).arg(m_screenshots.folder()));
     }
 }
 

@@ -6,6 +6,7 @@
 #include "appearance.h"
 
 #include <QActionGroup>
+#include <QCoreApplication>
 #include <QMenu>
 
 namespace devhost {
@@ -18,9 +19,10 @@ void buildThemeMenu(QMenu &menu, Appearance &appearance)
     {
         QString text;
         Appearance::Theme theme;
-    } themes[] = {{QStringLiteral("跟随系统"), Appearance::System},
-                  {QStringLiteral("浅色"), Appearance::Light},
-                  {QStringLiteral("深色"), Appearance::Dark}};
+    } themes[] = {
+        {QCoreApplication::translate("devhost::AppearanceMenus", "Follow the System"), Appearance::System},
+        {QCoreApplication::translate("devhost::AppearanceMenus", "Light"), Appearance::Light},
+        {QCoreApplication::translate("devhost::AppearanceMenus", "Dark"), Appearance::Dark}};
     auto *group = new QActionGroup(&menu);
     for (const auto &entry : themes) {
         QAction *action = menu.addAction(entry.text);
@@ -35,22 +37,26 @@ void buildThemeMenu(QMenu &menu, Appearance &appearance)
 void buildFontMenu(QMenu &menu, Appearance &appearance)
 {
     menu.addAction(
-        QStringLiteral("放大"), &menu, [&appearance] { appearance.setFontStep(appearance.fontStep() + 1); },
+        QCoreApplication::translate("devhost::AppearanceMenus", "Larger"), &menu,
+        [&appearance] { appearance.setFontStep(appearance.fontStep() + 1); },
         QKeySequence(QKeySequence::ZoomIn));
     menu.addAction(
-        QStringLiteral("缩小"), &menu, [&appearance] { appearance.setFontStep(appearance.fontStep() - 1); },
+        QCoreApplication::translate("devhost::AppearanceMenus", "Smaller"), &menu,
+        [&appearance] { appearance.setFontStep(appearance.fontStep() - 1); },
         QKeySequence(QKeySequence::ZoomOut));
     menu.addAction(
-        QStringLiteral("原来大小"), &menu, [&appearance] { appearance.setFontStep(0); },
-        QKeySequence(int(Qt::CTRL) + int(Qt::Key_0)));
+        QCoreApplication::translate("devhost::AppearanceMenus", "Original Size"), &menu,
+        [&appearance] { appearance.setFontStep(0); }, QKeySequence(int(Qt::CTRL) + int(Qt::Key_0)));
 }
 
 } // namespace
 
 void addAppearanceMenus(QMenu &menu, Appearance &appearance)
 {
-    buildThemeMenu(*menu.addMenu(QStringLiteral("主题(&T)")), appearance);
-    buildFontMenu(*menu.addMenu(QStringLiteral("字号(&F)")), appearance);
+    buildThemeMenu(*menu.addMenu(QCoreApplication::translate("devhost::AppearanceMenus", "&Theme")),
+                   appearance);
+    buildFontMenu(*menu.addMenu(QCoreApplication::translate("devhost::AppearanceMenus", "&Font Size")),
+                  appearance);
 }
 
 } // namespace devhost

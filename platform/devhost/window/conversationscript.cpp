@@ -6,6 +6,7 @@
 #include "conversation.h"
 #include "windowscript.h"
 
+#include <QCoreApplication>
 #include <QJsonDocument>
 
 namespace devhost {
@@ -16,15 +17,20 @@ constexpr QChar Blot(0x2022);
 
 QString lineOf(const Turn &turn)
 {
-    const bool isSentence = !turn.said.startsWith(QStringLiteral("语义 JSON"));
+    const bool isSentence = turn.isSentence;
     const QString text = isSentence ? turn.said : turn.semantic;
     if (text.contains(Blot)) {
-        return QStringLiteral("# 这里输入过密码，没有保存");
+        return QCoreApplication::translate("devhost::ConversationScript",
+                                           "# A password was entered here; it is not saved");
     }
     const QJsonDocument json = QJsonDocument::fromJson(text.toUtf8());
     const QString line =
         json.isNull() ? text.simplified() : QString::fromUtf8(json.toJson(QJsonDocument::Compact));
-    return WindowScript::isSaid(line) ? line : QStringLiteral("# 这一句在脚本里会被当作注释或点击，没有保存");
+    return WindowScript::isSaid(line)
+               ? line
+               : QCoreApplication::translate(
+                     "devhost::ConversationScript",
+                     "# A sentence that a script would take for a comment or a click is not saved");
 }
 
 } // namespace

@@ -40,7 +40,7 @@ ConversationView::ConversationView(QWidget *parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::StrongFocus);
     setMinimumWidth(NarrowestCard + 2 * Margin + verticalScrollBar()->sizeHint().width());
-    setAccessibleName(QStringLiteral("对话"));
+    setAccessibleName(tr("Conversation"));
     setViewport(new ConversationPage(*this));
     m_dots->setParent(viewport());
     viewport()->setBackgroundRole(QPalette::Window);

@@ -17,8 +17,8 @@ constexpr int PressedFactor = 114;
 
 EndButton::EndButton(QWidget *parent) : QAbstractButton(parent)
 {
-    setToolTip(QStringLiteral("回到最新"));
-    setAccessibleName(QStringLiteral("回到最新"));
+    setToolTip(tr("Back to the latest turn"));
+    setAccessibleName(tr("Back to the latest turn"));
     setCursor(Qt::PointingHandCursor);
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::TabFocus); // its click hides it, and would hand the focus on

@@ -9,7 +9,7 @@ namespace devhost {
 
 InputLine::InputLine(QWidget *parent) : QLineEdit(parent)
 {
-    setAccessibleName(QStringLiteral("输入"));
+    setAccessibleName(tr("Input"));
     setClearButtonEnabled(true);
     setMaxLength(1 << 20);
     setSecret(false);
@@ -25,7 +25,7 @@ QString InputLine::takeText()
 void InputLine::setSecret(bool isSecret)
 {
     setEchoMode(isSecret ? QLineEdit::Password : QLineEdit::Normal);
-    setPlaceholderText(isSecret ? QStringLiteral("请输入密码") : QStringLiteral("对助手说点什么…"));
+    setPlaceholderText(isSecret ? tr("Please enter the password") : tr("Say something to the assistant…"));
 }
 
 void InputLine::keyPressEvent(QKeyEvent *event)

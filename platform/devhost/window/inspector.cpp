@@ -42,26 +42,26 @@ Inspector::Inspector(QWidget *parent)
     , m_logFilter(new QLineEdit(this))
 {
     m_title->setTextFormat(Qt::PlainText);
-    m_title->setText(QStringLiteral("还没有对话"));
-    auto *copyButton = new QPushButton(QStringLiteral("复制"), this);
-    copyButton->setToolTip(QStringLiteral("复制这一页的全部内容"));
+    m_title->setText(tr("No conversation yet"));
+    auto *copyButton = new QPushButton(tr("Copy"), this);
+    copyButton->setToolTip(tr("Copy everything on this page"));
     connect(copyButton, &QPushButton::clicked, this, &Inspector::copyShown);
     m_tabs->setDocumentMode(true);
-    m_semantic = addTextTab(QStringLiteral("语义"), QStringLiteral("inspectorSemantic"));
-    m_requests = addTextTab(QStringLiteral("请求"), QStringLiteral("inspectorRequests"));
-    m_reply = addTextTab(QStringLiteral("回复"), QStringLiteral("inspectorReply"));
+    m_semantic = addTextTab(tr("Semantic"), QStringLiteral("inspectorSemantic"));
+    m_requests = addTextTab(tr("Requests"), QStringLiteral("inspectorRequests"));
+    m_reply = addTextTab(tr("Reply"), QStringLiteral("inspectorReply"));
     m_log = makeEdit(QStringLiteral("inspectorLog"), m_tabs);
     m_log->setReadOnly(true);
-    m_log->setAccessibleName(QStringLiteral("日志"));
-    m_tabs->addTab(makeLogTab(), QStringLiteral("日志"));
+    m_log->setAccessibleName(tr("Log"));
+    m_tabs->addTab(makeLogTab(), tr("Log"));
     m_entry = makeEdit(QStringLiteral("inspectorEntry"), this);
-    m_tabs->addTab(makeSendTab(), QStringLiteral("发送"));
+    m_tabs->addTab(makeSendTab(), tr("Send"));
 
     for (QPlainTextEdit *edit : {m_semantic, m_requests, m_entry}) {
         new JsonHighlighter(edit->document());
     }
     m_search->setObjectName(QStringLiteral("inspectorSearch"));
-    m_search->setPlaceholderText(QStringLiteral("在这一页中查找"));
+    m_search->setPlaceholderText(tr("Find on this page"));
     m_search->setAccessibleName(m_search->placeholderText());
     m_search->setClearButtonEnabled(true);
     // While one types, what is marked already may still be the right place; Return goes on to the next one.
@@ -85,7 +85,7 @@ QWidget *Inspector::makeLogTab()
 {
     auto *page = new QWidget(m_tabs);
     m_logFilter->setObjectName(QStringLiteral("inspectorLogFilter"));
-    m_logFilter->setPlaceholderText(QStringLiteral("只显示包含这些文字的记录"));
+    m_logFilter->setPlaceholderText(tr("Show only records with these words"));
     m_logFilter->setAccessibleName(m_logFilter->placeholderText());
     m_logFilter->setClearButtonEnabled(true);
     connect(m_logFilter, &QLineEdit::textChanged, this, &Inspector::filterLog);
@@ -164,9 +164,9 @@ QPlainTextEdit *Inspector::addTextTab(const QString &title, const QString &name)
 QWidget *Inspector::makeSendTab()
 {
     auto *page = new QWidget(m_tabs);
-    m_entry->setPlaceholderText(QStringLiteral("在这里粘贴语义 JSON，原样发送给插件"));
-    m_entry->setAccessibleName(QStringLiteral("语义 JSON"));
-    auto *button = new LSuggestButton(QStringLiteral("发送"), page);
+    m_entry->setPlaceholderText(tr("Paste semantic JSON here; the plugin gets it as it is"));
+    m_entry->setAccessibleName(tr("Semantic JSON"));
+    auto *button = new LSuggestButton(tr("Send"), page);
     button->setObjectName(QStringLiteral("inspectorSend"));
     connect(button, &QPushButton::clicked, this, &Inspector::send);
     auto *layout = new QVBoxLayout(page);
@@ -179,7 +179,7 @@ QWidget *Inspector::makeSendTab()
 void Inspector::show(const Turn &turn)
 {
     m_turn = turn.id;
-    m_title->setText(QStringLiteral("第 %1 轮").arg(turn.id));
+    m_title->setText(tr("Turn %1").arg(turn.id));
     m_semantic->setPlainText(turntexts::semantic(turn));
     m_requests->setPlainText(turntexts::requests(turn));
     m_reply->setPlainText(turntexts::reply(turn));

@@ -58,11 +58,11 @@ MainWindow::MainWindow(Conversation &conversation, Appearance &appearance, QWidg
     , m_pages(new QStackedWidget)
     , m_view(new ConversationView)
     , m_input(new InputLine)
-    , m_send(new LSuggestButton(QStringLiteral("发送")))
+    , m_send(new LSuggestButton(tr("Send")))
     , m_splitter(new QSplitter)
     , m_inspector(new Inspector)
 {
-    setWindowTitle(QStringLiteral("语音助手 · 插件开发"));
+    setWindowTitle(tr("Voice Assistant · Plugin Development"));
     build();
     buildMenus();
     follow();
@@ -113,41 +113,39 @@ void MainWindow::build()
 
 void MainWindow::buildMenus()
 {
-    QMenu *talk = menuBar()->addMenu(QStringLiteral("对话(&D)"));
-    talk->addAction(QStringLiteral("新对话(&N)"), this, &MainWindow::startOver,
-                    QKeySequence(QKeySequence::New));
-    talk->addAction(QStringLiteral("打开联系人应用(&C)"), m_application, &ApplicationLink::openWindow,
+    QMenu *talk = menuBar()->addMenu(tr("&Conversation"));
+    talk->addAction(tr("&New Conversation"), this, &MainWindow::startOver, QKeySequence(QKeySequence::New));
+    talk->addAction(tr("Open &Contacts"), m_application, &ApplicationLink::openWindow,
                     QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O));
-    talk->addAction(QStringLiteral("保存为脚本(&S)…"), this, &MainWindow::saveScript,
-                    QKeySequence(QKeySequence::Save));
+    talk->addAction(tr("&Save as Script…"), this, &MainWindow::saveScript, QKeySequence(QKeySequence::Save));
     talk->addSeparator();
-    talk->addAction(QStringLiteral("到最新一轮(&E)"), m_view, &ConversationView::scrollToEnd,
+    talk->addAction(tr("Go to the &Latest Turn"), m_view, &ConversationView::scrollToEnd,
                     QKeySequence(int(Qt::CTRL) + int(Qt::Key_End)));
     talk->addSeparator();
-    talk->addAction(QStringLiteral("退出(&Q)"), this, &QWidget::close, QKeySequence(QKeySequence::Quit));
+    talk->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(QKeySequence::Quit));
 
-    QMenu *view = menuBar()->addMenu(QStringLiteral("视图(&V)"));
-    m_inspectorAction = view->addAction(QStringLiteral("检查器(&I)"));
+    QMenu *view = menuBar()->addMenu(tr("&View"));
+    m_inspectorAction = view->addAction(tr("&Inspector"));
     m_inspectorAction->setCheckable(true);
     m_inspectorAction->setShortcut(Qt::Key_F12);
     connect(m_inspectorAction, &QAction::toggled, m_inspector, &QWidget::setVisible);
     view->addSeparator();
     addAppearanceMenus(*view, m_appearance);
     view->addSeparator();
-    m_speechAction = view->addAction(QStringLiteral("朗读回复(&S)"));
+    m_speechAction = view->addAction(tr("&Read Replies Aloud"));
     m_speechAction->setCheckable(true);
     m_speechAction->setEnabled(Speaker::isAvailable());
     connect(m_speechAction, &QAction::toggled, m_speaker, &Speaker::setOn);
 
-    QMenu *help = menuBar()->addMenu(QStringLiteral("帮助(&H)"));
+    QMenu *help = menuBar()->addMenu(tr("&Help"));
     help->addAction(
-        QStringLiteral("可以说什么(&W)"), this, [this] { submit(QStringLiteral("你会什么")); },
+        tr("&What Can I Say?"), this, [this] { submit(QStringLiteral("你会什么")); },
         QKeySequence(QKeySequence::HelpContents));
-    help->addAction(QStringLiteral("关于(&A)"), this, [this] {
-        auto *box = new QMessageBox(
-            QMessageBox::NoIcon, QStringLiteral("关于"),
-            QStringLiteral("语音助手插件的开发主机 %1").arg(QApplication::applicationVersion()),
-            QMessageBox::Ok, this);
+    help->addAction(tr("&About"), this, [this] {
+        auto *box = new QMessageBox(QMessageBox::NoIcon, tr("About"),
+                                    tr("Development host for plugins of the voice assistant, version %1")
+                                        .arg(QApplication::applicationVersion()),
+                                    QMessageBox::Ok, this);
         box->setAttribute(Qt::WA_DeleteOnClose);
         box->open();
     });
@@ -155,7 +153,7 @@ void MainWindow::buildMenus()
 
 void MainWindow::saveScript()
 {
-    auto *dialog = new QFileDialog(this, QStringLiteral("把对话保存为脚本"));
+    auto *dialog = new QFileDialog(this, tr("Save the Conversation as a Script"));
     dialog->setObjectName(QStringLiteral("saveScript"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
@@ -164,7 +162,7 @@ void MainWindow::saveScript()
         QSaveFile file(path);
         if (!file.open(QIODevice::WriteOnly) || file.write(scriptOf(m_conversation).toUtf8()) < 0 ||
             !file.commit()) {
-            showProblem(QStringLiteral("无法写入 %1。").arg(path));
+            showProblem(tr("Cannot write %1.").arg(path));
         }
     });
     dialog->open();
@@ -238,8 +236,9 @@ void MainWindow::followApplication()
         m_status->show(m_application->state());
         m_conversation.setHelpNames(m_application->state().names);
     });
-    connect(m_application, &ApplicationLink::windowRefused, this,
-            [this] { showProblem(QStringLiteral("联系人应用没有回答，窗口无法打开。")); });
+    connect(m_application, &ApplicationLink::windowRefused, this, [this] {
+        showProblem(tr("The contacts application does not answer, so its window cannot be opened."));
+    });
     connect(m_status, &StatusLine::leaveWanted, this, [this] { submit(QStringLiteral("退出会议")); });
     connect(&m_conversation, &Conversation::idle, m_application, &ApplicationLink::refresh);
     connect(&m_conversation, &Conversation::repliedLater, m_application, &ApplicationLink::refresh);
@@ -294,7 +293,7 @@ void MainWindow::reply(int turn, const Reply &reply)
     const QString text = cleanText(reply.displayText.toString());
     QWidget *card = cardOf(reply);
     const QString shown = text.isEmpty() && card == nullptr
-                              ? QStringLiteral("（没有文字的回复，代码 %1）").arg(reply.code.toInt())
+                              ? tr("(A reply without text, code %1)").arg(reply.code.toInt())
                               : text;
     m_view->addReply(turn, shown, card);
     m_speaker->say(reply.speechText.toString());

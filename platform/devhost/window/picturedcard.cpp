@@ -19,7 +19,7 @@ PicturedCard::PicturedCard(const CardRecord &record, QWidget *parent)
     , m_picture(record.picture())
 {
     setAccessibleName(record.text());
-    setToolTip(QStringLiteral("较早的卡片只保留画面；要再次使用，请重新询问。"));
+    setToolTip(tr("Of older cards only a picture is kept; to use it again, ask again."));
 }
 
 void PicturedCard::paintEvent(QPaintEvent *)

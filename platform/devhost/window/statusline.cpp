@@ -28,9 +28,9 @@ QLabel *makeLabel(const QString &name, QWidget *parent)
 QString accountText(const ApplicationState &state)
 {
     if (!state.isReached) {
-        return QStringLiteral("联系人应用未运行");
+        return StatusLine::tr("The contacts application is not running");
     }
-    return state.user.isEmpty() ? QStringLiteral("未登录") : state.user;
+    return state.user.isEmpty() ? StatusLine::tr("Not logged in") : state.user;
 }
 
 } // namespace
@@ -39,7 +39,7 @@ StatusLine::StatusLine(QWidget *parent)
     : QWidget(parent)
     , m_account(makeLabel(QStringLiteral("statusAccount"), this))
     , m_conference(makeLabel(QStringLiteral("statusConference"), this))
-    , m_leave(new QPushButton(QStringLiteral("离开"), this))
+    , m_leave(new QPushButton(tr("Leave"), this))
 {
     m_leave->setObjectName(QStringLiteral("statusLeave"));
     m_leave->setFlat(true);
@@ -61,8 +61,8 @@ void StatusLine::show(const ApplicationState &state)
     const bool isInside = !state.conferenceNumber.isEmpty();
     m_conference->setVisible(isInside);
     m_leave->setVisible(isInside);
-    m_conference->setText(QStringLiteral("会议中：%1　%2")
-                              .arg(state.conferenceTitle.left(LongestTitle), state.conferenceNumber));
+    m_conference->setText(
+        tr("In a conference: %1  %2").arg(state.conferenceTitle.left(LongestTitle), state.conferenceNumber));
     m_conference->setToolTip(state.conferenceTitle.toHtmlEscaped());
 }
 

@@ -20,7 +20,7 @@ constexpr int PressedFactor = 114;
 
 TurnButton::TurnButton(QWidget *parent) : QAbstractButton(parent)
 {
-    setToolTip(QStringLiteral("这一轮的菜单"));
+    setToolTip(tr("Menu of this turn"));
     setAccessibleName(toolTip());
     setCursor(Qt::PointingHandCursor);
     setAttribute(Qt::WA_Hover);

@@ -7,6 +7,7 @@
 #include "turntexts.h"
 
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -49,20 +50,23 @@ QMenu *makeTurnMenu(const Turn &turn, const QString &text, Conversation &convers
 {
     auto *menu = new QMenu(parent);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    addCopy(*menu, QStringLiteral("复制文字(&C)"), text);
-    addCopy(*menu, QStringLiteral("复制会议号(&N)"), conferenceNumberOf(turn));
-    addCopy(*menu, QStringLiteral("复制语义 JSON(&J)"), turntexts::semantic(turn));
+    addCopy(*menu, QCoreApplication::translate("devhost::TurnMenu", "&Copy Text"), text);
+    addCopy(*menu, QCoreApplication::translate("devhost::TurnMenu", "Copy Conference &Number"),
+            conferenceNumberOf(turn));
+    addCopy(*menu, QCoreApplication::translate("devhost::TurnMenu", "Copy Semantic &JSON"),
+            turntexts::semantic(turn));
     menu->addSeparator();
-    const bool isSentence = !turn.said.startsWith(QStringLiteral("语义 JSON"));
+    const bool isSentence = turn.isSentence;
     const QString again = isSentence ? turn.said : turn.semantic;
     QAction *ask =
-        menu->addAction(QStringLiteral("再问一次(&A)"), &conversation, [&conversation, again, isSentence] {
-            if (isSentence) {
-                conversation.say(again);
-            } else {
-                conversation.sendSemantic(again); // also while a password is asked for
-            }
-        });
+        menu->addAction(QCoreApplication::translate("devhost::TurnMenu", "&Ask Again"), &conversation,
+                        [&conversation, again, isSentence] {
+                            if (isSentence) {
+                                conversation.say(again);
+                            } else {
+                                conversation.sendSemantic(again); // also while a password is asked for
+                            }
+                        });
     ask->setEnabled(!again.isEmpty() && !isMasked(again));
     return menu;
 }

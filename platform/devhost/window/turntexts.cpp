@@ -3,6 +3,7 @@
 
 #include "turntexts.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QJsonDocument>
 #include <QStringList>
@@ -38,7 +39,8 @@ QString indented(const QString &json)
     if (text.size() <= LongestText) {
         return text;
     }
-    return text.left(LongestText) + QStringLiteral("\n…（共 %1 个字符）").arg(text.size());
+    return text.left(LongestText) +
+           QCoreApplication::translate("devhost::turntexts", "\n… (%1 characters in all)").arg(text.size());
 }
 
 QString msecs(double value)
@@ -57,18 +59,26 @@ QString requests(const Turn &turn)
 {
     QStringList lines;
     for (const AbilityCall &call : turn.calls) {
-        lines << QStringLiteral("▸ %1    %2    代码 %3").arg(call.action, msecs(call.msecs)).arg(call.code)
-              << (call.parameters.isEmpty() ? QStringLiteral("（没有参数）") : indented(call.parameters))
-              << QStringLiteral("◂ 回答")
-              << (call.answer.isEmpty() ? QStringLiteral("（无）") : indented(call.answer)) << QString();
+        lines << QCoreApplication::translate("devhost::turntexts", "▸ %1    %2    code %3")
+                     .arg(call.action, msecs(call.msecs))
+                     .arg(call.code)
+              << (call.parameters.isEmpty()
+                      ? QCoreApplication::translate("devhost::turntexts", "(no parameters)")
+                      : indented(call.parameters))
+              << QCoreApplication::translate("devhost::turntexts", "◂ answer")
+              << (call.answer.isEmpty() ? QCoreApplication::translate("devhost::turntexts", "(none)")
+                                        : indented(call.answer))
+              << QString();
     }
     if (turn.calls.isEmpty()) {
-        lines << QStringLiteral("（没有请求）") << QString();
+        lines << QCoreApplication::translate("devhost::turntexts", "(no requests)") << QString();
     }
-    lines << QStringLiteral("理解　　　%1").arg(msecs(turn.understandingMsecs))
-          << QStringLiteral("service()　%1，其中请求 %2")
+    lines << QCoreApplication::translate("devhost::turntexts", "understanding   %1")
+                 .arg(msecs(turn.understandingMsecs))
+          << QCoreApplication::translate("devhost::turntexts", "service()       %1, of which %2 in requests")
                  .arg(msecs(turn.serviceMsecs), msecs(turn.requestMsecs()))
-          << QStringLiteral("回复和卡片 %1").arg(msecs(turn.replyMsecs));
+          << QCoreApplication::translate("devhost::turntexts", "reply and card  %1")
+                 .arg(msecs(turn.replyMsecs));
     return lines.join(QLatin1Char('\n'));
 }
 
@@ -76,13 +86,14 @@ QString reply(const Turn &turn)
 {
     QStringList lines;
     if (!turn.failure.isEmpty()) {
-        lines << QStringLiteral("失败      %1").arg(turn.failure);
+        lines << QCoreApplication::translate("devhost::turntexts", "failure   %1").arg(turn.failure);
     }
     lines << QStringLiteral("service() %1").arg(turn.status) << QStringLiteral("code      %1").arg(turn.code)
           << QStringLiteral("display   ") + turn.display << QStringLiteral("speech    ") + turn.speech
           << QStringLiteral("type      %1").arg(turn.type)
-          << QStringLiteral("card      ") +
-                 (turn.cardClass.isEmpty() ? QStringLiteral("（无）") : turn.cardClass)
+          << QStringLiteral("card      ") + (turn.cardClass.isEmpty()
+                                                 ? QCoreApplication::translate("devhost::turntexts", "(none)")
+                                                 : turn.cardClass)
           << QStringLiteral("end       %1")
                  .arg(turn.endOfSession ? QStringLiteral("true") : QStringLiteral("false"));
     return lines.join(QLatin1Char('\n'));

@@ -6,6 +6,8 @@
 #include "conversationpage.h"
 #include "conversationview.h"
 
+#include <QCoreApplication>
+
 namespace devhost {
 
 namespace {
@@ -14,13 +16,13 @@ QString speaker(Bubble::Role role)
 {
     switch (role) {
     case Bubble::Said:
-        return QStringLiteral("我说的");
+        return QCoreApplication::translate("devhost::UtteranceAccessible", "What I said");
     case Bubble::Reply:
-        return QStringLiteral("助手的回答");
+        return QCoreApplication::translate("devhost::UtteranceAccessible", "The assistant's answer");
     case Bubble::Notice:
         break;
     }
-    return QStringLiteral("提示");
+    return QCoreApplication::translate("devhost::UtteranceAccessible", "Notice");
 }
 
 } // namespace

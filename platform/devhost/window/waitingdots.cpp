@@ -18,7 +18,7 @@ constexpr QSize Extent(66, 36);
 
 WaitingDots::WaitingDots(QWidget *parent) : QWidget(parent)
 {
-    setAccessibleName(QStringLiteral("正在等待回答"));
+    setAccessibleName(tr("Waiting for the answer"));
     resize(sizeHint());
 }
 

@@ -32,10 +32,10 @@ WelcomePage::WelcomePage(QWidget *parent) : QWidget(parent)
     auto *icon = new QLabel(this);
     icon->setPixmap(QIcon(QStringLiteral(":/devhost/speakmate-devhost.svg")).pixmap(IconSize));
     layout->addWidget(icon, 0, Qt::AlignHCenter);
-    auto *greeting = new QLabel(QStringLiteral("您好，有什么可以帮您？"), this);
+    auto *greeting = new QLabel(tr("Hello, what can I do for you?"), this);
     greeting->setFont(LFontSizeManager::instance()->get(LFontSizeManager::T4, font()));
     layout->addWidget(greeting, 0, Qt::AlignHCenter);
-    auto *hint = new QLabel(QStringLiteral("在下面输入，或者点一个例子："), this);
+    auto *hint = new QLabel(tr("Type below, or click an example. The assistant understands Chinese:"), this);
     hint->setForegroundRole(QPalette::PlaceholderText);
     layout->addWidget(hint, 0, Qt::AlignHCenter);
     layout->addSpacing(12);

@@ -57,7 +57,8 @@ void TestLauncherProgram::krunnerGetsALineAndRunsIt()
     QCOMPARE(match.icon, QStringLiteral("speakmate-devhost"));
     QCOMPARE(match.type, 100);
     QVERIFY(match.relevance > 0 && match.relevance <= 1);
-    QCOMPARE(match.properties.value(QStringLiteral("category")).toString(), QStringLiteral("语音助手"));
+    QCOMPARE(match.properties.value(QStringLiteral("category")).toString(),
+             QStringLiteral("Voice Assistant"));
 
     const QDBusMessage actions = LauncherProgram::krunner(QStringLiteral("Actions"));
     QCOMPARE(actions.signature(), QStringLiteral("a(sss)"));
@@ -74,7 +75,7 @@ void TestLauncherProgram::krunnerGetsALineAndRunsIt()
 
     LauncherProgram::krunner(QStringLiteral("Run"), {match.id, QString()});
     QTRY_COMPARE(notifications.shown.size(), 2);
-    QCOMPARE(notifications.last().summary, QStringLiteral("没有执行"));
+    QCOMPARE(notifications.last().summary, QStringLiteral("Not carried out"));
 }
 
 void TestLauncherProgram::krunnerGetsNothingForDoubt()

@@ -1,0 +1,46 @@
+# SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+# SPDX-License-Identifier: LGPL-2.1-or-later
+#
+# contact_add_translations(TARGET PROGRAM)
+#   Embeds translations/PROGRAM_*.ts of this folder in TARGET as :/translations/PROGRAM_*.qm. With a static library,
+#   call Q_INIT_RESOURCE(TARGET_translations) before ProgramLanguage is made.
+#   The target update-translations writes the texts of the sources into the .ts files.
+
+find_package(Qt5 REQUIRED COMPONENTS LinguistTools)
+
+# Also what the test of the translations runs; see tests/language.
+set(CONTACT_LUPDATE_OPTIONS -silent -no-obsolete -locations none -source-language en)
+
+function(contact_add_translations target program)
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/translations/${program}_*.ts)
+    set(built)
+    set(entries)
+    foreach(source ${sources})
+        get_filename_component(name ${source} NAME_WE)
+        set(file ${CMAKE_CURRENT_BINARY_DIR}/${name}.qm)
+        add_custom_command(OUTPUT ${file}
+            COMMAND Qt5::lrelease -silent ${source} -qm ${file}
+            DEPENDS ${source}
+            VERBATIM)
+        list(APPEND built ${file})
+        string(APPEND entries "        <file>${name}.qm</file>\n")
+    endforeach()
+    set(collection ${CMAKE_CURRENT_BINARY_DIR}/${target}_translations.qrc)
+    file(GENERATE OUTPUT ${collection} CONTENT
+        "<RCC>\n    <qresource prefix=\"/translations\">\n${entries}    </qresource>\n</RCC>\n")
+    set(resource ${CMAKE_CURRENT_BINARY_DIR}/qrc_${target}_translations.cpp)
+    add_custom_command(OUTPUT ${resource}
+        COMMAND Qt5::rcc --name ${target}_translations --output ${resource} ${collection}
+        DEPENDS ${collection} ${built}
+        VERBATIM)
+    set_source_files_properties(${resource} PROPERTIES SKIP_AUTOMOC ON)
+    target_sources(${target} PRIVATE ${resource})
+
+    if(NOT TARGET update-translations)
+        add_custom_target(update-translations)
+    endif()
+    add_custom_target(update-translations-${program}
+        COMMAND Qt5::lupdate ${CONTACT_LUPDATE_OPTIONS} ${CMAKE_CURRENT_SOURCE_DIR} -ts ${sources}
+        VERBATIM)
+    add_dependencies(update-translations update-translations-${program})
+endfunction()

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "programlanguage.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLibraryInfo>
+
+#include <algorithm>
+
+namespace {
+
+const QLatin1String English("en");
+const QLatin1String Folder(":/translations");
+
+/// The user's own country where it speaks @p code: the first day of the week and the dates are theirs.
+QLocale localeOf(const QString &code)
+{
+    const QLocale user = QLocale::system();
+    const QLocale language(code);
+    return user.language() == language.language() && user.script() == language.script() ? user : language;
+}
+
+} // namespace
+
+ProgramLanguage::ProgramLanguage(const QString &program) : m_program(program), m_code(English) {}
+
+QStringList ProgramLanguage::codes() const
+{
+    QStringList codes{English};
+    const QStringList files = QDir(Folder).entryList({m_program + QStringLiteral("_*.qm")});
+    for (const QString &file : files) {
+        codes << file.mid(m_program.size() + 1).chopped(int(qstrlen(".qm")));
+    }
+    return codes;
+}
+
+void ProgramLanguage::followUser()
+{
+    const QStringList known = codes();
+    const QStringList wanted = QLocale::system().uiLanguages();
+    for (const QString &name : wanted) {
+        // Also in another script: somebody who reads one of them rather reads the other than English.
+        const auto found = std::find_if(known.begin(), known.end(), [&name](const QString &code) {
+            return QLocale(code).language() == QLocale(name).language();
+        });
+        if (found != known.end()) {
+            install(*found);
+            return;
+        }
+    }
+    install(English);
+}
+
+bool ProgramLanguage::choose(const QString &code)
+{
+    const QLocale wanted(code);
+    const QStringList known = codes();
+    const auto found = std::find_if(known.begin(), known.end(), [&wanted](const QString &candidate) {
+        const QLocale locale(candidate);
+        return locale.language() == wanted.language() && locale.script() == wanted.script();
+    });
+    if (found == known.end()) {
+        return false;
+    }
+    install(*found);
+    return true;
+}
+
+void ProgramLanguage::install(const QString &code)
+{
+    QCoreApplication::removeTranslator(&m_texts);
+    QCoreApplication::removeTranslator(&m_toolkitTexts);
+    m_code = code;
+    QLocale::setDefault(localeOf(code));
+    if (code == English) {
+        return;
+    }
+    if (m_toolkitTexts.load(QStringLiteral("qtbase_") + code,
+                            QLibraryInfo::location(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(&m_toolkitTexts);
+    }
+    if (m_texts.load(m_program + QLatin1Char('_') + code, Folder)) {
+        QCoreApplication::installTranslator(&m_texts);
+    }
+}

@@ -1,89 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "arrangements.h"
 #include "askedactions.h"
 #include "sampleworld.h"
 
 #include "testcolumns.h"
 
 #include <QtTest>
-
-#include <functional>
-
-using Arrange = std::function<void(SampleWorld &)>;
-using Parameters = std::function<QJsonObject(SampleWorld &)>;
-Q_DECLARE_METATYPE(Arrange)
-Q_DECLARE_METATYPE(Parameters)
-
-namespace {
-
-void nothing(SampleWorld &) {}
-
-QJsonObject none(SampleWorld &)
-{
-    return {};
-}
-
-Parameters fixed(const QJsonObject &parameters)
-{
-    return [parameters](SampleWorld &) {
-        return parameters;
-    };
-}
-
-Parameters number(const char *dialNumber, const char *passcode = "")
-{
-    return fixed({{QStringLiteral("conferenceId"), QString::fromLatin1(dialNumber)},
-                  {QStringLiteral("password"), QString::fromLatin1(passcode)}});
-}
-
-Parameters userId(const char *said)
-{
-    return fixed({{QStringLiteral("userId"), QString::fromUtf8(said)}});
-}
-
-Parameters names(const QStringList &asked, qint64 startMsecs = 0)
-{
-    QJsonObject parameters = membersNamed(asked);
-    if (startMsecs != 0) {
-        parameters.insert(QStringLiteral("startTime"), startMsecs);
-    }
-    return fixed(parameters);
-}
-
-/// {"conferenceId": the id of the conference with that number, ...}
-Parameters conference(const char *dialNumber, const QJsonObject &more = {})
-{
-    return [dialNumber, more](SampleWorld &world) {
-        QJsonObject parameters = more;
-        parameters.insert(QStringLiteral("conferenceId"),
-                          world.conferenceId(QString::fromLatin1(dialNumber)));
-        return parameters;
-    };
-}
-
-void logOut(SampleWorld &world)
-{
-    world.admin.Logout();
-}
-
-void engageElsewhere(SampleWorld &world)
-{
-    world.admin.SetEngagedElsewhere(true);
-}
-
-void startOne(SampleWorld &world)
-{
-    QCOMPARE(ret(world.ask(Create)), QStringLiteral("OK"));
-}
-
-void joinDutyRoom(SampleWorld &world)
-{
-    QCOMPARE(ret(world.ask(Join, QJsonObject{{QStringLiteral("conferenceId"), QStringLiteral("880100004")}})),
-             QStringLiteral("OK"));
-}
-
-} // namespace
 
 /// Every action against the sample directory: which word for which state.
 class TestActions : public QObject

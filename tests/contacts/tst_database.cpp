@@ -131,7 +131,7 @@ void TestDatabase::aFileOfVersion3IsBroughtUpToDate()
     QCOMPARE(book.session().user()->account, QStringLiteral("100001"));
     QCOMPARE(book.session().friendLimit(), 7);
     // Whose person is missing is no contact any more.
-    const QVector<Person> contacts = book.people().contactsAfter(QStringLiteral("u1"), QString(), 10);
+    const QVector<Person> contacts = book.people().knownAfter(QStringLiteral("u1"), QString(), 10);
     QCOMPARE(contacts.size(), 1);
     QCOMPARE(contacts.at(0).account, QStringLiteral("100002"));
     QCOMPARE(contacts.at(0).remarkName, QStringLiteral("小李"));

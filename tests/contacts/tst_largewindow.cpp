@@ -24,6 +24,13 @@ namespace {
 
 constexpr int Count = 100000;
 constexpr qint64 HourMsecs = 3600000;
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr double Slower = 10; // still far below one walk over everything
+#else
+constexpr double Slower = 1;
+#endif
+/// One frame at 60 a second.
+constexpr double MostShownMsecs = 16 * Slower;
 
 /// Milliseconds of processor time of this thread, which a busy machine does not stretch.
 double threadMsecs()
@@ -79,6 +86,26 @@ private:
         }
         m_window->grab();
         return threadMsecs() - before;
+    }
+
+    /// Lets the people be read to the end and looks how long that stopped the window at most.
+    void finishReading()
+    {
+        auto *people = static_cast<PeopleModel *>(page(1)->table()->model());
+        QVector<double> goes;
+        while (people->isReading()) {
+            const double before = threadMsecs();
+            QCoreApplication::processEvents();
+            goes.append(threadMsecs() - before);
+        }
+        std::sort(goes.begin(), goes.end());
+        if (goes.size() < 20) {
+            return; // not much was read
+        }
+        // Each of them but for what a machine does now and then, and the last one, which shows the rows.
+        const double most = goes.at(goes.size() * 19 / 20);
+        qInfo("%d goes, %.2f ms nearly all, %.2f ms the longest", goes.size(), most, goes.constLast());
+        QVERIFY2(most < MostShownMsecs, qPrintable(QString::number(most)));
     }
 
     std::unique_ptr<SampleWorld> m_world;
@@ -185,13 +212,8 @@ void TestLargeWindow::aWriteIsAnsweredFirstAndShownSoon()
     }
     qInfo("%s: %.2f ms before the answer, %.2f ms in the window", QTest::currentDataTag(), median(answers),
           median(shown));
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-    constexpr double slower = 10; // still far below one walk over everything
-#else
-    constexpr double slower = 1;
-#endif
-    QVERIFY2(median(answers) < 2 * slower, qPrintable(QString::number(median(answers))));
-    QVERIFY2(median(shown) < 16 * slower, qPrintable(QString::number(median(shown))));
+    QVERIFY2(median(answers) < 2 * Slower, qPrintable(QString::number(median(answers))));
+    QVERIFY2(median(shown) < MostShownMsecs, qPrintable(QString::number(median(shown))));
 }
 
 void TestLargeWindow::aBurstIsShownOnce()
@@ -266,11 +288,18 @@ void TestLargeWindow::aFilterFindsWhoWasNotReadYet()
 {
     QAbstractItemModel *model = page(1)->table()->model();
     page(1)->filter()->setText(QStringLiteral("PERSON 99999"));
+    finishReading();
     QCOMPARE(model->rowCount(), 1);
     QCOMPARE(model->index(0, PeopleModel::Account).data().toString(), QStringLiteral("5099999"));
     QVERIFY(!model->canFetchMore({}));
     page(1)->filter()->setText(QStringLiteral("nobody"));
+    finishReading();
     QCOMPARE(model->rowCount(), 0);
+    // A write meanwhile looks through everybody again, but not at a stretch.
+    m_world->admin.SetFriendLimit(1000000);
+    const double shown = showMsecs();
+    QVERIFY2(shown >= 0 && shown < MostShownMsecs, qPrintable(QString::number(shown)));
+    finishReading();
     page(1)->filter()->clear();
     QVERIFY(model->rowCount() >= 100);
 }
@@ -279,9 +308,17 @@ void TestLargeWindow::anotherOrderIsOfAllPeople()
 {
     HintedTable *table = page(1)->table();
     table->sortByColumn(PeopleModel::Account, Qt::DescendingOrder);
+    finishReading();
     QCOMPARE(table->model()->rowCount(), Count + 23);
     QCOMPARE(table->model()->index(0, PeopleModel::Account).data().toString(), QStringLiteral("5100000"));
+    // A write reads everybody again, but not at a stretch.
+    m_world->admin.SetFriendLimit(1000000);
+    const double shown = showMsecs();
+    QVERIFY2(shown >= 0 && shown < MostShownMsecs, qPrintable(QString::number(shown)));
+    finishReading();
+    QCOMPARE(table->model()->rowCount(), Count + 23);
     table->sortByColumn(PeopleModel::Account, Qt::AscendingOrder);
+    finishReading();
     QVERIFY(table->model()->rowCount() < Count);
 }
 

@@ -125,12 +125,33 @@ QVector<Person> PeopleRepository::contacts(const QString &ownerId) const
     return allOf(query.bind(ownerId), readContact);
 }
 
-QVector<Person> PeopleRepository::contactsAfter(const QString &ownerId, const QString &afterAccount,
-                                                int limit) const
+QVector<Person> PeopleRepository::knownAfter(const QString &ownerId, const QString &afterAccount,
+                                             int limit) const
 {
-    Statement query(m_database, contactQuery("WHERE owner_id = ? AND contact.account > ?"
-                                             " ORDER BY contact.account LIMIT ?"));
-    return allOf(query.bind(ownerId).bind(afterAccount).bind(limit), readContact);
+    // There are no more requests than friends are allowed, so that these can be looked at each time.
+    Statement query(
+        m_database,
+        QStringLiteral("SELECT person.user_id, person.account, name, kind, remark_name, is_friend,"
+                       " EXISTS (SELECT 1 FROM friend_request WHERE owner_id = ?"
+                       "  AND friend_request.person_id = known.person_id)"
+                       " FROM (SELECT * FROM (SELECT person_id, account, remark_name, is_friend"
+                       "   FROM contact WHERE owner_id = ? AND account > ?"
+                       "   ORDER BY account LIMIT ?)"
+                       "  UNION ALL SELECT person_id, asked.account, '', 0 FROM friend_request"
+                       "   CROSS JOIN person AS asked ON asked.user_id = person_id"
+                       "   WHERE owner_id = ? AND asked.account > ? AND NOT EXISTS"
+                       "    (SELECT 1 FROM contact WHERE contact.owner_id = friend_request.owner_id"
+                       "     AND contact.person_id = friend_request.person_id)) AS known"
+                       " CROSS JOIN person ON person.user_id = known.person_id"
+                       " ORDER BY person.account LIMIT ?"));
+    query.bind(ownerId)
+        .bind(ownerId)
+        .bind(afterAccount)
+        .bind(limit)
+        .bind(ownerId)
+        .bind(afterAccount)
+        .bind(limit);
+    return allOf(query, readContact);
 }
 
 QVector<Person> PeopleRepository::everybodyAfter(const QString &afterAccount, int limit) const

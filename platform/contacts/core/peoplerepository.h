@@ -31,9 +31,10 @@ public:
     static QString contactsByNameSql();
     std::optional<Person> contactByUserId(const QString &ownerId, const QString &userId) const;
     QVector<Person> contacts(const QString &ownerId) const;
-    /// The contacts whose account comes after @p afterAccount, by their accounts; at most @p limit. Its cost
-    /// does not depend on how many others there are.
-    QVector<Person> contactsAfter(const QString &ownerId, const QString &afterAccount, int limit) const;
+    /// The contacts, and whoever else was asked to become a friend, whose account comes after @p
+    /// afterAccount, by their accounts; at most @p limit. Its cost does not depend on how many other contacts
+    /// there are.
+    QVector<Person> knownAfter(const QString &ownerId, const QString &afterAccount, int limit) const;
     /// The same of everybody.
     QVector<Person> everybodyAfter(const QString &afterAccount, int limit) const;
     /// The names and remarks of @p ownerId's contacts, each once; at most @p limit.

@@ -3,23 +3,19 @@
 
 #include "window/contactswindow.h"
 
-#include "core/outcometext.h"
 #include "window/accountbar.h"
 #include "window/applicationicon.h"
 #include "window/conferencepage.h"
-#include "window/peoplemodel.h"
+#include "window/peoplepage.h"
 #include "window/question.h"
 #include "window/reminderpage.h"
+#include "window/resultlabel.h"
 #include "window/windowtitle.h"
 
 #include "book/administration.h"
 #include "book/contactsbook.h"
-#include "core/jsonkeys.h"
 
 #include <QHBoxLayout>
-#include <QHeaderView>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QLabel>
 #include <QShortcut>
 #include <QTabWidget>
@@ -27,7 +23,7 @@
 
 ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administration, Tools tools)
     : m_pages(new QTabWidget)
-    , m_told(new QLabel)
+    , m_told(new ResultLabel)
 {
     setWindowIcon(applicationIcon());
     new WindowTitle(*this, *m_pages, book);
@@ -36,13 +32,13 @@ ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administratio
     auto *conferences = new ConferencePage(new ConferenceModel(book), book, administration);
     connect(conferences, &ConferencePage::told, this, &ContactsWindow::tell);
     m_pages->addTab(conferences, QStringLiteral("会议(&1)"));
-    m_pages->addTab(makePeoplePage(book), QStringLiteral("联系人(&2)"));
+    auto *people = new PeoplePage(new PeopleModel(book), book);
+    connect(people, &PeoplePage::told, this, &ContactsWindow::tell);
+    m_pages->addTab(people, QStringLiteral("联系人(&2)"));
     m_pages->addTab(new ReminderPage(book), QStringLiteral("提醒(&3)"));
     m_pages->setAccessibleName(QStringLiteral("会议、联系人和提醒"));
 
     m_told->setObjectName(QStringLiteral("told"));
-    m_told->setTextFormat(Qt::PlainText);
-    m_told->setAccessibleName(QStringLiteral("结果"));
     auto *sample = new QPushButton(QStringLiteral("恢复示例数据(&R)"));
     sample->setObjectName(QStringLiteral("sample"));
     sample->setHidden(tools == Tools::ForUsers);
@@ -109,42 +105,9 @@ QWidget *ContactsWindow::makeNotice(ContactsBook &book)
     return notice;
 }
 
-TablePage *ContactsWindow::makePeoplePage(ContactsBook &book)
-{
-    auto *model = new PeopleModel(book);
-    auto *page = new TablePage(model, PeopleModel::AccountRole, PeopleModel::Account);
-    model->setParent(page);
-    connect(page->filter(), &QLineEdit::textChanged, model, &PeopleModel::setFilter);
-    page->table()->setAccessibleName(QStringLiteral("联系人列表"));
-    page->table()->setHint(QStringLiteral("还没有联系人。登录后可以在这里看到他们。"));
-    page->table()->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    page->table()->horizontalHeader()->setSectionResizeMode(PeopleModel::Name, QHeaderView::Stretch);
-
-    auto *account = new QLineEdit;
-    account->setObjectName(QStringLiteral("friendAccount"));
-    account->setAccessibleName(QStringLiteral("好友账号"));
-    account->setPlaceholderText(QStringLiteral("好友账号"));
-    account->setMaxLength(100);
-    auto *add = new QPushButton(QStringLiteral("添加好友(&F)"));
-    add->setObjectName(QStringLiteral("addFriend"));
-    const auto addFriend = [this, &book, account] {
-        const QJsonObject parameters{{JsonKey::UserId, account->text()}};
-        const QString text = QString::fromUtf8(QJsonDocument(parameters).toJson(QJsonDocument::Compact));
-        const QString answer = book.perform(QStringLiteral("Add Friends"), text);
-        tell(outcomeText(QJsonDocument::fromJson(answer.toUtf8()).object().value(JsonKey::Ret).toString()));
-        account->clear();
-    };
-    connect(add, &QPushButton::clicked, this, addFriend);
-    connect(account, &QLineEdit::returnPressed, this, addFriend);
-    page->lowerRow()->addWidget(account);
-    page->lowerRow()->addWidget(add);
-    page->lowerRow()->addStretch(1);
-    return page;
-}
-
 void ContactsWindow::tell(const QString &text)
 {
-    m_told->setText(text);
+    m_told->tell(text);
 }
 
 void ContactsWindow::addShortcuts()

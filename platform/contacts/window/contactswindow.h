@@ -6,13 +6,12 @@
 #include <QWidget>
 
 QT_BEGIN_NAMESPACE
-class QLabel;
 class QTabWidget;
 QT_END_NAMESPACE
 
 class Administration;
 class ContactsBook;
-class TablePage;
+class ResultLabel;
 
 /**
  * The application's window: conferences and people, and everything that decides outcomes, to be tried by
@@ -34,10 +33,9 @@ public:
 
 private:
     QWidget *makeNotice(ContactsBook &book);
-    TablePage *makePeoplePage(ContactsBook &book);
     void tell(const QString &text);
     void addShortcuts();
 
     QTabWidget *m_pages; ///< children
-    QLabel *m_told;
+    ResultLabel *m_told;
 };

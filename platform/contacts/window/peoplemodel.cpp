@@ -4,7 +4,6 @@
 #include "window/peoplemodel.h"
 
 #include "book/contactsbook.h"
-#include "core/displaytext.h"
 
 #include <lumo/plaintooltip.h>
 
@@ -23,49 +22,6 @@ QString headerText(int column)
     return headers.at(static_cast<size_t>(column));
 }
 
-QString relationText(Friendship friendship)
-{
-    switch (friendship) {
-    case Friendship::Friend:
-        return QStringLiteral("好友");
-    case Friendship::Requested:
-        return QStringLiteral("已发送好友申请");
-    case Friendship::None:
-        break;
-    }
-    return QStringLiteral("同事");
-}
-
-QString nameText(const Person &person)
-{
-    const QString shown = cleanDisplayText(person.shownName());
-    const QString name = cleanDisplayText(person.name);
-    return shown == name ? name : QStringLiteral("%1（%2）").arg(shown, name);
-}
-
-QString display(const Person &person, int column)
-{
-    switch (column) {
-    case PeopleModel::Name:
-        return nameText(person);
-    case PeopleModel::Account:
-        return person.account;
-    case PeopleModel::Relation:
-        return relationText(person.friendship);
-    case PeopleModel::Kind:
-        return person.kind == AccountKind::Paying ? QStringLiteral("付费") : QStringLiteral("免费");
-    default:
-        return {};
-    }
-}
-
-bool matches(const Person &person, const QString &filter)
-{
-    return filter.isEmpty() || QString(nameText(person) + QLatin1Char(' ') + person.account +
-                                       QLatin1Char(' ') + relationText(person.friendship))
-                                   .contains(filter, Qt::CaseInsensitive);
-}
-
 bool isSame(const Person &left, const Person &right)
 {
     return left.userId == right.userId;
@@ -73,95 +29,146 @@ bool isSame(const Person &left, const Person &right)
 
 } // namespace
 
-PeopleModel::PeopleModel(ContactsBook &book, QObject *parent) : QAbstractTableModel(parent), m_book(book)
+PeopleModel::PeopleModel(ContactsBook &book, QObject *parent)
+    : QAbstractTableModel(parent)
+    , m_book(book)
+    , m_reader(book)
 {
+    connect(&m_slices, &QTimer::timeout, this, &PeopleModel::readOn);
     connect(&m_book, &ContactsBook::changedLately, this, &PeopleModel::reload);
-    reload();
+    start(Showing::AsTheyCome, PageSize);
 }
 
 void PeopleModel::reload()
 {
-    const QVector<Person> former = m_people;
-    // As many as there were, so that whoever has scrolled stays there.
-    m_people.clear();
-    read(qMax(PageSize, former.size()));
-    QVector<Person> people;
-    people.swap(m_people);
-    if (std::equal(people.cbegin(), people.cend(), former.cbegin(), former.cend(), isSame)) {
-        m_people = std::move(people);
-        if (!m_people.isEmpty()) {
-            Q_EMIT dataChanged(index(0, 0), index(m_people.size() - 1, ColumnCount - 1));
-        }
-        return;
+    if (currentOwner() != m_ownerId) {
+        start(Showing::AsTheyCome, PageSize); // nobody sees another one's people
+    } else if (isReading()) {
+        m_isStale = true; // a reading that starts anew with each change would never end
+    } else {
+        // As many as there were, so that whoever has scrolled stays there.
+        start(Showing::WhenComplete, qMax(PageSize, m_people.size()));
     }
-    m_people = former;
-    beginResetModel();
-    m_people = std::move(people);
-    endResetModel();
 }
 
 void PeopleModel::setFilter(const QString &text)
 {
     m_filter = text;
-    beginResetModel();
-    read(PageSize);
-    endResetModel();
+    start(Showing::AsTheyCome, PageSize);
+}
+
+void PeopleModel::setScope(PeopleScope scope)
+{
+    m_scope = scope;
+    start(Showing::AsTheyCome, PageSize);
 }
 
 void PeopleModel::sort(int column, Qt::SortOrder order)
 {
     m_sortColumn = column;
     m_sortOrder = order;
-    beginResetModel();
-    read(PageSize);
-    endResetModel();
+    start(Showing::WhenComplete, PageSize);
 }
 
-void PeopleModel::read(int count)
+QString PeopleModel::currentOwner() const
 {
-    m_people.clear();
-    m_readUntil.clear();
-    m_hasMore = false;
     try {
         const std::optional<Person> user = m_book.session().user();
-        m_ownerId = user ? user->userId : QString();
-        m_hasMore = user.has_value();
-        m_people = nextRows(isInAccountOrder() ? count : std::numeric_limits<int>::max());
+        return user ? user->userId : QString();
     } catch (const std::exception &error) {
         qWarning("The people cannot be shown: %s", error.what());
         m_book.noteFailure(error);
-        m_hasMore = false;
+        return {};
     }
-    if (isInAccountOrder()) {
-        return;
-    }
-    std::stable_sort(m_people.begin(), m_people.end(), [this](const Person &left, const Person &right) {
-        const int order =
-            QString::localeAwareCompare(display(left, m_sortColumn), display(right, m_sortColumn));
-        return m_sortOrder == Qt::AscendingOrder ? order < 0 : order > 0;
-    });
 }
 
-QVector<Person> PeopleModel::nextRows(int count)
+void PeopleModel::start(Showing showing, int wanted)
 {
-    QVector<Person> rows;
-    while (m_hasMore && rows.size() < count) {
-        const int chunk = qBound(PageSize, count - rows.size(), 10 * PageSize);
-        const QVector<Person> people = m_book.people().contactsAfter(m_ownerId, m_readUntil, chunk);
-        m_hasMore = people.size() == chunk;
-        for (const Person &person : people) {
-            m_readUntil = person.account;
-            if (matches(person, m_filter)) {
-                rows.append(person);
-            }
-        }
+    const QString owner = currentOwner();
+    if (owner != m_ownerId) {
+        replace({});
     }
-    return rows;
+    m_showing = isInAccountOrder() ? showing : Showing::WhenComplete;
+    m_wanted = isInAccountOrder() ? wanted : std::numeric_limits<int>::max();
+    m_isStale = false;
+    m_fresh.clear();
+    m_order.start(static_cast<PersonColumn>(m_sortColumn), m_sortOrder);
+    m_reader.start(owner, m_filter, m_scope);
+    m_isFirstSlice = true;
+    m_ownerId = owner;
+    m_slices.start(0);
+    readOn();
+}
+
+void PeopleModel::readOn()
+{
+    const bool isFirst = m_isFirstSlice;
+    m_isFirstSlice = false;
+    const bool isAppending = m_showing == Showing::AsTheyCome && !isFirst;
+    const int have = isFirst ? 0 : isAppending ? m_people.size() : m_fresh.size();
+    QVector<Person> people;
+    try {
+        people = m_reader.read(m_wanted - have);
+    } catch (const std::exception &error) {
+        qWarning("The people cannot be shown: %s", error.what());
+        m_book.noteFailure(error);
+        m_reader.stop();
+    }
+    if (isAppending) {
+        append(people);
+    } else if (m_showing == Showing::AsTheyCome) {
+        replace(people);
+    } else if (isInAccountOrder()) {
+        m_fresh += people;
+    } else {
+        m_order.add(people);
+    }
+    if (!m_reader.hasMore() || have + people.size() >= m_wanted) {
+        finish();
+    }
+}
+
+void PeopleModel::finish()
+{
+    m_slices.stop();
+    if (m_showing == Showing::WhenComplete) {
+        replace(isInAccountOrder() ? m_fresh : m_order.people());
+        m_fresh.clear();
+        m_order.start(static_cast<PersonColumn>(m_sortColumn), m_sortOrder);
+    }
+    Q_EMIT settled();
+    if (m_isStale) {
+        reload();
+    }
+}
+
+void PeopleModel::append(const QVector<Person> &people)
+{
+    if (people.isEmpty()) {
+        return;
+    }
+    beginInsertRows({}, m_people.size(), m_people.size() + people.size() - 1);
+    m_people += people;
+    endInsertRows();
+}
+
+void PeopleModel::replace(QVector<Person> people)
+{
+    if (std::equal(people.cbegin(), people.cend(), m_people.cbegin(), m_people.cend(), isSame)) {
+        m_people = std::move(people);
+        if (!m_people.isEmpty()) {
+            Q_EMIT dataChanged(index(0, 0), index(m_people.size() - 1, ColumnCount - 1));
+        }
+        return;
+    }
+    beginResetModel();
+    m_people = std::move(people);
+    endResetModel();
 }
 
 bool PeopleModel::canFetchMore(const QModelIndex &parent) const
 {
-    return !parent.isValid() && m_hasMore;
+    return !parent.isValid() && !isReading() && m_reader.hasMore();
 }
 
 void PeopleModel::fetchMore(const QModelIndex &parent)
@@ -169,18 +176,10 @@ void PeopleModel::fetchMore(const QModelIndex &parent)
     if (!canFetchMore(parent)) {
         return;
     }
-    try {
-        const QVector<Person> rows = nextRows(PageSize);
-        if (!rows.isEmpty()) {
-            beginInsertRows({}, m_people.size(), m_people.size() + rows.size() - 1);
-            m_people += rows;
-            endInsertRows();
-        }
-    } catch (const std::exception &error) {
-        qWarning("The people cannot be shown: %s", error.what());
-        m_book.noteFailure(error);
-        m_hasMore = false;
-    }
+    m_showing = Showing::AsTheyCome;
+    m_wanted = m_people.size() + PageSize;
+    m_slices.start(0);
+    readOn();
 }
 
 int PeopleModel::rowCount(const QModelIndex &parent) const
@@ -199,14 +198,17 @@ QVariant PeopleModel::data(const QModelIndex &index, int role) const
         return {};
     }
     const Person &person = m_people.at(index.row());
+    const auto column = static_cast<PersonColumn>(index.column());
     switch (role) {
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:
-        return display(person, index.column());
+        return personText(person, column);
     case Qt::ToolTipRole:
-        return plainToolTip(display(person, index.column()));
+        return plainToolTip(personText(person, column));
     case AccountRole:
         return person.account;
+    case FriendshipRole:
+        return static_cast<int>(person.friendship);
     default:
         return {};
     }

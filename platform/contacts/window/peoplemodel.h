@@ -3,17 +3,19 @@
 
 #pragma once
 
-#include "core/person.h"
+#include "window/peopleorder.h"
+#include "window/peoplereader.h"
 
 #include <QAbstractTableModel>
+#include <QTimer>
 #include <QVector>
 
 class ContactsBook;
 
 /**
- * The contacts of whoever is logged in, as a table that follows the database, filtered and sorted by itself.
- * In the order of the accounts it reads page by page, as far as somebody scrolls; any other order takes them
- * all. On the GUI thread.
+ * The people of whoever is logged in, as a table that follows the database, searched and sorted by itself. In
+ * the order of the accounts it reads page by page, as far as somebody scrolls; any other order takes them
+ * all. Whatever takes long is done in the event loop, a few milliseconds at a time. On the GUI thread.
  */
 class PeopleModel : public QAbstractTableModel
 {
@@ -21,15 +23,19 @@ class PeopleModel : public QAbstractTableModel
 
 public:
     enum Column { Name, Account, Relation, Kind, ColumnCount };
-    enum Role { AccountRole = Qt::UserRole };
+    enum Role { AccountRole = Qt::UserRole, FriendshipRole };
 
     /// @p book must outlive it.
     explicit PeopleModel(ContactsBook &book, QObject *parent = nullptr);
 
     void reload();
-    /// Leaves those whose texts contain @p text, whatever the case of its letters.
+    /// Leaves those whose name, remark or account contains @p text, whatever the case of its letters.
     void setFilter(const QString &text);
+    void setScope(PeopleScope scope);
     void sort(int column, Qt::SortOrder order) override;
+
+    bool isLoggedIn() const { return !m_ownerId.isEmpty(); }
+    bool isReading() const { return m_slices.isActive(); }
 
     bool canFetchMore(const QModelIndex &parent) const override;
     void fetchMore(const QModelIndex &parent) override;
@@ -38,17 +44,35 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+Q_SIGNALS:
+    /// The rows are those that were asked for.
+    void settled();
+
 private:
-    QVector<Person> nextRows(int count);
-    void read(int count);
+    /// Rows are shown as they are read, or the former ones stay until all that are wanted have been read.
+    enum class Showing { AsTheyCome, WhenComplete };
+
+    void start(Showing showing, int wanted);
+    void readOn();
+    void finish();
+    void append(const QVector<Person> &people);
+    void replace(QVector<Person> people);
+    QString currentOwner() const;
     bool isInAccountOrder() const { return m_sortColumn == Account && m_sortOrder == Qt::AscendingOrder; }
 
     ContactsBook &m_book;
-    QString m_filter;
-    int m_sortColumn = Account;
-    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+    PeopleReader m_reader;
+    PeopleOrder m_order; ///< what was read so far, in another order than that of the accounts
+    QTimer m_slices;
+    Showing m_showing = Showing::AsTheyCome;
+    int m_wanted = 0;
+    bool m_isFirstSlice = false;
+    bool m_isStale = false; ///< something has changed since the reading began
+    QVector<Person> m_fresh;
     QVector<Person> m_people;
     QString m_ownerId;
-    QString m_readUntil;    ///< the account of the last contact that was looked at
-    bool m_hasMore = false; ///< whether there may be contacts behind it
+    QString m_filter;
+    PeopleScope m_scope = PeopleScope::Everybody;
+    int m_sortColumn = Account;
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 };

@@ -24,7 +24,7 @@ void HintedTable::paintEvent(QPaintEvent *event)
         return;
     }
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+    painter.setPen(palette().color(QPalette::PlaceholderText));
     painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_hint);
 }
 

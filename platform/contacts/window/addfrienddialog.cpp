@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "window/addfrienddialog.h"
+
+#include "core/jsonkeys.h"
+#include "core/outcome.h"
+#include "core/outcometext.h"
+#include "window/bookaction.h"
+#include "window/resultlabel.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+AddFriendDialog::AddFriendDialog(ContactsBook &book, QWidget *parent)
+    : QDialog(parent)
+    , m_book(book)
+    , m_said(new QLineEdit)
+    , m_result(new ResultLabel)
+    , m_send(new QPushButton(QStringLiteral("发送申请(&S)")))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(QStringLiteral("添加好友"));
+    m_said->setObjectName(QStringLiteral("friendAccount"));
+    m_said->setMaxLength(100);
+    m_result->setObjectName(QStringLiteral("friendResult"));
+    m_send->setObjectName(QStringLiteral("sendRequest"));
+    m_send->setDefault(true);
+    m_send->setEnabled(false);
+    auto *label = new QLabel(QStringLiteral("对方的账号，或没有重名的姓名(&A)"));
+    label->setBuddy(m_said);
+    auto *buttons = new QDialogButtonBox;
+    buttons->addButton(m_send, QDialogButtonBox::AcceptRole);
+    QPushButton *cancel = buttons->addButton(QStringLiteral("关闭"), QDialogButtonBox::RejectRole);
+    cancel->setAutoDefault(false);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(label);
+    layout->addWidget(m_said);
+    layout->addWidget(m_result);
+    layout->addStretch(1);
+    layout->addWidget(buttons);
+    setMinimumWidth(340);
+    connect(m_said, &QLineEdit::textChanged, this,
+            [this](const QString &text) { m_send->setEnabled(!text.trimmed().isEmpty()); });
+    connect(buttons, &QDialogButtonBox::accepted, this, &AddFriendDialog::send);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+void AddFriendDialog::send()
+{
+    const QString word =
+        performAction(m_book, QStringLiteral("Add Friends"), {{JsonKey::UserId, m_said->text().trimmed()}});
+    if (word == Outcome::Ok) {
+        Q_EMIT told(QStringLiteral("好友申请已发送。"));
+        accept();
+        return;
+    }
+    m_result->tell(word == Outcome::NotFound ? QStringLiteral("没有找到，或有多人同名，请填写账号。")
+                                             : outcomeText(word));
+    m_said->selectAll();
+    m_said->setFocus();
+}

@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "window/peoplepage.h"
+
+#include "core/jsonkeys.h"
+#include "core/outcome.h"
+#include "core/outcometext.h"
+#include "window/addfrienddialog.h"
+#include "window/bookaction.h"
+#include "window/peoplehint.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+
+namespace {
+
+/// An account may be as long as a name; the column for names keeps its room.
+constexpr int WidestColumn = 240;
+constexpr int NarrowestColumn = 64;
+
+} // namespace
+
+PeoplePage::PeoplePage(PeopleModel *model, ContactsBook &book, QWidget *parent)
+    : TablePage(model, PeopleModel::AccountRole, PeopleModel::Account, parent)
+    , m_model(model)
+    , m_book(book)
+    , m_scope(new QComboBox)
+    , m_add(new QPushButton(QStringLiteral("添加好友(&F)…")))
+    , m_befriend(new QPushButton(QStringLiteral("加为好友(&B)")))
+    , m_befriendEntry(new QAction(QStringLiteral("加为好友(&B)"), table()))
+    , m_copyAccount(new QAction(QStringLiteral("复制账号(&C)"), table()))
+{
+    m_model->setParent(this);
+    addControls();
+    addMenu();
+    connectControls();
+    showWhatIsPossible();
+    showHint();
+}
+
+void PeoplePage::addControls()
+{
+    filter()->setObjectName(QStringLiteral("peopleFilter"));
+    filter()->setPlaceholderText(QStringLiteral("搜索姓名、备注或账号"));
+    filter()->setAccessibleName(QStringLiteral("搜索姓名、备注或账号"));
+    m_scope->setObjectName(QStringLiteral("peopleScope"));
+    m_scope->setAccessibleName(QStringLiteral("显示哪些联系人"));
+    m_scope->addItem(QStringLiteral("全部联系人"), static_cast<int>(PeopleScope::Everybody));
+    m_scope->addItem(QStringLiteral("好友"), static_cast<int>(PeopleScope::Friends));
+    m_scope->addItem(QStringLiteral("已发送的申请"), static_cast<int>(PeopleScope::Asked));
+    m_add->setObjectName(QStringLiteral("addFriend"));
+    m_add->setAutoDefault(false);
+    m_befriend->setObjectName(QStringLiteral("befriend"));
+    m_befriend->setAutoDefault(false);
+    upperRow()->addWidget(m_scope);
+    upperRow()->addWidget(m_add);
+    lowerRow()->addWidget(m_befriend);
+    lowerRow()->addStretch(1);
+    // As one sees them, not as they were made.
+    setTabOrder(filter(), m_scope);
+    setTabOrder(m_scope, m_add);
+    setTabOrder(m_add, table());
+    setTabOrder(table(), m_befriend);
+
+    table()->setObjectName(QStringLiteral("people"));
+    table()->setAccessibleName(QStringLiteral("联系人列表"));
+    QHeaderView *header = table()->horizontalHeader();
+    header->setMinimumSectionSize(NarrowestColumn);
+    header->setMaximumSectionSize(WidestColumn);
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(PeopleModel::Name, QHeaderView::Stretch);
+}
+
+void PeoplePage::addMenu()
+{
+    m_copyAccount->setObjectName(QStringLiteral("copyAccount"));
+    m_copyAccount->setShortcut(QKeySequence::Copy);
+    m_copyAccount->setShortcutContext(Qt::WidgetShortcut); // Ctrl+C in a field is the field's
+    m_befriendEntry->setObjectName(QStringLiteral("befriendEntry"));
+    // Also opened with the menu key.
+    table()->setContextMenuPolicy(Qt::ActionsContextMenu);
+    table()->addActions({m_befriendEntry, m_copyAccount});
+}
+
+void PeoplePage::connectControls()
+{
+    connect(filter(), &QLineEdit::textChanged, m_model, &PeopleModel::setFilter);
+    connect(m_scope, QOverload<int>::of(&QComboBox::activated), this,
+            [this] { m_model->setScope(static_cast<PeopleScope>(m_scope->currentData().toInt())); });
+    connect(m_add, &QPushButton::clicked, this, &PeoplePage::openDialog);
+    connect(m_befriend, &QPushButton::clicked, this, &PeoplePage::addSelected);
+    connect(m_befriendEntry, &QAction::triggered, this, &PeoplePage::addSelected);
+    connect(m_copyAccount, &QAction::triggered, this, [this] {
+        QGuiApplication::clipboard()->setText(selected(PeopleModel::AccountRole).toString());
+        Q_EMIT told(QStringLiteral("已复制账号。"));
+    });
+    connect(this, &TablePage::selectionChanged, this, &PeoplePage::showWhatIsPossible);
+    connect(m_model, &QAbstractItemModel::dataChanged, this, &PeoplePage::showWhatIsPossible);
+    connect(m_model, &PeopleModel::settled, this, &PeoplePage::showWhatIsPossible);
+    connect(m_model, &PeopleModel::settled, this, &PeoplePage::showHint);
+    connect(m_model, &QAbstractItemModel::modelReset, this, &PeoplePage::showHint);
+}
+
+void PeoplePage::openDialog()
+{
+    auto *dialog = new AddFriendDialog(m_book, this);
+    connect(dialog, &AddFriendDialog::told, this, &PeoplePage::told);
+    dialog->open();
+}
+
+void PeoplePage::addSelected()
+{
+    const QString word = performAction(m_book, QStringLiteral("Add Friends"),
+                                       {{JsonKey::UserId, selected(PeopleModel::AccountRole).toString()}});
+    Q_EMIT told(word == Outcome::Ok ? QStringLiteral("好友申请已发送。") : outcomeText(word));
+}
+
+void PeoplePage::showWhatIsPossible()
+{
+    const QVariant friendship = selected(PeopleModel::FriendshipRole);
+    const bool isNoFriend = friendship.isValid() && friendship.toInt() == static_cast<int>(Friendship::None);
+    m_add->setEnabled(m_model->isLoggedIn());
+    m_befriend->setEnabled(isNoFriend);
+    m_befriendEntry->setEnabled(isNoFriend);
+    m_copyAccount->setEnabled(friendship.isValid());
+}
+
+void PeoplePage::showHint()
+{
+    table()->setHint(peopleHint({m_model->isLoggedIn(), m_model->isReading(), filter()->text(),
+                                 static_cast<PeopleScope>(m_scope->currentData().toInt())}));
+}

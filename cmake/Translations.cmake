@@ -8,8 +8,8 @@
 
 find_package(Qt5 REQUIRED COMPONENTS LinguistTools)
 
-# Also what the test of the translations runs; see tests/language.
-set(CONTACT_LUPDATE_OPTIONS -silent -no-obsolete -locations none -source-language en)
+# Also what the test of the translations runs; see tests/devhost/language.
+set(CONTACT_LUPDATE_OPTIONS "-silent -no-obsolete -locations none -source-language en")
 
 function(contact_add_translations target program)
     file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/translations/${program}_*.ts)
@@ -39,8 +39,9 @@ function(contact_add_translations target program)
     if(NOT TARGET update-translations)
         add_custom_target(update-translations)
     endif()
+    separate_arguments(options UNIX_COMMAND ${CONTACT_LUPDATE_OPTIONS})
     add_custom_target(update-translations-${program}
-        COMMAND Qt5::lupdate ${CONTACT_LUPDATE_OPTIONS} ${CMAKE_CURRENT_SOURCE_DIR} -ts ${sources}
+        COMMAND Qt5::lupdate ${options} ${CMAKE_CURRENT_SOURCE_DIR} -ts ${sources}
         VERBATIM)
     add_dependencies(update-translations update-translations-${program})
 endfunction()

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <exception>
@@ -17,9 +18,10 @@ QString guarded(Function &&function)
         function();
         return QString();
     } catch (const std::exception &exception) {
-        return QString::fromLocal8Bit(exception.what()) + QStringLiteral(" (exception)");
+        return QCoreApplication::translate("devhost::guarded", "%1 (exception)")
+            .arg(QString::fromLocal8Bit(exception.what()));
     } catch (...) {
-        return QStringLiteral("an exception of unknown type");
+        return QCoreApplication::translate("devhost::guarded", "an exception of unknown type");
     }
 }
 

@@ -629,6 +629,17 @@
     </message>
 </context>
 <context>
+    <name>devhost::guarded</name>
+    <message>
+        <source>%1 (exception)</source>
+        <translation>%1（异常）</translation>
+    </message>
+    <message>
+        <source>an exception of unknown type</source>
+        <translation>未知类型的异常</translation>
+    </message>
+</context>
+<context>
     <name>devhost::turntexts</name>
     <message>
         <source>

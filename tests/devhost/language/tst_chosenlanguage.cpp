@@ -1,0 +1,211 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include <QtTest>
+
+namespace {
+
+const QString Chinese = QStringLiteral("speakmate-devhost: 未知选项“nonsense”。参见 --help。\n");
+const QString English = QStringLiteral("speakmate-devhost: Unknown option 'nonsense'. See --help.\n");
+
+struct Run
+{
+    int status = -1;
+    QString output;
+    QString errors;
+};
+
+using Environment = QMap<QString, QString>;
+
+Run run(const QStringList &arguments, const Environment &locale, const QByteArray &input = QByteArray())
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG", "DISPLAY", "WAYLAND_DISPLAY"}) {
+        environment.remove(QLatin1String(name));
+    }
+    for (auto value = locale.begin(); value != locale.end(); ++value) {
+        environment.insert(value.key(), value.value());
+    }
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(DEVHOST), arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    Run result;
+    if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit) {
+        result.status = process.exitCode();
+    }
+    result.output = QString::fromUtf8(process.readAllStandardOutput());
+    result.errors = QString::fromUtf8(process.readAllStandardError());
+    return result;
+}
+
+} // namespace
+
+/// Which language the program speaks, from outside.
+class TestChosenLanguage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void localeChooses_data();
+    void localeChooses();
+    void optionOverrides_data();
+    void optionOverrides();
+    void unknownLanguageIsRefused_data();
+    void unknownLanguageIsRefused();
+    void helpIsInTheLanguage();
+    void missingDisplayIsToldInTheLanguage();
+    void terminalSpeaksTheLanguageAndTheAssistantChinese_data();
+    void terminalSpeaksTheLanguageAndTheAssistantChinese();
+    void lineErrorsAreInTheLanguage();
+
+private:
+    const QTemporaryDir m_runtime;
+};
+
+void TestChosenLanguage::initTestCase()
+{
+    // Without it Qt complains on the error stream, which is compared here.
+    QVERIFY(m_runtime.isValid());
+    qputenv("XDG_RUNTIME_DIR", m_runtime.path().toLocal8Bit());
+}
+
+void TestChosenLanguage::localeChooses_data()
+{
+    QTest::addColumn<Environment>("locale");
+    QTest::addColumn<QString>("told");
+    const QString lang = QStringLiteral("LANG");
+    const QString messages = QStringLiteral("LC_MESSAGES");
+    const QString all = QStringLiteral("LC_ALL");
+    const QString languages = QStringLiteral("LANGUAGE");
+    const QString chinese = QStringLiteral("zh_CN.UTF-8");
+    const QString english = QStringLiteral("en_GB.UTF-8");
+    QTest::newRow("none") << Environment{} << English;
+    QTest::newRow("Chinese") << Environment{{lang, chinese}} << Chinese;
+    QTest::newRow("Chinese of Taiwan") << Environment{{lang, QStringLiteral("zh_TW.UTF-8")}} << Chinese;
+    QTest::newRow("English") << Environment{{lang, english}} << English;
+    QTest::newRow("without translation") << Environment{{lang, QStringLiteral("de_DE.UTF-8")}} << English;
+    QTest::newRow("messages before the rest") << Environment{{lang, english}, {messages, chinese}} << Chinese;
+    QTest::newRow("all before messages") << Environment{{all, english}, {messages, chinese}} << English;
+    QTest::newRow("the first of a list that there is")
+        << Environment{{lang, english}, {languages, QStringLiteral("de:zh_CN:en")}} << Chinese;
+    QTest::newRow("English before Chinese")
+        << Environment{{lang, chinese}, {languages, QStringLiteral("en_GB:zh_CN")}} << English;
+}
+
+void TestChosenLanguage::localeChooses()
+{
+    QFETCH(Environment, locale);
+    const Run result = run({QStringLiteral("--converse"), QStringLiteral("--nonsense")}, locale);
+    QTEST(result.errors, "told");
+    QCOMPARE(result.status, 2);
+}
+
+void TestChosenLanguage::optionOverrides_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("told");
+    for (const char *code : {"zh_CN", "zh-CN", "zh", "zh_SG"}) {
+        QTest::newRow(code) << code << Chinese;
+    }
+    for (const char *code : {"en", "en_US", "en-GB"}) {
+        QTest::newRow(code) << code << English;
+    }
+}
+
+void TestChosenLanguage::optionOverrides()
+{
+    QFETCH(QString, code);
+    QFETCH(QString, told);
+    const QString other = told == Chinese ? QStringLiteral("en_US.UTF-8") : QStringLiteral("zh_CN.UTF-8");
+    const QStringList arguments{QStringLiteral("--converse"), QStringLiteral("--nonsense"),
+                                QStringLiteral("--language"), code};
+    QCOMPARE(run(arguments, {{QStringLiteral("LANG"), other}}).errors, told);
+}
+
+void TestChosenLanguage::unknownLanguageIsRefused_data()
+{
+    QTest::addColumn<QString>("code");
+    for (const char *code : {"fr", "zh_TW", "Chinese", "C", "", "../zh_CN"}) {
+        QTest::newRow(*code == '\0' ? "empty" : code) << code;
+    }
+}
+
+void TestChosenLanguage::unknownLanguageIsRefused()
+{
+    QFETCH(QString, code);
+    const Run result = run({QStringLiteral("--converse"), QStringLiteral("--language"), code}, {});
+    QCOMPARE(result.errors, QStringLiteral("speakmate-devhost: There is no translation to '%1'; --language "
+                                           "takes one of: en, zh_CN. See --help.\n")
+                                .arg(code));
+    QCOMPARE(result.status, 2);
+}
+
+void TestChosenLanguage::helpIsInTheLanguage()
+{
+    const Run chinese =
+        run({QStringLiteral("--help"), QStringLiteral("--language"), QStringLiteral("zh")}, {});
+    QCOMPARE(chinese.status, 0);
+    const QRegularExpression sentence(QStringLiteral("[A-Za-z]{2,} [A-Za-z]{2,} [A-Za-z]{2,}"));
+    QVERIFY2(!chinese.output.contains(sentence), qUtf8Printable(sentence.match(chinese.output).captured()));
+    QVERIFY(chinese.output.contains(QStringLiteral("--language <CODE>")));
+    const Run english = run({QStringLiteral("--help"), QStringLiteral("--language"), QStringLiteral("en")},
+                            {{QStringLiteral("LANG"), QStringLiteral("zh_CN.UTF-8")}});
+    QCOMPARE(english.status, 0);
+    QVERIFY(!english.output.contains(QRegularExpression(QStringLiteral("\\p{Han}"))));
+    QVERIFY(english.output.contains(QStringLiteral("--language <CODE>")));
+}
+
+void TestChosenLanguage::missingDisplayIsToldInTheLanguage()
+{
+    const Environment locale{{QStringLiteral("LANG"), QStringLiteral("zh_CN.UTF-8")},
+                             {QStringLiteral("QT_QPA_PLATFORM"), QString()}};
+    const Run result = run({}, locale);
+    QCOMPARE(result.status, 2);
+    QCOMPARE(
+        result.errors,
+        QStringLiteral(
+            "speakmate-devhost: 没有可以打开窗口的显示器。请使用 --converse 或 --batch。参见 --help。\n"));
+}
+
+void TestChosenLanguage::terminalSpeaksTheLanguageAndTheAssistantChinese_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("said");
+    QTest::addColumn<QString>("answered");
+    QTest::newRow("Chinese") << "zh_CN" << QStringLiteral("你会什么  ：你\n")
+                             << QStringLiteral("\n助手：您可以说：\n      查询会议：");
+    QTest::newRow("English") << "en" << QStringLiteral("你会什么  : You\n")
+                             << QStringLiteral("\nAssistant: 您可以说：\n           查询会议：");
+}
+
+void TestChosenLanguage::terminalSpeaksTheLanguageAndTheAssistantChinese()
+{
+    QFETCH(QString, code);
+    QFETCH(QString, said);
+    QFETCH(QString, answered);
+    const Run result = run({QStringLiteral("--converse"), QStringLiteral("--language"), code,
+                            QStringLiteral("--plugin"), QStringLiteral(TEST_PLUGIN)},
+                           {}, QStringLiteral("你会什么\n").toUtf8());
+    QCOMPARE(result.status, 0);
+    QVERIFY2(result.output.contains(said), qUtf8Printable(result.output));
+    QVERIFY2(result.output.contains(answered), qUtf8Printable(result.output));
+}
+
+void TestChosenLanguage::lineErrorsAreInTheLanguage()
+{
+    const QStringList arguments{QStringLiteral("--batch"), QStringLiteral("-"), QStringLiteral("--plugin"),
+                                QStringLiteral(TEST_PLUGIN), QStringLiteral("--language")};
+    const QByteArray input("[]\n");
+    const Run chinese = run(arguments + QStringList{QStringLiteral("zh")}, {}, input);
+    QCOMPARE(chinese.errors, QStringLiteral("第 1 行：不是 JSON 对象\n"));
+    QCOMPARE(chinese.status, 1);
+    const Run english = run(arguments + QStringList{QStringLiteral("en")}, {}, input);
+    QCOMPARE(english.errors, QStringLiteral("line 1: not a JSON object\n"));
+    QCOMPARE(english.status, 1);
+}
+
+QTEST_MAIN(TestChosenLanguage)
+#include "tst_chosenlanguage.moc"

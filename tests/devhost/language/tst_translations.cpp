@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include <QtTest>
+
+namespace {
+
+const QString Sources = QStringLiteral(CONTACT_SOURCE_DIR "/platform/devhost");
+
+QByteArray contentOf(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+/// The translations in the tree against the sources that they belong to.
+class TestTranslations : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void filesHoldTheTextsOfTheSources();
+    void everyTextIsTranslated();
+    void translationsTakeTheSameArguments();
+    void onlyTheAssistantsOwnTextsAreChineseInTheSources();
+
+private:
+    const QString m_file = Sources + QStringLiteral("/translations/speakmate-devhost_zh_CN.ts");
+    struct Message
+    {
+        QString source;
+        QString translation;
+        QString type; ///< empty when it is finished
+    };
+    QVector<Message> m_messages;
+};
+
+void TestTranslations::initTestCase()
+{
+    QXmlStreamReader xml(contentOf(m_file));
+    Message message;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement) {
+            continue;
+        }
+        if (xml.name() == QLatin1String("source")) {
+            message = {xml.readElementText(), QString(), QString()};
+        } else if (xml.name() == QLatin1String("translation")) {
+            message.type = xml.attributes().value(QLatin1String("type")).toString();
+            message.translation = xml.readElementText();
+            m_messages.append(message);
+        }
+    }
+    QVERIFY2(!xml.hasError(), qUtf8Printable(xml.errorString()));
+    QVERIFY2(m_messages.size() > 140, qPrintable(QString::number(m_messages.size())));
+}
+
+void TestTranslations::filesHoldTheTextsOfTheSources()
+{
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(QFileInfo(m_file).fileName());
+    QVERIFY(QFile::copy(m_file, copy));
+    QProcess lupdate;
+    lupdate.start(QStringLiteral(LUPDATE), QStringLiteral(LUPDATE_OPTIONS).split(QLatin1Char(' ')) +
+                                               QStringList{Sources, QStringLiteral("-ts"), copy});
+    QVERIFY(lupdate.waitForFinished());
+    QCOMPARE(lupdate.exitCode(), 0);
+    QVERIFY2(contentOf(copy) == contentOf(m_file),
+             "build the target update-translations and translate what is new");
+}
+
+void TestTranslations::everyTextIsTranslated()
+{
+    for (const Message &message : qAsConst(m_messages)) {
+        QVERIFY2(message.type.isEmpty() && !message.translation.isEmpty(), qUtf8Printable(message.source));
+    }
+}
+
+void TestTranslations::translationsTakeTheSameArguments()
+{
+    for (const Message &message : qAsConst(m_messages)) {
+        for (int place = 1; place <= 9; ++place) {
+            const QString mark = QStringLiteral("%%1").arg(place);
+            QVERIFY2(message.translation.count(mark) == message.source.count(mark),
+                     qUtf8Printable(message.source));
+        }
+        // A key that opens a menu in one language opens it in the other.
+        QVERIFY2(message.translation.count(QLatin1Char('&')) == message.source.count(QLatin1Char('&')),
+                 qUtf8Printable(message.source));
+    }
+}
+
+void TestTranslations::onlyTheAssistantsOwnTextsAreChineseInTheSources()
+{
+    // What answers a sentence or is one.
+    const QStringList assistant{QStringLiteral("core/conversation.cpp"),
+                                QStringLiteral("core/correction.cpp"),
+                                QStringLiteral("core/help.cpp"),
+                                QStringLiteral("service/actline.cpp"),
+                                QStringLiteral("service/launchermatcher.cpp"),
+                                QStringLiteral("window/mainwindow.cpp"),
+                                QStringLiteral("window/warmup.cpp"),
+                                QStringLiteral("window/welcomepage.cpp")};
+    const QRegularExpression chinese(QStringLiteral("\"[^\"]*\\p{Han}"));
+    QStringList found;
+    QDirIterator files(Sources, {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString name = QDir(Sources).relativeFilePath(files.next());
+        const QStringList lines = QString::fromUtf8(contentOf(files.filePath())).split(QLatin1Char('\n'));
+        for (const QString &line : lines) {
+            if (chinese.match(line.section(QStringLiteral("//"), 0, 0)).hasMatch() &&
+                !line.trimmed().startsWith(QLatin1Char('*'))) {
+                found << name;
+            }
+        }
+    }
+    found.removeDuplicates();
+    found.sort();
+    QCOMPARE(found, assistant);
+}
+
+QTEST_MAIN(TestTranslations)
+#include "tst_translations.moc"

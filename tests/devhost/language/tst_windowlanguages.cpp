@@ -1,0 +1,298 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "conversationscript.h"
+#include "desklanguage.h"
+#include "plugindesk.h"
+#include "statusline.h"
+#include "turnmenu.h"
+#include "welcomepage.h"
+
+#include "applicationlink.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <memory>
+
+using namespace devhost;
+
+namespace {
+
+struct ShownText
+{
+    QString where;
+    QString text;
+};
+
+/// What the plugin says, which the inspector shows as it is.
+QString withoutPluginsTexts(const QWidget &widget, const QString &text)
+{
+    if (widget.objectName() == QLatin1String("inspectorLog")) {
+        return QString();
+    }
+    QStringList lines = text.split(QLatin1Char('\n'));
+    if (widget.objectName() == QLatin1String("inspectorReply")) {
+        lines = lines.filter(QRegularExpression(QStringLiteral("^(?!display |speech )")));
+    }
+    return lines.join(QLatin1Char('\n'))
+        .remove(QRegularExpression(QStringLiteral("thrown (on purpose|in the reply)")));
+}
+
+bool isAssistants(const QWidget &widget)
+{
+    const auto *bubble = qobject_cast<const Bubble *>(&widget);
+    return (bubble != nullptr && bubble->role() != Bubble::Notice) ||
+           widget.objectName() == QLatin1String("example") || widget.objectName() == QLatin1String("card");
+}
+
+QStringList textsOf(const QWidget &widget)
+{
+    if (isAssistants(widget)) {
+        return {widget.toolTip()};
+    }
+    QStringList texts;
+    // By the properties, so that no kind of widget is forgotten.
+    for (const char *name :
+         {"windowTitle", "toolTip", "accessibleName", "accessibleDescription", "text", "title",
+          "placeholderText", "plainText", "prefix", "suffix", "informativeText"}) {
+        texts << withoutPluginsTexts(widget, widget.property(name).toString());
+    }
+    if (const auto *bubble = qobject_cast<const Bubble *>(&widget)) {
+        texts << withoutPluginsTexts(widget, bubble->text());
+    }
+    if (const auto *tabs = qobject_cast<const QTabWidget *>(&widget)) {
+        for (int i = 0; i < tabs->count(); ++i) {
+            texts << tabs->tabText(i) << tabs->tabToolTip(i);
+        }
+    }
+    if (const auto *box = qobject_cast<const QComboBox *>(&widget)) {
+        for (int i = 0; i < box->count(); ++i) {
+            texts << box->itemText(i);
+        }
+    }
+    const auto actions = widget.actions();
+    for (const QAction *action : actions) {
+        texts << action->text() << action->toolTip() << action->shortcut().toString(QKeySequence::NativeText);
+    }
+    return texts;
+}
+
+QVector<ShownText> textsIn(QWidget &root)
+{
+    QVector<ShownText> all;
+    QList<QWidget *> widgets = root.findChildren<QWidget *>();
+    widgets.prepend(&root);
+    for (const QWidget *widget : qAsConst(widgets)) {
+        bool isInside = false;
+        for (const QWidget *parent = widget->parentWidget(); parent != nullptr && parent != &root;
+             parent = parent->parentWidget()) {
+            isInside = isInside || isAssistants(*parent);
+        }
+        const QStringList texts = isInside ? QStringList() : textsOf(*widget);
+        for (const QString &text : texts) {
+            if (!text.isEmpty()) {
+                all.append({QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ') +
+                                widget->objectName(),
+                            text});
+            }
+        }
+    }
+    return all;
+}
+
+void markCards(ConversationView &view)
+{
+    for (int i = 0; i < view.entries().size(); ++i) {
+        if (QWidget *card = view.entries().at(i).card) {
+            card->setObjectName(QStringLiteral("card"));
+        }
+    }
+}
+
+/// What a text of the frame must not contain in a language.
+QRegularExpression strangeTo(const QString &code)
+{
+    return QRegularExpression(
+        code == QLatin1String("en")
+            ? QStringLiteral("[\\p{Han}\\x{3000}-\\x{303f}\\x{ff00}-\\x{ffef}]")
+            // Words that are no names: "JSON", "service()" and file names stay as they are.
+            : QStringLiteral("\\b[A-Z]?[a-z]+ [a-z]{2,}\\b|^&?[A-Z][a-z]{2,}…?$"));
+}
+
+} // namespace
+
+/// The frame of the window is in one language, whatever the assistant says in it.
+class TestWindowLanguages : public WindowTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void codesBeginWithEnglish();
+    void frameIsInOneLanguage_data();
+    void frameIsInOneLanguage();
+    void menusAndDialogsAreInOneLanguage_data();
+    void menusAndDialogsAreInOneLanguage();
+    void datesFollowTheWindow_data();
+    void datesFollowTheWindow();
+    void assistantSpeaksChineseInEveryLanguage_data();
+    void assistantSpeaksChineseInEveryLanguage();
+
+private:
+    void addLanguages();
+    void verify(const QVector<ShownText> &texts, int least);
+};
+
+void TestWindowLanguages::addLanguages()
+{
+    QTest::addColumn<QString>("code");
+    const QStringList codes = deskLanguage().codes();
+    for (const QString &code : codes) {
+        QTest::newRow(qPrintable(code)) << code;
+    }
+}
+
+void TestWindowLanguages::verify(const QVector<ShownText> &texts, int least)
+{
+    QFETCH(QString, code);
+    const QRegularExpression strange = strangeTo(code);
+    for (const ShownText &shown : texts) {
+        QVERIFY2(!shown.text.contains(strange),
+                 qUtf8Printable(shown.where + QStringLiteral(": ") + shown.text));
+    }
+    QVERIFY2(texts.size() >= least, qPrintable(QString::number(texts.size())));
+}
+
+void TestWindowLanguages::codesBeginWithEnglish()
+{
+    QCOMPARE(deskLanguage().codes(), QStringList({QStringLiteral("en"), QStringLiteral("zh_CN")}));
+}
+
+void TestWindowLanguages::frameIsInOneLanguage_data()
+{
+    addLanguages();
+}
+
+void TestWindowLanguages::frameIsInOneLanguage()
+{
+    QFETCH(QString, code);
+    ProgramLanguage language = deskLanguage();
+    QVERIFY(language.choose(code));
+    PluginDesk desk;
+    QVERIFY(desk.isLoaded);
+    verify(textsIn(desk.window), 60);
+    // In a conference, and with turns of every kind.
+    ApplicationState state;
+    state.isReached = true;
+    state.conferenceTitle = QStringLiteral("1");
+    state.conferenceNumber = QStringLiteral("2");
+    desk.window.findChild<StatusLine *>()->show(state);
+    for (const char *intent : {"ECHO", "CARD", "THROW", "THROWREPLY", "NOREPLY", "ASKPASSWORD"}) {
+        desk.type(semantic(intent));
+        QTRY_VERIFY(desk.isIdle());
+        markCards(desk.view());
+        verify(textsIn(desk.window), 60);
+    }
+    desk.window.showProblem(PluginHost().problem().what);
+    PluginHost nothing;
+    QVERIFY(!nothing.load(QStringLiteral("/nowhere.so")));
+    desk.window.showProblem(nothing.problem().toText());
+    verify(textsIn(desk.window), 60);
+    const QStringList script = scriptOf(desk.conversation).split(QLatin1Char('\n'));
+    for (const QString &line : script) {
+        if (line.startsWith(QLatin1Char('#'))) {
+            verify({{QStringLiteral("script"), line}}, 1);
+        }
+    }
+}
+
+void TestWindowLanguages::menusAndDialogsAreInOneLanguage_data()
+{
+    addLanguages();
+}
+
+void TestWindowLanguages::menusAndDialogsAreInOneLanguage()
+{
+    QFETCH(QString, code);
+    ProgramLanguage language = deskLanguage();
+    QVERIFY(language.choose(code));
+    PluginDesk desk;
+    desk.type(semantic("ECHO", QStringLiteral("1")));
+    QTRY_VERIFY(desk.isIdle());
+    const std::unique_ptr<QMenu> turn(
+        makeTurnMenu(desk.conversation.turn(1), QStringLiteral("1"), desk.conversation, nullptr));
+    verify(textsIn(*turn), 4);
+    // Qt's own.
+    const std::unique_ptr<QMenu> edit(desk.window.input()->createStandardContextMenu());
+    verify(textsIn(*edit), 6);
+    QAction *about = nullptr;
+    QAction *save = nullptr;
+    const auto actions = desk.window.findChildren<QAction *>();
+    for (QAction *action : actions) {
+        save = action->shortcut() == QKeySequence(QKeySequence::Save) ? action : save;
+        const bool isAbout = action->text() == MainWindow::tr("&About");
+        about = isAbout ? action : about;
+    }
+    QVERIFY(about != nullptr && save != nullptr);
+    about->trigger();
+    auto *box = desk.window.findChild<QMessageBox *>();
+    QVERIFY(box != nullptr);
+    verify(textsIn(*box), 3);
+    box->close();
+    save->trigger();
+    auto *dialog = desk.window.findChild<QFileDialog *>();
+    QVERIFY(dialog != nullptr);
+    // Folders have the names that they have.
+    QVector<ShownText> texts;
+    const QVector<ShownText> all = textsIn(*dialog);
+    for (const ShownText &shown : all) {
+        if (!shown.where.startsWith(QLatin1String("QComboBox")) &&
+            !shown.where.startsWith(QLatin1String("QFileDialogComboBox"))) {
+            texts << shown;
+        }
+    }
+    verify(texts, 15);
+    dialog->close();
+}
+
+void TestWindowLanguages::datesFollowTheWindow_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("month");
+    QTest::addColumn<QString>("day");
+    QTest::newRow("en") << "en" << QStringLiteral("March") << QStringLiteral("Sat");
+    QTest::newRow("zh_CN") << "zh_CN" << QStringLiteral("三月") << QStringLiteral("周六");
+}
+
+void TestWindowLanguages::datesFollowTheWindow()
+{
+    QFETCH(QString, code);
+    ProgramLanguage language = deskLanguage();
+    QVERIFY(language.choose(code));
+    const QCalendarWidget calendar;
+    QTEST(calendar.locale().monthName(3), "month");
+    QTEST(calendar.locale().dayName(Qt::Saturday, QLocale::ShortFormat), "day");
+    QCOMPARE(language.code(), code);
+}
+
+void TestWindowLanguages::assistantSpeaksChineseInEveryLanguage_data()
+{
+    addLanguages();
+}
+
+void TestWindowLanguages::assistantSpeaksChineseInEveryLanguage()
+{
+    QFETCH(QString, code);
+    ProgramLanguage language = deskLanguage();
+    QVERIFY(language.choose(code));
+    PluginDesk desk;
+    desk.window.submit(QStringLiteral("help"));
+    QTRY_VERIFY(desk.isIdle());
+    QVERIFY(desk.conversation.turn(1).display.startsWith(QStringLiteral("您可以说：")));
+    for (const QString &example : WelcomePage::examples()) {
+        QVERIFY2(example.contains(QRegularExpression(QStringLiteral("\\p{Han}"))), qUtf8Printable(example));
+    }
+}
+
+QTEST_MAIN(TestWindowLanguages)
+#include "tst_windowlanguages.moc"

@@ -101,7 +101,8 @@ bool Clause::excludesSomebody() const
         const Token &token = m_tokens[at];
         const QChar before = charAt(m_reading.sentence().text(), token.position - 1);
         const bool negated =
-            at > m_begin && (m_tokens[at - 1].is(WordClass::Negation) || negations.contains(before));
+            at > m_begin && (m_tokens[at - 1].is(WordClass::Negation) ||
+                             (m_tokens[at - 1].kind == Token::Kind::Other && negations.contains(before)));
         return negated && token.isAny(WordClass::Trigger | WordClass::Pull) && !token.inName;
     });
 }
@@ -138,7 +139,23 @@ bool Clause::isRefused() const
 
 bool Clause::isFinished() const
 {
-    if (has(WordClass::Request) || (m_isQuery && has(AskingWords))) {
+    const QString &text = m_reading.sentence().text();
+    const bool judged = m_isQuery && any([&](std::size_t at) { // 会开得怎么样
+                            return text.midRef(m_tokens[at].position, m_tokens[at].length + 1)
+                                .contains(QStringLiteral("开得"));
+                        });
+    if (judged) {
+        return true;
+    }
+    if (m_isQuery && has(AskingWords)) { // 我查过会议了
+        return any([&](std::size_t at) {
+            const Token &token = m_tokens[at];
+            static const QString looked = QStringLiteral("了过");
+            const QChar next = charAt(text, token.end());
+            return token.is(WordClass::Query) && looked.contains(next);
+        });
+    }
+    if (has(WordClass::Request)) {
         return false;
     }
     return any([&](std::size_t at) {
@@ -147,7 +164,6 @@ bool Clause::isFinished() const
             return false;
         }
         static const QString done = QStringLiteral("了过");
-        const QString &text = m_reading.sentence().text();
         return done.contains(text.at(token.end() - 1)) ||
                (token.end() < text.size() && done.contains(text.at(token.end())));
     });
@@ -219,7 +235,9 @@ bool Clause::hasOtherSubject() const
     return any([&](std::size_t at) {
         const Token &token = m_tokens[at];
         led = led || (!token.inName && (token.isAny(leads) || token.isAny(deeds)));
-        if (subject == m_end && !led && ((token.inName && isUncalled(token)) || isSomebody(token))) {
+        if (subject == m_end && !led &&
+            ((token.inName && isUncalled(token)) || isSomebody(token) ||
+             (at == m_begin && isStranger(token)))) {
             subject = at;
         }
         static const QString joining = QStringLiteral("和跟与同约叫让喊");
@@ -233,6 +251,11 @@ bool Clause::hasOtherSubject() const
     });
 }
 
+bool Clause::isStranger(const Token &token) const
+{
+    return token.kind == Token::Kind::Other && isPersonsName(textOf(token));
+}
+
 bool Clause::isUncalled(const Token &name) const
 {
     return m_begin == 0 || !m_reading.isCalledAt(name.position); // 和张三，李四，王五明天开会
@@ -240,10 +263,10 @@ bool Clause::isUncalled(const Token &name) const
 
 bool Clause::isPast() const
 {
-    return m_intent == QLatin1String(CreateConference) && any([&](std::size_t at) {
-               const TimeExpression &time = m_tokens[at].time;
-               return time.day == TimeExpression::Day::Relative && time.dayOffset < 0;
-           });
+    return !m_isQuery && any([&](std::size_t at) {
+        const TimeExpression &time = m_tokens[at].time;
+        return time.day == TimeExpression::Day::Relative && time.dayOffset < 0;
+    });
 }
 
 QString Clause::textOf(const Token &token) const
@@ -282,8 +305,48 @@ bool Clause::isOtherQuestion() const
     const bool proposed = !m_reading.openVerb().isEmpty() &&
                           !m_reading.hasAny(WordClass::Query | WordClass::AskedTime) &&
                           (!m_reading.names().empty() || m_reading.timeCount() == 0);
-    return uncalled || settled || proposed ||
+    constexpr WordClasses asking = WordClass::Query | WordClass::Question | WordClass::QuestionParticle;
+    const bool reported = !m_reading.hasAny(asking) && any([&](std::size_t at) { // 昨天的会没开完, not 没会
+        const bool none = at + 1 < m_end && m_tokens[at + 1].is(WordClass::Conference);
+        return m_tokens[at].is(WordClass::Reported) && !none;
+    });
+    return uncalled || settled || proposed || reported || asksAboutConference() ||
            (has(WordClass::Have) && !m_reading.hasAny(AskingWords) && !m_reading.isAsked());
+}
+
+bool Clause::asksAboutConference() const
+{
+    constexpr WordClasses listing = WordClass::Have | WordClass::Question | WordClass::AskedTime |
+                                    WordClass::Query | WordClass::Schedule | WordClass::Next;
+    const QString &text = m_reading.sentence().text();
+    const bool unlisted = has(WordClass::QuestionParticle) && !m_reading.hasAny(listing) &&
+                          m_reading.openVerb().isEmpty(); // 明天的会重要吗
+    bool conference = false;
+    return unlisted ||
+           std::any_of(m_tokens.cbegin() + static_cast<std::ptrdiff_t>(m_begin),
+                       m_tokens.cbegin() + static_cast<std::ptrdiff_t>(m_end),
+                       [&](const Token &token) {
+                           const bool about = conference && token.is(WordClass::Topic) &&
+                                              !token.is(WordClass::Query); // 会议讨论了什么
+                           conference = conference || (token.is(WordClass::Conference) && !token.inTopic);
+                           return about;
+                       }) ||
+           any([&](std::size_t at) {
+               static const QString wanted = QStringLiteral("么啥少个些");
+               const Token &token = m_tokens[at];
+               if (startsAt(text, token.position, QStringLiteral("几个人"))) {
+                   return true;
+               }
+               if (!token.is(WordClass::Question) || token.is(WordClass::AskedTime) ||
+                   !wanted.contains(text.at(token.end() - 1))) {
+                   return false;
+               }
+               const QChar next = charAt(text, token.end());
+               const QChar room = at + 1 < m_end ? text.at(m_tokens[at + 1].end() - 1) : QChar();
+               static const QString verbs = QStringLiteral("备带穿做干吃说讲聊谈用交写填");
+               return next == QChar(u'人') || room == QChar(u'室') ||
+                      verbs.contains(charAt(text, token.position - 1)); // 明天的会要准备什么
+           });
 }
 
 bool Clause::isAtOtherTime() const

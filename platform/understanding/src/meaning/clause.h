@@ -23,6 +23,8 @@ public:
     bool isPolitelyRequested() const;
     bool callsSomebody() const;
     bool isSupposed() const;
+    /// 张伟明天三点开会: somebody whom no word calls, right before what is done.
+    bool hasOtherSubject() const;
     /// 秦姐, alone before an order: somebody whom nothing calls.
     bool isOnlySomebody() const;
     /// 老板喊开会了: somebody without a name does it, so it is only news.
@@ -50,8 +52,8 @@ private:
     bool isNegated() const;
     /// 王磊离开会议了, 他结束了会议, 谁邀请了张三: somebody else stands before the verb, called by no word.
     bool isSomebodyElses() const;
-    /// 张伟明天三点开会: somebody whom no word calls, right before what is done.
-    bool hasOtherSubject() const;
+    /// 王磊 in 王磊退会了.
+    bool isStranger(const Token &token) const;
     bool isUncalled(const Token &name) const;
     /// 老板, 同事: a person without a name.
     bool isSomebody(const Token &token) const;
@@ -63,6 +65,8 @@ private:
     bool isOnlyNumber() const;
     /// 开会要带什么 asks about something else than which conferences there are.
     bool isOtherQuestion() const;
+    /// 会议有多少人, 明天的会重要吗: it is known which conference, something else is asked.
+    bool asksAboutConference() const;
     /// 320号上午九点: a conference is joined now, so the number may be a date.
     bool isAtOtherTime() const;
     /// 帮我订个会议室: a room is no conference.

@@ -6,6 +6,7 @@
 #include "meaning/callings.h"
 #include "meaning/clause.h"
 #include "meaning/outcome.h"
+#include "text/scan.h"
 
 #include <algorithm>
 
@@ -15,6 +16,54 @@ namespace understanding {
 static bool isAllQuoted(const QString &text)
 {
     return text.startsWith(QChar(u'“')) && text.indexOf(QChar(u'”')) == text.size() - 1;
+}
+
+/// 让张伟退出会议, 会议结束的时间, 我可以退会吗: nobody leaves but who orders it.
+static bool isLeftByOther(const Reading &reading)
+{
+    static const QStringList calls = {QStringLiteral("让"), QStringLiteral("叫"), QStringLiteral("请"),
+                                      QStringLiteral("喊"), QStringLiteral("通知")};
+    static const QStringList orders = {QStringLiteral("帮"), QStringLiteral("给我"), QStringLiteral("麻烦"),
+                                       QStringLiteral("吧")};
+    const QString &text = reading.sentence().text();
+    const Tokens &tokens = reading.tokens();
+    bool served = false;
+    bool asked = reading.isAsked();
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        const QString word = text.mid(tokens[at].position, tokens[at].length);
+        const bool other =
+            at + 1 < tokens.size() && (tokens[at + 1].inName || tokens[at + 1].is(WordClass::Actor) ||
+                                       tokens[at + 1].is(WordClass::Title));
+        const bool noun = tokens[at].is(WordClass::Close) && tokens[at].end() + 1 < text.size() &&
+                          text.at(tokens[at].end()) == QChar(u'的');
+        if ((calls.contains(word) && other && !tokens[at].inName) || noun) {
+            return true;
+        }
+        served = served || std::any_of(orders.cbegin(), orders.cend(),
+                                       [&](const QString &order) { return word.startsWith(order); });
+        asked = asked || tokens[at].is(WordClass::QuestionParticle);
+    }
+    return asked && !served;
+}
+
+/// 我昨天进的会议是123456, 加一下老同学，号码13711112222: a number, but nobody orders to join it.
+static bool isNumberOfOther(const Reading &reading)
+{
+    const QString &text = reading.sentence().text();
+    const Tokens &tokens = reading.tokens();
+    const bool told = std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
+        const int of = token.end();
+        return token.isAny(WordClass::Join | WordClass::WeakJoin) && !token.is(WordClass::Conference) &&
+               of < text.size() && text.at(of) == QChar(u'的') && text.indexOf(QChar(u'是'), of) > of;
+    });
+    constexpr WordClasses joining =
+        WordClass::Join | WordClass::WeakJoin | WordClass::Conference | WordClass::PasswordLabel;
+    const bool joins = std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
+        return token.isAny(WordClass::Join | WordClass::WeakJoin) &&
+               charAt(text, token.end()) != QChar(u'的');
+    });
+    return (told && !joins) || (reading.has(WordClass::Add) && !reading.hasAny(joining) &&
+                                !text.contains(QChar(u'会')) && reading.has(WordClass::IdLabel));
 }
 
 static bool isDeed(const Token &token)
@@ -57,7 +106,8 @@ Verdict judge(const Reading &reading, const QString &intent)
     bool finished = false;
     bool supposed = false;
     bool doubtful = reading.hasDoubtfulName() && intent != QLatin1String(QueryConference);
-    doubtful = doubtful || isConditional(reading);
+    // 约小张和小李，不对，约小王: which of them?
+    doubtful = doubtful || isConditional(reading) || reading.has(WordClass::Repair);
     // Nothing that was said is dropped in silence: 需求评审安排到明天十一点，拉上小唐 is no plain invitation.
     const bool untimely = intent == QLatin1String(InviteConference) || intent == QLatin1String(AddBuddy);
     doubtful = doubtful || (untimely && reading.clockCount() > 0);
@@ -68,6 +118,8 @@ Verdict judge(const Reading &reading, const QString &intent)
     // 拉张伟和200002进来: not everybody was found.
     doubtful = doubtful || (intent == QLatin1String(InviteConference) && pullsOther(reading) &&
                             !reading.conferenceNumber().isEmpty());
+    doubtful = doubtful || (intent == QLatin1String(CloseConference) && isLeftByOther(reading));
+    doubtful = doubtful || (intent == QLatin1String(EnterConferenceById) && isNumberOfOther(reading));
     // 从这个会退出，加入123456: two things at once.
     doubtful =
         doubtful || (intent == QLatin1String(CloseConference) && !reading.conferenceNumber().isEmpty() &&
@@ -85,13 +137,17 @@ Verdict judge(const Reading &reading, const QString &intent)
         const QChar sign = end < tokens.size() ? reading.sentence().text().at(tokens[end].position) : QChar();
         const Clause clause(reading, intent, begin, end);
         supposed = supposed || clause.isSupposed();
-        doubtful = doubtful || clause.excludesSomebody();
+        if (takesPeople && clause.isOrder() && clause.excludesSomebody()) {
+            return Verdict::Refuse;
+        }
         if (clause.isTold()) { // 老板喊开会了，帮我拉个会
             told = true;
         } else if (clause.isOrder() && clause.isOnlyReported()) { // 领导要求明天开会，帮我发起一个
             told = true;
         } else if (clause.isOrder()) {
-            if (clause.isRefused()) {
+            const bool leftByOther = intent == QLatin1String(CloseConference) && clause.hasOtherSubject() &&
+                                     !clause.isRequested(); // 王磊退会了
+            if (clause.isRefused() || leftByOther) {
                 return Verdict::Refuse;
             }
             const bool asked = sign == QLatin1Char('?') && !clause.isPolitelyRequested();

@@ -48,11 +48,11 @@ bool isNegated(const Reading &reading)
                                   WordClass::Trigger | WordClass::Add | WordClass::Buddy |
                                   WordClass::ComeMeet | WordClass::Arrive;
     const Tokens &tokens = reading.tokens();
-    for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
         if (!tokens[at].is(WordClass::Negation)) {
             continue;
         }
-        std::size_t next = at + 1;
+        std::size_t next = qMin(at + 1, tokens.size() - 1);
         while (next + 1 < tokens.size() &&
                (tokens[next].is(WordClass::Filler) || tokens[next].kind == Token::Kind::Time ||
                 tokens[next].is(WordClass::Nobody))) {
@@ -64,7 +64,8 @@ bool isNegated(const Reading &reading)
                                             tokens.cend(), [](const Token &token) {
                                                 return token.isAny(WordClass::Close | WordClass::CloseAlone);
                                             });
-        if (tokens[next].isAny(deeds) && !endFollows) {
+        const bool itself = firstOf(reading.sentence().text(), tokens[at].position, {u"不参加", u"不去"}) > 0;
+        if ((itself || tokens[next].isAny(deeds)) && !endFollows) {
             return true;
         }
     }

@@ -99,7 +99,7 @@ int modifierLength(const QString &text)
 int headLength(const QString &name)
 {
     static const QString verbs =
-        QStringLiteral("薅整下出回去来说吃喝玩打看做写买送聊谈拉约让叫喊呗请找搞问想要进入");
+        QStringLiteral("也都薅整下出回去来说吃喝玩打看做写买送聊谈拉约让叫喊呗请找搞问想要进入");
     if (isSurnameWithTitle(name)) { // 张顾问
         return name.size();
     }

@@ -63,7 +63,12 @@ private:
             m_lost = m_lost || isLostBefore(m_tokens, at);
             const bool clauseSign =
                 token.is(WordClass::Separator) && !token.is(WordClass::Trigger) && !m_listed;
-            return takeZone(at, token.is(WordClass::WeakTrigger) || clauseSign);
+            const std::size_t before = m_names.size();
+            const std::size_t last = takeZone(at, token.is(WordClass::WeakTrigger) || clauseSign);
+            if (m_places.isNegatedBefore(at)) { // 不叫李娜
+                m_names.resize(before);
+            }
+            return last;
         }
         if (token.kind == Token::Kind::Name) {
             addKnown(token, false);
@@ -102,6 +107,10 @@ private:
         }
         if (m_tokens[last].kind != Token::Kind::Other) {
             return at;
+        }
+        if (last + 1 < m_tokens.size() && m_tokens[last + 1].is(WordClass::Title) &&
+            m_tokens[last + 1].position == m_tokens[last].end()) { // 陈工
+            ++last;
         }
         std::size_t next = last + 1;
         static const QString addressed = QStringLiteral("你您"); // 陈工你也叫上
@@ -275,6 +284,11 @@ private:
                 }
             }
             addOne(m_text.indexOf(name, start), name.size(), true);
+            m_names.back().start = m_modifierStart >= 0 ? m_modifierStart : m_names.back().start;
+            if (isModifier(m_text.mid(start, m_names.back().position - start))) { // 人事部的丽莎·张
+                m_names.back().start = qMin(start, m_names.back().start);
+            }
+            m_modifierStart = -1;
             return last;
         }
         const QString run = m_text.mid(start, end - start);
@@ -284,6 +298,14 @@ private:
         if (nameFollows && isModifier(run)) {
             m_modifierStart = start;
             return last;
+        }
+        static const QString prefixes = QStringLiteral("小老阿大");
+        if (nameFollows && prefixes.contains(run.at(run.size() - 1)) &&
+            isModifier(run.chopped(1))) { // 设计师阿B
+            addOne(end - 1, m_tokens[next].end() - end + 1, true);
+            m_names.back().start = m_modifierStart >= 0 ? m_modifierStart : start;
+            m_modifierStart = -1;
+            return next;
         }
         // 外包那个Sergey, 鉴定人贾博文
         static const QString pointers = QStringLiteral("那个这个那位这位人成员");

@@ -22,6 +22,15 @@ bool NamePlaces::standsApartBehind(std::size_t at) const
            m_tokens[at + 1].isAny(WordClass::Punctuation | WordClass::Separator);
 }
 
+bool NamePlaces::isNegatedBefore(std::size_t at) const
+{
+    static const QString negations = QStringLiteral("不没别甭勿莫");
+    return at > 0 &&
+           (m_tokens[at - 1].is(WordClass::Negation) ||
+            (m_tokens[at - 1].kind == Token::Kind::Other && m_tokens[at - 1].end() == m_tokens[at].position &&
+             negations.contains(m_text.at(m_tokens[at].position - 1))));
+}
+
 bool NamePlaces::hasConference() const
 {
     return std::any_of(m_tokens.cbegin(), m_tokens.cend(),
@@ -41,7 +50,7 @@ std::size_t NamePlaces::endOfModifier(std::size_t at) const
     constexpr std::size_t longest = 5;
     constexpr WordClasses between = WordClass::Nobody | WordClass::Plain | WordClass::Title |
                                     WordClass::AccountLabel | WordClass::Mine | WordClass::NameLabel |
-                                    WordClass::IdLabel | WordClass::Filler;
+                                    WordClass::IdLabel | WordClass::Filler | WordClass::Reported;
     for (std::size_t next = at; next < qMin(m_tokens.size(), at + longest); ++next) {
         const Token &token = m_tokens[next];
         const bool dayOfMonth = token.kind == Token::Kind::Time && next == at && !token.time.hasClock &&

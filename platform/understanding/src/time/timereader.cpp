@@ -93,7 +93,7 @@ int readMoment(const QString &text, int position, TimeExpression &expression, bo
 }
 
 /// The rest of a span: 到四点, -15:00. Returns the new end.
-int readSpanEnd(const QString &text, int end)
+int readSpanEnd(const QString &text, int end, TimeExpression &expression)
 {
     const int start = skipSpaces(text, end);
     const int joint = firstOf(text, start, {u"开到", u"一直到", u"到", u"至", u"-", u"~"});
@@ -101,11 +101,19 @@ int readSpanEnd(const QString &text, int end)
         return end;
     }
     int at = skipSpaces(text, start + joint);
-    TimeExpression ignored;
+    TimeExpression last;
     bool unclear = false;
-    const int spanEnd = readMoment(text, at, ignored, unclear);
+    const int spanEnd = readMoment(text, at, last, unclear);
     if (spanEnd == at) {
         return end;
+    }
+    TimeExpression day;
+    bool noDay = false;
+    const bool dayFollows = last.day != TimeExpression::Day::None && readDay(text, at, day, noDay) == 0;
+    if (dayFollows && expression.day == TimeExpression::Day::None && last.hasClock) { // 三点到四点明天
+        const int part = expression.part;
+        expression.complete(last);
+        expression.part = part;
     }
     return spanEnd + firstOf(text, spanEnd, {u"之间", u"期间"});
 }
@@ -123,7 +131,7 @@ TimeMatch readTime(const QString &text, int position)
     if (end > position) {
         match.kind = unclear ? TimeMatch::Kind::UnclearDay : TimeMatch::Kind::Time;
         end += firstOf(text, end, {u"左右", u"前后", u"多", u"许"});
-        end = readSpanEnd(text, end);
+        end = readSpanEnd(text, end, match.expression);
         end += firstOf(text, end, {u"左右", u"前后", u"以前", u"之前", u"以后", u"之后", u"的时候"});
         match.length = end - position;
         return match;

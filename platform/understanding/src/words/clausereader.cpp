@@ -236,6 +236,12 @@ bool settlesTime(const QString &text, const Token &token)
     return token.is(WordClass::StrongOpen) && token.length > 1 && where.contains(text.at(token.end() - 1));
 }
 
+/// 名称：复盘 时间：周五三点: what follows is no topic.
+bool labelsTime(const QString &text, const Token &token)
+{
+    return token.is(WordClass::Filler) && firstOf(text, token.position, {u"时间", u"日期"}) > 0;
+}
+
 /// What a conference is about runs to the end of its clause or to the conference: 关于预算的会议.
 void settleTopics(const QString &text, Tokens &tokens)
 {
@@ -245,7 +251,7 @@ void settleTopics(const QString &text, Tokens &tokens)
         const bool newTrigger =
             token.is(WordClass::Trigger) && !token.is(WordClass::WeakTrigger) && token.length > 1;
         if (token.is(WordClass::Conference) || token.is(WordClass::Punctuation) || newTrigger ||
-            token.is(WordClass::NameLabel) || settlesTime(text, token)) {
+            token.is(WordClass::NameLabel) || settlesTime(text, token) || labelsTime(text, token)) {
             inTopic = false;
         }
         token.inTopic = inTopic;

@@ -86,7 +86,7 @@ std::size_t nameBefore(const Tokens &tokens, std::size_t repair)
 
 bool callsPeople(const Token &token)
 {
-    return token.is(WordClass::Trigger) && !token.isAny(WordClass::StrongOpen | WordClass::Separator);
+    return token.is(WordClass::Trigger) && !token.is(WordClass::StrongOpen);
 }
 
 /// 约小张开会，不对，约小王: the last call before @p repair with the name behind it, when the replacement
@@ -105,7 +105,10 @@ bool dropCall(Tokens &tokens, std::size_t repair, std::size_t later, std::vector
     while (end < repair && isNamePart(tokens[end])) {
         ++end;
     }
-    if (end == trigger + 1) {
+    const bool listed =
+        (end < repair && tokens[end].is(WordClass::Separator)) ||
+        (trigger > 0 && tokens[trigger].is(WordClass::Separator) && isNamePart(tokens[trigger - 1]));
+    if (end == trigger + 1 || listed) { // which of several?
         return false;
     }
     if (!called) {

@@ -6,31 +6,14 @@
 #include <QCheckBox>
 
 /// Who uses the application.
-class TestAccountBar : public QObject
+class TestAccountBar : public ContactsWindowTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void loggingInAndOutChangesWhatIsShown();
     void theAccountsKindIsChanged();
-
-private:
-    std::unique_ptr<WindowFixture> m_fixture;
 };
-
-void TestAccountBar::init()
-{
-    m_fixture = std::make_unique<WindowFixture>();
-    QVERIFY(m_fixture->waitUntilShown());
-}
-
-void TestAccountBar::cleanup()
-{
-    m_fixture.reset();
-}
 
 void TestAccountBar::loggingInAndOutChangesWhatIsShown()
 {

@@ -10,14 +10,11 @@
 #include <QHeaderView>
 
 /// The page of conferences over the sample directory.
-class TestConferencePage : public QObject
+class TestConferencePage : public ContactsWindowTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void itShowsTheUsersConferences();
     void aFilterLeavesWhatItSays();
     void aHeaderSorts();
@@ -28,21 +25,7 @@ private Q_SLOTS:
     void whatCannotBeDoneIsDisabled();
     void aConferenceIsExportedFromTheMenu();
     void theMenuCopiesTheNumber();
-
-private:
-    std::unique_ptr<WindowFixture> m_fixture;
 };
-
-void TestConferencePage::init()
-{
-    m_fixture = std::make_unique<WindowFixture>();
-    QVERIFY(m_fixture->waitUntilShown());
-}
-
-void TestConferencePage::cleanup()
-{
-    m_fixture.reset();
-}
 
 void TestConferencePage::itShowsTheUsersConferences()
 {

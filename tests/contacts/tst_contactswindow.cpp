@@ -13,14 +13,11 @@
 #include <QLineEdit>
 
 /// What all pages of the window have in common.
-class TestContactsWindow : public QObject
+class TestContactsWindow : public ContactsWindowTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void everyButtonCanBeReachedWithTheKeyboard();
     void everyControlHasANameForScreenReaders();
     void closingHidesIt();
@@ -28,21 +25,7 @@ private Q_SLOTS:
     void usersDoNotSeeWhatIsForDevelopers();
     void pictures_data();
     void pictures();
-
-private:
-    std::unique_ptr<WindowFixture> m_fixture;
 };
-
-void TestContactsWindow::init()
-{
-    m_fixture = std::make_unique<WindowFixture>();
-    QVERIFY(m_fixture->waitUntilShown());
-}
-
-void TestContactsWindow::cleanup()
-{
-    m_fixture.reset();
-}
 
 void TestContactsWindow::everyButtonCanBeReachedWithTheKeyboard()
 {

@@ -8,30 +8,13 @@
 #include <QCheckBox>
 
 /// The page of the reminders' settings.
-class TestReminderPage : public QObject
+class TestReminderPage : public ContactsWindowTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void remindersAreSetWithTheKeyboard();
-
-private:
-    std::unique_ptr<WindowFixture> m_fixture;
 };
-
-void TestReminderPage::init()
-{
-    m_fixture = std::make_unique<WindowFixture>();
-    QVERIFY(m_fixture->waitUntilShown());
-}
-
-void TestReminderPage::cleanup()
-{
-    m_fixture.reset();
-}
 
 void TestReminderPage::remindersAreSetWithTheKeyboard()
 {

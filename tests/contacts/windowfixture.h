@@ -17,6 +17,8 @@
 #include <QTabWidget>
 #include <QtTest>
 
+#include <memory>
+
 /// The application's window over the sample directory, for driving it as a person would. One per test
 /// function.
 struct WindowFixture
@@ -74,4 +76,21 @@ struct WindowFixture
     std::unique_ptr<LogCapture> log;
     std::unique_ptr<SampleWorld> world;
     std::unique_ptr<ContactsWindow> window;
+};
+
+/// Derive a test of the window from it: each function gets a window of its own.
+class ContactsWindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_fixture = std::make_unique<WindowFixture>();
+        QVERIFY(m_fixture->waitUntilShown());
+    }
+    void cleanup() { m_fixture.reset(); }
+
+protected:
+    std::unique_ptr<WindowFixture> m_fixture;
 };

@@ -110,7 +110,7 @@ int serve(QCoreApplication &application, Starter starter, Audience audience)
     std::unique_ptr<ContactsWindow> window; // made when it is first wanted: most of the time nobody looks
     if (qobject_cast<QApplication *>(&application)) {
         endWithLastWindowUnless([&book] { return remindersAreOn(*book); });
-        const auto showWindow = [&] {
+        const auto showWindow = [&](WindowFocus focus) {
             if (!window) {
                 QApplication::setStyle(new LStyle);
                 appearance = std::make_unique<SharedAppearance>(SharedAppearance::deskSettingsFile());
@@ -119,14 +119,15 @@ int serve(QCoreApplication &application, Starter starter, Audience audience)
                     *book, administration,
                     isForDevelopers ? ContactsWindow::Tools::ForDevelopers : ContactsWindow::Tools::ForUsers);
             }
-            window->bringUp();
+            window->bringUp(focus);
         };
         // Not within the request that wants it: the answer goes first.
         QObject::connect(book.get(), &ContactsBook::windowWanted, book.get(), showWindow,
                          Qt::QueuedConnection);
-        QObject::connect(&reminders, &Reminders::windowWanted, book.get(), showWindow);
+        QObject::connect(&reminders, &Reminders::windowWanted, book.get(),
+                         [showWindow] { showWindow(WindowFocus::Take); });
         if (starter == Starter::User) {
-            showWindow();
+            showWindow(WindowFocus::Take);
         }
     }
     return QCoreApplication::exec();

@@ -278,6 +278,7 @@ void TestActionEffects::whoMustLogInSeesTheWindow()
     world.admin.Logout();
     world.ask(Search);
     QCOMPARE(wanted.count(), 1);
+    QCOMPARE(wanted.first().first().value<WindowFocus>(), WindowFocus::Leave);
 }
 
 void TestActionEffects::openingTheListShowsTheWindow()
@@ -286,6 +287,10 @@ void TestActionEffects::openingTheListShowsTheWindow()
     QSignalSpy wanted(&world.book, &ContactsBook::windowWanted);
     world.ask(Open);
     QCOMPARE(wanted.count(), 1);
+    // A program's request, such as that of a join from within another conference: its user may be typing.
+    QCOMPARE(wanted.takeFirst().first().value<WindowFocus>(), WindowFocus::Leave);
+    world.ask(Open, {{QStringLiteral("askedBy"), QStringLiteral("user")}});
+    QCOMPARE(wanted.takeFirst().first().value<WindowFocus>(), WindowFocus::Take);
 }
 
 void TestActionEffects::aSearchWithoutParametersFindsEverythingFromNowOn()

@@ -107,11 +107,13 @@ public:
     bool isThere() const { return m_isThere; }
 
     QStringList asked;
+    QStringList parametersAsked;
 
 public Q_SLOTS:
-    Q_SCRIPTABLE QString Request(const QString &action, const QString &, qlonglong, const QString &)
+    Q_SCRIPTABLE QString Request(const QString &action, const QString &parameters, qlonglong, const QString &)
     {
         asked.append(action);
+        parametersAsked.append(parameters);
         return QStringLiteral("{}");
     }
 
@@ -435,6 +437,7 @@ void TestApplication::aStartInTheBackgroundOpensNoWindow()
     QTRY_COMPARE(second.state(), QProcess::NotRunning);
     QCOMPARE(second.exitCode(), 0);
     QCOMPARE(running.asked.count(QStringLiteral("Open Conference List")), windowsWanted);
+    QCOMPARE(running.parametersAsked.count(QStringLiteral("{\"askedBy\":\"user\"}")), windowsWanted);
 }
 
 void TestApplication::itNeedsABus()

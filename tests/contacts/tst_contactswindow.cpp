@@ -21,6 +21,7 @@ private Q_SLOTS:
     void everyButtonCanBeReachedWithTheKeyboard();
     void everyControlHasANameForScreenReaders();
     void closingHidesIt();
+    void comingUpForAProgramItLeavesTheFocusWhereOneTypes();
     void aNoticeStaysUntilItIsRead();
     void usersDoNotSeeWhatIsForDevelopers();
     void pictures_data();
@@ -61,8 +62,36 @@ void TestContactsWindow::closingHidesIt()
 {
     QTest::keyClick(m_fixture->window.get(), Qt::Key_W, Qt::ControlModifier);
     QVERIFY(!m_fixture->window->isVisible());
-    m_fixture->window->bringUp();
+    m_fixture->window->bringUp(WindowFocus::Take);
     QVERIFY(m_fixture->window->isVisible());
+}
+
+void TestContactsWindow::comingUpForAProgramItLeavesTheFocusWhereOneTypes()
+{
+    QLineEdit elsewhere;
+    elsewhere.show();
+    elsewhere.activateWindow();
+    elsewhere.setFocus();
+    QTRY_VERIFY(elsewhere.hasFocus());
+    ContactsWindow &window = *m_fixture->window;
+    window.bringUp(WindowFocus::Leave);
+    QCoreApplication::processEvents();
+    QVERIFY(elsewhere.hasFocus() && !window.isActiveWindow());
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("a"));
+    QCOMPARE(elsewhere.text(), QStringLiteral("a"));
+    // Neither when it has to be shown first; the test's platform itself knows no such wish.
+    window.hide();
+    window.bringUp(WindowFocus::Leave);
+    QVERIFY(window.isVisible());
+    QVERIFY(window.windowHandle()->property("_q_showWithoutActivating").toBool());
+
+    elsewhere.activateWindow();
+    QTRY_VERIFY(elsewhere.hasFocus());
+    window.bringUp(WindowFocus::Take);
+    QTRY_VERIFY(window.isActiveWindow());
+    window.hide();
+    window.bringUp(WindowFocus::Take);
+    QVERIFY(!window.windowHandle()->property("_q_showWithoutActivating").toBool());
 }
 
 void TestContactsWindow::aNoticeStaysUntilItIsRead()

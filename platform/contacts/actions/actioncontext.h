@@ -7,6 +7,8 @@
 #include "core/peoplerepository.h"
 #include "core/sessionrepository.h"
 
+#include "book/windowfocus.h"
+
 #include <functional>
 
 /// What one action works with: everything happens at @p nowMsecs, for @p user, inside one transaction.
@@ -17,5 +19,5 @@ struct ActionContext
     SessionRepository &session;
     qint64 nowMsecs;
     Person user; ///< who is logged in; empty in actions that need nobody
-    std::function<void()> openWindow;
+    std::function<void(WindowFocus)> openWindow;
 };

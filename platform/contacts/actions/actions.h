@@ -55,8 +55,10 @@ QJsonObject addFriends(const ActionContext &context, const RequestParameters &pa
 /// "Exit Conference": leaves the conference that the user is in; it ends when the user is its host.
 QJsonObject exitConference(const ActionContext &context, const RequestParameters &parameters);
 
-/// "Open Conference List": brings the window up, where there is a screen for it. Needs nobody logged in: one
-/// logs in there.
+/**
+ * "Open Conference List" {"askedBy"}: brings the window up, where there is a screen for it. It takes the
+ * focus only when "user" asked for it. Needs nobody logged in: one logs in there.
+ */
 QJsonObject openConferenceList(const ActionContext &context, const RequestParameters &parameters);
 
 /**

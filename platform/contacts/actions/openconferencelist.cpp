@@ -7,10 +7,12 @@
 #include "actions/answer.h"
 #include "actions/requestparameters.h"
 
+#include "core/jsonkeys.h"
 #include "core/outcome.h"
 
-QJsonObject openConferenceList(const ActionContext &context, const RequestParameters &)
+QJsonObject openConferenceList(const ActionContext &context, const RequestParameters &parameters)
 {
-    context.openWindow();
+    const bool isUsersWish = parameters.text(JsonKey::AskedBy) == JsonKey::AskedByUser;
+    context.openWindow(isUsersWish ? WindowFocus::Take : WindowFocus::Leave);
     return answerWord(Outcome::Success);
 }

@@ -74,20 +74,24 @@ QString ContactsBook::perform(const QString &action, const QString &parameters, 
     }
     try {
         const RequestParameters request(parameters);
-        bool windowWanted = false;
+        std::optional<WindowFocus> windowWanted;
         const qint64 writtenBefore = m_database.writtenRows();
         bool hasWritten = false;
         QJsonObject answer;
         {
             Transaction transaction(m_database.handle());
             const std::optional<Person> user = m_session.user();
-            const ActionContext context{
-                m_people, m_conferences, m_session, nowMsecs(), user.value_or(Person()), [&windowWanted] {
-                    windowWanted = true;
-                }};
+            const ActionContext context{m_people,
+                                        m_conferences,
+                                        m_session,
+                                        nowMsecs(),
+                                        user.value_or(Person()),
+                                        [&windowWanted](WindowFocus focus) {
+                                            windowWanted = focus;
+                                        }};
             if (!user && known->access == ActionAccess::LoggedInUser) {
                 answer = answerWord(Outcome::NotLoggedIn);
-                windowWanted = true; // logging in is done there
+                windowWanted = WindowFocus::Leave; // logging in is done there
             } else {
                 answer = known->handler(context, request);
             }
@@ -106,7 +110,7 @@ QString ContactsBook::perform(const QString &action, const QString &parameters, 
             Q_EMIT changed();
         }
         if (windowWanted) {
-            Q_EMIT this->windowWanted();
+            Q_EMIT this->windowWanted(*windowWanted);
         }
         return toText(answer);
     } catch (const InvalidParameters &error) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "book/requestticket.h"
+#include "book/windowfocus.h"
 #include "core/conferencerepository.h"
 #include "core/database.h"
 #include "core/peoplerepository.h"
@@ -61,7 +62,7 @@ Q_SIGNALS:
     /// The same, once for a burst of changes and after their answers: for whoever reads much.
     void changedLately();
     /// The user is to see the window: asked for it, or has to log in.
-    void windowWanted();
+    void windowWanted(WindowFocus focus);
 
 private:
     /// Loads the sample where there was never anything.

@@ -18,6 +18,10 @@ const QLatin1String ParticipantLimit("participantLimit");
 const QLatin1String ConferenceId("conferenceId");
 const QLatin1String Password("password");
 
+// {"askedBy":"user"}
+const QLatin1String AskedBy("askedBy");
+const QLatin1String AskedByUser("user");
+
 // {"ret":"Return","users":[{"name":"张伟","status":"Duplicate","duplicate_list":[{"name":"…","userId":"…","account":"…"}]}]}
 const QLatin1String Ret("ret");
 const QLatin1String List("list");

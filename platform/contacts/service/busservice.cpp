@@ -71,7 +71,8 @@ void BusService::askOtherForWindow()
     constexpr int timeoutMsecs = 5000;
     QDBusMessage message = BusName::contactCall(QStringLiteral("Request"));
     const qint64 deadlineMsecs = RequestTicket::nowMsecs() + timeoutMsecs;
-    message << QStringLiteral("Open Conference List") << QString() << deadlineMsecs << QString();
+    message << QStringLiteral("Open Conference List") << QStringLiteral("{\"askedBy\":\"user\"}")
+            << deadlineMsecs << QString();
     const QDBusMessage reply = m_connection.call(message, QDBus::Block, timeoutMsecs);
     if (reply.type() == QDBusMessage::ErrorMessage) {
         qWarning() << "The running application cannot be asked for its window:" << reply.errorMessage();

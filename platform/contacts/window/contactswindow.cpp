@@ -15,11 +15,13 @@
 #include "book/administration.h"
 #include "book/contactsbook.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QShortcut>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <QWindow>
 
 ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administration, Tools tools)
     : m_pages(new QTabWidget)
@@ -64,12 +66,20 @@ ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administratio
     resize(960, 560);
 }
 
-void ContactsWindow::bringUp()
+void ContactsWindow::bringUp(WindowFocus focus)
 {
+    // Qt looks at the attribute only when it makes the native window, and at its property each time.
+    setAttribute(Qt::WA_ShowWithoutActivating, focus == WindowFocus::Leave);
+    winId();
+    windowHandle()->setProperty("_q_showWithoutActivating", focus == WindowFocus::Leave);
     show();
     setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
-    activateWindow();
+    if (focus == WindowFocus::Take) {
+        activateWindow();
+    } else {
+        QApplication::alert(this);
+    }
 }
 
 QWidget *ContactsWindow::makeNotice(ContactsBook &book)

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "book/windowfocus.h"
+
 #include <QWidget>
 
 QT_BEGIN_NAMESPACE
@@ -28,8 +30,8 @@ public:
     /// Both must outlive it.
     ContactsWindow(ContactsBook &book, Administration &administration, Tools tools = Tools::ForUsers);
 
-    /// Shows it above the others.
-    void bringUp();
+    /// Shows it above the others. Without the focus it asks for attention in the task bar.
+    void bringUp(WindowFocus focus);
 
 private:
     QWidget *makeNotice(ContactsBook &book);

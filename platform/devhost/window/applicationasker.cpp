@@ -70,7 +70,8 @@ void ApplicationAsker::openWindow()
         return;
     }
     QDBusMessage message = BusName::contactCall(QStringLiteral("Request"));
-    message << QStringLiteral("Open Conference List") << QString() << qlonglong(0) << QString();
+    message << QStringLiteral("Open Conference List") << QStringLiteral("{\"askedBy\":\"user\"}")
+            << qlonglong(0) << QString();
     QDBusPendingCallWatcher *watcher = call(message, StartMsecs);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         const QDBusPendingReply<QString> reply = *watcher;

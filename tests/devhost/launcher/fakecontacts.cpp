@@ -46,9 +46,10 @@ QString FakeContacts::Overview()
     return {};
 }
 
-QString FakeContacts::Request(const QString & /*action*/, const QString & /*parameters*/,
+QString FakeContacts::Request(const QString & /*action*/, const QString &parameters,
                               qlonglong /*deadlineMsecs*/, const QString & /*requestId*/)
 {
     ++m_asked;
+    m_parameters.append(parameters);
     return {};
 }

@@ -20,6 +20,8 @@ public:
     ~FakeContacts() override;
 
     int asked() const { return m_asked; }
+    /// Of every request.
+    QStringList parameters() const { return m_parameters; }
     /// Also tells everybody.
     void change(const QStringList &names);
     /// From now on the names are refused, or handed out again.
@@ -38,6 +40,7 @@ Q_SIGNALS:
 private:
     QDBusConnection m_bus;
     QStringList m_names;
+    QStringList m_parameters;
     int m_asked = 0;
     bool m_refuses = false;
 };

@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "applicationlink.h"
 #include "bubble.h"
 #include "conversationview.h"
+#include "fakecontacts.h"
 #include "inputline.h"
 #include "launcherdesk.h"
 #include "logrecorder.h"
@@ -96,6 +98,7 @@ private Q_SLOTS:
     void clickOnANotificationBringsUpTheWindow();
     void unknownActIsSaidToBeGone();
     void searchGoesOnInTheWindow();
+    void menuAsksForTheApplicationsWindowInItsUsersName();
 };
 
 void TestLauncherDesk::textIsNotified()
@@ -219,6 +222,15 @@ void TestLauncherDesk::searchGoesOnInTheWindow()
     QTRY_VERIFY(Desk::window() != nullptr);
     QCOMPARE(Desk::window()->input()->text(), QStringLiteral("明天和张伟开会"));
     QCOMPARE(desk.conversation().lastTurn(), 0);
+}
+
+/// So that this window gets the focus, and those that a request brings up do not.
+void TestLauncherDesk::menuAsksForTheApplicationsWindowInItsUsersName()
+{
+    const FakeContacts contacts({});
+    ApplicationLink link;
+    link.openWindow();
+    QTRY_COMPARE(contacts.parameters(), QStringList(QStringLiteral("{\"askedBy\":\"user\"}")));
 }
 
 QTEST_MAIN(TestLauncherDesk)

@@ -4,6 +4,7 @@
 #include "meaning/clause.h"
 
 #include "meaning/outcome.h"
+#include "names/headreader.h"
 #include "names/namelook.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
@@ -11,13 +12,6 @@
 #include <algorithm>
 
 namespace understanding {
-
-namespace {
-
-constexpr WordClasses AskingWords = WordClass::Query | WordClass::Question | WordClass::QuestionParticle |
-                                    WordClass::AskedTime | WordClass::Schedule | WordClass::Next;
-
-} // namespace
 
 Clause::Clause(const Reading &reading, const QString &intent, std::size_t begin, std::size_t end)
     : m_reading(reading)
@@ -66,8 +60,8 @@ bool Clause::isSupposed() const
                                   WordClass::WeakJoin | WordClass::ComeMeet | WordClass::Arrive |
                                   WordClass::Conference;
     const bool calledMyself = any([&](std::size_t at) {
-        if (at + 2 >= m_end || !calls.contains(textOf(m_tokens[at])) ||
-            textOf(m_tokens[at + 1]) != QStringLiteral("我")) {
+        if (at + 2 >= m_end || !m_tokens[at + 1].is(WordClass::Nobody) ||
+            !calls.contains(textOf(m_tokens[at])) || textOf(m_tokens[at + 1]) != QStringLiteral("我")) {
             return false;
         }
         const Token &next = m_tokens[at + 2];
@@ -91,7 +85,23 @@ bool Clause::isOnlySomebody() const
     const QString text = m_reading.sentence().text().mid(start, m_tokens[m_end - 1].end() - start);
     const QStringList names = splitNames(text);
     const bool known = Lexicon::instance().longestAt(text, 0).length == text.size(); // 那个, 小艾
-    return !known && std::all_of(names.cbegin(), names.cend(), isPersonsName);
+    const QString head = text.mid(modifierLength(text));                             // 对象李准基
+    return !known && (std::all_of(names.cbegin(), names.cend(), isPersonsName) || isPersonsName(head)) &&
+           !isAddressing();
+}
+
+bool Clause::tellsNumber() const
+{
+    constexpr WordClasses joining = WordClass::Join | WordClass::WeakJoin | WordClass::PasswordLabel;
+    return m_intent == QLatin1String(EnterConferenceById) && has(WordClass::IdLabel) &&
+           !m_reading.hasAny(joining) && !isUnderstood();
+}
+
+bool Clause::isAddressing() const
+{
+    static const QString serving = QStringLiteral("帮麻请给劳替你您");
+    return m_end + 1 < m_tokens.size() && m_tokens[m_end].is(WordClass::Punctuation) &&
+           serving.contains(m_reading.sentence().text().at(m_tokens[m_end + 1].position));
 }
 
 bool Clause::excludesSomebody() const
@@ -109,7 +119,7 @@ bool Clause::excludesSomebody() const
 
 bool Clause::isTold() const
 {
-    return isOrder() && hasOtherSubject() && !isRefused() && isSomebody(m_tokens[m_begin]);
+    return m_begin < m_end && isSomebody(m_tokens[m_begin]) && isOrder() && hasOtherSubject() && !isRefused();
 }
 
 bool Clause::isOnlyReported() const
@@ -135,38 +145,6 @@ bool Clause::isRefused() const
     return (isSupposed() &&
             !(m_isQuery && m_reading.has(WordClass::Query) && m_reading.has(WordClass::Request))) ||
            isNegated() || isSomebodyElses() || (!m_isQuery && has(WordClass::Reported)) || isQuestion();
-}
-
-bool Clause::isFinished() const
-{
-    const QString &text = m_reading.sentence().text();
-    const bool judged = m_isQuery && any([&](std::size_t at) { // 会开得怎么样
-                            return text.midRef(m_tokens[at].position, m_tokens[at].length + 1)
-                                .contains(QStringLiteral("开得"));
-                        });
-    if (judged) {
-        return true;
-    }
-    if (m_isQuery && has(AskingWords)) { // 我查过会议了
-        return any([&](std::size_t at) {
-            const Token &token = m_tokens[at];
-            static const QString looked = QStringLiteral("了过");
-            const QChar next = charAt(text, token.end());
-            return token.is(WordClass::Query) && looked.contains(next);
-        });
-    }
-    if (has(WordClass::Request)) {
-        return false;
-    }
-    return any([&](std::size_t at) {
-        const Token &token = m_tokens[at];
-        if (!token.isAny(m_allowed.anchors) && !token.is(WordClass::OpenParticle)) {
-            return false;
-        }
-        static const QString done = QStringLiteral("了过");
-        return done.contains(text.at(token.end() - 1)) ||
-               (token.end() < text.size() && done.contains(text.at(token.end())));
-    });
 }
 
 bool Clause::isUnderstood() const
@@ -291,101 +269,9 @@ bool Clause::isOnlyNumber() const
            });
 }
 
-bool Clause::isOtherQuestion() const
-{
-    if (!m_isQuery) {
-        return false;
-    }
-    const bool uncalled =
-        m_begin < m_end && m_tokens[m_begin].inName && !m_reading.isCalledAt(m_tokens[m_begin].position);
-    static const QStringList settling = {QStringLiteral("定在"), QStringLiteral("定于"),
-                                         QStringLiteral("约在"), QStringLiteral("放在")};
-    const bool settled = any([&](std::size_t at) { return settling.contains(textOf(m_tokens[at])); });
-    // 要不要跟Eric开会, 开不开会都行
-    const bool proposed = !m_reading.openVerb().isEmpty() &&
-                          !m_reading.hasAny(WordClass::Query | WordClass::AskedTime) &&
-                          (!m_reading.names().empty() || m_reading.timeCount() == 0);
-    constexpr WordClasses asking = WordClass::Query | WordClass::Question | WordClass::QuestionParticle;
-    const bool reported = !m_reading.hasAny(asking) && any([&](std::size_t at) { // 昨天的会没开完, not 没会
-        const bool none = at + 1 < m_end && m_tokens[at + 1].is(WordClass::Conference);
-        return m_tokens[at].is(WordClass::Reported) && !none;
-    });
-    return uncalled || settled || proposed || reported || asksAboutConference() ||
-           (has(WordClass::Have) && !m_reading.hasAny(AskingWords) && !m_reading.isAsked());
-}
-
-bool Clause::asksAboutConference() const
-{
-    constexpr WordClasses listing = WordClass::Have | WordClass::Question | WordClass::AskedTime |
-                                    WordClass::Query | WordClass::Schedule | WordClass::Next;
-    const QString &text = m_reading.sentence().text();
-    const bool unlisted = has(WordClass::QuestionParticle) && !m_reading.hasAny(listing) &&
-                          m_reading.openVerb().isEmpty(); // 明天的会重要吗
-    bool conference = false;
-    return unlisted ||
-           std::any_of(m_tokens.cbegin() + static_cast<std::ptrdiff_t>(m_begin),
-                       m_tokens.cbegin() + static_cast<std::ptrdiff_t>(m_end),
-                       [&](const Token &token) {
-                           const bool about = conference && token.is(WordClass::Topic) &&
-                                              !token.is(WordClass::Query); // 会议讨论了什么
-                           conference = conference || (token.is(WordClass::Conference) && !token.inTopic);
-                           return about;
-                       }) ||
-           any([&](std::size_t at) {
-               static const QString wanted = QStringLiteral("么啥少个些");
-               const Token &token = m_tokens[at];
-               if (startsAt(text, token.position, QStringLiteral("几个人"))) {
-                   return true;
-               }
-               if (!token.is(WordClass::Question) || token.is(WordClass::AskedTime) ||
-                   !wanted.contains(text.at(token.end() - 1))) {
-                   return false;
-               }
-               const QChar next = charAt(text, token.end());
-               const QChar room = at + 1 < m_end ? text.at(m_tokens[at + 1].end() - 1) : QChar();
-               static const QString verbs = QStringLiteral("备带穿做干吃说讲聊谈用交写填");
-               return next == QChar(u'人') || room == QChar(u'室') ||
-                      verbs.contains(charAt(text, token.position - 1)); // 明天的会要准备什么
-           });
-}
-
 bool Clause::isAtOtherTime() const
 {
     return m_intent == QLatin1String(EnterConferenceById) && m_reading.clockCount() > 0;
-}
-
-bool Clause::isAboutRoom() const
-{
-    const QString &text = m_reading.sentence().text();
-    const auto isRoom = [&](const Token &token) {
-        return text.at(token.end() - 1) == QChar(u'室') || charAt(text, token.end()) == QChar(u'室');
-    };
-    const bool roomless = m_intent == QLatin1String(CreateConference) || m_isQuery ||
-                          (m_intent == QLatin1String(EnterMyConference) && !m_reading.has(WordClass::Mine));
-    return roomless && any([&](std::size_t at) {
-               return m_tokens[at].is(WordClass::Conference) && isRoom(m_tokens[at]);
-           }) &&
-           !any([&](std::size_t at) {
-               return m_tokens[at].is(WordClass::Conference) && !isRoom(m_tokens[at]);
-           });
-}
-
-bool Clause::isQuestion() const
-{
-    constexpr WordClasses asking =
-        WordClass::Question | WordClass::QuestionParticle | WordClass::AskedTime | WordClass::HowTo;
-    return !m_isQuery && has(asking) && !has(WordClass::Request);
-}
-
-bool Clause::isPolitelyRequested() const
-{
-    static const QStringList proposing = {QStringLiteral("咱们"), QStringLiteral("要不"),
-                                          QStringLiteral("吧"),   QStringLiteral("我要"),
-                                          QStringLiteral("我想"), QStringLiteral("我得")};
-    return any([&](std::size_t at) {
-        const Token &token = m_tokens[at];
-        return token.is(WordClass::Request) && !token.inName && !proposing.contains(textOf(token));
-    });
 }
 
 } // namespace understanding

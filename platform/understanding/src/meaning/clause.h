@@ -35,6 +35,10 @@ public:
     bool isReport() const;
     /// tmr下午三点: a time beside something strange.
     bool isTimeCutOff() const;
+    /// 阿姐 in 阿姐，帮我开个会.
+    bool isAddressing() const;
+    /// 会议号你记一下，123456: the number is only told.
+    bool tellsNumber() const;
     /// 不带小王: somebody is named who is not to come.
     bool excludesSomebody() const;
 

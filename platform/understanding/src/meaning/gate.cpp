@@ -6,9 +6,7 @@
 #include "meaning/callings.h"
 #include "meaning/clause.h"
 #include "meaning/outcome.h"
-#include "text/scan.h"
-
-#include <algorithm>
+#include "meaning/suspicions.h"
 
 namespace understanding {
 
@@ -16,86 +14,6 @@ namespace understanding {
 static bool isAllQuoted(const QString &text)
 {
     return text.startsWith(QChar(u'“')) && text.indexOf(QChar(u'”')) == text.size() - 1;
-}
-
-/// 让张伟退出会议, 会议结束的时间, 我可以退会吗: nobody leaves but who orders it.
-static bool isLeftByOther(const Reading &reading)
-{
-    static const QStringList calls = {QStringLiteral("让"), QStringLiteral("叫"), QStringLiteral("请"),
-                                      QStringLiteral("喊"), QStringLiteral("通知")};
-    static const QStringList orders = {QStringLiteral("帮"), QStringLiteral("给我"), QStringLiteral("麻烦"),
-                                       QStringLiteral("吧")};
-    const QString &text = reading.sentence().text();
-    const Tokens &tokens = reading.tokens();
-    bool served = false;
-    bool asked = reading.isAsked();
-    for (std::size_t at = 0; at < tokens.size(); ++at) {
-        const QString word = text.mid(tokens[at].position, tokens[at].length);
-        const bool other =
-            at + 1 < tokens.size() && (tokens[at + 1].inName || tokens[at + 1].is(WordClass::Actor) ||
-                                       tokens[at + 1].is(WordClass::Title));
-        const bool noun = tokens[at].is(WordClass::Close) && tokens[at].end() + 1 < text.size() &&
-                          text.at(tokens[at].end()) == QChar(u'的');
-        if ((calls.contains(word) && other && !tokens[at].inName) || noun) {
-            return true;
-        }
-        served = served || std::any_of(orders.cbegin(), orders.cend(),
-                                       [&](const QString &order) { return word.startsWith(order); });
-        asked = asked || tokens[at].is(WordClass::QuestionParticle);
-    }
-    return asked && !served;
-}
-
-/// 我昨天进的会议是123456, 加一下老同学，号码13711112222: a number, but nobody orders to join it.
-static bool isNumberOfOther(const Reading &reading)
-{
-    const QString &text = reading.sentence().text();
-    const Tokens &tokens = reading.tokens();
-    const bool told = std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
-        const int of = token.end();
-        return token.isAny(WordClass::Join | WordClass::WeakJoin) && !token.is(WordClass::Conference) &&
-               of < text.size() && text.at(of) == QChar(u'的') && text.indexOf(QChar(u'是'), of) > of;
-    });
-    constexpr WordClasses joining =
-        WordClass::Join | WordClass::WeakJoin | WordClass::Conference | WordClass::PasswordLabel;
-    const bool joins = std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
-        return token.isAny(WordClass::Join | WordClass::WeakJoin) &&
-               charAt(text, token.end()) != QChar(u'的');
-    });
-    return (told && !joins) || (reading.has(WordClass::Add) && !reading.hasAny(joining) &&
-                                !text.contains(QChar(u'会')) && reading.has(WordClass::IdLabel));
-}
-
-static bool isDeed(const Token &token)
-{
-    return token.isAny(WordClass::Conference | WordClass::Video | WordClass::Arrive | WordClass::Join |
-                       WordClass::CloseAlone | WordClass::Buddy);
-}
-
-/// 如果明天下雨，帮我开会: what depends on something is not wanted now.
-static bool isConditional(const Reading &reading)
-{
-    static const QStringList conditions = {
-        QStringLiteral("如果"), QStringLiteral("要是"), QStringLiteral("假如"), QStringLiteral("假设"),
-        QStringLiteral("只要"), QStringLiteral("除非"), QStringLiteral("一旦"), QStringLiteral("万一")};
-    const Tokens &tokens = reading.tokens();
-    bool begins = true; // a clause
-    for (std::size_t at = 0; at < tokens.size(); ++at) {
-        const QString text = reading.sentence().text().mid(tokens[at].position, tokens[at].length);
-        const bool continues = at + 1 < tokens.size() && !tokens[at + 1].isAny(WordClass::Punctuation) &&
-                               tokens[at + 1].kind != Token::Kind::Space;
-        // 等张伟回来再开会
-        const bool waits = begins && continues && text == QStringLiteral("等");
-        const bool endsWaiting = waits && std::none_of(tokens.cbegin() + static_cast<std::ptrdiff_t>(at),
-                                                       tokens.cend(), isDeed); // 把老林拉进来，等他半天了
-        if (!tokens[at].inName && !tokens[at].inTopic &&
-            ((waits && !endsWaiting) || conditions.contains(text))) {
-            return true;
-        }
-        begins = tokens[at].is(WordClass::Punctuation) ||
-                 (begins && (tokens[at].is(WordClass::Filler) || tokens[at].kind == Token::Kind::Time));
-    }
-    return false;
 }
 
 Verdict judge(const Reading &reading, const QString &intent)
@@ -119,6 +37,7 @@ Verdict judge(const Reading &reading, const QString &intent)
     doubtful = doubtful || (intent == QLatin1String(InviteConference) && pullsOther(reading) &&
                             !reading.conferenceNumber().isEmpty());
     doubtful = doubtful || (intent == QLatin1String(CloseConference) && isLeftByOther(reading));
+    doubtful = doubtful || (intent == QLatin1String(EnterMyConference) && onlyGoes(reading));
     doubtful = doubtful || (intent == QLatin1String(EnterConferenceById) && isNumberOfOther(reading));
     // 从这个会退出，加入123456: two things at once.
     doubtful =
@@ -161,7 +80,7 @@ Verdict judge(const Reading &reading, const QString &intent)
         } else if (clause.isReport() && intent == QLatin1String(CloseConference) &&
                    !reading.has(WordClass::Request)) {
             doubtful = true; // 散会啦，他们终于开完了
-        } else if (clause.isTimeCutOff() ||
+        } else if (clause.isTimeCutOff() || clause.tellsNumber() ||
                    (clause.isOnlySomebody() && (intent == QLatin1String(CreateConference) ||
                                                 intent == QLatin1String(QueryConference)))) {
             doubtful = true;

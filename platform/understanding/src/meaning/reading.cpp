@@ -58,7 +58,7 @@ void Reading::markNames()
 
 bool Reading::namesOtherWeek() const
 {
-    static const QString others = QStringLiteral("下上过前隔");
+    static const QString others = QStringLiteral("下上过前隔最第");
     return std::any_of(m_tokens.cbegin(), m_tokens.cend(), [&](const Token &token) {
         return token.is(WordClass::UnclearDay) && others.contains(m_sentence.text().at(token.position));
     });

@@ -24,13 +24,18 @@ public:
         , m_begin(lead + 1)
         , m_end(lead + 1)
     {
-        while (m_end < m_tokens.size() && said().size() <= LongestFramed && !endsAt(m_end)) {
+        while (m_end < m_tokens.size() && length() <= LongestFramed && !endsAt(m_end)) {
             ++m_end;
         }
     }
 
     std::size_t begin() const { return m_begin; }
     std::size_t end() const { return m_end; }
+
+    int length() const
+    {
+        return m_end > m_begin ? m_tokens[m_end - 1].end() - m_tokens[m_begin].position : 0;
+    }
 
     QString said() const
     {
@@ -40,8 +45,11 @@ public:
 
     bool holdsName() const
     {
+        if (length() < 2 || length() > LongestFramed) {
+            return false;
+        }
         const QString name = said();
-        if (name.size() < 2 || name.size() > LongestFramed || !isClosed() || holdsOtherThings()) {
+        if (!isClosed() || holdsOtherThings()) {
             return false;
         }
         if (name.size() == 2 && name.at(0) == name.at(1)) { // 可可

@@ -96,6 +96,22 @@ int modifierLength(const QString &text)
     return start;
 }
 
+QString dottedName(const QString &text)
+{
+    static const QString leads = QStringLiteral("是的位叫请把");
+    int cut = 0;
+    for (int character = 0; text.at(character) != QChar(u'·'); ++character) {
+        cut = leads.contains(text.at(character)) ? character + 1 : cut;
+    }
+    const QString name = withoutParticles(text.mid(cut));
+    for (int length = name.indexOf(QChar(u'·')) - 2; length >= 2; --length) { // 人事部安娜·卡列尼娜
+        if (isModifier(name.left(length))) {
+            return name.mid(length);
+        }
+    }
+    return name;
+}
+
 int headLength(const QString &name)
 {
     static const QString verbs =

@@ -21,4 +21,7 @@ int headLength(const QString &name);
 /// one.
 bool isLikelyName(const QString &name);
 
+/// The name with a dot at the end of @p text, which holds one: 丽莎·张 in 人事部的丽莎·张.
+QString dottedName(const QString &text);
+
 } // namespace understanding

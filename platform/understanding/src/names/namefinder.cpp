@@ -108,7 +108,8 @@ private:
         if (m_tokens[last].kind != Token::Kind::Other) {
             return at;
         }
-        if (last + 1 < m_tokens.size() && m_tokens[last + 1].is(WordClass::Title) &&
+        if (token.length == 1 && last == at && last + 1 < m_tokens.size() &&
+            m_tokens[last + 1].is(WordClass::Title) &&
             m_tokens[last + 1].position == m_tokens[last].end()) { // 陈工
             ++last;
         }
@@ -270,19 +271,7 @@ private:
         }
         const int end = m_tokens[last].end();
         if (dotted) {
-            static const QString leads = QStringLiteral("是的位叫请把");
-            const QString whole = m_text.mid(start, end - start);
-            int cut = 0;
-            for (int character = 0; whole.at(character) != QChar(u'·'); ++character) {
-                cut = leads.contains(whole.at(character)) ? character + 1 : cut;
-            }
-            QString name = withoutParticles(whole.mid(cut));
-            for (int length = name.indexOf(QChar(u'·')) - 2; length >= 2; --length) { // 人事部安娜·卡列尼娜
-                if (isModifier(name.left(length))) {
-                    name = name.mid(length);
-                    break;
-                }
-            }
+            const QString name = dottedName(m_text.mid(start, end - start));
             addOne(m_text.indexOf(name, start), name.size(), true);
             m_names.back().start = m_modifierStart >= 0 ? m_modifierStart : m_names.back().start;
             if (isModifier(m_text.mid(start, m_names.back().position - start))) { // 人事部的丽莎·张
@@ -307,14 +296,7 @@ private:
             m_modifierStart = -1;
             return next;
         }
-        // 外包那个Sergey, 鉴定人贾博文
-        static const QString pointers = QStringLiteral("那个这个那位这位人成员");
-        const bool pointed =
-            next + 1 < m_tokens.size() && m_tokens[next].isAny(WordClass::Filler | WordClass::Nobody) &&
-            pointers.contains(m_text.mid(m_tokens[next].position, m_tokens[next].length)) &&
-            (m_tokens[next + 1].kind == Token::Kind::Name || m_tokens[next + 1].kind == Token::Kind::Latin ||
-             m_tokens[next + 1].kind == Token::Kind::Other);
-        if (pointed && !isPersonsName(run)) {
+        if (m_places.isPointer(next) && !isPersonsName(run)) {
             m_modifierStart = start;
             return next;
         }

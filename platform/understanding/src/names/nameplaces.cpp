@@ -201,4 +201,13 @@ std::size_t NamePlaces::skipTitle(std::size_t at) const
     return at + 1 < m_tokens.size() && m_tokens[at + 1].is(WordClass::Title) ? at + 1 : at;
 }
 
+bool NamePlaces::isPointer(std::size_t at) const
+{
+    static const QString pointers = QStringLiteral("那个这个那位这位人成员");
+    return at + 1 < m_tokens.size() && m_tokens[at].isAny(WordClass::Filler | WordClass::Nobody) &&
+           pointers.contains(m_text.mid(m_tokens[at].position, m_tokens[at].length)) &&
+           (m_tokens[at + 1].kind == Token::Kind::Name || m_tokens[at + 1].kind == Token::Kind::Latin ||
+            m_tokens[at + 1].kind == Token::Kind::Other);
+}
+
 } // namespace understanding

@@ -46,6 +46,8 @@ public:
     /// 阿 in 阿Ken, 林 in 林Sir.
     [[nodiscard]] bool isPrefixOfLatin(std::size_t at) const;
     [[nodiscard]] bool isMiddleDot(std::size_t at) const;
+    /// 那个 in 外包那个Sergey, 人 in 鉴定人贾博文.
+    [[nodiscard]] bool isPointer(std::size_t at) const;
     [[nodiscard]] std::size_t skipTitle(std::size_t at) const;
 
 private:

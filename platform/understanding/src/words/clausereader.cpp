@@ -26,6 +26,12 @@ void makePlain(Token &token)
 /// 会 is a conference unless it is "can" or "will": 会唱歌.
 void settleConferences(const QString &text, Tokens &tokens)
 {
+    for (std::size_t at = 0; at + 1 < tokens.size(); ++at) { // 把这会停了
+        if (tokens[at + 1].is(WordClass::Close) && tokens[at].length == 2 &&
+            startsAt(text, tokens[at].position, QStringLiteral("这会"))) {
+            tokens[at].classes.add(WordClass::Conference);
+        }
+    }
     static const QString mayFollow = QStringLiteral("的在要需得完没总定开");
     for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
         Token &token = tokens[at];
@@ -180,7 +186,7 @@ bool leadsIntoConference(const QString &text, const Tokens &tokens, std::size_t 
     if (!moves || tokens[at].inTopic) {
         return false;
     }
-    constexpr std::size_t farthest = 5;
+    constexpr std::size_t farthest = 7;
     constexpr WordClasses owning = WordClass::Mine | WordClass::Ongoing | WordClass::Nobody |
                                    WordClass::Measure | WordClass::Filler | WordClass::Next;
     for (std::size_t next = at + 1; next < qMin(tokens.size(), at + farthest); ++next) {

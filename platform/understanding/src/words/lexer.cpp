@@ -27,6 +27,7 @@ public:
 
     Tokens run()
     {
+        m_tokens.reserve(static_cast<std::size_t>(m_text.size() / 2) + 1);
         while (m_at < m_text.size()) {
             if (!takeName() && !takeTimeOrNumberOrWord()) {
                 takeOther();

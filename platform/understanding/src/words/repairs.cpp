@@ -158,7 +158,8 @@ bool repairAt(Tokens &tokens, std::size_t repair, std::vector<bool> &dropped)
         dropped[at - 1] = true;
     }
     for (std::size_t at = repair + 1; at < later; ++at) {
-        dropped[at] = dropped[at] || isPause(tokens[at]) || tokens[at].is(WordClass::Repair);
+        dropped[at] =
+            dropped[at] || isPause(tokens[at]) || tokens[at].isAny(WordClass::Repair | WordClass::LabelLink);
     }
     return true;
 }

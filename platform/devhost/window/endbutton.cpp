@@ -15,19 +15,9 @@ constexpr int PressedFactor = 114;
 
 } // namespace
 
-EndButton::EndButton(QWidget *parent) : QAbstractButton(parent)
+EndButton::EndButton(QWidget *parent) : ViewButton(tr("Back to the latest turn"), Diameter, parent)
 {
-    setToolTip(tr("Back to the latest turn"));
-    setAccessibleName(tr("Back to the latest turn"));
-    setCursor(Qt::PointingHandCursor);
-    setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::TabFocus); // its click hides it, and would hand the focus on
-    resize(sizeHint());
-}
-
-QSize EndButton::sizeHint() const
-{
-    return {Diameter, Diameter};
 }
 
 void EndButton::paintEvent(QPaintEvent *)

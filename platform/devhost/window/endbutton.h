@@ -3,19 +3,17 @@
 
 #pragma once
 
-#include <QAbstractButton>
+#include "viewbutton.h"
 
 namespace devhost {
 
 /// A round button with an arrow that leads to the conversation's end. Opaque: it lies over bubbles.
-class EndButton final : public QAbstractButton
+class EndButton final : public ViewButton
 {
     Q_OBJECT
 
 public:
     explicit EndButton(QWidget *parent = nullptr);
-
-    QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -18,19 +18,9 @@ constexpr int PressedFactor = 114;
 
 } // namespace
 
-TurnButton::TurnButton(QWidget *parent) : QAbstractButton(parent)
+TurnButton::TurnButton(QWidget *parent) : ViewButton(tr("Menu of this turn"), Extent, parent)
 {
-    setToolTip(tr("Menu of this turn"));
-    setAccessibleName(toolTip());
-    setCursor(Qt::PointingHandCursor);
-    setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::NoFocus);
-    resize(sizeHint());
-}
-
-QSize TurnButton::sizeHint() const
-{
-    return {Extent, Extent};
 }
 
 void TurnButton::paintEvent(QPaintEvent *)

@@ -3,20 +3,18 @@
 
 #pragma once
 
-#include <QAbstractButton>
+#include "viewbutton.h"
 
 namespace devhost {
 
 /// Three dots beside a bubble that open the menu of its turn. Not in the Tab order: with the keyboard the
 /// Menu key does it.
-class TurnButton final : public QAbstractButton
+class TurnButton final : public ViewButton
 {
     Q_OBJECT
 
 public:
     explicit TurnButton(QWidget *parent = nullptr);
-
-    QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

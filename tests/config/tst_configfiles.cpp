@@ -4,6 +4,7 @@
 #include "configfolder.h"
 #include "logcapture.h"
 #include "testcolumns.h"
+#include "testswitch.h"
 
 #include <QElapsedTimer>
 #include <QJsonDocument>
@@ -164,12 +165,7 @@ private Q_SLOTS:
         QCOMPARE(valueOf(config, "/a"), QStringLiteral("1"));
     }
 
-    void unreadableFileIsReported_data()
-    {
-        QTest::addColumn<bool>("linked");
-        QTest::newRow("itself") << false;
-        QTest::newRow("through a link") << true;
-    }
+    void unreadableFileIsReported_data() { addSwitch("linked", "itself", "through a link"); }
     void unreadableFileIsReported()
     {
         QFETCH(const bool, linked);

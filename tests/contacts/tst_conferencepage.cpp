@@ -113,21 +113,22 @@ void TestConferencePage::aConferenceStartsByTheClock()
 
 void TestConferencePage::aConferenceIsStartedAndEndedByHand()
 {
+    const auto state = [this] {
+        return m_fixture->world->conference(QStringLiteral("880100005"))
+            .value(QLatin1String("state"))
+            .toString();
+    };
     m_fixture->selectNumber("880100005");
     m_fixture->click("start");
     QCOMPARE(m_fixture->told(), QStringLiteral("会议已开始。"));
     m_fixture->follow();
-    QCOMPARE(
-        m_fixture->world->conference(QStringLiteral("880100005")).value(QLatin1String("state")).toString(),
-        QStringLiteral("running"));
+    QCOMPARE(state(), QStringLiteral("running"));
     QCOMPARE(m_fixture->page(0)->selected(ConferenceModel::NumberRole).toString(),
              QStringLiteral("880100005"));
     m_fixture->click("end");
     QCOMPARE(m_fixture->told(), QStringLiteral("会议已结束。"));
     m_fixture->follow();
-    QCOMPARE(
-        m_fixture->world->conference(QStringLiteral("880100005")).value(QLatin1String("state")).toString(),
-        QStringLiteral("ended"));
+    QCOMPARE(state(), QStringLiteral("ended"));
     m_fixture->selectNumber("880100005");
     const QString before = m_fixture->told();
     m_fixture->click("delete");

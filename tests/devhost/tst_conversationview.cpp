@@ -4,6 +4,7 @@
 #include "bubble.h"
 #include "conversationview.h"
 #include "picturedcard.h"
+#include "shownview.h"
 #include "turnbutton.h"
 
 #include <lumo/lstyle.h>
@@ -80,9 +81,8 @@ void TestConversationView::initTestCase()
 
 void TestConversationView::oldCardsBecomePicturesThatComeBack()
 {
-    ConversationView view;
-    view.resize(500, 400);
-    view.show();
+    ShownView shown(500, 400);
+    ConversationView &view = shown.view;
     QImage first;
     QPointer<QWidget> oldest;
     for (int turn = 1; turn <= ConversationView::LiveCards + 20; ++turn) {
@@ -123,11 +123,9 @@ void TestConversationView::oldCardsBecomePicturesThatComeBack()
 
 void TestConversationView::cardWithTheFocusStaysAlive()
 {
-    ConversationView view;
-    view.resize(500, 400);
-    view.show();
-    view.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&view));
+    ShownView shown(500, 400);
+    QVERIFY(shown.activate());
+    ConversationView &view = shown.view;
     QPointer<QWidget> used = makeCard(QStringLiteral("在用"));
     view.addReply(1, QString(), used);
     used->findChild<QPushButton *>()->setFocus();
@@ -145,11 +143,9 @@ void TestConversationView::cardWithTheFocusStaysAlive()
 /// Hiding the card gave the focus to another one, and the view scrolled there.
 void TestConversationView::scrollingTakesTheFocusFromNoCard()
 {
-    ConversationView view;
-    view.resize(500, 300);
-    view.show();
-    view.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&view));
+    ShownView shown(500, 300);
+    QVERIFY(shown.activate());
+    ConversationView &view = shown.view;
     constexpr int cards = 6;
     for (int turn = 1; turn <= cards; ++turn) {
         view.addReply(turn, QStringLiteral("答"), makeCard(QString::number(turn)));
@@ -182,9 +178,8 @@ void TestConversationView::tenThousandTurnsStaySmall()
                           : 1500;
     constexpr int promisedTurns = 10000;
     constexpr int mostMegabytes = 200;
-    ConversationView view;
-    view.resize(700, 600);
-    view.show();
+    ShownView shown(700, 600);
+    ConversationView &view = shown.view;
     const auto talk = [&view](int first, int last) {
         for (int turn = first; turn <= last; ++turn) {
             view.addSaid(turn, QStringLiteral("查询第 %1 天的会议").arg(turn), false);
@@ -211,11 +206,9 @@ void TestConversationView::tenThousandTurnsStaySmall()
 
 void TestConversationView::arrowsGoFromBubbleToBubble()
 {
-    ConversationView view;
-    view.resize(500, 300);
-    view.show();
-    view.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&view));
+    ShownView shown(500, 300);
+    QVERIFY(shown.activate());
+    ConversationView &view = shown.view;
     for (int turn = 1; turn <= 30; ++turn) {
         view.addSaid(turn, QStringLiteral("第 %1 句").arg(turn), false);
     }
@@ -241,11 +234,9 @@ void TestConversationView::arrowsGoFromBubbleToBubble()
 
 void TestConversationView::menuOpensByItsButtonAndByItsKey()
 {
-    ConversationView view;
-    view.resize(500, 300);
-    view.show();
-    view.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&view));
+    ShownView shown(500, 300);
+    QVERIFY(shown.activate());
+    ConversationView &view = shown.view;
     view.addSaid(1, QStringLiteral("问"), false);
     view.addReply(1, QStringLiteral("答"), nullptr);
     QSignalSpy wanted(&view, &ConversationView::turnMenuWanted);
@@ -275,9 +266,8 @@ void TestConversationView::menuOpensByItsButtonAndByItsKey()
 /// They were hidden with the window and stayed hidden until one scrolled.
 void TestConversationView::menuButtonsComeBackWithTheWindow()
 {
-    ConversationView view;
-    view.resize(500, 300);
-    view.show();
+    ShownView shown(500, 300);
+    ConversationView &view = shown.view;
     for (int turn = 1; turn <= 30; ++turn) {
         view.addSaid(turn, QStringLiteral("第 %1 句").arg(turn), false);
     }
@@ -299,11 +289,9 @@ void TestConversationView::menuButtonsComeBackWithTheWindow()
 
 void TestConversationView::tabReachesEveryCard()
 {
-    ConversationView view;
-    view.resize(500, 300);
-    view.show();
-    view.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&view));
+    ShownView shown(500, 300);
+    QVERIFY(shown.activate());
+    ConversationView &view = shown.view;
     constexpr int cards = 8;
     for (int turn = 1; turn <= cards; ++turn) {
         view.addReply(turn, QStringLiteral("答"), makeCard(QString::number(turn)));
@@ -336,9 +324,8 @@ void TestConversationView::tabReachesEveryCard()
 
 void TestConversationView::assistiveToolsReadTheConversation()
 {
-    ConversationView view;
-    view.resize(500, 300);
-    view.show();
+    ShownView shown(500, 300);
+    ConversationView &view = shown.view;
     for (int turn = 1; turn <= 30; ++turn) {
         view.addSaid(turn, QStringLiteral("问 %1").arg(turn), false);
         view.addReply(turn, QStringLiteral("答 %1").arg(turn), turn == 2 ? makeCard(QString()) : nullptr);

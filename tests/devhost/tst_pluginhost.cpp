@@ -19,6 +19,15 @@ namespace {
 
 const QString TestPlugin = QStringLiteral(TEST_PLUGIN);
 
+/// A conversation with the test plugin.
+struct LoadedHost
+{
+    LogRecorder logs;
+    PluginHost host;
+    bool isLoaded = host.load(TestPlugin);
+    Conversation conversation{host, logs};
+};
+
 } // namespace
 
 /// Loading plugins that work and that do not, and putting turns to one.
@@ -108,10 +117,9 @@ void TestPluginHost::nameIsLookedUpInTheInstalledFolder()
 
 void TestPluginHost::serviceRunsOnAnotherThreadAndReplyIsFetched()
 {
-    LogRecorder logs;
-    PluginHost host;
-    QVERIFY(host.load(TestPlugin));
-    Conversation conversation(host, logs);
+    LoadedHost host;
+    QVERIFY(host.isLoaded);
+    Conversation &conversation = host.conversation;
     QSignalSpy finished(&conversation, &Conversation::finished);
     const int id = conversation.sendSemantic(semantic("ECHO", QStringLiteral("你好")));
     QVERIFY(finished.wait());
@@ -129,10 +137,9 @@ void TestPluginHost::serviceRunsOnAnotherThreadAndReplyIsFetched()
 
 void TestPluginHost::everyTurnGetsAFreshService()
 {
-    LogRecorder logs;
-    PluginHost host;
-    QVERIFY(host.load(TestPlugin));
-    Conversation conversation(host, logs);
+    LoadedHost host;
+    QVERIFY(host.isLoaded);
+    Conversation &conversation = host.conversation;
     QSignalSpy idle(&conversation, &Conversation::idle);
     conversation.sendSemantic(semantic("COUNT"));
     const int second = conversation.sendSemantic(semantic("COUNT"));
@@ -153,10 +160,9 @@ void TestPluginHost::failingTurnIsToldAndTheNextGoesOn()
 {
     QFETCH(QString, text);
     QFETCH(QString, told);
-    LogRecorder logs;
-    PluginHost host;
-    QVERIFY(host.load(TestPlugin));
-    Conversation conversation(host, logs);
+    LoadedHost host;
+    QVERIFY(host.isLoaded);
+    Conversation &conversation = host.conversation;
     QSignalSpy idle(&conversation, &Conversation::idle);
     QSignalSpy failed(&conversation, &Conversation::failed);
     const int bad = conversation.sendSemantic(text);
@@ -169,10 +175,9 @@ void TestPluginHost::failingTurnIsToldAndTheNextGoesOn()
 
 void TestPluginHost::inputQueuesInOrder()
 {
-    LogRecorder logs;
-    PluginHost host;
-    QVERIFY(host.load(TestPlugin));
-    Conversation conversation(host, logs);
+    LoadedHost host;
+    QVERIFY(host.isLoaded);
+    Conversation &conversation = host.conversation;
     QStringList order;
     connect(&conversation, &Conversation::started, this,
             [&](int turn) { order << QStringLiteral("+%1").arg(turn); });
@@ -191,10 +196,9 @@ void TestPluginHost::inputQueuesInOrder()
 
 void TestPluginHost::replyFromAnotherThreadArrivesLater()
 {
-    LogRecorder logs;
-    PluginHost host;
-    QVERIFY(host.load(TestPlugin));
-    Conversation conversation(host, logs);
+    LoadedHost host;
+    QVERIFY(host.isLoaded);
+    Conversation &conversation = host.conversation;
     QSignalSpy later(&conversation, &Conversation::repliedLater);
     QThread *thread = nullptr;
     connect(&conversation, &Conversation::repliedLater, this, [&] { thread = QThread::currentThread(); });
@@ -209,10 +213,9 @@ void TestPluginHost::replyAfterTheHostHasGoneIsDropped()
 {
     // Many times, since the late reply races with the end of the host.
     for (int i = 0; i < 50; ++i) {
-        LogRecorder logs;
-        PluginHost host;
-        QVERIFY(host.load(TestPlugin));
-        Conversation conversation(host, logs);
+        LoadedHost host;
+        QVERIFY(host.isLoaded);
+        Conversation &conversation = host.conversation;
         QSignalSpy idle(&conversation, &Conversation::idle);
         conversation.sendSemantic(semantic("LATE", QStringLiteral("x")));
         QVERIFY(idle.wait());
@@ -221,10 +224,9 @@ void TestPluginHost::replyAfterTheHostHasGoneIsDropped()
 
 void TestPluginHost::passwordIsNeitherShownNorLogged()
 {
-    LogRecorder logs;
-    PluginHost host;
-    QVERIFY(host.load(TestPlugin));
-    Conversation conversation(host, logs);
+    LoadedHost host;
+    QVERIFY(host.isLoaded);
+    Conversation &conversation = host.conversation;
     QSignalSpy idle(&conversation, &Conversation::idle);
     QSignalSpy said(&conversation, &Conversation::said);
     const int id = conversation.sendSemantic(QStringLiteral(
@@ -241,10 +243,9 @@ void TestPluginHost::passwordIsNeitherShownNorLogged()
 
 void TestPluginHost::helpIsNoPassword()
 {
-    LogRecorder logs;
-    PluginHost host;
-    QVERIFY(host.load(TestPlugin));
-    Conversation conversation(host, logs);
+    LoadedHost host;
+    QVERIFY(host.isLoaded);
+    Conversation &conversation = host.conversation;
     QSignalSpy idle(&conversation, &Conversation::idle);
     const int help = conversation.say(QStringLiteral("帮助"));
     QVERIFY(idle.wait());
@@ -264,10 +265,9 @@ void TestPluginHost::helpIsNoPassword()
 void TestPluginHost::passwordMayBeginLikeASemanticText()
 {
     const QString password = QStringLiteral("{2468}");
-    LogRecorder logs;
-    PluginHost host;
-    QVERIFY(host.load(TestPlugin));
-    Conversation conversation(host, logs);
+    LoadedHost host;
+    QVERIFY(host.isLoaded);
+    Conversation &conversation = host.conversation;
     QSignalSpy idle(&conversation, &Conversation::idle);
     qputenv("TESTPLUGIN_REPLIES", "ASKPASSWORD");
     conversation.say(QStringLiteral("加入会议880100002"));
@@ -295,10 +295,9 @@ void TestPluginHost::passwordMayBeginLikeASemanticText()
 
 void TestPluginHost::coloursEndWithTheirLine()
 {
-    LogRecorder logs;
-    PluginHost host;
-    QVERIFY(host.load(TestPlugin));
-    Conversation conversation(host, logs);
+    LoadedHost host;
+    QVERIFY(host.isLoaded);
+    Conversation &conversation = host.conversation;
     std::istringstream input(semantic("ECHO", QStringLiteral("好")).toStdString() + "\n" +
                              semantic("THROW").toStdString() + "\n");
     std::ostringstream output;
@@ -320,10 +319,9 @@ void TestPluginHost::coloursEndWithTheirLine()
 
 void TestPluginHost::tooLongTextIsRefused()
 {
-    LogRecorder logs;
-    PluginHost host;
-    QVERIFY(host.load(TestPlugin));
-    Conversation conversation(host, logs);
+    LoadedHost host;
+    QVERIFY(host.isLoaded);
+    Conversation &conversation = host.conversation;
     QSignalSpy idle(&conversation, &Conversation::idle);
     const int id = conversation.say(QString(Conversation::LongestInput + 1, QLatin1Char('x')));
     QVERIFY(idle.wait());

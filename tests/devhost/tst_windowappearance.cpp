@@ -3,6 +3,7 @@
 
 #include "cardsurround.h"
 #include "plugindesk.h"
+#include "shownview.h"
 
 #include <lumo/lguiapplicationhelper.h>
 
@@ -29,9 +30,8 @@ private Q_SLOTS:
 
 void TestWindowAppearance::thousandsOfTurnsStayFluid()
 {
-    ConversationView view;
-    view.resize(700, 600);
-    view.show();
+    ShownView shown(700, 600);
+    ConversationView &view = shown.view;
     const QString longText(300, QChar(0x4f1a));
     QElapsedTimer timer;
     timer.start();

@@ -10,6 +10,23 @@
 
 using namespace devhost;
 
+namespace {
+
+/// Gives the window the keyboard and has @p count turns answered with a card each.
+bool showsCards(PluginDesk &desk, int count)
+{
+    desk.window.activateWindow();
+    if (!QTest::qWaitForWindowActive(&desk.window)) {
+        return false;
+    }
+    for (int i = 0; i < count; ++i) {
+        desk.type(semantic("CARD", QStringLiteral("卡片")));
+    }
+    return QTest::qWaitFor([&] { return desk.isIdle() && desk.view().count() == 2 * count; });
+}
+
+} // namespace
+
 /// Keys, focus, and the button that leads back to the end.
 class TestWindowKeys : public WindowTest
 {
@@ -66,12 +83,7 @@ void TestWindowKeys::pageKeysScrollFromTheInput()
 void TestWindowKeys::tabGoesAsOneReads()
 {
     PluginDesk desk;
-    desk.window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&desk.window));
-    for (int i = 0; i < 4; ++i) {
-        desk.type(semantic("CARD", QStringLiteral("卡片")));
-    }
-    QTRY_VERIFY(desk.isIdle() && desk.window.view()->count() == 8);
+    QVERIFY(showsCards(desk, 4));
     ConversationView *view = desk.window.view();
     view->setFocus();
     QWidgetList visited;
@@ -101,10 +113,7 @@ void TestWindowKeys::tabGoesAsOneReads()
 void TestWindowKeys::focusReturnsToTheInputAfterACardsButton()
 {
     PluginDesk desk;
-    desk.window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&desk.window));
-    desk.type(semantic("CARD", QStringLiteral("卡片")));
-    QTRY_VERIFY(desk.isIdle() && desk.window.view()->count() == 2);
+    QVERIFY(showsCards(desk, 1));
     auto *button = desk.window.view()->entries().at(1).card->findChild<QPushButton *>();
     // The button may disable its card, as a cancellation does, which takes the focus away from it.
     connect(button, &QPushButton::clicked, button, [button] { button->parentWidget()->setEnabled(false); });
@@ -143,12 +152,7 @@ void TestWindowKeys::buttonToTheEndIsOpaqueAndAtTheSide()
 void TestWindowKeys::buttonToTheEndLeadsThereFromCards()
 {
     PluginDesk desk;
-    desk.window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&desk.window));
-    for (int i = 0; i < 12; ++i) {
-        desk.type(semantic("CARD", QStringLiteral("卡片")));
-    }
-    QTRY_VERIFY(desk.isIdle() && desk.window.view()->count() == 24);
+    QVERIFY(showsCards(desk, 12));
     ConversationView *view = desk.window.view();
     auto *button = view->findChild<EndButton *>();
     const auto goesToTheEnd = [&] {

@@ -5,6 +5,7 @@
 #include "cardsurround.h"
 #include "endbutton.h"
 #include "inspector.h"
+#include "shownview.h"
 #include "statusline.h"
 #include "turnmenu.h"
 #include "turntexts.h"
@@ -66,9 +67,8 @@ private Q_SLOTS:
 
 void TestWindowLooks::whatIsSaidStandsOnTheRightAndInTheAccentColour()
 {
-    ConversationView view;
-    view.resize(600, 400);
-    view.show();
+    ShownView onScreen(600, 400);
+    ConversationView &view = onScreen.view;
     view.addSaid(1, QStringLiteral("说"), false);
     view.addReply(1, QStringLiteral("答"), nullptr);
     const QVector<Bubble *> bubbles = bubblesIn(view);
@@ -85,9 +85,8 @@ void TestWindowLooks::whatIsSaidStandsOnTheRightAndInTheAccentColour()
 
 void TestWindowLooks::aSentenceInTheQueueIsDimmed()
 {
-    ConversationView view;
-    view.resize(600, 400);
-    view.show();
+    ShownView onScreen(600, 400);
+    ConversationView &view = onScreen.view;
     view.addSaid(1, QStringLiteral("等着"), true);
     const auto ground = [&view] {
         Bubble *bubble = bubblesIn(view).first();
@@ -103,9 +102,8 @@ void TestWindowLooks::bubblesStandApart()
 {
     constexpr int gap = 9;
     constexpr int verticalPadding = 9;
-    ConversationView view;
-    view.resize(600, 400);
-    view.show();
+    ShownView onScreen(600, 400);
+    ConversationView &view = onScreen.view;
     view.addSaid(1, QStringLiteral("一"), false);
     view.addReply(1, QStringLiteral("二"), nullptr);
     const QVector<Bubble *> bubbles = bubblesIn(view);
@@ -120,9 +118,8 @@ void TestWindowLooks::bubblesStandApart()
 
 void TestWindowLooks::whatIsReadStaysWhereItIs()
 {
-    ConversationView view;
-    view.resize(600, 300);
-    view.show();
+    ShownView onScreen(600, 300);
+    ConversationView &view = onScreen.view;
     for (int turn = 1; turn <= 30; ++turn) {
         view.addSaid(turn, QStringLiteral("第 %1 句").arg(turn), false);
     }

@@ -111,29 +111,18 @@ void changeDuration(QWidget &card)
     }
 }
 
+template <bool Succeeds>
 void modify(QWidget &card)
 {
-    answerRequests(true);
+    answerRequests(Succeeds);
     changeDuration(card);
     press(card, QStringLiteral("修 改"));
 }
 
-void modifyInVain(QWidget &card)
-{
-    answerRequests(false);
-    changeDuration(card);
-    press(card, QStringLiteral("修 改"));
-}
-
+template <bool Succeeds>
 void cancel(QWidget &card)
 {
-    answerRequests(true);
-    press(card, QStringLiteral("取 消"));
-}
-
-void cancelInVain(QWidget &card)
-{
-    answerRequests(false);
+    answerRequests(Succeeds);
     press(card, QStringLiteral("取 消"));
 }
 
@@ -153,16 +142,10 @@ void pickAsManyAsPossible(QWidget &card)
     }
 }
 
+template <bool Succeeds>
 void pickTwoAndConfirm(QWidget &card)
 {
-    answerRequests(true);
-    pickTwo(card);
-    press(card, QStringLiteral("确 认"));
-}
-
-void confirmInVain(QWidget &card)
-{
-    answerRequests(false);
+    answerRequests(Succeeds);
     pickTwo(card);
     press(card, QStringLiteral("确 认"));
 }
@@ -207,23 +190,23 @@ QVector<CardScene> cardScenes()
         {"create-changed", editable, changeDuration},
         {"create-unusual", [] { return announce(Create_Success, created({unusualConference()})); }, nullptr},
         {"create-long", [] { return announce(Create_Success, created({longConference()})); }, nullptr},
-        {"create-modified", editable, modify},
-        {"create-modify-failed", editable, modifyInVain},
-        {"create-cancelled", editable, cancel},
-        {"create-cancel-failed", editable, cancelInVain},
+        {"create-modified", editable, modify<true>},
+        {"create-modify-failed", editable, modify<false>},
+        {"create-cancelled", editable, cancel<true>},
+        {"create-cancel-failed", editable, cancel<false>},
         {"create-duplicate", createDuplicate, nullptr},
         {"create-duplicate-picked", createDuplicate, pickTwo},
-        {"create-duplicate-confirmed", createDuplicate, pickTwoAndConfirm},
-        {"create-duplicate-failed", createDuplicate, confirmInVain},
+        {"create-duplicate-confirmed", createDuplicate, pickTwoAndConfirm<true>},
+        {"create-duplicate-failed", createDuplicate, pickTwoAndConfirm<false>},
         {"create-duplicate-long", [] { return announce(Create_Duplicate, createdWith(longDuplicates())); },
          pickAsManyAsPossible},
         {"create-overlap", [] { return announce(Create_TimeOverlap, created({conference(1)})); }, nullptr},
         {"invite-duplicate", inviteDuplicate, nullptr},
         {"invite-duplicate-picked", inviteDuplicate, pickTwo},
-        {"invite-duplicate-confirmed", inviteDuplicate, pickTwoAndConfirm},
+        {"invite-duplicate-confirmed", inviteDuplicate, pickTwoAndConfirm<true>},
         {"invite-limit", inviteLimit, nullptr},
         {"invite-limit-picked", inviteLimit, pickAsManyAsPossible},
-        {"invite-limit-confirmed", inviteLimit, pickTwoAndConfirm},
+        {"invite-limit-confirmed", inviteLimit, pickTwoAndConfirm<true>},
         {"join-one", [] { return announce(JoinMy_List, ContactQueryConferenceDetail{{conference(0)}}); },
          nullptr},
         {"join-two", [] { return announce(JoinMy_List, ContactQueryConferenceDetail{conferences(2)}); },

@@ -23,6 +23,16 @@ Notification greeting()
             {QStringLiteral("join"), QStringLiteral("加入")}};
 }
 
+/// What a server with @p capabilities gets of the greeting; empty when it gets nothing.
+NotificationServer::Shown shownBy(const QStringList &capabilities)
+{
+    const NotificationServer server(capabilities);
+    Notifier notifier(QDBusConnection::sessionBus(), testProgram());
+    notifier.show(greeting(), [](Notifier::Result, quint32) {});
+    return QTest::qWaitFor([&server] { return server.shown.size() == 1; }) ? server.last()
+                                                                           : NotificationServer::Shown();
+}
+
 } // namespace
 
 /// A client of the desktop's notification server, on a bus with nothing else on it.
@@ -52,11 +62,8 @@ void TestNotifier::markupIsEscapedOnlyForServersThatReadIt()
 {
     QFETCH(QStringList, capabilities);
     QFETCH(QString, body);
-    const NotificationServer server(capabilities);
-    Notifier notifier(QDBusConnection::sessionBus(), testProgram());
-    notifier.show(greeting(), [](Notifier::Result, quint32) {});
-    QTRY_COMPARE(server.shown.size(), 1);
-    QCOMPARE(server.last().body, body);
+    const NotificationServer::Shown shown = shownBy(capabilities);
+    QCOMPARE(shown.body, body);
 }
 
 void TestNotifier::actionsAreSentOnlyToServersThatHaveThem_data()
@@ -70,11 +77,8 @@ void TestNotifier::actionsAreSentOnlyToServersThatHaveThem()
 {
     QFETCH(QStringList, capabilities);
     QFETCH(QStringList, actions);
-    const NotificationServer server(capabilities);
-    Notifier notifier(QDBusConnection::sessionBus(), testProgram());
-    notifier.show(greeting(), [](Notifier::Result, quint32) {});
-    QTRY_COMPARE(server.shown.size(), 1);
-    QCOMPARE(server.last().actions, actions);
+    const NotificationServer::Shown shown = shownBy(capabilities);
+    QCOMPARE(shown.actions, actions);
 }
 
 void TestNotifier::programIsNamed()

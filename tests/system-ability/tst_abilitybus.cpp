@@ -6,6 +6,7 @@
 #include "busforonequestion.h"
 #include "logcapture.h"
 #include "silentsocket.h"
+#include "testswitch.h"
 
 #include <kelvane/abilitycodes.h>
 
@@ -136,9 +137,8 @@ void TestAbilityBus::aBusThatDoesNotAnswerKeepsNobody()
 
 void TestAbilityBus::aGoodAddressThatComesLaterIsUsed_data()
 {
-    QTest::addColumn<bool>("answersOneQuestion");
-    QTest::newRow("after a silent socket") << false;
-    QTest::newRow("after a bus that stopped right after it was asked") << true;
+    addSwitch("answersOneQuestion", "after a silent socket",
+              "after a bus that stopped right after it was asked");
 }
 
 void TestAbilityBus::aGoodAddressThatComesLaterIsUsed()

@@ -77,6 +77,16 @@ bool isEditable(const CardHost &host)
     return button(*host.card(), QStringLiteral("修 改")) != nullptr;
 }
 
+/// The next @p action fails as a call with @p callCode, or is answered with @p outcome when that is 0.
+void prepare(const QString &action, const QString &outcome, int callCode)
+{
+    if (callCode == 0) {
+        CardHost::answer(action, outcome);
+    } else {
+        CardHost::fail(action, callCode);
+    }
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(Slot)
@@ -110,11 +120,7 @@ void TestConferenceCardActions::modify()
     QFETCH(int, loggedCode);
     QFETCH(QString, text);
     CardHost host(buildEditable);
-    if (callCode == 0) {
-        CardHost::answer(QStringLiteral("Update Conference"), outcome);
-    } else {
-        CardHost::fail(QStringLiteral("Update Conference"), callCode);
-    }
+    prepare(QStringLiteral("Update Conference"), outcome, callCode);
     named<LSpinBox>(*host.card(), QStringLiteral("人数"))->setValue(7);
     QTest::mouseClick(button(*host.card(), QStringLiteral("修 改")), Qt::LeftButton);
 
@@ -197,11 +203,7 @@ void TestConferenceCardActions::cancel()
     QFETCH(int, loggedCode);
     QFETCH(QString, text);
     CardHost host(buildEditable);
-    if (callCode == 0) {
-        CardHost::answer(QStringLiteral("Delete Conference"), outcome);
-    } else {
-        CardHost::fail(QStringLiteral("Delete Conference"), callCode);
-    }
+    prepare(QStringLiteral("Delete Conference"), outcome, callCode);
     QTest::mouseClick(button(*host.card(), QStringLiteral("取 消")), Qt::LeftButton);
 
     QCOMPARE(CardHost::actions(), QStringList{QStringLiteral("Delete Conference")});

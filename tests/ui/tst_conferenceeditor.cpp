@@ -108,6 +108,14 @@ ContactDetailMsg payingConference()
 
 using Edit = void (*)(const Editor &);
 
+ContactDetailMsg lasting(qint64 duration, bool isPayingUser)
+{
+    ContactDetailMsg one = conference();
+    one.isPayingUser = isPayingUser;
+    one.duration = duration;
+    return one;
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(Edit)
@@ -180,10 +188,7 @@ void TestConferenceEditor::theDurationBox()
 {
     QFETCH(bool, isPayingUser);
     QFETCH(qint64, duration);
-    ContactDetailMsg one = conference();
-    one.isPayingUser = isPayingUser;
-    one.duration = duration;
-    const Editor editor(one);
+    const Editor editor(lasting(duration, isPayingUser));
     QTEST(editor.duration->count(), "count");
     QTEST(editor.duration->currentText(), "current");
     QCOMPARE(editor.duration->windowTitle(), QStringLiteral("timeLengthBox"));
@@ -351,10 +356,7 @@ void TestConferenceEditor::aDurationThatIsNotOfferedIsAChange()
 {
     QFETCH(bool, isPayingUser);
     QFETCH(qint64, duration);
-    ContactDetailMsg one = conference();
-    one.isPayingUser = isPayingUser;
-    one.duration = duration;
-    const Editor editor(one);
+    const Editor editor(lasting(duration, isPayingUser));
     QCOMPARE(editor.duration->currentText(), QStringLiteral("5分钟"));
     QVERIFY(!items(*editor.duration).contains(QString()));
     QVERIFY(editor.host.card()->getConferenceMsgState());

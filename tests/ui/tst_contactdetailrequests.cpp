@@ -5,6 +5,7 @@
 
 #include "logcapture.h"
 #include "testcolumns.h"
+#include "testswitch.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -109,9 +110,7 @@ void TestContactDetailRequests::confirmingWritesToTheDebugLog()
 
 void TestContactDetailRequests::withoutAFormConfirmingSendsNothing_data()
 {
-    QTest::addColumn<bool>("emptyForm");
-    QTest::newRow("before the form is built") << false;
-    QTest::newRow("a form of no conference") << true;
+    addSwitch("emptyForm", "before the form is built", "a form of no conference");
 }
 
 void TestContactDetailRequests::withoutAFormConfirmingSendsNothing()

@@ -4,6 +4,7 @@
 #include "datefieldtest.h"
 
 #include "testcolumns.h"
+#include "testswitch.h"
 
 #include <QPointer>
 #include <QtTest>
@@ -167,9 +168,7 @@ void TestCustomizeComboBox::theListNeverOpens()
 
 void TestCustomizeComboBox::theFieldMayBeDeletedByItsOwnSelection_data()
 {
-    QTest::addColumn<bool>("byKey");
-    QTest::newRow("by a click in the calendar") << false;
-    QTest::newRow("by Return in the calendar") << true;
+    addSwitch("byKey", "by a click in the calendar", "by Return in the calendar");
 }
 
 void TestCustomizeComboBox::theFieldMayBeDeletedByItsOwnSelection()

@@ -9,6 +9,8 @@
 #include <QtDBus>
 #include <QtTest>
 
+#include <memory>
+
 namespace {
 
 QString meeting()
@@ -19,6 +21,16 @@ QString meeting()
 QString meetingLine()
 {
     return QStringLiteral("预约 11月22日 15:00 与张伟的视频会议");
+}
+
+/// A program that looks for the session bus at @p address.
+std::unique_ptr<LauncherProgram> startedOn(const QByteArray &address)
+{
+    const QByteArray ours = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+    auto program = std::make_unique<LauncherProgram>();
+    qputenv("DBUS_SESSION_BUS_ADDRESS", ours);
+    return program;
 }
 
 } // namespace
@@ -203,10 +215,7 @@ void TestLauncherProgram::programEndsWithItsBus()
                QStringLiteral("--nofork"), QStringLiteral("--print-address")});
     QVERIFY(bus.waitForReadyRead());
     const QByteArray address = bus.readLine().trimmed();
-    const QByteArray ours = qgetenv("DBUS_SESSION_BUS_ADDRESS");
-    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
-    LauncherProgram program;
-    qputenv("DBUS_SESSION_BUS_ADDRESS", ours);
+    const auto program = startedOn(address);
     {
         QDBusConnection other =
             QDBusConnection::connectToBus(QString::fromLocal8Bit(address), QStringLiteral("other bus"));
@@ -215,20 +224,17 @@ void TestLauncherProgram::programEndsWithItsBus()
     QDBusConnection::disconnectFromBus(QStringLiteral("other bus"));
     bus.kill();
     QVERIFY(bus.waitForFinished());
-    QVERIFY(program.process().waitForFinished(10000));
-    QCOMPARE(program.process().exitStatus(), QProcess::NormalExit);
-    QCOMPARE(program.process().exitCode(), 0);
+    QVERIFY(program->process().waitForFinished(10000));
+    QCOMPARE(program->process().exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program->process().exitCode(), 0);
 }
 
 void TestLauncherProgram::withoutABusItSaysSo()
 {
-    const QByteArray ours = qgetenv("DBUS_SESSION_BUS_ADDRESS");
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
-    LauncherProgram program;
-    qputenv("DBUS_SESSION_BUS_ADDRESS", ours);
-    QVERIFY(program.process().waitForFinished(10000));
-    QCOMPARE(program.process().exitCode(), 1);
-    QCOMPARE(program.process().readAllStandardError(),
+    const auto program = startedOn("unix:path=/nowhere");
+    QVERIFY(program->process().waitForFinished(10000));
+    QCOMPARE(program->process().exitCode(), 1);
+    QCOMPARE(program->process().readAllStandardError(),
              QByteArray("speakmate-devhost: There is no session bus.\n"));
 }
 
@@ -239,16 +245,13 @@ void TestLauncherProgram::busThatFallsSilentKeepsNobody()
     const QString path = folder.filePath(QStringLiteral("bus"));
     const BusForOneQuestion bus(path);
     QVERIFY(bus.isListening());
-    const QByteArray ours = qgetenv("DBUS_SESSION_BUS_ADDRESS");
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + QFile::encodeName(path));
-    LauncherProgram program;
-    qputenv("DBUS_SESSION_BUS_ADDRESS", ours);
-    const bool hasEnded = program.process().waitForFinished(10000);
-    program.process().kill();
+    const auto program = startedOn("unix:path=" + QFile::encodeName(path));
+    const bool hasEnded = program->process().waitForFinished(10000);
+    program->process().kill();
     QVERIFY(hasEnded);
     QVERIFY(bus.wasAsked());
-    QCOMPARE(program.process().exitCode(), 1);
-    QCOMPARE(program.process().readAllStandardError(),
+    QCOMPARE(program->process().exitCode(), 1);
+    QCOMPARE(program->process().readAllStandardError(),
              QByteArray("speakmate-devhost: There is no session bus.\n"));
 }
 

@@ -23,6 +23,7 @@ constexpr int Cell = 10;
 constexpr int MostOfCell = 70;
 constexpr double MostOnAverage = 4;
 constexpr double LeastTextContrast = 4.5;
+constexpr double LeastEdgeContrast = 3;
 
 /// As if it had been said: the page changes to the conversation with the first turn.
 void talk(Desk &desk)
@@ -204,6 +205,20 @@ void TestWindowPictures::everyState()
         bool isOnCard = false;
         for (const ConversationEntry &entry : desk.view().entries()) {
             isOnCard = isOnCard || (entry.card != nullptr && entry.card->isAncestorOf(widget));
+        }
+        const auto *area = qobject_cast<const QAbstractScrollArea *>(widget);
+        const bool hasEdge = (button != nullptr && !button->isFlat()) ||
+                             qobject_cast<const QLineEdit *>(widget) != nullptr ||
+                             (area != nullptr && area->frameShape() == QFrame::StyledPanel);
+        if (hasEdge && !isOnCard && widget->isVisible() && widget->isEnabled() &&
+            desk.window.rect().contains(place)) {
+            const double contrast =
+                PaintedContrast::ofEdge(picture, QRect(place.topLeft() * ratio, place.size() * ratio));
+            QVERIFY2(
+                contrast >= LeastEdgeContrast,
+                qPrintable(QStringLiteral("edge of %1 %2: %3")
+                               .arg(QLatin1String(widget->metaObject()->className()), widget->objectName())
+                               .arg(contrast)));
         }
         if (!hasText || isOnCard || !widget->isVisible() || !widget->isEnabled() ||
             !desk.window.rect().contains(place)) {

@@ -10,6 +10,7 @@
 #include <lumo/lsuggestbutton.h>
 
 #include <QCheckBox>
+#include <QLineEdit>
 #include <QtTest>
 
 namespace {
@@ -93,8 +94,11 @@ void TestLStyle::buttonsAreFlatRoundedAndInThePalettesColour()
     QCOMPARE(image.pixelColor(99, 31), Ground);
     const QColor face = button.palette().color(QPalette::Button);
     for (const QPoint &point :
-         {QPoint(50, 0), QPoint(0, 16), QPoint(50, 16), QPoint(99, 16), QPoint(50, 31)}) {
+         {QPoint(50, 1), QPoint(1, 16), QPoint(50, 16), QPoint(98, 16), QPoint(50, 30)}) {
         QCOMPARE(image.pixelColor(point), face);
+    }
+    for (const QPoint &point : {QPoint(50, 0), QPoint(0, 16), QPoint(99, 16), QPoint(50, 31)}) {
+        QCOMPARE(image.pixelColor(point), button.palette().color(QPalette::Mid));
     }
 
     // A little darker under the mouse, and more so when it is pressed.
@@ -134,6 +138,11 @@ void TestLStyle::fieldsHaveTheBaseColour()
         QCOMPARE(image.pixelColor(50, 16), field->palette().color(QPalette::Base));
         QCOMPARE(image.pixelColor(50, 0), field->palette().color(QPalette::Mid));
     }
+    QLineEdit line;
+    const QImage empty = paint(line);
+    QCOMPARE(empty.pixelColor(0, 0), Ground);
+    QCOMPARE(empty.pixelColor(50, 16), line.palette().color(QPalette::Base));
+    QCOMPARE(empty.pixelColor(50, 0), line.palette().color(QPalette::Mid));
     // The sign that there is a list.
     const QImage image = paint(combo);
     QVERIFY(count(image.copy(80, 4, 18, 24), combo.palette().color(QPalette::Base)) < 18 * 24);

@@ -57,4 +57,33 @@ inline double ofText(const QImage &image)
     return best;
 }
 
+/// How far the edge of the control that @p image shows at @p place stands out from what is around it: the
+/// weakest of its sides. Sides at the image's own border do not count.
+inline double ofEdge(const QImage &image, const QRect &place)
+{
+    const int depth = qRound(3 * image.devicePixelRatio()); // lines are one to two pixels wide
+    const QPoint middle = place.center();
+    const struct
+    {
+        QPoint edge;
+        QPoint inwards;
+    } sides[] = {{{place.left(), middle.y()}, {1, 0}},
+                 {{place.right(), middle.y()}, {-1, 0}},
+                 {{middle.x(), place.top()}, {0, 1}},
+                 {{middle.x(), place.bottom()}, {0, -1}}};
+    double weakest = 21;
+    for (const auto &side : sides) {
+        const QPoint outside = side.edge - 2 * side.inwards;
+        if (!image.rect().contains(outside)) {
+            continue;
+        }
+        double best = 1;
+        for (int step = 0; step < depth; ++step) {
+            best = qMax(best, between(image.pixel(side.edge + step * side.inwards), image.pixel(outside)));
+        }
+        weakest = qMin(weakest, best);
+    }
+    return weakest;
+}
+
 } // namespace PaintedContrast

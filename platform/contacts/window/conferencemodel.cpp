@@ -5,6 +5,7 @@
 
 #include "book/contactsbook.h"
 #include "core/displaytext.h"
+#include "window/legiblecolor.h"
 
 #include <lumo/plaintooltip.h>
 
@@ -178,7 +179,7 @@ QVariant ConferenceModel::data(const QModelIndex &index, int role) const
                                                      : display(conference, index.column()));
     case Qt::ForegroundRole: {
         const QColor color = index.column() == State ? lookOf(state).color : QColor();
-        return color.isValid() ? color : QVariant();
+        return color.isValid() ? legibleInLists(color) : QVariant();
     }
     case NumberRole:
         return conference.dialNumber;

@@ -32,7 +32,7 @@ void EndButton::paintEvent(QPaintEvent *)
     }
     painter.setBrush(ground);
     const bool isMarked = hasFocus();
-    painter.setPen(QPen(palette().color(isMarked ? QPalette::Highlight : QPalette::Dark), isMarked ? 2 : 1));
+    painter.setPen(QPen(palette().color(isMarked ? QPalette::Highlight : QPalette::Mid), isMarked ? 2 : 1));
     painter.drawEllipse(QRectF(rect()).adjusted(1, 1, -1, -1));
     painter.setPen(
         QPen(palette().color(QPalette::ButtonText), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));

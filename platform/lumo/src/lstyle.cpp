@@ -13,6 +13,8 @@ namespace {
 
 constexpr int ControlHeight = 32;
 constexpr int IndicatorExtent = 18;
+constexpr int FieldPadding = 4;
+constexpr int CellMargin = 6; ///< columns never touch
 
 /// Only for who uses the keyboard.
 void drawFocusRing(const QStyleOption *option, QPainter *painter)
@@ -45,17 +47,49 @@ void LStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
             drawFocusRing(option, painter);
         }
         return;
+    case PE_PanelLineEdit: {
+        const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
+        if (frame == nullptr || frame->lineWidth <= 0) {
+            break; // within a combo box or a spin box, which have one
+        }
+        QStyleOption field(*option);
+        // A line edit is always sunken, and nothing happens where one clicks.
+        field.state &= ~(State_Sunken | State_MouseOver);
+        StylePainting::field(*painter, field);
+        drawFocusRing(option, painter);
+        return;
+    }
+    case PE_FrameLineEdit:
+        return;
+    case PE_Frame:
+        StylePainting::frame(*painter, *option);
+        return;
+    case PE_FrameTabWidget:
+    case PE_FrameTabBarBase:
+        return;
     case PE_IndicatorCheckBox:
         StylePainting::checkMark(*painter, *option);
         return;
     default:
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        break;
     }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
 void LStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                          const QWidget *widget) const
 {
+    const auto *header = qstyleoption_cast<const QStyleOptionHeader *>(option);
+    if (element == CE_HeaderSection && header != nullptr) {
+        StylePainting::headerSection(*painter, *option,
+                                     header->position == QStyleOptionHeader::End ||
+                                         header->position == QStyleOptionHeader::OnlyOneSection);
+        return;
+    }
+    if (element == CE_TabBarTabShape) {
+        StylePainting::tab(*painter, *option);
+        return;
+    }
     QProxyStyle::drawControl(element, option, painter, widget);
     if (element == CE_PushButton) {
         drawFocusRing(option, painter);
@@ -104,10 +138,20 @@ QSize LStyle::sizeFromContents(ContentsType type, const QStyleOption *option, co
                                const QWidget *widget) const
 {
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-    if (type == CT_PushButton || type == CT_ComboBox || type == CT_SpinBox) {
+    if (type == CT_PushButton || type == CT_ComboBox || type == CT_SpinBox || type == CT_LineEdit) {
         return size.expandedTo(QSize(0, ControlHeight));
     }
     return size;
+}
+
+QRect LStyle::subElementRect(SubElement element, const QStyleOption *option, const QWidget *widget) const
+{
+    const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+    const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
+    if (element == SE_LineEditContents && frame != nullptr && frame->lineWidth > 0) {
+        return rect.adjusted(FieldPadding, 0, -FieldPadding, 0); // clear of the rounded edge
+    }
+    return rect;
 }
 
 int LStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
@@ -116,6 +160,9 @@ int LStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QW
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
         return IndicatorExtent;
+    case PM_FocusFrameHMargin:
+    case PM_HeaderMargin:
+        return CellMargin;
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
         return 0;

@@ -16,6 +16,8 @@ constexpr qreal SignExtent = 4; ///< half the width of a sign
 constexpr int HoverFactor = 106;
 constexpr int PressedFactor = 114;
 constexpr int DisabledAlpha = 90;
+constexpr qreal HeaderInset = 6;
+constexpr int TabLine = 3;
 
 class PainterState
 {
@@ -50,6 +52,13 @@ QColor groundOf(const QStyleOption &option, QPalette::ColorRole role)
     return color;
 }
 
+QPen edgePen(const QStyleOption &option)
+{
+    QColor edge = option.palette.color(QPalette::Mid);
+    edge.setAlpha(is(option, QStyle::State_Enabled) ? edge.alpha() : DisabledAlpha);
+    return QPen(edge, 1);
+}
+
 /// Half a pixel inside, so that a line of one pixel falls on one row of pixels.
 QRectF inside(const QRect &rect, qreal lineWidth)
 {
@@ -66,19 +75,54 @@ void StylePainting::button(QPainter &painter, const QStyleOption &option, bool f
         return;
     }
     const PainterState state(painter);
-    painter.setPen(Qt::NoPen);
     painter.setBrush(groundOf(option, QPalette::Button));
-    painter.drawRoundedRect(option.rect, Radius, Radius);
+    // The accent colour stands out by itself.
+    const bool isAccent = option.palette.color(QPalette::Button) == option.palette.color(QPalette::Highlight);
+    painter.setPen(flat || isAccent ? QPen(Qt::NoPen) : edgePen(option));
+    painter.drawRoundedRect(flat || isAccent ? QRectF(option.rect) : inside(option.rect, 1), Radius, Radius);
 }
 
 void StylePainting::field(QPainter &painter, const QStyleOption &option)
 {
     const PainterState state(painter);
     painter.setBrush(groundOf(option, QPalette::Base));
-    QColor edge = option.palette.color(QPalette::Mid);
-    edge.setAlpha(is(option, QStyle::State_Enabled) ? edge.alpha() : DisabledAlpha);
-    painter.setPen(QPen(edge, 1));
+    painter.setPen(edgePen(option));
     painter.drawRoundedRect(inside(option.rect, 1), Radius, Radius);
+}
+
+void StylePainting::frame(QPainter &painter, const QStyleOption &option)
+{
+    const PainterState state(painter);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(edgePen(option));
+    painter.drawRect(inside(option.rect, 1));
+}
+
+void StylePainting::headerSection(QPainter &painter, const QStyleOption &option, bool isLast)
+{
+    const PainterState state(painter);
+    painter.fillRect(option.rect, groundOf(option, QPalette::Window));
+    const QRectF rect = inside(option.rect, 1);
+    painter.setPen(edgePen(option));
+    painter.drawLine(rect.bottomLeft(), rect.bottomRight());
+    if (!isLast) {
+        // Where a column is made wider.
+        painter.drawLine(rect.topRight() + QPointF(0, HeaderInset),
+                         rect.bottomRight() - QPointF(0, HeaderInset));
+    }
+}
+
+void StylePainting::tab(QPainter &painter, const QStyleOption &option)
+{
+    const PainterState state(painter);
+    if (is(option, QStyle::State_Selected)) {
+        painter.fillRect(option.rect, option.palette.color(QPalette::Base));
+        const QRect line(option.rect.left(), option.rect.bottom() - TabLine + 1, option.rect.width(),
+                         TabLine);
+        painter.fillRect(line, option.palette.color(QPalette::Link));
+    } else if (is(option, QStyle::State_MouseOver)) {
+        painter.fillRect(option.rect, option.palette.color(QPalette::Button));
+    }
 }
 
 void StylePainting::focusRing(QPainter &painter, const QStyleOption &option)

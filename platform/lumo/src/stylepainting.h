@@ -18,6 +18,11 @@ namespace StylePainting {
 void button(QPainter &painter, const QStyleOption &option, bool flat);
 /// The ground of a combo box, a spin box or a line edit.
 void field(QPainter &painter, const QStyleOption &option);
+/// Around a list or a text.
+void frame(QPainter &painter, const QStyleOption &option);
+void headerSection(QPainter &painter, const QStyleOption &option, bool isLast);
+/// A tab on top of its pages; the selected one has a line in the accent's colour below.
+void tab(QPainter &painter, const QStyleOption &option);
 void focusRing(QPainter &painter, const QStyleOption &option);
 void checkMark(QPainter &painter, const QStyleOption &option);
 

@@ -103,7 +103,7 @@ private:
 
     static constexpr Bounds Own = {2082, 205, 0};
     static constexpr Bounds Learned = {531, 69, 0};
-    static constexpr Bounds Apart = {242, 32, 1};
+    static constexpr Bounds Apart = {243, 32, 1};
 };
 
 QTEST_APPLESS_MAIN(TestLabelledSentences)

@@ -44,7 +44,11 @@ Verdict judge(const Reading &reading, const QString &intent)
         doubtful || (intent == QLatin1String(CloseConference) && !reading.conferenceNumber().isEmpty() &&
                      reading.hasAny(WordClass::Join | WordClass::WeakJoin));
     // 凌晨一点上线，零点四十五拉个会: which of the two hours?
-    doubtful = doubtful || (intent == QLatin1String(CreateConference) && reading.clockCount() > 1);
+    doubtful = doubtful || (intent == QLatin1String(CreateConference) &&
+                            (reading.clockCount() > 1 || reading.namesTwoDays()));
+    // 退出会议，安排下: two things at once.
+    doubtful = doubtful || (intent == QLatin1String(CreateConference) &&
+                            reading.hasAny(WordClass::Close | WordClass::CloseAlone));
     bool untitled = false; // the name of the conference was not understood
     bool quoted = false;
     bool told = false; // what somebody says or does, before the order

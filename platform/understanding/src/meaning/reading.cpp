@@ -113,6 +113,10 @@ void Reading::collectTimes()
         }
         const bool again = m_time.hasClock && token.time.hasClock && m_time.hour == token.time.hour &&
                            m_time.minute == token.time.minute; // 明天三点，对，三点
+        // 昨天的会没开完，明天三点接着开
+        m_daysDiffer = m_daysDiffer || (m_time.day == TimeExpression::Day::Relative &&
+                                        token.time.day == TimeExpression::Day::Relative &&
+                                        m_time.dayOffset != token.time.dayOffset);
         m_timeSaid += m_sentence.rawPart(token.position, token.length);
         if (m_timeCount == 0) {
             m_time = token.time;

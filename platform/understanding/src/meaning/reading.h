@@ -51,6 +51,8 @@ public:
     /// How many of the times name an hour.
     int clockCount() const { return m_clockCount; }
 
+    /// 今天 and 明天 in one sentence.
+    bool namesTwoDays() const { return m_daysDiffer; }
     bool hasDoubtfulName() const;
     /// 来我办公室: somebody is to come, but to no conference.
     bool isElsewhere() const { return !m_elsewhere.isEmpty(); }
@@ -96,6 +98,7 @@ private:
     int m_timeCount = 0;
     int m_clockCount = 0;
     bool m_numberCutOff = false;
+    bool m_daysDiffer = false;
 };
 
 } // namespace understanding

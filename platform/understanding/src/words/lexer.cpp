@@ -110,7 +110,9 @@ private:
         }
         settleConferenceEnd(word);
         const bool opened = m_text.at(m_at) == QChar(u'会') && charAt(m_text, m_at - 1) == QChar(u'开');
-        if (opened && word.classes.has(WordClass::Framed)) { // 会 in 开会怎么样 is a conference
+        if (opened && word.length > 1 &&
+            word.classes.intersects(WordClass::Framed |
+                                    WordClass::Trigger)) { // 会 in 开会怎么样 is a conference
             word = Lexicon::instance().longestAt(m_text.left(m_at + 1), m_at);
         }
         const TimeMatch time = readTime(m_text, m_at);
@@ -132,6 +134,10 @@ private:
     bool takesPieceOfTime(int wordLength) const
     {
         const int last = m_at + wordLength - 1;
+        // 博士 in 施博士后天, 叫 in 叫上官婉儿, 开会 in 开会时间
+        if (wordLength >= 2 && firstOf(m_text, last, {u"后天", u"上官", u"时间"}) > 0) {
+            return true;
+        }
         if (wordLength < 2 || m_text.at(last) != QChar(u'下') || m_text.at(last - 1) == QChar(u'一') ||
             charAt(m_text, last + 1) == QChar(u'下')) {
             return false;

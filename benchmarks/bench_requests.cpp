@@ -15,6 +15,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <ctime>
 #include <memory>
 
@@ -108,9 +109,8 @@ double processorMicroseconds()
 /// Both, turn about, so that what else the machine does falls on both; reports how many times the parse it
 /// takes.
 void measureRatio(benchmark::State &state, const QString &semantic, const QString &answer,
-                  const QByteArray &parsed)
+                  const QByteArray &parsed, int runs = 100)
 {
-    constexpr int runs = 100;
     Stubs::answerAtOnce(answer);
     double answering = 0;
     double parsing = 0;
@@ -126,7 +126,7 @@ void measureRatio(benchmark::State &state, const QString &semantic, const QStrin
         answering += middle - begin;
         parsing += processorMicroseconds() - middle;
     }
-    const double count = runs * static_cast<double>(state.iterations());
+    const double count = static_cast<double>(runs) * static_cast<double>(state.iterations());
     state.counters["bytes"] = static_cast<double>(parsed.size());
     state.counters["answer_us"] = answering / count;
     state.counters["parse_us"] = parsing / count;
@@ -140,12 +140,15 @@ void requestAgainstItsParse(benchmark::State &state, QString (*text)())
 BENCHMARK_CAPTURE(requestAgainstItsParse, addBuddy, addBuddy)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(requestAgainstItsParse, invite, invite)->Unit(benchmark::kMillisecond);
 
-void answerWith100ConferencesAgainstItsParse(benchmark::State &state)
+/// An answer with as many conferences as the argument says.
+void answerAgainstItsParse(benchmark::State &state)
 {
-    const QString answer = manyConferences(100);
-    measureRatio(state, joinMine(), answer, answer.toUtf8());
+    const int count = static_cast<int>(state.range(0));
+    const QString answer = manyConferences(count);
+    constexpr int manyAtOnce = 10000;
+    measureRatio(state, joinMine(), answer, answer.toUtf8(), std::clamp(manyAtOnce / count, 1, 100));
 }
-BENCHMARK(answerWith100ConferencesAgainstItsParse)->Unit(benchmark::kMillisecond);
+BENCHMARK(answerAgainstItsParse)->RangeMultiplier(10)->Range(1, 100000)->Unit(benchmark::kMillisecond);
 
 void serviceAndReply(benchmark::State &state)
 {

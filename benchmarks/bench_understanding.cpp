@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include <understanding/dialogue.h>
+
+#include <benchmark/benchmark.h>
+
+#include <QDateTime>
+
+namespace {
+
+const QDateTime Now(QDate(2026, 3, 7), QTime(10, 20));
+
+/// People, times and a topic, over and over, up to @p length characters.
+QString sentence(qint64 length)
+{
+    const QString begin = QStringLiteral("明天下午三点和张伟、李娜开会讨论");
+    const QString more = QStringLiteral("第三季度的预算和下周一的发布计划，");
+    QString text = begin;
+    while (text.size() < length) {
+        text += more;
+    }
+    return text.left(static_cast<int>(length));
+}
+
+/// A sentence of as many characters as the argument says; above 500 it is refused unread.
+void sentenceOfLength(benchmark::State &state)
+{
+    understanding::Dialogue dialogue;
+    const QString text = sentence(state.range(0));
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(dialogue.turn(text, Now));
+    }
+    state.counters["per_second"] = benchmark::Counter(1, benchmark::Counter::kIsIterationInvariantRate);
+}
+BENCHMARK(sentenceOfLength)
+    ->Arg(10)
+    ->Arg(20)
+    ->Arg(50)
+    ->Arg(100)
+    ->Arg(200)
+    ->Arg(500)
+    ->Arg(100000)
+    ->Unit(benchmark::kMicrosecond);
+
+/// A sentence of twenty characters with as many known names as the argument says.
+void sentenceWithKnownNames(benchmark::State &state)
+{
+    QStringList names;
+    const QString surnames = QStringLiteral("张王李赵刘陈杨黄周吴");
+    for (int i = 0; i < state.range(0); ++i) {
+        names.append(QString(surnames.at(i % surnames.size())) + QChar(0x4e00 + i / 100) +
+                     QChar(0x5200 + i % 100));
+    }
+    understanding::Dialogue dialogue(names);
+    const QString text = sentence(20);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(dialogue.turn(text, Now));
+    }
+}
+BENCHMARK(sentenceWithKnownNames)->Arg(0)->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "fullbook.h"
+
+#include "book/administration.h"
+#include "window/contactswindow.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QTabWidget>
+#include <QTimer>
+
+#include <algorithm>
+#include <ctime>
+#include <vector>
+
+namespace {
+
+constexpr int LongestWaitMsecs = 10000;
+constexpr int Writes = 15;
+
+/// Of this thread, so that whatever else the machine does is not counted.
+double threadMsecs()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+}
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values.at(values.size() / 2);
+}
+
+/// Lets the window follow a change and paint itself; false when it does not.
+bool follow(ContactsBook &book, ContactsWindow &window)
+{
+    bool isTold = false;
+    QEventLoop loop;
+    QObject::connect(&book, &ContactsBook::changedLately, &loop, [&] {
+        isTold = true;
+        loop.quit();
+    });
+    QTimer::singleShot(LongestWaitMsecs, &loop, &QEventLoop::quit);
+    loop.exec();
+    window.grab();
+    return isTold;
+}
+
+/// Scheduling a conference while the window is open over as many conferences and contacts as the first
+/// argument says, on the page that the second one names: what passes before the answer, and what the window
+/// does after it.
+void writeWithTheWindowOpen(benchmark::State &state)
+{
+    FullBook full(state.range(0), state.range(0));
+    Administration administration(full.book);
+    ContactsWindow window(full.book, administration);
+    window.findChild<QTabWidget *>()->setCurrentIndex(static_cast<int>(state.range(1)));
+    window.show();
+    window.grab();
+    std::vector<double> answers;
+    std::vector<double> shown;
+    for (auto _ : state) {
+        const double before = threadMsecs();
+        const bool isDone = full.schedule();
+        const double answered = threadMsecs();
+        if (!isDone || !follow(full.book, window)) {
+            state.SkipWithError("not created, or not shown");
+            return;
+        }
+        answers.push_back(answered - before);
+        shown.push_back(threadMsecs() - answered);
+        state.SetIterationTime((answers.back() + shown.back()) / 1e3);
+    }
+    state.counters["before_answer_ms"] = median(answers);
+    state.counters["in_window_ms"] = median(shown);
+}
+BENCHMARK(writeWithTheWindowOpen)
+    ->ArgsProduct({{100, 1000, 10000, 100000}, {0, 1}})
+    ->ArgNames({"", "page"})
+    ->UseManualTime()
+    ->Iterations(Writes)
+    ->Unit(benchmark::kMillisecond);
+
+/// Until the window is there, over as many conferences and contacts as the argument says.
+void openTheWindow(benchmark::State &state)
+{
+    FullBook full(state.range(0), state.range(0));
+    Administration administration(full.book);
+    for (auto _ : state) {
+        ContactsWindow window(full.book, administration);
+        window.grab();
+    }
+}
+BENCHMARK(openTheWindow)->RangeMultiplier(10)->Range(100, 100000)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

@@ -37,6 +37,13 @@
     </message>
 </context>
 <context>
+    <name>devhost::ApplicationLink</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+</context>
+<context>
     <name>devhost::Batch</name>
     <message>
         <source>line %1: later reply: %2</source>

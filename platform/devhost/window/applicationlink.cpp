@@ -33,7 +33,7 @@ ApplicationState ApplicationState::read(const QString &overview)
     if (user.isEmpty()) {
         return state;
     }
-    state.user = QStringLiteral("%1（%2）").arg(textOf(user, "name"), textOf(user, "account"));
+    state.user = ApplicationLink::tr("%1 (%2)").arg(textOf(user, "name"), textOf(user, "account"));
     const QJsonObject conference = document.object().value(QLatin1String("conference")).toObject();
     state.conferenceTitle = textOf(conference, "title");
     state.conferenceNumber = textOf(conference, "number");

@@ -37,7 +37,9 @@ WelcomePage::WelcomePage(QWidget *parent) : QWidget(parent)
     layout->addWidget(greeting, 0, Qt::AlignHCenter);
     auto *hint = new QLabel(tr("Type below, or click an example. The assistant understands Chinese:"), this);
     hint->setForegroundRole(QPalette::PlaceholderText);
-    layout->addWidget(hint, 0, Qt::AlignHCenter);
+    hint->setAlignment(Qt::AlignHCenter);
+    hint->setWordWrap(true);
+    layout->addWidget(hint);
     layout->addSpacing(12);
     const QStringList offered = examples();
     for (const QString &example : offered) {

@@ -104,7 +104,8 @@ void TestTranslations::onlyTheAssistantsOwnTextsAreChineseInTheSources()
                                 QStringLiteral("window/mainwindow.cpp"),
                                 QStringLiteral("window/warmup.cpp"),
                                 QStringLiteral("window/welcomepage.cpp")};
-    const QRegularExpression chinese(QStringLiteral("\"[^\"]*\\p{Han}"));
+    const QRegularExpression chinese(
+        QStringLiteral("\"[^\"]*[\\p{Han}\\x{3000}-\\x{303f}\\x{ff00}-\\x{ffef}]"));
     QStringList found;
     QDirIterator files(Sources, {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
                        QDirIterator::Subdirectories);

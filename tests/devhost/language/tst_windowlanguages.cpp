@@ -3,6 +3,7 @@
 
 #include "conversationscript.h"
 #include "desklanguage.h"
+#include "inspector.h"
 #include "plugindesk.h"
 #include "statusline.h"
 #include "turnmenu.h"
@@ -131,6 +132,8 @@ private Q_SLOTS:
     void codesBeginWithEnglish();
     void frameIsInOneLanguage_data();
     void frameIsInOneLanguage();
+    void windowIsAsNarrowInEveryLanguage_data();
+    void windowIsAsNarrowInEveryLanguage();
     void menusAndDialogsAreInOneLanguage_data();
     void menusAndDialogsAreInOneLanguage();
     void datesFollowTheWindow_data();
@@ -182,11 +185,10 @@ void TestWindowLanguages::frameIsInOneLanguage()
     QVERIFY(desk.isLoaded);
     verify(textsIn(desk.window), 60);
     // In a conference, and with turns of every kind.
-    ApplicationState state;
-    state.isReached = true;
-    state.conferenceTitle = QStringLiteral("1");
-    state.conferenceNumber = QStringLiteral("2");
-    desk.window.findChild<StatusLine *>()->show(state);
+    desk.window.findChild<StatusLine *>()->show(
+        ApplicationState::read(QStringLiteral("{\"user\":{\"name\":\"1\",\"account\":\"2\"},"
+                                              "\"conference\":{\"title\":\"3\",\"number\":\"4\"}}")));
+    QVERIFY(desk.window.findChild<QLabel *>(QStringLiteral("statusConference"))->isVisible());
     for (const char *intent : {"ECHO", "CARD", "THROW", "THROWREPLY", "NOREPLY", "ASKPASSWORD"}) {
         desk.type(semantic(intent));
         QTRY_VERIFY(desk.isIdle());
@@ -204,6 +206,22 @@ void TestWindowLanguages::frameIsInOneLanguage()
             verify({{QStringLiteral("script"), line}}, 1);
         }
     }
+}
+
+void TestWindowLanguages::windowIsAsNarrowInEveryLanguage_data()
+{
+    addLanguages();
+}
+
+/// Only the cards decide how narrow it gets.
+void TestWindowLanguages::windowIsAsNarrowInEveryLanguage()
+{
+    QFETCH(QString, code);
+    ProgramLanguage language = deskLanguage();
+    QVERIFY(language.choose(code));
+    PluginDesk desk;
+    desk.window.findChild<Inspector *>()->hide();
+    QTRY_COMPARE(desk.window.minimumSizeHint().width(), desk.view().minimumWidth());
 }
 
 void TestWindowLanguages::menusAndDialogsAreInOneLanguage_data()

@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# contact_add_translations(TARGET PROGRAM)
-#   Embeds translations/PROGRAM_*.ts of this folder in TARGET as :/translations/PROGRAM_*.qm. With a static library,
+# contact_add_translations(TARGET PROGRAM CODES...)
+#   Embeds translations/PROGRAM_CODE.ts of this folder in TARGET as :/translations/PROGRAM_CODE.qm. With a static library,
 #   call Q_INIT_RESOURCE(TARGET_translations) before ProgramLanguage is made.
 #   The target update-translations writes the texts of the sources into the .ts files.
 
@@ -12,11 +12,13 @@ find_package(Qt5 REQUIRED COMPONENTS LinguistTools)
 set(CONTACT_LUPDATE_OPTIONS "-silent -no-obsolete -locations none -source-language en")
 
 function(contact_add_translations target program)
-    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/translations/${program}_*.ts)
+    set(sources)
     set(built)
     set(entries)
-    foreach(source ${sources})
-        get_filename_component(name ${source} NAME_WE)
+    foreach(code ${ARGN})
+        set(name ${program}_${code})
+        set(source ${CMAKE_CURRENT_SOURCE_DIR}/translations/${name}.ts)
+        list(APPEND sources ${source})
         set(file ${CMAKE_CURRENT_BINARY_DIR}/${name}.qm)
         add_custom_command(OUTPUT ${file}
             COMMAND Qt5::lrelease -silent ${source} -qm ${file}
@@ -29,8 +31,9 @@ function(contact_add_translations target program)
     file(GENERATE OUTPUT ${collection} CONTENT
         "<RCC>\n    <qresource prefix=\"/translations\">\n${entries}    </qresource>\n</RCC>\n")
     set(resource ${CMAKE_CURRENT_BINARY_DIR}/qrc_${target}_translations.cpp)
+    # Version 1 has no times of files, which differ from build to build.
     add_custom_command(OUTPUT ${resource}
-        COMMAND Qt5::rcc --name ${target}_translations --output ${resource} ${collection}
+        COMMAND Qt5::rcc --format-version 1 --name ${target}_translations --output ${resource} ${collection}
         DEPENDS ${collection} ${built}
         VERBATIM)
     set_source_files_properties(${resource} PROPERTIES SKIP_AUTOMOC ON)

@@ -24,7 +24,7 @@ packages_launcher=(plasma-workspace xdotool xvfb)
 # Also needed by the benchmarks.
 packages_bench=(libbenchmark-dev python3 valgrind xvfb)
 # Also needed by .ci/run.
-packages_ci=(clang clang-format-16 clang-tidy clazy libclang-rt-14-dev llvm shellcheck)
+packages_ci=(clang clang-format-16 clang-tidy clazy libbenchmark-dev libclang-rt-14-dev llvm shellcheck)
 
 say() { printf '%s\n' "$*" >&2; }
 die() {

@@ -18,13 +18,13 @@ namespace {
 class Library
 {
 public:
-    Library() { s_instance = this; }
-    ~Library() { s_instance = nullptr; }
+    Library() { current = this; }
+    ~Library() { current = nullptr; }
     Q_DISABLE_COPY(Library)
 
     static FullBook &book(qint64 conferences, qint64 contacts)
     {
-        std::unique_ptr<FullBook> &book = s_instance->m_books[{conferences, contacts}];
+        std::unique_ptr<FullBook> &book = current->m_books[{conferences, contacts}];
         if (!book) {
             book = std::make_unique<FullBook>(conferences, contacts);
         }
@@ -32,10 +32,10 @@ public:
     }
 
 private:
-    static Library *s_instance;
+    static Library *current;
     std::map<std::pair<qint64, qint64>, std::unique_ptr<FullBook>> m_books;
 };
-Library *Library::s_instance = nullptr;
+Library *Library::current = nullptr;
 
 /// One day's search among as many conferences as the argument says.
 void searchDay(benchmark::State &state)

@@ -23,7 +23,7 @@ constexpr WordClasses SurroundingWords =
 
 bool isSmallTalkParticle(const Sentence &sentence, const Token &token)
 {
-    static const QString particles = QStringLiteral("的号是呢哦啊呀吧就定在先只这一次那呗要从改开约了");
+    static const QString particles = QStringLiteral("的号是呢哦啊呀吧就定在先只这一次那呗要从改开约了选见");
     const QString text = sentence.text().mid(token.position, token.length);
     return std::all_of(text.cbegin(), text.cend(),
                        [](QChar character) { return particles.contains(character); });
@@ -47,7 +47,8 @@ bool holdsOnly(const Reading &reading, Answers answers)
         std::none_of(tokens.cbegin(), begin, [&](const Token &token) { return token.isAny(weighty); });
     return std::all_of(aside ? begin : tokens.cbegin(), tokens.cend(), [&](const Token &token) {
         return token.kind == Token::Kind::Space || answers(token) || token.isAny(SurroundingWords) ||
-               (token.kind == Token::Kind::Other && isSmallTalkParticle(reading.sentence(), token));
+               ((token.kind == Token::Kind::Other || token.classes.isEmpty()) &&
+                isSmallTalkParticle(reading.sentence(), token));
     });
 }
 

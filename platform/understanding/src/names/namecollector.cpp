@@ -90,7 +90,7 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
 bool NameCollector::isWholeName(const QString &chunk, int end) const
 {
     static const QString enclosing = QStringLiteral("、,。;/和跟与及 ");
-    static const QString never = QStringLiteral("也都全等吧呢啊呀了的吗嘛呗参加");
+    static const QString never = QStringLiteral("也都全等哈吧呢啊呀了的吗嘛呗参加");
     static const QString always = QStringLiteral("为可成能做");
     const bool closed = end == m_text.size() || enclosing.contains(m_text.at(end));
     return chunk.size() == 3 && isPersonsName(chunk) &&

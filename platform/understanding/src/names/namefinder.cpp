@@ -42,7 +42,12 @@ public:
 
     std::vector<FoundName> runFromStart()
     {
-        takeNames(0, true);
+        constexpr WordClasses leading = WordClass::Filler | WordClass::LabelLink | WordClass::Punctuation;
+        std::size_t at = 0;
+        while (at < m_tokens.size() && m_tokens[at].isAny(leading)) { // 嗯，张伟
+            ++at;
+        }
+        takeNames(at, true);
         return std::move(m_names);
     }
 
@@ -370,11 +375,6 @@ private:
         m_names.back().start = m_modifierStart >= 0 ? m_modifierStart : token.position;
         m_modifierStart = -1;
         return m_places.skipTitle(at);
-    }
-
-    static bool isParticle(QChar character)
-    {
-        return withoutParticles(QString(character) + character).isEmpty();
     }
 
     const QString &m_text;

@@ -193,7 +193,7 @@ QString withoutParticles(const QString &text)
 {
     static const QString leading = QStringLiteral("的也都再就先在要想了个请给对着还又把将跟是有帮替");
     static const QString trailing = QStringLiteral(
-        "也都全来去再就先在要想等的给吧呢啊呀了过到于得能可需将又还会用里并且吗嘛上下把做成为参加约让呗");
+        "也都全来去再就先在要想等的给吧呢啊呀了过到于得能可需将又还会用里并且吗嘛上下把做成为参加约让呗哈");
     int start = 0;
     int end = text.size();
     // What is left has two characters at least: 王来 is a name.
@@ -213,6 +213,11 @@ QString withoutParticles(const QString &text)
         return leading.contains(character) || trailing.contains(character);
     });
     return onlyParticles ? QString() : rest;
+}
+
+bool isParticle(QChar character)
+{
+    return withoutParticles(QString(character) + character).isEmpty();
 }
 
 } // namespace understanding

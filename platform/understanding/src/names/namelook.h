@@ -24,4 +24,7 @@ QStringList splitNames(const QString &text);
 /// @p text without the little words around a name: 也, 来, 的.
 QString withoutParticles(const QString &text);
 
+/// True for a character that withoutParticles() takes away: 也, 来.
+bool isParticle(QChar character);
+
 } // namespace understanding

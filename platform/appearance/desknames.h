@@ -7,6 +7,6 @@
 
 /// The desk's names, which also name its settings file.
 namespace DeskNames {
-constexpr QLatin1String Organization("kelvane");
-constexpr QLatin1String Application("speakmate-devhost");
+const QLatin1String Organization("kelvane");
+const QLatin1String Application("speakmate-devhost");
 } // namespace DeskNames

@@ -63,7 +63,9 @@ bool Clause::asksAboutConference() const
            any([&](std::size_t at) {
                static const QString wanted = QStringLiteral("么啥少个些");
                const Token &token = m_tokens[at];
-               if (startsAt(text, token.position, QStringLiteral("几个人"))) {
+               const bool whoCame = token.is(WordClass::Join) && token.is(WordClass::Conference) &&
+                                    charAt(text, token.end()) == QChar(u'了'); // 张伟进会了没
+               if (whoCame || startsAt(text, token.position, QStringLiteral("几个人"))) {
                    return true;
                }
                if (!token.is(WordClass::Question) || token.is(WordClass::AskedTime) ||

@@ -6,6 +6,7 @@
 #include "actions/actioncontext.h"
 #include "actions/answer.h"
 #include "actions/conferencequeries.h"
+#include "actions/conferencetexts.h"
 #include "actions/membermatch.h"
 #include "actions/requestparameters.h"
 
@@ -27,6 +28,9 @@ QJsonObject createConference(const ActionContext &context, const RequestParamete
 {
     const qint64 startMsecs = parameters.number(JsonKey::StartTime).value_or(0);
     const QVector<RequestedMember> members = parameters.members();
+    const QString title =
+        requestedTitle(parameters).value_or(context.user.name + QStringLiteral("的视频会议"));
+    const QString passcode = requestedPasscode(parameters).value_or(QString());
     const bool scheduled = startMsecs > 0;
     if (scheduled && startMsecs + ConferenceRules::LateStartMsecs < context.nowMsecs) {
         throw InvalidParameters("the start is past");
@@ -53,7 +57,8 @@ QJsonObject createConference(const ActionContext &context, const RequestParamete
     }
 
     Conference conference;
-    conference.title = QStringLiteral("%1的视频会议").arg(context.user.name);
+    conference.title = title;
+    conference.passcode = passcode;
     conference.hostId = context.user.userId;
     conference.startMsecs = scheduled ? startMsecs : context.nowMsecs;
     conference.durationMsecs = rules.defaultDurationMsecs;

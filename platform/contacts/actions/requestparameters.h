@@ -35,6 +35,7 @@ public:
 
     explicit RequestParameters(const QString &text);
 
+    bool has(QLatin1String key) const { return m_object.contains(key); }
     /// The key's text, empty when it is absent.
     QString text(QLatin1String key) const;
     /// A whole number from 0 to the end of the year 9999 in milliseconds; nothing when the key is absent.

@@ -6,6 +6,7 @@
 #include "actions/actioncontext.h"
 #include "actions/answer.h"
 #include "actions/conferencequeries.h"
+#include "actions/conferencetexts.h"
 #include "actions/requestparameters.h"
 
 #include "core/conferencerules.h"
@@ -19,6 +20,8 @@ struct Change
     std::optional<qint64> startMsecs;
     std::optional<qint64> durationMsecs;
     std::optional<qint64> participantLimit;
+    std::optional<QString> title;
+    std::optional<QString> passcode;
 };
 
 /// A value that stays as it is is allowed, however it came about.
@@ -68,6 +71,8 @@ QJsonObject updateConference(const ActionContext &context, const RequestParamete
     change.startMsecs = parameters.number(JsonKey::StartTime);
     change.durationMsecs = parameters.number(JsonKey::Duration);
     change.participantLimit = parameters.number(JsonKey::ParticipantLimit);
+    change.title = requestedTitle(parameters);
+    change.passcode = requestedPasscode(parameters);
     if (!conference) {
         return answerWord(Outcome::NotFound);
     }
@@ -78,6 +83,12 @@ QJsonObject updateConference(const ActionContext &context, const RequestParamete
                                  change.durationMsecs.value_or(conference->durationMsecs));
     if (change.participantLimit) {
         context.conferences.setParticipantLimit(conference->id, static_cast<int>(*change.participantLimit));
+    }
+    if (change.title) {
+        context.conferences.setTitle(conference->id, *change.title);
+    }
+    if (change.passcode) {
+        context.conferences.setPasscode(conference->id, *change.passcode);
     }
     return answerConferences(Outcome::Ok, {*context.conferences.byId(conference->id, context.user.userId)},
                              context.nowMsecs);

@@ -10,6 +10,8 @@
 #include <QRandomGenerator>
 #include <QUuid>
 
+#include <algorithm>
+
 namespace {
 
 QString conferenceColumns()
@@ -24,6 +26,16 @@ QString conferenceQuery(const QLatin1String condition)
     return QStringLiteral("SELECT") + conferenceColumns() +
            QStringLiteral("FROM conference JOIN person ON person.user_id = conference.host_id ") + condition;
 }
+
+/// What is over of one person's; see ofUserSql() for the order of the tables.
+constexpr char EndedOfUser[] = "FROM participant"
+                               " CROSS JOIN conference ON conference.id = participant.conference_id"
+                               " CROSS JOIN person ON person.user_id = conference.host_id"
+                               " WHERE participant.user_id = ?"
+                               " AND participant.start_msecs > ? AND participant.start_msecs <= ?"
+                               " AND conference.start_msecs + duration_msecs <= ?";
+constexpr char Ended[] = "WHERE conference.start_msecs > ? AND conference.start_msecs <= ?"
+                         " AND conference.start_msecs + duration_msecs <= ?";
 
 Conference readConference(const Statement &row)
 {
@@ -81,16 +93,8 @@ QVector<Conference> ConferenceRepository::ofUser(const QString &userId, qint64 f
         .bind(fromMsecs - ConferenceRules::LongestMsecs)
         .bind(toMsecs)
         .bind(fromMsecs)
-        .bind(limit)
-        .run();
-    QVector<Conference> conferences;
-    while (query.next()) {
-        conferences.append(readConference(query));
-    }
-    for (Conference &conference : conferences) {
-        conference.participants = participants(conference.id, userId);
-    }
-    return conferences;
+        .bind(limit);
+    return readAll(query, userId);
 }
 
 QString ConferenceRepository::ofUserSql()
@@ -113,7 +117,58 @@ QVector<Conference> ConferenceRepository::startingAfter(qint64 fromMsecs, const 
     Statement query(m_database,
                     conferenceQuery(QLatin1String(
                         "WHERE conference.start_msecs > ? ORDER BY conference.start_msecs LIMIT ?")));
-    query.bind(fromMsecs).bind(limit).run();
+    return readAll(query.bind(fromMsecs).bind(limit), viewerId);
+}
+
+QVector<Conference> ConferenceRepository::endingAfter(qint64 nowMsecs, const QString &viewerId,
+                                                      int limit) const
+{
+    Statement query(m_database,
+                    conferenceQuery(QLatin1String("WHERE conference.start_msecs > ?"
+                                                  " AND conference.start_msecs + duration_msecs > ?"
+                                                  " ORDER BY conference.start_msecs LIMIT ?")));
+    query.bind(nowMsecs - ConferenceRules::LongestMsecs).bind(nowMsecs).bind(limit);
+    return readAll(query, viewerId);
+}
+
+QVector<Conference> ConferenceRepository::endedOfUser(const QString &userId, qint64 fromMsecs,
+                                                      qint64 nowMsecs, int limit) const
+{
+    Statement query(m_database, QStringLiteral("SELECT") + conferenceColumns() + QLatin1String(EndedOfUser) +
+                                    QStringLiteral(" ORDER BY participant.start_msecs DESC LIMIT ?"));
+    query.bind(userId).bind(fromMsecs).bind(nowMsecs).bind(nowMsecs).bind(limit);
+    return readAll(query, userId);
+}
+
+QVector<Conference> ConferenceRepository::ended(qint64 fromMsecs, qint64 nowMsecs, const QString &viewerId,
+                                                int limit) const
+{
+    Statement query(m_database, conferenceQuery(QLatin1String(Ended)) +
+                                    QStringLiteral(" ORDER BY conference.start_msecs DESC LIMIT ?"));
+    query.bind(fromMsecs).bind(nowMsecs).bind(nowMsecs).bind(limit);
+    return readAll(query, viewerId);
+}
+
+int ConferenceRepository::endedCountOfUser(const QString &userId, qint64 fromMsecs, qint64 nowMsecs,
+                                           int limit) const
+{
+    Statement query(m_database, QStringLiteral("SELECT count(*) FROM (SELECT 1 ") +
+                                    QLatin1String(EndedOfUser) + QStringLiteral(" LIMIT ?)"));
+    query.bind(userId).bind(fromMsecs).bind(nowMsecs).bind(nowMsecs).bind(limit).run().next();
+    return query.smallNumber(0);
+}
+
+int ConferenceRepository::endedCount(qint64 fromMsecs, qint64 nowMsecs, int limit) const
+{
+    Statement query(m_database, QStringLiteral("SELECT count(*) FROM (SELECT 1 FROM conference ") +
+                                    QLatin1String(Ended) + QStringLiteral(" LIMIT ?)"));
+    query.bind(fromMsecs).bind(nowMsecs).bind(nowMsecs).bind(limit).run().next();
+    return query.smallNumber(0);
+}
+
+QVector<Conference> ConferenceRepository::readAll(Statement &query, const QString &viewerId) const
+{
+    query.run();
     QVector<Conference> conferences;
     while (query.next()) {
         conferences.append(readConference(query));
@@ -195,6 +250,22 @@ void ConferenceRepository::setTimes(qint64 conferenceId, qint64 startMsecs, qint
         .run();
 }
 
+void ConferenceRepository::setTitle(qint64 conferenceId, const QString &title)
+{
+    Statement(m_database, QStringLiteral("UPDATE conference SET title = ? WHERE id = ?"))
+        .bind(title)
+        .bind(conferenceId)
+        .run();
+}
+
+void ConferenceRepository::setPasscode(qint64 conferenceId, const QString &passcode)
+{
+    Statement(m_database, QStringLiteral("UPDATE conference SET passcode = ? WHERE id = ?"))
+        .bind(passcode)
+        .bind(conferenceId)
+        .run();
+}
+
 void ConferenceRepository::setParticipantLimit(qint64 conferenceId, int limit)
 {
     Statement(m_database, QStringLiteral("UPDATE conference SET participant_limit = ? WHERE id = ?"))
@@ -267,12 +338,23 @@ QString ConferenceRepository::freeDialNumber() const
 
 QVector<Participant> ConferenceRepository::participants(qint64 conferenceId, const QString &viewerId) const
 {
+    QVector<Participant> participants = seats(conferenceId, viewerId);
+    participants.erase(std::remove_if(participants.begin(), participants.end(),
+                                      [](const Participant &participant) {
+                                          return participant.attendance == Attendance::Left;
+                                      }),
+                       participants.end());
+    return participants;
+}
+
+QVector<Participant> ConferenceRepository::seats(qint64 conferenceId, const QString &viewerId) const
+{
     Statement query(
         m_database,
         QStringLiteral("SELECT person.user_id, person.account, name, coalesce(remark_name, ''), attendance"
                        " FROM participant JOIN person ON person.user_id = participant.user_id"
                        " LEFT JOIN contact ON contact.owner_id = ? AND contact.person_id = person.user_id"
-                       " WHERE conference_id = ? AND attendance <> 2 ORDER BY place"));
+                       " WHERE conference_id = ? ORDER BY place"));
     query.bind(viewerId).bind(conferenceId).run();
     QVector<Participant> participants;
     while (query.next()) {

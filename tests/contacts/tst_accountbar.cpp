@@ -3,8 +3,6 @@
 
 #include "windowfixture.h"
 
-#include <QCheckBox>
-
 /// Who uses the application.
 class TestAccountBar : public ContactsWindowTest
 {
@@ -27,8 +25,7 @@ void TestAccountBar::loggingInAndOutChangesWhatIsShown()
     QCOMPARE(m_fixture->page(1)->table()->model()->rowCount(), 0);
     QCOMPARE(m_fixture->child<QComboBox>("account")->currentText(), QStringLiteral("未登录"));
     QVERIFY(!m_fixture->child<QPushButton>("logout")->isEnabled());
-    m_fixture->click("create");
-    QCOMPARE(m_fixture->told(), QStringLiteral("请先登录。"));
+    QVERIFY(!m_fixture->child<QPushButton>("create")->isEnabled());
     auto *account = m_fixture->child<QComboBox>("account");
     m_fixture->pick("account", account->findData(QStringLiteral("100002")));
     QCOMPARE(m_fixture->world->snapshot().value(QLatin1String("user")).toString(), QStringLiteral("100002"));
@@ -43,8 +40,6 @@ void TestAccountBar::theAccountsKindIsChanged()
     const QJsonObject me =
         m_fixture->world->snapshot().value(QLatin1String("people")).toArray().at(0).toObject();
     QCOMPARE(me.value(QLatin1String("kind")).toString(), QStringLiteral("free"));
-    m_fixture->child<QCheckBox>("elsewhere")->click();
-    QVERIFY(m_fixture->world->snapshot().value(QLatin1String("engagedElsewhere")).toBool());
 }
 
 QTEST_MAIN(TestAccountBar)

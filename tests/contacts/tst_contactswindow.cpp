@@ -8,9 +8,10 @@
 #include <lumo/lguiapplicationhelper.h>
 
 #include <QAccessible>
-#include <QCheckBox>
+#include <QAction>
 #include <QDir>
 #include <QLineEdit>
+#include <QMenu>
 
 /// What all pages of the window have in common.
 class TestContactsWindow : public ContactsWindowTest
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void comingUpForAProgramItLeavesTheFocusWhereOneTypes();
     void aNoticeStaysUntilItIsRead();
     void usersDoNotSeeWhatIsForDevelopers();
+    void tabGoesAsOneReads();
     void pictures_data();
     void pictures();
 };
@@ -32,15 +34,31 @@ void TestContactsWindow::everyButtonCanBeReachedWithTheKeyboard()
 {
     QTest::keyClick(m_fixture->window.get(), Qt::Key_F, Qt::ControlModifier);
     QCOMPARE(QApplication::focusWidget(), m_fixture->page(0)->filter());
+    m_fixture->world->ask(QStringLiteral("Join My Conference"));
+    m_fixture->follow();
     m_fixture->selectNumber("880100005");
-    QSet<QString> reached;
-    for (int step = 0; step < 30; ++step) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        reached.insert(QApplication::focusWidget()->objectName());
+    const auto reached = [] {
+        QSet<QString> names;
+        for (int step = 0; step < 30; ++step) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            names.insert(QApplication::focusWidget()->objectName());
+        }
+        return names;
+    };
+    const QSet<QString> inConference = reached();
+    for (const char *name : {"account", "kind", "logout", "developer", "scope", "ended", "leave",
+                             "copyCurrentNumber", "create", "start", "delete"}) {
+        QVERIFY2(inConference.contains(QString::fromLatin1(name)), name);
     }
-    for (const char *name : {"account", "kind", "logout", "elsewhere", "scope", "passcode", "join", "leave",
-                             "create", "start", "delete", "sample"}) {
-        QVERIFY2(reached.contains(QString::fromLatin1(name)), name);
+    m_fixture->click("leave");
+    m_fixture->pick("scope", 1);
+    m_fixture->follow();
+    m_fixture->selectNumber("880100002");
+    m_fixture->child<QLineEdit>("passcode")->setText(QStringLiteral("1"));
+    m_fixture->page(0)->filter()->setFocus();
+    const QSet<QString> outside = reached();
+    for (const char *name : {"passcode", "join"}) {
+        QVERIFY2(outside.contains(QString::fromLatin1(name)), name);
     }
 }
 
@@ -118,35 +136,81 @@ void TestContactsWindow::aNoticeStaysUntilItIsRead()
 
 void TestContactsWindow::usersDoNotSeeWhatIsForDevelopers()
 {
-    QVERIFY(m_fixture->child<QPushButton>("sample")->isVisible());
-    QVERIFY(m_fixture->child<QCheckBox>("elsewhere")->isVisible());
+    QVERIFY(m_fixture->child<QPushButton>("developer")->isVisible());
+    QMenu *menu = m_fixture->child<QPushButton>("developer")->menu();
+    QVERIFY(menu->actions().contains(m_fixture->child<QAction>("sample")));
+    QVERIFY(menu->actions().contains(m_fixture->child<QAction>("elsewhere")));
     // Who tries it out is asked before everything goes.
     m_fixture->world->admin.Reset();
-    m_fixture->click("sample");
+    m_fixture->child<QAction>("sample")->trigger();
     m_fixture->click("refuse");
     QTRY_VERIFY(m_fixture->window->findChild<QPushButton *>(QStringLiteral("refuse")) == nullptr);
     QVERIFY(m_fixture->world->snapshot().value(QLatin1String("people")).toArray().isEmpty());
-    m_fixture->click("sample");
+    m_fixture->child<QAction>("sample")->trigger();
     m_fixture->click("agree");
     QVERIFY(!m_fixture->world->snapshot().value(QLatin1String("people")).toArray().isEmpty());
+    QCOMPARE(m_fixture->told(), QStringLiteral("示例数据已恢复。"));
+    m_fixture->child<QAction>("elsewhere")->trigger();
+    QVERIFY(m_fixture->world->snapshot().value(QLatin1String("engagedElsewhere")).toBool());
+    m_fixture->world->admin.SetEngagedElsewhere(false);
+    m_fixture->follow();
+    QVERIFY(!m_fixture->child<QAction>("elsewhere")->isChecked());
     m_fixture->window = std::make_unique<ContactsWindow>(m_fixture->world->book, m_fixture->world->admin);
     m_fixture->window->show();
-    QVERIFY(!m_fixture->child<QPushButton>("sample")->isVisible());
-    QVERIFY(!m_fixture->child<QCheckBox>("elsewhere")->isVisible());
+    for (const char *name : {"developer", "sample", "elsewhere"}) {
+        QVERIFY(!m_fixture->window->findChild<QObject *>(QString::fromLatin1(name)));
+    }
+}
+
+void TestContactsWindow::tabGoesAsOneReads()
+{
+    m_fixture->world->ask(QStringLiteral("Join My Conference"));
+    m_fixture->follow();
+    m_fixture->pick("scope", 1);
+    m_fixture->child<QAbstractButton>("ended")->click();
+    m_fixture->selectNumber("880100005");
+    auto *first = m_fixture->child<QWidget>("account");
+    first->setFocus();
+    QVector<QWidget *> order;
+    for (QWidget *widget = first; order.size() < 40; widget = QApplication::focusWidget()) {
+        if (order.contains(widget)) {
+            break;
+        }
+        order.append(widget);
+        QTest::keyClick(widget, Qt::Key_Tab);
+    }
+    QVERIFY(order.size() > 12);
+    // What stands beside something else is read from the left.
+    const auto place = [this](const QWidget *widget) {
+        return QRect(widget->mapTo(m_fixture->window.get(), QPoint()), widget->size());
+    };
+    for (int i = 1; i < order.size(); ++i) {
+        const QRect before = place(order.at(i - 1));
+        const QRect here = place(order.at(i));
+        const bool isBeside = here.top() < before.bottom() && before.top() < here.bottom();
+        const bool isInside = order.at(i - 1)->parentWidget()->isAncestorOf(order.at(i)) && !isBeside;
+        QVERIFY2(
+            isBeside ? here.left() > before.left() : (here.top() >= before.bottom() || isInside),
+            qPrintable(order.at(i - 1)->objectName() + QStringLiteral(" to ") + order.at(i)->objectName()));
+    }
 }
 
 void TestContactsWindow::pictures_data()
 {
-    addColumns<int, int, bool>({"theme", "tab", "loggedIn"});
+    addColumns<int, int, QString>({"theme", "tab", "state"});
     const QString scale = qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1"));
     for (const int theme : {int(LGuiApplicationHelper::LightType), int(LGuiApplicationHelper::DarkType)}) {
         const QString name =
             (theme == LGuiApplicationHelper::LightType ? QStringLiteral("light-") : QStringLiteral("dark-")) +
             scale;
-        QTest::newRow(qPrintable(QStringLiteral("conferences-") + name)) << theme << 0 << true;
-        QTest::newRow(qPrintable(QStringLiteral("people-") + name)) << theme << 1 << true;
-        QTest::newRow(qPrintable(QStringLiteral("reminders-") + name)) << theme << 2 << true;
-        QTest::newRow(qPrintable(QStringLiteral("empty-") + name)) << theme << 0 << false;
+        QTest::newRow(qPrintable(QStringLiteral("conferences-") + name))
+            << theme << 0 << QStringLiteral("selected");
+        QTest::newRow(qPrintable(QStringLiteral("people-") + name)) << theme << 1 << QString();
+        QTest::newRow(qPrintable(QStringLiteral("reminders-") + name)) << theme << 2 << QString();
+        QTest::newRow(qPrintable(QStringLiteral("empty-") + name)) << theme << 0 << QStringLiteral("logout");
+        QTest::newRow(qPrintable(QStringLiteral("meeting-") + name))
+            << theme << 0 << QStringLiteral("meeting");
+        QTest::newRow(qPrintable(QStringLiteral("narrow-") + name)) << theme << 0 << QStringLiteral("narrow");
     }
 }
 
@@ -154,20 +218,28 @@ void TestContactsWindow::pictures()
 {
     QFETCH(int, theme);
     QFETCH(int, tab);
-    QFETCH(bool, loggedIn);
+    QFETCH(QString, state);
     auto *helper = LGuiApplicationHelper::instance();
     helper->setPaletteType(static_cast<LGuiApplicationHelper::ColorType>(theme));
     m_fixture->world->admin.AddConference(
         QStringLiteral("1"),
         QStringLiteral("一个标题非常非常长的会议，长得任何一列都放不下，所以要省略").repeated(2),
         QStringLiteral("100001"), m_fixture->world->nowMsecs + 86400000LL * 3, 1800000, 5, QString(), {});
-    if (!loggedIn) {
+    if (state == QLatin1String("logout")) {
         m_fixture->world->admin.Logout();
+    } else if (state == QLatin1String("meeting")) {
+        m_fixture->world->ask(QStringLiteral("Join My Conference"));
+    } else if (state == QLatin1String("narrow")) {
+        m_fixture->window->resize(m_fixture->window->minimumSizeHint().width(), 480);
     }
     m_fixture->follow();
-    m_fixture->window->findChild<QTabWidget *>()->setCurrentIndex(tab);
-    if (tab == 0 && loggedIn) {
-        m_fixture->selectNumber("880100001");
+    m_fixture->tabs()->setCurrentIndex(tab);
+    if (state == QLatin1String("selected")) {
+        m_fixture->selectNumber("880100005");
+    } else if (state == QLatin1String("meeting")) {
+        m_fixture->pick("scope", 1);
+        m_fixture->child<QAbstractButton>("ended")->click();
+        m_fixture->click("copyCurrentNumber");
     }
     QCoreApplication::processEvents();
     const QImage picture = m_fixture->window->grab().toImage();

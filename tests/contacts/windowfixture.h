@@ -11,6 +11,9 @@
 #include "window/contactswindow.h"
 #include "window/tablepage.h"
 
+#include <lumo/lstyle.h>
+
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
@@ -24,7 +27,8 @@
 struct WindowFixture
 {
     explicit WindowFixture(ContactsWindow::Tools tools = ContactsWindow::Tools::ForDevelopers)
-        : log(std::make_unique<LogCapture>())
+        : isDressed(dress())
+        , log(std::make_unique<LogCapture>())
         , world(std::make_unique<SampleWorld>())
         , window(std::make_unique<ContactsWindow>(world->book, world->admin, tools))
     {
@@ -73,6 +77,17 @@ struct WindowFixture
     }
     QString told() const { return child<QLabel>("told")->text(); }
 
+    /// The application's own style, as long as the program runs.
+    static bool dress()
+    {
+        static const bool done = [] {
+            QApplication::setStyle(new LStyle);
+            return true;
+        }();
+        return done;
+    }
+
+    const bool isDressed;
     std::unique_ptr<LogCapture> log;
     std::unique_ptr<SampleWorld> world;
     std::unique_ptr<ContactsWindow> window;

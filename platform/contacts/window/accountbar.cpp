@@ -11,8 +11,7 @@
 #include <QLabel>
 #include <QSignalBlocker>
 
-AccountBar::AccountBar(ContactsBook &book, Administration &administration, Elsewhere elsewhere,
-                       QWidget *parent)
+AccountBar::AccountBar(ContactsBook &book, Administration &administration, QWidget *parent)
     : QWidget(parent)
     , m_book(book)
     , m_administration(administration)
@@ -20,17 +19,14 @@ AccountBar::AccountBar(ContactsBook &book, Administration &administration, Elsew
     , m_account(new QComboBox)
     , m_logout(new QPushButton(QStringLiteral("退出登录(&O)")))
     , m_kind(new QComboBox)
-    , m_elsewhere(new QCheckBox(QStringLiteral("正在其他设备上开会(&E)")))
 {
     addControls();
-    m_elsewhere->setHidden(elsewhere == Elsewhere::Hidden);
     connect(m_account, QOverload<int>::of(&QComboBox::activated), this, &AccountBar::loginSelected);
     connect(m_logout, &QPushButton::clicked, &m_administration, &Administration::Logout);
     connect(m_kind, QOverload<int>::of(&QComboBox::activated), this, [this] {
         m_administration.SetAccountKind(m_account->currentData().toString(),
                                         m_kind->currentData().toString());
     });
-    connect(m_elsewhere, &QCheckBox::clicked, &m_administration, &Administration::SetEngagedElsewhere);
     connect(&m_book, &ContactsBook::changedLately, this, &AccountBar::reload);
     reload();
 }
@@ -47,7 +43,6 @@ void AccountBar::addControls()
     m_kind->setAccessibleName(QStringLiteral("账号类型"));
     m_kind->addItem(QStringLiteral("付费"), QStringLiteral("paying"));
     m_kind->addItem(QStringLiteral("免费"), QStringLiteral("free"));
-    m_elsewhere->setObjectName(QStringLiteral("elsewhere"));
     auto *label = new QLabel(QStringLiteral("账号(&A)"));
     label->setBuddy(m_account);
     auto *layout = new QHBoxLayout(this);
@@ -57,7 +52,6 @@ void AccountBar::addControls()
     layout->addWidget(m_kind);
     layout->addWidget(m_logout);
     layout->addStretch(1);
-    layout->addWidget(m_elsewhere);
 }
 
 void AccountBar::loginSelected()
@@ -75,7 +69,6 @@ void AccountBar::reload()
         m_kind->setCurrentIndex(user && user->kind == AccountKind::Free ? 1 : 0);
         m_kind->setEnabled(user.has_value());
         m_logout->setEnabled(user.has_value());
-        m_elsewhere->setChecked(m_book.session().isEngagedElsewhere());
     } catch (const std::exception &error) {
         qWarning("The accounts cannot be shown: %s", error.what());
         m_book.noteFailure(error);

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QPushButton>
 
@@ -11,19 +10,14 @@ class AccountModel;
 class Administration;
 class ContactsBook;
 
-/// Who uses the application: log in, log out, the account's kind, and whether the user is in a conference on
-/// another device.
+/// Who uses the application: log in, log out and the account's kind.
 class AccountBar : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Whether one can say that the user is in a conference on another device.
-    enum class Elsewhere { Hidden, Shown };
-
     /// Both must outlive it.
-    AccountBar(ContactsBook &book, Administration &administration, Elsewhere elsewhere,
-               QWidget *parent = nullptr);
+    AccountBar(ContactsBook &book, Administration &administration, QWidget *parent = nullptr);
 
     void reload();
 
@@ -37,5 +31,4 @@ private:
     QComboBox *m_account;
     QPushButton *m_logout;
     QComboBox *m_kind;
-    QCheckBox *m_elsewhere;
 };

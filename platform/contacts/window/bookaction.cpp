@@ -8,9 +8,13 @@
 
 #include <QJsonDocument>
 
-QString performAction(ContactsBook &book, const QString &action, const QJsonObject &parameters)
+QJsonObject askBook(ContactsBook &book, const QString &action, const QJsonObject &parameters)
 {
     const QString text = QString::fromUtf8(QJsonDocument(parameters).toJson(QJsonDocument::Compact));
-    const QByteArray answer = book.perform(action, text).toUtf8();
-    return QJsonDocument::fromJson(answer).object().value(JsonKey::Ret).toString();
+    return QJsonDocument::fromJson(book.perform(action, text).toUtf8()).object();
+}
+
+QString performAction(ContactsBook &book, const QString &action, const QJsonObject &parameters)
+{
+    return askBook(book, action, parameters).value(JsonKey::Ret).toString();
 }

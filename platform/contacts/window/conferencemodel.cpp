@@ -9,11 +9,14 @@
 
 #include <lumo/plaintooltip.h>
 
-#include <QColor>
 #include <QDateTime>
+#include <QFont>
+#include <QGuiApplication>
+#include <QPalette>
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace {
 
@@ -25,7 +28,7 @@ constexpr int WholeSize = 1000;
 struct StateLook
 {
     QString text;
-    QColor color; ///< invalid: the table's own
+    QColor color; ///< of the dot before it
 };
 
 StateLook lookOf(ConferenceState state)
@@ -38,7 +41,7 @@ StateLook lookOf(ConferenceState state)
     case ConferenceState::Ended:
         break;
     }
-    return {QStringLiteral("已结束"), QColor()};
+    return {QStringLiteral("已结束"), QColor(128, 128, 128)};
 }
 
 QString headerText(int column)
@@ -59,9 +62,31 @@ QString hostName(const Conference &conference)
     return {};
 }
 
-QString startText(qint64 startMsecs)
+/// The day is what one looks for first: the near ones have names.
+QString startText(qint64 startMsecs, qint64 nowMsecs)
 {
-    return QDateTime::fromMSecsSinceEpoch(startMsecs).toString(QStringLiteral("yyyy-MM-dd hh:mm"));
+    const QDateTime start = QDateTime::fromMSecsSinceEpoch(startMsecs);
+    const qint64 days = QDateTime::fromMSecsSinceEpoch(nowMsecs).date().daysTo(start.date());
+    if (days == 0) {
+        return start.toString(QStringLiteral("今天 hh:mm"));
+    }
+    return start.toString(days == 1 ? QStringLiteral("明天 hh:mm") : QStringLiteral("yyyy-MM-dd hh:mm"));
+}
+
+/// A veil of the accent colour that leaves texts legible in both themes.
+QColor todaysGround()
+{
+    constexpr qreal veil = 0.16;
+    QColor color = QGuiApplication::palette().color(QPalette::Highlight);
+    color.setAlphaF(veil);
+    return color;
+}
+
+QVariant boldFont()
+{
+    QFont font;
+    font.setBold(true);
+    return font;
 }
 
 QString participantNames(const Conference &conference)
@@ -81,9 +106,11 @@ bool hasSameRows(const QVector<Conference> &left, const QVector<Conference> &rig
 
 } // namespace
 
-ConferenceModel::ConferenceModel(ContactsBook &book, QObject *parent)
+ConferenceModel::ConferenceModel(ContactsBook &book, Span span, QObject *parent)
     : QAbstractTableModel(parent)
     , m_book(book)
+    , m_span(span)
+    , m_isActive(span == Span::Coming)
 {
     m_clock.setSingleShot(true);
     connect(&m_clock, &QTimer::timeout, this, &ConferenceModel::followClock);
@@ -96,6 +123,15 @@ void ConferenceModel::setScope(Scope scope)
     m_scope = scope;
     m_pages = 1;
     reload();
+}
+
+void ConferenceModel::setActive(bool active)
+{
+    if (active != m_isActive) {
+        m_isActive = active;
+        m_pages = 1;
+        reload();
+    }
 }
 
 void ConferenceModel::setReading(Reading reading)
@@ -113,7 +149,7 @@ int ConferenceModel::rowLimit() const
 
 bool ConferenceModel::canFetchMore(const QModelIndex &parent) const
 {
-    return !parent.isValid() && m_conferences.size() == rowLimit();
+    return m_isActive && !parent.isValid() && m_conferences.size() == rowLimit();
 }
 
 void ConferenceModel::fetchMore(const QModelIndex &parent)
@@ -138,7 +174,7 @@ void ConferenceModel::fetchMore(const QModelIndex &parent)
 
 void ConferenceModel::reload()
 {
-    QVector<Conference> conferences = load(rowLimit());
+    QVector<Conference> conferences = m_isActive ? load(rowLimit()) : QVector<Conference>();
     // Rows that stay keep their selection.
     if (hasSameRows(conferences, m_conferences)) {
         m_conferences = std::move(conferences);
@@ -177,10 +213,14 @@ QVariant ConferenceModel::data(const QModelIndex &index, int role) const
     case Qt::ToolTipRole:
         return plainToolTip(index.column() == People ? participantNames(conference)
                                                      : display(conference, index.column()));
-    case Qt::ForegroundRole: {
-        const QColor color = index.column() == State ? lookOf(state).color : QColor();
-        return color.isValid() ? legibleInLists(color) : QVariant();
-    }
+    case Qt::DecorationRole:
+        return index.column() == State ? legibleInLists(lookOf(state).color) : QVariant();
+    case Qt::BackgroundRole:
+        return isToday(conference) ? todaysGround() : QVariant();
+    case Qt::FontRole:
+        return index.column() == Start && isToday(conference) ? boldFont() : QVariant();
+    case ConferenceRole:
+        return QVariant::fromValue(conference);
     case NumberRole:
         return conference.dialNumber;
     case ConferenceIdRole:
@@ -206,15 +246,33 @@ QVariant ConferenceModel::headerData(int section, Qt::Orientation orientation, i
     return headerText(section);
 }
 
+QString ConferenceModel::userId() const
+{
+    const std::optional<Person> user = m_book.session().user();
+    return user ? user->userId : QString();
+}
+
+bool ConferenceModel::isToday(const Conference &conference) const
+{
+    const auto dayOf = [](qint64 msecs) {
+        return QDateTime::fromMSecsSinceEpoch(msecs).date();
+    };
+    return m_span == Span::Coming && dayOf(conference.startMsecs) == dayOf(m_book.nowMsecs());
+}
+
 QVector<Conference> ConferenceModel::load(int limit) const
 {
-    const qint64 from = m_book.nowMsecs() - LookBackMsecs;
+    const qint64 now = m_book.nowMsecs();
+    const ConferenceRepository &conferences = m_book.conferences();
     try {
-        const std::optional<Person> user = m_book.session().user();
-        const QString userId = user ? user->userId : QString();
+        const QString viewer = userId();
+        if (m_span == Span::Ended) {
+            return m_scope == Scope::Mine ? conferences.endedOfUser(viewer, now - LookBackMsecs, now, limit)
+                                          : conferences.ended(now - LookBackMsecs, now, viewer, limit);
+        }
         return m_scope == Scope::Mine
-                   ? m_book.conferences().ofUser(userId, from, std::numeric_limits<qint64>::max(), limit)
-                   : m_book.conferences().startingAfter(from, userId, limit);
+                   ? conferences.ofUser(viewer, now, std::numeric_limits<qint64>::max(), limit)
+                   : conferences.endingAfter(now, viewer, limit);
     } catch (const std::exception &error) {
         qWarning("The conferences cannot be shown: %s", error.what());
         m_book.noteFailure(error);
@@ -222,8 +280,32 @@ QVector<Conference> ConferenceModel::load(int limit) const
     }
 }
 
+int ConferenceModel::endedCount() const
+{
+    const qint64 now = m_book.nowMsecs();
+    const qint64 from = now - LookBackMsecs;
+    try {
+        return m_scope == Scope::Mine
+                   ? m_book.conferences().endedCountOfUser(userId(), from, now, CountLimit + 1)
+                   : m_book.conferences().endedCount(from, now, CountLimit + 1);
+    } catch (const std::exception &error) {
+        qWarning("The conferences cannot be counted: %s", error.what());
+        m_book.noteFailure(error);
+        return 0;
+    }
+}
+
 void ConferenceModel::followClock()
 {
+    const qint64 now = m_book.nowMsecs();
+    const bool hasEnded =
+        m_span == Span::Coming && std::any_of(m_conferences.cbegin(), m_conferences.cend(),
+                                              [now](const Conference &row) { return row.endMsecs() <= now; });
+    if (hasEnded) {
+        reload();
+        Q_EMIT someEnded();
+        return;
+    }
     if (!m_conferences.isEmpty()) {
         Q_EMIT dataChanged(index(0, 0), index(m_conferences.size() - 1, ColumnCount - 1));
     }
@@ -255,7 +337,7 @@ QString ConferenceModel::display(const Conference &conference, int column) const
     case Number:
         return conference.dialNumber;
     case Start:
-        return startText(conference.startMsecs);
+        return startText(conference.startMsecs, m_book.nowMsecs());
     case Duration:
         return QStringLiteral("%1分钟").arg(conference.durationMsecs / MinuteMsecs);
     case People:
@@ -263,7 +345,7 @@ QString ConferenceModel::display(const Conference &conference, int column) const
     case Host:
         return hostName(conference);
     case Passcode:
-        return conference.passcode;
+        return conference.passcode.isEmpty() ? QString() : QStringLiteral("需要");
     default:
         return {};
     }

@@ -10,9 +10,12 @@
 
 class ContactsBook;
 
+Q_DECLARE_METATYPE(Conference)
+
 /**
- * Conferences as a table. Follows the database, and the clock: a row changes at the moment its conference
- * starts or ends. On the GUI thread.
+ * Conferences as a table: either those that run or come, by their starts, or those that have ended within
+ * thirty days, the latest first. Follows the database, and the clock: a row changes at the moment its
+ * conference starts, and goes when it ends. Shows no passcode. On the GUI thread.
  */
 class ConferenceModel : public QAbstractTableModel
 {
@@ -23,19 +26,26 @@ public:
     enum Role {
         NumberRole = Qt::UserRole, ///< the dial number, also where another column is asked
         ConferenceIdRole,
-        StateRole,  ///< a ConferenceState as int
-        SortRole,   ///< what a column is sorted by
-        SearchRole, ///< what a filter looks into
+        ConferenceRole, ///< the Conference
+        StateRole,      ///< a ConferenceState as int
+        SortRole,       ///< what a column is sorted by
+        SearchRole,     ///< what a filter looks into
     };
+    enum class Span { Coming, Ended };
     enum class Scope { Mine, Everybody };
     /// In the order of their starts they are read page by page, as far as somebody scrolls. Whoever filters
     /// or sorts otherwise wants the first thousand.
     enum class Reading { Pages, Whole };
 
     /// @p book must outlive it.
-    explicit ConferenceModel(ContactsBook &book, QObject *parent = nullptr);
+    explicit ConferenceModel(ContactsBook &book, Span span = Span::Coming, QObject *parent = nullptr);
 
     void setScope(Scope scope);
+    /// Without it there are no rows, and nothing is read for them.
+    void setActive(bool active);
+    /// How many have ended, without reading them: at most CountLimit + 1.
+    int endedCount() const;
+    static constexpr int CountLimit = 999;
     void setReading(Reading reading);
     void reload();
 
@@ -46,6 +56,10 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+Q_SIGNALS:
+    /// A row went because its conference has ended.
+    void someEnded();
+
 private:
     QVector<Conference> load(int limit) const;
     int rowLimit() const;
@@ -53,8 +67,12 @@ private:
     void waitForNextChange();
     QString display(const Conference &conference, int column) const;
     QVariant sortKey(const Conference &conference, int column) const;
+    QString userId() const;
+    bool isToday(const Conference &conference) const;
 
     ContactsBook &m_book;
+    const Span m_span;
+    bool m_isActive = true;
     Scope m_scope = Scope::Mine;
     Reading m_reading = Reading::Pages;
     int m_pages = 1;

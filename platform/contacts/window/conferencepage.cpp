@@ -3,21 +3,33 @@
 
 #include "window/conferencepage.h"
 
-#include "core/outcometext.h"
-#include "window/question.h"
+#include "window/conferencecolumns.h"
+#include "window/conferencecommands.h"
+#include "window/currentconference.h"
+#include "window/endedconferences.h"
 
-#include "book/administration.h"
-#include "book/contactsbook.h"
-#include "core/conference.h"
-#include "core/jsonkeys.h"
-#include "window/calendardialog.h"
+#include "actions/conferencetexts.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
+#include <lumo/lsuggestbutton.h>
+
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include <QSortFilterProxyModel>
+#include <QToolButton>
+
+namespace {
+
+std::optional<Conference> selectedIn(const QTableView &table)
+{
+    const QModelIndexList rows = table.selectionModel()->selectedRows();
+    if (rows.isEmpty()) {
+        return std::nullopt;
+    }
+    return rows.constFirst().data(ConferenceModel::ConferenceRole).value<Conference>();
+}
+
+} // namespace
 
 ConferencePage::ConferencePage(ConferenceModel *model, ContactsBook &book, Administration &administration,
                                QWidget *parent)
@@ -30,20 +42,22 @@ ConferencePage::ConferencePage(ConferenceModel *model, QSortFilterProxyModel *so
     : TablePage(sorted, ConferenceModel::NumberRole, ConferenceModel::Start, parent)
     , m_model(model)
     , m_sorted(sorted)
-    , m_book(book)
-    , m_administration(administration)
+    , m_commands(new ConferenceCommands(book, administration, this))
+    , m_current(new CurrentConference(book, this))
+    , m_ended(new EndedConferences(book, this))
     , m_scope(new QComboBox)
     , m_passcode(new QLineEdit)
-    , m_join(addButton(QStringLiteral("join"), QStringLiteral("加入(&J)")))
-    , m_leave(addButton(QStringLiteral("leave"), QStringLiteral("离开(&L)")))
-    , m_create(addButton(QStringLiteral("create"), QStringLiteral("发起会议(&N)")))
-    , m_start(addButton(QStringLiteral("start"), QStringLiteral("开始(&S)")))
-    , m_end(addButton(QStringLiteral("end"), QStringLiteral("结束(&T)")))
-    , m_delete(addButton(QStringLiteral("delete"), QStringLiteral("取消会议(&D)")))
-    , m_copyNumber(
-          addMenuEntry(QStringLiteral("copyNumber"), QStringLiteral("复制会议号(&C)"), QKeySequence::Copy))
-    , m_export(addMenuEntry(QStringLiteral("export"), QStringLiteral("导出日历文件(&X)…"),
-                            QKeySequence(QStringLiteral("Ctrl+E"))))
+{
+    sortAndFilter();
+    arrange();
+    addMenus();
+    setTabOrders();
+    connectControls();
+    chooseSelected();
+    showHint();
+}
+
+void ConferencePage::sortAndFilter()
 {
     m_model->setParent(this);
     m_sorted->setParent(this);
@@ -53,127 +67,132 @@ ConferencePage::ConferencePage(ConferenceModel *model, QSortFilterProxyModel *so
     m_sorted->setFilterRole(ConferenceModel::SearchRole);
     m_sorted->setFilterKeyColumn(0);
     m_sorted->setFilterCaseSensitivity(Qt::CaseInsensitive);
-    addControls();
-    addMenu();
-    connectControls();
-    showWhatIsPossible();
+    table()->sortByColumn(ConferenceModel::Start, Qt::AscendingOrder);
 }
 
-QPushButton *ConferencePage::addButton(const QString &name, const QString &text)
+void ConferencePage::arrange()
 {
-    auto *button = new QPushButton(text);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    lowerRow()->addWidget(button);
-    return button;
-}
-
-QAction *ConferencePage::addMenuEntry(const QString &name, const QString &text, const QKeySequence &shortcut)
-{
-    auto *entry = new QAction(text, table());
-    entry->setObjectName(name);
-    entry->setShortcut(shortcut);
-    entry->setShortcutContext(Qt::WidgetShortcut); // Ctrl+C in a field is the field's
-    table()->addAction(entry);
-    return entry;
-}
-
-void ConferencePage::addMenu()
-{
-    // Also opened with the menu key.
-    table()->setContextMenuPolicy(Qt::ActionsContextMenu);
-    connect(m_copyNumber, &QAction::triggered, this, [this] {
-        QGuiApplication::clipboard()->setText(selected(ConferenceModel::NumberRole).toString());
-        Q_EMIT told(QStringLiteral("已复制会议号。"));
-    });
-    connect(m_export, &QAction::triggered, this, [this] {
-        askForCalendarFile(this, m_book, selected(ConferenceModel::NumberRole).toString(),
-                           [this](const QString &text) { Q_EMIT told(text); });
-    });
-}
-
-void ConferencePage::addControls()
-{
+    table()->setAccessibleName(QStringLiteral("会议列表"));
+    arrangeConferenceColumns(table());
     m_scope->setObjectName(QStringLiteral("scope"));
     m_scope->setAccessibleName(QStringLiteral("显示哪些会议"));
     m_scope->addItems({QStringLiteral("我的会议"), QStringLiteral("全部会议")});
     upperRow()->addWidget(m_scope);
+    auto *column = static_cast<QVBoxLayout *>(layout());
+    column->insertWidget(0, m_current);
+    column->insertWidget(column->indexOf(table()) + 1, m_ended);
+
     m_passcode->setObjectName(QStringLiteral("passcode"));
     m_passcode->setAccessibleName(QStringLiteral("会议密码"));
     m_passcode->setPlaceholderText(QStringLiteral("会议密码"));
-    m_passcode->setMaxLength(20);
+    m_passcode->setEchoMode(QLineEdit::Password);
+    m_passcode->setMaxLength(MaxPasscodeLength);
     m_passcode->setMaximumWidth(120);
-    lowerRow()->insertWidget(0, m_passcode);
+    addButton(new LSuggestButton, m_commands->create());
     lowerRow()->addStretch(1);
+    lowerRow()->addWidget(m_passcode);
+    for (QAction *action :
+         {m_commands->join(), m_commands->start(), m_commands->end(), m_commands->cancel()}) {
+        addButton(new QPushButton, action);
+    }
+}
 
-    table()->setAccessibleName(QStringLiteral("会议列表"));
-    table()->setHint(QStringLiteral("还没有会议。"));
-    QHeaderView *header = table()->horizontalHeader();
-    header->setSectionResizeMode(QHeaderView::ResizeToContents);
-    header->setSectionResizeMode(ConferenceModel::Title, QHeaderView::Stretch);
-    header->setSectionResizeMode(ConferenceModel::Host, QHeaderView::Interactive);
-    table()->sortByColumn(ConferenceModel::Start, Qt::AscendingOrder);
+void ConferencePage::addButton(QPushButton *button, QAction *action)
+{
+    button->setObjectName(action->objectName());
+    button->setText(action->text());
+    button->setAutoDefault(false);
+    button->setEnabled(action->isEnabled());
+    connect(button, &QPushButton::clicked, action, &QAction::trigger);
+    connect(action, &QAction::changed, button, [button, action] { button->setEnabled(action->isEnabled()); });
+    lowerRow()->addWidget(button);
+}
+
+void ConferencePage::addMenus()
+{
+    auto *separator = new QAction(this);
+    separator->setSeparator(true);
+    for (HintedTable *view : {table(), m_ended->table()}) {
+        // Also opened with the menu key.
+        view->setContextMenuPolicy(Qt::ActionsContextMenu);
+        view->addActions({m_commands->join(), m_commands->start(), m_commands->end(), m_commands->cancel(),
+                          separator, m_commands->copyNumber(), m_commands->exportCalendar()});
+    }
+}
+
+void ConferencePage::setTabOrders()
+{
+    // As one reads: from above, and from the left.
+    QWidget *last = m_current;
+    const auto next = [&last](QWidget *widget) {
+        setTabOrder(last, widget);
+        last = widget;
+    };
+    for (const char *name : {"copyCurrentNumber", "leave"}) {
+        next(m_current->findChild<QPushButton *>(QLatin1String(name)));
+    }
+    for (QWidget *widget :
+         {static_cast<QWidget *>(filter()), static_cast<QWidget *>(m_scope), static_cast<QWidget *>(table()),
+          static_cast<QWidget *>(m_ended->disclosure()), static_cast<QWidget *>(m_ended->table())}) {
+        next(widget);
+    }
+    for (int i = 0; i < lowerRow()->count(); ++i) {
+        if (QWidget *widget = lowerRow()->itemAt(i)->widget()) {
+            next(widget);
+        }
+    }
 }
 
 void ConferencePage::connectControls()
 {
     connect(m_scope, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
-        m_model->setScope(index == 0 ? ConferenceModel::Scope::Mine : ConferenceModel::Scope::Everybody);
+        const auto scope = index == 0 ? ConferenceModel::Scope::Mine : ConferenceModel::Scope::Everybody;
+        m_model->setScope(scope);
+        m_ended->setScope(scope);
+        showHint();
     });
     connect(filter(), &QLineEdit::textChanged, this, [this](const QString &text) {
         m_sorted->setFilterFixedString(text);
+        m_ended->setFilter(text);
         readEnough();
+        showHint();
     });
     connect(table()->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
             &ConferencePage::readEnough);
-    connect(this, &TablePage::selectionChanged, this, &ConferencePage::showWhatIsPossible);
-    connect(m_model, &QAbstractItemModel::dataChanged, this, &ConferencePage::showWhatIsPossible);
-    connect(this, &TablePage::activated, this, &ConferencePage::join);
-    connect(m_passcode, &QLineEdit::returnPressed, this, &ConferencePage::join);
-    connect(m_join, &QPushButton::clicked, this, &ConferencePage::join);
-    connect(m_leave, &QPushButton::clicked, this, [this] { perform(QStringLiteral("Exit Conference"), {}); });
-    connect(m_create, &QPushButton::clicked, this,
-            [this] { perform(QStringLiteral("Create Conference"), {}); });
-    connect(m_start, &QPushButton::clicked, this, [this] { setState(QStringLiteral("running")); });
-    connect(m_end, &QPushButton::clicked, this, [this] { setState(QStringLiteral("ended")); });
-    connect(m_delete, &QPushButton::clicked, this, [this] {
-        // What is asked about, whatever is selected when the answer comes.
-        const QString conferenceId = selected(ConferenceModel::ConferenceIdRole).toString();
-        askFirst(this,
-                 QStringLiteral("要取消会议 %1 吗？已邀请的成员也将看不到它。")
-                     .arg(selected(ConferenceModel::NumberRole).toString()),
-                 QStringLiteral("取消会议"), [this, conferenceId] {
-                     perform(QStringLiteral("Delete Conference"), {{JsonKey::ConferenceId, conferenceId}});
-                 });
+    connect(this, &TablePage::selectionChanged, this, [this] {
+        if (selectedIn(*table())) {
+            m_ended->table()->clearSelection(); // one conference is chosen, in one of the tables
+        }
+        chooseSelected();
     });
+    connect(m_ended->table()->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        if (selectedIn(*m_ended->table())) {
+            table()->clearSelection();
+        }
+        chooseSelected();
+    });
+    connect(m_model, &QAbstractItemModel::dataChanged, this, &ConferencePage::chooseSelected);
+    connect(m_model, &ConferenceModel::someEnded, m_ended, &EndedConferences::reload);
+    connect(m_model, &ConferenceModel::someEnded, m_current, &CurrentConference::reload);
+    connect(m_commands, &ConferenceCommands::told, this, &ConferencePage::told);
+    connect(m_current, &CurrentConference::told, this, &ConferencePage::told);
+    connect(m_commands, &ConferenceCommands::refreshed, this, [this] {
+        m_passcode->setVisible(m_commands->isPasscodeNeeded());
+        showHint();
+    });
+    connect(m_commands, &ConferenceCommands::joinTried, m_passcode, &QLineEdit::clear);
+    connect(m_passcode, &QLineEdit::textChanged, m_commands, &ConferenceCommands::setPasscode);
+    connect(m_passcode, &QLineEdit::returnPressed, m_commands->join(), &QAction::trigger);
+    connect(this, &TablePage::activated, m_commands->join(), &QAction::trigger);
+    auto *column = static_cast<QVBoxLayout *>(layout());
+    connect(m_ended, &EndedConferences::unfolded, this,
+            [this, column](bool open) { column->setStretchFactor(m_ended, open ? 1 : 0); });
 }
 
-void ConferencePage::perform(const QString &action, const QJsonObject &parameters)
+void ConferencePage::chooseSelected()
 {
-    // By the same way as the assistant's requests, so that what can be tried here is what happens there.
-    const QString text = QString::fromUtf8(QJsonDocument(parameters).toJson(QJsonDocument::Compact));
-    const QJsonObject answer = QJsonDocument::fromJson(m_book.perform(action, text).toUtf8()).object();
-    Q_EMIT told(outcomeText(answer.value(JsonKey::Ret).toString()));
-}
-
-void ConferencePage::join()
-{
-    const QVariant number = selected(ConferenceModel::NumberRole);
-    if (!number.isValid()) {
-        return;
-    }
-    perform(QStringLiteral("Join Conference"),
-            {{JsonKey::ConferenceId, number.toString()}, {JsonKey::Password, m_passcode->text()}});
-    m_passcode->clear();
-}
-
-void ConferencePage::setState(const QString &state)
-{
-    const QVariant number = selected(ConferenceModel::NumberRole);
-    if (number.isValid() && m_administration.SetConferenceState(number.toString(), state)) {
-        Q_EMIT told(state == QLatin1String("ended") ? QStringLiteral("会议已结束。")
-                                                    : QStringLiteral("会议已开始。"));
-    }
+    const std::optional<Conference> coming = selectedIn(*table());
+    m_commands->choose(coming ? coming : selectedIn(*m_ended->table()));
 }
 
 void ConferencePage::readEnough()
@@ -185,14 +204,16 @@ void ConferencePage::readEnough()
     m_model->setReading(isInReadingOrder ? ConferenceModel::Reading::Pages : ConferenceModel::Reading::Whole);
 }
 
-void ConferencePage::showWhatIsPossible()
+void ConferencePage::showHint()
 {
-    const QVariant state = selected(ConferenceModel::StateRole);
-    const bool isRunning = state.isValid() && state.toInt() == static_cast<int>(ConferenceState::Running);
-    m_join->setEnabled(state.isValid());
-    m_delete->setEnabled(state.isValid());
-    m_start->setEnabled(state.isValid() && !isRunning);
-    m_end->setEnabled(isRunning);
-    m_copyNumber->setEnabled(state.isValid());
-    m_export->setEnabled(state.isValid());
+    const QString hint = [this] {
+        if (!filter()->text().isEmpty()) {
+            return QStringLiteral("没有符合“%1”的会议。按 Esc 清除筛选。").arg(filter()->text());
+        }
+        if (!m_commands->isLoggedIn() && m_scope->currentIndex() == 0) {
+            return QStringLiteral("还没有登录。请在上方选择账号，登录后可以在这里看到会议。");
+        }
+        return QStringLiteral("没有即将开始的会议。点“发起会议”可以预约一个。");
+    }();
+    table()->setHint(hint);
 }

@@ -6,14 +6,20 @@
 #include "window/conferencemodel.h"
 #include "window/tablepage.h"
 
-#include <QAction>
-#include <QComboBox>
-#include <QPushButton>
-#include <QSortFilterProxyModel>
+QT_BEGIN_NAMESPACE
+class QAction;
+class QComboBox;
+class QPushButton;
+class QSortFilterProxyModel;
+QT_END_NAMESPACE
 
 class Administration;
+class ConferenceCommands;
+class CurrentConference;
+class EndedConferences;
 
-/// The conferences, and what one can do with the selected one.
+/// The conferences: the one that the user is in, those that run or come, those that have ended, and what one
+/// can do with the chosen one.
 class ConferencePage : public TablePage
 {
     Q_OBJECT
@@ -23,6 +29,8 @@ public:
     ConferencePage(ConferenceModel *model, ContactsBook &book, Administration &administration,
                    QWidget *parent = nullptr);
 
+    ConferenceCommands *commands() const { return m_commands; }
+
 Q_SIGNALS:
     /// Something to tell the user.
     void told(const QString &text);
@@ -30,30 +38,21 @@ Q_SIGNALS:
 private:
     ConferencePage(ConferenceModel *model, QSortFilterProxyModel *sorted, ContactsBook &book,
                    Administration &administration, QWidget *parent);
-    QPushButton *addButton(const QString &name, const QString &text);
-    QAction *addMenuEntry(const QString &name, const QString &text, const QKeySequence &shortcut);
-    void addControls();
-    void addMenu();
+    void sortAndFilter();
+    void arrange();
     void connectControls();
-    void perform(const QString &action, const QJsonObject &parameters);
-    void join();
-    void setState(const QString &state);
-    void showWhatIsPossible();
-
+    void addButton(QPushButton *button, QAction *action);
+    void setTabOrders();
+    void addMenus();
+    void chooseSelected();
     void readEnough();
+    void showHint();
 
     ConferenceModel *m_model;
-    QSortFilterProxyModel *m_sorted; ///< a child
-    ContactsBook &m_book;
-    Administration &m_administration;
-    QComboBox *m_scope; ///< children, all of them
+    QSortFilterProxyModel *m_sorted; ///< children, all of them
+    ConferenceCommands *m_commands;
+    CurrentConference *m_current;
+    EndedConferences *m_ended;
+    QComboBox *m_scope;
     QLineEdit *m_passcode;
-    QPushButton *m_join;
-    QPushButton *m_leave;
-    QPushButton *m_create;
-    QPushButton *m_start;
-    QPushButton *m_end;
-    QPushButton *m_delete;
-    QAction *m_copyNumber;
-    QAction *m_export;
 };

@@ -6,8 +6,8 @@
 #include "window/accountbar.h"
 #include "window/applicationicon.h"
 #include "window/conferencepage.h"
+#include "window/developermenu.h"
 #include "window/peoplepage.h"
-#include "window/question.h"
 #include "window/reminderpage.h"
 #include "window/resultlabel.h"
 #include "window/windowtitle.h"
@@ -41,27 +41,19 @@ ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administratio
     m_pages->setAccessibleName(QStringLiteral("会议、联系人和提醒"));
 
     m_told->setObjectName(QStringLiteral("told"));
-    auto *sample = new QPushButton(QStringLiteral("恢复示例数据(&R)"));
-    sample->setObjectName(QStringLiteral("sample"));
-    sample->setHidden(tools == Tools::ForUsers);
-    connect(sample, &QPushButton::clicked, this, [this, &administration] {
-        askFirst(this, QStringLiteral("要恢复示例数据吗？现有的联系人和会议都会被替换。"),
-                 QStringLiteral("恢复示例数据"), [this, &administration] {
-                     tell(administration.LoadSample() ? QStringLiteral("示例数据已恢复。")
-                                                      : QStringLiteral("操作失败。"));
-                 });
-    });
-    auto *foot = new QHBoxLayout;
-    foot->addWidget(m_told, 1);
-    foot->addWidget(sample);
+    auto *account = new QHBoxLayout;
+    account->addWidget(new AccountBar(book, administration), 1);
+    if (tools == Tools::ForDevelopers) {
+        auto *developer = new DeveloperMenu(book, administration);
+        connect(developer, &DeveloperMenu::told, this, &ContactsWindow::tell);
+        account->addWidget(developer);
+    }
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(makeNotice(book));
-    layout->addWidget(new AccountBar(book, administration,
-                                     tools == Tools::ForDevelopers ? AccountBar::Elsewhere::Shown
-                                                                   : AccountBar::Elsewhere::Hidden));
+    layout->addLayout(account);
     layout->addWidget(m_pages, 1);
-    layout->addLayout(foot);
+    layout->addWidget(m_told);
     addShortcuts();
     resize(960, 560);
 }

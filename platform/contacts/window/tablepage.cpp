@@ -45,21 +45,7 @@ TablePage::TablePage(QAbstractItemModel *model, int keyRole, int sortColumn, QWi
     connect(escape, &QShortcut::activated, m_filter, &QLineEdit::clear);
 
     m_table->setModel(m_model);
-    // First, because the next line sorts at once: another order may have to read everything.
-    m_table->horizontalHeader()->setSortIndicator(sortColumn, Qt::AscendingOrder);
-    m_table->setSortingEnabled(true);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setTabKeyNavigation(false);
-    m_table->setAlternatingRowColors(true);
-    m_table->setShowGrid(false);
-    m_table->setWordWrap(false);
-    m_table->verticalHeader()->hide();
-    m_table->horizontalHeader()->setHighlightSections(false);
-    // As wide as what can be seen: looking at every row would take as long as there are rows.
-    m_table->horizontalHeader()->setResizeContentsPrecision(0);
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    dress(m_table, sortColumn, Qt::AscendingOrder);
     connect(m_table, &QAbstractItemView::activated, this, &TablePage::activated);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &TablePage::selectionChanged);
@@ -78,6 +64,25 @@ TablePage::TablePage(QAbstractItemModel *model, int keyRole, int sortColumn, QWi
     layout->addLayout(m_upperRow);
     layout->addWidget(m_table, 1);
     layout->addLayout(m_lowerRow);
+}
+
+void TablePage::dress(QTableView *table, int sortColumn, Qt::SortOrder order)
+{
+    // First, because the next line sorts at once: another order may have to read everything.
+    table->horizontalHeader()->setSortIndicator(sortColumn, order);
+    table->setSortingEnabled(true);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setTabKeyNavigation(false);
+    table->setAlternatingRowColors(true);
+    table->setShowGrid(false);
+    table->setWordWrap(false);
+    table->verticalHeader()->hide();
+    table->horizontalHeader()->setHighlightSections(false);
+    // As wide as what can be seen: looking at every row would take as long as there are rows.
+    table->horizontalHeader()->setResizeContentsPrecision(0);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 QVariant TablePage::selected(int role) const

@@ -39,6 +39,9 @@ public:
     /// @p sortColumn, upwards.
     TablePage(QAbstractItemModel *model, int keyRole, int sortColumn, QWidget *parent = nullptr);
 
+    /// What all tables of the window have in common; @p table must have its model.
+    static void dress(QTableView *table, int sortColumn, Qt::SortOrder order);
+
     QLineEdit *filter() const { return m_filter; }
     HintedTable *table() const { return m_table; }
     /// Beside the filter, and below the table.

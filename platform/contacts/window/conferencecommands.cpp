@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "window/conferencecommands.h"
+
+#include "window/bookaction.h"
+#include "window/calendardialog.h"
+#include "window/question.h"
+
+#include "book/administration.h"
+#include "book/contactsbook.h"
+#include "core/jsonkeys.h"
+#include "core/outcometext.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QWidget>
+
+ConferenceCommands::ConferenceCommands(ContactsBook &book, Administration &administration, QWidget *window)
+    : QObject(window)
+    , m_book(book)
+    , m_administration(administration)
+    , m_window(window)
+    , m_create(add("create", QStringLiteral("发起会议(&N)")))
+    , m_join(add("join", QStringLiteral("加入(&J)")))
+    , m_start(add("start", QStringLiteral("开始(&S)")))
+    , m_end(add("end", QStringLiteral("结束(&T)")))
+    , m_cancel(add("delete", QStringLiteral("取消会议(&D)")))
+    , m_copyNumber(add("copyNumber", QStringLiteral("复制会议号(&C)"), QKeySequence::Copy))
+    , m_export(add("export", QStringLiteral("导出日历文件(&X)…"), QKeySequence(QStringLiteral("Ctrl+E"))))
+{
+    connect(m_create, &QAction::triggered, this,
+            [this] { perform(QStringLiteral("Create Conference"), {}); });
+    connect(m_join, &QAction::triggered, this, &ConferenceCommands::joinChosen);
+    connect(m_start, &QAction::triggered, this, [this] { setState(QStringLiteral("running")); });
+    connect(m_end, &QAction::triggered, this, [this] { setState(QStringLiteral("ended")); });
+    connect(m_cancel, &QAction::triggered, this, &ConferenceCommands::askAndCancel);
+    connect(m_copyNumber, &QAction::triggered, this, [this] {
+        QGuiApplication::clipboard()->setText(m_chosen->dialNumber);
+        Q_EMIT told(QStringLiteral("已复制会议号。"));
+    });
+    connect(m_export, &QAction::triggered, this, [this] {
+        askForCalendarFile(m_window, m_book, m_chosen->dialNumber,
+                           [this](const QString &text) { Q_EMIT told(text); });
+    });
+    connect(&m_book, &ContactsBook::changedLately, this, &ConferenceCommands::refresh);
+    refresh();
+}
+
+QAction *ConferenceCommands::add(const char *name, const QString &text, const QKeySequence &shortcut)
+{
+    auto *action = new QAction(text, this);
+    action->setObjectName(QLatin1String(name));
+    action->setShortcut(shortcut);
+    action->setShortcutContext(Qt::WidgetShortcut); // Ctrl+C in a field is the field's
+    return action;
+}
+
+void ConferenceCommands::choose(const std::optional<Conference> &conference)
+{
+    m_chosen = conference;
+    refresh();
+}
+
+void ConferenceCommands::setPasscode(const QString &passcode)
+{
+    m_passcode = passcode;
+    m_join->setEnabled(m_options.join && !(m_options.needsPasscode && m_passcode.isEmpty()));
+}
+
+void ConferenceCommands::refresh()
+{
+    m_viewer = {};
+    m_options = {};
+    try {
+        m_viewer = Viewer::of(m_book);
+        if (m_chosen) {
+            const auto seat = m_book.conferences().attendance(m_chosen->id, m_viewer.userId);
+            m_options = ConferenceOptions::of(*m_chosen, seat, m_viewer, m_book.nowMsecs());
+        }
+    } catch (const std::exception &error) {
+        qWarning("What can be done cannot be told: %s", error.what());
+        m_book.noteFailure(error);
+    }
+    m_create->setEnabled(m_viewer.isLoggedIn());
+    m_start->setEnabled(m_options.start);
+    m_end->setEnabled(m_options.end);
+    m_cancel->setEnabled(m_options.cancel);
+    m_copyNumber->setEnabled(m_chosen.has_value());
+    m_export->setEnabled(m_chosen.has_value());
+    setPasscode(m_passcode);
+    Q_EMIT refreshed();
+}
+
+void ConferenceCommands::perform(const QString &action, const QJsonObject &parameters)
+{
+    Q_EMIT told(outcomeText(performAction(m_book, action, parameters)));
+}
+
+void ConferenceCommands::joinChosen()
+{
+    perform(QStringLiteral("Join Conference"),
+            {{JsonKey::ConferenceId, m_chosen->dialNumber}, {JsonKey::Password, m_passcode}});
+    Q_EMIT joinTried();
+}
+
+void ConferenceCommands::setState(const QString &state)
+{
+    if (m_administration.SetConferenceState(m_chosen->dialNumber, state)) {
+        Q_EMIT told(state == QLatin1String("ended") ? QStringLiteral("会议已结束。")
+                                                    : QStringLiteral("会议已开始。"));
+    }
+}
+
+void ConferenceCommands::askAndCancel()
+{
+    // What is asked about, whatever is chosen when the answer comes.
+    const QString conferenceId = m_chosen->confId;
+    askFirst(m_window,
+             QStringLiteral("要取消会议 %1 吗？已邀请的成员也将看不到它。").arg(m_chosen->dialNumber),
+             QStringLiteral("取消会议"), [this, conferenceId] {
+                 perform(QStringLiteral("Delete Conference"), {{JsonKey::ConferenceId, conferenceId}});
+             });
+}

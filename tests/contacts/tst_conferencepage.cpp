@@ -337,9 +337,6 @@ void TestConferencePage::joiningAsksForThePasscode()
     QVERIFY(!m_fixture->child<QPushButton>("leave")->isVisible());
     QVERIFY(join->isEnabled());
     QVERIFY(!passcode->isVisible()); // open to everybody
-    m_fixture->click("create");
-    QCOMPARE(m_fixture->told(), QStringLiteral("好的。"));
-    QTRY_COMPARE(m_fixture->conferences()->model()->rowCount(), 9);
 }
 
 void TestConferencePage::noPasscodeIsShown()

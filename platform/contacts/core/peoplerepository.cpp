@@ -113,6 +113,32 @@ QString PeopleRepository::contactsByNameSql()
         " ORDER BY person.user_id LIMIT ?");
 }
 
+QVector<Person> PeopleRepository::contactsStartingWith(const QString &ownerId, const QString &text,
+                                                       int limit) const
+{
+    // One piece of an index each.
+    Statement query(
+        m_database,
+        contactQuery("WHERE owner_id = ? AND person_id IN ("
+                     " SELECT person_id FROM (SELECT person_id FROM contact"
+                     "  WHERE owner_id = ? AND remark_name >= ? AND remark_name < ? LIMIT ?)"
+                     " UNION SELECT person_id FROM (SELECT person_id FROM contact"
+                     "  WHERE owner_id = ? AND account >= ? AND account < ? ORDER BY account LIMIT ?)"
+                     " UNION SELECT user_id FROM (SELECT found.user_id FROM person AS found"
+                     "  CROSS JOIN contact AS known ON known.owner_id = ? AND known.person_id = found.user_id"
+                     "  WHERE found.name >= ? AND found.name < ? LIMIT ?))"
+                     " ORDER BY contact.account LIMIT ?"));
+    const uint last[] = {QChar::LastValidCodePoint};
+    const QString end = text + QString::fromUcs4(last, 1);
+    for (int piece = 0; piece < 4; ++piece) {
+        query.bind(ownerId);
+        if (piece > 0) {
+            query.bind(text).bind(end).bind(limit);
+        }
+    }
+    return allOf(query.bind(limit), readContact);
+}
+
 std::optional<Person> PeopleRepository::contactByUserId(const QString &ownerId, const QString &userId) const
 {
     Statement query(m_database, contactQuery("WHERE owner_id = ? AND person_id = ?"));

@@ -29,6 +29,9 @@ public:
     QVector<Person> contactsByName(const QString &ownerId, const QString &name) const;
     /// The statement behind it, for a look at its plan.
     static QString contactsByNameSql();
+    /// Those of @p ownerId's contacts whose name, remark or account starts with @p text, by their accounts;
+    /// at most @p limit, and at a cost that grows with that.
+    QVector<Person> contactsStartingWith(const QString &ownerId, const QString &text, int limit) const;
     std::optional<Person> contactByUserId(const QString &ownerId, const QString &userId) const;
     QVector<Person> contacts(const QString &ownerId) const;
     /// The contacts, and whoever else was asked to become a friend, whose account comes after @p

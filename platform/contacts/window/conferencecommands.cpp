@@ -5,6 +5,8 @@
 
 #include "window/bookaction.h"
 #include "window/calendardialog.h"
+#include "window/conferencedetail.h"
+#include "window/conferencedialog.h"
 #include "window/question.h"
 
 #include "book/administration.h"
@@ -21,7 +23,8 @@ ConferenceCommands::ConferenceCommands(ContactsBook &book, Administration &admin
     , m_book(book)
     , m_administration(administration)
     , m_window(window)
-    , m_create(add("create", QStringLiteral("发起会议(&N)")))
+    , m_open(add("open", QStringLiteral("会议详情(&I)…")))
+    , m_create(add("create", QStringLiteral("发起会议(&N)…")))
     , m_join(add("join", QStringLiteral("加入(&J)")))
     , m_start(add("start", QStringLiteral("开始(&S)")))
     , m_end(add("end", QStringLiteral("结束(&T)")))
@@ -29,8 +32,8 @@ ConferenceCommands::ConferenceCommands(ContactsBook &book, Administration &admin
     , m_copyNumber(add("copyNumber", QStringLiteral("复制会议号(&C)"), QKeySequence::Copy))
     , m_export(add("export", QStringLiteral("导出日历文件(&X)…"), QKeySequence(QStringLiteral("Ctrl+E"))))
 {
-    connect(m_create, &QAction::triggered, this,
-            [this] { perform(QStringLiteral("Create Conference"), {}); });
+    connect(m_open, &QAction::triggered, this, &ConferenceCommands::showDetail);
+    connect(m_create, &QAction::triggered, this, &ConferenceCommands::askForConference);
     connect(m_join, &QAction::triggered, this, &ConferenceCommands::joinChosen);
     connect(m_start, &QAction::triggered, this, [this] { setState(QStringLiteral("running")); });
     connect(m_end, &QAction::triggered, this, [this] { setState(QStringLiteral("ended")); });
@@ -82,6 +85,7 @@ void ConferenceCommands::refresh()
         qWarning("What can be done cannot be told: %s", error.what());
         m_book.noteFailure(error);
     }
+    m_open->setEnabled(m_chosen.has_value());
     m_create->setEnabled(m_viewer.isLoggedIn());
     m_start->setEnabled(m_options.start);
     m_end->setEnabled(m_options.end);
@@ -95,6 +99,21 @@ void ConferenceCommands::refresh()
 void ConferenceCommands::perform(const QString &action, const QJsonObject &parameters)
 {
     Q_EMIT told(outcomeText(performAction(m_book, action, parameters)));
+}
+
+void ConferenceCommands::showDetail()
+{
+    auto *detail = new ConferenceDetail(m_book, *m_chosen, m_window);
+    connect(detail, &ConferenceDetail::told, this, &ConferenceCommands::told);
+    detail->open();
+}
+
+void ConferenceCommands::askForConference()
+{
+    auto *dialog = new ConferenceDialog(m_book, m_window);
+    connect(dialog, &ConferenceDialog::told, this, &ConferenceCommands::told);
+    connect(dialog, &ConferenceDialog::made, this, &ConferenceCommands::made);
+    dialog->open();
 }
 
 void ConferenceCommands::joinChosen()

@@ -30,6 +30,7 @@ public:
     bool isPasscodeNeeded() const { return m_options.needsPasscode; }
     bool isLoggedIn() const { return m_viewer.isLoggedIn(); }
 
+    QAction *open() const { return m_open; }
     QAction *create() const { return m_create; }
     QAction *join() const { return m_join; }
     QAction *start() const { return m_start; }
@@ -45,10 +46,14 @@ Q_SIGNALS:
     void refreshed();
     /// Somebody tried to join: the passcode has been used.
     void joinTried();
+    /// A new conference with that number is there.
+    void made(const QString &dialNumber);
 
 private:
     QAction *add(const char *name, const QString &text, const QKeySequence &shortcut = {});
     void perform(const QString &action, const QJsonObject &parameters);
+    void showDetail();
+    void askForConference();
     void joinChosen();
     void setState(const QString &state);
     void askAndCancel();
@@ -60,7 +65,8 @@ private:
     Viewer m_viewer;
     ConferenceOptions m_options;
     QString m_passcode;
-    QAction *m_create; ///< children, all of them
+    QAction *m_open; ///< children, all of them
+    QAction *m_create;
     QAction *m_join;
     QAction *m_start;
     QAction *m_end;

@@ -115,8 +115,9 @@ void ConferencePage::addMenus()
     for (HintedTable *view : {table(), m_ended->table()}) {
         // Also opened with the menu key.
         view->setContextMenuPolicy(Qt::ActionsContextMenu);
-        view->addActions({m_commands->join(), m_commands->start(), m_commands->end(), m_commands->cancel(),
-                          separator, m_commands->copyNumber(), m_commands->exportCalendar()});
+        view->addActions({m_commands->open(), m_commands->join(), m_commands->start(), m_commands->end(),
+                          m_commands->cancel(), separator, m_commands->copyNumber(),
+                          m_commands->exportCalendar()});
     }
 }
 
@@ -183,7 +184,9 @@ void ConferencePage::connectControls()
     connect(m_commands, &ConferenceCommands::joinTried, m_passcode, &QLineEdit::clear);
     connect(m_passcode, &QLineEdit::textChanged, m_commands, &ConferenceCommands::setPasscode);
     connect(m_passcode, &QLineEdit::returnPressed, m_commands->join(), &QAction::trigger);
-    connect(this, &TablePage::activated, m_commands->join(), &QAction::trigger);
+    connect(this, &TablePage::activated, m_commands->open(), &QAction::trigger);
+    connect(m_ended->table(), &QAbstractItemView::activated, m_commands->open(), &QAction::trigger);
+    connect(m_commands, &ConferenceCommands::made, this, &ConferencePage::selectMade);
     auto *column = static_cast<QVBoxLayout *>(layout());
     connect(m_ended, &EndedConferences::unfolded, this,
             [this, column](bool open) { column->setStretchFactor(m_ended, open ? 1 : 0); });
@@ -193,6 +196,19 @@ void ConferencePage::chooseSelected()
 {
     const std::optional<Conference> coming = selectedIn(*table());
     m_commands->choose(coming ? coming : selectedIn(*m_ended->table()));
+}
+
+void ConferencePage::selectMade(const QString &dialNumber)
+{
+    filter()->clear();
+    m_model->reload(); // it follows the change a moment later
+    select(dialNumber);
+    if (selected(ConferenceModel::NumberRole) != dialNumber) {
+        m_model->setReading(ConferenceModel::Reading::Whole); // behind what was read so far
+        select(dialNumber);
+    }
+    table()->scrollTo(table()->currentIndex());
+    table()->setFocus();
 }
 
 void ConferencePage::readEnough()

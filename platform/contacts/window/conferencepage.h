@@ -45,6 +45,8 @@ private:
     void setTabOrders();
     void addMenus();
     void chooseSelected();
+    /// Selects a conference that has just been made.
+    void selectMade(const QString &dialNumber);
     void readEnough();
     void showHint();
 

@@ -1,0 +1,284 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "window/conferencedetail.h"
+
+#include "window/bookaction.h"
+#include "window/conferencetimeedit.h"
+#include "window/passcodefield.h"
+#include "window/resultlabel.h"
+
+#include "book/contactsbook.h"
+#include "core/conferencerules.h"
+#include "core/displaytext.h"
+#include "core/jsonkeys.h"
+#include "core/outcome.h"
+#include "core/outcometext.h"
+
+#include <lumo/lsuggestbutton.h>
+#include <lumo/plaintooltip.h>
+
+#include <QDateTimeEdit>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QJsonObject>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int LeastWidth = 480;
+constexpr int LeastSeatsHeight = 160;
+
+QString stateText(const Participant &seat, const QString &hostId)
+{
+    const QString state = [&seat] {
+        switch (seat.attendance) {
+        case Attendance::Joined:
+            return QStringLiteral("已加入");
+        case Attendance::Left:
+            return QStringLiteral("已离开");
+        case Attendance::Invited:
+            break;
+        }
+        return QStringLiteral("未加入");
+    }();
+    return seat.userId == hostId ? QStringLiteral("主持人，%1").arg(state) : state;
+}
+
+int minutesOf(const Conference &conference)
+{
+    return static_cast<int>(conference.durationMsecs / MinuteMsecs);
+}
+
+QLabel *makeLabel()
+{
+    auto *label = new QLabel;
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    return label;
+}
+
+} // namespace
+
+ConferenceDetail::ConferenceDetail(ContactsBook &book, const Conference &conference, QWidget *parent)
+    : QDialog(parent)
+    , m_book(book)
+    , m_conference(conference)
+    , m_title(new QLineEdit)
+    , m_number(makeLabel())
+    , m_host(makeLabel())
+    , m_start(makeConferenceTimeEdit())
+    , m_minutes(new QSpinBox)
+    , m_limit(new QSpinBox)
+    , m_passcode(new PasscodeField)
+    , m_passcodeNote(new QLabel)
+    , m_seats(new QTreeWidget)
+    , m_result(new ResultLabel)
+    , m_save(new LSuggestButton(QStringLiteral("保存(&O)")))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(QStringLiteral("会议详情"));
+    arrange();
+    reload();
+    showValues();
+    showEditable();
+    connect(&m_book, &ContactsBook::changedLately, this, &ConferenceDetail::reload);
+}
+
+void ConferenceDetail::arrange()
+{
+    m_seats->setObjectName(QStringLiteral("seats"));
+    m_seats->setAccessibleName(QStringLiteral("成员"));
+    m_seats->setHeaderLabels({QStringLiteral("成员"), QStringLiteral("账号"), QStringLiteral("状态")});
+    m_seats->setRootIsDecorated(false);
+    m_seats->setMinimumHeight(LeastSeatsHeight);
+    m_seats->setTextElideMode(Qt::ElideRight);
+    m_seats->header()->setStretchLastSection(false);
+    m_seats->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_seats->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_result->setObjectName(QStringLiteral("detailResult"));
+    auto *form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form->setSpacing(10);
+    addFields(*form);
+
+    auto *buttons = new QDialogButtonBox;
+    m_save->setObjectName(QStringLiteral("save"));
+    m_save->setDefault(true);
+    buttons->addButton(m_save, QDialogButtonBox::AcceptRole);
+    QPushButton *close = buttons->addButton(QStringLiteral("关闭"), QDialogButtonBox::RejectRole);
+    close->setObjectName(QStringLiteral("close"));
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 16, 16, 16);
+    layout->setSpacing(10);
+    layout->addLayout(form);
+    layout->addWidget(m_seats, 1);
+    layout->addWidget(m_result);
+    layout->addWidget(buttons);
+    setMinimumWidth(LeastWidth);
+    connect(buttons, &QDialogButtonBox::accepted, this, &ConferenceDetail::save);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_title, &QLineEdit::textChanged, this, &ConferenceDetail::showWhetherChanged);
+    connect(m_start, &QDateTimeEdit::dateTimeChanged, this, &ConferenceDetail::showWhetherChanged);
+    for (QSpinBox *box : {m_minutes, m_limit}) {
+        connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this,
+                &ConferenceDetail::showWhetherChanged);
+    }
+    connect(m_passcode, &PasscodeField::edited, this, &ConferenceDetail::showWhetherChanged);
+}
+
+void ConferenceDetail::addFields(QFormLayout &form)
+{
+    m_title->setObjectName(QStringLiteral("title"));
+    m_title->setMaxLength(100);
+    m_number->setObjectName(QStringLiteral("number"));
+    m_host->setWordWrap(true);
+    m_start->setObjectName(QStringLiteral("start"));
+    m_minutes->setObjectName(QStringLiteral("minutes"));
+    m_minutes->setSuffix(QStringLiteral(" 分钟"));
+    m_limit->setObjectName(QStringLiteral("limit"));
+    m_limit->setSuffix(QStringLiteral(" 人"));
+    m_passcodeNote->setObjectName(QStringLiteral("passcodeNote"));
+    auto *passcode = new QVBoxLayout;
+    passcode->addWidget(m_passcode);
+    passcode->addWidget(m_passcodeNote);
+    form.addRow(QStringLiteral("主题(&I)"), m_title);
+    form.addRow(QStringLiteral("会议号"), m_number);
+    form.addRow(QStringLiteral("主持人"), m_host);
+    form.addRow(QStringLiteral("开始时间(&B)"), m_start);
+    form.addRow(QStringLiteral("时长(&D)"), m_minutes);
+    form.addRow(QStringLiteral("人数上限(&L)"), m_limit);
+    form.addRow(QStringLiteral("密码"), passcode);
+}
+
+void ConferenceDetail::reload()
+{
+    std::optional<Conference> conference;
+    QVector<Participant> seats;
+    try {
+        m_viewer = Viewer::of(m_book);
+        const auto kind = m_book.session().user().value_or(Person()).kind;
+        m_mostMinutes = static_cast<int>(ConferenceRules::forKind(kind).maxDurationMsecs / MinuteMsecs);
+        m_mostPeople = ConferenceRules::forKind(kind).maxParticipantLimit;
+        conference = m_book.conferences().byConfId(m_conference.confId, m_viewer.userId);
+        if (conference) {
+            seats = m_book.conferences().seats(conference->id, m_viewer.userId);
+        }
+    } catch (const std::exception &error) {
+        qWarning("A conference cannot be shown: %s", error.what());
+        m_book.noteFailure(error);
+        return;
+    }
+    if (!conference) {
+        Q_EMIT told(QStringLiteral("会议已不存在。"));
+        close();
+        return;
+    }
+    showSeats(seats);
+}
+
+void ConferenceDetail::showSeats(const QVector<Participant> &seats)
+{
+    m_seats->clear();
+    for (const Participant &seat : seats) {
+        const QString name = cleanDisplayText(seat.name);
+        auto *item = new QTreeWidgetItem(m_seats, {name, seat.account, stateText(seat, m_conference.hostId)});
+        item->setToolTip(0, plainToolTip(name));
+        if (seat.userId == m_conference.hostId) {
+            m_host->setText(name);
+        }
+    }
+}
+
+void ConferenceDetail::showValues()
+{
+    m_title->setText(cleanDisplayText(m_conference.title));
+    m_title->setCursorPosition(0);
+    m_number->setText(m_conference.dialNumber);
+    m_start->setDateTime(QDateTime::fromMSecsSinceEpoch(m_conference.startMsecs));
+    // What it has is allowed, however it came about.
+    m_minutes->setRange(1, qMax(m_mostMinutes, minutesOf(m_conference)));
+    m_minutes->setValue(minutesOf(m_conference));
+    m_limit->setRange(qMax(ConferenceRules::MinParticipantLimit, m_conference.participants.size()),
+                      qMax(m_mostPeople, m_conference.participantLimit));
+    m_limit->setValue(m_conference.participantLimit);
+}
+
+void ConferenceDetail::showEditable()
+{
+    const qint64 now = m_book.nowMsecs();
+    const bool canEdit = ConferenceOptions::of(m_conference, std::nullopt, m_viewer, now).edit;
+    const bool isHost = m_conference.hostId == m_viewer.userId;
+    const auto setReadOnly = [](QAbstractSpinBox *box, bool readOnly) {
+        box->setReadOnly(readOnly);
+        box->setButtonSymbols(readOnly ? QAbstractSpinBox::NoButtons : QAbstractSpinBox::UpDownArrows);
+    };
+    m_title->setReadOnly(!canEdit);
+    const bool canMove = canEdit && m_conference.stateAt(now) == ConferenceState::NotStarted;
+    setReadOnly(m_start, !canMove);
+    m_start->setCalendarPopup(canMove);
+    setReadOnly(m_minutes, !canEdit);
+    setReadOnly(m_limit, !canEdit);
+    // Another's passcode is not the viewer's to see.
+    m_passcode->setVisible(isHost);
+    m_passcode->setReadOnly(!canEdit);
+    m_passcodeNote->setVisible(!isHost);
+    m_passcodeNote->setText(m_conference.passcode.isEmpty() ? QStringLiteral("无")
+                                                            : QStringLiteral("有，仅主持人可见"));
+    if (isHost) {
+        m_passcode->setText(m_conference.passcode);
+    }
+    m_save->setVisible(canEdit);
+    showWhetherChanged();
+}
+
+QJsonObject ConferenceDetail::changes() const
+{
+    QJsonObject changes;
+    const QString title = cleanDisplayText(m_title->text());
+    if (title != cleanDisplayText(m_conference.title)) {
+        changes.insert(JsonKey::Title, title);
+    }
+    // The field shows minutes: seconds that it does not show have not been edited.
+    const QDateTime shown = QDateTime::fromMSecsSinceEpoch(m_conference.startMsecs);
+    const qint64 start = m_start->dateTime().toMSecsSinceEpoch();
+    if (start / MinuteMsecs != shown.toMSecsSinceEpoch() / MinuteMsecs) {
+        changes.insert(JsonKey::StartTime, start / MinuteMsecs * MinuteMsecs);
+    }
+    if (m_minutes->value() != minutesOf(m_conference)) {
+        changes.insert(JsonKey::Duration, m_minutes->value() * MinuteMsecs);
+    }
+    if (m_limit->value() != m_conference.participantLimit) {
+        changes.insert(JsonKey::ParticipantLimit, m_limit->value());
+    }
+    if (m_conference.hostId == m_viewer.userId && m_passcode->text() != m_conference.passcode) {
+        changes.insert(JsonKey::Password, m_passcode->text());
+    }
+    return changes;
+}
+
+void ConferenceDetail::showWhetherChanged()
+{
+    m_save->setEnabled(!changes().isEmpty() && !cleanDisplayText(m_title->text()).isEmpty());
+}
+
+void ConferenceDetail::save()
+{
+    QJsonObject parameters = changes();
+    parameters.insert(JsonKey::ConferenceId, m_conference.confId);
+    const QString word =
+        askBook(m_book, QStringLiteral("Update Conference"), parameters).value(JsonKey::Ret).toString();
+    if (word == Outcome::Ok) {
+        accept();
+        Q_EMIT told(QStringLiteral("会议 %1 已修改。").arg(m_conference.dialNumber));
+        return;
+    }
+    m_result->tell(word == Outcome::UpdateFailed
+                       ? QStringLiteral("修改失败：时间已过或与其他会议重复，或人数少于已邀请的成员。")
+                       : outcomeText(word));
+}

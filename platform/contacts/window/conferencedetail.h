@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "window/conferenceoptions.h"
+
+#include <QDialog>
+
+QT_BEGIN_NAMESPACE
+class QDateTimeEdit;
+class QFormLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QSpinBox;
+class QTreeWidget;
+QT_END_NAMESPACE
+
+class PasscodeField;
+class ResultLabel;
+
+/// One conference with everybody who has or had a seat in it; its host can change it here. Follows who is in
+/// it. Does not wait: the assistant's requests go on meanwhile. Deletes itself when it is closed.
+class ConferenceDetail : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// @p book must outlive it.
+    ConferenceDetail(ContactsBook &book, const Conference &conference, QWidget *parent = nullptr);
+
+Q_SIGNALS:
+    /// Something to tell the user, once it is closed.
+    void told(const QString &text);
+
+private:
+    void arrange();
+    void addFields(QFormLayout &form);
+    void showValues();
+    void showEditable();
+    void reload();
+    void showSeats(const QVector<Participant> &seats);
+    QJsonObject changes() const;
+    void showWhetherChanged();
+    void save();
+
+    ContactsBook &m_book;
+    Conference m_conference;
+    Viewer m_viewer;
+    int m_mostMinutes = 0;
+    int m_mostPeople = 0;
+    QLineEdit *m_title; ///< children, all of them
+    QLabel *m_number;
+    QLabel *m_host;
+    QDateTimeEdit *m_start;
+    QSpinBox *m_minutes;
+    QSpinBox *m_limit;
+    PasscodeField *m_passcode;
+    QLabel *m_passcodeNote;
+    QTreeWidget *m_seats;
+    ResultLabel *m_result;
+    QPushButton *m_save;
+};

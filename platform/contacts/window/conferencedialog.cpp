@@ -1,0 +1,175 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "window/conferencedialog.h"
+
+#include "window/bookaction.h"
+#include "window/conferenceoptions.h"
+#include "window/conferencetimeedit.h"
+#include "window/inviteefield.h"
+#include "window/passcodefield.h"
+#include "window/resultlabel.h"
+
+#include "book/contactsbook.h"
+#include "core/conferencerules.h"
+#include "core/displaytext.h"
+#include "core/jsonkeys.h"
+#include "core/outcome.h"
+#include "core/outcometext.h"
+
+#include <lumo/lsuggestbutton.h>
+
+#include <QDateTimeEdit>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int LeastWidth = 440;
+
+Person userOf(ContactsBook &book)
+{
+    try {
+        return book.session().user().value_or(Person());
+    } catch (const std::exception &error) {
+        qWarning("The user cannot be read: %s", error.what());
+        book.noteFailure(error);
+        return {};
+    }
+}
+
+bool isInConference(ContactsBook &book)
+{
+    try {
+        return Viewer::of(book).isInConference;
+    } catch (const std::exception &error) {
+        qWarning("Whether the user is in a conference cannot be read: %s", error.what());
+        book.noteFailure(error);
+        return false;
+    }
+}
+
+/// The next half hour.
+qint64 suggestedStart(qint64 nowMsecs)
+{
+    constexpr qint64 halfHour = 30 * MinuteMsecs;
+    return (nowMsecs / halfHour + 1) * halfHour;
+}
+
+} // namespace
+
+ConferenceDialog::ConferenceDialog(ContactsBook &book, QWidget *parent)
+    : QDialog(parent)
+    , m_book(book)
+    , m_title(new QLineEdit)
+    , m_now(new QRadioButton(QStringLiteral("现在开始(&G)")))
+    , m_later(new QRadioButton(QStringLiteral("预约(&B)")))
+    , m_start(makeConferenceTimeEdit())
+    , m_passcode(new PasscodeField)
+    , m_result(new ResultLabel)
+{
+    const Person user = userOf(m_book);
+    m_people = new InviteeField(m_book, ConferenceRules::forKind(user.kind).defaultParticipantLimit - 1);
+    m_title->setPlaceholderText(QStringLiteral("%1的视频会议").arg(cleanDisplayText(user.name)));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(QStringLiteral("发起会议"));
+    arrange();
+}
+
+void ConferenceDialog::arrange()
+{
+    m_title->setObjectName(QStringLiteral("title"));
+    m_title->setMaxLength(100);
+    m_passcode->setObjectName(QStringLiteral("newPasscode"));
+    m_result->setObjectName(QStringLiteral("newResult"));
+    auto *form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form->setSpacing(10);
+    form->addRow(QStringLiteral("主题(&I)"), m_title);
+    addWhen(*form);
+    form->addRow(QStringLiteral("邀请(&P)"), m_people);
+    form->addRow(QStringLiteral("密码(&C)"), m_passcode);
+
+    auto *buttons = new QDialogButtonBox;
+    auto *make = new LSuggestButton(QStringLiteral("发起(&O)"));
+    make->setObjectName(QStringLiteral("make"));
+    make->setDefault(true);
+    buttons->addButton(make, QDialogButtonBox::AcceptRole);
+    QPushButton *close = buttons->addButton(QStringLiteral("取消"), QDialogButtonBox::RejectRole);
+    close->setObjectName(QStringLiteral("close"));
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 16, 16, 16);
+    layout->setSpacing(10);
+    layout->addLayout(form);
+    layout->addWidget(m_result);
+    layout->addWidget(buttons);
+    setMinimumWidth(LeastWidth);
+    connect(buttons, &QDialogButtonBox::accepted, this, &ConferenceDialog::makeConference);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_people, &InviteeField::told, m_result, &ResultLabel::tell);
+    connect(m_people, &InviteeField::changed, m_result, [this] { m_result->tell(QString()); });
+}
+
+void ConferenceDialog::addWhen(QFormLayout &form)
+{
+    m_now->setObjectName(QStringLiteral("now"));
+    m_later->setObjectName(QStringLiteral("later"));
+    m_start->setObjectName(QStringLiteral("start"));
+    const qint64 now = m_book.nowMsecs();
+    m_start->setMinimumDateTime(QDateTime::fromMSecsSinceEpoch(now));
+    m_start->setDateTime(QDateTime::fromMSecsSinceEpoch(suggestedStart(now)));
+    // Nobody is in two at once.
+    const bool isBusy = isInConference(m_book);
+    m_now->setEnabled(!isBusy);
+    (isBusy ? m_later : m_now)->setChecked(true);
+    m_start->setEnabled(isBusy);
+    connect(m_later, &QRadioButton::toggled, m_start, &QWidget::setEnabled);
+    auto *when = new QHBoxLayout;
+    when->addWidget(m_now);
+    when->addWidget(m_later);
+    when->addWidget(m_start, 1);
+    form.addRow(QStringLiteral("时间"), when);
+}
+
+QJsonObject ConferenceDialog::parameters() const
+{
+    QJsonObject parameters;
+    const QString title = cleanDisplayText(m_title->text());
+    if (!title.isEmpty()) {
+        parameters.insert(JsonKey::Title, title);
+    }
+    if (!m_passcode->text().isEmpty()) {
+        parameters.insert(JsonKey::Password, m_passcode->text());
+    }
+    if (m_later->isChecked()) {
+        parameters.insert(JsonKey::StartTime, m_start->dateTime().toMSecsSinceEpoch());
+    }
+    QJsonArray members;
+    for (const Person &person : m_people->people()) {
+        members.append(QJsonObject{{JsonKey::Name, person.name}, {JsonKey::UserId, person.userId}});
+    }
+    parameters.insert(JsonKey::Members, members);
+    return parameters;
+}
+
+void ConferenceDialog::makeConference()
+{
+    const QJsonObject answer = askBook(m_book, QStringLiteral("Create Conference"), parameters());
+    const QString word = answer.value(JsonKey::Ret).toString();
+    const QJsonArray list = answer.value(JsonKey::List).toArray();
+    // An overlap is answered with the others, which are there already.
+    if (list.isEmpty() || word == Outcome::TimeOverlap) {
+        m_result->tell(word == Outcome::InvalidParameters ? QStringLiteral("时间已过，或密码含有空格。")
+                                                          : outcomeText(word));
+        return;
+    }
+    const QString number = list.at(0).toObject().value(JsonKey::ConferenceDialNumber).toString();
+    accept();
+    Q_EMIT made(number);
+    Q_EMIT told(QStringLiteral("会议 %1 已发起。").arg(number));
+}

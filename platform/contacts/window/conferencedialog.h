@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QDialog>
+
+QT_BEGIN_NAMESPACE
+class QDateTimeEdit;
+class QFormLayout;
+class QLineEdit;
+class QRadioButton;
+QT_END_NAMESPACE
+
+class ContactsBook;
+class InviteeField;
+class PasscodeField;
+class ResultLabel;
+
+/// Asks for a new conference and makes it. Stays open, with the reason, when the application refuses. Does
+/// not wait: the assistant's requests go on meanwhile. Deletes itself when it is closed.
+class ConferenceDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// @p book must outlive it; somebody must be logged in.
+    explicit ConferenceDialog(ContactsBook &book, QWidget *parent = nullptr);
+
+Q_SIGNALS:
+    /// A conference with that number is there.
+    void made(const QString &dialNumber);
+    /// Something to tell the user, once it is closed.
+    void told(const QString &text);
+
+private:
+    void arrange();
+    void addWhen(QFormLayout &form);
+    void makeConference();
+    QJsonObject parameters() const;
+
+    ContactsBook &m_book;
+    QLineEdit *m_title; ///< children, all of them
+    QRadioButton *m_now;
+    QRadioButton *m_later;
+    QDateTimeEdit *m_start;
+    InviteeField *m_people;
+    PasscodeField *m_passcode;
+    ResultLabel *m_result;
+};

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "window/conferencetimeedit.h"
+
+#include <QCalendarWidget>
+#include <QDateTimeEdit>
+
+QDateTimeEdit *makeConferenceTimeEdit()
+{
+    auto *edit = new QDateTimeEdit;
+    edit->setDisplayFormat(QStringLiteral("yyyy-MM-dd hh:mm"));
+    edit->setLocale(QLocale(QLocale::Chinese, QLocale::China));
+    edit->setAccessibleName(QStringLiteral("开始时间"));
+    edit->setCalendarPopup(true);
+    edit->calendarWidget()->setLocale(edit->locale());
+    edit->calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    return edit;
+}

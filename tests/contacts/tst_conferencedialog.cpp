@@ -1,0 +1,222 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "windowfixture.h"
+
+#include "testcolumns.h"
+
+#include "window/conferencedialog.h"
+#include "window/conferencemodel.h"
+
+#include <lumo/lguiapplicationhelper.h>
+
+#include <QAccessible>
+#include <QDateTimeEdit>
+#include <QDir>
+#include <QRadioButton>
+
+/// The dialog that asks for a new conference.
+class TestConferenceDialog : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void itMakesWhatItSaysAndSelectsIt();
+    void withoutWordsItIsOneForNow();
+    void aRefusalKeepsItOpen();
+    void nobodyStartsASecondOneNow();
+    void whatIsFarAwayIsSelectedToo();
+    void closingMakesNothing();
+    void everyFieldHasAName();
+    void pictures_data();
+    void pictures();
+
+private:
+    ConferenceDialog *dialog() const { return m_fixture->window->findChild<ConferenceDialog *>(); }
+    template <typename T>
+    T *field(const char *name) const
+    {
+        T *found = dialog() ? dialog()->findChild<T *>(QString::fromLatin1(name)) : nullptr;
+        if (!found) {
+            qFatal("The dialog has no %s", name);
+        }
+        return found;
+    }
+    void invite(const QString &name) const
+    {
+        field<QLineEdit>("invitee")->setText(name);
+        QTest::keyClick(field<QLineEdit>("invitee"), Qt::Key_Return);
+    }
+    QString selectedNumber() const
+    {
+        return m_fixture->page(0)->selected(ConferenceModel::NumberRole).toString();
+    }
+
+    std::unique_ptr<WindowFixture> m_fixture;
+};
+
+void TestConferenceDialog::init()
+{
+    m_fixture = std::make_unique<WindowFixture>();
+    QVERIFY(m_fixture->waitUntilShown());
+    m_fixture->page(0)->filter()->setText(QStringLiteral("产品")); // what is made is shown all the same
+    m_fixture->click("create");
+    QVERIFY(dialog() && dialog()->isVisible());
+}
+
+void TestConferenceDialog::cleanup()
+{
+    m_fixture.reset();
+}
+
+void TestConferenceDialog::itMakesWhatItSaysAndSelectsIt()
+{
+    field<QLineEdit>("title")->setText(QStringLiteral("立项讨论"));
+    QTest::mouseClick(field<QRadioButton>("later"), Qt::LeftButton, Qt::NoModifier, QPoint(8, 12));
+    const QDateTime start(QDate(2026, 3, 20), QTime(15, 45));
+    field<QDateTimeEdit>("start")->setDateTime(start);
+    invite(QStringLiteral("小刘"));
+    invite(QStringLiteral("赵磊"));
+    QTest::keyClicks(field<QLineEdit>("passcodeText"), QStringLiteral("4711"));
+    QCOMPARE(field<QLineEdit>("passcodeText")->echoMode(), QLineEdit::Password);
+    QTest::mouseClick(field<QPushButton>("make"), Qt::LeftButton);
+    QTRY_VERIFY(!dialog());
+
+    const std::optional<Conference> made =
+        m_fixture->world->book.conferences().byDialNumber(selectedNumber(), QStringLiteral("u100001"));
+    QVERIFY(made);
+    QCOMPARE(made->title, QStringLiteral("立项讨论"));
+    QCOMPARE(made->startMsecs, start.toMSecsSinceEpoch());
+    QCOMPARE(made->passcode, QStringLiteral("4711"));
+    QCOMPARE(made->hostId, QStringLiteral("u100001"));
+    QCOMPARE(made->participants.size(), 3);
+    QCOMPARE(made->participants.at(1).account, QStringLiteral("100005"));
+    QCOMPARE(made->participants.at(2).account, QStringLiteral("100031"));
+    QCOMPARE(m_fixture->told(), QStringLiteral("会议 %1 已发起。").arg(selectedNumber()));
+    m_fixture->world->admin.SetFriendLimit(7);
+    m_fixture->follow();
+    QCOMPARE(selectedNumber(), made->dialNumber);
+}
+
+void TestConferenceDialog::withoutWordsItIsOneForNow()
+{
+    QVERIFY(field<QRadioButton>("now")->isChecked());
+    QVERIFY(!field<QDateTimeEdit>("start")->isEnabled());
+    QTest::keyClick(field<QLineEdit>("title"), Qt::Key_Return);
+    QTRY_VERIFY(!dialog());
+    const std::optional<Conference> made =
+        m_fixture->world->book.conferences().byDialNumber(selectedNumber(), QStringLiteral("u100001"));
+    QVERIFY(made);
+    QCOMPARE(made->title, QStringLiteral("王小明的视频会议"));
+    QCOMPARE(made->startMsecs, m_fixture->world->nowMsecs);
+    QVERIFY(made->passcode.isEmpty());
+    QTRY_VERIFY(m_fixture->child<QWidget>("current")->isVisible());
+}
+
+void TestConferenceDialog::aRefusalKeepsItOpen()
+{
+    const int before = m_fixture->world->conferences().size();
+    field<QLineEdit>("title")->setText(QStringLiteral("重复"));
+    field<QRadioButton>("later")->setChecked(true);
+    // When 产品周会 takes place.
+    field<QDateTimeEdit>("start")->setDateTime(QDateTime(QDate(2026, 3, 8), QTime(10, 30)));
+    QTest::mouseClick(field<QPushButton>("make"), Qt::LeftButton);
+    QVERIFY(dialog() && dialog()->isVisible());
+    QCOMPARE(field<QLabel>("newResult")->text(), QStringLiteral("与其他会议时间重复。"));
+    QCOMPARE(field<QLineEdit>("title")->text(), QStringLiteral("重复"));
+    QCOMPARE(m_fixture->world->conferences().size(), before);
+    QVERIFY(!m_fixture->page(0)->filter()->text().isEmpty());
+    field<QDateTimeEdit>("start")->setDateTime(QDateTime(QDate(2026, 3, 8), QTime(11, 0)));
+    QTest::mouseClick(field<QPushButton>("make"), Qt::LeftButton);
+    QTRY_VERIFY(!dialog());
+    QCOMPARE(m_fixture->world->conferences().size(), before + 1);
+}
+
+void TestConferenceDialog::nobodyStartsASecondOneNow()
+{
+    QTest::keyClick(dialog(), Qt::Key_Escape);
+    QTRY_VERIFY(!dialog());
+    m_fixture->world->ask(QStringLiteral("Join My Conference"));
+    m_fixture->click("create");
+    QVERIFY(!field<QRadioButton>("now")->isEnabled());
+    QVERIFY(field<QRadioButton>("later")->isChecked());
+    QVERIFY(field<QDateTimeEdit>("start")->isEnabled());
+    QCOMPARE(field<QDateTimeEdit>("start")->dateTime(), QDateTime(QDate(2026, 3, 7), QTime(10, 30)));
+    QCOMPARE(field<QDateTimeEdit>("start")->minimumDateTime(), QDateTime(QDate(2026, 3, 7), QTime(10, 20)));
+}
+
+void TestConferenceDialog::whatIsFarAwayIsSelectedToo()
+{
+    for (int day = 0; day < 120; ++day) {
+        m_fixture->world->admin.AddConference(
+            QString::number(1000 + day), QStringLiteral("例会"), QStringLiteral("100001"),
+            m_fixture->world->nowMsecs + (20 + day) * 24LL * 60 * MinuteMsecs, 600000, 5, QString(), {});
+    }
+    field<QRadioButton>("later")->setChecked(true);
+    field<QDateTimeEdit>("start")->setDateTime(QDateTime(QDate(2027, 3, 8), QTime(10, 30)));
+    QTest::mouseClick(field<QPushButton>("make"), Qt::LeftButton);
+    QTRY_VERIFY(!dialog());
+    const std::optional<Conference> made =
+        m_fixture->world->book.conferences().byDialNumber(selectedNumber(), QString());
+    QVERIFY(made);
+    QCOMPARE(QDateTime::fromMSecsSinceEpoch(made->startMsecs).date(), QDate(2027, 3, 8));
+}
+
+void TestConferenceDialog::closingMakesNothing()
+{
+    const QJsonObject before = m_fixture->world->snapshot();
+    field<QLineEdit>("title")->setText(QStringLiteral("不要"));
+    QTest::mouseClick(field<QPushButton>("close"), Qt::LeftButton);
+    QTRY_VERIFY(!dialog());
+    QCOMPARE(m_fixture->world->snapshot(), before);
+    QVERIFY(m_fixture->told().isEmpty());
+}
+
+void TestConferenceDialog::everyFieldHasAName()
+{
+    const QList<QWidget *> widgets = dialog()->findChildren<QWidget *>();
+    int seen = 0;
+    for (QWidget *widget : widgets) {
+        if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible() ||
+            widget->objectName().startsWith(QLatin1String("qt_"))) {
+            continue;
+        }
+        ++seen;
+        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+        QVERIFY2(accessible && !accessible->text(QAccessible::Name).isEmpty(),
+                 qPrintable(widget->objectName()));
+    }
+    QVERIFY(seen >= 8);
+}
+
+void TestConferenceDialog::pictures_data()
+{
+    addColumns<int>({"theme"});
+    const QString scale = qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1"));
+    QTest::newRow(qPrintable(QStringLiteral("light-") + scale)) << int(LGuiApplicationHelper::LightType);
+    QTest::newRow(qPrintable(QStringLiteral("dark-") + scale)) << int(LGuiApplicationHelper::DarkType);
+}
+
+void TestConferenceDialog::pictures()
+{
+    QFETCH(int, theme);
+    auto *helper = LGuiApplicationHelper::instance();
+    helper->setPaletteType(static_cast<LGuiApplicationHelper::ColorType>(theme));
+    invite(QStringLiteral("李娜"));
+    invite(QStringLiteral("小刘"));
+    field<QLineEdit>("passcodeText")->setText(QStringLiteral("4711"));
+    QCoreApplication::processEvents();
+    const QImage picture = dialog()->grab().toImage();
+    QCOMPARE(picture.pixelColor(2, 2).lightness() > 128, theme == LGuiApplicationHelper::LightType);
+    const QDir folder(QStringLiteral(CONTACT_BINARY_DIR "/screenshots"));
+    QVERIFY(folder.mkpath(QStringLiteral(".")));
+    QVERIFY(picture.save(
+        folder.filePath(QStringLiteral("contacts-new-%1.png").arg(QLatin1String(QTest::currentDataTag())))));
+    helper->setPaletteType(LGuiApplicationHelper::UnknownType);
+}
+
+QTEST_MAIN(TestConferenceDialog)
+#include "tst_conferencedialog.moc"

@@ -13,6 +13,10 @@ QDateTimeEdit *makeConferenceTimeEdit()
     edit->setLocale(QLocale(QLocale::Chinese, QLocale::China));
     edit->setAccessibleName(QStringLiteral("开始时间"));
     edit->setCalendarPopup(true);
+    // A form would make it narrower than its text.
+    constexpr int arrowAndEdges = 52;
+    const QString longest = edit->dateTime().toString(edit->displayFormat());
+    edit->setMinimumWidth(edit->fontMetrics().horizontalAdvance(longest) + arrowAndEdges);
     edit->calendarWidget()->setLocale(edit->locale());
     edit->calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     return edit;

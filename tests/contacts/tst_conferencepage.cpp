@@ -59,6 +59,8 @@ void TestConferencePage::itShowsTheUsersConferences()
     QCOMPARE(m_fixture->cell(0, ConferenceModel::Duration), QStringLiteral("240分钟"));
     QCOMPARE(m_fixture->cell(0, ConferenceModel::People), QStringLiteral("4/20"));
     QCOMPARE(m_fixture->cell(0, ConferenceModel::Host), QStringLiteral("李娜"));
+    // All of its columns are seen in the window as it opens.
+    QTRY_COMPARE(m_fixture->conferences()->horizontalScrollBar()->maximum(), 0);
     // By their start at first, without a grid; what has ended is elsewhere.
     QCOMPARE(m_fixture->cell(1, ConferenceModel::Start), QStringLiteral("明天 10:00"));
     QCOMPARE(m_fixture->cell(2, ConferenceModel::Start), QStringLiteral("2026-03-09 10:00"));
@@ -528,6 +530,11 @@ void TestConferencePage::textsAreLegible()
     const qreal ratio = picture.devicePixelRatio();
     int seen = 0;
     for (int row = 0; row < table->model()->rowCount(); ++row) {
+        const QRect state = table->visualRect(table->model()->index(row, ConferenceModel::State));
+        const QRect dot(state.topLeft() * ratio, QSize(28, state.height()) * ratio);
+        if (table->viewport()->rect().contains(state)) {
+            QVERIFY(PaintedContrast::ofText(picture.copy(dot)) >= 3);
+        }
         for (const int column : {int(ConferenceModel::Title), int(ConferenceModel::Start)}) {
             const QRect cell = table->visualRect(table->model()->index(row, column));
             if (table->viewport()->rect().contains(cell)) {

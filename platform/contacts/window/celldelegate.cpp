@@ -30,7 +30,11 @@ void CellDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelInd
     QStyledItemDelegate::initStyleOption(option, index);
     const QVariant decoration = index.data(Qt::DecorationRole);
     if (decoration.userType() == QMetaType::QColor) {
-        option->icon = dot(decoration.value<QColor>(), qApp->devicePixelRatio());
+        // On the accent colour, a dot in it could not be seen.
+        const bool isSelected = option->state.testFlag(QStyle::State_Selected);
+        option->icon =
+            dot(isSelected ? option->palette.color(QPalette::HighlightedText) : decoration.value<QColor>(),
+                qApp->devicePixelRatio());
         option->decorationSize = QSize(DotExtent, DotExtent);
     }
 }

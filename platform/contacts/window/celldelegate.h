@@ -13,8 +13,8 @@ class CellDelegate : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    /// Between a text and the edge of its cell.
-    static constexpr int Padding = 8;
+    /// Between a text and the edge of its cell, beside the style's own.
+    static constexpr int Padding = 4;
     static constexpr int RowHeight = 34;
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,

@@ -55,7 +55,7 @@ ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administratio
     layout->addWidget(m_pages, 1);
     layout->addWidget(m_told);
     addShortcuts();
-    resize(960, 560);
+    resize(1000, 600);
 }
 
 void ContactsWindow::bringUp(WindowFocus focus)

@@ -78,7 +78,7 @@ void TestDatabase::itIsSetUpToLast()
     QCOMPARE(onlyText(database.handle(), "PRAGMA journal_mode"), QStringLiteral("wal"));
     QCOMPARE(onlyText(database.handle(), "PRAGMA synchronous"), QStringLiteral("2"));
     QCOMPARE(onlyText(database.handle(), "PRAGMA foreign_keys"), QStringLiteral("1"));
-    QCOMPARE(onlyText(database.handle(), "PRAGMA user_version"), QStringLiteral("4"));
+    QCOMPARE(onlyText(database.handle(), "PRAGMA user_version"), QStringLiteral("5"));
 }
 
 void TestDatabase::itIsOpenedAgainAsItWas()
@@ -127,7 +127,7 @@ void TestDatabase::aFileOfVersion3IsBroughtUpToDate()
     const QString file = folder.filePath(QStringLiteral("contacts.db"));
     makeVersion3(file);
     ContactsBook book(file);
-    QCOMPARE(onlyText(book.database().handle(), "PRAGMA user_version"), QStringLiteral("4"));
+    QCOMPARE(onlyText(book.database().handle(), "PRAGMA user_version"), QStringLiteral("5"));
     QCOMPARE(book.session().user()->account, QStringLiteral("100001"));
     QCOMPARE(book.session().friendLimit(), 7);
     // Whose person is missing is no contact any more.

@@ -153,10 +153,17 @@ QStringList fourthVersion()
     };
 }
 
+/// The requests to somebody, without those to others.
+QStringList fifthVersion()
+{
+    return {QStringLiteral("CREATE INDEX friend_request_of_person ON friend_request(person_id)")};
+}
+
 } // namespace
 
 const QVector<QStringList> &databaseMigrations()
 {
-    static const QVector<QStringList> steps{firstVersion(), secondVersion(), thirdVersion(), fourthVersion()};
+    static const QVector<QStringList> steps{firstVersion(), secondVersion(), thirdVersion(), fourthVersion(),
+                                            fifthVersion()};
     return steps;
 }

@@ -230,6 +230,19 @@ Friendship PeopleRepository::friendship(const QString &ownerId, const QString &p
     return query.bind(ownerId).bind(personId).run().next() ? Friendship::Requested : Friendship::None;
 }
 
+QVector<Person> PeopleRepository::requestsTo(const QString &userId, int limit) const
+{
+    Statement query(
+        m_database,
+        QStringLiteral("SELECT person.user_id, person.account, name, kind,"
+                       " coalesce(remark_name, ''), coalesce(is_friend, 0), 0"
+                       " FROM friend_request JOIN person ON person.user_id = friend_request.owner_id"
+                       " LEFT JOIN contact ON contact.owner_id = friend_request.person_id"
+                       "  AND contact.person_id = friend_request.owner_id"
+                       " WHERE friend_request.person_id = ? ORDER BY person.account LIMIT ?"));
+    return allOf(query.bind(userId).bind(limit), readContact);
+}
+
 int PeopleRepository::friendCount(const QString &ownerId) const
 {
     Statement query(m_database,
@@ -279,6 +292,13 @@ void PeopleRepository::addFriendRequest(const QString &ownerId, const QString &p
         .bind(ownerId)
         .bind(personId)
         .run();
+}
+
+bool PeopleRepository::removeFriendRequest(const QString &ownerId, const QString &personId)
+{
+    Statement removal(m_database,
+                      QStringLiteral("DELETE FROM friend_request WHERE owner_id = ? AND person_id = ?"));
+    return removal.bind(ownerId).bind(personId).run().affectedRows() > 0;
 }
 
 void PeopleRepository::removeAll()

@@ -46,6 +46,8 @@ public:
     /// @p limit.
     QStringList unmistakableContactNames(const QString &ownerId, int limit) const;
     Friendship friendship(const QString &ownerId, const QString &personId) const;
+    /// Who has asked @p userId to become a friend, with the user's remarks, by their accounts; at most @p limit.
+    QVector<Person> requestsTo(const QString &userId, int limit) const;
     /// Friends and open requests.
     int friendCount(const QString &ownerId) const;
 
@@ -56,6 +58,8 @@ public:
                     bool isFriend);
     /// Asks somebody, in the contacts or not, to become a friend.
     void addFriendRequest(const QString &ownerId, const QString &personId);
+    /// Whether there was one.
+    bool removeFriendRequest(const QString &ownerId, const QString &personId);
     void removeAll();
 
 private:

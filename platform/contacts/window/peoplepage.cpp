@@ -9,11 +9,13 @@
 #include "window/addfrienddialog.h"
 #include "window/bookaction.h"
 #include "window/peoplehint.h"
+#include "window/requestbar.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -55,11 +57,15 @@ void PeoplePage::addControls()
     m_add->setAutoDefault(false);
     m_befriend->setObjectName(QStringLiteral("befriend"));
     m_befriend->setAutoDefault(false);
+    auto *requests = new RequestBar(m_book);
+    connect(requests, &RequestBar::told, this, &PeoplePage::told);
+    static_cast<QVBoxLayout *>(layout())->insertWidget(0, requests);
     upperRow()->addWidget(m_scope);
     upperRow()->addWidget(m_add);
     lowerRow()->addWidget(m_befriend);
     lowerRow()->addStretch(1);
     // As one sees them, not as they were made.
+    setTabOrder(requests->lastControl(), filter());
     setTabOrder(filter(), m_scope);
     setTabOrder(m_scope, m_add);
     setTabOrder(m_add, table());

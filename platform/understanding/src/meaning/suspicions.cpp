@@ -86,6 +86,7 @@ bool isConditional(const Reading &reading)
     const QString &text = reading.sentence().text();
     const Tokens &tokens = reading.tokens();
     bool begins = true; // a clause
+    bool timed = false; // 今晚九点等孩子睡了: the hour was said
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         const Token &token = tokens[at];
         const bool waits = begins && token.length == 1 && text.at(token.position) == QChar(u'等') &&
@@ -97,10 +98,11 @@ bool isConditional(const Reading &reading)
             return true;
         }
         // 等张伟回来再开会, but 把老林拉进来，等他半天了
-        if (told && waits &&
+        if (told && waits && !timed &&
             std::any_of(tokens.cbegin() + static_cast<std::ptrdiff_t>(at), tokens.cend(), isDeed)) {
             return true;
         }
+        timed = (timed || token.time.hasClock) && !token.is(WordClass::Punctuation);
         begins = tokens[at].is(WordClass::Punctuation) ||
                  (begins && (tokens[at].is(WordClass::Filler) || tokens[at].kind == Token::Kind::Time));
     }

@@ -94,10 +94,15 @@ private:
             return;
         }
         const Token &left = m_tokens[at - 1];
+        const int start = m_tokens[m_places.firstOfLatinName(at - 1)].position;
         const bool taken = std::any_of(m_names.cbegin(), m_names.cend(),
-                                       [&](const FoundName &name) { return name.position >= left.position; });
+                                       [&](const FoundName &name) { return name.position >= start; });
         if (!taken && left.end() == m_tokens[at].position) {
-            addChunk(left.position, left.end(), !m_listed, true);
+            if (start < left.position) { // Tom Lee、...
+                addOne(start, left.end() - start, true);
+            } else {
+                addChunk(start, left.end(), !m_listed, true);
+            }
         }
     }
 
@@ -316,20 +321,10 @@ private:
         return last;
     }
 
-    static bool startsCapital(const QString &text, const Token &token)
-    {
-        return token.kind == Token::Kind::Latin && text.at(token.position).isUpper();
-    }
-
     /// Anna Maria Schmidt is one person; HR李娜 is 李娜.
     std::size_t takeLatinName(std::size_t at)
     {
-        std::size_t last = at;
-        while (last + 2 < m_tokens.size() && startsCapital(m_text, m_tokens[last]) &&
-               startsCapital(m_text, m_tokens[last + 2]) &&
-               (m_tokens[last + 1].kind == Token::Kind::Space || m_places.isMiddleDot(last + 1))) {
-            last += 2;
-        }
+        std::size_t last = m_places.lastOfLatinName(at);
         const QString first = m_text.mid(m_tokens[at].position, m_tokens[at].length);
         if (last > at && isModifier(first)) { // CFO Linda
             at += 2;

@@ -120,6 +120,11 @@ bool isPersonsName(const QString &text)
         Lexicon::instance().classesOf(text.right(1)).has(WordClass::Title)) {
         return true;
     }
+    // 小王老师
+    if (text.size() == 4 && prefixes.contains(text.at(0)) && isSurname(text.at(1)) &&
+        Lexicon::instance().classesOf(text.right(2)).has(WordClass::Title)) {
+        return true;
+    }
     return (text.size() == 2 && prefixes.contains(text.at(0))) ||
            ((text.size() == 2 || text.size() == 3) && isSurname(text.at(0)));
 }
@@ -153,7 +158,8 @@ static QStringList splitFamiliarNames(const QString &text)
     QStringList names;
     for (int at = 0; at < text.size(); at += 2) {
         const QString name = text.mid(at, 2);
-        if (name.size() < 2 || !prefixes.contains(name.at(0)) || prefixes.contains(name.at(1))) {
+        const bool titled = at > 0 && Lexicon::instance().classesOf(name).has(WordClass::Title); // 小王老师
+        if (name.size() < 2 || titled || !prefixes.contains(name.at(0)) || prefixes.contains(name.at(1))) {
             return {};
         }
         names.append(name);

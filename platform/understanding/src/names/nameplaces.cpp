@@ -124,6 +124,31 @@ bool NamePlaces::isPrefixOfLatin(std::size_t at) const
            m_tokens[at + 1].kind == Token::Kind::Latin && m_tokens[at + 1].position == m_tokens[at].end();
 }
 
+bool NamePlaces::startsCapital(std::size_t at) const
+{
+    return m_tokens[at].kind == Token::Kind::Latin && m_text.at(m_tokens[at].position).isUpper();
+}
+
+std::size_t NamePlaces::lastOfLatinName(std::size_t first) const
+{
+    std::size_t last = first;
+    while (last + 2 < m_tokens.size() && startsCapital(last) && startsCapital(last + 2) &&
+           (m_tokens[last + 1].kind == Token::Kind::Space || isMiddleDot(last + 1))) {
+        last += 2;
+    }
+    return last;
+}
+
+std::size_t NamePlaces::firstOfLatinName(std::size_t last) const
+{
+    std::size_t first = last;
+    while (first >= 2 && startsCapital(first) && startsCapital(first - 2) &&
+           m_tokens[first - 1].kind == Token::Kind::Space) {
+        first -= 2;
+    }
+    return first;
+}
+
 bool NamePlaces::isNumberBeforeName(std::size_t at) const
 {
     const Token &token = m_tokens[at];

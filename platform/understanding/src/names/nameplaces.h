@@ -27,6 +27,10 @@ public:
     [[nodiscard]] bool isPlainBeforeName(std::size_t at) const;
     /// 兄弟 in 和兄弟王磊开会.
     [[nodiscard]] bool isAddressBeforeName(std::size_t at) const;
+    /// The last token of Anna Maria Schmidt, who is one person.
+    [[nodiscard]] std::size_t lastOfLatinName(std::size_t first) const;
+    /// The first token of the Latin name that ends with @p last: Tom in Tom Lee.
+    [[nodiscard]] std::size_t firstOfLatinName(std::size_t last) const;
     /// 3 in 3床家属魏淑芬.
     [[nodiscard]] bool isNumberBeforeName(std::size_t at) const;
     /// The last token of the run of characters that begins at @p at: 关羽 is a word and a character.
@@ -51,6 +55,7 @@ public:
     [[nodiscard]] std::size_t skipTitle(std::size_t at) const;
 
 private:
+    [[nodiscard]] bool startsCapital(std::size_t at) const;
     const QString &m_text;
     const Tokens &m_tokens;
 };

@@ -21,6 +21,7 @@ constexpr QChar Two(0x4e24);       // 两
 constexpr QChar One(0x5e7a);       // 幺
 constexpr QChar Zero(0x3007);      // 〇
 constexpr QChar Pieces(0x4e2a);    // 个
+constexpr QChar Comma(0xff0c);     // ，
 constexpr int LongestQuantity = 8; // 九百九十九 is five, 2026 four; more is no quantity
 
 bool isAsciiDigit(QChar character)
@@ -127,12 +128,49 @@ static bool isTwoInString(const QString &text, int at, int end, int start)
     if (text.at(at) != Two) {
         return false;
     }
-    return at > start ? end == at : at + 1 < text.size() && digitValue(text.at(at + 1)) >= 0;
+    if (at > start) {
+        return end == at;
+    }
+    const int next = at + 1 < text.size() && text.at(at + 1) == Two ? at + 2 : at + 1; // 两两三三
+    return next < text.size() && digitValue(text.at(next)) >= 0;
+}
+
+/// The end of 三八六，二二幺，七零九: digits read aloud in three groups, as a number of up to eleven digits
+/// is.
+/// @p position where there are no such groups: two groups may be two numbers.
+static int spokenGroupsEnd(const QString &text, int position)
+{
+    constexpr int groups = 3;
+    constexpr int shortestGroup = 3;
+    constexpr int longestGroup = 4;
+    constexpr int longestNumber = 11;
+    int at = position;
+    for (int group = 0; group < groups; ++group) {
+        if (group > 0) {
+            if (at >= text.size() || text.at(at) != QLatin1Char(',')) {
+                return position;
+            }
+            ++at;
+        }
+        const int start = at;
+        while (at < text.size() && at - start <= longestGroup && !isAsciiDigit(text.at(at)) &&
+               digitValue(text.at(at)) >= 0) {
+            ++at;
+        }
+        if (at - start < shortestGroup || at - start > longestGroup) {
+            return position;
+        }
+    }
+    const bool ends = at == text.size() || digitValue(text.at(at)) < 0;
+    return ends && at - position - (groups - 1) <= longestNumber ? at : position;
 }
 
 int digitStringEnd(const QString &text, int position)
 {
-    int end = position;
+    int end = spokenGroupsEnd(text, position);
+    if (end > position) {
+        return end;
+    }
     int at = position;
     while (at < text.size()) {
         const QChar character = text.at(at);
@@ -166,7 +204,7 @@ QString digitString(const QString &said)
             at += 2;
         } else if (value >= 0) {
             digits += QChar(u'0' + value);
-        } else if (character != QLatin1Char(' ')) {
+        } else if (character != QLatin1Char(' ') && character != QLatin1Char(',') && character != Comma) {
             onlyDigits = onlyDigits && character == QLatin1Char('-');
             digits += character;
         }

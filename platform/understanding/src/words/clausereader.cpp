@@ -273,6 +273,13 @@ void settleTopics(const QString &text, Tokens &tokens)
 /// 明天三点开会如何 proposes, 如何开会 asks for help.
 void settleQuestions(Tokens &tokens)
 {
+    // 呢 in 七点半呢，跟张伟开个会 only gives time to think.
+    for (std::size_t at = 1; at + 2 < tokens.size(); ++at) {
+        if (tokens[at].is(WordClass::QuestionParticle) && tokens[at - 1].kind == Token::Kind::Time &&
+            tokens[at + 1].is(WordClass::Punctuation)) {
+            tokens[at].classes.remove(WordClass::QuestionParticle);
+        }
+    }
     // 还是明天下午开会吧 decides; only behind a first choice it asks.
     for (Token &token : tokens) {
         if (token.is(WordClass::EitherOr) || token.kind == Token::Kind::Time) {

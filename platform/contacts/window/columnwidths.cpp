@@ -51,7 +51,8 @@ bool ColumnWidths::eventFilter(QObject *watched, QEvent *event)
 
 void ColumnWidths::fitSoon()
 {
-    if (!m_isPending) {
+    // A hidden table is fitted when it is shown.
+    if (!m_isPending && m_table->isVisible()) {
         m_isPending = true;
         QMetaObject::invokeMethod(this, &ColumnWidths::fit, Qt::QueuedConnection);
     }

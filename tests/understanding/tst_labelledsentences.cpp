@@ -103,7 +103,7 @@ private:
     }
 
     static constexpr Bounds Own = {2082, 644, 0};
-    static constexpr Bounds Learned = {703, 89, 0};
+    static constexpr Bounds Learned = {708, 89, 0};
     static constexpr Bounds Apart = {327, 41, 2};
 };
 

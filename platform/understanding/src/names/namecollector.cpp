@@ -105,7 +105,7 @@ bool NameCollector::isLostBefore(const Tokens &tokens, std::size_t at) const
     const bool found =
         !m_names.empty() && m_names.back().position + m_names.back().said.size() >= tokens[at].position;
     const Token &before = tokens[at - 1];
-    static const QString light = QStringLiteral("的要先再就得去来想需能会可又还");
+    static const QString light = QStringLiteral("的要先再就得去来想需能会可又还呢");
     const bool strange =
         (before.kind == Token::Kind::Other && !light.contains(m_text.at(before.end() - 1))) ||
         before.is(WordClass::Plain);

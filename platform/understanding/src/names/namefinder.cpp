@@ -223,7 +223,7 @@ private:
             }
             if (token.kind == Token::Kind::Name) {
                 at = takeKnownName(at);
-            } else if (m_places.isAddressBeforeName(at) ||
+            } else if (m_places.isAddressBeforeName(at) || m_places.isPointer(at) ||
                        (token.isAny(WordClass::Title | WordClass::Topic) && token.length > 1 &&
                         someoneFollows)) { // 董事长王建国, 评审专家戚教授
                 m_modifierStart = m_modifierStart < 0 ? token.position : m_modifierStart;
@@ -340,6 +340,7 @@ private:
         const bool belongs = last + 2 < m_tokens.size() && m_tokens[last + 1].kind == Token::Kind::Other &&
                              m_text.at(m_tokens[last + 1].position) == QChar(u'的'); // PMO的Grace
         if (nameFollows && (isModifier(name) || belongs)) {
+            m_modifierStart = m_modifierStart < 0 ? start : m_modifierStart;
             return last;
         }
         const bool titled = last + 1 < m_tokens.size() && m_tokens[last + 1].is(WordClass::Title) &&

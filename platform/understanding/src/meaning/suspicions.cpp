@@ -78,6 +78,13 @@ static bool isDeed(const Token &token)
                        WordClass::CloseAlone | WordClass::Buddy);
 }
 
+bool holdsSeveralNumbers(const Reading &reading)
+{
+    return std::count_if(reading.tokens().cbegin(), reading.tokens().cend(), [](const Token &token) {
+               return token.kind == Token::Kind::Number && !token.inName;
+           }) > 1;
+}
+
 bool isConditional(const Reading &reading)
 {
     static const QStringList conditions = {

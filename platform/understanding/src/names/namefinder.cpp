@@ -295,7 +295,7 @@ private:
         const bool nameFollows = next < m_tokens.size() && (m_tokens[next].kind == Token::Kind::Name ||
                                                             m_tokens[next].kind == Token::Kind::Latin);
         if (nameFollows && isModifier(run)) {
-            m_modifierStart = start;
+            m_modifierStart = m_modifierStart < 0 ? start : m_modifierStart;
             return last;
         }
         static const QString prefixes = QStringLiteral("小老阿大");
@@ -337,9 +337,7 @@ private:
         const bool nameFollows =
             last + 1 < m_tokens.size() &&
             (m_tokens[last + 1].kind == Token::Kind::Name || m_tokens[last + 1].kind == Token::Kind::Other);
-        const bool belongs = last + 2 < m_tokens.size() && m_tokens[last + 1].kind == Token::Kind::Other &&
-                             m_text.at(m_tokens[last + 1].position) == QChar(u'的'); // PMO的Grace
-        if (nameFollows && (isModifier(name) || belongs)) {
+        if ((nameFollows && isModifier(name)) || m_places.isGroupOfNext(last)) {
             m_modifierStart = m_modifierStart < 0 ? start : m_modifierStart;
             return last;
         }

@@ -149,6 +149,22 @@ std::size_t NamePlaces::firstOfLatinName(std::size_t last) const
     return first;
 }
 
+bool NamePlaces::isGroupOfNext(std::size_t at) const
+{
+    const std::size_t next = at + 1;
+    const std::size_t behind = at + 2;
+    if (behind >= m_tokens.size() ||
+        (m_tokens[next].kind != Token::Kind::Other && !m_tokens[next].classes.isEmpty())) {
+        return false;
+    }
+    const QChar link = m_text.at(m_tokens[next].position);
+    const bool group = link == QChar(u'组') || link == QChar(u'部');
+    const bool somebody = m_tokens[next].length > 1 || m_tokens[behind].kind == Token::Kind::Latin ||
+                          m_tokens[behind].kind == Token::Kind::Other ||
+                          m_tokens[behind].kind == Token::Kind::Name;
+    return link == QChar(u'的') || (group && somebody);
+}
+
 bool NamePlaces::isNumberBeforeName(std::size_t at) const
 {
     const Token &token = m_tokens[at];

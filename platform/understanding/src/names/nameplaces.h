@@ -31,6 +31,8 @@ public:
     [[nodiscard]] std::size_t lastOfLatinName(std::size_t first) const;
     /// The first token of the Latin name that ends with @p last: Tom in Tom Lee.
     [[nodiscard]] std::size_t firstOfLatinName(std::size_t last) const;
+    /// PMO in PMO的Grace, QA in QA组Sara.
+    [[nodiscard]] bool isGroupOfNext(std::size_t at) const;
     /// 3 in 3床家属魏淑芬.
     [[nodiscard]] bool isNumberBeforeName(std::size_t at) const;
     /// The last token of the run of characters that begins at @p at: 关羽 is a word and a character.

@@ -39,8 +39,6 @@ Verdict judge(const Reading &reading, const QString &intent)
     doubtful = doubtful || (intent == QLatin1String(CloseConference) && isLeftByOther(reading));
     doubtful = doubtful || (intent == QLatin1String(EnterMyConference) && onlyGoes(reading));
     doubtful = doubtful || (intent == QLatin1String(EnterConferenceById) && isNumberOfOther(reading));
-    // 一三八零，零一三八加为好友: cut off, or two accounts.
-    doubtful = doubtful || (intent == QLatin1String(AddBuddy) && holdsSeveralNumbers(reading));
     // 从这个会退出，加入123456: two things at once.
     doubtful =
         doubtful || (intent == QLatin1String(CloseConference) && !reading.conferenceNumber().isEmpty() &&

@@ -6,6 +6,7 @@
 #include "meaning/callings.h"
 #include "meaning/gate.h"
 #include "meaning/intentrules.h"
+#include "meaning/suspicions.h"
 #include "time/timeresolver.h"
 
 namespace understanding {
@@ -96,6 +97,9 @@ void fillAccount(Outcome &outcome, const Reading &reading, const QDateTime &)
 {
     const Said &account = reading.account();
     constexpr int shortest = 3; // initials are no account
+    if (holdsSeveralNumbers(reading)) {
+        return; // asked for again
+    }
     if (account.normValue.size() >= shortest) {
         outcome.addSlot(AccountSlot, account.value, account.normValue);
     } else if (!reading.names().empty()) {

@@ -36,38 +36,41 @@ PeopleModel::PeopleModel(ContactsBook &book, QObject *parent)
 {
     connect(&m_slices, &QTimer::timeout, this, &PeopleModel::readOn);
     connect(&m_book, &ContactsBook::changedLately, this, &PeopleModel::reload);
-    start(Showing::AsTheyCome, PageSize);
+    startAtOnce(Showing::AsTheyCome, PageSize);
 }
 
 void PeopleModel::reload()
 {
     if (currentOwner() != m_ownerId) {
-        start(Showing::AsTheyCome, PageSize); // nobody sees another one's people
+        startAtOnce(Showing::AsTheyCome, PageSize); // nobody sees another one's people
     } else if (isReading()) {
         m_isStale = true; // a reading that starts anew with each change would never end
     } else {
         // As many as there were, so that whoever has scrolled stays there.
         start(Showing::WhenComplete, qMax(PageSize, m_people.size()));
+        if (isInAccountOrder()) {
+            readOn(); // another order takes its time; the former rows stay until then
+        }
     }
 }
 
 void PeopleModel::setFilter(const QString &text)
 {
     m_filter = text;
-    start(Showing::AsTheyCome, PageSize);
+    startAtOnce(Showing::AsTheyCome, PageSize);
 }
 
 void PeopleModel::setScope(PeopleScope scope)
 {
     m_scope = scope;
-    start(Showing::AsTheyCome, PageSize);
+    startAtOnce(Showing::AsTheyCome, PageSize);
 }
 
 void PeopleModel::sort(int column, Qt::SortOrder order)
 {
     m_sortColumn = column;
     m_sortOrder = order;
-    start(Showing::WhenComplete, PageSize);
+    startAtOnce(Showing::WhenComplete, PageSize);
 }
 
 QString PeopleModel::currentOwner() const
@@ -97,6 +100,11 @@ void PeopleModel::start(Showing showing, int wanted)
     m_isFirstSlice = true;
     m_ownerId = owner;
     m_slices.start(0);
+}
+
+void PeopleModel::startAtOnce(Showing showing, int wanted)
+{
+    start(showing, wanted);
     readOn();
 }
 

@@ -52,7 +52,10 @@ private:
     /// Rows are shown as they are read, or the former ones stay until all that are wanted have been read.
     enum class Showing { AsTheyCome, WhenComplete };
 
+    /// Reads from the next turn of the event loop on.
     void start(Showing showing, int wanted);
+    /// Has the first portion when it returns.
+    void startAtOnce(Showing showing, int wanted);
     void readOn();
     void finish();
     void append(const QVector<Person> &people);

@@ -3,28 +3,23 @@
 
 #include "window/peopleorder.h"
 
-#include <algorithm>
+bool PeopleOrder::Before::operator()(const Entry &left, const Entry &right) const
+{
+    const int compared = left.key.compare(right.key);
+    return order == Qt::AscendingOrder ? compared < 0 : compared > 0;
+}
 
 void PeopleOrder::start(PersonColumn column, Qt::SortOrder order)
 {
     m_column = column;
-    m_order = order;
-    m_entries.clear();
+    m_entries = Entries(Before{order});
 }
 
 void PeopleOrder::add(const QVector<Person> &people)
 {
-    const auto comesFirst = [this](const Entry &left, const Entry &right) {
-        const int order = left.key.compare(right.key);
-        return m_order == Qt::AscendingOrder ? order < 0 : order > 0;
-    };
-    const auto former = static_cast<std::ptrdiff_t>(m_entries.size());
     for (const Person &person : people) {
-        m_entries.push_back({m_collator.sortKey(personText(person, m_column)), person});
+        m_entries.insert({m_collator.sortKey(personText(person, m_column)), person});
     }
-    const auto middle = m_entries.begin() + former;
-    std::stable_sort(middle, m_entries.end(), comesFirst);
-    std::inplace_merge(m_entries.begin(), middle, m_entries.end(), comesFirst);
 }
 
 QVector<Person> PeopleOrder::people() const

@@ -9,10 +9,11 @@
 #include <QCollator>
 #include <QVector>
 
-#include <vector>
+#include <set>
 
 /// People in the order of one column's texts, as the user's language sorts them. They come in portions, each
-/// of which is merged at once, so that there is no long sorting at the end.
+/// of which finds its place at once, so that there is no long sorting at the end. Who comes later of two with
+/// the same text stays behind.
 class PeopleOrder
 {
 public:
@@ -27,8 +28,15 @@ private:
         Person person;
     };
 
+    struct Before
+    {
+        bool operator()(const Entry &left, const Entry &right) const;
+        Qt::SortOrder order = Qt::AscendingOrder;
+    };
+    /// A tree: a portion costs the same whether a thousand or a million are there.
+    using Entries = std::multiset<Entry, Before>;
+
     PersonColumn m_column = PersonColumn::Account;
-    Qt::SortOrder m_order = Qt::AscendingOrder;
     QCollator m_collator;
-    std::vector<Entry> m_entries;
+    Entries m_entries;
 };

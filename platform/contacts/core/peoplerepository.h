@@ -46,7 +46,8 @@ public:
     /// @p limit.
     QStringList unmistakableContactNames(const QString &ownerId, int limit) const;
     Friendship friendship(const QString &ownerId, const QString &personId) const;
-    /// Who has asked @p userId to become a friend, with the user's remarks, by their accounts; at most @p limit.
+    /// Who has asked @p userId to become a friend, with the user's remarks, by their accounts; at most @p
+    /// limit.
     QVector<Person> requestsTo(const QString &userId, int limit) const;
     /// Friends and open requests.
     int friendCount(const QString &ownerId) const;

@@ -28,6 +28,8 @@ QIcon dot(const QColor &color, qreal ratio)
 void CellDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
+    // Rows are picked and pointed at, not cells.
+    option->state &= ~(QStyle::State_MouseOver | QStyle::State_HasFocus);
     const QVariant decoration = index.data(Qt::DecorationRole);
     if (decoration.userType() == QMetaType::QColor) {
         // On the accent colour, a dot in it could not be seen.
@@ -39,29 +41,7 @@ void CellDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelInd
     }
 }
 
-void CellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
-                         const QModelIndex &index) const
-{
-    QStyleOptionViewItem cell = option;
-    initStyleOption(&cell, index);
-    const QStyle *style = cell.widget ? cell.widget->style() : QApplication::style();
-    // The ground is as wide as the cell, what stands on it is not.
-    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
-    if (cell.state.testFlag(QStyle::State_Selected)) {
-        const QColor text = cell.palette.color(cell.state.testFlag(QStyle::State_Active) ? QPalette::Active
-                                                                                         : QPalette::Inactive,
-                                               QPalette::HighlightedText);
-        cell.palette.setColor(QPalette::All, QPalette::Text, text);
-    }
-    cell.state &= ~(QStyle::State_Selected | QStyle::State_MouseOver | QStyle::State_HasFocus);
-    cell.backgroundBrush = Qt::NoBrush;
-    cell.rect.adjust(Padding, 0, -Padding, 0);
-    style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
-}
-
 QSize CellDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    return QStyledItemDelegate::sizeHint(option, index)
-        .grownBy(QMargins(Padding, 0, Padding, 0))
-        .expandedTo(QSize(0, RowHeight));
+    return QStyledItemDelegate::sizeHint(option, index).expandedTo(QSize(0, RowHeight));
 }

@@ -5,7 +5,7 @@
 
 #include <QStyledItemDelegate>
 
-/// Cells whose texts keep away from each other, with room above and below. A colour as decoration is a dot.
+/// Cells with room above and below. A colour as decoration is a dot.
 class CellDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -13,12 +13,8 @@ class CellDelegate : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    /// Between a text and the edge of its cell, beside the style's own.
-    static constexpr int Padding = 4;
     static constexpr int RowHeight = 34;
 
-    void paint(QPainter *painter, const QStyleOptionViewItem &option,
-               const QModelIndex &index) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
 protected:

@@ -14,7 +14,8 @@ namespace {
 constexpr int ControlHeight = 32;
 constexpr int IndicatorExtent = 18;
 constexpr int FieldPadding = 4;
-constexpr int CellMargin = 6; ///< columns never touch
+constexpr int ButtonPadding = 12; ///< on either side of a text
+constexpr int CellMargin = 6;     ///< columns never touch
 
 /// Only for who uses the keyboard.
 void drawFocusRing(const QStyleOption *option, QPainter *painter)
@@ -137,7 +138,10 @@ void LStyle::drawSpinBox(const QStyleOptionSpinBox &option, QPainter *painter, c
 QSize LStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
                                const QWidget *widget) const
 {
-    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type == CT_PushButton) {
+        size.setWidth(qMax(size.width(), contents.width() + 2 * ButtonPadding));
+    }
     if (type == CT_PushButton || type == CT_ComboBox || type == CT_SpinBox || type == CT_LineEdit) {
         return size.expandedTo(QSize(0, ControlHeight));
     }

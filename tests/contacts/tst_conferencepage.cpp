@@ -6,6 +6,7 @@
 #include "paintedcontrast.h"
 #include "testcolumns.h"
 
+#include "window/conferencedetail.h"
 #include "window/legiblecolor.h"
 
 #include <lumo/lguiapplicationhelper.h>
@@ -37,6 +38,12 @@ private Q_SLOTS:
     void aConferenceIsStartedAndEndedByHand();
     void cancellingIsAskedAbout();
     void joiningAsksForThePasscode();
+    void returnJoinsOnlyWhenTheButtonDoes();
+    void aPasscodeIsForOneConference();
+    void returnOpensTheRowWithTheFocus();
+    void returnAfterFoldingOpensTheRowWithTheFocus();
+    void nothingHappensWithoutAConference();
+    void startingWhatHasBeenStartedSaysSo();
     void noPasscodeIsShown();
     void whatCannotBeDoneIsDisabled_data();
     void whatCannotBeDoneIsDisabled();
@@ -339,6 +346,108 @@ void TestConferencePage::joiningAsksForThePasscode()
     QVERIFY(!m_fixture->child<QPushButton>("leave")->isVisible());
     QVERIFY(join->isEnabled());
     QVERIFY(!passcode->isVisible()); // open to everybody
+}
+
+void TestConferencePage::returnJoinsOnlyWhenTheButtonDoes()
+{
+    auto *passcode = m_fixture->child<QLineEdit>("passcode");
+    m_fixture->pick("scope", 1);
+    m_fixture->selectNumber("880100002");
+    passcode->setFocus();
+    QVERIFY(!m_fixture->child<QPushButton>("join")->isEnabled());
+    QTest::keyClick(passcode, Qt::Key_Return);
+    QVERIFY2(m_fixture->told().isEmpty(), qPrintable(m_fixture->told()));
+    QTest::keyClicks(passcode, QStringLiteral("1"));
+    QTest::keyClick(passcode, Qt::Key_Return);
+    QCOMPARE(m_fixture->told(), QStringLiteral("密码不正确，请输入密码后再加入。"));
+}
+
+void TestConferencePage::aPasscodeIsForOneConference()
+{
+    auto *passcode = m_fixture->child<QLineEdit>("passcode");
+    m_fixture->pick("scope", 1);
+    m_fixture->selectNumber("880100002");
+    QTest::keyClicks(passcode, QStringLiteral("135790"));
+    // The table begins anew, with the same conference chosen.
+    m_fixture->world->admin.SetFriendLimit(7);
+    m_fixture->follow();
+    QCOMPARE(passcode->text(), QStringLiteral("135790"));
+    m_fixture->selectNumber("880100004");
+    QVERIFY(passcode->text().isEmpty());
+    m_fixture->selectNumber("880100002");
+    QVERIFY(passcode->isVisible());
+    QVERIFY(!m_fixture->child<QPushButton>("join")->isEnabled());
+}
+
+void TestConferencePage::returnOpensTheRowWithTheFocus()
+{
+    const auto opened = [this] {
+        const auto *detail = m_fixture->window->findChild<ConferenceDetail *>();
+        return detail ? detail->findChild<QLabel *>(QStringLiteral("number"))->text() : QString();
+    };
+    // The tab key makes the first row the current one, and selects none.
+    m_fixture->child<QComboBox>("scope")->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), m_fixture->conferences());
+    QVERIFY(m_fixture->conferences()->currentIndex().isValid());
+    QVERIFY(!m_fixture->conferences()->selectionModel()->hasSelection());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCOMPARE(opened(), QStringLiteral("880100001"));
+    QCOMPARE(m_fixture->page(0)->selected(ConferenceModel::NumberRole).toString(),
+             QStringLiteral("880100001"));
+}
+
+void TestConferencePage::returnAfterFoldingOpensTheRowWithTheFocus()
+{
+    const auto opened = [this] {
+        const auto *detail = m_fixture->window->findChild<ConferenceDetail *>();
+        return detail ? detail->findChild<QLabel *>(QStringLiteral("number"))->text() : QString();
+    };
+    auto *disclosure = m_fixture->child<QToolButton>("ended");
+    m_fixture->selectNumber("880100005");
+    disclosure->setChecked(true);
+    m_fixture->child<QTableView>("endedTable")->selectRow(0);
+    // Back in the upper table, what its row says opens, not what is selected in the other.
+    m_fixture->conferences()->setFocus();
+    QTest::keyClick(m_fixture->conferences(), Qt::Key_Return);
+    QCOMPARE(opened(), QStringLiteral("880100005"));
+    QTest::keyClick(m_fixture->window->findChild<ConferenceDetail *>(), Qt::Key_Escape);
+    QTRY_VERIFY(opened().isEmpty());
+    // Folding leaves nothing selected.
+    m_fixture->child<QTableView>("endedTable")->selectRow(0);
+    disclosure->setChecked(false);
+    m_fixture->conferences()->setFocus();
+    QTest::keyClick(m_fixture->conferences(), Qt::Key_Return);
+    QCOMPARE(opened(), QStringLiteral("880100005"));
+}
+
+void TestConferencePage::nothingHappensWithoutAConference()
+{
+    // A disabled action can still be triggered by the program.
+    const QJsonObject before = m_fixture->world->snapshot();
+    for (const char *name : {"open", "join", "start", "end", "delete", "copyNumber", "export"}) {
+        auto *action = m_fixture->child<QAction>(name);
+        QVERIFY2(!action->isEnabled(), name);
+        action->trigger();
+    }
+    QVERIFY(!m_fixture->window->findChild<QDialog *>());
+    QVERIFY(m_fixture->told().isEmpty());
+    QCOMPARE(m_fixture->world->snapshot(), before);
+}
+
+void TestConferencePage::startingWhatHasBeenStartedSaysSo()
+{
+    m_fixture->selectNumber("880100005");
+    auto *start = m_fixture->child<QAction>("start");
+    QVERIFY(start->isEnabled());
+    // The window follows a moment later.
+    QVERIFY(
+        m_fixture->world->admin.SetConferenceState(QStringLiteral("880100005"), QStringLiteral("running")));
+    m_fixture->world->nowMsecs += 5 * MinuteMsecs;
+    const QJsonObject before = m_fixture->world->snapshot();
+    start->trigger();
+    QCOMPARE(m_fixture->told(), QStringLiteral("会议已有变化，请再看一下它的状态。"));
+    QCOMPARE(m_fixture->world->snapshot(), before);
 }
 
 void TestConferencePage::noPasscodeIsShown()

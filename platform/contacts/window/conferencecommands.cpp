@@ -32,20 +32,22 @@ ConferenceCommands::ConferenceCommands(ContactsBook &book, Administration &admin
     , m_copyNumber(add("copyNumber", QStringLiteral("复制会议号(&C)"), QKeySequence::Copy))
     , m_export(add("export", QStringLiteral("导出日历文件(&X)…"), QKeySequence(QStringLiteral("Ctrl+E"))))
 {
-    connect(m_open, &QAction::triggered, this, &ConferenceCommands::showDetail);
-    connect(m_create, &QAction::triggered, this, &ConferenceCommands::askForConference);
-    connect(m_join, &QAction::triggered, this, &ConferenceCommands::joinChosen);
-    connect(m_start, &QAction::triggered, this, [this] { setState(QStringLiteral("running")); });
-    connect(m_end, &QAction::triggered, this, [this] { setState(QStringLiteral("ended")); });
-    connect(m_cancel, &QAction::triggered, this, &ConferenceCommands::askAndCancel);
-    connect(m_copyNumber, &QAction::triggered, this, [this] {
-        QGuiApplication::clipboard()->setText(m_chosen->dialNumber);
-        Q_EMIT told(QStringLiteral("已复制会议号。"));
-    });
-    connect(m_export, &QAction::triggered, this, [this] {
-        askForCalendarFile(m_window, m_book, m_chosen->dialNumber,
-                           [this](const QString &text) { Q_EMIT told(text); });
-    });
+    const auto run = [this](QAction *action, auto slot) {
+        // QAction::trigger() does not look whether the action is enabled.
+        connect(action, &QAction::triggered, this, [this, action, slot] {
+            if (action->isEnabled()) {
+                (this->*slot)();
+            }
+        });
+    };
+    run(m_open, &ConferenceCommands::showDetail);
+    run(m_create, &ConferenceCommands::askForConference);
+    run(m_join, &ConferenceCommands::joinChosen);
+    run(m_start, &ConferenceCommands::startChosen);
+    run(m_end, &ConferenceCommands::endChosen);
+    run(m_cancel, &ConferenceCommands::askAndCancel);
+    run(m_copyNumber, &ConferenceCommands::copyNumberOfChosen);
+    run(m_export, &ConferenceCommands::exportChosen);
     connect(&m_book, &ContactsBook::changedLately, this, &ConferenceCommands::refresh);
     refresh();
 }
@@ -118,17 +120,54 @@ void ConferenceCommands::askForConference()
 
 void ConferenceCommands::joinChosen()
 {
-    perform(QStringLiteral("Join Conference"),
-            {{JsonKey::ConferenceId, m_chosen->dialNumber}, {JsonKey::Password, m_passcode}});
+    QJsonObject parameters{{JsonKey::ConferenceId, m_chosen->dialNumber}};
+    if (m_options.needsPasscode) {
+        parameters.insert(JsonKey::Password, m_passcode);
+    }
+    perform(QStringLiteral("Join Conference"), parameters);
     Q_EMIT joinTried();
 }
 
-void ConferenceCommands::setState(const QString &state)
+void ConferenceCommands::startChosen()
 {
-    if (m_administration.SetConferenceState(m_chosen->dialNumber, state)) {
-        Q_EMIT told(state == QLatin1String("ended") ? QStringLiteral("会议已结束。")
-                                                    : QStringLiteral("会议已开始。"));
+    readChosen();
+    setState(m_options.start, QStringLiteral("running"), QStringLiteral("会议已开始。"));
+}
+
+void ConferenceCommands::endChosen()
+{
+    readChosen();
+    setState(m_options.end, QStringLiteral("ended"), QStringLiteral("会议已结束。"));
+}
+
+void ConferenceCommands::setState(bool isPossible, const QString &state, const QString &done)
+{
+    const bool isDone = isPossible && m_administration.SetConferenceState(m_chosen->dialNumber, state);
+    Q_EMIT told(isDone ? done : QStringLiteral("会议已有变化，请再看一下它的状态。"));
+}
+
+void ConferenceCommands::readChosen()
+{
+    try {
+        m_chosen = m_book.conferences().byId(m_chosen->id, m_viewer.userId);
+    } catch (const std::exception &error) {
+        qWarning("A conference cannot be read: %s", error.what());
+        m_book.noteFailure(error);
+        m_chosen.reset();
     }
+    refresh();
+}
+
+void ConferenceCommands::copyNumberOfChosen()
+{
+    QGuiApplication::clipboard()->setText(m_chosen->dialNumber);
+    Q_EMIT told(QStringLiteral("已复制会议号。"));
+}
+
+void ConferenceCommands::exportChosen()
+{
+    askForCalendarFile(m_window, m_book, m_chosen->dialNumber,
+                       [this](const QString &text) { Q_EMIT told(text); });
 }
 
 void ConferenceCommands::askAndCancel()

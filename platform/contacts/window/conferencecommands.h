@@ -55,7 +55,13 @@ private:
     void showDetail();
     void askForConference();
     void joinChosen();
-    void setState(const QString &state);
+    void startChosen();
+    void endChosen();
+    void setState(bool isPossible, const QString &state, const QString &done);
+    /// Reads it anew: the tables follow a change a moment later.
+    void readChosen();
+    void copyNumberOfChosen();
+    void exportChosen();
     void askAndCancel();
 
     ContactsBook &m_book;

@@ -184,8 +184,8 @@ void ConferencePage::connectControls()
     connect(m_commands, &ConferenceCommands::joinTried, m_passcode, &QLineEdit::clear);
     connect(m_passcode, &QLineEdit::textChanged, m_commands, &ConferenceCommands::setPasscode);
     connect(m_passcode, &QLineEdit::returnPressed, m_commands->join(), &QAction::trigger);
-    connect(this, &TablePage::activated, m_commands->open(), &QAction::trigger);
-    connect(m_ended->table(), &QAbstractItemView::activated, m_commands->open(), &QAction::trigger);
+    connect(this, &TablePage::activated, this, [this] { openCurrent(table()); });
+    connect(m_ended->table(), &QAbstractItemView::activated, this, [this] { openCurrent(m_ended->table()); });
     connect(m_commands, &ConferenceCommands::made, this, &ConferencePage::selectMade);
     auto *column = static_cast<QVBoxLayout *>(layout());
     connect(m_ended, &EndedConferences::unfolded, this,
@@ -195,7 +195,20 @@ void ConferencePage::connectControls()
 void ConferencePage::chooseSelected()
 {
     const std::optional<Conference> coming = selectedIn(*table());
-    m_commands->choose(coming ? coming : selectedIn(*m_ended->table()));
+    const std::optional<Conference> chosen = coming ? coming : selectedIn(*m_ended->table());
+    if (chosen && chosen->confId != m_lastChosenId) {
+        m_lastChosenId = chosen->confId;
+        m_passcode->clear(); // it was typed for another one
+    }
+    m_commands->choose(chosen);
+}
+
+void ConferencePage::openCurrent(QTableView *view)
+{
+    // The row with the focus is not always the selected one: the tab key selects none, and selecting in one
+    // table clears the selection of the other.
+    view->selectRow(view->currentIndex().row());
+    m_commands->open()->trigger();
 }
 
 void ConferencePage::selectMade(const QString &dialNumber)

@@ -45,6 +45,7 @@ private:
     void setTabOrders();
     void addMenus();
     void chooseSelected();
+    void openCurrent(QTableView *view);
     /// Selects a conference that has just been made.
     void selectMade(const QString &dialNumber);
     void readEnough();
@@ -57,4 +58,5 @@ private:
     EndedConferences *m_ended;
     QComboBox *m_scope;
     QLineEdit *m_passcode;
+    QString m_lastChosenId;
 };

@@ -8,6 +8,7 @@
 #include "names/namelook.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
+#include "words/negation.h"
 
 #include <algorithm>
 
@@ -106,13 +107,9 @@ bool Clause::isAddressing() const
 
 bool Clause::excludesSomebody() const
 {
-    static const QString negations = QStringLiteral("不没别甭勿莫");
     return any([&](std::size_t at) {
         const Token &token = m_tokens[at];
-        const QChar before = charAt(m_reading.sentence().text(), token.position - 1);
-        const bool negated =
-            at > m_begin && (m_tokens[at - 1].is(WordClass::Negation) ||
-                             (m_tokens[at - 1].kind == Token::Kind::Other && negations.contains(before)));
+        const bool negated = at > m_begin && isNegatedBefore(m_reading.sentence().text(), m_tokens, at);
         return negated && token.isAny(WordClass::Trigger | WordClass::Pull) && !token.inName;
     });
 }
@@ -243,8 +240,29 @@ bool Clause::isPast() const
 {
     return !m_isQuery && any([&](std::size_t at) {
         const TimeExpression &time = m_tokens[at].time;
-        return time.day == TimeExpression::Day::Relative && time.dayOffset < 0;
+        return time.day == TimeExpression::Day::Relative && time.dayOffset < 0 && !isModifying(at);
     });
+}
+
+bool Clause::isModifying(std::size_t pastDay) const
+{
+    const QString &text = m_reading.sentence().text();
+    if (charAt(text, m_tokens[pastDay].end()) == QChar(u'的')) { // 昨天的会议
+        return false;
+    }
+    bool joined = false; // 昨天进的会议是123456 only tells
+    for (std::size_t at = m_begin; at < pastDay; ++at) {
+        joined = joined || m_tokens[at].isAny(WordClass::Join | WordClass::WeakJoin);
+    }
+    bool called = false; // 昨天和张伟开会的李娜
+    for (std::size_t at = pastDay + 1; at < m_end; ++at) {
+        if (charAt(text, m_tokens[at].position - 1) == QChar(u'的')) {
+            const bool somebody = m_tokens[at].inName || m_tokens[at].kind == Token::Kind::Name;
+            return (somebody && !called) || (joined && m_tokens[at].is(WordClass::Conference));
+        }
+        called = called || m_tokens[at].isAny(WordClass::Trigger | WordClass::Separator);
+    }
+    return false;
 }
 
 QString Clause::textOf(const Token &token) const

@@ -63,6 +63,8 @@ private:
     bool isSomebody(const Token &token) const;
     /// 昨天和张三开会: nobody opens a conference of a day that is past.
     bool isPast() const;
+    /// 昨天 in 加昨天认识的张伟为好友: the past day only tells who or what is meant.
+    bool isModifying(std::size_t pastDay) const;
     /// 我下午三点有个会: there is one, nobody wants a new one.
     bool isStatement() const;
     /// 会议号是123456, without a word that joins.

@@ -10,6 +10,22 @@
 
 namespace understanding {
 
+/// Whether something is to end, too; 半小时结束 only says how long it takes. In 四点结束 the hour is no
+/// start, so that is asked about.
+static bool alsoEnds(const Reading &reading)
+{
+    const Tokens &tokens = reading.tokens();
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        const std::size_t before = at > 1 && tokens[at - 1].is(WordClass::Filler) ? at - 2 : at - 1; // 就
+        const bool lasting = at > 0 && tokens[before].kind == Token::Kind::Duration;
+        if (!tokens[at].inTopic && !tokens[at].inName && !lasting &&
+            tokens[at].isAny(WordClass::Close | WordClass::CloseAlone)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 /// “开会” is an order, 他说“开会” is none.
 static bool isAllQuoted(const QString &text)
 {
@@ -47,8 +63,7 @@ Verdict judge(const Reading &reading, const QString &intent)
     doubtful = doubtful || (intent == QLatin1String(CreateConference) &&
                             (reading.clockCount() > 1 || reading.namesTwoDays()));
     // 退出会议，安排下: two things at once.
-    doubtful = doubtful || (intent == QLatin1String(CreateConference) &&
-                            reading.hasAny(WordClass::Close | WordClass::CloseAlone));
+    doubtful = doubtful || (intent == QLatin1String(CreateConference) && alsoEnds(reading));
     bool untitled = false; // the name of the conference was not understood
     bool quoted = false;
     bool told = false; // what somebody says or does, before the order

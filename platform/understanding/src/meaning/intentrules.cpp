@@ -4,9 +4,11 @@
 #include "meaning/intentrules.h"
 
 #include "meaning/callings.h"
+#include "names/namelook.h"
 #include "text/rulefile.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
+#include "words/negation.h"
 
 #include <algorithm>
 #include <functional>
@@ -40,6 +42,36 @@ bool isCalled(const Reading &reading)
                        [](const FoundName &name) { return name.behindTrigger; });
 }
 
+/// 李娜不去了，叫上王磊: who stays away is only told, and the order follows in a clause of its own.
+bool isOnlyAbsence(const Reading &reading, std::size_t negation, std::size_t next)
+{
+    const QString &text = reading.sentence().text();
+    const Tokens &tokens = reading.tokens();
+    std::size_t behind = negation;                                   // whoever stays away
+    while (behind > 0 && tokens[behind - 1].is(WordClass::Filler)) { // 也
+        --behind;
+    }
+    if (behind == 0) {
+        return false;
+    }
+    const Token &who = tokens[behind - 1];
+    const bool somebody =
+        who.kind == Token::Kind::Name ||
+        (who.kind == Token::Kind::Other && isPersonsName(text.mid(who.position, who.length)));
+    if (!somebody || !isAbsence(text, tokens[negation]) || !tokens[next].is(WordClass::Punctuation)) {
+        return false;
+    }
+    for (std::size_t at = next + 1; at < tokens.size(); ++at) {
+        const bool calls =
+            tokens[at].isAny(WordClass::Request | WordClass::Pull | WordClass::Invite | WordClass::Trigger) &&
+            !tokens[at].is(WordClass::Separator);
+        if (calls && !tokens[at].inTopic && !isNegatedBefore(text, tokens, at)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 /// 不想 ... 开会: the refusal stands right before what would be done.
 bool isNegated(const Reading &reading)
 {
@@ -64,8 +96,10 @@ bool isNegated(const Reading &reading)
                                             tokens.cend(), [](const Token &token) {
                                                 return token.isAny(WordClass::Close | WordClass::CloseAlone);
                                             });
-        const bool itself = firstOf(reading.sentence().text(), tokens[at].position, {u"不参加", u"不去"}) > 0;
-        if ((itself || tokens[next].isAny(deeds)) && !endFollows) {
+        if (isOnlyAbsence(reading, at, next)) {
+            continue;
+        }
+        if ((isAbsence(reading.sentence().text(), tokens[at]) || tokens[next].isAny(deeds)) && !endFollows) {
             return true;
         }
     }

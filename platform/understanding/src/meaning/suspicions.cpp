@@ -9,29 +9,50 @@
 
 namespace understanding {
 
+/// True when the token at @p at says who is meant, unless 的 makes that person's something of it: 张伟的会议.
+static bool isOther(const Reading &reading, std::size_t at)
+{
+    const Tokens &tokens = reading.tokens();
+    if (at >= tokens.size() || !(tokens[at].inName || tokens[at].kind == Token::Kind::Name ||
+                                 tokens[at].is(WordClass::Actor) || tokens[at].is(WordClass::Title))) {
+        return false;
+    }
+    while (at + 1 < tokens.size() && tokens[at + 1].inName) {
+        ++at;
+    }
+    return charAt(reading.sentence().text(), tokens[at].end()) != QChar(u'的');
+}
+
+/// True for 请, 帮我 and 麻烦, which ask for something to be done, unlike 可以, 能 and 我想.
+static bool isPlea(const QString &text, const Token &token)
+{
+    static const QString beginnings = QStringLiteral("帮请烦麻劳拜敬现给替为吧");
+    return token.is(WordClass::Request) && beginnings.contains(text.at(token.position));
+}
+
 bool isLeftByOther(const Reading &reading)
 {
+    static const QString moving = QStringLiteral("把将带拉帮给替");
     static const QStringList calls = {QStringLiteral("让"), QStringLiteral("叫"), QStringLiteral("请"),
                                       QStringLiteral("喊"), QStringLiteral("通知")};
-    static const QStringList orders = {QStringLiteral("帮"), QStringLiteral("给我"), QStringLiteral("麻烦"),
-                                       QStringLiteral("吧")};
     const QString &text = reading.sentence().text();
     const Tokens &tokens = reading.tokens();
     bool served = false;
     bool asked = reading.isAsked();
     for (std::size_t at = 0; at < tokens.size(); ++at) {
-        const QString word = text.mid(tokens[at].position, tokens[at].length);
+        const Token &token = tokens[at];
+        const QString word = text.mid(token.position, token.length);
         const bool other =
             at + 1 < tokens.size() && (tokens[at + 1].inName || tokens[at + 1].is(WordClass::Actor) ||
                                        tokens[at + 1].is(WordClass::Title));
-        const bool noun = tokens[at].is(WordClass::Close) && tokens[at].end() + 1 < text.size() &&
-                          text.at(tokens[at].end()) == QChar(u'的');
-        if ((calls.contains(word) && other && !tokens[at].inName) || noun) {
+        const bool noun = token.is(WordClass::Close) && token.end() + 1 < text.size() &&
+                          text.at(token.end()) == QChar(u'的');
+        const bool moved = moving.contains(text.at(token.end() - 1)) && isOther(reading, at + 1);
+        if ((((calls.contains(word) && other) || moved) && !token.inName) || noun) {
             return true;
         }
-        served = served || std::any_of(orders.cbegin(), orders.cend(),
-                                       [&](const QString &order) { return word.startsWith(order); });
-        asked = asked || tokens[at].is(WordClass::QuestionParticle);
+        served = served || isPlea(text, token);
+        asked = asked || token.is(WordClass::QuestionParticle);
     }
     return asked && !served;
 }
@@ -85,14 +106,41 @@ bool holdsSeveralNumbers(const Reading &reading)
            }) > 1;
 }
 
+/// 下雨的话, 客户到了的话, but not 可以的话 and 明天三点的话: more than politeness and a time stands before
+/// 的话.
+static bool endsCondition(const Reading &reading, std::size_t begin, std::size_t at)
+{
+    const Tokens &tokens = reading.tokens();
+    if (!tokens[at].is(WordClass::Filler) ||
+        !reading.sentence().text().midRef(0, tokens[at].end()).endsWith(QStringLiteral("的话"))) {
+        return false;
+    }
+    static const QString addressed = QStringLiteral("你您");
+    return std::any_of(tokens.cbegin() + static_cast<std::ptrdiff_t>(begin),
+                       tokens.cbegin() + static_cast<std::ptrdiff_t>(at), [&](const Token &token) {
+                           return !token.isAny(WordClass::Filler | WordClass::Request) &&
+                                  token.kind != Token::Kind::Space && token.kind != Token::Kind::Time &&
+                                  !addressed.contains(reading.sentence().text().at(token.position));
+                       });
+}
+
+/// 若明天下雨, 若客户到了; 若曦 is a name.
+static bool isWhether(const QString &text, const Token &token)
+{
+    return token.kind == Token::Kind::Other && token.length != 2 && text.at(token.position) == QChar(u'若');
+}
+
 bool isConditional(const Reading &reading)
 {
     static const QStringList conditions = {
         QStringLiteral("如果"), QStringLiteral("要是"), QStringLiteral("假如"), QStringLiteral("假设"),
-        QStringLiteral("只要"), QStringLiteral("除非"), QStringLiteral("一旦"), QStringLiteral("万一")};
+        QStringLiteral("只要"), QStringLiteral("除非"), QStringLiteral("一旦"), QStringLiteral("万一"),
+        QStringLiteral("倘若"), QStringLiteral("倘使"), QStringLiteral("假使"), QStringLiteral("假若"),
+        QStringLiteral("若是")};
     const QString &text = reading.sentence().text();
     const Tokens &tokens = reading.tokens();
-    bool begins = true; // a clause
+    std::size_t begin = 0; // of the clause
+    bool begins = true;
     bool timed = false; // 今晚九点等孩子睡了: the hour was said
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         const Token &token = tokens[at];
@@ -104,12 +152,16 @@ bool isConditional(const Reading &reading)
             conditions.contains(text.mid(token.position, token.length))) {
             return true;
         }
+        if (told && ((begins && isWhether(text, token)) || endsCondition(reading, begin, at))) {
+            return true;
+        }
         // 等张伟回来再开会, but 把老林拉进来，等他半天了
         if (told && waits && !timed &&
             std::any_of(tokens.cbegin() + static_cast<std::ptrdiff_t>(at), tokens.cend(), isDeed)) {
             return true;
         }
         timed = (timed || token.time.hasClock) && !token.is(WordClass::Punctuation);
+        begin = token.is(WordClass::Punctuation) ? at + 1 : begin;
         begins = tokens[at].is(WordClass::Punctuation) ||
                  (begins && (tokens[at].is(WordClass::Filler) || tokens[at].kind == Token::Kind::Time));
     }

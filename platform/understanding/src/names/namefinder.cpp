@@ -9,6 +9,7 @@
 #include "names/nameplaces.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
+#include "words/negation.h"
 
 #include <algorithm>
 
@@ -70,10 +71,13 @@ private:
                 token.is(WordClass::Separator) && !token.is(WordClass::Trigger) && !m_listed;
             const std::size_t before = m_names.size();
             const std::size_t last = takeZone(at, token.is(WordClass::WeakTrigger) || clauseSign);
-            if (m_places.isNegatedBefore(at)) { // 不叫李娜
+            if (isNegatedBefore(m_text, m_tokens, at)) { // 不叫李娜
                 m_names.resize(before);
             }
             return last;
+        }
+        if (isAbsent(m_text, m_tokens, at)) { // 李娜不去了，叫上王磊
+            return at;
         }
         if (token.kind == Token::Kind::Name) {
             addKnown(token, false);
@@ -298,9 +302,7 @@ private:
             m_modifierStart = m_modifierStart < 0 ? start : m_modifierStart;
             return last;
         }
-        static const QString prefixes = QStringLiteral("小老阿大");
-        if (nameFollows && prefixes.contains(run.at(run.size() - 1)) &&
-            isModifier(run.chopped(1))) { // 设计师阿B
+        if (nameFollows && isNamePrefix(run.at(run.size() - 1)) && isModifier(run.chopped(1))) { // 设计师阿B
             addOne(end - 1, m_tokens[next].end() - end + 1, true);
             m_names.back().start = m_modifierStart >= 0 ? m_modifierStart : start;
             m_modifierStart = -1;

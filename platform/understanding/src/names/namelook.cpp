@@ -75,9 +75,14 @@ bool startsTwoCharacterSurname(const QString &text)
 
 } // namespace
 
+bool isNamePrefix(QChar character)
+{
+    static const QString prefixes = QStringLiteral("小老阿大");
+    return prefixes.contains(character);
+}
+
 bool looksLikeName(const QString &text)
 {
-    static const QString prefixes = QStringLiteral("小老阿大二");
     if (text.size() < 2) {
         return false;
     }
@@ -88,7 +93,8 @@ bool looksLikeName(const QString &text)
         return true;
     }
     return text.size() <= LongestFullName &&
-           (isSurname(text.at(0)) || (text.size() <= 3 && prefixes.contains(text.at(0))));
+           (isSurname(text.at(0)) ||
+            (text.size() <= 3 && (isNamePrefix(text.at(0)) || text.at(0) == QChar(u'二'))));
 }
 
 bool isSurnameWithTitle(const QString &text)
@@ -100,7 +106,6 @@ bool isSurnameWithTitle(const QString &text)
 
 bool isPersonsName(const QString &text)
 {
-    static const QString prefixes = QStringLiteral("小老阿大");
     if (isSurnameWithTitle(text)) {
         return true;
     }
@@ -116,16 +121,16 @@ bool isPersonsName(const QString &text)
         return text.size() == 3 || text.size() == 4;
     }
     // 小鹿姐
-    if (text.size() == 3 && prefixes.contains(text.at(0)) &&
+    if (text.size() == 3 && isNamePrefix(text.at(0)) &&
         Lexicon::instance().classesOf(text.right(1)).has(WordClass::Title)) {
         return true;
     }
     // 小王老师
-    if (text.size() == 4 && prefixes.contains(text.at(0)) && isSurname(text.at(1)) &&
+    if (text.size() == 4 && isNamePrefix(text.at(0)) && isSurname(text.at(1)) &&
         Lexicon::instance().classesOf(text.right(2)).has(WordClass::Title)) {
         return true;
     }
-    return (text.size() == 2 && prefixes.contains(text.at(0))) ||
+    return (text.size() == 2 && isNamePrefix(text.at(0))) ||
            ((text.size() == 2 || text.size() == 3) && isSurname(text.at(0)));
 }
 
@@ -151,15 +156,25 @@ int nameLengthAt(const QString &text, int at)
 
 } // namespace
 
+/// 老婆 in 小李老婆, 大师 in 小赵大师: whose or what somebody is, not somebody else.
+static bool isRoleOrKin(const QString &text)
+{
+    static const QString kin = QStringLiteral("妈爸娘爹姐哥弟妹爷奶姨舅叔伯姑婶嫂婆公伴师板");
+    return kin.contains(text.at(text.size() - 1)) ||
+           Lexicon::instance().classesOf(text).has(WordClass::Title);
+}
+
 /// 小蔡小高, 大乔小乔: each begins as people call one another.
 static QStringList splitFamiliarNames(const QString &text)
 {
-    static const QString prefixes = QStringLiteral("小老阿大");
+    if (endsLikeName(text)) { // 老王小组
+        return {};
+    }
     QStringList names;
     for (int at = 0; at < text.size(); at += 2) {
         const QString name = text.mid(at, 2);
-        const bool titled = at > 0 && Lexicon::instance().classesOf(name).has(WordClass::Title); // 小王老师
-        if (name.size() < 2 || titled || !prefixes.contains(name.at(0)) || prefixes.contains(name.at(1))) {
+        const bool titled = at > 0 && isRoleOrKin(name); // 小王老师
+        if (name.size() < 2 || titled || !isNamePrefix(name.at(0)) || isNamePrefix(name.at(1))) {
             return {};
         }
         names.append(name);

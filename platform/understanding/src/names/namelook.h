@@ -11,6 +11,9 @@ namespace understanding {
 /// True when @p text looks like the name of a person or a team: 赵云, 小李, 王总, 产品部, Jerry.
 bool looksLikeName(const QString &text);
 
+/// True for 小, 老, 阿 and 大, which make a familiar name: 小李.
+bool isNamePrefix(QChar character);
+
 /// True for a family name with a title: 王总, 张老师, 欧阳主任.
 bool isSurnameWithTitle(const QString &text);
 

@@ -22,15 +22,6 @@ bool NamePlaces::standsApartBehind(std::size_t at) const
            m_tokens[at + 1].isAny(WordClass::Punctuation | WordClass::Separator);
 }
 
-bool NamePlaces::isNegatedBefore(std::size_t at) const
-{
-    static const QString negations = QStringLiteral("不没别甭勿莫");
-    return at > 0 &&
-           (m_tokens[at - 1].is(WordClass::Negation) ||
-            (m_tokens[at - 1].kind == Token::Kind::Other && m_tokens[at - 1].end() == m_tokens[at].position &&
-             negations.contains(m_text.at(m_tokens[at].position - 1))));
-}
-
 bool NamePlaces::hasConference() const
 {
     return std::any_of(m_tokens.cbegin(), m_tokens.cend(),
@@ -53,8 +44,9 @@ std::size_t NamePlaces::endOfModifier(std::size_t at) const
                                     WordClass::IdLabel | WordClass::Filler | WordClass::Reported;
     for (std::size_t next = at; next < qMin(m_tokens.size(), at + longest); ++next) {
         const Token &token = m_tokens[next];
-        const bool dayOfMonth = token.kind == Token::Kind::Time && next == at && !token.time.hasClock &&
-                                token.time.day == TimeExpression::Day::DayOfMonth;
+        const bool past = token.time.day == TimeExpression::Day::Relative && token.time.dayOffset < 0;
+        const bool plainDay = token.kind == Token::Kind::Time && next == at && !token.time.hasClock &&
+                              (past || token.time.day == TimeExpression::Day::DayOfMonth);
         if (token.inTopic || (next > at && token.position != m_tokens[next - 1].end())) {
             return at;
         }
@@ -75,7 +67,7 @@ std::size_t NamePlaces::endOfModifier(std::size_t at) const
             if (of >= 0) {
                 return at;
             }
-        } else if (!dayOfMonth && token.kind != Token::Kind::Number && token.kind != Token::Kind::Latin &&
+        } else if (!plainDay && token.kind != Token::Kind::Number && token.kind != Token::Kind::Latin &&
                    !token.isAny(between) && !(token.length == 1 && token.classes.isEmpty())) {
             return at;
         }

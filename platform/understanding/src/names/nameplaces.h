@@ -21,8 +21,6 @@ public:
     [[nodiscard]] bool standsApartBefore(std::size_t at) const;
     [[nodiscard]] bool standsApartBehind(std::size_t at) const;
     [[nodiscard]] bool hasConference() const;
-    /// 叫 in 不叫李娜.
-    [[nodiscard]] bool isNegatedBefore(std::size_t at) const;
     /// 居委会 in 居委会的小乔.
     [[nodiscard]] bool isPlainBeforeName(std::size_t at) const;
     /// 兄弟 in 和兄弟王磊开会.

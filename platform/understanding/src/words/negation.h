@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "words/token.h"
+
+namespace understanding {
+
+/// True for 叫 in 不叫李娜 and for 带 in 别带小王: what stands right before the word at @p at negates it.
+[[nodiscard]] bool isNegatedBefore(const QString &text, const Tokens &tokens, std::size_t at);
+
+/// True for 不参加了 and 不去.
+[[nodiscard]] bool isAbsence(const QString &text, const Token &token);
+
+/// True for 李娜 in 李娜不去了: an absence follows the token at @p at.
+[[nodiscard]] bool isAbsent(const QString &text, const Tokens &tokens, std::size_t at);
+
+} // namespace understanding

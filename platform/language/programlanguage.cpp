@@ -22,6 +22,19 @@ QLocale localeOf(const QString &code)
     return user.language() == language.language() && user.script() == language.script() ? user : language;
 }
 
+/// Whoever asks for the C locale, as scripts do, wants no other language, also where a list of languages is
+/// set. Qt knows it by its bare name only.
+bool isLocaleOfNobody()
+{
+    QByteArray locale;
+    for (const char *variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        if (locale.isEmpty()) {
+            locale = qgetenv(variable);
+        }
+    }
+    return locale == "C" || locale == "POSIX" || locale.startsWith("C.");
+}
+
 } // namespace
 
 ProgramLanguage::ProgramLanguage(const QString &program) : m_program(program), m_code(English) {}
@@ -38,6 +51,10 @@ QStringList ProgramLanguage::codes() const
 
 void ProgramLanguage::followUser()
 {
+    if (isLocaleOfNobody()) {
+        install(English);
+        return;
+    }
     const QStringList known = codes();
     const QStringList wanted = QLocale::system().uiLanguages();
     for (const QString &name : wanted) {
@@ -80,8 +97,12 @@ void ProgramLanguage::install(const QString &code)
     if (m_toolkitTexts.load(QStringLiteral("qtbase_") + code,
                             QLibraryInfo::location(QLibraryInfo::TranslationsPath))) {
         QCoreApplication::installTranslator(&m_toolkitTexts);
+    } else {
+        qWarning("Qt's own texts stay English: there is no translation to %s.", qUtf8Printable(code));
     }
     if (m_texts.load(m_program + QLatin1Char('_') + code, Folder)) {
         QCoreApplication::installTranslator(&m_texts);
+    } else {
+        qWarning("The translation to %s cannot be read.", qUtf8Printable(code));
     }
 }

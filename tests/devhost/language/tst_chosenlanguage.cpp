@@ -91,6 +91,8 @@ void TestChosenLanguage::localeChooses_data()
     QTest::newRow("all before messages") << Environment{{all, english}, {messages, chinese}} << English;
     QTest::newRow("the first of a list that there is")
         << Environment{{lang, english}, {languages, QStringLiteral("de:zh_CN:en")}} << Chinese;
+    QTest::newRow("no locale, whatever the list says")
+        << Environment{{all, QStringLiteral("C.UTF-8")}, {languages, QStringLiteral("zh_CN:zh")}} << English;
     QTest::newRow("English before Chinese")
         << Environment{{lang, chinese}, {languages, QStringLiteral("en_GB:zh_CN")}} << English;
 }

@@ -217,11 +217,9 @@ QDBusError BusLink::connectToBus(const PendingRequest &request)
     }
     const QDBusConnection bus = openConnection(request);
     if (!bus.isConnected()) {
-        const QDBusError error = bus.lastError();
         disconnectFromBus();
-        return error.isValid() ? error
-                               : QDBusError(QDBusError::NoServer,
-                                            QStringLiteral("nobody answers at the session bus's address"));
+        return QDBusError(QDBusError::NoServer,
+                          QStringLiteral("nobody answers at the session bus's address"));
     }
     m_proxy = std::make_unique<Contact1Proxy>(BusName::service(), BusName::contactPath(), bus);
     return {};

@@ -56,7 +56,8 @@ private:
     /// Makes a connection unless there is one that works. @return what is wrong with it, nothing when it
     /// works.
     QDBusError connectToBus(const PendingRequest &request);
-    /// Waits for a bus that answers, as long as the request has time.
+    /// Not connected where nobody answers; tries again while the environment names another bus and the
+    /// request has time.
     QDBusConnection openConnection(const PendingRequest &request);
     void disconnectFromBus();
 

@@ -44,7 +44,7 @@ void LauncherDesk::run(const QString &id, Place place)
 {
     const LauncherAct act = m_matcher.take(id);
     if (act.isEmpty()) {
-        notify(tr("Not carried out"), tr("This entry has expired; please type it again."));
+        notify(tr("Not carried out"), tr("This entry has expired; please type it again."), Told::NowhereElse);
         return;
     }
     // Cards belong to the window from the start, shown or not.
@@ -81,17 +81,20 @@ void LauncherDesk::showWindow()
     window().activateWindow();
 }
 
-void LauncherDesk::notify(const QString &title, const QString &text)
+void LauncherDesk::notify(const QString &title, const QString &text, Told told)
 {
     Notification notification;
     notification.summary = title;
     notification.body = text;
     notification.actions = QStringList{Click, tr("Open")};
-    m_notifier.show(notification, [this](Notifier::Result result, quint32 id) {
+    m_notifier.show(notification, [this, text, told](Notifier::Result result, quint32 id) {
         if (result == Notifier::Result::Shown) {
             m_notifications.insert(id);
         } else {
             showWindow();
+            if (told == Told::NowhereElse) {
+                window().showProblem(text);
+            }
         }
     });
 }
@@ -107,7 +110,7 @@ void LauncherDesk::showReply(const Turn &turn)
     if (!turn.cardClass.isEmpty() || !turn.endOfSession || m_conversation.expectsSecret()) {
         showWindow();
     } else if (!window().isActiveWindow()) {
-        notify(title, turn.failure.isEmpty() ? turn.display : turn.failure);
+        notify(title, turn.failure.isEmpty() ? turn.display : turn.failure, Told::InConversation);
     }
 }
 

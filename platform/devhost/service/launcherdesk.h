@@ -44,11 +44,14 @@ public:
     void openWith(const QString &text);
 
 private:
+    /// Where else the user finds what a notification says.
+    enum class Told { InConversation, NowhereElse };
+
     MainWindow &window();
     void showWindow();
     void showReply(const Turn &turn);
     /// As a notification; in the window where the desktop shows none.
-    void notify(const QString &title, const QString &text);
+    void notify(const QString &title, const QString &text, Told told);
 
     Conversation &m_conversation;
     Notifier m_notifier;

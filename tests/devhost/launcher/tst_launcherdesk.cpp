@@ -97,6 +97,7 @@ private Q_SLOTS:
     void withoutNotificationsTheWindowComes();
     void clickOnANotificationBringsUpTheWindow();
     void unknownActIsSaidToBeGone();
+    void unknownActIsSaidInTheWindowWhereNobodyNotifies();
     void searchGoesOnInTheWindow();
     void menuAsksForTheApplicationsWindowInItsUsersName();
 };
@@ -212,6 +213,16 @@ void TestLauncherDesk::unknownActIsSaidToBeGone()
     QTRY_COMPARE(server.shown.size(), 1);
     QCOMPARE(server.last().summary, QStringLiteral("没有执行"));
     QCOMPARE(desk.conversation().lastTurn(), 0);
+}
+
+void TestLauncherDesk::unknownActIsSaidInTheWindowWhereNobodyNotifies()
+{
+    Desk desk;
+    desk->run(QStringLiteral("nonsense"), LauncherDesk::Place::WhereItFits);
+    QTRY_VERIFY(Desk::window() != nullptr);
+    const auto *problem = Desk::window()->findChild<QLabel *>(QStringLiteral("problem"));
+    QTRY_VERIFY(problem->isVisible());
+    QCOMPARE(problem->text(), QStringLiteral("这一条已经失效，请重新输入。"));
 }
 
 void TestLauncherDesk::searchGoesOnInTheWindow()

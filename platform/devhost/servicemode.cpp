@@ -51,7 +51,7 @@ ExitStatus runService(const Options &options, PluginHost &host, LogRecorder &log
     case LauncherBus::Start::Done:
         break;
     case LauncherBus::Start::AlreadyRunning:
-        return complain(EverythingAnswered, Options::tr("The launchers are served already."));
+        return complain(EverythingAnswered, Options::tr("Another instance already serves the launchers."));
     case LauncherBus::Start::NoBus:
     case LauncherBus::Start::Refused:
         return complain(SomethingBroken, Options::tr("The session bus refuses the service."));

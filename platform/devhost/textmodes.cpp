@@ -75,7 +75,7 @@ ExitStatus runTextMode(const Options &options, PluginHost &host, LogRecorder &lo
     std::istream &input = isStandardInput ? std::cin : file;
     const Screenshots screenshots(options.screenshots);
     if (!screenshots.prepare()) {
-        complain(Options::tr("The folder %1 cannot be made.").arg(options.screenshots));
+        complain(Options::tr("The folder %1 cannot be created.").arg(options.screenshots));
         return WrongUsage;
     }
     QStringList names;

@@ -56,8 +56,8 @@ int runWindow(const Options &options, PluginHost &host, LogRecorder &logs)
     if (!options.input.isEmpty()) {
         script.open(QFile::encodeName(options.input).constData(), std::ios::binary);
         if (!script || (!options.screenshots.isEmpty() && !QDir().mkpath(options.screenshots))) {
-            complain(
-                Options::tr("%1 cannot be read, or the folder for pictures not be made.").arg(options.input));
+            complain(Options::tr("%1 cannot be read, or the folder for the pictures cannot be created.")
+                         .arg(options.input));
             return WrongUsage;
         }
     }

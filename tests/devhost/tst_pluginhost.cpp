@@ -72,9 +72,9 @@ void TestPluginHost::unusablePluginIsExplained_data()
     QTest::newRow("a folder") << QStringLiteral("/") << none << none << int(PluginProblem::Missing)
                               << QStringLiteral("/");
     QTest::newRow("a text") << QStringLiteral(CONTACT_SOURCE_DIR "/CMakeLists.txt") << none << none
-                            << int(PluginProblem::NotAPlugin) << QStringLiteral("no Qt plugin");
+                            << int(PluginProblem::NotAPlugin) << QStringLiteral("not a Qt plugin");
     QTest::newRow("a library") << QStringLiteral(PLAIN_LIBRARY) << none << none
-                               << int(PluginProblem::NotAPlugin) << QStringLiteral("no Qt plugin");
+                               << int(PluginProblem::NotAPlugin) << QStringLiteral("not a Qt plugin");
     QTest::newRow("another interface")
         << QStringLiteral(OTHER_PLUGIN) << none << none << int(PluginProblem::OtherInterface)
         << QStringLiteral("org.example.other.1");

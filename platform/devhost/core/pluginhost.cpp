@@ -89,7 +89,7 @@ bool PluginHost::check()
     m_loader.setFileName(m_path);
     const QJsonObject metaData = m_loader.metaData();
     if (metaData.isEmpty()) {
-        return fail(PluginProblem::NotAPlugin, tr("%1 is no Qt plugin.").arg(m_path),
+        return fail(PluginProblem::NotAPlugin, tr("%1 is not a Qt plugin.").arg(m_path),
                     tr("Give the plugin's own file, such as libcontact-plugin.so; "
                        "its class needs Q_PLUGIN_METADATA."));
     }
@@ -108,7 +108,7 @@ bool PluginHost::start(QObject *root)
     auto *plugin = qobject_cast<IServicePlugin *>(root);
     if (plugin == nullptr) {
         return fail(PluginProblem::OtherInterface,
-                    tr("The root object of %1 is no IServicePlugin.").arg(m_path),
+                    tr("The root object of %1 is not an IServicePlugin.").arg(m_path),
                     tr("Its class needs Q_INTERFACES(IServicePlugin)."));
     }
     int code = 0;

@@ -47,7 +47,7 @@
     <name>devhost::Batch</name>
     <message>
         <source>line %1: later reply: %2</source>
-        <translation>第 %1 行：后来的回复：%2</translation>
+        <translation>第 %1 行：稍后的回复：%2</translation>
     </message>
     <message>
         <source>longer than 1 MiB, skipped</source>
@@ -402,7 +402,7 @@
         <translation>没有会话总线。</translation>
     </message>
     <message>
-        <source>The launchers are served already.</source>
+        <source>Another instance already serves the launchers.</source>
         <translation>启动器已经有服务。</translation>
     </message>
     <message>
@@ -410,11 +410,11 @@
         <translation>会话总线拒绝了这个服务。</translation>
     </message>
     <message>
-        <source>The folder %1 cannot be made.</source>
+        <source>The folder %1 cannot be created.</source>
         <translation>无法创建文件夹 %1。</translation>
     </message>
     <message>
-        <source>%1 cannot be read, or the folder for pictures not be made.</source>
+        <source>%1 cannot be read, or the folder for the pictures cannot be created.</source>
         <translation>无法读取 %1，或者无法创建图片的文件夹。</translation>
     </message>
 </context>
@@ -448,7 +448,7 @@
         <translation>请检查 --plugin 后面的路径。</translation>
     </message>
     <message>
-        <source>%1 is no Qt plugin.</source>
+        <source>%1 is not a Qt plugin.</source>
         <translation>%1 不是 Qt 插件。</translation>
     </message>
     <message>
@@ -464,7 +464,7 @@
         <translation>请用这个主机的头文件编译插件，或者使用插件所对应的主机。</translation>
     </message>
     <message>
-        <source>The root object of %1 is no IServicePlugin.</source>
+        <source>The root object of %1 is not an IServicePlugin.</source>
         <translation>%1 的根对象不是 IServicePlugin。</translation>
     </message>
     <message>

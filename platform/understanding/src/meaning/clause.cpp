@@ -251,14 +251,16 @@ bool Clause::isModifying(std::size_t pastDay) const
         return false;
     }
     bool joined = false; // 昨天进的会议是123456 only tells
+    bool led = false;    // 昨天发起会议的张伟 orders nothing
     for (std::size_t at = m_begin; at < pastDay; ++at) {
+        led = led || m_tokens[at].isAny(WordClass::Trigger | WordClass::Pull | WordClass::Add);
         joined = joined || m_tokens[at].isAny(WordClass::Join | WordClass::WeakJoin);
     }
     bool called = false; // 昨天和张伟开会的李娜
     for (std::size_t at = pastDay + 1; at < m_end; ++at) {
         if (charAt(text, m_tokens[at].position - 1) == QChar(u'的')) {
             const bool somebody = m_tokens[at].inName || m_tokens[at].kind == Token::Kind::Name;
-            return (somebody && !called) || (joined && m_tokens[at].is(WordClass::Conference));
+            return (somebody && led && !called) || (joined && m_tokens[at].is(WordClass::Conference));
         }
         called = called || m_tokens[at].isAny(WordClass::Trigger | WordClass::Separator);
     }

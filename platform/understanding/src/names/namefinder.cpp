@@ -71,8 +71,9 @@ private:
                 token.is(WordClass::Separator) && !token.is(WordClass::Trigger) && !m_listed;
             const std::size_t before = m_names.size();
             const std::size_t last = takeZone(at, token.is(WordClass::WeakTrigger) || clauseSign);
-            if (isNegatedBefore(m_text, m_tokens, at)) { // 不叫李娜
+            if (isNegatedBefore(m_text, m_tokens, at)) { // 不叫李娜，叫张伟
                 m_names.resize(before);
+                return m_places.endOfClause(at, last);
             }
             return last;
         }

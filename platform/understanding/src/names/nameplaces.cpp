@@ -22,6 +22,14 @@ bool NamePlaces::standsApartBehind(std::size_t at) const
            m_tokens[at + 1].isAny(WordClass::Punctuation | WordClass::Separator);
 }
 
+std::size_t NamePlaces::endOfClause(std::size_t at, std::size_t last) const
+{
+    while (at < last && (!m_tokens[at].is(WordClass::Punctuation) || m_tokens[at].is(WordClass::Separator))) {
+        ++at;
+    }
+    return at;
+}
+
 bool NamePlaces::hasConference() const
 {
     return std::any_of(m_tokens.cbegin(), m_tokens.cend(),

@@ -21,6 +21,8 @@ public:
     [[nodiscard]] bool standsApartBefore(std::size_t at) const;
     [[nodiscard]] bool standsApartBehind(std::size_t at) const;
     [[nodiscard]] bool hasConference() const;
+    /// The sign from @p at on that ends the clause, @p last where there is none before it.
+    [[nodiscard]] std::size_t endOfClause(std::size_t at, std::size_t last) const;
     /// 居委会 in 居委会的小乔.
     [[nodiscard]] bool isPlainBeforeName(std::size_t at) const;
     /// 兄弟 in 和兄弟王磊开会.

@@ -29,7 +29,6 @@ ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administratio
 {
     setWindowIcon(applicationIcon());
     new WindowTitle(*this, *m_pages, book);
-    setAttribute(Qt::WA_QuitOnClose, false);
 
     auto *conferences = new ConferencePage(new ConferenceModel(book), book, administration);
     connect(conferences, &ConferencePage::told, this, &ContactsWindow::tell);

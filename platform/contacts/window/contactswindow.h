@@ -17,7 +17,8 @@ class ResultLabel;
 
 /**
  * The application's window: conferences and people, and everything that decides outcomes, to be tried by
- * hand. Closing it only hides it; the application goes on serving.
+ * hand. Closing it only hides it. Whether the application then goes on serving is not its decision: see
+ * endWithLastWindowUnless().
  */
 class ContactsWindow : public QWidget
 {

@@ -24,6 +24,8 @@ private Q_SLOTS:
     void onlyContactsAreFound();
     void whatIsTypedIsCompleted();
     void returnPicksTheOnlyOne();
+    void returnPicksWhileSomebodyIsOffered();
+    void anExactMatchWins();
     void whoIsPickedCanBeRemoved();
     void noMoreThanFitCanBePicked();
     void passcodesAreDotsUntilAskedFor();
@@ -144,6 +146,48 @@ void TestInviteeField::returnPicksTheOnlyOne()
     QTest::keyClick(field.edit, Qt::Key_Return);
     QCOMPARE(field.field.people().value(0).name, QStringLiteral("赵磊"));
     QVERIFY(told.isEmpty());
+}
+
+void TestInviteeField::returnPicksWhileSomebodyIsOffered()
+{
+    Field field;
+    QVERIFY(QTest::qWaitForWindowExposed(&field.field));
+    field.type(QStringLiteral("李娜"));
+    QVERIFY(field.completer->popup()->isVisible());
+    QVERIFY(!field.completer->popup()->selectionModel()->hasSelection());
+    // The keys go to the popup while it is open.
+    QTest::keyClick(field.completer->popup(), Qt::Key_Return);
+    QCOMPARE(field.accounts(), QStringList(QStringLiteral("100003")));
+    QVERIFY(!field.completer->popup()->isVisible());
+    QSignalSpy told(&field.field, &InviteeField::told);
+    field.type(QStringLiteral("李"));
+    QTest::keyClick(field.completer->popup(), Qt::Key_Enter);
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(field.accounts().size(), 1);
+    QVERIFY(field.completer->popup()->isVisible());
+}
+
+void TestInviteeField::anExactMatchWins()
+{
+    Field field;
+    const auto add = [&field](const QString &account, const QString &name) {
+        return field.world.admin.AddPerson(account, name, QStringLiteral("free")) &&
+               field.world.admin.AddContact(QStringLiteral("100001"), account, QString(),
+                                            QStringLiteral("friend"));
+    };
+    QVERIFY(add(QStringLiteral("300001"), QStringLiteral("程昱")));
+    QVERIFY(add(QStringLiteral("300002"), QStringLiteral("程昱文")));
+    field.edit->setText(QStringLiteral("程昱"));
+    QTest::keyClick(field.edit, Qt::Key_Return);
+    QCOMPARE(field.accounts(), QStringList(QStringLiteral("300001")));
+    // Two of the same name are asked about.
+    QVERIFY(add(QStringLiteral("300003"), QStringLiteral("程昱文")));
+    QVERIFY(add(QStringLiteral("300004"), QStringLiteral("程昱文静")));
+    QSignalSpy told(&field.field, &InviteeField::told);
+    field.edit->setText(QStringLiteral("程昱文"));
+    QTest::keyClick(field.edit, Qt::Key_Return);
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(field.accounts().size(), 1);
 }
 
 void TestInviteeField::whoIsPickedCanBeRemoved()

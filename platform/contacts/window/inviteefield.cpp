@@ -30,6 +30,20 @@ QString textOf(const Person &person)
     return QStringLiteral("%1  %2").arg(cleanDisplayText(person.shownName()), person.account);
 }
 
+/// The only one of @p people whom @p text names exactly, or the only one at all.
+std::optional<Person> meantBy(const QString &text, const QVector<Person> &people)
+{
+    QVector<Person> exact;
+    for (const Person &person : people) {
+        const QStringList names{person.name, person.remarkName, person.account};
+        if (names.contains(text, Qt::CaseInsensitive)) {
+            exact.append(person);
+        }
+    }
+    const QVector<Person> &candidates = exact.isEmpty() ? people : exact;
+    return candidates.size() == 1 ? std::optional<Person>(candidates.constFirst()) : std::nullopt;
+}
+
 } // namespace
 
 InviteeField::InviteeField(ContactsBook &book, int most, QWidget *parent)
@@ -46,6 +60,7 @@ InviteeField::InviteeField(ContactsBook &book, int most, QWidget *parent)
     m_completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     m_completer->setWidget(m_edit); // not setCompleter(), which would write into the field
     m_edit->installEventFilter(this);
+    m_completer->popup()->installEventFilter(this); // it gets the keys while it is open
     m_list->installEventFilter(this);
     connect(m_edit, &QLineEdit::textEdited, this, &InviteeField::complete);
     connect(m_completer, QOverload<const QModelIndex &>::of(&QCompleter::activated), this,
@@ -83,7 +98,10 @@ bool InviteeField::eventFilter(QObject *watched, QEvent *event)
         return QWidget::eventFilter(watched, event);
     }
     const int key = static_cast<QKeyEvent *>(event)->key();
-    if (watched == m_edit && (key == Qt::Key_Return || key == Qt::Key_Enter) && !m_edit->text().isEmpty()) {
+    const QAbstractItemView *popup = m_completer->popup();
+    // A row that was chosen in the popup is the completer's to report.
+    const bool isTyped = watched == m_edit || (watched == popup && !popup->selectionModel()->hasSelection());
+    if (isTyped && (key == Qt::Key_Return || key == Qt::Key_Enter) && !m_edit->text().isEmpty()) {
         pickTyped(); // does not press the dialog's button
         return true;
     }
@@ -137,8 +155,9 @@ void InviteeField::complete(const QString &text)
 void InviteeField::pickTyped()
 {
     const QVector<Person> people = find(m_edit->text());
-    if (people.size() == 1) {
-        add(people.constFirst());
+    const std::optional<Person> meant = meantBy(m_edit->text().trimmed(), people);
+    if (meant) {
+        add(*meant);
     } else {
         Q_EMIT told(people.isEmpty() ? QStringLiteral("联系人中没有“%1”。").arg(m_edit->text())
                                      : QStringLiteral("有多位联系人符合，请从列表中选择。"));

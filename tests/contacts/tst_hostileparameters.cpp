@@ -41,6 +41,8 @@ private Q_SLOTS:
     void oddButHarmless();
     void aNameGoesBackClean();
     void titlesAndNamesInAnswersAreClean();
+    void theAdministrationRefusesPasscodesNobodyCanType_data();
+    void theAdministrationRefusesPasscodesNobodyCanType();
 };
 
 void TestHostileParameters::refused_data()
@@ -155,6 +157,29 @@ void TestHostileParameters::aNameGoesBackClean()
                                  .value(QLatin1String("users"))
                                  .toArray();
     QCOMPARE(users.at(0).toObject().value(QLatin1String("name")).toString(), QStringLiteral("李四"));
+}
+
+void TestHostileParameters::theAdministrationRefusesPasscodesNobodyCanType_data()
+{
+    QTest::addColumn<QString>("passcode");
+    QTest::addColumn<bool>("isTaken");
+    QTest::newRow("the longest") << QString(20, QLatin1Char('1')) << true;
+    QTest::newRow("none") << QString() << true;
+    QTest::newRow("longer") << QString(21, QLatin1Char('1')) << false;
+    QTest::newRow("a space at its end") << QStringLiteral("1 ") << false;
+    QTest::newRow("a character that is not seen") << QStringLiteral("1\u200b") << false;
+}
+
+void TestHostileParameters::theAdministrationRefusesPasscodesNobodyCanType()
+{
+    QFETCH(QString, passcode);
+    QFETCH(bool, isTaken);
+    SampleWorld world;
+    const QString id =
+        world.admin.AddConference(QStringLiteral("1"), QStringLiteral("会"), QStringLiteral("100001"),
+                                  world.nowMsecs, 60000, 5, passcode, {});
+    QCOMPARE(!id.isEmpty(), isTaken);
+    QCOMPARE(!world.conference(QStringLiteral("1")).isEmpty(), isTaken);
 }
 
 void TestHostileParameters::titlesAndNamesInAnswersAreClean()

@@ -8,6 +8,11 @@
 #include "core/displaytext.h"
 #include "core/jsonkeys.h"
 
+bool canBePasscode(const QString &passcode)
+{
+    return passcode.size() <= MaxPasscodeLength && cleanDisplayText(passcode) == passcode;
+}
+
 std::optional<QString> requestedTitle(const RequestParameters &parameters)
 {
     if (!parameters.has(JsonKey::Title)) {
@@ -26,7 +31,7 @@ std::optional<QString> requestedPasscode(const RequestParameters &parameters)
         return std::nullopt;
     }
     const QString passcode = parameters.text(JsonKey::Password);
-    if (passcode.size() > MaxPasscodeLength || cleanDisplayText(passcode) != passcode) {
+    if (!canBePasscode(passcode)) {
         throw InvalidParameters("the passcode cannot be typed");
     }
     return passcode;

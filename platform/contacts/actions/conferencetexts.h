@@ -12,6 +12,8 @@ class RequestParameters;
 /// The longest passcode that a conference takes.
 constexpr int MaxPasscodeLength = 20;
 
+/// Whether a conference may have @p passcode: nobody could type another. Empty is none.
+bool canBePasscode(const QString &passcode);
 /// The title that a request gives its conference; nothing when it says none. Throws InvalidParameters for one
 /// that would be shown as nothing.
 std::optional<QString> requestedTitle(const RequestParameters &parameters);

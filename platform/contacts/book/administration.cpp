@@ -3,6 +3,7 @@
 
 #include "book/administration.h"
 
+#include "actions/conferencetexts.h"
 #include "book/contactsbook.h"
 #include "book/worldsnapshot.h"
 
@@ -171,7 +172,7 @@ QString Administration::AddConference(const QString &number, const QString &titl
     const bool done = m_book.change([&] {
         const std::optional<Person> host = m_book.people().byAccount(hostAccount);
         if (!host || !isDialNumber(number) || startMsecs < 0 || durationMsecs < 0 ||
-            durationMsecs > ConferenceRules::LongestMsecs ||
+            durationMsecs > ConferenceRules::LongestMsecs || !canBePasscode(passcode) ||
             m_book.conferences().byDialNumber(number, QString()).has_value()) {
             return false;
         }

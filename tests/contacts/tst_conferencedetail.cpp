@@ -27,11 +27,15 @@ private Q_SLOTS:
     void everybodyInItIsNamedWithTheirState();
     void aHostChangesEverything();
     void onlyWhatWasEditedIsSent();
+    void aLongPasscodeIsKeptWhenItIsNotEdited();
     void aRefusalSaysWhyAndKeepsItOpen();
     void othersCanOnlyRead();
     void whatRunsCannotBeMoved();
     void whatHasEndedCannotBeChanged();
     void itFollowsWhoJoinsAndClosesWhenItIsGone();
+    void whatEndsMeanwhileCannotBeChanged();
+    void aHostsPasscodeGoesWithTheAccount();
+    void whatIsGoneIsNotOpened();
     void pictures_data();
     void pictures();
 
@@ -164,6 +168,24 @@ void TestConferenceDetail::onlyWhatWasEditedIsSent()
     QCOMPARE(after.passcode, QStringLiteral("9"));
 }
 
+void TestConferenceDetail::aLongPasscodeIsKeptWhenItIsNotEdited()
+{
+    // Longer than what the field takes, from a former database.
+    const QString passcode = QStringLiteral("1234567890123456789012345");
+    QVERIFY(m_fixture->world->book.change([this, &passcode] {
+        m_fixture->world->book.conferences().setPasscode(stored("880100005").id, passcode);
+        return true;
+    }));
+    m_fixture->follow();
+    open("880100005");
+    QVERIFY(!field<QPushButton>("save")->isEnabled());
+    field<QLineEdit>("title")->setText(QStringLiteral("周会"));
+    clickSave();
+    QTRY_VERIFY(!detail());
+    QCOMPARE(stored("880100005").title, QStringLiteral("周会"));
+    QCOMPARE(stored("880100005").passcode, passcode);
+}
+
 void TestConferenceDetail::aRefusalSaysWhyAndKeepsItOpen()
 {
     const Conference before = stored("880100005");
@@ -193,8 +215,7 @@ void TestConferenceDetail::othersCanOnlyRead()
     QVERIFY(field<QLineEdit>("passcodeText")->text().isEmpty());
     QCOMPARE(field<QLabel>("passcodeNote")->text(), QStringLiteral("有，仅主持人可见"));
     m_fixture->world->admin.Logout();
-    m_fixture->follow();
-    QVERIFY(!field<QPushButton>("save")->isVisible());
+    QTRY_VERIFY(!detail());
 }
 
 void TestConferenceDetail::whatRunsCannotBeMoved()
@@ -230,6 +251,42 @@ void TestConferenceDetail::itFollowsWhoJoinsAndClosesWhenItIsGone()
     m_fixture->world->ask(QStringLiteral("Delete Conference"),
                           QJsonObject{{QStringLiteral("conferenceId"), stored("880100005").confId}});
     QTRY_VERIFY(!detail());
+    QCOMPARE(m_fixture->told(), QStringLiteral("会议已不存在。"));
+}
+
+void TestConferenceDetail::whatEndsMeanwhileCannotBeChanged()
+{
+    open("880100005");
+    field<QLineEdit>("title")->setText(QStringLiteral("周会"));
+    QVERIFY(field<QPushButton>("save")->isVisible());
+    m_fixture->world->admin.SetConferenceState(QStringLiteral("880100005"), QStringLiteral("running"));
+    m_fixture->follow();
+    QVERIFY(field<QDateTimeEdit>("start")->isReadOnly());
+    QVERIFY(!field<QLineEdit>("title")->isReadOnly());
+    m_fixture->world->nowMsecs += MinuteMsecs;
+    m_fixture->world->admin.SetConferenceState(QStringLiteral("880100005"), QStringLiteral("ended"));
+    m_fixture->follow();
+    QVERIFY(field<QLineEdit>("title")->isReadOnly());
+    QVERIFY(!field<QPushButton>("save")->isVisible());
+    QCOMPARE(field<QLineEdit>("title")->text(), QStringLiteral("周会"));
+}
+
+void TestConferenceDetail::aHostsPasscodeGoesWithTheAccount()
+{
+    open("880100005");
+    QVERIFY(m_fixture->world->admin.Login(QStringLiteral("100003")));
+    QTRY_VERIFY(!detail());
+    QCOMPARE(m_fixture->told(), QStringLiteral("账号已更换，会议详情已关闭。"));
+}
+
+void TestConferenceDetail::whatIsGoneIsNotOpened()
+{
+    m_fixture->selectNumber("880100005");
+    // The tables follow a moment later.
+    m_fixture->world->ask(QStringLiteral("Delete Conference"),
+                          QJsonObject{{QStringLiteral("conferenceId"), stored("880100005").confId}});
+    m_fixture->child<QAction>("open")->trigger();
+    QVERIFY(!detail());
     QCOMPARE(m_fixture->told(), QStringLiteral("会议已不存在。"));
 }
 

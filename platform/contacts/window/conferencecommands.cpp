@@ -105,6 +105,11 @@ void ConferenceCommands::perform(const QString &action, const QJsonObject &param
 
 void ConferenceCommands::showDetail()
 {
+    readChosen();
+    if (!m_chosen) {
+        Q_EMIT told(QStringLiteral("会议已不存在。"));
+        return;
+    }
     auto *detail = new ConferenceDetail(m_book, *m_chosen, m_window);
     connect(detail, &ConferenceDetail::told, this, &ConferenceCommands::told);
     detail->open();

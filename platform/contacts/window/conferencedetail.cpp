@@ -85,8 +85,9 @@ ConferenceDetail::ConferenceDetail(ContactsBook &book, const Conference &confere
     setWindowTitle(QStringLiteral("会议详情"));
     arrange();
     reload();
+    m_openedFor = m_viewer.userId;
     showValues();
-    showEditable();
+    showEditable(m_conference);
     connect(&m_book, &ContactsBook::changedLately, this, &ConferenceDetail::reload);
 }
 
@@ -174,12 +175,19 @@ void ConferenceDetail::reload()
         m_book.noteFailure(error);
         return;
     }
+    if (m_openedFor && *m_openedFor != m_viewer.userId) {
+        // What it shows is the former user's, the passcode too.
+        Q_EMIT told(QStringLiteral("账号已更换，会议详情已关闭。"));
+        close();
+        return;
+    }
     if (!conference) {
         Q_EMIT told(QStringLiteral("会议已不存在。"));
         close();
         return;
     }
     showSeats(seats);
+    showEditable(*conference);
 }
 
 void ConferenceDetail::showSeats(const QVector<Participant> &seats)
@@ -207,19 +215,23 @@ void ConferenceDetail::showValues()
     m_limit->setRange(qMax(ConferenceRules::MinParticipantLimit, m_conference.participants.size()),
                       qMax(m_mostPeople, m_conference.participantLimit));
     m_limit->setValue(m_conference.participantLimit);
+    if (m_conference.hostId == m_viewer.userId) {
+        m_passcode->setText(m_conference.passcode);
+    }
+    m_shownPasscode = m_passcode->text();
 }
 
-void ConferenceDetail::showEditable()
+void ConferenceDetail::showEditable(const Conference &current)
 {
     const qint64 now = m_book.nowMsecs();
-    const bool canEdit = ConferenceOptions::of(m_conference, std::nullopt, m_viewer, now).edit;
-    const bool isHost = m_conference.hostId == m_viewer.userId;
+    const bool canEdit = ConferenceOptions::of(current, std::nullopt, m_viewer, now).edit;
+    const bool isHost = current.hostId == m_viewer.userId;
     const auto setReadOnly = [](QAbstractSpinBox *box, bool readOnly) {
         box->setReadOnly(readOnly);
         box->setButtonSymbols(readOnly ? QAbstractSpinBox::NoButtons : QAbstractSpinBox::UpDownArrows);
     };
     m_title->setReadOnly(!canEdit);
-    const bool canMove = canEdit && m_conference.stateAt(now) == ConferenceState::NotStarted;
+    const bool canMove = canEdit && current.stateAt(now) == ConferenceState::NotStarted;
     setReadOnly(m_start, !canMove);
     m_start->setCalendarPopup(canMove);
     setReadOnly(m_minutes, !canEdit);
@@ -228,11 +240,8 @@ void ConferenceDetail::showEditable()
     m_passcode->setVisible(isHost);
     m_passcode->setReadOnly(!canEdit);
     m_passcodeNote->setVisible(!isHost);
-    m_passcodeNote->setText(m_conference.passcode.isEmpty() ? QStringLiteral("无")
-                                                            : QStringLiteral("有，仅主持人可见"));
-    if (isHost) {
-        m_passcode->setText(m_conference.passcode);
-    }
+    m_passcodeNote->setText(current.passcode.isEmpty() ? QStringLiteral("无")
+                                                       : QStringLiteral("有，仅主持人可见"));
     m_save->setVisible(canEdit);
     showWhetherChanged();
 }
@@ -256,7 +265,7 @@ QJsonObject ConferenceDetail::changes() const
     if (m_limit->value() != m_conference.participantLimit) {
         changes.insert(JsonKey::ParticipantLimit, m_limit->value());
     }
-    if (m_conference.hostId == m_viewer.userId && m_passcode->text() != m_conference.passcode) {
+    if (m_conference.hostId == m_viewer.userId && m_passcode->text() != m_shownPasscode) {
         changes.insert(JsonKey::Password, m_passcode->text());
     }
     return changes;

@@ -38,7 +38,8 @@ private:
     void arrange();
     void addFields(QFormLayout &form);
     void showValues();
-    void showEditable();
+    /// What can be changed in the conference as it is now. Leaves alone what somebody has typed.
+    void showEditable(const Conference &current);
     void reload();
     void showSeats(const QVector<Participant> &seats);
     QJsonObject changes() const;
@@ -48,6 +49,8 @@ private:
     ContactsBook &m_book;
     Conference m_conference;
     Viewer m_viewer;
+    std::optional<QString> m_openedFor; ///< the viewer's user id at first
+    QString m_shownPasscode;            ///< as the field first held it, which may have cut it
     int m_mostMinutes = 0;
     int m_mostPeople = 0;
     QLineEdit *m_title; ///< children, all of them

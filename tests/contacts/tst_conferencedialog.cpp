@@ -26,6 +26,8 @@ private Q_SLOTS:
 
     void itMakesWhatItSaysAndSelectsIt();
     void withoutWordsItIsOneForNow();
+    void whoCouldNotBeInvitedIsNamed_data();
+    void whoCouldNotBeInvitedIsNamed();
     void aRefusalKeepsItOpen();
     void nobodyStartsASecondOneNow();
     void whatIsFarAwayIsSelectedToo();
@@ -114,6 +116,47 @@ void TestConferenceDialog::withoutWordsItIsOneForNow()
     QCOMPARE(made->startMsecs, m_fixture->world->nowMsecs);
     QVERIFY(made->passcode.isEmpty());
     QTRY_VERIFY(m_fixture->child<QWidget>("current")->isVisible());
+}
+
+void TestConferenceDialog::whoCouldNotBeInvitedIsNamed_data()
+{
+    addColumns<bool, int>({"isMuchSmaller", "invited"});
+    QTest::newRow("the account has become one for fewer people") << true << 9;
+    QTest::newRow("somebody is no contact any more") << false << 1;
+}
+
+void TestConferenceDialog::whoCouldNotBeInvitedIsNamed()
+{
+    QFETCH(bool, isMuchSmaller);
+    QFETCH(int, invited);
+    ContactsBook &book = m_fixture->world->book;
+    const QString userId = QStringLiteral("u100001");
+    const QVector<Person> people = book.people().contacts(userId).mid(0, invited + 1);
+    for (const Person &person : people) {
+        invite(person.account);
+    }
+    if (isMuchSmaller) {
+        QVERIFY(m_fixture->world->admin.SetAccountKind(QStringLiteral("100001"), QStringLiteral("free")));
+    } else {
+        const std::optional<Person> user = book.people().byUserId(userId);
+        QVERIFY(user);
+        QVERIFY(book.change([&] {
+            book.conferences().removeAll();
+            book.people().removeAll();
+            book.people().addPerson(*user);
+            book.people().addPerson(people.constFirst());
+            book.people().setContact(userId, people.constFirst().userId, QString(), true);
+            return true;
+        }));
+        QVERIFY(m_fixture->world->admin.Login(QStringLiteral("100001"))); // went with everybody
+    }
+    QTest::mouseClick(field<QPushButton>("make"), Qt::LeftButton);
+    QTRY_VERIFY(!dialog());
+    const std::optional<Conference> made = book.conferences().byDialNumber(selectedNumber(), userId);
+    QVERIFY(made);
+    QCOMPARE(made->participants.size(), invited + 1);
+    QCOMPARE(m_fixture->told(), QStringLiteral("会议 %1 已发起，但未能邀请：%2。")
+                                    .arg(selectedNumber(), people.constLast().shownName()));
 }
 
 void TestConferenceDialog::aRefusalKeepsItOpen()

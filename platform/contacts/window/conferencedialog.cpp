@@ -28,6 +28,8 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int LeastWidth = 440;
@@ -169,7 +171,32 @@ void ConferenceDialog::makeConference()
         return;
     }
     const QString number = list.at(0).toObject().value(JsonKey::ConferenceDialNumber).toString();
+    const QStringList missing = word == Outcome::Ok ? QStringList() : notInvited(number);
     accept();
     Q_EMIT made(number);
-    Q_EMIT told(QStringLiteral("会议 %1 已发起。").arg(number));
+    Q_EMIT told(missing.isEmpty() ? QStringLiteral("会议 %1 已发起。").arg(number)
+                                  : QStringLiteral("会议 %1 已发起，但未能邀请：%2。")
+                                        .arg(number, missing.join(QStringLiteral("、"))));
+}
+
+QStringList ConferenceDialog::notInvited(const QString &number) const
+{
+    std::optional<Conference> made;
+    try {
+        made = m_book.conferences().byDialNumber(number, QString());
+    } catch (const std::exception &error) {
+        qWarning("Who is invited cannot be read: %s", error.what());
+        m_book.noteFailure(error);
+    }
+    const QVector<Participant> seats = made ? made->participants : QVector<Participant>();
+    QStringList names;
+    for (const Person &person : m_people->people()) {
+        const bool isInvited = std::any_of(seats.cbegin(), seats.cend(), [&person](const Participant &seat) {
+            return seat.userId == person.userId;
+        });
+        if (!isInvited) {
+            names.append(cleanDisplayText(person.shownName()));
+        }
+    }
+    return names;
 }

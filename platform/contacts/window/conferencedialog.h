@@ -37,6 +37,8 @@ private:
     void arrange();
     void addWhen(QFormLayout &form);
     void makeConference();
+    /// The names of those chosen who have no seat in the conference that was made.
+    QStringList notInvited(const QString &number) const;
     QJsonObject parameters() const;
 
     ContactsBook &m_book;

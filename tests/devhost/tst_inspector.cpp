@@ -54,6 +54,8 @@ void TestInspector::inspectorIndentsHighlightsFiltersAndFinds()
     QTRY_VERIFY(desk.isIdle());
     auto *json = desk.window.findChild<QPlainTextEdit *>(QStringLiteral("inspectorSemantic"));
     QTRY_VERIFY(json->toPlainText().contains(QStringLiteral("\n  \"intent\": {\n    \"")));
+    const QFontMetrics metrics(json->font());
+    QCOMPARE(metrics.horizontalAdvance(QLatin1Char('i')), metrics.horizontalAdvance(QLatin1Char('W')));
     const QTextBlock line = json->document()->find(QStringLiteral("\"intent\": {")).block();
     QTRY_VERIFY(!line.layout()->formats().isEmpty());
     const QColor key = line.layout()->formats().first().format.foreground().color();

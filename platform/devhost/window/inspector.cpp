@@ -142,6 +142,11 @@ void Inspector::changeEvent(QEvent *event)
 void Inspector::followFont()
 {
     QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    const QFontMetrics metrics(fixed); // QFontInfo::fixedPitch() is false for such fonts on some platforms
+    if (metrics.horizontalAdvance(QLatin1Char('i')) != metrics.horizontalAdvance(QLatin1Char('W'))) {
+        fixed.setFamily(
+            QStringLiteral("monospace")); // where the desktop names none, Qt gives the font of everything
+    }
     if (font().pointSizeF() > 0) {
         fixed.setPointSizeF(font().pointSizeF());
     }

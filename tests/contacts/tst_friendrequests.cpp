@@ -19,9 +19,12 @@ private Q_SLOTS:
     void whoAcceptsHasAFriend();
     void whoDeclinesMayBeAskedAgain();
     void anAcceptedRequestAnswersOnesOwn();
+    void whoIsAFriendAlreadyIsNotToldOfTheRequest_data();
+    void whoIsAFriendAlreadyIsNotToldOfTheRequest();
     void theLimitHolds();
     void whatIsNotThereCannotBeAnswered();
     void theBarShowsOneAfterTheOther();
+    void theBarKeepsWhomItShows();
     void theBarIsFirstInTheOrderOfTab();
     void namesAreShownClean();
     void theirCostDoesNotDependOnOtherRequests();
@@ -108,6 +111,28 @@ void TestFriendRequests::anAcceptedRequestAnswersOnesOwn()
     QCOMPARE(waiting(), QStringList());
 }
 
+void TestFriendRequests::whoIsAFriendAlreadyIsNotToldOfTheRequest_data()
+{
+    QTest::addColumn<QString>("asker");
+    QTest::newRow("the one who accepts") << QStringLiteral("u200002");
+    QTest::newRow("the one who is accepted") << QStringLiteral("u100001");
+}
+
+void TestFriendRequests::whoIsAFriendAlreadyIsNotToldOfTheRequest()
+{
+    QFETCH(QString, asker);
+    const bool isOwn = asker == QLatin1String("u100001");
+    const QString asked = isOwn ? QStringLiteral("u200002") : QStringLiteral("u100001");
+    ask("200002", "100001");
+    ask("100001", "200002");
+    QCOMPARE(book().reminders().untoldRequests(asked).size(), 1);
+    QCOMPARE(FriendRequests(book()).accept(QStringLiteral("200002")), QString(Outcome::Ok));
+    QVERIFY(book().reminders().untoldRequests(asked).isEmpty());
+    Statement left(book().database().handle(), QStringLiteral("SELECT count(*) FROM untold_request"));
+    QVERIFY(left.run().next());
+    QCOMPARE(left.smallNumber(0), 0);
+}
+
 void TestFriendRequests::theLimitHolds()
 {
     ask("200002", "100001");
@@ -157,6 +182,21 @@ void TestFriendRequests::theBarShowsOneAfterTheOther()
     m_fixture->click("acceptRequest");
     QCOMPARE(m_fixture->told(), QStringLiteral("没有找到。"));
     QVERIFY(!bar->isVisible());
+}
+
+void TestFriendRequests::theBarKeepsWhomItShows()
+{
+    auto *text = m_fixture->child<QLabel>("requestText");
+    ask("200001", "100001");
+    m_fixture->follow();
+    QCOMPARE(text->text(), QStringLiteral("孟欣（200001）想加您为好友。"));
+    ask("100005", "100001"); // comes first by its account
+    m_fixture->follow();
+    QCOMPARE(text->text(), QStringLiteral("孟欣（200001）想加您为好友。还有 1 个申请。"));
+    m_fixture->click("acceptRequest");
+    QCOMPARE(friendship("u100001", "u200001"), Friendship::Friend);
+    QCOMPARE(waiting(), QStringList{QStringLiteral("100005")});
+    QCOMPARE(text->text(), QStringLiteral("小刘（100005）想加您为好友。"));
 }
 
 void TestFriendRequests::theBarIsFirstInTheOrderOfTab()

@@ -38,7 +38,9 @@ QString FriendRequests::answer(const QString &account, Reply reply)
             return false;
         }
         if (reply == Reply::Accept) {
-            people.removeFriendRequest(user->userId, asker->userId); // both asked: this answers both
+            if (people.removeFriendRequest(user->userId, asker->userId)) { // both asked: this answers both
+                m_book.reminders().noteRequestTold(asker->userId, user->userId);
+            }
             if (people.friendCount(user->userId) >= m_book.session().friendLimit()) {
                 outcome = Outcome::ExceedFriendLimit;
                 return false;

@@ -13,6 +13,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int MostCounted = 100;
@@ -69,8 +71,13 @@ void RequestBar::reload()
         qWarning("Friend requests cannot be shown: %s", error.what());
         m_book.noteFailure(error);
     }
-    m_account = waiting.isEmpty() ? QString() : waiting.constFirst().account;
-    const QString text = waiting.isEmpty() ? QString() : textFor(waiting.constFirst(), waiting.size() - 1);
+    // Whoever is shown stays: a new request must not take their place under the pointer.
+    const auto shown = std::find_if(waiting.cbegin(), waiting.cend(),
+                                    [this](const Person &asker) { return asker.account == m_account; });
+    const Person asker =
+        shown != waiting.cend() ? *shown : (waiting.isEmpty() ? Person() : waiting.constFirst());
+    m_account = asker.account;
+    const QString text = waiting.isEmpty() ? QString() : textFor(asker, waiting.size() - 1);
     m_text->setText(text);
     // A reader that comes to a button by Tab has not read the text beside it.
     m_accept->setAccessibleDescription(text);

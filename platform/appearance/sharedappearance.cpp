@@ -8,15 +8,38 @@
 #include <lumo/lguiapplicationhelper.h>
 
 #include <QApplication>
+#include <QFile>
 #include <QFont>
 #include <QSettings>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
 constexpr qreal SmallestPointSize = 6;
 
+constexpr qint64 LargestFile = 64 * 1024; ///< bytes; the desk writes less than one KiB
+
 const QLatin1String ThemeKey("appearance/theme");
 const QLatin1String FontStepKey("appearance/fontStep");
+
+/// Whether @p fileName can be read without waiting and without end: opening a pipe blocks until somebody
+/// writes into it.
+bool isSettingsFile(const QString &fileName)
+{
+    const int descriptor =
+        ::open(QFile::encodeName(fileName).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (descriptor < 0) {
+        return false;
+    }
+    struct stat status = {};
+    const bool isFit =
+        ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_size <= LargestFile;
+    ::close(descriptor);
+    return isFit;
+}
 
 } // namespace
 
@@ -35,6 +58,11 @@ SharedAppearance::SharedAppearance(const QString &settingsFile, QObject *parent)
 
 void SharedAppearance::read()
 {
+    if (!isSettingsFile(m_settingsFile)) {
+        m_theme = System;
+        m_fontStep = 0;
+        return;
+    }
     const QSettings settings(m_settingsFile, QSettings::NativeFormat);
     m_theme = Theme(qBound(int(System), settings.value(ThemeKey, int(System)).toInt(), int(Dark)));
     m_fontStep = qBound(SmallestStep, settings.value(FontStepKey, 0).toInt(), LargestStep);

@@ -10,6 +10,9 @@
 #include <QSettings>
 #include <QtTest>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using Helper = LGuiApplicationHelper;
 
 /// Two programs of one desktop: the one that lets the user choose, and the one that follows.
@@ -25,6 +28,8 @@ private Q_SLOTS:
     void theSystemIsFollowedUntilSomebodyChooses();
     void nonsenseInTheFileIsTheDefault_data();
     void nonsenseInTheFileIsTheDefault();
+    void whatIsNoSettingsFileIsTheDefault_data();
+    void whatIsNoSettingsFileIsTheDefault();
     void theDesksFileIsTheDesks();
 
 private:
@@ -138,6 +143,41 @@ void TestSharedAppearance::nonsenseInTheFileIsTheDefault()
     const SharedAppearance appearance(m_file);
     QCOMPARE(appearance.theme(), SharedAppearance::System);
     QCOMPARE(QApplication::font().pointSizeF(), qreal(points));
+}
+
+void TestSharedAppearance::whatIsNoSettingsFileIsTheDefault_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::newRow("a pipe that nobody writes into") << QStringLiteral("pipe");
+    QTest::newRow("a folder") << QStringLiteral("folder");
+    QTest::newRow("a file of more than 64 KiB") << QStringLiteral("large");
+}
+
+void TestSharedAppearance::whatIsNoSettingsFileIsTheDefault()
+{
+    QFETCH(QString, kind);
+    write("appearance/theme", 2);
+    write("appearance/fontStep", 4);
+    QCOMPARE(SharedAppearance(m_file).theme(), SharedAppearance::Dark);
+    Helper::instance()->setPaletteType(Helper::UnknownType);
+    QApplication::setFont(QFont(QApplication::font().family(), 10));
+    if (kind == QLatin1String("large")) {
+        QFile file(m_file);
+        QVERIFY(file.open(QIODevice::Append));
+        file.write(QByteArray("; filler\n").repeated(8000));
+    } else {
+        QVERIFY(QFile::remove(m_file));
+        const QByteArray path = QFile::encodeName(m_file);
+        QCOMPARE(kind == QLatin1String("pipe") ? ::mkfifo(path.constData(), 0600)
+                                               : ::mkdir(path.constData(), 0700),
+                 0);
+    }
+    ::alarm(20); // opening a pipe without care waits for ever
+    const SharedAppearance appearance(m_file);
+    ::alarm(0);
+    QCOMPARE(appearance.theme(), SharedAppearance::System);
+    QCOMPARE(appearance.fontStep(), 0);
+    QCOMPARE(QApplication::font().pointSizeF(), 10.0);
 }
 
 void TestSharedAppearance::theDesksFileIsTheDesks()

@@ -19,7 +19,10 @@ SettingsWatch::SettingsWatch(const QString &fileName, QObject *parent) : QObject
     m_burst.setInterval(BurstMsecs);
     const auto noteChange = [this] {
         watch();
-        m_burst.start();
+        // Not started anew: writes that never pause are told all the same.
+        if (!m_burst.isActive()) {
+            m_burst.start();
+        }
     };
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, noteChange);
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, noteChange);
@@ -34,8 +37,12 @@ void SettingsWatch::watch()
     while (!QDir(folder).exists() && folder != QDir::rootPath()) {
         folder = QFileInfo(folder).absolutePath();
     }
-    if (!m_watcher.directories().contains(folder)) {
+    QStringList others = m_watcher.directories();
+    if (!others.removeOne(folder)) {
         m_watcher.addPath(folder);
+    }
+    if (!others.isEmpty()) {
+        m_watcher.removePaths(others); // what changes there is nobody's concern any more
     }
     if (!m_watcher.files().contains(m_fileName) && QFileInfo::exists(m_fileName)) {
         m_watcher.addPath(m_fileName);

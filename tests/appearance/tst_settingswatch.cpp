@@ -14,6 +14,8 @@ private Q_SLOTS:
     void aWriteIsTold_data();
     void aWriteIsTold();
     void aBurstIsToldOnce();
+    void steadyWritesAreTold();
+    void whatHappensAboveTheFolderIsNotTold();
 
 private:
     static void replace(const QString &name, const QByteArray &content)
@@ -79,6 +81,40 @@ void TestSettingsWatch::aBurstIsToldOnce()
     QVERIFY(changed.wait());
     QVERIFY(!changed.wait(200));
     QCOMPARE(changed.count(), 1);
+}
+
+void TestSettingsWatch::steadyWritesAreTold()
+{
+    const QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("program.conf"));
+    SettingsWatch watch(name);
+    QSignalSpy changed(&watch, &SettingsWatch::changed);
+    QTimer writes;
+    int round = 0;
+    connect(&writes, &QTimer::timeout, this, [&] { replace(name, QByteArray::number(++round)); });
+    writes.start(5); // more often than a burst lasts
+    QVERIFY(changed.wait(2000));
+    QVERIFY(changed.wait(2000));
+}
+
+void TestSettingsWatch::whatHappensAboveTheFolderIsNotTold()
+{
+    const QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("organization/program.conf"));
+    SettingsWatch watch(name);
+    QSignalSpy changed(&watch, &SettingsWatch::changed);
+    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("organization")));
+    QVERIFY(changed.wait());
+    replace(folder.filePath(QStringLiteral("somebody.conf")), "1");
+    QVERIFY(!changed.wait(300));
+    replace(name, "22");
+    QVERIFY(changed.wait());
+    // The folder goes, and comes again.
+    QVERIFY(QDir(folder.filePath(QStringLiteral("organization"))).removeRecursively());
+    QVERIFY(changed.wait());
+    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("organization")));
+    replace(name, "333");
+    QVERIFY(changed.wait());
 }
 
 QTEST_MAIN(TestSettingsWatch)

@@ -3,6 +3,8 @@
 
 #include "windowfixture.h"
 
+#include "core/statement.h"
+
 /// Who uses the application.
 class TestAccountBar : public ContactsWindowTest
 {
@@ -10,6 +12,8 @@ class TestAccountBar : public ContactsWindowTest
 
 private Q_SLOTS:
     void loggingInAndOutChangesWhatIsShown();
+    void choosingNobodyLogsOut();
+    void whoCannotLogInIsNotShown();
     void theAccountsKindIsChanged();
 };
 
@@ -32,6 +36,28 @@ void TestAccountBar::loggingInAndOutChangesWhatIsShown()
     m_fixture->follow();
     QCOMPARE(m_fixture->conferences()->model()->rowCount(), 2);
     QCOMPARE(m_fixture->child<QComboBox>("kind")->currentText(), QStringLiteral("免费"));
+}
+
+void TestAccountBar::choosingNobodyLogsOut()
+{
+    m_fixture->pick("account", 0);
+    QVERIFY(!m_fixture->world->book.session().user());
+    m_fixture->follow();
+    QCOMPARE(m_fixture->child<QComboBox>("account")->currentText(), QStringLiteral("未登录"));
+    QVERIFY(!m_fixture->child<QPushButton>("logout")->isEnabled());
+}
+
+void TestAccountBar::whoCannotLogInIsNotShown()
+{
+    auto *account = m_fixture->child<QComboBox>("account");
+    const QString before = account->currentText();
+    // Gone since the list was read.
+    Statement(m_fixture->world->book.database().handle(),
+              QStringLiteral("DELETE FROM person WHERE user_id = 'u200002'"))
+        .run();
+    m_fixture->pick("account", account->findData(QStringLiteral("200002")));
+    QCOMPARE(account->currentText(), before);
+    QCOMPARE(account->findData(QStringLiteral("200002")), -1);
 }
 
 void TestAccountBar::theAccountsKindIsChanged()

@@ -56,7 +56,12 @@ void AccountBar::addControls()
 
 void AccountBar::loginSelected()
 {
-    m_administration.Login(m_account->currentData().toString());
+    const QString account = m_account->currentData().toString();
+    if (account.isEmpty()) {
+        m_administration.Logout();
+    } else if (!m_administration.Login(account)) {
+        reload(); // the box already shows whom the user chose
+    }
 }
 
 void AccountBar::reload()

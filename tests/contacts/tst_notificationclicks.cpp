@@ -3,6 +3,9 @@
 
 #include "reminderstest.h"
 
+#include "book/friendrequests.h"
+#include "core/outcome.h"
+
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QtTest>
@@ -18,6 +21,8 @@ private Q_SLOTS:
     void joiningTooEarlySaysSo();
     void aClickOnTheNotificationShowsTheWindow();
     void othersNotificationsAreLeftAlone();
+    void anAnsweredFriendRequestIsWithdrawn_data();
+    void anAnsweredFriendRequestIsWithdrawn();
     void whatIsNoLongerTrueIsWithdrawn_data();
     void whatIsNoLongerTrueIsWithdrawn();
 };
@@ -103,6 +108,30 @@ void TestNotificationClicks::othersNotificationsAreLeftAlone()
     m_server->click(m_server->shown.last().id, QStringLiteral("default"));
     QTRY_COMPARE(wanted.count(), 1);
     QVERIFY(!m_world->book.conferences().joinedBy(m_world->book.session().user()->userId, m_world->nowMsecs));
+}
+
+void TestNotificationClicks::anAnsweredFriendRequestIsWithdrawn_data()
+{
+    QTest::addColumn<bool>("isAccepted");
+    QTest::newRow("accepted") << true;
+    QTest::newRow("declined") << false;
+}
+
+void TestNotificationClicks::anAnsweredFriendRequestIsWithdrawn()
+{
+    QFETCH(bool, isAccepted);
+    QVERIFY(m_world->admin.AddContact(Friend, User, QString(), QStringLiteral("requested")));
+    settle();
+    QCOMPARE(m_server->shown.size(), 1);
+    const uint id = m_server->shown.last().id;
+    m_world->admin.SetFriendLimit(1000); // something else changes
+    settle();
+    QVERIFY(m_server->isOnScreen(id));
+    FriendRequests requests(m_world->book);
+    QCOMPARE(isAccepted ? requests.accept(Friend) : requests.decline(Friend), QString(Outcome::Ok));
+    settle();
+    QTRY_VERIFY(!m_server->isOnScreen(id));
+    QCOMPARE(m_server->shown.size(), 1);
 }
 
 void TestNotificationClicks::whatIsNoLongerTrueIsWithdrawn_data()

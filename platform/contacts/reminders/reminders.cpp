@@ -107,7 +107,8 @@ void Reminders::showReminder(const QString &userId, const Reminder &reminder)
                             .arg(conference.id)
                             .arg(static_cast<int>(reminder.occasion))
                             .arg(conference.startMsecs);
-    const Shown shown{userId, conference.id, conference.dialNumber, conference.title, conference.startMsecs};
+    const Shown shown{
+        userId, QString(), conference.id, conference.dialNumber, conference.title, conference.startMsecs};
     send(key, notification, shown, [this, userId, reminder, isInvitation] {
         if (isInvitation) {
             m_book.reminders().noteInvitationTold(userId, reminder.conference.id);
@@ -124,6 +125,7 @@ void Reminders::showRequest(const QString &userId, const Person &asker)
     const QString askerId = asker.userId;
     Shown shown;
     shown.userId = userId;
+    shown.askerId = askerId;
     send(userId + QLatin1Char('\n') + askerId, notificationFor(asker), shown,
          [this, userId, askerId] { m_book.reminders().noteRequestTold(userId, askerId); });
 }
@@ -176,17 +178,25 @@ bool Reminders::write(const std::function<void()> &note)
 void Reminders::withdrawStale(const QString &userId)
 {
     for (auto shown = m_shown.begin(); shown != m_shown.end();) {
-        const bool isCurrent =
-            shown->userId == userId &&
-            (shown->conferenceId == 0 ||
-             m_book.reminders().isAwaited(userId, shown->conferenceId, shown->startMsecs, m_book.nowMsecs()));
-        if (isCurrent) {
+        if (isTrue(*shown, userId)) {
             ++shown;
         } else {
             m_notifier.close(shown.key());
             shown = m_shown.erase(shown);
         }
     }
+}
+
+bool Reminders::isTrue(const Shown &shown, const QString &userId) const
+{
+    if (shown.userId != userId) {
+        return false;
+    }
+    if (!shown.askerId.isEmpty()) {
+        return m_book.people().friendship(shown.askerId, userId) == Friendship::Requested;
+    }
+    return shown.conferenceId == 0 ||
+           m_book.reminders().isAwaited(userId, shown.conferenceId, shown.startMsecs, m_book.nowMsecs());
 }
 
 quint32 Reminders::shownFor(qint64 conferenceId) const

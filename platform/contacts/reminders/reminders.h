@@ -46,6 +46,7 @@ private:
     struct Shown
     {
         QString userId;
+        QString askerId; ///< of a friend request; empty otherwise
         qint64 conferenceId = 0;
         QString dialNumber;
         QString title;
@@ -62,6 +63,8 @@ private:
     /// fails.
     bool write(const std::function<void()> &note);
     void withdrawStale(const QString &userId);
+    /// Whether what it tells @p userId is still so.
+    bool isTrue(const Shown &shown, const QString &userId) const;
     quint32 shownFor(qint64 conferenceId) const;
     bool isHeldBack() const;
     void waitUntil(qint64 msecs);

@@ -58,7 +58,7 @@ inline double ofText(const QImage &image)
 }
 
 /// How far the edge of the control that @p image shows at @p place stands out from what is around it: the
-/// weakest of its sides. Sides at the image's own border do not count.
+/// weakest of its sides. Sides at the image's own border do not count; without any other it is 1.
 inline double ofEdge(const QImage &image, const QRect &place)
 {
     const int depth = qRound(3 * image.devicePixelRatio()); // lines are one to two pixels wide
@@ -72,18 +72,20 @@ inline double ofEdge(const QImage &image, const QRect &place)
                  {{middle.x(), place.top()}, {0, 1}},
                  {{middle.x(), place.bottom()}, {0, -1}}};
     double weakest = 21;
+    bool isMeasured = false;
     for (const auto &side : sides) {
         const QPoint outside = side.edge - 2 * side.inwards;
         if (!image.rect().contains(outside)) {
             continue;
         }
+        isMeasured = true;
         double best = 1;
         for (int step = 0; step < depth; ++step) {
             best = qMax(best, between(image.pixel(side.edge + step * side.inwards), image.pixel(outside)));
         }
         weakest = qMin(weakest, best);
     }
-    return weakest;
+    return isMeasured ? weakest : 1;
 }
 
 } // namespace PaintedContrast

@@ -3,6 +3,7 @@
 
 #include "fakeprocesstable.h"
 #include "logcapture.h"
+#include "paintedcontrast.h"
 #include "scriptedability.h"
 
 #include <kelvane/kelvaneabilitymanager.h>
@@ -52,6 +53,22 @@ private Q_SLOTS:
         QCOMPARE(LogCapture::signatureOf(record.function),
                  QByteArray("void TestSupport::captureKeepsEverythingOfARecord()"));
         QVERIFY(record.line > 0);
+    }
+
+    void onlyAnEdgeThatIsMeasuredHasContrast()
+    {
+        QImage image(40, 40, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        for (int y = 10; y < 30; ++y) {
+            for (int x = 10; x < 30; ++x) {
+                image.setPixel(x, y, qRgb(0, 0, 0));
+            }
+        }
+        QCOMPARE(qRound(PaintedContrast::ofEdge(image, QRect(10, 10, 20, 20))), 21);
+        QCOMPARE(qRound(PaintedContrast::ofEdge(image, QRect(10, 12, 10, 10))), 1); // black goes on beside it
+        QCOMPARE(PaintedContrast::ofEdge(image, image.rect()), 1.0);
+        QCOMPARE(PaintedContrast::ofEdge(image, QRect(100, 100, 20, 20)), 1.0);
+        QCOMPARE(PaintedContrast::ofEdge(image, QRect(-20, -20, 80, 80)), 1.0);
     }
 
     void captureGivesTheRecordsBackToTheOuterOne()

@@ -22,6 +22,8 @@ private Q_SLOTS:
     void aFriendIsAdded();
     void whoCannotBeAddedIsToldInTheDialog();
     void theSelectedOneIsAdded();
+    void whoHasAskedIsAccepted_data();
+    void whoHasAskedIsAccepted();
     void peopleAreFoundByNameRemarkAndAccount_data();
     void peopleAreFoundByNameRemarkAndAccount();
     void friendsAndRequestsAreLeftAlone();
@@ -120,6 +122,35 @@ void TestPeoplePage::theSelectedOneIsAdded()
     page()->select(QStringLiteral("100033"));
     entry->trigger();
     QCOMPARE(m_fixture->told(), QStringLiteral("好友已超过最大限制。"));
+}
+
+void TestPeoplePage::whoHasAskedIsAccepted_data()
+{
+    QTest::addColumn<QString>("said");
+    QTest::newRow("the selected one") << QString();
+    QTest::newRow("by the account, in the dialog") << QStringLiteral("100031");
+    QTest::newRow("by the name, in the dialog")
+        << SampleWorld().book.people().byAccount(QStringLiteral("100031"))->name;
+}
+
+void TestPeoplePage::whoHasAskedIsAccepted()
+{
+    QFETCH(QString, said);
+    QVERIFY(m_fixture->world->admin.AddContact(QStringLiteral("100031"), QStringLiteral("100001"), QString(),
+                                               QStringLiteral("requested")));
+    if (said.isEmpty()) {
+        page()->select(QStringLiteral("100031"));
+        m_fixture->click("befriend");
+    } else {
+        m_fixture->click("addFriend");
+        m_fixture->child<QLineEdit>("friendAccount")->setText(said);
+        m_fixture->click("sendRequest");
+    }
+    QCOMPARE(m_fixture->told(), QStringLiteral("对方已申请加您为好友，已成为好友。"));
+    const PeopleRepository &people = m_fixture->world->book.people();
+    QCOMPARE(people.friendship(QStringLiteral("u100001"), QStringLiteral("u100031")), Friendship::Friend);
+    QCOMPARE(people.friendship(QStringLiteral("u100031"), QStringLiteral("u100001")), Friendship::Friend);
+    QVERIFY(people.requestsTo(QStringLiteral("u100001"), 10).isEmpty());
 }
 
 void TestPeoplePage::peopleAreFoundByNameRemarkAndAccount_data()

@@ -10,28 +10,9 @@
 #include "core/jsonkeys.h"
 #include "core/outcome.h"
 
-namespace {
-
-std::optional<Person> resolve(const ActionContext &context, const QString &said)
-{
-    if (said.isEmpty()) {
-        return std::nullopt;
-    }
-    if (std::optional<Person> person = context.people.byAccount(said)) {
-        return person;
-    }
-    if (std::optional<Person> person = context.people.byUserId(said)) {
-        return person;
-    }
-    const QVector<Person> namesakes = context.people.byName(said, 2);
-    return namesakes.size() == 1 ? std::make_optional(namesakes.constFirst()) : std::nullopt;
-}
-
-} // namespace
-
 QJsonObject addFriends(const ActionContext &context, const RequestParameters &parameters)
 {
-    const std::optional<Person> person = resolve(context, parameters.text(JsonKey::UserId).trimmed());
+    const std::optional<Person> person = context.people.meantBy(parameters.text(JsonKey::UserId).trimmed());
     if (!person) {
         return answerWord(Outcome::NotFound);
     }

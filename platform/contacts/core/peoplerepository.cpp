@@ -87,6 +87,21 @@ QVector<Person> PeopleRepository::byName(const QString &name, int limit) const
     return allOf(query.bind(name).bind(limit), readPerson);
 }
 
+std::optional<Person> PeopleRepository::meantBy(const QString &said) const
+{
+    if (said.isEmpty()) {
+        return std::nullopt;
+    }
+    if (std::optional<Person> person = byAccount(said)) {
+        return person;
+    }
+    if (std::optional<Person> person = byUserId(said)) {
+        return person;
+    }
+    const QVector<Person> namesakes = byName(said, 2);
+    return namesakes.size() == 1 ? std::make_optional(namesakes.constFirst()) : std::nullopt;
+}
+
 QVector<Person> PeopleRepository::all() const
 {
     Statement query(m_database, personQuery("ORDER BY account"));

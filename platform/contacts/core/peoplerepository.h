@@ -22,6 +22,8 @@ public:
     std::optional<Person> byUserId(const QString &userId) const;
     /// Everybody of that name, whether in somebody's contacts or not; at most @p limit.
     QVector<Person> byName(const QString &name, int limit) const;
+    /// Whose account or user id @p said is, or else the only one of that name.
+    std::optional<Person> meantBy(const QString &said) const;
     QVector<Person> all() const;
 
     /// Those of @p ownerId's contacts who can be invited as @p name: it is their name or the owner's remark

@@ -3,10 +3,9 @@
 
 #include "window/addfrienddialog.h"
 
-#include "core/jsonkeys.h"
 #include "core/outcome.h"
 #include "core/outcometext.h"
-#include "window/bookaction.h"
+#include "window/befriend.h"
 #include "window/resultlabel.h"
 
 #include <QDialogButtonBox>
@@ -52,10 +51,9 @@ AddFriendDialog::AddFriendDialog(ContactsBook &book, QWidget *parent)
 
 void AddFriendDialog::send()
 {
-    const QString word =
-        performAction(m_book, QStringLiteral("Add Friends"), {{JsonKey::UserId, m_said->text().trimmed()}});
+    const auto [word, text] = befriend(m_book, m_said->text().trimmed());
     if (word == Outcome::Ok) {
-        Q_EMIT told(QStringLiteral("好友申请已发送。"));
+        Q_EMIT told(text);
         accept();
         return;
     }

@@ -3,11 +3,10 @@
 
 #include "window/peoplepage.h"
 
-#include "core/jsonkeys.h"
 #include "core/outcome.h"
 #include "core/outcometext.h"
 #include "window/addfrienddialog.h"
-#include "window/bookaction.h"
+#include "window/befriend.h"
 #include "window/peoplehint.h"
 #include "window/requestbar.h"
 
@@ -119,9 +118,8 @@ void PeoplePage::openDialog()
 
 void PeoplePage::addSelected()
 {
-    const QString word = performAction(m_book, QStringLiteral("Add Friends"),
-                                       {{JsonKey::UserId, selected(PeopleModel::AccountRole).toString()}});
-    Q_EMIT told(word == Outcome::Ok ? QStringLiteral("好友申请已发送。") : outcomeText(word));
+    const BefriendResult result = befriend(m_book, selected(PeopleModel::AccountRole).toString());
+    Q_EMIT told(result.word == Outcome::Ok ? result.text : outcomeText(result.word));
 }
 
 void PeoplePage::showWhatIsPossible()

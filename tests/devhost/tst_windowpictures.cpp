@@ -177,6 +177,13 @@ void TestWindowPictures::everyState()
     desk.appearance.setTheme(isDark ? Appearance::Dark : Appearance::Light);
     desk.window.resize(WindowSize);
     desk.window.show();
+    // Which monospaced font a machine prefers is its own affair; the pictures have the one that every Debian
+    // has.
+    for (QPlainTextEdit *edit : desk.window.findChildren<QPlainTextEdit *>()) {
+        QFont font = edit->font();
+        font.setFamily(QStringLiteral("DejaVu Sans Mono"));
+        edit->setFont(font);
+    }
     state.arrange(desk);
     QCoreApplication::sendPostedEvents();
     QTest::qWait(1); // the queued layout

@@ -201,7 +201,11 @@ bool Clause::hasOtherSubject() const
     constexpr WordClasses leads = WordClass::Trigger | WordClass::Pull | WordClass::Separator |
                                   WordClass::NameLabel | WordClass::Request | WordClass::Conference |
                                   WordClass::Video;
-    if (m_isQuery) {
+    const bool befriended = m_intent == QLatin1String(AddBuddy) && any([&](std::size_t at) {
+                                return m_tokens[at].is(WordClass::Add) &&
+                                       textOf(m_tokens[at]).endsWith(QChar(u'下')); // 同事加一下好友
+                            });
+    if (m_isQuery || befriended) {
         return false;
     }
     std::size_t subject = m_end;
@@ -238,10 +242,8 @@ bool Clause::isUncalled(const Token &name) const
 
 bool Clause::isPast() const
 {
-    return !m_isQuery && any([&](std::size_t at) {
-        const TimeExpression &time = m_tokens[at].time;
-        return time.day == TimeExpression::Day::Relative && time.dayOffset < 0 && !isModifying(at);
-    });
+    return !m_isQuery &&
+           any([&](std::size_t at) { return m_tokens[at].time.isPastDay() && !isModifying(at); });
 }
 
 bool Clause::isModifying(std::size_t pastDay) const

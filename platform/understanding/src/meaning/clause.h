@@ -18,6 +18,8 @@ public:
 
     /// 第7次迭代会，...: only the name of the conference, which need not be understood.
     bool isTitle() const;
+    /// 她还没进会, behind the order that calls her.
+    bool tellsWhyCalled() const;
     bool isRequested() const;
     /// Not only proposed, as 咱们开个会？ is.
     bool isPolitelyRequested() const;

@@ -103,6 +103,16 @@ bool Clause::isQuestion() const
     return !m_isQuery && has(asking) && !has(WordClass::Request);
 }
 
+bool Clause::tellsWhyCalled() const
+{
+    static const QString called = QStringLiteral("他她");
+    const QString &text = m_reading.sentence().text();
+    return m_begin + 1 < m_end && m_tokens[m_begin].is(WordClass::Actor) &&
+           called.contains(text.at(m_tokens[m_begin].position)) &&
+           startsAt(text, m_tokens[m_begin + 1].position, QStringLiteral("还没")) &&
+           !has(WordClass::Negation);
+}
+
 bool Clause::isPolitelyRequested() const
 {
     static const QStringList proposing = {QStringLiteral("咱们"), QStringLiteral("要不"),

@@ -5,6 +5,7 @@
 
 #include "meaning/callings.h"
 #include "meaning/clause.h"
+#include "meaning/doubts.h"
 #include "meaning/outcome.h"
 #include "meaning/suspicions.h"
 
@@ -32,6 +33,14 @@ static bool isAllQuoted(const QString &text)
     return text.startsWith(QChar(u'“')) && text.indexOf(QChar(u'”')) == text.size() - 1;
 }
 
+/// True where a clause ends: at a sign, or at the space in 拉一下Momo 她还没进会.
+static bool endsClause(const Tokens &tokens, std::size_t at)
+{
+    const bool somebodyElse = tokens[at].kind == Token::Kind::Space && at + 1 < tokens.size() &&
+                              tokens[at + 1].is(WordClass::Actor) && !tokens[at + 1].inName;
+    return !tokens[at].inName && (tokens[at].is(WordClass::Punctuation) || somebodyElse);
+}
+
 Verdict judge(const Reading &reading, const QString &intent)
 {
     const Tokens &tokens = reading.tokens();
@@ -42,6 +51,7 @@ Verdict judge(const Reading &reading, const QString &intent)
     bool doubtful = reading.hasDoubtfulName() && intent != QLatin1String(QueryConference);
     // 约小张和小李，不对，约小王: which of them?
     doubtful = doubtful || isConditional(reading) || reading.has(WordClass::Repair);
+    doubtful = doubtful || isAboutSomethingElse(reading, intent);
     // Nothing that was said is dropped in silence: 需求评审安排到明天十一点，拉上小唐 is no plain invitation.
     const bool untimely = intent == QLatin1String(InviteConference) || intent == QLatin1String(AddBuddy);
     doubtful = doubtful || (untimely && reading.clockCount() > 0);
@@ -69,7 +79,7 @@ Verdict judge(const Reading &reading, const QString &intent)
     bool told = false; // what somebody says or does, before the order
     for (std::size_t begin = 0; begin < tokens.size();) {
         std::size_t end = begin;
-        while (end < tokens.size() && (!tokens[end].is(WordClass::Punctuation) || tokens[end].inName)) {
+        while (end < tokens.size() && !endsClause(tokens, end)) {
             ++end;
         }
         const QChar sign = end < tokens.size() ? reading.sentence().text().at(tokens[end].position) : QChar();
@@ -77,6 +87,10 @@ Verdict judge(const Reading &reading, const QString &intent)
         supposed = supposed || clause.isSupposed();
         if (takesPeople && clause.isOrder() && clause.excludesSomebody()) {
             return Verdict::Refuse;
+        }
+        if (ordered && takesPeople && clause.tellsWhyCalled()) { // 拉一下Momo，她还没进会
+            begin = end + 1;
+            continue;
         }
         if (clause.isTold()) { // 老板喊开会了，帮我拉个会
             told = true;

@@ -45,6 +45,17 @@ bool endsWithRole(const QString &text)
     return false;
 }
 
+/// 阿布都热合曼, 克里斯蒂安娜: nothing but characters that spell foreign names.
+bool isTransliterated(const QString &name)
+{
+    static const QString spelling = QStringLiteral(
+        "阿不布卜都杜拉热合曼买提艾力尔江古丽娜扎努兰汗木依巴哈里克迪米尼斯特夫维奇马丁亚历山大伯纳德"
+        "罗伊莎贝玛莉雅乔治约翰查理安托托蒂彼得保尔森逊姆格萨穆罕默帕沙吾吐买孜帕其旺次仁扎西顿珠卓嘎央金"
+        "多吉洛桑达娃才让加措桑图雅乌云萨日朗苏和巴特尔吉勒本田中藤佐木村松岛川");
+    return std::all_of(name.cbegin(), name.cend(),
+                       [](QChar character) { return spelling.contains(character); });
+}
+
 } // namespace
 
 bool isModifier(const QString &text)
@@ -116,7 +127,7 @@ int headLength(const QString &name)
 {
     static const QString verbs =
         QStringLiteral("也都薅整下出回去来说吃喝玩打看做写买送聊谈拉约让叫喊呗请找搞问想要进入");
-    if (isSurnameWithTitle(name)) { // 张顾问
+    if (isSurnameWithTitle(name) || isTransliterated(name)) { // 张顾问
         return name.size();
     }
     for (int at = 2; at < name.size(); ++at) {
@@ -139,7 +150,7 @@ bool isLikelyName(const QString &name)
     }
     const bool clean =
         std::none_of(name.cbegin(), name.cend(), [](QChar character) { return strange.contains(character); });
-    return clean && (name.size() <= longestName || looksLikeName(name));
+    return clean && (name.size() <= longestName || looksLikeName(name) || isTransliterated(name));
 }
 
 } // namespace understanding

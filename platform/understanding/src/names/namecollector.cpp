@@ -41,8 +41,10 @@ void NameCollector::doubtLast()
 void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool called)
 {
     const QString chunk = m_text.mid(start, end - start);
-    const bool whole = isWholeName(chunk, end) ||
-                       (modifierLength(chunk) == chunk.size() - 3 && isWholeName(chunk.right(3), end));
+    const int said = chunk.size() - modifierLength(chunk);
+    const bool familiar = said == 2 && isNamePrefix(chunk.at(chunk.size() - 2)) &&
+                          chunk.endsWith(QChar(u'于')); // 老于 in 采购的老于
+    const bool whole = familiar || isWholeName(chunk, end) || (said == 3 && isWholeName(chunk.right(3), end));
     QString name = whole ? chunk : withoutParticles(chunk);
     if (name.endsWith(QStringLiteral("的人"))) { // 市场部的人
         name.chop(2);
@@ -54,11 +56,13 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
     if (name.size() < 2 || name.size() > LongestName || (mustLookLikeName && !looksLikeName(name))) {
         return;
     }
-    if (Lexicon::instance().classesOf(name).has(WordClass::Nobody)) {
+    if (Lexicon::instance().classesOf(name).has(WordClass::Nobody) || isThing(name)) {
         return;
     }
     const int head = headLength(name);
-    const bool cut = withoutParticles(QStringLiteral("的的") + name.mid(head)).size() > 2;
+    const QString behind = name.mid(head); // 吃饭 in 叫张伟吃饭
+    const bool cut = withoutParticles(QStringLiteral("的的") + behind).size() > 2 ||
+                     (behind.size() > 1 && !withoutParticles(behind).isEmpty());
     name.truncate(head);
     if (name.size() > 2 && name.at(0) == QChar(u'约') && isPersonsName(name.mid(1))) { // 约约王磊
         name = name.mid(1);

@@ -166,6 +166,9 @@ private:
     {
         const std::size_t before = m_names.size();
         const std::size_t first = m_places.skipToNames(lead);
+        if (m_places.callsAgain(lead, first)) { // 请约卢老师
+            return lead;
+        }
         // 拉个表格给我
         mustLookLikeName = mustLookLikeName ||
                            (first > lead + 1 && m_text.at(m_tokens[first - 1].end() - 1) == QChar(u'个'));

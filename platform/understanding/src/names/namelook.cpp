@@ -7,6 +7,7 @@
 #include "words/lexicon.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <algorithm>
 #include <limits>
@@ -79,6 +80,22 @@ bool isNamePrefix(QChar character)
 {
     static const QString prefixes = QStringLiteral("小老阿大");
     return prefixes.contains(character);
+}
+
+bool isThing(const QString &text)
+{
+    static const QSet<QString> things = [] {
+        QSet<QString> all;
+        const QStringList lines = ruleLines(QStringLiteral("things.txt"));
+        for (const QString &line : lines) {
+            const QStringList words = line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+            for (const QString &word : words) {
+                all.insert(word);
+            }
+        }
+        return all;
+    }();
+    return things.contains(text);
 }
 
 bool looksLikeName(const QString &text)

@@ -14,6 +14,9 @@ bool looksLikeName(const QString &text);
 /// True for 小, 老, 阿 and 大, which make a familiar name: 小李.
 bool isNamePrefix(QChar character);
 
+/// True for what looks like a name and is none: 项目, 方案, 周报.
+bool isThing(const QString &text);
+
 /// True for a family name with a title: 王总, 张老师, 欧阳主任.
 bool isSurnameWithTitle(const QString &text);
 

@@ -98,6 +98,13 @@ bool NamePlaces::isAddressBeforeName(std::size_t at) const
 bool NamePlaces::isOpeningOne(std::size_t at) const
 {
     const std::size_t next = at + 1;
+    // 组织项目复盘会: what stands between the verb and the conference says what it is about.
+    if (m_tokens[at].is(WordClass::StrongOpen) && next + 1 < m_tokens.size() &&
+        m_tokens[next].kind == Token::Kind::Other && m_tokens[next + 1].is(WordClass::Conference) &&
+        !m_tokens[next + 1].is(WordClass::Join)) {
+        const QString what = m_text.mid(m_tokens[next].position, m_tokens[next].length);
+        return isThing(what) || !(isPersonsName(what) || what.endsWith(QChar(u'的')));
+    }
     return m_tokens[at].isAny(WordClass::StrongOpen | WordClass::WeakOpen) && next < m_tokens.size() &&
            m_tokens[next].is(WordClass::Measure) && !m_tokens[next].is(WordClass::Filler) &&
            m_text.at(m_tokens[next].end() - 1) != QChar(u'下');
@@ -196,8 +203,11 @@ bool NamePlaces::isSmallWordInName(std::size_t at) const
     constexpr WordClasses hard = WordClass::Separator | WordClass::WeakOpen | WordClass::Conference |
                                  WordClass::Punctuation | WordClass::Nobody | WordClass::Arrive;
     constexpr WordClasses coming = WordClass::ComeMeet | WordClass::Arrive | WordClass::Join;
+    // 阿水都喊来开会; 请 in 约，请约卢老师
     const bool calls = token.isAny(WordClass::Trigger | WordClass::Pull) && at + 1 < m_tokens.size() &&
-                       m_tokens[at + 1].isAny(coming); // 阿水都喊来开会
+                       (m_tokens[at + 1].isAny(coming) ||
+                        (m_tokens[at + 1].is(WordClass::Trigger) &&
+                         (token.is(WordClass::Request) || m_tokens[at + 1].is(WordClass::Request))));
     if (calls) {
         return false;
     }
@@ -216,12 +226,24 @@ std::size_t NamePlaces::skipToNames(std::size_t lead) const
         const bool linked =
             label && (token.isAny(WordClass::LabelLink | WordClass::Have | WordClass::NameLabel) ||
                       token.is(WordClass::Punctuation));
-        if (!token.isAny(between) && token.kind != Token::Kind::Space && !linked) {
+        // 次 in 约次仁旺姆
+        const bool inName = token.length == 1 && m_text.at(token.position) == QChar(u'次') &&
+                            at + 1 < m_tokens.size() && m_tokens[at + 1].kind == Token::Kind::Other;
+        if (inName || (!token.isAny(between) && token.kind != Token::Kind::Space && !linked)) {
             break;
         }
         ++at;
     }
     return at;
+}
+
+bool NamePlaces::callsAgain(std::size_t lead, std::size_t next) const
+{
+    static const QString calls = QStringLiteral("约叫喊拉");
+    return next == lead + 1 && next + 1 < m_tokens.size() && m_tokens[lead].is(WordClass::Request) &&
+           m_text.at(m_tokens[lead].position) == QChar(u'请') && m_tokens[next].is(WordClass::Trigger) &&
+           m_tokens[next].length == 1 && calls.contains(m_text.at(m_tokens[next].position)) &&
+           (m_tokens[next + 1].kind == Token::Kind::Other || m_tokens[next + 1].kind == Token::Kind::Name);
 }
 
 bool NamePlaces::isOwner(std::size_t at) const

@@ -41,6 +41,8 @@ public:
     [[nodiscard]] bool isGivenName(std::size_t at) const;
     [[nodiscard]] bool isSmallWordInName(std::size_t at) const;
     [[nodiscard]] std::size_t skipToNames(std::size_t lead) const;
+    /// 约 in 请约卢老师: the word that calls follows the one that asks for it.
+    [[nodiscard]] bool callsAgain(std::size_t lead, std::size_t next) const;
     /// 我的 in 和我的同事李静.
     [[nodiscard]] bool isOwner(std::size_t at) const;
     /// The token that holds the end of what says who somebody is, 号线的耿浩 in 4号线的耿浩; @p at for none.

@@ -5,6 +5,23 @@
 
 namespace understanding {
 
+bool TimeExpression::isPastDay() const
+{
+    switch (day) {
+    case Day::Relative:
+        return dayOffset < 0;
+    case Day::Weekday:
+        return weekNamed && weekOffset < 0;
+    case Day::DayOfMonth:
+        return monthNamed && monthOffset < 0;
+    case Day::MonthAndDay:
+        return yearIsOffset && year < 0;
+    case Day::None:
+        break;
+    }
+    return false;
+}
+
 void TimeExpression::complete(const TimeExpression &other)
 {
     const TimeExpression own = *this;

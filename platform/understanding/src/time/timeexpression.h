@@ -47,6 +47,9 @@ struct TimeExpression
     bool isEmpty() const { return day == Day::None && part < 0 && !hasClock && !hasOffset && !impossible; }
     bool isBareWeekday() const { return day == Day::Weekday && !weekNamed && part < 0 && !hasClock; }
 
+    /// True for 昨天, 上周三, 上个月5号 and 去年3月1号.
+    bool isPastDay() const;
+
     /// Takes from @p other what is not said here: "明天 ... 下午三点".
     void complete(const TimeExpression &other);
 };

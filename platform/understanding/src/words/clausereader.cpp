@@ -5,6 +5,8 @@
 
 #include "text/scan.h"
 
+#include <algorithm>
+
 namespace understanding {
 
 namespace {
@@ -54,7 +56,7 @@ bool governsConference(const QString &text, const Tokens &tokens, std::size_t ve
     bool described = false;
     for (std::size_t at = verb + 1; at < qMin(tokens.size(), verb + FarthestConference); ++at) {
         const Token &token = tokens[at];
-        if (token.inTopic) {
+        if (token.inTopic || (token.kind == Token::Kind::Space && described)) { // 开个 standup
             continue;
         }
         if (isConference(token)) {
@@ -141,6 +143,26 @@ bool isFollowedByDe(const QString &text, const Token &token)
     return charAt(text, token.end()) == QChar(u'的');
 }
 
+/// 该开会了，进我的会议: it is time for a conference that exists.
+bool isDue(const QString &text, const Tokens &tokens, std::size_t verb)
+{
+    static const QString dues = QStringLiteral("该要快");
+    const std::size_t end = verb + 3;
+    if (tokens.size() <= end || text.at(tokens[verb].position) != QChar(u'开') ||
+        !dues.contains(charAt(text, tokens[verb].position - 1)) ||
+        !tokens[verb + 1].is(WordClass::Conference) || text.at(tokens[verb + 2].position) != QChar(u'了') ||
+        !isAtClauseEnd(tokens, end)) {
+        return false;
+    }
+    const auto behind = tokens.cbegin() + static_cast<std::ptrdiff_t>(end);
+    const bool joins = std::any_of(behind, tokens.cend(), [](const Token &token) {
+        return token.isAny(WordClass::Join | WordClass::WeakJoin);
+    });
+    return joins && std::any_of(behind, tokens.cend(), [](const Token &token) {
+               return token.is(WordClass::Mine) || token.kind == Token::Kind::Number;
+           });
+}
+
 void settleOpening(const QString &text, Tokens &tokens)
 {
     for (std::size_t at = 0; at < tokens.size(); ++at) {
@@ -168,7 +190,8 @@ void settleOpening(const QString &text, Tokens &tokens)
         const bool comes =
             text.at(token.position) == QChar(u'来') && at > 0 &&
             (tokens[at - 1].kind == Token::Kind::Name || tokens[at - 1].kind == Token::Kind::Other);
-        if (insideName || (comes && startsAt(text, token.end(), QStringLiteral("一下"))) ||
+        if (insideName || isDue(text, tokens, at) ||
+            (comes && startsAt(text, token.end(), QStringLiteral("一下"))) ||
             !(governsConference(text, tokens, at) || followsConference(text, tokens, at))) {
             token.classes.remove(WordClass::WeakOpen);
         }
@@ -248,12 +271,33 @@ bool labelsTime(const QString &text, const Token &token)
     return token.is(WordClass::Filler) && firstOf(text, token.position, {u"时间", u"日期"}) > 0;
 }
 
+/// 说说 in 说说我明天的会: it asks what there is, and says nothing about a conference.
+bool asksAtStart(const Tokens &tokens, std::size_t at)
+{
+    if (!tokens[at].is(WordClass::Query)) {
+        return false;
+    }
+    constexpr WordClasses leading = WordClass::Filler | WordClass::Request | WordClass::Punctuation;
+    for (std::size_t before = 0; before < at; ++before) {
+        if (!tokens[before].isAny(leading)) {
+            return false;
+        }
+    }
+    for (std::size_t next = at + 1; !isAtClauseEnd(tokens, next); ++next) {
+        if (tokens[next].is(WordClass::Conference)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 /// What a conference is about runs to the end of its clause or to the conference: 关于预算的会议.
 void settleTopics(const QString &text, Tokens &tokens)
 {
     bool inTopic = false;
     bool called = false; // right before
-    for (Token &token : tokens) {
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        Token &token = tokens[at];
         const bool newTrigger =
             token.is(WordClass::Trigger) && !token.is(WordClass::WeakTrigger) && token.length > 1;
         if (token.is(WordClass::Conference) || token.is(WordClass::Punctuation) || newTrigger ||
@@ -262,7 +306,7 @@ void settleTopics(const QString &text, Tokens &tokens)
         }
         token.inTopic = inTopic;
         // 评审 in 邀请评审专家戚教授 tells who is called.
-        if (token.is(WordClass::Topic) && !called) {
+        if (token.is(WordClass::Topic) && !called && !asksAtStart(tokens, at)) {
             inTopic = true;
         }
         called = token.isAny(WordClass::Trigger | WordClass::Invite) && !token.is(WordClass::StrongOpen) &&

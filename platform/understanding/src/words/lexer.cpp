@@ -29,7 +29,7 @@ public:
     {
         m_tokens.reserve(static_cast<std::size_t>(m_text.size() / 2) + 1);
         while (m_at < m_text.size()) {
-            if (!takeName() && !takeTimeOrNumberOrWord()) {
+            if (!takeName() && !takeForeignName() && !takeTimeOrNumberOrWord()) {
                 takeOther();
             }
         }
@@ -69,6 +69,17 @@ private:
         return true;
     }
 
+    /// 阿布都热合曼, 阿不都拉: names in which words of the rules stand.
+    bool takeForeignName()
+    {
+        const int length =
+            firstOf(m_text, m_at, {u"阿不都拉", u"阿布都拉", u"阿不都", u"阿布都", u"阿卜都", u"加拉提"});
+        for (int taken = 0; taken < length; ++taken) {
+            takeOther();
+        }
+        return length > 0;
+    }
+
     /// A name that nobody knows may begin like a time: 和周一鸣, 和高明早上.
     bool isInUnknownName(const TimeMatch &match) const
     {
@@ -88,6 +99,11 @@ private:
             return false;
         }
         const TimeMatch later = readTime(m_text, m_at + 1);
+        // 陶渊明下午三点: hardly anybody says 明下午.
+        const int name = before.end() - 1 - m_text.lastIndexOf(QChar(u'的'), before.end() - 1);
+        if (qMin(before.length, name) <= 2 && firstOf(m_text, m_at, {u"明上午", u"明下午", u"明中午"}) > 0) {
+            return later.kind == TimeMatch::Kind::Time;
+        }
         const bool laterIsTime = later.kind == TimeMatch::Kind::Time && !later.expression.impossible;
         // 李四四点; 张三周三 holds no three weeks.
         const bool unlikely =
@@ -134,8 +150,9 @@ private:
     bool takesPieceOfTime(int wordLength) const
     {
         const int last = m_at + wordLength - 1;
-        // 博士 in 施博士后天, 叫 in 叫上官婉儿, 开会 in 开会时间
-        if (wordLength >= 2 && firstOf(m_text, last, {u"后天", u"上官", u"时间"}) > 0) {
+        // 博士 in 施博士后天, 叫 in 叫上官婉儿, 开会 in 开会时间, 清明 in 记不清明天
+        if (wordLength >= 2 &&
+            firstOf(m_text, last, {u"后天", u"上官", u"时间", u"明天", u"明早", u"明晚", u"明儿"}) > 0) {
             return true;
         }
         if (wordLength < 2 || m_text.at(last) != QChar(u'下') || m_text.at(last - 1) == QChar(u'一') ||

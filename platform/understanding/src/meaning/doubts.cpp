@@ -1,0 +1,186 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "meaning/doubts.h"
+
+#include "meaning/outcome.h"
+#include "text/scan.h"
+
+#include <algorithm>
+
+namespace understanding {
+
+namespace {
+
+QString textOf(const Reading &reading, const Token &token)
+{
+    return reading.sentence().text().mid(token.position, token.length);
+}
+
+bool isClauseEnd(const Tokens &tokens, std::size_t at)
+{
+    return at >= tokens.size() || tokens[at].is(WordClass::Punctuation);
+}
+
+/// 明天开会谁主持, 是谁约的会: 谁 asks, wherever it stands.
+bool asksWho(const Reading &reading)
+{
+    return std::any_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+        return token.is(WordClass::Actor) && !token.inTopic && !token.inName &&
+               (textOf(reading, token).contains(QChar(u'谁')) ||
+                textOf(reading, token) == QStringLiteral("哪位"));
+    });
+}
+
+/// 明天会议几个人参加 asks how many come.
+bool asksHowMany(const Reading &reading)
+{
+    return std::any_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+        return !token.inName &&
+               firstOf(reading.sentence().text(), token.position, {u"几个人", u"几人", u"多少人"}) > 0;
+    });
+}
+
+/// 记得三点开会, 别忘了三点开会: somebody is reminded.
+bool reminds(const Reading &reading)
+{
+    const Tokens &tokens = reading.tokens();
+    std::size_t at = 0;
+    while (at < tokens.size() && tokens[at].length == 1 && tokens[at].is(WordClass::Filler)) { // 那
+        ++at;
+    }
+    return at < tokens.size() && !reading.has(WordClass::Request) && reading.names().empty() &&
+           firstOf(reading.sentence().text(), tokens[at].position, {u"记得", u"别忘"}) > 0;
+}
+
+/// 会议三点开始 tells, 开个会，三点开始 orders.
+bool tellsBeginning(const Reading &reading)
+{
+    const QString begins = QStringLiteral("开始");
+    const bool opened = !reading.openVerb().isEmpty() && reading.openVerb().normValue != begins;
+    if (opened || reading.has(WordClass::Request)) {
+        return false;
+    }
+    const Tokens &tokens = reading.tokens();
+    bool conference = false; // in the same clause
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        conference = (conference || tokens[at].is(WordClass::Conference)) && !isClauseEnd(tokens, at);
+        if (conference && tokens[at].length == begins.size() && textOf(reading, tokens[at]) == begins &&
+            isClauseEnd(tokens, at + 1)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// 让财务把钱打过来, 叫小王把报告发我: whoever is told to do something to something else.
+bool sendsSomebody(const Reading &reading)
+{
+    static const QStringList calls = {QStringLiteral("让"),  QStringLiteral("叫"),   QStringLiteral("请"),
+                                      QStringLiteral("喊"),  QStringLiteral("通知"), QStringLiteral("找"),
+                                      QStringLiteral("联系")};
+    static const QStringList does = {QStringLiteral("把"), QStringLiteral("将"), QStringLiteral("给"),
+                                     QStringLiteral("帮")};
+    const Tokens &tokens = reading.tokens();
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        if (tokens[at].inName || !tokens[at].is(WordClass::Trigger) ||
+            !calls.contains(textOf(reading, tokens[at]))) {
+            continue;
+        }
+        std::size_t next = at + 1;
+        while (next < tokens.size() && (tokens[next].inName || tokens[next].is(WordClass::Title))) {
+            ++next;
+        }
+        if (next > at + 1 && next < tokens.size() && !tokens[next].inName &&
+            does.contains(textOf(reading, tokens[next]))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// 通知张伟交周报: nothing says that it is about a conference, and the second name may be none.
+bool callsForNothing(const Reading &reading)
+{
+    constexpr WordClasses conference = WordClass::Conference | WordClass::Arrive | WordClass::Join |
+                                       WordClass::WeakJoin | WordClass::Invite | WordClass::InviteNoun |
+                                       WordClass::ComeMeet | WordClass::Video;
+    if (reading.hasAny(conference)) {
+        return false;
+    }
+    static const QString telling = QStringLiteral("通让请联找");
+    const bool told =
+        std::any_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+            return token.is(WordClass::Trigger) && !token.inName &&
+                   telling.contains(reading.sentence().text().at(token.position));
+        });
+    const std::vector<FoundName> &names = reading.names();
+    for (std::size_t at = 1; told && at < names.size(); ++at) {
+        if (names[at - 1].position + names[at - 1].said.size() == names[at].position) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// 找小王聊聊离职的事: people talk about something, and no word says that they meet.
+bool onlyTalks(const Reading &reading)
+{
+    const bool talks =
+        std::any_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+            return token.is(WordClass::Video) && textOf(reading, token).startsWith(QChar(u'聊'));
+        });
+    const bool meets =
+        std::any_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+            return token.is(WordClass::Conference) ||
+                   (token.is(WordClass::Video) && !textOf(reading, token).startsWith(QChar(u'聊')));
+        });
+    return talks && !meets && reading.timeSaid().isEmpty() && !reading.has(WordClass::Request);
+}
+
+/// 和好友开黑: no word adds anybody.
+bool onlyMentionsFriend(const Reading &reading)
+{
+    static const QStringList nouns = {QStringLiteral("好友"), QStringLiteral("联系人"),
+                                      QStringLiteral("通讯录"), QStringLiteral("好友列表")};
+    constexpr WordClasses adding = WordClass::Add | WordClass::BuddyNoun | WordClass::Invite;
+    if (reading.hasAny(adding) || reading.has(WordClass::Request)) {
+        return false;
+    }
+    return std::none_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+        return token.is(WordClass::Buddy) && !nouns.contains(textOf(reading, token));
+    });
+}
+
+/// 我三点在会议室开会, but not 创建在线会议.
+bool isHeldInRoom(const Reading &reading)
+{
+    const QString &text = reading.sentence().text();
+    const int room = text.indexOf(QStringLiteral("室"));
+    const int before = room < 0 ? -1 : text.lastIndexOf(QStringLiteral("在"), room);
+    constexpr int longestRoom = 8; // 三号大会议室
+    return before >= 0 && room - before <= longestRoom && charAt(text, before + 1) != QChar(u'线') &&
+           text.indexOf(QStringLiteral("开会"), room) > room;
+}
+
+} // namespace
+
+bool isAboutSomethingElse(const Reading &reading, const QString &intent)
+{
+    if (intent == QLatin1String(QueryConference)) {
+        return false;
+    }
+    if (intent == QLatin1String(CreateConference)) {
+        return asksWho(reading) || tellsBeginning(reading) || onlyTalks(reading) || isHeldInRoom(reading) ||
+               sendsSomebody(reading) || reminds(reading);
+    }
+    if (intent == QLatin1String(InviteConference)) {
+        return asksWho(reading) || sendsSomebody(reading) || callsForNothing(reading);
+    }
+    if (intent == QLatin1String(EnterMyConference)) {
+        return asksWho(reading) || asksHowMany(reading);
+    }
+    return intent == QLatin1String(AddBuddy) && onlyMentionsFriend(reading);
+}
+
+} // namespace understanding

@@ -7,6 +7,7 @@
 #include "window/conferencecommands.h"
 #include "window/currentconference.h"
 #include "window/endedconferences.h"
+#include "window/sortedconferences.h"
 
 #include "actions/conferencetexts.h"
 
@@ -15,7 +16,6 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QSortFilterProxyModel>
 #include <QToolButton>
 
 namespace {
@@ -33,11 +33,11 @@ std::optional<Conference> selectedIn(const QTableView &table)
 
 ConferencePage::ConferencePage(ConferenceModel *model, ContactsBook &book, Administration &administration,
                                QWidget *parent)
-    : ConferencePage(model, new QSortFilterProxyModel, book, administration, parent)
+    : ConferencePage(model, new SortedConferences(model), book, administration, parent)
 {
 }
 
-ConferencePage::ConferencePage(ConferenceModel *model, QSortFilterProxyModel *sorted, ContactsBook &book,
+ConferencePage::ConferencePage(ConferenceModel *model, SortedConferences *sorted, ContactsBook &book,
                                Administration &administration, QWidget *parent)
     : TablePage(sorted, ConferenceModel::NumberRole, ConferenceModel::Start, parent)
     , m_model(model)
@@ -48,26 +48,14 @@ ConferencePage::ConferencePage(ConferenceModel *model, QSortFilterProxyModel *so
     , m_scope(new QComboBox)
     , m_passcode(new QLineEdit)
 {
-    sortAndFilter();
+    m_model->setParent(this);
+    m_sorted->setParent(this);
     arrange();
     addMenus();
     setTabOrders();
     connectControls();
     chooseSelected();
     showHint();
-}
-
-void ConferencePage::sortAndFilter()
-{
-    m_model->setParent(this);
-    m_sorted->setParent(this);
-    m_sorted->setSourceModel(m_model);
-    m_sorted->setSortRole(ConferenceModel::SortRole);
-    m_sorted->setSortLocaleAware(true);
-    m_sorted->setFilterRole(ConferenceModel::SearchRole);
-    m_sorted->setFilterKeyColumn(0);
-    m_sorted->setFilterCaseSensitivity(Qt::CaseInsensitive);
-    table()->sortByColumn(ConferenceModel::Start, Qt::AscendingOrder);
 }
 
 void ConferencePage::arrange()

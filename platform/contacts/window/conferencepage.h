@@ -10,13 +10,13 @@ QT_BEGIN_NAMESPACE
 class QAction;
 class QComboBox;
 class QPushButton;
-class QSortFilterProxyModel;
 QT_END_NAMESPACE
 
 class Administration;
 class ConferenceCommands;
 class CurrentConference;
 class EndedConferences;
+class SortedConferences;
 
 /// The conferences: the one that the user is in, those that run or come, those that have ended, and what one
 /// can do with the chosen one.
@@ -36,9 +36,8 @@ Q_SIGNALS:
     void told(const QString &text);
 
 private:
-    ConferencePage(ConferenceModel *model, QSortFilterProxyModel *sorted, ContactsBook &book,
+    ConferencePage(ConferenceModel *model, SortedConferences *sorted, ContactsBook &book,
                    Administration &administration, QWidget *parent);
-    void sortAndFilter();
     void arrange();
     void connectControls();
     void addButton(QPushButton *button, QAction *action);
@@ -52,7 +51,7 @@ private:
     void showHint();
 
     ConferenceModel *m_model;
-    QSortFilterProxyModel *m_sorted; ///< children, all of them
+    SortedConferences *m_sorted; ///< children, all of them
     ConferenceCommands *m_commands;
     CurrentConference *m_current;
     EndedConferences *m_ended;

@@ -4,19 +4,20 @@
 #include "window/endedconferences.h"
 
 #include "window/conferencecolumns.h"
+#include "window/keptselection.h"
+#include "window/sortedconferences.h"
 #include "window/tablepage.h"
 
 #include "book/contactsbook.h"
 
 #include <QHeaderView>
-#include <QSortFilterProxyModel>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 EndedConferences::EndedConferences(ContactsBook &book, QWidget *parent)
     : QWidget(parent)
     , m_model(new ConferenceModel(book, ConferenceModel::Span::Ended, this))
-    , m_sorted(new QSortFilterProxyModel(this))
+    , m_sorted(new SortedConferences(m_model, this))
     , m_disclosure(new QToolButton)
     , m_table(new HintedTable)
 {
@@ -47,12 +48,6 @@ EndedConferences::EndedConferences(ContactsBook &book, QWidget *parent)
 
 void EndedConferences::addTable()
 {
-    m_sorted->setSourceModel(m_model);
-    m_sorted->setSortRole(ConferenceModel::SortRole);
-    m_sorted->setSortLocaleAware(true);
-    m_sorted->setFilterRole(ConferenceModel::SearchRole);
-    m_sorted->setFilterKeyColumn(0);
-    m_sorted->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_table->setModel(m_sorted);
     m_table->setObjectName(QStringLiteral("endedTable"));
     m_table->setAccessibleName(QStringLiteral("已结束的会议"));
@@ -60,20 +55,7 @@ void EndedConferences::addTable()
     TablePage::dress(m_table, ConferenceModel::Start, Qt::DescendingOrder);
     arrangeConferenceColumns(m_table);
     m_table->hide();
-    connect(m_sorted, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
-        const QModelIndexList rows = m_table->selectionModel()->selectedRows();
-        m_selectedNumber = rows.isEmpty() ? QVariant() : rows.constFirst().data(ConferenceModel::NumberRole);
-    });
-    connect(m_sorted, &QAbstractItemModel::modelReset, this, [this] {
-        const QModelIndexList found =
-            m_selectedNumber.isValid() && m_sorted->rowCount() > 0
-                ? m_sorted->match(m_sorted->index(0, 0), ConferenceModel::NumberRole, m_selectedNumber, 1,
-                                  Qt::MatchExactly)
-                : QModelIndexList();
-        if (!found.isEmpty()) {
-            m_table->selectRow(found.constFirst().row());
-        }
-    });
+    new KeptSelection(m_table, ConferenceModel::NumberRole);
 }
 
 void EndedConferences::setScope(ConferenceModel::Scope scope)

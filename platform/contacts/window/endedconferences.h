@@ -8,11 +8,11 @@
 #include <QWidget>
 
 QT_BEGIN_NAMESPACE
-class QSortFilterProxyModel;
 class QToolButton;
 QT_END_NAMESPACE
 
 class HintedTable;
+class SortedConferences;
 
 /// The conferences that have ended, folded away below a line that says how many there are.
 class EndedConferences : public QWidget
@@ -41,9 +41,8 @@ private:
     void addTable();
 
     ConferenceModel *m_model; ///< children, all of them
-    QSortFilterProxyModel *m_sorted;
+    SortedConferences *m_sorted;
     QToolButton *m_disclosure;
     HintedTable *m_table;
     QString m_filter;
-    QVariant m_selectedNumber;
 };

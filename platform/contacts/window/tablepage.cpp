@@ -3,10 +3,11 @@
 
 #include "window/tablepage.h"
 
+#include "window/keptselection.h"
+
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPainter>
-#include <QScrollBar>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -30,8 +31,6 @@ void HintedTable::paintEvent(QPaintEvent *event)
 
 TablePage::TablePage(QAbstractItemModel *model, int keyRole, int sortColumn, QWidget *parent)
     : QWidget(parent)
-    , m_model(model)
-    , m_keyRole(keyRole)
     , m_filter(new QLineEdit)
     , m_table(new HintedTable)
     , m_upperRow(new QHBoxLayout)
@@ -44,20 +43,13 @@ TablePage::TablePage(QAbstractItemModel *model, int keyRole, int sortColumn, QWi
     auto *escape = new QShortcut(Qt::Key_Escape, m_filter, nullptr, nullptr, Qt::WidgetShortcut);
     connect(escape, &QShortcut::activated, m_filter, &QLineEdit::clear);
 
-    m_table->setModel(m_model);
+    m_table->setModel(model);
     dress(m_table, sortColumn, Qt::AscendingOrder);
+    m_selection = new KeptSelection(m_table, keyRole);
     connect(m_table, &QAbstractItemView::activated, this, &TablePage::activated);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &TablePage::selectionChanged);
-    connect(m_model, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
-        m_selectedKey = selected(m_keyRole);
-        m_scrolledTo = m_table->verticalScrollBar()->value();
-    });
-    connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
-        select(m_selectedKey);
-        m_table->verticalScrollBar()->setValue(m_scrolledTo);
-        Q_EMIT selectionChanged();
-    });
+    connect(m_selection, &KeptSelection::restored, this, &TablePage::selectionChanged);
 
     m_upperRow->addWidget(m_filter, 1);
     auto *layout = new QVBoxLayout(this);
@@ -87,19 +79,10 @@ void TablePage::dress(QTableView *table, int sortColumn, Qt::SortOrder order)
 
 QVariant TablePage::selected(int role) const
 {
-    const QModelIndexList rows = m_table->selectionModel()->selectedRows();
-    return rows.isEmpty() ? QVariant() : rows.constFirst().data(role);
+    return m_selection->selected(role);
 }
 
 void TablePage::select(const QVariant &key)
 {
-    if (!key.isValid()) {
-        return;
-    }
-    for (int row = 0; row < m_model->rowCount(); ++row) {
-        if (m_model->index(row, 0).data(m_keyRole) == key) {
-            m_table->selectRow(row);
-            return;
-        }
-    }
+    m_selection->select(key);
 }

@@ -11,6 +11,8 @@ QT_BEGIN_NAMESPACE
 class QHBoxLayout;
 QT_END_NAMESPACE
 
+class KeptSelection;
+
 /// A table that says something friendly where it has no rows.
 class HintedTable : public QTableView
 {
@@ -57,12 +59,9 @@ Q_SIGNALS:
     void activated();
 
 private:
-    QAbstractItemModel *m_model;
-    int m_keyRole;
     QLineEdit *m_filter; ///< children, all of them
     HintedTable *m_table;
+    KeptSelection *m_selection;
     QHBoxLayout *m_upperRow;
     QHBoxLayout *m_lowerRow;
-    QVariant m_selectedKey;
-    int m_scrolledTo = 0;
 };

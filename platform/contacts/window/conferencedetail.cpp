@@ -19,7 +19,6 @@
 #include <lumo/plaintooltip.h>
 
 #include <QDateTimeEdit>
-#include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHeaderView>
 #include <QJsonObject>
@@ -66,7 +65,7 @@ QLabel *makeLabel()
 } // namespace
 
 ConferenceDetail::ConferenceDetail(ContactsBook &book, const Conference &conference, QWidget *parent)
-    : QDialog(parent)
+    : FormDialog(QStringLiteral("会议详情"), LeastWidth, parent)
     , m_book(book)
     , m_conference(conference)
     , m_title(new QLineEdit)
@@ -78,11 +77,8 @@ ConferenceDetail::ConferenceDetail(ContactsBook &book, const Conference &confere
     , m_passcode(new PasscodeField)
     , m_passcodeNote(new QLabel)
     , m_seats(new QTreeWidget)
-    , m_result(new ResultLabel)
     , m_save(new LSuggestButton(QStringLiteral("保存(&O)")))
 {
-    setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(QStringLiteral("会议详情"));
     arrange();
     reload();
     m_openedFor = m_viewer.userId;
@@ -102,28 +98,11 @@ void ConferenceDetail::arrange()
     m_seats->header()->setStretchLastSection(false);
     m_seats->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_seats->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    m_result->setObjectName(QStringLiteral("detailResult"));
-    auto *form = new QFormLayout;
-    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    form->setSpacing(10);
-    addFields(*form);
-
-    auto *buttons = new QDialogButtonBox;
+    result()->setObjectName(QStringLiteral("detailResult"));
     m_save->setObjectName(QStringLiteral("save"));
-    m_save->setDefault(true);
-    buttons->addButton(m_save, QDialogButtonBox::AcceptRole);
-    QPushButton *close = buttons->addButton(QStringLiteral("关闭"), QDialogButtonBox::RejectRole);
-    close->setObjectName(QStringLiteral("close"));
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(16, 16, 16, 16);
-    layout->setSpacing(10);
-    layout->addLayout(form);
-    layout->addWidget(m_seats, 1);
-    layout->addWidget(m_result);
-    layout->addWidget(buttons);
-    setMinimumWidth(LeastWidth);
-    connect(buttons, &QDialogButtonBox::accepted, this, &ConferenceDetail::save);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    addFields();
+    addBelowForm(m_seats);
+    addButtons(m_save, QStringLiteral("关闭"));
     connect(m_title, &QLineEdit::textChanged, this, &ConferenceDetail::showWhetherChanged);
     connect(m_start, &QDateTimeEdit::dateTimeChanged, this, &ConferenceDetail::showWhetherChanged);
     for (QSpinBox *box : {m_minutes, m_limit}) {
@@ -133,7 +112,7 @@ void ConferenceDetail::arrange()
     connect(m_passcode, &PasscodeField::edited, this, &ConferenceDetail::showWhetherChanged);
 }
 
-void ConferenceDetail::addFields(QFormLayout &form)
+void ConferenceDetail::addFields()
 {
     m_title->setObjectName(QStringLiteral("title"));
     m_title->setMaxLength(100);
@@ -148,13 +127,13 @@ void ConferenceDetail::addFields(QFormLayout &form)
     auto *passcode = new QVBoxLayout;
     passcode->addWidget(m_passcode);
     passcode->addWidget(m_passcodeNote);
-    form.addRow(QStringLiteral("主题(&I)"), m_title);
-    form.addRow(QStringLiteral("会议号"), m_number);
-    form.addRow(QStringLiteral("主持人"), m_host);
-    form.addRow(QStringLiteral("开始时间(&B)"), m_start);
-    form.addRow(QStringLiteral("时长(&D)"), m_minutes);
-    form.addRow(QStringLiteral("人数上限(&L)"), m_limit);
-    form.addRow(QStringLiteral("密码"), passcode);
+    form()->addRow(QStringLiteral("主题(&I)"), m_title);
+    form()->addRow(QStringLiteral("会议号"), m_number);
+    form()->addRow(QStringLiteral("主持人"), m_host);
+    form()->addRow(QStringLiteral("开始时间(&B)"), m_start);
+    form()->addRow(QStringLiteral("时长(&D)"), m_minutes);
+    form()->addRow(QStringLiteral("人数上限(&L)"), m_limit);
+    form()->addRow(QStringLiteral("密码"), passcode);
 }
 
 void ConferenceDetail::reload()
@@ -276,7 +255,7 @@ void ConferenceDetail::showWhetherChanged()
     m_save->setEnabled(!changes().isEmpty() && !cleanDisplayText(m_title->text()).isEmpty());
 }
 
-void ConferenceDetail::save()
+void ConferenceDetail::submit()
 {
     QJsonObject parameters = changes();
     parameters.insert(JsonKey::ConferenceId, m_conference.confId);
@@ -287,7 +266,7 @@ void ConferenceDetail::save()
         Q_EMIT told(QStringLiteral("会议 %1 已修改。").arg(m_conference.dialNumber));
         return;
     }
-    m_result->tell(word == Outcome::UpdateFailed
+    result()->tell(word == Outcome::UpdateFailed
                        ? QStringLiteral("修改失败：时间已过或与其他会议重复，或人数少于已邀请的成员。")
                        : outcomeText(word));
 }

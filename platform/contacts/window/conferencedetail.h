@@ -4,12 +4,10 @@
 #pragma once
 
 #include "window/conferenceoptions.h"
-
-#include <QDialog>
+#include "window/formdialog.h"
 
 QT_BEGIN_NAMESPACE
 class QDateTimeEdit;
-class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -18,11 +16,10 @@ class QTreeWidget;
 QT_END_NAMESPACE
 
 class PasscodeField;
-class ResultLabel;
 
 /// One conference with everybody who has or had a seat in it; its host can change it here. Follows who is in
-/// it. Does not wait: the assistant's requests go on meanwhile. Deletes itself when it is closed.
-class ConferenceDetail : public QDialog
+/// it.
+class ConferenceDetail : public FormDialog
 {
     Q_OBJECT
 
@@ -30,13 +27,9 @@ public:
     /// @p book must outlive it.
     ConferenceDetail(ContactsBook &book, const Conference &conference, QWidget *parent = nullptr);
 
-Q_SIGNALS:
-    /// Something to tell the user, once it is closed.
-    void told(const QString &text);
-
 private:
     void arrange();
-    void addFields(QFormLayout &form);
+    void addFields();
     void showValues();
     /// What can be changed in the conference as it is now. Leaves alone what somebody has typed.
     void showEditable(const Conference &current);
@@ -44,7 +37,8 @@ private:
     void showSeats(const QVector<Participant> &seats);
     QJsonObject changes() const;
     void showWhetherChanged();
-    void save();
+    /// Saves what was edited.
+    void submit() override;
 
     ContactsBook &m_book;
     Conference m_conference;
@@ -62,6 +56,5 @@ private:
     PasscodeField *m_passcode;
     QLabel *m_passcodeNote;
     QTreeWidget *m_seats;
-    ResultLabel *m_result;
     QPushButton *m_save;
 };

@@ -20,13 +20,11 @@
 #include <lumo/lsuggestbutton.h>
 
 #include <QDateTimeEdit>
-#include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -66,20 +64,17 @@ qint64 suggestedStart(qint64 nowMsecs)
 } // namespace
 
 ConferenceDialog::ConferenceDialog(ContactsBook &book, QWidget *parent)
-    : QDialog(parent)
+    : FormDialog(QStringLiteral("发起会议"), LeastWidth, parent)
     , m_book(book)
     , m_title(new QLineEdit)
     , m_now(new QRadioButton(QStringLiteral("现在开始(&G)")))
     , m_later(new QRadioButton(QStringLiteral("预约(&B)")))
     , m_start(makeConferenceTimeEdit())
     , m_passcode(new PasscodeField)
-    , m_result(new ResultLabel)
 {
     const Person user = userOf(m_book);
     m_people = new InviteeField(m_book, ConferenceRules::forKind(user.kind).defaultParticipantLimit - 1);
     m_title->setPlaceholderText(QStringLiteral("%1的视频会议").arg(cleanDisplayText(user.name)));
-    setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(QStringLiteral("发起会议"));
     arrange();
 }
 
@@ -88,36 +83,19 @@ void ConferenceDialog::arrange()
     m_title->setObjectName(QStringLiteral("title"));
     m_title->setMaxLength(100);
     m_passcode->setObjectName(QStringLiteral("newPasscode"));
-    m_result->setObjectName(QStringLiteral("newResult"));
-    auto *form = new QFormLayout;
-    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    form->setSpacing(10);
-    form->addRow(QStringLiteral("主题(&I)"), m_title);
-    addWhen(*form);
-    form->addRow(QStringLiteral("邀请(&P)"), m_people);
-    form->addRow(QStringLiteral("密码(&C)"), m_passcode);
-
-    auto *buttons = new QDialogButtonBox;
+    result()->setObjectName(QStringLiteral("newResult"));
+    form()->addRow(QStringLiteral("主题(&I)"), m_title);
+    addWhen();
+    form()->addRow(QStringLiteral("邀请(&P)"), m_people);
+    form()->addRow(QStringLiteral("密码(&C)"), m_passcode);
     auto *make = new LSuggestButton(QStringLiteral("发起(&O)"));
     make->setObjectName(QStringLiteral("make"));
-    make->setDefault(true);
-    buttons->addButton(make, QDialogButtonBox::AcceptRole);
-    QPushButton *close = buttons->addButton(QStringLiteral("取消"), QDialogButtonBox::RejectRole);
-    close->setObjectName(QStringLiteral("close"));
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(16, 16, 16, 16);
-    layout->setSpacing(10);
-    layout->addLayout(form);
-    layout->addWidget(m_result);
-    layout->addWidget(buttons);
-    setMinimumWidth(LeastWidth);
-    connect(buttons, &QDialogButtonBox::accepted, this, &ConferenceDialog::makeConference);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(m_people, &InviteeField::told, m_result, &ResultLabel::tell);
-    connect(m_people, &InviteeField::changed, m_result, [this] { m_result->tell(QString()); });
+    addButtons(make, QStringLiteral("取消"));
+    connect(m_people, &InviteeField::told, result(), &ResultLabel::tell);
+    connect(m_people, &InviteeField::changed, this, [this] { result()->tell(QString()); });
 }
 
-void ConferenceDialog::addWhen(QFormLayout &form)
+void ConferenceDialog::addWhen()
 {
     m_now->setObjectName(QStringLiteral("now"));
     m_later->setObjectName(QStringLiteral("later"));
@@ -135,7 +113,7 @@ void ConferenceDialog::addWhen(QFormLayout &form)
     when->addWidget(m_now);
     when->addWidget(m_later);
     when->addWidget(m_start, 1);
-    form.addRow(QStringLiteral("时间"), when);
+    form()->addRow(QStringLiteral("时间"), when);
 }
 
 QJsonObject ConferenceDialog::parameters() const
@@ -159,14 +137,14 @@ QJsonObject ConferenceDialog::parameters() const
     return parameters;
 }
 
-void ConferenceDialog::makeConference()
+void ConferenceDialog::submit()
 {
     const QJsonObject answer = askBook(m_book, QStringLiteral("Create Conference"), parameters());
     const QString word = answer.value(JsonKey::Ret).toString();
     const QJsonArray list = answer.value(JsonKey::List).toArray();
     // An overlap is answered with the others, which are there already.
     if (list.isEmpty() || word == Outcome::TimeOverlap) {
-        m_result->tell(word == Outcome::InvalidParameters ? QStringLiteral("时间已过，或密码含有空格。")
+        result()->tell(word == Outcome::InvalidParameters ? QStringLiteral("时间已过，或密码含有空格。")
                                                           : outcomeText(word));
         return;
     }

@@ -3,11 +3,10 @@
 
 #pragma once
 
-#include <QDialog>
+#include "window/formdialog.h"
 
 QT_BEGIN_NAMESPACE
 class QDateTimeEdit;
-class QFormLayout;
 class QLineEdit;
 class QRadioButton;
 QT_END_NAMESPACE
@@ -15,11 +14,9 @@ QT_END_NAMESPACE
 class ContactsBook;
 class InviteeField;
 class PasscodeField;
-class ResultLabel;
 
-/// Asks for a new conference and makes it. Stays open, with the reason, when the application refuses. Does
-/// not wait: the assistant's requests go on meanwhile. Deletes itself when it is closed.
-class ConferenceDialog : public QDialog
+/// Asks for a new conference and makes it. Stays open, with the reason, when the application refuses.
+class ConferenceDialog : public FormDialog
 {
     Q_OBJECT
 
@@ -30,13 +27,12 @@ public:
 Q_SIGNALS:
     /// A conference with that number is there.
     void made(const QString &dialNumber);
-    /// Something to tell the user, once it is closed.
-    void told(const QString &text);
 
 private:
     void arrange();
-    void addWhen(QFormLayout &form);
-    void makeConference();
+    void addWhen();
+    /// Makes the conference.
+    void submit() override;
     /// The names of those chosen who have no seat in the conference that was made.
     QStringList notInvited(const QString &number) const;
     QJsonObject parameters() const;
@@ -48,5 +44,4 @@ private:
     QDateTimeEdit *m_start;
     InviteeField *m_people;
     PasscodeField *m_passcode;
-    ResultLabel *m_result;
 };

@@ -98,16 +98,10 @@ QString participantNames(const Conference &conference)
     return names.join(QStringLiteral("、"));
 }
 
-bool hasSameRows(const QVector<Conference> &left, const QVector<Conference> &right)
-{
-    return std::equal(left.cbegin(), left.cend(), right.cbegin(), right.cend(),
-                      [](const Conference &one, const Conference &other) { return one.id == other.id; });
-}
-
 } // namespace
 
 ConferenceModel::ConferenceModel(ContactsBook &book, Span span, QObject *parent)
-    : QAbstractTableModel(parent)
+    : RecordModel(ColumnCount, parent)
     , m_book(book)
     , m_span(span)
     , m_isActive(span == Span::Coming)
@@ -149,7 +143,7 @@ int ConferenceModel::rowLimit() const
 
 bool ConferenceModel::canFetchMore(const QModelIndex &parent) const
 {
-    return m_isActive && !parent.isValid() && m_conferences.size() == rowLimit();
+    return m_isActive && !parent.isValid() && records().size() == rowLimit();
 }
 
 void ConferenceModel::fetchMore(const QModelIndex &parent)
@@ -159,66 +153,38 @@ void ConferenceModel::fetchMore(const QModelIndex &parent)
     }
     m_pages = rowLimit() / PageSize + 1;
     const QVector<Conference> conferences = load(rowLimit());
-    const int known = m_conferences.size();
-    if (conferences.size() < known || !hasSameRows(conferences.mid(0, known), m_conferences)) {
+    const int known = records().size();
+    if (!hasSameRows(conferences.mid(0, known), records())) {
         reload(); // changed meanwhile
         return;
     }
     if (conferences.size() > known) {
-        beginInsertRows({}, known, conferences.size() - 1);
-        m_conferences = conferences;
-        endInsertRows();
+        append(conferences.mid(known));
         waitForNextChange();
     }
 }
 
 void ConferenceModel::reload()
 {
-    QVector<Conference> conferences = m_isActive ? load(rowLimit()) : QVector<Conference>();
-    // Rows that stay keep their selection.
-    if (hasSameRows(conferences, m_conferences)) {
-        m_conferences = std::move(conferences);
-        if (!m_conferences.isEmpty()) {
-            Q_EMIT dataChanged(index(0, 0), index(m_conferences.size() - 1, ColumnCount - 1));
-        }
-    } else {
-        beginResetModel();
-        m_conferences = std::move(conferences);
-        endResetModel();
-    }
+    replace(m_isActive ? load(rowLimit()) : QVector<Conference>());
     waitForNextChange();
 }
 
-int ConferenceModel::rowCount(const QModelIndex &parent) const
+QVariant ConferenceModel::value(const Conference &conference, int column, int role) const
 {
-    return parent.isValid() ? 0 : m_conferences.size();
-}
-
-int ConferenceModel::columnCount(const QModelIndex &parent) const
-{
-    return parent.isValid() ? 0 : ColumnCount;
-}
-
-QVariant ConferenceModel::data(const QModelIndex &index, int role) const
-{
-    if (!index.isValid() || index.row() >= m_conferences.size()) {
-        return {};
-    }
-    const Conference &conference = m_conferences.at(index.row());
     const ConferenceState state = conference.stateAt(m_book.nowMsecs());
     switch (role) {
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:
-        return display(conference, index.column());
+        return display(conference, column);
     case Qt::ToolTipRole:
-        return plainToolTip(index.column() == People ? participantNames(conference)
-                                                     : display(conference, index.column()));
+        return plainToolTip(column == People ? participantNames(conference) : display(conference, column));
     case Qt::DecorationRole:
-        return index.column() == State ? legibleInLists(lookOf(state).color) : QVariant();
+        return column == State ? legibleInLists(lookOf(state).color) : QVariant();
     case Qt::BackgroundRole:
         return isToday(conference) ? todaysGround() : QVariant();
     case Qt::FontRole:
-        return index.column() == Start && isToday(conference) ? boldFont() : QVariant();
+        return column == Start && isToday(conference) ? boldFont() : QVariant();
     case ConferenceRole:
         return QVariant::fromValue(conference);
     case NumberRole:
@@ -228,7 +194,7 @@ QVariant ConferenceModel::data(const QModelIndex &index, int role) const
     case StateRole:
         return static_cast<int>(state);
     case SortRole:
-        return sortKey(conference, index.column());
+        return sortKey(conference, column);
     case SearchRole:
         return QStringList{cleanDisplayText(conference.title), conference.dialNumber,
                            participantNames(conference), lookOf(state).text}
@@ -238,12 +204,9 @@ QVariant ConferenceModel::data(const QModelIndex &index, int role) const
     }
 }
 
-QVariant ConferenceModel::headerData(int section, Qt::Orientation orientation, int role) const
+QVariant ConferenceModel::header(int column) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= ColumnCount) {
-        return {};
-    }
-    return headerText(section);
+    return headerText(column);
 }
 
 QString ConferenceModel::userId() const
@@ -299,16 +262,14 @@ void ConferenceModel::followClock()
 {
     const qint64 now = m_book.nowMsecs();
     const bool hasEnded =
-        m_span == Span::Coming && std::any_of(m_conferences.cbegin(), m_conferences.cend(),
+        m_span == Span::Coming && std::any_of(records().cbegin(), records().cend(),
                                               [now](const Conference &row) { return row.endMsecs() <= now; });
     if (hasEnded) {
         reload();
         Q_EMIT someEnded();
         return;
     }
-    if (!m_conferences.isEmpty()) {
-        Q_EMIT dataChanged(index(0, 0), index(m_conferences.size() - 1, ColumnCount - 1));
-    }
+    announceChange();
     waitForNextChange();
 }
 
@@ -317,7 +278,7 @@ void ConferenceModel::waitForNextChange()
     // Looks at the clock at least every minute: somebody may set it.
     const qint64 now = m_book.nowMsecs();
     qint64 next = now + MinuteMsecs;
-    for (const Conference &conference : qAsConst(m_conferences)) {
+    for (const Conference &conference : records()) {
         for (const qint64 change : {conference.startMsecs, conference.endMsecs()}) {
             if (change > now) {
                 next = qMin(next, change);

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "core/conference.h"
+#include "window/recordmodel.h"
 
-#include <QAbstractTableModel>
 #include <QTimer>
 
 class ContactsBook;
@@ -17,7 +17,7 @@ Q_DECLARE_METATYPE(Conference)
  * thirty days, the latest first. Follows the database, and the clock: a row changes at the moment its
  * conference starts, and goes when it ends. Shows no passcode. On the GUI thread.
  */
-class ConferenceModel : public QAbstractTableModel
+class ConferenceModel : public RecordModel<Conference, &Conference::id>
 {
     Q_OBJECT
 
@@ -51,16 +51,14 @@ public:
 
     bool canFetchMore(const QModelIndex &parent) const override;
     void fetchMore(const QModelIndex &parent) override;
-    int rowCount(const QModelIndex &parent = {}) const override;
-    int columnCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 Q_SIGNALS:
     /// A row went because its conference has ended.
     void someEnded();
 
 private:
+    QVariant header(int column) const override;
+    QVariant value(const Conference &conference, int column, int role) const override;
     QVector<Conference> load(int limit) const;
     int rowLimit() const;
     void followClock();
@@ -76,6 +74,5 @@ private:
     Scope m_scope = Scope::Mine;
     Reading m_reading = Reading::Pages;
     int m_pages = 1;
-    QVector<Conference> m_conferences;
     QTimer m_clock;
 };

@@ -7,7 +7,6 @@
 
 #include <lumo/plaintooltip.h>
 
-#include <algorithm>
 #include <array>
 #include <limits>
 
@@ -22,15 +21,10 @@ QString headerText(int column)
     return headers.at(static_cast<size_t>(column));
 }
 
-bool isSame(const Person &left, const Person &right)
-{
-    return left.userId == right.userId;
-}
-
 } // namespace
 
 PeopleModel::PeopleModel(ContactsBook &book, QObject *parent)
-    : QAbstractTableModel(parent)
+    : RecordModel(ColumnCount, parent)
     , m_book(book)
     , m_reader(book)
 {
@@ -47,7 +41,7 @@ void PeopleModel::reload()
         m_isStale = true; // a reading that starts anew with each change would never end
     } else {
         // As many as there were, so that whoever has scrolled stays there.
-        start(Showing::WhenComplete, qMax(PageSize, m_people.size()));
+        start(Showing::WhenComplete, qMax(PageSize, records().size()));
         if (isInAccountOrder()) {
             readOn(); // another order takes its time; the former rows stay until then
         }
@@ -113,7 +107,7 @@ void PeopleModel::readOn()
     const bool isFirst = m_isFirstSlice;
     m_isFirstSlice = false;
     const bool isAppending = m_showing == Showing::AsTheyCome && !isFirst;
-    const int have = isFirst ? 0 : isAppending ? m_people.size() : m_fresh.size();
+    const int have = isFirst ? 0 : isAppending ? records().size() : m_fresh.size();
     QVector<Person> people;
     try {
         people = m_reader.read(m_wanted - have);
@@ -150,30 +144,6 @@ void PeopleModel::finish()
     }
 }
 
-void PeopleModel::append(const QVector<Person> &people)
-{
-    if (people.isEmpty()) {
-        return;
-    }
-    beginInsertRows({}, m_people.size(), m_people.size() + people.size() - 1);
-    m_people += people;
-    endInsertRows();
-}
-
-void PeopleModel::replace(QVector<Person> people)
-{
-    if (std::equal(people.cbegin(), people.cend(), m_people.cbegin(), m_people.cend(), isSame)) {
-        m_people = std::move(people);
-        if (!m_people.isEmpty()) {
-            Q_EMIT dataChanged(index(0, 0), index(m_people.size() - 1, ColumnCount - 1));
-        }
-        return;
-    }
-    beginResetModel();
-    m_people = std::move(people);
-    endResetModel();
-}
-
 bool PeopleModel::canFetchMore(const QModelIndex &parent) const
 {
     return !parent.isValid() && !isReading() && m_reader.hasMore();
@@ -185,34 +155,20 @@ void PeopleModel::fetchMore(const QModelIndex &parent)
         return;
     }
     m_showing = Showing::AsTheyCome;
-    m_wanted = m_people.size() + PageSize;
+    m_wanted = records().size() + PageSize;
     m_slices.start(0);
     readOn();
 }
 
-int PeopleModel::rowCount(const QModelIndex &parent) const
+QVariant PeopleModel::value(const Person &person, int column, int role) const
 {
-    return parent.isValid() ? 0 : m_people.size();
-}
-
-int PeopleModel::columnCount(const QModelIndex &parent) const
-{
-    return parent.isValid() ? 0 : ColumnCount;
-}
-
-QVariant PeopleModel::data(const QModelIndex &index, int role) const
-{
-    if (!index.isValid() || index.row() >= m_people.size()) {
-        return {};
-    }
-    const Person &person = m_people.at(index.row());
-    const auto column = static_cast<PersonColumn>(index.column());
+    const auto what = static_cast<PersonColumn>(column);
     switch (role) {
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:
-        return personText(person, column);
+        return personText(person, what);
     case Qt::ToolTipRole:
-        return plainToolTip(personText(person, column));
+        return plainToolTip(personText(person, what));
     case AccountRole:
         return person.account;
     case FriendshipRole:
@@ -222,10 +178,7 @@ QVariant PeopleModel::data(const QModelIndex &index, int role) const
     }
 }
 
-QVariant PeopleModel::headerData(int section, Qt::Orientation orientation, int role) const
+QVariant PeopleModel::header(int column) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= ColumnCount) {
-        return {};
-    }
-    return headerText(section);
+    return headerText(column);
 }

@@ -5,10 +5,9 @@
 
 #include "window/peopleorder.h"
 #include "window/peoplereader.h"
+#include "window/recordmodel.h"
 
-#include <QAbstractTableModel>
 #include <QTimer>
-#include <QVector>
 
 class ContactsBook;
 
@@ -17,7 +16,7 @@ class ContactsBook;
  * the order of the accounts it reads page by page, as far as somebody scrolls; any other order takes them
  * all. Whatever takes long is done in the event loop, a few milliseconds at a time. On the GUI thread.
  */
-class PeopleModel : public QAbstractTableModel
+class PeopleModel : public RecordModel<Person, &Person::userId>
 {
     Q_OBJECT
 
@@ -39,10 +38,6 @@ public:
 
     bool canFetchMore(const QModelIndex &parent) const override;
     void fetchMore(const QModelIndex &parent) override;
-    int rowCount(const QModelIndex &parent = {}) const override;
-    int columnCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 Q_SIGNALS:
     /// The rows are those that were asked for.
@@ -52,14 +47,15 @@ private:
     /// Rows are shown as they are read, or the former ones stay until all that are wanted have been read.
     enum class Showing { AsTheyCome, WhenComplete };
 
+    QVariant header(int column) const override;
+    QVariant value(const Person &person, int column, int role) const override;
+
     /// Reads from the next turn of the event loop on.
     void start(Showing showing, int wanted);
     /// Has the first portion when it returns.
     void startAtOnce(Showing showing, int wanted);
     void readOn();
     void finish();
-    void append(const QVector<Person> &people);
-    void replace(QVector<Person> people);
     QString currentOwner() const;
     bool isInAccountOrder() const { return m_sortColumn == Account && m_sortOrder == Qt::AscendingOrder; }
 
@@ -72,7 +68,6 @@ private:
     bool m_isFirstSlice = false;
     bool m_isStale = false; ///< something has changed since the reading began
     QVector<Person> m_fresh;
-    QVector<Person> m_people;
     QString m_ownerId;
     QString m_filter;
     PeopleScope m_scope = PeopleScope::Everybody;

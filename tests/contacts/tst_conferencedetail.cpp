@@ -2,23 +2,21 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "windowfixture.h"
+#include "windowpictures.h"
 
 #include "testcolumns.h"
 
 #include "window/conferencedetail.h"
 
-#include <lumo/lguiapplicationhelper.h>
-
 #include <QAction>
 #include <QDateTimeEdit>
-#include <QDir>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QToolButton>
 #include <QTreeWidget>
 
 /// The dialog that shows one conference, and lets its host change it.
-class TestConferenceDetail : public ContactsWindowTest
+class TestConferenceDetail : public ContactsDialogTest<ConferenceDetail>
 {
     Q_OBJECT
 
@@ -40,21 +38,11 @@ private Q_SLOTS:
     void pictures();
 
 private:
-    ConferenceDetail *detail() const { return m_fixture->window->findChild<ConferenceDetail *>(); }
-    template <typename T>
-    T *field(const char *name) const
-    {
-        T *found = detail() ? detail()->findChild<T *>(QString::fromLatin1(name)) : nullptr;
-        if (!found) {
-            qFatal("The dialog has no %s", name);
-        }
-        return found;
-    }
     void open(const char *number) const
     {
         m_fixture->selectNumber(number);
         m_fixture->child<QAction>("open")->trigger();
-        QVERIFY(detail() && detail()->isVisible());
+        QVERIFY(dialog() && dialog()->isVisible());
     }
     Conference stored(const char *number) const
     {
@@ -71,25 +59,25 @@ void TestConferenceDetail::returnAndADoubleClickOpenIt()
     m_fixture->selectNumber("880100005");
     m_fixture->conferences()->setFocus();
     QTest::keyClick(m_fixture->conferences(), Qt::Key_Return);
-    QVERIFY(detail());
+    QVERIFY(dialog());
     QCOMPARE(field<QLabel>("number")->text(), QStringLiteral("880100005"));
-    QTest::keyClick(detail(), Qt::Key_Escape);
-    QTRY_VERIFY(!detail());
+    QTest::keyClick(dialog(), Qt::Key_Escape);
+    QTRY_VERIFY(!dialog());
     const QPoint row =
         m_fixture->conferences()->visualRect(m_fixture->conferences()->model()->index(0, 1)).center();
     QTest::mouseClick(m_fixture->conferences()->viewport(), Qt::LeftButton, Qt::NoModifier, row);
     QTest::mouseDClick(m_fixture->conferences()->viewport(), Qt::LeftButton, Qt::NoModifier, row);
-    QVERIFY(detail());
+    QVERIFY(dialog());
     QCOMPARE(field<QLabel>("number")->text(), QStringLiteral("880100001"));
-    QTest::keyClick(detail(), Qt::Key_Escape);
-    QTRY_VERIFY(!detail());
+    QTest::keyClick(dialog(), Qt::Key_Escape);
+    QTRY_VERIFY(!dialog());
     // Of those that have ended, too.
     m_fixture->child<QToolButton>("ended")->click();
     auto *ended = m_fixture->child<QTableView>("endedTable");
     ended->selectRow(0);
     ended->setFocus();
     QTest::keyClick(ended, Qt::Key_Return);
-    QVERIFY(detail());
+    QVERIFY(dialog());
     QCOMPARE(field<QLabel>("number")->text(), QStringLiteral("880100008"));
 }
 
@@ -131,7 +119,7 @@ void TestConferenceDetail::aHostChangesEverything()
     field<QSpinBox>("limit")->setValue(33);
     field<QLineEdit>("passcodeText")->setText(QStringLiteral("77"));
     clickSave();
-    QTRY_VERIFY(!detail());
+    QTRY_VERIFY(!dialog());
     QCOMPARE(m_fixture->told(), QStringLiteral("会议 880100005 已修改。"));
     const Conference after = stored("880100005");
     QCOMPARE(after.title, QStringLiteral("周会"));
@@ -160,7 +148,7 @@ void TestConferenceDetail::onlyWhatWasEditedIsSent()
     open("1");
     field<QLineEdit>("title")->setText(QStringLiteral("新名"));
     clickSave();
-    QTRY_VERIFY(!detail());
+    QTRY_VERIFY(!dialog());
     const Conference after = stored("1");
     QCOMPARE(after.title, QStringLiteral("新名"));
     QCOMPARE(after.startMsecs, start);
@@ -181,7 +169,7 @@ void TestConferenceDetail::aLongPasscodeIsKeptWhenItIsNotEdited()
     QVERIFY(!field<QPushButton>("save")->isEnabled());
     field<QLineEdit>("title")->setText(QStringLiteral("周会"));
     clickSave();
-    QTRY_VERIFY(!detail());
+    QTRY_VERIFY(!dialog());
     QCOMPARE(stored("880100005").title, QStringLiteral("周会"));
     QCOMPARE(stored("880100005").passcode, passcode);
 }
@@ -193,7 +181,7 @@ void TestConferenceDetail::aRefusalSaysWhyAndKeepsItOpen()
     field<QLineEdit>("title")->setText(QStringLiteral("周会"));
     field<QDateTimeEdit>("start")->setDateTime(QDateTime(QDate(2026, 3, 9), QTime(10, 0))); // 客户回访
     clickSave();
-    QVERIFY(detail() && detail()->isVisible());
+    QVERIFY(dialog() && dialog()->isVisible());
     QCOMPARE(field<QLabel>("detailResult")->text(),
              QStringLiteral("修改失败：时间已过或与其他会议重复，或人数少于已邀请的成员。"));
     QCOMPARE(field<QLineEdit>("title")->text(), QStringLiteral("周会"));
@@ -215,7 +203,7 @@ void TestConferenceDetail::othersCanOnlyRead()
     QVERIFY(field<QLineEdit>("passcodeText")->text().isEmpty());
     QCOMPARE(field<QLabel>("passcodeNote")->text(), QStringLiteral("有，仅主持人可见"));
     m_fixture->world->admin.Logout();
-    QTRY_VERIFY(!detail());
+    QTRY_VERIFY(!dialog());
 }
 
 void TestConferenceDetail::whatRunsCannotBeMoved()
@@ -227,7 +215,7 @@ void TestConferenceDetail::whatRunsCannotBeMoved()
     QVERIFY(!field<QLineEdit>("title")->isReadOnly());
     field<QSpinBox>("minutes")->setValue(50);
     clickSave();
-    QTRY_VERIFY(!detail());
+    QTRY_VERIFY(!dialog());
     QCOMPARE(stored("880100005").durationMsecs, 50 * MinuteMsecs);
 }
 
@@ -236,7 +224,7 @@ void TestConferenceDetail::whatHasEndedCannotBeChanged()
     m_fixture->child<QToolButton>("ended")->click();
     m_fixture->child<QTableView>("endedTable")->selectRow(0);
     m_fixture->child<QAction>("open")->trigger();
-    QVERIFY(detail());
+    QVERIFY(dialog());
     QVERIFY(field<QLineEdit>("title")->isReadOnly());
     QVERIFY(!field<QPushButton>("save")->isVisible());
 }
@@ -250,7 +238,7 @@ void TestConferenceDetail::itFollowsWhoJoinsAndClosesWhenItIsGone()
     QCOMPARE(field<QLineEdit>("title")->text(), QStringLiteral("周会")); // somebody is typing
     m_fixture->world->ask(QStringLiteral("Delete Conference"),
                           QJsonObject{{QStringLiteral("conferenceId"), stored("880100005").confId}});
-    QTRY_VERIFY(!detail());
+    QTRY_VERIFY(!dialog());
     QCOMPARE(m_fixture->told(), QStringLiteral("会议已不存在。"));
 }
 
@@ -275,7 +263,7 @@ void TestConferenceDetail::aHostsPasscodeGoesWithTheAccount()
 {
     open("880100005");
     QVERIFY(m_fixture->world->admin.Login(QStringLiteral("100003")));
-    QTRY_VERIFY(!detail());
+    QTRY_VERIFY(!dialog());
     QCOMPARE(m_fixture->told(), QStringLiteral("账号已更换，会议详情已关闭。"));
 }
 
@@ -286,7 +274,7 @@ void TestConferenceDetail::whatIsGoneIsNotOpened()
     m_fixture->world->ask(QStringLiteral("Delete Conference"),
                           QJsonObject{{QStringLiteral("conferenceId"), stored("880100005").confId}});
     m_fixture->child<QAction>("open")->trigger();
-    QVERIFY(!detail());
+    QVERIFY(!dialog());
     QCOMPARE(m_fixture->told(), QStringLiteral("会议已不存在。"));
 }
 
@@ -307,17 +295,9 @@ void TestConferenceDetail::pictures()
 {
     QFETCH(int, theme);
     QFETCH(QByteArray, number);
-    auto *helper = LGuiApplicationHelper::instance();
-    helper->setPaletteType(static_cast<LGuiApplicationHelper::ColorType>(theme));
+    const ChosenTheme chosen(theme);
     open(number.constData());
-    QCoreApplication::processEvents();
-    const QImage picture = detail()->grab().toImage();
-    QCOMPARE(picture.pixelColor(2, 2).lightness() > 128, theme == LGuiApplicationHelper::LightType);
-    const QDir folder(QStringLiteral(CONTACT_BINARY_DIR "/screenshots"));
-    QVERIFY(folder.mkpath(QStringLiteral(".")));
-    QVERIFY(picture.save(folder.filePath(
-        QStringLiteral("contacts-detail-%1.png").arg(QLatin1String(QTest::currentDataTag())))));
-    helper->setPaletteType(LGuiApplicationHelper::UnknownType);
+    keepPicture(dialog(), chosen, QStringLiteral("contacts-detail"));
 }
 
 QTEST_MAIN(TestConferenceDetail)

@@ -2,28 +2,23 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "windowfixture.h"
+#include "windowpictures.h"
 
 #include "testcolumns.h"
 
 #include "window/conferencedialog.h"
 #include "window/conferencemodel.h"
 
-#include <lumo/lguiapplicationhelper.h>
-
 #include <QAccessible>
 #include <QDateTimeEdit>
-#include <QDir>
 #include <QRadioButton>
 
 /// The dialog that asks for a new conference.
-class TestConferenceDialog : public QObject
+class TestConferenceDialog : public ContactsDialogTest<ConferenceDialog>
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void itMakesWhatItSaysAndSelectsIt();
     void withoutWordsItIsOneForNow();
     void whoCouldNotBeInvitedIsNamed_data();
@@ -37,16 +32,8 @@ private Q_SLOTS:
     void pictures();
 
 private:
-    ConferenceDialog *dialog() const { return m_fixture->window->findChild<ConferenceDialog *>(); }
-    template <typename T>
-    T *field(const char *name) const
-    {
-        T *found = dialog() ? dialog()->findChild<T *>(QString::fromLatin1(name)) : nullptr;
-        if (!found) {
-            qFatal("The dialog has no %s", name);
-        }
-        return found;
-    }
+    /// Opens it.
+    void prepare() override;
     void invite(const QString &name) const
     {
         field<QLineEdit>("invitee")->setText(name);
@@ -56,22 +43,25 @@ private:
     {
         return m_fixture->page(0)->selected(ConferenceModel::NumberRole).toString();
     }
-
-    std::unique_ptr<WindowFixture> m_fixture;
+    void clickMake() const { QTest::mouseClick(field<QPushButton>("make"), Qt::LeftButton); }
+    /// What was made, once the dialog has gone.
+    std::optional<Conference> made() const
+    {
+        const auto isGone = [this] {
+            return dialog() == nullptr;
+        };
+        if (!QTest::qWaitFor(isGone)) {
+            return std::nullopt;
+        }
+        return m_fixture->world->book.conferences().byDialNumber(selectedNumber(), QStringLiteral("u100001"));
+    }
 };
 
-void TestConferenceDialog::init()
+void TestConferenceDialog::prepare()
 {
-    m_fixture = std::make_unique<WindowFixture>();
-    QVERIFY(m_fixture->waitUntilShown());
     m_fixture->page(0)->filter()->setText(QStringLiteral("产品")); // what is made is shown all the same
     m_fixture->click("create");
     QVERIFY(dialog() && dialog()->isVisible());
-}
-
-void TestConferenceDialog::cleanup()
-{
-    m_fixture.reset();
 }
 
 void TestConferenceDialog::itMakesWhatItSaysAndSelectsIt()
@@ -84,23 +74,21 @@ void TestConferenceDialog::itMakesWhatItSaysAndSelectsIt()
     invite(QStringLiteral("赵磊"));
     QTest::keyClicks(field<QLineEdit>("passcodeText"), QStringLiteral("4711"));
     QCOMPARE(field<QLineEdit>("passcodeText")->echoMode(), QLineEdit::Password);
-    QTest::mouseClick(field<QPushButton>("make"), Qt::LeftButton);
-    QTRY_VERIFY(!dialog());
+    clickMake();
 
-    const std::optional<Conference> made =
-        m_fixture->world->book.conferences().byDialNumber(selectedNumber(), QStringLiteral("u100001"));
-    QVERIFY(made);
-    QCOMPARE(made->title, QStringLiteral("立项讨论"));
-    QCOMPARE(made->startMsecs, start.toMSecsSinceEpoch());
-    QCOMPARE(made->passcode, QStringLiteral("4711"));
-    QCOMPARE(made->hostId, QStringLiteral("u100001"));
-    QCOMPARE(made->participants.size(), 3);
-    QCOMPARE(made->participants.at(1).account, QStringLiteral("100005"));
-    QCOMPARE(made->participants.at(2).account, QStringLiteral("100031"));
+    const std::optional<Conference> conference = made();
+    QVERIFY(conference);
+    QCOMPARE(conference->title, QStringLiteral("立项讨论"));
+    QCOMPARE(conference->startMsecs, start.toMSecsSinceEpoch());
+    QCOMPARE(conference->passcode, QStringLiteral("4711"));
+    QCOMPARE(conference->hostId, QStringLiteral("u100001"));
+    QCOMPARE(conference->participants.size(), 3);
+    QCOMPARE(conference->participants.at(1).account, QStringLiteral("100005"));
+    QCOMPARE(conference->participants.at(2).account, QStringLiteral("100031"));
     QCOMPARE(m_fixture->told(), QStringLiteral("会议 %1 已发起。").arg(selectedNumber()));
     m_fixture->world->admin.SetFriendLimit(7);
     m_fixture->follow();
-    QCOMPARE(selectedNumber(), made->dialNumber);
+    QCOMPARE(selectedNumber(), conference->dialNumber);
 }
 
 void TestConferenceDialog::withoutWordsItIsOneForNow()
@@ -108,13 +96,11 @@ void TestConferenceDialog::withoutWordsItIsOneForNow()
     QVERIFY(field<QRadioButton>("now")->isChecked());
     QVERIFY(!field<QDateTimeEdit>("start")->isEnabled());
     QTest::keyClick(field<QLineEdit>("title"), Qt::Key_Return);
-    QTRY_VERIFY(!dialog());
-    const std::optional<Conference> made =
-        m_fixture->world->book.conferences().byDialNumber(selectedNumber(), QStringLiteral("u100001"));
-    QVERIFY(made);
-    QCOMPARE(made->title, QStringLiteral("王小明的视频会议"));
-    QCOMPARE(made->startMsecs, m_fixture->world->nowMsecs);
-    QVERIFY(made->passcode.isEmpty());
+    const std::optional<Conference> conference = made();
+    QVERIFY(conference);
+    QCOMPARE(conference->title, QStringLiteral("王小明的视频会议"));
+    QCOMPARE(conference->startMsecs, m_fixture->world->nowMsecs);
+    QVERIFY(conference->passcode.isEmpty());
     QTRY_VERIFY(m_fixture->child<QWidget>("current")->isVisible());
 }
 
@@ -150,11 +136,10 @@ void TestConferenceDialog::whoCouldNotBeInvitedIsNamed()
         }));
         QVERIFY(m_fixture->world->admin.Login(QStringLiteral("100001"))); // went with everybody
     }
-    QTest::mouseClick(field<QPushButton>("make"), Qt::LeftButton);
-    QTRY_VERIFY(!dialog());
-    const std::optional<Conference> made = book.conferences().byDialNumber(selectedNumber(), userId);
-    QVERIFY(made);
-    QCOMPARE(made->participants.size(), invited + 1);
+    clickMake();
+    const std::optional<Conference> conference = made();
+    QVERIFY(conference);
+    QCOMPARE(conference->participants.size(), invited + 1);
     QCOMPARE(m_fixture->told(), QStringLiteral("会议 %1 已发起，但未能邀请：%2。")
                                     .arg(selectedNumber(), people.constLast().shownName()));
 }
@@ -166,14 +151,14 @@ void TestConferenceDialog::aRefusalKeepsItOpen()
     field<QRadioButton>("later")->setChecked(true);
     // When 产品周会 takes place.
     field<QDateTimeEdit>("start")->setDateTime(QDateTime(QDate(2026, 3, 8), QTime(10, 30)));
-    QTest::mouseClick(field<QPushButton>("make"), Qt::LeftButton);
+    clickMake();
     QVERIFY(dialog() && dialog()->isVisible());
     QCOMPARE(field<QLabel>("newResult")->text(), QStringLiteral("与其他会议时间重复。"));
     QCOMPARE(field<QLineEdit>("title")->text(), QStringLiteral("重复"));
     QCOMPARE(m_fixture->world->conferences().size(), before);
     QVERIFY(!m_fixture->page(0)->filter()->text().isEmpty());
     field<QDateTimeEdit>("start")->setDateTime(QDateTime(QDate(2026, 3, 8), QTime(11, 0)));
-    QTest::mouseClick(field<QPushButton>("make"), Qt::LeftButton);
+    clickMake();
     QTRY_VERIFY(!dialog());
     QCOMPARE(m_fixture->world->conferences().size(), before + 1);
 }
@@ -200,12 +185,10 @@ void TestConferenceDialog::whatIsFarAwayIsSelectedToo()
     }
     field<QRadioButton>("later")->setChecked(true);
     field<QDateTimeEdit>("start")->setDateTime(QDateTime(QDate(2027, 3, 8), QTime(10, 30)));
-    QTest::mouseClick(field<QPushButton>("make"), Qt::LeftButton);
-    QTRY_VERIFY(!dialog());
-    const std::optional<Conference> made =
-        m_fixture->world->book.conferences().byDialNumber(selectedNumber(), QString());
-    QVERIFY(made);
-    QCOMPARE(QDateTime::fromMSecsSinceEpoch(made->startMsecs).date(), QDate(2027, 3, 8));
+    clickMake();
+    const std::optional<Conference> conference = made();
+    QVERIFY(conference);
+    QCOMPARE(QDateTime::fromMSecsSinceEpoch(conference->startMsecs).date(), QDate(2027, 3, 8));
 }
 
 void TestConferenceDialog::closingMakesNothing()
@@ -246,19 +229,11 @@ void TestConferenceDialog::pictures_data()
 void TestConferenceDialog::pictures()
 {
     QFETCH(int, theme);
-    auto *helper = LGuiApplicationHelper::instance();
-    helper->setPaletteType(static_cast<LGuiApplicationHelper::ColorType>(theme));
+    const ChosenTheme chosen(theme);
     invite(QStringLiteral("李娜"));
     invite(QStringLiteral("小刘"));
     field<QLineEdit>("passcodeText")->setText(QStringLiteral("4711"));
-    QCoreApplication::processEvents();
-    const QImage picture = dialog()->grab().toImage();
-    QCOMPARE(picture.pixelColor(2, 2).lightness() > 128, theme == LGuiApplicationHelper::LightType);
-    const QDir folder(QStringLiteral(CONTACT_BINARY_DIR "/screenshots"));
-    QVERIFY(folder.mkpath(QStringLiteral(".")));
-    QVERIFY(picture.save(
-        folder.filePath(QStringLiteral("contacts-new-%1.png").arg(QLatin1String(QTest::currentDataTag())))));
-    helper->setPaletteType(LGuiApplicationHelper::UnknownType);
+    keepPicture(dialog(), chosen, QStringLiteral("contacts-new"));
 }
 
 QTEST_MAIN(TestConferenceDialog)

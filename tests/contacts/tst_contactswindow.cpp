@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "windowfixture.h"
+#include "windowpictures.h"
 
 #include "testcolumns.h"
-
-#include <lumo/lguiapplicationhelper.h>
 
 #include <QAccessible>
 #include <QAction>
@@ -219,8 +218,7 @@ void TestContactsWindow::pictures()
     QFETCH(int, theme);
     QFETCH(int, tab);
     QFETCH(QString, state);
-    auto *helper = LGuiApplicationHelper::instance();
-    helper->setPaletteType(static_cast<LGuiApplicationHelper::ColorType>(theme));
+    const ChosenTheme chosen(theme);
     m_fixture->world->admin.AddConference(
         QStringLiteral("1"),
         QStringLiteral("一个标题非常非常长的会议，长得任何一列都放不下，所以要省略").repeated(2),
@@ -241,14 +239,7 @@ void TestContactsWindow::pictures()
         m_fixture->child<QAbstractButton>("ended")->click();
         m_fixture->click("copyCurrentNumber");
     }
-    QCoreApplication::processEvents();
-    const QImage picture = m_fixture->window->grab().toImage();
-    QCOMPARE(picture.pixelColor(2, 2).lightness() > 128, theme == LGuiApplicationHelper::LightType);
-    const QDir folder(QStringLiteral(CONTACT_BINARY_DIR "/screenshots"));
-    QVERIFY(folder.mkpath(QStringLiteral(".")));
-    QVERIFY(picture.save(
-        folder.filePath(QStringLiteral("contacts-%1.png").arg(QLatin1String(QTest::currentDataTag())))));
-    helper->setPaletteType(LGuiApplicationHelper::UnknownType);
+    keepPicture(m_fixture->window.get(), chosen, QStringLiteral("contacts"));
 }
 
 QTEST_MAIN(TestContactsWindow)

@@ -8,14 +8,14 @@
 #include "core/statement.h"
 
 /// Requests to the user who is logged in, answered by the book and in the window.
-class TestFriendRequests : public QObject
+class TestFriendRequests : public ContactsWindowTest
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init();
-    void cleanup();
+public:
+    TestFriendRequests() : ContactsWindowTest(1) {}
 
+private Q_SLOTS:
     void whoAcceptsHasAFriend();
     void whoDeclinesMayBeAskedAgain();
     void anAcceptedRequestAnswersOnesOwn();
@@ -49,21 +49,7 @@ private:
         }
         return accounts;
     }
-
-    std::unique_ptr<WindowFixture> m_fixture;
 };
-
-void TestFriendRequests::init()
-{
-    m_fixture = std::make_unique<WindowFixture>();
-    QVERIFY(m_fixture->waitUntilShown());
-    m_fixture->tabs()->setCurrentIndex(1);
-}
-
-void TestFriendRequests::cleanup()
-{
-    m_fixture.reset();
-}
 
 void TestFriendRequests::whoAcceptsHasAFriend()
 {

@@ -11,14 +11,14 @@
 #include <QLineEdit>
 
 /// The page of people over the sample directory.
-class TestPeoplePage : public QObject
+class TestPeoplePage : public ContactsWindowTest
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init();
-    void cleanup();
+public:
+    TestPeoplePage() : ContactsWindowTest(1) {}
 
+private Q_SLOTS:
     void aFriendIsAdded();
     void whoCannotBeAddedIsToldInTheDialog();
     void theSelectedOneIsAdded();
@@ -47,21 +47,7 @@ private:
         return found;
     }
     QString hint() const { return page()->table()->accessibleDescription(); }
-
-    std::unique_ptr<WindowFixture> m_fixture;
 };
-
-void TestPeoplePage::init()
-{
-    m_fixture = std::make_unique<WindowFixture>();
-    QVERIFY(m_fixture->waitUntilShown());
-    m_fixture->tabs()->setCurrentIndex(1);
-}
-
-void TestPeoplePage::cleanup()
-{
-    m_fixture.reset();
-}
 
 void TestPeoplePage::aFriendIsAdded()
 {

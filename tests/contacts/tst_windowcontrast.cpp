@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "windowfixture.h"
+#include "windowpictures.h"
 
 #include "paintedcontrast.h"
 #include "window/legiblecolor.h"
@@ -11,7 +12,6 @@
 
 #include <QCheckBox>
 #include <QDialog>
-#include <QDir>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QSpinBox>
@@ -250,13 +250,10 @@ void TestWindowContrast::everyTextAndEdgeIsSeen()
     m_texts = 0;
     m_edges = 0;
     measure(*fixture.window);
-    const QDir folder(QStringLiteral(CONTACT_BINARY_DIR "/screenshots"));
-    QVERIFY(folder.mkpath(QStringLiteral(".")));
     const QString name = QString::fromLatin1(QTest::currentDataTag()).remove(QLatin1Char(','));
     const QString scale = QString::number(m_picture.devicePixelRatio());
-    QVERIFY(m_picture.save(
-        folder.filePath(QStringLiteral("contrast-%1-x%2.png")
-                            .arg(QString(name).replace(QLatin1Char(' '), QLatin1Char('-')), scale))));
+    savePicture(m_picture, QStringLiteral("contrast-%1-x%2.png")
+                               .arg(QString(name).replace(QLatin1Char(' '), QLatin1Char('-')), scale));
     QCOMPARE(m_picture.pixelColor(2, 2), QApplication::palette().color(QPalette::Window));
     if (auto *dialog = fixture.window->findChild<QDialog *>()) {
         measure(*dialog);

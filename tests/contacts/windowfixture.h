@@ -48,9 +48,15 @@ struct WindowFixture
     template <typename T>
     T *child(const char *name) const
     {
-        T *found = window->findChild<T *>(QString::fromLatin1(name));
+        return childOf<T>(window.get(), name);
+    }
+    /// Of a dialog, say, which must be there.
+    template <typename T>
+    static T *childOf(const QWidget *parent, const char *name)
+    {
+        T *found = parent ? parent->findChild<T *>(QString::fromLatin1(name)) : nullptr;
         if (!found) {
-            qFatal("The window has no %s", name);
+            qFatal("There is no %s", name);
         }
         return found;
     }
@@ -93,19 +99,44 @@ struct WindowFixture
     std::unique_ptr<ContactsWindow> window;
 };
 
-/// Derive a test of the window from it: each function gets a window of its own.
+/// Derive a test of the window from it: each function gets a window of its own, which shows @p page.
 class ContactsWindowTest : public QObject
 {
     Q_OBJECT
+
+public:
+    explicit ContactsWindowTest(int page = 0) : m_page(page) {}
 
 private Q_SLOTS:
     void init()
     {
         m_fixture = std::make_unique<WindowFixture>();
         QVERIFY(m_fixture->waitUntilShown());
+        m_fixture->tabs()->setCurrentIndex(m_page);
+        prepare();
     }
     void cleanup() { m_fixture.reset(); }
 
 protected:
+    /// What every function begins with.
+    virtual void prepare() {}
+
     std::unique_ptr<WindowFixture> m_fixture;
+
+private:
+    const int m_page;
+};
+
+/// Derive the test of a dialog of the window from it.
+template <typename Dialog>
+class ContactsDialogTest : public ContactsWindowTest
+{
+protected:
+    /// Null while there is none.
+    Dialog *dialog() const { return m_fixture->window->findChild<Dialog *>(); }
+    template <typename T>
+    T *field(const char *name) const
+    {
+        return WindowFixture::childOf<T>(dialog(), name);
+    }
 };

@@ -52,10 +52,10 @@ QString ContactUtils::inviteParamInit(const QVector<QString> &names)
 {
     QVector<QString> spoken = names;
     spoken.removeAll(QString());
-    QString text = RequestText::inviteMembers(RequestText::membersNamed(spoken));
+    QString text = RequestText::inviteMembersNamed(spoken);
     if (QLoggingCategory::defaultCategory()->isDebugEnabled()) {
         // The debug form of the object, without building the object again.
-        qDebug().noquote() << "jsonObjMember:" << QStringLiteral("QJsonObject(%1)").arg(text);
+        qDebug().noquote() << "jsonObjMember:" << QLatin1String("QJsonObject(") + text + QLatin1Char(')');
     }
     return text;
 }

@@ -30,6 +30,8 @@ struct Companion
         ConferenceList,  ///< the contacts application shows its own list
     };
 
+    [[nodiscard]] constexpr bool isCard() const { return kind != Nothing && kind != ConferenceList; }
+
     Kind kind = Nothing;
     SignalActionType card = Create_Success; ///< of the kinds with a card
 };

@@ -15,7 +15,7 @@ namespace Replies {
 /// False for any other @p code.
 bool giveShared(int code, Reply &reply);
 
-/// Sets @p reply and announces the card, carrying @p record, that goes with it.
+/// Sets @p reply and announces the card that goes with it, if any, carrying @p record.
 void give(int code, const QString &text, const Companion &companion, const QVariant &record, Reply &reply);
 
 /**
@@ -32,7 +32,9 @@ int answer(int code, const ReplyTable<Record> &table, const Record &record, cons
     }
     for (const ReplyRow<Record> &row : table) {
         if (row.matches(code, record)) {
-            give(code, row.text(record, intent), row.companion(), QVariant::fromValue(record), reply);
+            const Companion &companion = row.companion();
+            give(code, row.text(record, intent), companion,
+                 companion.isCard() ? QVariant::fromValue(record) : QVariant(), reply);
             break;
         }
     }

@@ -9,13 +9,9 @@
 
 namespace {
 
-const QLatin1String NameKey("name");
-const QLatin1String ValueKey("value");
-const QLatin1String NormValueKey("normValue");
-
 bool isCalled(const CloudSlot &slot, const char *slotName)
 {
-    return slot.map.value(NameKey).toString() == QLatin1String(slotName);
+    return slot.map.value(QStringLiteral("name")).toString() == QLatin1String(slotName);
 }
 
 } // namespace
@@ -30,13 +26,13 @@ const CloudSlot *SlotReader::first(const CloudIntent &intent, const char *slotNa
 
 QString SlotReader::text(const CloudSlot &slot)
 {
-    const auto normValue = slot.map.constFind(NormValueKey);
+    const auto normValue = slot.map.constFind(QStringLiteral("normValue"));
     return normValue == slot.map.constEnd() ? spokenValue(slot) : normValue->toString();
 }
 
 QString SlotReader::spokenValue(const CloudSlot &slot)
 {
-    return slot.map.value(ValueKey).toString();
+    return slot.map.value(QStringLiteral("value")).toString();
 }
 
 QString SlotReader::firstText(const CloudIntent &intent, const char *slotName, const QString &fallback)

@@ -6,6 +6,7 @@
 #include "wire/jsontext.h"
 #include "wire/requestkeys.h"
 
+#include <QJsonObject>
 #include <QSet>
 
 namespace {
@@ -15,18 +16,33 @@ QJsonObject member(const QString &name, const QString &userId)
     return {{RequestKey::Name, name}, {RequestKey::UserId, userId}};
 }
 
+void appendKey(QString &json, QLatin1String key)
+{
+    json += QLatin1Char('"');
+    json += key;
+    json += QLatin1String("\":");
+}
+
+/// Calls @p take with each of @p names once, in the order of their first appearance.
+template <typename Take>
+void forEachOnce(const QVector<QString> &names, Take take)
+{
+    QSet<QString> known;
+    known.reserve(names.size());
+    for (const QString &name : names) {
+        if (!known.contains(name)) {
+            known.insert(name);
+            take(name);
+        }
+    }
+}
+
 } // namespace
 
 QJsonArray RequestText::membersNamed(const QVector<QString> &names)
 {
     QJsonArray members;
-    QSet<QString> known;
-    for (const QString &name : names) {
-        if (!known.contains(name)) {
-            known.insert(name);
-            members.append(member(name, QString()));
-        }
-    }
+    forEachOnce(names, [&members](const QString &name) { members.append(member(name, QString())); });
     return members;
 }
 
@@ -54,6 +70,29 @@ QString RequestText::inviteMembers(const QJsonArray &members)
     return compactText({{RequestKey::Members, members}});
 }
 
+QString RequestText::inviteMembersNamed(const QVector<QString> &names)
+{
+    constexpr int roomForEach = 40;
+    QString json;
+    json.reserve(roomForEach * (names.size() + 1));
+    json += QLatin1Char('{');
+    appendKey(json, RequestKey::Members);
+    QLatin1Char separator('[');
+    forEachOnce(names, [&](const QString &name) {
+        json += separator;
+        separator = QLatin1Char(',');
+        json += QLatin1Char('{');
+        appendKey(json, RequestKey::Name);
+        appendQuoted(json, name);
+        json += QLatin1Char(',');
+        appendKey(json, RequestKey::UserId);
+        appendQuoted(json, QString());
+        json += QLatin1Char('}');
+    });
+    json += QLatin1String(names.isEmpty() ? "[]}" : "]}");
+    return json;
+}
+
 QString RequestText::joinConference(const QString &number, const QString &password)
 {
     return compactText({{RequestKey::ConferenceId, number}, {RequestKey::Password, password}});
@@ -79,5 +118,9 @@ QString RequestText::updateConference(const ContactDetailMsg &conference)
 
 QString RequestText::addFriend(const QString &name)
 {
-    return compactText({{RequestKey::UserId, name}});
+    QString json(QLatin1Char('{'));
+    appendKey(json, RequestKey::UserId);
+    appendQuoted(json, name);
+    json += QLatin1Char('}');
+    return json;
 }

@@ -28,6 +28,9 @@ QString createConference(const QJsonArray &members, qint64 startTime);
 
 /// {"members":[...]}
 QString inviteMembers(const QJsonArray &members);
+/// The same for membersNamed(@p names), written without building the objects first: they were a third of what
+/// a spoken invitation cost.
+QString inviteMembersNamed(const QVector<QString> &names);
 
 /// {"conferenceId":"801","password":""}
 QString joinConference(const QString &number, const QString &password);

@@ -4,12 +4,8 @@
 #include "request/requesttimeout.h"
 
 #include "configmanager.h"
-#include "wire/latin1literal.h"
 
 namespace {
-
-constexpr QLatin1String TimeOutKey = "/Contact/TimeOut"_latin1;
-constexpr QLatin1String MaxTimeOutKey = "/Contact/MaxTimeOut"_latin1;
 
 // Milliseconds.
 constexpr int ShortestTimeOut = 500; ///< values up to this one are taken for mistakes
@@ -17,7 +13,7 @@ constexpr int DefaultTimeOut = 5000;
 constexpr int DefaultMaxTimeOut = 15000;
 
 /// Returns the number configured under @p key if it exceeds @p limit, @p otherwise if not. Text counts as 0.
-int configuredAbove(int limit, QLatin1String key, int otherwise)
+int configuredAbove(int limit, const QString &key, int otherwise)
 {
     QString text;
     if (!ConfigManager::instance()->query(key, text)) {
@@ -31,11 +27,11 @@ int configuredAbove(int limit, QLatin1String key, int otherwise)
 
 int requestTimeout(bool applicationIsRunning)
 {
-    const int timeOut = configuredAbove(ShortestTimeOut, TimeOutKey, DefaultTimeOut);
+    const int timeOut = configuredAbove(ShortestTimeOut, QStringLiteral("/Contact/TimeOut"), DefaultTimeOut);
     if (applicationIsRunning) {
         return timeOut;
     }
     // A maximum that does not exceed the normal time-out is deliberately replaced by the default maximum, not
     // by the normal time-out.
-    return configuredAbove(timeOut, MaxTimeOutKey, DefaultMaxTimeOut);
+    return configuredAbove(timeOut, QStringLiteral("/Contact/MaxTimeOut"), DefaultMaxTimeOut);
 }

@@ -3,8 +3,12 @@
 
 #include "request/requesttexts.h"
 #include "testcolumns.h"
+#include "wire/jsontext.h"
 
+#include <QJsonObject>
 #include <QtTest>
+
+#include <limits>
 
 Q_DECLARE_METATYPE(UserInfo)
 Q_DECLARE_METATYPE(QVector<QString>)
@@ -20,6 +24,9 @@ private Q_SLOTS:
     void theMembersOfARequest();
     void membersKnownByNameOnly_data();
     void membersKnownByNameOnly();
+    void everyCharacterIsWrittenAsQtWritesIt();
+    void unusualNames_data();
+    void unusualNames();
 };
 
 void TestRequestTexts::anUpdate()
@@ -90,6 +97,38 @@ void TestRequestTexts::membersKnownByNameOnly()
     QFETCH(QString, array);
     const QJsonArray members = RequestText::membersNamed(names);
     QCOMPARE(RequestText::createConference(members), QStringLiteral(R"({"members":%1})").arg(array));
+    QCOMPARE(RequestText::inviteMembersNamed(names), RequestText::inviteMembers(members));
+}
+
+void TestRequestTexts::everyCharacterIsWrittenAsQtWritesIt()
+{
+    for (uint code = 0; code <= std::numeric_limits<ushort>::max(); ++code) {
+        const QString text = QLatin1Char('a') + QChar(code) + QLatin1Char('z');
+        QString written = QStringLiteral("{\"a\":");
+        appendQuoted(written, text);
+        written += QLatin1Char('}');
+        const QString expected = compactText({{QStringLiteral("a"), text}});
+        QVERIFY2(written == expected, qPrintable(QStringLiteral("U+%1").arg(code, 4, 16)));
+    }
+}
+
+void TestRequestTexts::unusualNames_data()
+{
+    addColumns<QString, QString>({"name", "text"});
+    QTest::newRow("nothing") << QString() << QString();
+    QTest::newRow("a quotation mark") << QStringLiteral("张\"三") << QStringLiteral("张\\\"三");
+    QTest::newRow("a line break") << QStringLiteral("张\n三") << QStringLiteral("张\\n三");
+    QTest::newRow("a character of two units") << QStringLiteral("\U00020000") << QStringLiteral("\U00020000");
+    QTest::newRow("half of one") << QString(QChar(0xd840)) << QStringLiteral("\\ud840");
+}
+
+void TestRequestTexts::unusualNames()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, text);
+    QCOMPARE(RequestText::addFriend(name), QStringLiteral("{\"userId\":\"%1\"}").arg(text));
+    QCOMPARE(RequestText::inviteMembersNamed({name}),
+             QStringLiteral("{\"members\":[{\"name\":\"%1\",\"userId\":\"\"}]}").arg(text));
 }
 
 QTEST_APPLESS_MAIN(TestRequestTexts)

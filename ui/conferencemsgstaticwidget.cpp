@@ -17,6 +17,7 @@
 
 #include <QComboBox>
 #include <QDebug>
+#include <QLayout>
 #include <QPointer>
 #include <QPushButton>
 
@@ -69,10 +70,13 @@ void ConferenceMsgStaticWidget::multipleInit(const QVector<ContactDetailMsg> &li
     addRow(getConferenceTitleWidget());
     const QVector<ContactDetailMsg> shown = list.mid(0, ShownConferences);
     for (const ContactDetailMsg &conference : shown) {
-        const QVector<QWidget *> rows = {getConferenceStatusWidget(conference, true),
-                                         getConferenceNumberWidget(conference),
-                                         getConferenceBeginTimeWidget(conference, true)};
-        addRow(ConferenceRows::item(rows, this));
+        QWidget *item = ConferenceRows::item(this);
+        for (QWidget *row :
+             {ConferenceRows::status(conference, true, item), ConferenceRows::number(conference, item),
+              ConferenceRows::beginTime(conference, item)}) {
+            item->layout()->addWidget(m_rows.listed(row));
+        }
+        addRow(item);
     }
     if (list.size() > ShownConferences) {
         auto *footer = new CardFooter(list.size(), this);

@@ -58,7 +58,7 @@ TiTleItem::TiTleItem(const QString &title, QWidget *parent)
     m_checkBox->setAttribute(Qt::WA_TransparentForMouseEvents);
 
     CardTheme::follow(this, &TiTleItem::followTheme);
-    followTheme();
+    setDefaultBackGroundColor(CardTheme::rowGround()); // there are no texts yet
 }
 
 void TiTleItem::insertConferenceMsg(const UserInfo &user)
@@ -180,7 +180,6 @@ LLabel *TiTleItem::addLabel(const QString &text, int alpha, int spaceBehind)
 void TiTleItem::setAccessibleNames(const QString &name)
 {
     setAccessibleName(CardText::beginning(name));
-    m_checkBox->setAccessibleName(accessibleName());
 }
 
 void TiTleItem::select()
@@ -188,6 +187,7 @@ void TiTleItem::select()
     m_selected = true;
     m_layout->removeWidget(m_checkBox);
     m_layout->addWidget(m_checkBox, 1, Qt::AlignRight);
+    m_checkBox->setAccessibleName(accessibleName());
     m_checkBox->setChecked(true);
     m_checkBox->show();
     update();

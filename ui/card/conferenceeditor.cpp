@@ -6,6 +6,7 @@
 #include "card/cardbuttons.h"
 #include "card/cardmeasures.h"
 #include "card/cardtheme.h"
+#include "card/conferencehours.h"
 #include "card/conferencerows.h"
 #include "card/participantlimits.h"
 #include "conferencecardinterface.h"
@@ -153,12 +154,12 @@ QWidget *ConferenceEditor::hourBox(const ContactDetailMsg &conference, QWidget *
     box->setWindowTitle(HourBoxTag);
     box->installEventFilter(eventFilter);
     const QTime start = ConferenceValues::of(conference).startTime;
-    box->addItems(m_hours.choices());
-    box->setCurrentText(m_hours.label(start));
+    box->addItems(ConferenceHours::choices());
+    box->setCurrentText(ConferenceHours::label(start));
     // Only now: what starts at 09:30 stays there until a person picks an hour.
     m_draft.working().startTime = start;
     connect(box, &QComboBox::currentTextChanged, this, [this](const QString &label) {
-        m_draft.working().startTime = m_hours.time(label);
+        m_draft.working().startTime = ConferenceHours::time(label);
         edited();
     });
     return box;

@@ -5,7 +5,6 @@
 
 #include "card/conferencedraft.h"
 #include "card/conferencedurations.h"
-#include "card/conferencehours.h"
 
 #include <QObject>
 #include <QPointer>
@@ -66,7 +65,6 @@ private:
 
     QVector<ContactDetailMsg> m_conferences;
     ConferenceDurations m_durations;
-    ConferenceHours m_hours;
     ConferenceDraft m_draft;
     QPointer<QPushButton> m_cancelButton;
     QPointer<QPushButton> m_modifyButton;

@@ -5,29 +5,26 @@
 
 namespace {
 constexpr int HoursOfDay = 24;
-constexpr int FirstWithTwoDigits = 10;
 } // namespace
 
-ConferenceHours::ConferenceHours()
+QStringList ConferenceHours::choices()
 {
+    QStringList labels;
     for (int hour = 0; hour < HoursOfDay; ++hour) {
-        const QString pattern =
-            hour < FirstWithTwoDigits ? QStringLiteral("0%1:00") : QStringLiteral("%1:00");
-        m_labels.insert(hour, pattern.arg(hour));
+        labels.append(label(QTime(hour, 0)));
     }
+    return labels;
 }
 
-QStringList ConferenceHours::choices() const
+QString ConferenceHours::label(const QTime &time)
 {
-    return m_labels.values();
+    constexpr int digits = 2;
+    constexpr int decimal = 10;
+    return time.isValid() ? QStringLiteral("%1:00").arg(time.hour(), digits, decimal, QLatin1Char('0'))
+                          : QString();
 }
 
-QString ConferenceHours::label(const QTime &time) const
+QTime ConferenceHours::time(const QString &label)
 {
-    return m_labels.value(time.hour());
-}
-
-QTime ConferenceHours::time(const QString &label) const
-{
-    return QTime(m_labels.key(label, -1), 0);
+    return QTime(choices().indexOf(label), 0);
 }

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QTime>
@@ -12,15 +11,10 @@
 class ConferenceHours
 {
 public:
-    ConferenceHours();
-
     /// From midnight on.
-    [[nodiscard]] QStringList choices() const;
+    [[nodiscard]] static QStringList choices();
     /// How the hour of @p time is called; empty for an invalid time.
-    [[nodiscard]] QString label(const QTime &time) const;
+    [[nodiscard]] static QString label(const QTime &time);
     /// The full hour that is called @p label, invalid for any other text.
-    [[nodiscard]] QTime time(const QString &label) const;
-
-private:
-    QMap<int, QString> m_labels;
+    [[nodiscard]] static QTime time(const QString &label);
 };

@@ -48,14 +48,16 @@ QLabel *iconLabel(const char *icon, QWidget *parent)
     return label;
 }
 
-CardLabel *addValue(const ConferenceRows::CaptionedRow &row, const QString &text)
+void addValue(const ConferenceRows::CaptionedRow &row, const QString &text,
+              Qt::Alignment alignment = ContentLeft)
 {
     CardLabel *value = valueLabel(text, row.widget);
-    // A long text takes the width that there is, and none that it does not need.
+    // A long text takes the width that there is, and none that it does not need. The cap comes last: it
+    // measures the text, and every other of these would make the label measure it again.
+    value->setAlignment(alignment);
     value->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     value->capAtText();
     row.layout->addWidget(value);
-    return value;
 }
 
 QWidget *valueRow(const QString &caption, const QString &value, QWidget *parent)
@@ -112,7 +114,7 @@ QWidget *ConferenceRows::status(const ContactDetailMsg &conference, bool isStati
 QWidget *ConferenceRows::number(const ContactDetailMsg &conference, QWidget *parent)
 {
     const CaptionedRow row = captioned(QStringLiteral("会议号"), parent);
-    addValue(row, conference.conferenceDialNumber)->setAlignment(ContentRight);
+    addValue(row, conference.conferenceDialNumber, ContentRight);
     return row.widget;
 }
 
@@ -172,7 +174,7 @@ QPushButton *ConferenceRows::separator(QWidget *parent)
     return separator;
 }
 
-QWidget *ConferenceRows::item(const QVector<QWidget *> &rows, QWidget *parent)
+QWidget *ConferenceRows::item(QWidget *parent)
 {
     auto *item = new CustomizeItem(parent);
     item->setRaidus(CardMeasures::CornerRadius);
@@ -180,9 +182,6 @@ QWidget *ConferenceRows::item(const QVector<QWidget *> &rows, QWidget *parent)
     item->setFocusPolicy(Qt::NoFocus);
     auto *layout = new QVBoxLayout(item);
     CardMeasures::apply(*layout);
-    for (QWidget *row : rows) {
-        layout->addWidget(row);
-    }
     return item;
 }
 

@@ -38,8 +38,9 @@ QPushButton *line(QWidget *parent);
 /// A horizontal separator between two rows of a card.
 QPushButton *separator(QWidget *parent);
 
-/// The panel of one conference in a list, with its @p rows from top to bottom.
-QWidget *item(const QVector<QWidget *> &rows, QWidget *parent);
+/// The panel of one conference in a list, with a layout for its rows. Make those as its children: one that
+/// changes its parent works out its font and its palette anew.
+QWidget *item(QWidget *parent);
 
 // How the rows are called, for the eye and for assistive technology.
 QString beginTimeCaption();

@@ -4,11 +4,14 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QByteArrayList>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QLibrary>
 #include <QPluginLoader>
 #include <QProcess>
+
+#include <sys/resource.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -28,8 +31,23 @@ bool isLoadOption(const char *argument)
     return std::strcmp(argument, LoadOption) == 0 || std::strcmp(argument, LoadOnDesktopOption) == 0;
 }
 
+/// A function of its own in the program, too: benchmarks/instructions counts what it takes.
+[[gnu::noinline]] bool loadPlugin(QPluginLoader &loader, const QString &file)
+{
+    loader.setFileName(file);
+    return loader.instance() != nullptr;
+}
+
+/// How often the kernel had to bring in a page of memory, without reading it from the disk.
+long pageFaults()
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_minflt;
+}
+
 /// In a process of its own, because a library is only loaded once: loads and instantiates, and prints
-/// nanoseconds.
+/// nanoseconds and page faults.
 int loadOnce(int argc, char **argv)
 {
     const QApplication application(argc, argv);
@@ -40,33 +58,47 @@ int loadOnce(int argc, char **argv)
             }
         }
     }
+    const QString file = QString::fromLocal8Bit(argv[2]);
+    const long faultsBefore = pageFaults();
     QElapsedTimer timer;
     timer.start();
-    QPluginLoader loader(QString::fromLocal8Bit(argv[2]));
-    const bool loaded = loader.instance() != nullptr;
+    QPluginLoader loader;
+    const bool loaded = loadPlugin(loader, file);
     const qint64 elapsed = timer.nsecsElapsed();
     if (!loaded) {
         std::fprintf(stderr, "%s\n", qPrintable(loader.errorString()));
         return 1;
     }
-    std::printf("%lld\n", static_cast<long long>(elapsed));
+    std::printf("%lld %ld\n", static_cast<long long>(elapsed), pageFaults() - faultsBefore);
     return 0;
 }
 
-/// Nanoseconds of one loading; negative when it failed.
-qint64 measure(const char *option, const char *file)
+struct Loading
+{
+    qint64 nanoseconds = -1; ///< negative when it failed
+    qint64 pageFaults = -1;
+};
+
+Loading measure(const char *option, const char *file)
 {
     QProcess process;
     process.start(QCoreApplication::applicationFilePath(),
                   {QLatin1String(option), QString::fromLocal8Bit(file)});
     process.waitForFinished();
-    bool isNumber = false;
-    const qint64 elapsed = process.readAllStandardOutput().trimmed().toLongLong(&isNumber);
-    return isNumber && process.exitCode() == 0 ? elapsed : -1;
+    const QByteArrayList printed = process.readAllStandardOutput().trimmed().split(' ');
+    if (process.exitCode() != 0 || printed.size() != 2) {
+        return {};
+    }
+    return {printed.first().toLongLong(), printed.last().toLongLong()};
 }
 
-double median(std::vector<qint64> values)
+double median(const std::vector<Loading> &loadings, qint64 Loading::*figure)
 {
+    std::vector<qint64> values;
+    values.reserve(loadings.size());
+    for (const Loading &loading : loadings) {
+        values.push_back(loading.*figure);
+    }
     const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
     std::nth_element(values.begin(), middle, values.end());
     return static_cast<double>(*middle);
@@ -77,23 +109,27 @@ double median(std::vector<qint64> values)
 void loading(benchmark::State &state, const char *option)
 {
     std::mt19937 random(20260307);
-    std::vector<qint64> plugin;
-    std::vector<qint64> empty;
+    std::vector<Loading> plugin;
+    std::vector<Loading> empty;
     for (auto _ : state) {
         const bool pluginFirst = (random() & 1U) == 0;
-        const qint64 first = measure(option, pluginFirst ? CONTACT_PLUGIN_FILE : EMPTY_PLUGIN_FILE);
-        const qint64 second = measure(option, pluginFirst ? EMPTY_PLUGIN_FILE : CONTACT_PLUGIN_FILE);
-        if (first < 0 || second < 0) {
+        const Loading first = measure(option, pluginFirst ? CONTACT_PLUGIN_FILE : EMPTY_PLUGIN_FILE);
+        const Loading second = measure(option, pluginFirst ? EMPTY_PLUGIN_FILE : CONTACT_PLUGIN_FILE);
+        if (first.nanoseconds < 0 || second.nanoseconds < 0) {
             state.SkipWithError("a plugin could not be loaded");
             return;
         }
         plugin.push_back(pluginFirst ? first : second);
         empty.push_back(pluginFirst ? second : first);
-        state.SetIterationTime(static_cast<double>(plugin.back()) / 1e9);
+        state.SetIterationTime(static_cast<double>(plugin.back().nanoseconds) / 1e9);
     }
-    state.counters["plugin_us"] = median(plugin) / 1000;
-    state.counters["floor_us"] = median(empty) / 1000;
-    state.counters["ratio"] = median(plugin) / median(empty);
+    const double pluginTime = median(plugin, &Loading::nanoseconds);
+    const double emptyTime = median(empty, &Loading::nanoseconds);
+    state.counters["plugin_us"] = pluginTime / 1000;
+    state.counters["floor_us"] = emptyTime / 1000;
+    state.counters["ratio"] = pluginTime / emptyTime;
+    state.counters["plugin_faults"] = median(plugin, &Loading::pageFaults);
+    state.counters["floor_faults"] = median(empty, &Loading::pageFaults);
 }
 BENCHMARK_CAPTURE(loading, thePlatformsLibrariesAreLoadedAlready, LoadOnDesktopOption)
     ->UseManualTime()

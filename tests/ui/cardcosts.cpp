@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "cardcosts.h"
+
+#include "cardsamples.h"
+#include "conferencemsgstaticwidget.h"
+
+#include <QCoreApplication>
+#include <QScrollArea>
+
+#include <ctime>
+
+using namespace CardSamples;
+
+namespace {
+
+double cpuMilliseconds()
+{
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
+}
+
+} // namespace
+
+const std::vector<CardCosts::LongText> &CardCosts::longTexts()
+{
+    static const std::vector<LongText> texts = {
+        {"title",
+         [](ConferenceMsgStaticWidget &card, const QString &text) {
+             ContactDetailMsg one = conference();
+             one.title = text;
+             card.singleInit({one});
+         }},
+        {"titles of a list",
+         [](ConferenceMsgStaticWidget &card, const QString &text) {
+             QVector<ContactDetailMsg> list = conferences(4);
+             list[0].title = text;
+             card.multipleInit(list);
+         }},
+        {"number",
+         [](ConferenceMsgStaticWidget &card, const QString &text) {
+             ContactDetailMsg one = conference();
+             one.conferenceDialNumber = text;
+             card.singleInit({one});
+         }},
+        {"participant",
+         [](ConferenceMsgStaticWidget &card, const QString &text) {
+             ContactDetailMsg one = conference();
+             one.participants = {user(text, {}, {}, {})};
+             card.singleInit({one});
+         }},
+        {"title while editing",
+         [](ConferenceMsgStaticWidget &card, const QString &text) {
+             QVector<ContactDetailMsg> list = conferences(1);
+             list[0].title = text;
+             card.createInviteConference(list);
+         }},
+        {"name of a candidate",
+         [](ConferenceMsgStaticWidget &card, const QString &text) {
+             ContactInviteMemberDetail detail = people(1, text);
+             detail.duplicateUsers[0].users[0].remarkName = text;
+             card.inviteMultiplePerson(detail);
+         }},
+        {"account of a candidate",
+         [](ConferenceMsgStaticWidget &card, const QString &text) {
+             ContactInviteMemberDetail detail = people(1, text);
+             detail.duplicateUsers[0].users[0].account = text;
+             card.inviteMultiplePerson(detail);
+         }},
+    };
+    return texts;
+}
+
+QString CardCosts::textOfLength(int characters)
+{
+    const QString piece = QStringLiteral("周会 <b>");
+    return piece.repeated(characters / piece.size());
+}
+
+ContactInviteMemberDetail CardCosts::people(int count, const QString &name)
+{
+    DuplicateUsers group;
+    for (int i = 0; i < count; ++i) {
+        group.users.append(user(name, QStringLiteral("张三%1").arg(i), QStringLiteral("u%1").arg(i),
+                                QStringLiteral("zhangsan%1").arg(i)));
+    }
+    ContactInviteMemberDetail detail;
+    detail.duplicateUsers = {group};
+    return detail;
+}
+
+double CardCosts::untilPainted(const std::function<void(ConferenceMsgStaticWidget &card)> &build)
+{
+    QScrollArea host;
+    host.setWidgetResizable(true);
+    host.resize(372, 480);
+    const double start = cpuMilliseconds();
+    auto *card = new ConferenceMsgStaticWidget;
+    build(*card);
+    host.setWidget(card);
+    host.grab();
+    const double elapsed = cpuMilliseconds() - start;
+    // In a host the event loop has its turn before a card is deleted. Without it every widget looks for its
+    // own events among those of all others.
+    QCoreApplication::sendPostedEvents();
+    return elapsed;
+}
+
+void CardCosts::warmUp()
+{
+    untilPainted([](ConferenceMsgStaticWidget &card) {
+        card.inviteMultiplePerson(people(3, QStringLiteral("张三")));
+    });
+}

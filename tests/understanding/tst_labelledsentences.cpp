@@ -104,8 +104,8 @@ private:
     }
 
     static constexpr Bounds Own = {2082, 644, 0};
-    static constexpr Bounds Learned = {888, 109, 0};
-    static constexpr Bounds Apart = {411, 51, 2};
+    static constexpr Bounds Learned = {889, 109, 0};
+    static constexpr Bounds Apart = {411, 52, 2};
 };
 
 QTEST_APPLESS_MAIN(TestLabelledSentences)

@@ -41,6 +41,21 @@ bool asksHowMany(const Reading &reading)
     });
 }
 
+/// 开个会，请媳妇参加: somebody is to come who was not found.
+bool callsStranger(const Reading &reading)
+{
+    const Tokens &tokens = reading.tokens();
+    for (std::size_t at = 1; at + 1 < tokens.size(); ++at) {
+        const Token &token = tokens[at];
+        const bool strange = token.kind == Token::Kind::Other && token.length > 1 && !token.inTopic;
+        if (strange && !token.inName && tokens[at - 1].is(WordClass::Trigger) && !tokens[at - 1].inName &&
+            tokens[at + 1].isAny(WordClass::Join | WordClass::Arrive)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 /// 记得三点开会, 别忘了三点开会: somebody is reminded.
 bool reminds(const Reading &reading)
 {
@@ -172,7 +187,7 @@ bool isAboutSomethingElse(const Reading &reading, const QString &intent)
     }
     if (intent == QLatin1String(CreateConference)) {
         return asksWho(reading) || tellsBeginning(reading) || onlyTalks(reading) || isHeldInRoom(reading) ||
-               sendsSomebody(reading) || reminds(reading);
+               sendsSomebody(reading) || reminds(reading) || callsStranger(reading);
     }
     if (intent == QLatin1String(InviteConference)) {
         return asksWho(reading) || sendsSomebody(reading) || callsForNothing(reading);

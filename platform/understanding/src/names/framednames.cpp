@@ -125,8 +125,9 @@ private:
     /// 了 in 叫完了开会, 个 in 约个时间: what stands in no name.
     bool holdsOtherThings() const
     {
-        static const QString never = QStringLiteral("了的着得吧吗呢啊呀嘛哦也都就还再又个这那谁他她它您你");
-        static const QString neverFirst = QStringLiteral("不没别在要想到过去来一");
+        static const QString never =
+            QStringLiteral("了的着得吧吗呢啊呀嘛哦哈呗噢啦咯也都就还再又个这那谁他她它您你");
+        static const QString neverFirst = QStringLiteral("不没别在要想到过去来一有是");
         const QString name = said();
         const bool strange = std::any_of(name.cbegin(), name.cend(), [](QChar character) {
             return never.contains(character) || !character.isLetter() || character.unicode() < 0x250;

@@ -45,17 +45,6 @@ bool endsWithRole(const QString &text)
     return false;
 }
 
-/// 阿布都热合曼, 克里斯蒂安娜: nothing but characters that spell foreign names.
-bool isTransliterated(const QString &name)
-{
-    static const QString spelling = QStringLiteral(
-        "阿不布卜都杜拉热合曼买提艾力尔江古丽娜扎努兰汗木依巴哈里克迪米尼斯特夫维奇马丁亚历山大伯纳德"
-        "罗伊莎贝玛莉雅乔治约翰查理安托托蒂彼得保尔森逊姆格萨穆罕默帕沙吾吐买孜帕其旺次仁扎西顿珠卓嘎央金"
-        "多吉洛桑达娃才让加措桑图雅乌云萨日朗苏和巴特尔吉勒本田中藤佐木村松岛川");
-    return std::all_of(name.cbegin(), name.cend(),
-                       [](QChar character) { return spelling.contains(character); });
-}
-
 } // namespace
 
 bool isModifier(const QString &text)
@@ -78,6 +67,15 @@ int modifierLength(const QString &text)
             return start + cut;
         }
     }
+    // 物理老师亚历山大
+    constexpr int shortestForeign = 3;
+    constexpr int longestForeign = 8;
+    for (int length = qMin(longestForeign, rest.size() - 2); length >= shortestForeign; --length) {
+        const int cut = rest.size() - length;
+        if (isTransliterated(rest.mid(cut)) && isModifier(rest.left(cut))) {
+            return start + cut;
+        }
+    }
     // 中介小李: nobody else begins so.
     constexpr int shortest = 4;
     static const QString prefixes = QStringLiteral("小老阿");
@@ -85,12 +83,22 @@ int modifierLength(const QString &text)
     if (rest.size() >= shortest && prefixes.contains(rest.at(familiar)) && !looksLikeName(rest.left(3))) {
         return start + familiar;
     }
+    // 实习生芳姐
+    static const QString familiars = QStringLiteral("姐哥叔嫂");
+    const bool titled = familiar >= 2 && familiars.contains(rest.at(rest.size() - 1)) &&
+                        !prefixes.contains(rest.at(familiar));
+    if (titled && isModifier(rest.left(familiar)) && !roles().contains(rest.mid(familiar))) {
+        return start + familiar;
+    }
     // 法务海洋, 测试组圆圆: whatever two characters follow a calling.
     constexpr int longestCalling = 6;
     for (int length = 2; rest.size() >= shortest && length <= 3; ++length) {
         const int left = rest.size() - length;
         const bool called = left >= 2 && left <= longestCalling && endsWithRole(rest.left(left));
-        if (called && !endsWithRole(rest) && !looksLikeName(rest) && !isPersonsName(rest.left(left))) {
+        static const QString offices = QStringLiteral("部组处科室"); // 安全部千寻
+        const bool office = offices.contains(rest.at(left - 1));
+        if (called && !endsWithRole(rest) && (office || !looksLikeName(rest)) &&
+            (office || !isPersonsName(rest.left(left)))) {
             return start + left;
         }
     }

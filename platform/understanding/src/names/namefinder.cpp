@@ -216,10 +216,7 @@ private:
             at = behind;
             const Token &token = m_tokens[at];
             m_lost = m_lost || isLostBefore(m_tokens, at);
-            const bool someoneFollows =
-                at + 1 < m_tokens.size() &&
-                (m_tokens[at + 1].kind == Token::Kind::Name || m_tokens[at + 1].kind == Token::Kind::Latin ||
-                 m_tokens[at + 1].kind == Token::Kind::Other);
+            const bool someoneFollows = m_places.isSomebody(at + 1);
             if (m_places.isOnlyRelative(at)) { // 叫上我姐: asked about, for nobody is called so
                 addOne(token.position, 2, true);
                 m_names.back().doubtful = true;
@@ -306,7 +303,10 @@ private:
             m_modifierStart = m_modifierStart < 0 ? start : m_modifierStart;
             return last;
         }
-        if (nameFollows && isNamePrefix(run.at(run.size() - 1)) && isModifier(run.chopped(1))) { // 设计师阿B
+        const QChar last1 = run.at(run.size() - 1);
+        const bool sir = startsAt(m_text, end, QStringLiteral("Sir"));
+        if (nameFollows && (isNamePrefix(last1) || sir) &&
+            isModifier(run.chopped(1))) { // 设计师阿B, 法务的林Sir
             addOne(end - 1, m_tokens[next].end() - end + 1, true);
             m_names.back().start = m_modifierStart >= 0 ? m_modifierStart : start;
             m_modifierStart = -1;

@@ -98,6 +98,25 @@ bool isThing(const QString &text)
     return things.contains(text);
 }
 
+bool isTransliterated(const QString &text)
+{
+    static const QString spelling = QStringLiteral(
+        "阿不布卜都杜拉热合曼买提艾力尔江古丽娜扎努兰汗木依巴哈里克迪米尼斯特夫维奇马丁亚历山大伯纳德"
+        "罗伊莎贝玛莉雅乔治约翰查理安托托蒂彼得保尔森逊姆格萨穆罕默帕沙吾吐买孜帕其旺次仁扎西顿珠卓嘎央金"
+        "多吉洛桑达娃才让加措桑图雅乌云萨日朗苏和巴特尔吉勒本田中藤佐木村松岛川");
+    return std::all_of(text.cbegin(), text.cend(),
+                       [](QChar character) { return spelling.contains(character); });
+}
+
+/// 子涵, 晓峰: a given name alone, of characters that stand in hardly anything else.
+static bool isGivenName(const QString &text)
+{
+    static const QString given = QStringLiteral(
+        "涵轩梓浩然宇欣怡婷雪琳娜娟芳燕霞英华兰玲秀丽凤桂珍梅艳敏静洁慧颖倩莉雯佳俊杰强伟军磊涛勇峰鹏"
+        "辉斌亮志国建晓淑瑞凯晨阳旭睿博嘉思雨诗彤萱瑶琪璐薇蕾蓉菲妍媛茜翠莲蓓丹萍玉香子");
+    return text.size() == 2 && given.contains(text.at(0)) && given.contains(text.at(1)) && !isThing(text);
+}
+
 bool looksLikeName(const QString &text)
 {
     if (text.size() < 2) {
@@ -106,7 +125,9 @@ bool looksLikeName(const QString &text)
     if (isLatinName(text)) {
         return text.at(0).isLetter();
     }
-    if (endsLikeName(text) || startsTwoCharacterSurname(text)) {
+    constexpr int shortestForeign = 3;
+    if (endsLikeName(text) || startsTwoCharacterSurname(text) || isGivenName(text) ||
+        (text.size() >= shortestForeign && isTransliterated(text))) {
         return true;
     }
     return text.size() <= LongestFullName &&
@@ -230,16 +251,18 @@ QStringList splitNames(const QString &text)
 QString withoutParticles(const QString &text)
 {
     static const QString leading = QStringLiteral("的也都再就先在要想了个请给对着还又把将跟是有帮替");
-    static const QString trailing = QStringLiteral(
-        "也都全来去再就先在要想等的给吧呢啊呀了过到于得能可需将又还会用里并且吗嘛上下把做成为参加约让呗哈");
+    static const QString trailing = QStringLiteral("也都全来去再就先在要想等的给吧呢啊呀了过到于得能可需将又"
+                                                   "还会用里并且吗嘛上下把做成为参加约让呗哈哦噢喔啦咯");
     int start = 0;
     int end = text.size();
     // What is left has two characters at least: 王来 is a name.
     while (end - start > 2 && leading.contains(text.at(start))) {
         ++start;
     }
-    // 林可可 keeps both.
+    // 林可可 keeps both, 尤里 its 里.
+    static const QString foreign = QStringLiteral("尤阿凯亚玛马古卡基托费");
     while (end - start > 2 && trailing.contains(text.at(end - 1)) &&
+           !(text.at(end - 1) == QChar(u'里') && foreign.contains(text.at(end - 2))) &&
            !(end - start == 3 && text.at(end - 1) == text.at(end - 2))) {
         --end;
     }

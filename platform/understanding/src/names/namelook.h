@@ -17,6 +17,9 @@ bool isNamePrefix(QChar character);
 /// True for what looks like a name and is none: 项目, 方案, 周报.
 bool isThing(const QString &text);
 
+/// True for 阿布都热合曼 and 克里斯蒂安娜: nothing but characters that spell foreign names.
+bool isTransliterated(const QString &text);
+
 /// True for a family name with a title: 王总, 张老师, 欧阳主任.
 bool isSurnameWithTitle(const QString &text);
 

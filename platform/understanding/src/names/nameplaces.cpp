@@ -38,8 +38,9 @@ bool NamePlaces::hasConference() const
 
 bool NamePlaces::isPlainBeforeName(std::size_t at) const
 {
-    return m_tokens[at].is(WordClass::Plain) && at + 1 < m_tokens.size() &&
-           m_tokens[at + 1].kind == Token::Kind::Other &&
+    const bool somebody = at + 1 < m_tokens.size() && (m_tokens[at + 1].kind == Token::Kind::Other ||
+                                                       m_tokens[at + 1].kind == Token::Kind::Latin);
+    return m_tokens[at].is(WordClass::Plain) && somebody &&
            (m_text.at(m_tokens[at + 1].position) == QChar(u'的') ||
             isModifier(m_text.mid(m_tokens[at].position, m_tokens[at].length)));
 }
@@ -59,7 +60,11 @@ std::size_t NamePlaces::endOfModifier(std::size_t at) const
             return at;
         }
         if (token.kind == Token::Kind::Other) {
-            const int end = m_tokens[lastOfRun(next, next + 3)].end(); // 柴进 is a character and a word
+            std::size_t last = lastOfRun(next, next + 3); // 柴进 is a character and a word
+            while (last + 1 < m_tokens.size() && m_tokens[last + 1].is(WordClass::Title)) { // 4号线的宋师姐
+                ++last;
+            }
+            const int end = m_tokens[last].end();
             const QString text = m_text.mid(token.position, end - token.position);
             const int of = text.indexOf(QChar(u'的'));
             const QString head = withoutParticles(text.mid(of + 1));
@@ -235,6 +240,22 @@ std::size_t NamePlaces::skipToNames(std::size_t lead) const
         ++at;
     }
     return at;
+}
+
+bool NamePlaces::isSomebody(std::size_t at) const
+{
+    if (at >= m_tokens.size()) {
+        return false;
+    }
+    if (m_tokens[at].kind == Token::Kind::Name || m_tokens[at].kind == Token::Kind::Latin ||
+        m_tokens[at].kind == Token::Kind::Other) {
+        return true;
+    }
+    const std::size_t next = at + 1;
+    return isSmallWordInName(at) && next < m_tokens.size() && m_tokens[next].length > 1 &&
+           m_tokens[next].position == m_tokens[at].end() &&
+           (m_tokens[next].kind == Token::Kind::Other || m_tokens[next].is(WordClass::Title)) &&
+           isPersonsName(m_text.mid(m_tokens[at].position, m_tokens[next].length + 1));
 }
 
 bool NamePlaces::callsAgain(std::size_t lead, std::size_t next) const

@@ -315,7 +315,7 @@ void settleTopics(const QString &text, Tokens &tokens)
 }
 
 /// 明天三点开会如何 proposes, 如何开会 asks for help.
-void settleQuestions(Tokens &tokens)
+void settleQuestions(const QString &text, Tokens &tokens)
 {
     // 呢 in 七点半呢，跟张伟开个会 only gives time to think.
     for (std::size_t at = 1; at + 2 < tokens.size(); ++at) {
@@ -323,6 +323,16 @@ void settleQuestions(Tokens &tokens)
             tokens[at + 1].is(WordClass::Punctuation)) {
             tokens[at].classes.remove(WordClass::QuestionParticle);
         }
+    }
+    // 客户等着呢 and 开着车呢 beside an order are asides.
+    constexpr WordClasses asked = WordClass::Conference | WordClass::Have | WordClass::Query |
+                                  WordClass::Question | WordClass::Schedule | WordClass::Next;
+    bool asks = false; // in this clause
+    for (Token &token : tokens) {
+        if (token.is(WordClass::QuestionParticle) && !asks && text.at(token.position) == QChar(u'呢')) {
+            token.classes.remove(WordClass::QuestionParticle);
+        }
+        asks = (asks || token.isAny(asked)) && !token.is(WordClass::Punctuation);
     }
     // 还是明天下午开会吧 decides; only behind a first choice it asks.
     for (Token &token : tokens) {
@@ -345,7 +355,7 @@ void settleQuestions(Tokens &tokens)
 
 void settleWords(const QString &text, Tokens &tokens)
 {
-    settleQuestions(tokens);
+    settleQuestions(text, tokens);
     settleConferences(text, tokens);
     settleTopics(text, tokens);
     settleOpening(text, tokens);

@@ -72,12 +72,23 @@ private:
     /// 阿布都热合曼, 阿不都拉: names in which words of the rules stand.
     bool takeForeignName()
     {
-        const int length =
+        int length =
             firstOf(m_text, m_at, {u"阿不都拉", u"阿布都拉", u"阿不都", u"阿布都", u"阿卜都", u"加拉提"});
+        if (length == 0 && !m_tokens.empty() && tailLength(m_tokens.back()) == 1 &&
+            (m_tokens.back().kind == Token::Kind::Other || m_tokens.back().is(WordClass::Title))) {
+            length = firstOf(m_text, m_at, {u"明晨"}); // 居委会的董明晨
+        }
         for (int taken = 0; taken < length; ++taken) {
             takeOther();
         }
         return length > 0;
+    }
+
+    /// How many characters of @p token stand behind its last 的.
+    int tailLength(const Token &token) const
+    {
+        const int end = token.end() - 1;
+        return qMin(token.length, end - m_text.lastIndexOf(QChar(u'的'), end));
     }
 
     /// A name that nobody knows may begin like a time: 和周一鸣, 和高明早上.
@@ -88,7 +99,10 @@ private:
         }
         const Token &before = m_tokens.back();
         constexpr WordClasses leadsToNames = WordClass::Trigger | WordClass::Separator | WordClass::NameLabel;
-        const bool afterLead = before.isAny(leadsToNames);
+        const bool owned = before.kind == Token::Kind::Other && // 数学组的周一鸣
+                           m_text.at(before.end() - 1) == QChar(u'的') &&
+                           (before.length > 1 || m_tokens.size() > 1);
+        const bool afterLead = owned || before.isAny(leadsToNames);
         if (afterLead && match.expression.isBareWeekday()) {
             const int end = m_at + match.length;
             return end < m_text.size() && readTime(m_text, end).kind == TimeMatch::Kind::None &&
@@ -100,8 +114,7 @@ private:
         }
         const TimeMatch later = readTime(m_text, m_at + 1);
         // 陶渊明下午三点: hardly anybody says 明下午.
-        const int name = before.end() - 1 - m_text.lastIndexOf(QChar(u'的'), before.end() - 1);
-        if (qMin(before.length, name) <= 2 && firstOf(m_text, m_at, {u"明上午", u"明下午", u"明中午"}) > 0) {
+        if (tailLength(before) <= 2 && firstOf(m_text, m_at, {u"明上午", u"明下午", u"明中午"}) > 0) {
             return later.kind == TimeMatch::Kind::Time;
         }
         const bool laterIsTime = later.kind == TimeMatch::Kind::Time && !later.expression.impossible;
@@ -139,6 +152,12 @@ private:
         if (takeNumberOrLatin(word.length)) {
             return true;
         }
+        constexpr int shortestTitle = 2;
+        const bool surname = word.length == 1 && m_text.at(m_at) == QChar(u'莫') && m_at + 1 < m_text.size();
+        if (surname) { // 莫教授
+            const WordMatch title = Lexicon::instance().longestAt(m_text, m_at + 1);
+            word = title.length >= shortestTitle && title.classes.has(WordClass::Title) ? WordMatch() : word;
+        }
         if (word.length == 0) {
             return false;
         }
@@ -152,7 +171,8 @@ private:
         const int last = m_at + wordLength - 1;
         // 博士 in 施博士后天, 叫 in 叫上官婉儿, 开会 in 开会时间, 清明 in 记不清明天
         if (wordLength >= 2 &&
-            firstOf(m_text, last, {u"后天", u"上官", u"时间", u"明天", u"明早", u"明晚", u"明儿"}) > 0) {
+            firstOf(m_text, last,
+                    {u"后天", u"上官", u"时间", u"明天", u"明早", u"明晚", u"明儿", u"约翰", u"约瑟"}) > 0) {
             return true;
         }
         if (wordLength < 2 || m_text.at(last) != QChar(u'下') || m_text.at(last - 1) == QChar(u'一') ||

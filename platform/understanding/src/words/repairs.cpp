@@ -135,12 +135,8 @@ bool repairAt(Tokens &tokens, std::size_t repair, std::vector<bool> &dropped)
         }
         replaceTime(tokens[later], tokens[earlier]);
         dropped[earlier] = true;
-    } else if (isCode(tokens[later])) {
-        const std::size_t earlier = lastBefore(tokens, repair, isCode);
-        if (earlier == None) {
-            return false;
-        }
-        dropped[earlier] = true;
+    } else if (isCode(tokens[later]) && lastBefore(tokens, repair, isCode) != None) {
+        dropped[lastBefore(tokens, repair, isCode)] = true;
     } else if (isNamePart(tokens[later])) {
         const std::size_t earlier = nameBefore(tokens, repair);
         if (earlier != None) {

@@ -31,6 +31,12 @@ CardLabel::CardLabel(const QString &text, QWidget *parent) : LLabel(parent)
     }
 }
 
+void CardLabel::setTextAlpha(int alpha)
+{
+    m_textAlpha = alpha;
+    setPalette(CardTheme::textPalette(alpha));
+}
+
 void CardLabel::disableEliding()
 {
     m_elides = false;

@@ -15,9 +15,17 @@
 class CardLabel : public LLabel
 {
     Q_OBJECT
+    /// As CardTheme::setText() keeps it; declared, because a label keeps it at a tenth of the cost then.
+    Q_PROPERTY(int cardTextAlpha MEMBER m_textAlpha)
 
 public:
+    /// The colour does not follow the theme.
+    static constexpr int NoTextAlpha = -1;
+
     CardLabel(const QString &text, QWidget *parent);
+
+    /// Gives a new label the theme's text colour with @p alpha, which it keeps when the theme changes.
+    void setTextAlpha(int alpha);
 
     /// Never makes the label narrower than its text.
     void disableEliding();
@@ -40,6 +48,7 @@ private:
     [[nodiscard]] QString shownText() const;
     [[nodiscard]] QSize wholeSize() const;
 
+    int m_textAlpha = NoTextAlpha;
     bool m_elides = true;
     bool m_isCapped = false;
 };

@@ -4,7 +4,6 @@
 #include "card/cardtext.h"
 
 #include "card/cardlabel.h"
-#include "card/cardtheme.h"
 
 namespace {
 
@@ -22,7 +21,7 @@ CardLabel *CardText::label(const QString &text, LFontSizeManager::SizeType size,
 {
     auto *label = new CardLabel(text, parent);
     setSize(*label, size);
-    CardTheme::setText(*label, alpha);
+    label->setTextAlpha(alpha);
     return label;
 }
 

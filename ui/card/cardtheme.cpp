@@ -3,8 +3,11 @@
 
 #include "card/cardtheme.h"
 
+#include "card/cardlabel.h"
+
 #include <lumo/lguiapplicationhelper.h>
 
+#include <QHash>
 #include <QPainter>
 #include <QVariant>
 #include <QWidget>
@@ -47,6 +50,18 @@ QColor CardTheme::text(int alpha)
     return color;
 }
 
+QPalette CardTheme::textPalette(int alpha)
+{
+    static QHash<QRgb, QPalette> palettes;
+    const QColor color = text(alpha);
+    auto palette = palettes.find(color.rgba());
+    if (palette == palettes.end()) {
+        palette = palettes.insert(color.rgba(), QPalette());
+        palette->setBrush(QPalette::All, QPalette::WindowText, color);
+    }
+    return *palette;
+}
+
 void CardTheme::setText(QWidget &widget, int alpha)
 {
     widget.setProperty(AlphaProperty, alpha);
@@ -58,7 +73,7 @@ void CardTheme::refreshTexts(QWidget &card)
     const auto widgets = card.findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
         const QVariant alpha = widget->property(AlphaProperty);
-        if (alpha.isValid()) {
+        if (alpha.isValid() && alpha.toInt() != CardLabel::NoTextAlpha) {
             applyText(*widget, alpha.toInt());
         }
     }

@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QGuiApplication>
+#include <QPalette>
 
 QT_BEGIN_NAMESPACE
 class QPainter;
@@ -36,7 +37,11 @@ constexpr int LineAlpha = 26;  ///< the line between two parts of a card
 /// Black in the light theme, white otherwise, with @p alpha from 0 to 255.
 QColor text(int alpha);
 
-/// Gives @p widget that text colour, and remembers it for refreshTexts().
+/// A palette that says nothing but that text colour, for a new widget. Made once for each colour: making it
+/// costs as much as the rest of colouring a label.
+QPalette textPalette(int alpha);
+
+/// Gives @p widget that text colour, and remembers @p alpha as its property cardTextAlpha for refreshTexts().
 void setText(QWidget &widget, int alpha);
 
 /// Gives everything in @p card that setText() was used on the colour of the current theme, and paints @p card

@@ -4,7 +4,7 @@
 #include "core/peoplerepository.h"
 
 #include "core/conferencerules.h"
-#include "core/statement.h"
+#include "core/personrow.h"
 
 namespace {
 
@@ -23,16 +23,6 @@ QString personQuery(const char *rest)
 QString contactQuery(const char *rest)
 {
     return QLatin1String(ContactColumns) + QLatin1String(rest);
-}
-
-Person readPerson(const Statement &row)
-{
-    Person person;
-    person.userId = row.text(0);
-    person.account = row.text(1);
-    person.name = row.text(2);
-    person.kind = static_cast<AccountKind>(row.smallNumber(3));
-    return person;
 }
 
 Person readContact(const Statement &row)

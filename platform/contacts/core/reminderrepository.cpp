@@ -160,12 +160,7 @@ QVector<Person> ReminderRepository::untoldRequests(const QString &userId) const
     query.bind(userId).bind(MostAtOnce).run();
     QVector<Person> askers;
     while (query.next()) {
-        Person person;
-        person.userId = query.text(0);
-        person.account = query.text(1);
-        person.name = query.text(2);
-        person.remarkName = query.text(3);
-        askers.append(person);
+        askers.append({query.text(0), query.text(1), query.text(2), query.text(3)});
     }
     return askers;
 }

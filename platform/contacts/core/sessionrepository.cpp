@@ -3,7 +3,7 @@
 
 #include "core/sessionrepository.h"
 
-#include "core/statement.h"
+#include "core/personrow.h"
 
 std::optional<Person> SessionRepository::user() const
 {
@@ -12,12 +12,7 @@ std::optional<Person> SessionRepository::user() const
     if (!query.run().next()) {
         return std::nullopt;
     }
-    Person person;
-    person.userId = query.text(0);
-    person.account = query.text(1);
-    person.name = query.text(2);
-    person.kind = static_cast<AccountKind>(query.smallNumber(3));
-    return person;
+    return readPerson(query);
 }
 
 void SessionRepository::login(const QString &userId)

@@ -19,17 +19,23 @@ constexpr qint64 LongestSearchMsecs = 20000;
 
 const QString Comma = QStringLiteral(", "); // clazy:exclude=non-pod-global-static
 
-QStringList columnsOf(const QSqlDatabase &database, const QString &table)
+/// What PRAGMA @p pragma lists in @p column; nothing when it cannot be read.
+QStringList listed(const QSqlDatabase &database, const QString &pragma, int column)
 {
-    QStringList columns;
+    QStringList names;
     QSqlQuery query(database);
     query.setForwardOnly(true);
-    if (query.exec(QStringLiteral("PRAGMA table_info(%1)").arg(table))) {
+    if (query.exec(QStringLiteral("PRAGMA ") + pragma)) {
         while (query.next()) {
-            columns.append(query.value(1).toString());
+            names.append(query.value(column).toString());
         }
     }
-    return columns;
+    return names;
+}
+
+QStringList columnsOf(const QSqlDatabase &database, const QString &table)
+{
+    return listed(database, QStringLiteral("table_info(%1)").arg(table), 1);
 }
 
 /// "(?, ?, ?)"
@@ -159,21 +165,14 @@ void TableSalvage::search(const RowKey &low, const RowKey &high)
 
 void TableSalvage::copyByIndexes()
 {
-    QStringList indexes;
-    QSqlQuery list(m_damaged);
-    list.setForwardOnly(true);
-    if (list.exec(QStringLiteral("PRAGMA index_list(%1)").arg(m_table))) {
-        while (list.next()) {
-            indexes.append(list.value(1).toString());
-        }
-    }
+    const QStringList indexes = listed(m_damaged, QStringLiteral("index_list(%1)").arg(m_table), 1);
     QSqlQuery read(m_damaged);
     read.setForwardOnly(true);
     if (!read.prepare(QStringLiteral("SELECT %1 FROM %2 WHERE (%3) = %4")
                           .arg(m_columns.join(Comma), m_table, m_keys.join(Comma), places(m_keys.size())))) {
         return;
     }
-    for (const QString &index : qAsConst(indexes)) {
+    for (const QString &index : indexes) {
         for (const Direction direction : {Direction::Up, Direction::Down}) {
             const QVector<RowKey> keys = keysIn(index, direction);
             for (const RowKey &key : keys) {
@@ -194,13 +193,7 @@ void TableSalvage::copyByIndexes()
 
 QVector<RowKey> TableSalvage::keysIn(const QString &index, Direction direction) const
 {
-    QStringList columns;
-    QSqlQuery info(m_damaged);
-    if (info.exec(QStringLiteral("PRAGMA index_info(%1)").arg(index))) {
-        while (info.next()) {
-            columns.append(info.value(2).toString());
-        }
-    }
+    const QStringList columns = listed(m_damaged, QStringLiteral("index_info(%1)").arg(index), 2);
     QVector<RowKey> keys;
     QSqlQuery read(m_damaged);
     read.setForwardOnly(true);

@@ -3,8 +3,9 @@
 
 #pragma once
 
-#include <QDBusConnection>
+#include "busstart.h"
 
+#include <QDBusConnection>
 #include <QObject>
 
 class Administration;
@@ -18,12 +19,7 @@ class BusService : public QObject
     Q_OBJECT
 
 public:
-    enum class Start {
-        Done,
-        NoBus,
-        AlreadyRunning, ///< another process has the name
-        Refused,        ///< the bus does not take an object or the name; the reason is in the log
-    };
+    using Start = BusStart;
 
     /// The administration is for whoever runs the application to try it out: it hides nothing and can empty
     /// everything, and any program of the session can call it.

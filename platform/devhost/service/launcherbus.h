@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <busstart.h>
+
 #include <QDBusConnection>
 #include <QObject>
 
@@ -16,12 +18,7 @@ class LauncherBus final : public QObject
     Q_OBJECT
 
 public:
-    enum class Start {
-        Done,
-        NoBus,
-        AlreadyRunning, ///< another process has the name
-        Refused,        ///< the bus does not take an object or the name; the reason is in the log
-    };
+    using Start = BusStart;
 
     LauncherBus();
     ~LauncherBus() override;

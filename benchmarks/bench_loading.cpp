@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "runbenchmarks.h"
+
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -148,8 +150,5 @@ int main(int argc, char **argv)
         return loadOnce(argc, argv);
     }
     const QCoreApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return runBenchmarks(argc, argv);
 }

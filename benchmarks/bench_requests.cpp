@@ -4,6 +4,7 @@
 #include "configmanager.h"
 #include "contactintentfactory.h"
 #include "contactservice.h"
+#include "runbenchmarks.h"
 #include "stubs.h"
 
 #include <kelvane/kelvaneabilitymanager.h>
@@ -215,8 +216,5 @@ int main(int argc, char **argv)
     ConfigManager::instance()->fromJson(QJsonObject{
         {QStringLiteral("Contact"), QJsonObject{{QStringLiteral("TimeOut"), QStringLiteral("5000")},
                                                 {QStringLiteral("MaxTimeOut"), QStringLiteral("15000")}}}});
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return runBenchmarks(argc, argv);
 }

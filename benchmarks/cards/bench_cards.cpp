@@ -3,6 +3,7 @@
 
 #include "conferencemsgstaticwidget.h"
 #include "plainwidgets.h"
+#include "runbenchmarks.h"
 
 #include <benchmark/benchmark.h>
 
@@ -203,11 +204,5 @@ BENCHMARK(candidatesToPick)
 int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 1;
-    }
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return runBenchmarks(argc, argv);
 }

@@ -3,6 +3,7 @@
 
 #include "cardcosts.h"
 #include "conferencemsgstaticwidget.h"
+#include "runbenchmarks.h"
 
 #include <benchmark/benchmark.h>
 
@@ -84,11 +85,5 @@ int main(int argc, char **argv)
     const QApplication application(argc, argv);
     CardCosts::warmUp();
     registerLongTexts();
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 1;
-    }
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return runBenchmarks(argc, argv);
 }

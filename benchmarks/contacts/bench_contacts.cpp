@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "fullbook.h"
+#include "runbenchmarks.h"
 
 #include <benchmark/benchmark.h>
 
@@ -85,8 +86,5 @@ int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     const Library library;
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return runBenchmarks(argc, argv);
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "fullbook.h"
+#include "runbenchmarks.h"
 
 #include "book/administration.h"
 #include "window/contactswindow.h"
@@ -103,8 +104,5 @@ BENCHMARK(openTheWindow)->RangeMultiplier(10)->Range(100, 100000)->Unit(benchmar
 int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return runBenchmarks(argc, argv);
 }

@@ -153,6 +153,13 @@ bool isBare(const Reading &reading)
     });
 }
 
+/// Whether the sentence has what @p Part reads out of it.
+template <auto Part>
+bool isSaid(const Reading &reading)
+{
+    return !(reading.*Part)().isEmpty();
+}
+
 struct Finding
 {
     const char *name;
@@ -166,24 +173,12 @@ constexpr Finding Findings[] = {
          return !reading.names().empty();
      }},
     {"called", isCalled},
-    {"time",
-     [](const Reading &reading) {
-         return !reading.timeSaid().isEmpty();
-     }},
+    {"time", isSaid<&Reading::timeSaid>},
     {"clock", hasClock},
     {"later", isLater},
-    {"number",
-     [](const Reading &reading) {
-         return !reading.conferenceNumber().isEmpty();
-     }},
-    {"secret",
-     [](const Reading &reading) {
-         return !reading.password().isEmpty();
-     }},
-    {"account",
-     [](const Reading &reading) {
-         return !reading.account().isEmpty();
-     }},
+    {"number", isSaid<&Reading::conferenceNumber>},
+    {"secret", isSaid<&Reading::password>},
+    {"account", isSaid<&Reading::account>},
     {"negated", isNegated},
     {"two-times",
      [](const Reading &reading) {

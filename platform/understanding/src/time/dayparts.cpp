@@ -3,9 +3,7 @@
 
 #include "time/dayparts.h"
 
-#include "text/rulefile.h"
-
-#include <algorithm>
+#include "time/wordtable.h"
 
 namespace understanding {
 
@@ -27,19 +25,6 @@ DayPart parsePart(const QString &line)
     return part;
 }
 
-std::vector<DayPart> loadParts()
-{
-    std::vector<DayPart> parts;
-    const QStringList lines = ruleLines(QStringLiteral("dayparts.tsv"));
-    for (const QString &line : lines) {
-        parts.push_back(parsePart(line));
-    }
-    // Longest first, so that the first hit is the longest.
-    std::stable_sort(parts.begin(), parts.end(),
-                     [](const DayPart &a, const DayPart &b) { return a.word.size() > b.word.size(); });
-    return parts;
-}
-
 } // namespace
 
 int DayPart::hourFor(int saidHour) const
@@ -57,7 +42,7 @@ int DayPart::hourFor(int saidHour) const
 
 const std::vector<DayPart> &dayParts()
 {
-    static const std::vector<DayPart> parts = loadParts();
+    static const std::vector<DayPart> parts = loadWordTable(QStringLiteral("dayparts.tsv"), parsePart);
     return parts;
 }
 

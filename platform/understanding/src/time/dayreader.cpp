@@ -4,12 +4,11 @@
 #include "time/dayreader.h"
 
 #include "text/chinesenumber.h"
-#include "text/rulefile.h"
 #include "text/scan.h"
 #include "time/clockreader.h"
 #include "time/dayparts.h"
+#include "time/wordtable.h"
 
-#include <algorithm>
 #include <vector>
 
 namespace understanding {
@@ -22,19 +21,15 @@ struct NamedDay
     int offset;
 };
 
+NamedDay parseDay(const QString &line)
+{
+    const QStringList fields = line.split(QLatin1Char('\t'));
+    return {fields.at(0), fields.at(1).toInt()};
+}
+
 const std::vector<NamedDay> &namedDays()
 {
-    static const std::vector<NamedDay> days = [] {
-        std::vector<NamedDay> loaded;
-        const QStringList lines = ruleLines(QStringLiteral("days.tsv"));
-        for (const QString &line : lines) {
-            const QStringList fields = line.split(QLatin1Char('\t'));
-            loaded.push_back({fields.at(0), fields.at(1).toInt()});
-        }
-        std::stable_sort(loaded.begin(), loaded.end(),
-                         [](const NamedDay &a, const NamedDay &b) { return a.word.size() > b.word.size(); });
-        return loaded;
-    }();
+    static const std::vector<NamedDay> days = loadWordTable(QStringLiteral("days.tsv"), parseDay);
     return days;
 }
 

@@ -62,6 +62,16 @@ void prepare(QWidget &control, const QString &accessibleName, int minimumWidth)
     control.setAttribute(Qt::WA_NoMousePropagation);
 }
 
+/// The only control of a row, still to be added to its layout.
+template <typename Control>
+Control *wideControl(const ConferenceRows::CaptionedRow &row, const QString &accessibleName)
+{
+    auto *control = new Control(row.widget);
+    prepare(*control, accessibleName, scaledWidth(WideControlWidth));
+    row.caption->setBuddy(control);
+    return control;
+}
+
 } // namespace
 
 ConferenceEditor::ConferenceEditor(QWidget *card) : QObject(card) {}
@@ -97,9 +107,7 @@ QWidget *ConferenceEditor::beginTime(const ContactDetailMsg &conference, QWidget
 QWidget *ConferenceEditor::timeLength(const ContactDetailMsg &conference, QWidget *card)
 {
     const auto row = ConferenceRows::captioned(ConferenceRows::timeLengthCaption(), card);
-    auto *box = new LComboBox(row.widget);
-    prepare(*box, ConferenceRows::timeLengthCaption(), scaledWidth(WideControlWidth));
-    row.caption->setBuddy(box);
+    auto *box = wideControl<LComboBox>(row, ConferenceRows::timeLengthCaption());
     box->setWindowTitle(DurationBoxTag);
     box->installEventFilter(card);
     // Before the items: the first one already sets the working duration, which then is what the box shows
@@ -117,9 +125,7 @@ QWidget *ConferenceEditor::timeLength(const ContactDetailMsg &conference, QWidge
 QWidget *ConferenceEditor::personNum(const ContactDetailMsg &conference, QWidget *card)
 {
     const auto row = ConferenceRows::captioned(ConferenceRows::personNumCaption(), card);
-    auto *box = new LSpinBox(row.widget);
-    prepare(*box, ConferenceRows::personNumCaption(), scaledWidth(WideControlWidth));
-    row.caption->setBuddy(box);
+    auto *box = wideControl<LSpinBox>(row, ConferenceRows::personNumCaption());
     box->setEnabledEmbedStyle(true);
     const int most = ParticipantLimits::most(conference);
     box->setRange(ParticipantLimits::Least, qMax(ParticipantLimits::Least, most));

@@ -138,14 +138,6 @@ void requirePlainText(const QWidget &card)
 
 // In the place of the real ones: no bus, no process table.
 
-ContactAbility::~ContactAbility() = default;
-
-KelvaneAbilityManager *KelvaneAbilityManager::instance()
-{
-    static KelvaneAbilityManager manager;
-    return &manager;
-}
-
 ContactAbility *KelvaneAbilityManager::createContact()
 {
     return new FuzzedAbility;

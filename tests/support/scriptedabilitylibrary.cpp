@@ -224,14 +224,6 @@ private:
 
 } // namespace
 
-ContactAbility::~ContactAbility() = default;
-
-KelvaneAbilityManager *KelvaneAbilityManager::instance()
-{
-    static KelvaneAbilityManager manager;
-    return &manager;
-}
-
 ContactAbility *KelvaneAbilityManager::createContact()
 {
     const int number = Script::instance().created();

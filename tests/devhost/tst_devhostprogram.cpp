@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "programrun.h"
+#include "programtest.h"
 #include "semantics.h"
 #include "silentsocket.h"
 #include "testcolumns.h"
@@ -13,28 +15,19 @@ namespace {
 
 struct Run
 {
-    int status = -1;
+    int status;
     QList<QByteArray> output;
     QByteArray errors;
 };
 
 Run run(const QStringList &arguments, const QByteArray &input = QByteArray())
 {
-    QProcess process;
-    process.start(QStringLiteral(DEVHOST), arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    Run result;
-    if (!process.waitForFinished(60000)) {
-        return result;
+    const ProgramRun result = runProgram(QStringLiteral(DEVHOST), arguments, input);
+    QList<QByteArray> lines = result.output.split('\n');
+    if (lines.last().isEmpty()) {
+        lines.removeLast();
     }
-    result.status = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -2;
-    result.output = process.readAllStandardOutput().split('\n');
-    if (result.output.last().isEmpty()) {
-        result.output.removeLast();
-    }
-    result.errors = process.readAllStandardError();
-    return result;
+    return {result.status, lines, result.errors};
 }
 
 QStringList withPlugin(QStringList arguments)
@@ -45,12 +38,11 @@ QStringList withPlugin(QStringList arguments)
 } // namespace
 
 /// The program from outside: its text modes, messages and exit statuses.
-class TestDevhostProgram : public QObject
+class TestDevhostProgram : public ProgramTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void batchAnswersLineByLine();
     void brokenLinesAreNamedAndTheRestGoesOn();
     void throwingPluginBreaksOneLine();
@@ -64,17 +56,7 @@ private Q_SLOTS:
     void logGoesToTheTerminalOnlyWhenAsked();
     void silentBusKeepsNobody_data();
     void silentBusKeepsNobody();
-
-private:
-    const QTemporaryDir m_runtime;
 };
-
-void TestDevhostProgram::initTestCase()
-{
-    // Without it Qt complains on the error stream, which is compared here.
-    QVERIFY(m_runtime.isValid());
-    qputenv("XDG_RUNTIME_DIR", m_runtime.path().toLocal8Bit());
-}
 
 void TestDevhostProgram::batchAnswersLineByLine()
 {

@@ -14,3 +14,10 @@ void addColumns(const char *const (&names)[sizeof...(Types)])
     std::size_t column = 0;
     (QTest::addColumn<Types>(names[column++]), ...);
 }
+
+/// Adds a row to that table: addRow("nothing", "", 0). Texts are for columns of QString.
+template <typename... Values>
+void addRow(const char *name, Values... values)
+{
+    (QTest::newRow(name) << ... << values);
+}

@@ -22,29 +22,35 @@ double cpuMilliseconds()
     return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
 }
 
+template <QString ContactDetailMsg::*Shown>
+void showOne(ConferenceMsgStaticWidget &card, const QString &text)
+{
+    ContactDetailMsg one = conference();
+    one.*Shown = text;
+    card.singleInit({one});
+}
+
+template <QString UserInfo::*Shown>
+void showCandidate(ConferenceMsgStaticWidget &card, const QString &text)
+{
+    ContactInviteMemberDetail detail = CardCosts::people(1, text);
+    detail.duplicateUsers[0].users[0].*Shown = text;
+    card.inviteMultiplePerson(detail);
+}
+
 } // namespace
 
 const std::vector<CardCosts::LongText> &CardCosts::longTexts()
 {
     static const std::vector<LongText> texts = {
-        {"title",
-         [](ConferenceMsgStaticWidget &card, const QString &text) {
-             ContactDetailMsg one = conference();
-             one.title = text;
-             card.singleInit({one});
-         }},
+        {"title", showOne<&ContactDetailMsg::title>},
         {"titles of a list",
          [](ConferenceMsgStaticWidget &card, const QString &text) {
              QVector<ContactDetailMsg> list = conferences(4);
              list[0].title = text;
              card.multipleInit(list);
          }},
-        {"number",
-         [](ConferenceMsgStaticWidget &card, const QString &text) {
-             ContactDetailMsg one = conference();
-             one.conferenceDialNumber = text;
-             card.singleInit({one});
-         }},
+        {"number", showOne<&ContactDetailMsg::conferenceDialNumber>},
         {"participant",
          [](ConferenceMsgStaticWidget &card, const QString &text) {
              ContactDetailMsg one = conference();
@@ -57,18 +63,8 @@ const std::vector<CardCosts::LongText> &CardCosts::longTexts()
              list[0].title = text;
              card.createInviteConference(list);
          }},
-        {"name of a candidate",
-         [](ConferenceMsgStaticWidget &card, const QString &text) {
-             ContactInviteMemberDetail detail = people(1, text);
-             detail.duplicateUsers[0].users[0].remarkName = text;
-             card.inviteMultiplePerson(detail);
-         }},
-        {"account of a candidate",
-         [](ConferenceMsgStaticWidget &card, const QString &text) {
-             ContactInviteMemberDetail detail = people(1, text);
-             detail.duplicateUsers[0].users[0].account = text;
-             card.inviteMultiplePerson(detail);
-         }},
+        {"name of a candidate", showCandidate<&UserInfo::remarkName>},
+        {"account of a candidate", showCandidate<&UserInfo::account>},
     };
     return texts;
 }

@@ -77,14 +77,32 @@ bool isEditable(const CardHost &host)
     return button(*host.card(), QStringLiteral("修 改")) != nullptr;
 }
 
-/// The next @p action fails as a call with @p callCode, or is answered with @p outcome when that is 0.
-void prepare(const QString &action, const QString &outcome, int callCode)
+/// What becomes of a request, and what is logged and said of it.
+void addOutcomes(const QString &done, int refusedCode, int failedCode, const QString &failed)
 {
+    addColumns<QString, int, int, QString>({"outcome", "callCode", "loggedCode", "text"});
+    addRow("success", "OK", 0, 0, done);
+    addRow("the application refuses", "Not Found", 0, refusedCode, failed);
+    addRow("the call fails", "", failedCode, failedCode, failed);
+}
+
+/// Clicks the button called @p text. It has to ask for @p action, which has the row's outcome, to log that as
+/// @p line with the code, and to say it.
+void clickAndCheck(CardHost &host, const QString &text, const QString &action, const QString &line)
+{
+    QFETCH(QString, outcome);
+    QFETCH(int, callCode);
+    QFETCH(int, loggedCode);
     if (callCode == 0) {
         CardHost::answer(action, outcome);
     } else {
         CardHost::fail(action, callCode);
     }
+    QTest::mouseClick(button(*host.card(), text), Qt::LeftButton);
+    QCOMPARE(CardHost::actions(), QStringList{action});
+    QTEST(host.replyTexts().join(QLatin1Char('|')), "text");
+    QVERIFY2(host.log().contains(QtDebugMsg, line.arg(loggedCode)),
+             qPrintable(host.log().lines().join(QLatin1Char('\n'))));
 }
 
 } // namespace
@@ -106,28 +124,16 @@ void TestConferenceCardActions::aReplyHasTextsOnly()
 
 void TestConferenceCardActions::modify_data()
 {
-    addColumns<QString, int, int, QString>({"outcome", "callCode", "loggedCode", "text"});
-    const QString failed = QStringLiteral("修改失败，请前往联系人应用修改。");
-    QTest::newRow("success") << QStringLiteral("OK") << 0 << 0 << QStringLiteral("会议信息修改成功。");
-    QTest::newRow("the application refuses") << QStringLiteral("Not Found") << 0 << -16007 << failed;
-    QTest::newRow("the call fails") << QString() << -16020 << -16020 << failed;
+    addOutcomes(QStringLiteral("会议信息修改成功。"), -16007, -16020,
+                QStringLiteral("修改失败，请前往联系人应用修改。"));
 }
 
 void TestConferenceCardActions::modify()
 {
-    QFETCH(QString, outcome);
-    QFETCH(int, callCode);
-    QFETCH(int, loggedCode);
-    QFETCH(QString, text);
     CardHost host(buildEditable);
-    prepare(QStringLiteral("Update Conference"), outcome, callCode);
     named<LSpinBox>(*host.card(), QStringLiteral("人数"))->setValue(7);
-    QTest::mouseClick(button(*host.card(), QStringLiteral("修 改")), Qt::LeftButton);
-
-    QCOMPARE(CardHost::actions(), QStringList{QStringLiteral("Update Conference")});
-    QCOMPARE(host.replyTexts(), QStringList{text});
-    const QString line = QStringLiteral("create conference code: %1").arg(loggedCode);
-    QVERIFY2(host.log().contains(QtDebugMsg, line), qPrintable(host.log().lines().join(QLatin1Char('\n'))));
+    clickAndCheck(host, QStringLiteral("修 改"), QStringLiteral("Update Conference"),
+                  QStringLiteral("create conference code: %1"));
     // What was asked for stays, also when it was refused.
     QVERIFY(!isEditable(host));
     QCOMPARE(texts(*host.card()), staticTexts(QStringLiteral("3月7日    09:00:00"), QStringLiteral("15分钟"),
@@ -189,28 +195,16 @@ void TestConferenceCardActions::anOddMinuteIsKeptWhenSomethingElseIsModified()
 
 void TestConferenceCardActions::cancel_data()
 {
-    addColumns<QString, int, int, QString>({"outcome", "callCode", "loggedCode", "text"});
-    const QString failed = QStringLiteral("会议取消失败，请前往联系人应用取消。");
-    QTest::newRow("success") << QStringLiteral("OK") << 0 << 0 << QStringLiteral("已为您取消会议。");
-    QTest::newRow("the application refuses") << QStringLiteral("Not Found") << 0 << -16011 << failed;
-    QTest::newRow("the call fails") << QString() << -5 << -5 << failed;
+    addOutcomes(QStringLiteral("已为您取消会议。"), -16011, -5,
+                QStringLiteral("会议取消失败，请前往联系人应用取消。"));
 }
 
 void TestConferenceCardActions::cancel()
 {
-    QFETCH(QString, outcome);
-    QFETCH(int, callCode);
-    QFETCH(int, loggedCode);
-    QFETCH(QString, text);
     CardHost host(buildEditable);
-    prepare(QStringLiteral("Delete Conference"), outcome, callCode);
-    QTest::mouseClick(button(*host.card(), QStringLiteral("取 消")), Qt::LeftButton);
-
-    QCOMPARE(CardHost::actions(), QStringList{QStringLiteral("Delete Conference")});
+    clickAndCheck(host, QStringLiteral("取 消"), QStringLiteral("Delete Conference"),
+                  QStringLiteral("Cancle conference code: %1"));
     QVERIFY(CardHost::parameters().contains(QStringLiteral("\"c-1\"")));
-    QCOMPARE(host.replyTexts(), QStringList{text});
-    const QString line = QStringLiteral("Cancle conference code: %1").arg(loggedCode);
-    QVERIFY2(host.log().contains(QtDebugMsg, line), qPrintable(host.log().lines().join(QLatin1Char('\n'))));
     QVERIFY(!isEditable(host));
     QCOMPARE(texts(*host.card()), unchangedTexts());
     QVERIFY(!host.card()->isEnabled());

@@ -157,27 +157,28 @@ void TestConferenceCardLifetime::deletedWhenItGoesOnInTheContacts()
 
 void TestConferenceCardLifetime::deletedWhileItOpensTheContacts_data()
 {
-    QTest::addColumn<int>("way");
-    QTest::newRow("by a click") << 0;
-    QTest::newRow("by a key") << 1;
-    QTest::newRow("by a click on the footer") << 2;
-    QTest::newRow("by Return on the footer") << 3;
+    addColumns<bool, bool>({"onFooter", "withKey"});
+    addRow("by a click", false, false);
+    addRow("by a key", false, true);
+    addRow("by a click on the footer", true, false);
+    addRow("by Return on the footer", true, true);
 }
 
 void TestConferenceCardLifetime::deletedWhileItOpensTheContacts()
 {
-    QFETCH(int, way);
+    QFETCH(bool, onFooter);
+    QFETCH(bool, withKey);
     CardHost host;
     host.card()->multipleInit(conferences(4));
     QVERIFY(host.activate());
     ScriptedAbility::instance().duringNextRequest([&host] { delete host.card(); });
     QPushButton *footer = shown<LCommandLinkButton>(*host.card()).first();
-    QWidget *target = way < 2 ? static_cast<QWidget *>(host.card()) : footer;
+    QWidget *target = onFooter ? static_cast<QWidget *>(footer) : host.card();
     target->setFocus(Qt::TabFocusReason);
-    if (way % 2 == 0) {
-        QTest::mouseClick(target, Qt::LeftButton);
-    } else {
+    if (withKey) {
         QTest::keyClick(host.windowHandle(), Qt::Key_Return);
+    } else {
+        QTest::mouseClick(target, Qt::LeftButton);
     }
     QVERIFY(host.card() == nullptr);
     QCOMPARE(CardHost::actions(), QStringList{QStringLiteral("Open Conference List")});

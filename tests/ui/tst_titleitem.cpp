@@ -92,38 +92,14 @@ void TestTiTleItem::theTitleIsNotDisplayed()
 void TestTiTleItem::whatIsShownOfAPerson_data()
 {
     addColumns<QString, QString, QString, QString>({"name", "remarkName", "account", "texts"});
-    QTest::newRow("display name, caption and account") << "a"
-                                                       << "b"
-                                                       << "d"
-                                                       << "b|ID|d";
-    QTest::newRow("without display name the account stands for it") << "a"
-                                                                    << ""
-                                                                    << "d"
-                                                                    << "d|ID|d";
-    QTest::newRow("a blank display name is shown") << "a"
-                                                   << " "
-                                                   << "d"
-                                                   << " |ID|d";
-    QTest::newRow("no caption for an empty name") << ""
-                                                  << "b"
-                                                  << "d"
-                                                  << "b|d";
-    QTest::newRow("no caption for a name that is one space") << " "
-                                                             << "b"
-                                                             << "d"
-                                                             << "b|d";
-    QTest::newRow("a caption for a name of two spaces") << "  "
-                                                        << "b"
-                                                        << "d"
-                                                        << "b|ID|d";
-    QTest::newRow("without account") << "a"
-                                     << "b"
-                                     << ""
-                                     << "b|ID|";
-    QTest::newRow("with nothing at all") << ""
-                                         << ""
-                                         << ""
-                                         << "|";
+    addRow("display name, caption and account", "a", "b", "d", "b|ID|d");
+    addRow("without display name the account stands for it", "a", "", "d", "d|ID|d");
+    addRow("a blank display name is shown", "a", " ", "d", " |ID|d");
+    addRow("no caption for an empty name", "", "b", "d", "b|d");
+    addRow("no caption for a name that is one space", " ", "b", "d", "b|d");
+    addRow("a caption for a name of two spaces", "  ", "b", "d", "b|ID|d");
+    addRow("without account", "a", "b", "", "b|ID|");
+    addRow("with nothing at all", "", "", "", "|");
 }
 
 void TestTiTleItem::whatIsShownOfAPerson()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "programrun.h"
 #include "sentencefile.h"
 #include "testcolumns.h"
 
@@ -15,32 +16,15 @@ class TestSpeakmateUnderstand : public QObject
     Q_OBJECT
 
 private:
-    struct Run
+    static ProgramRun run(const QStringList &arguments, const QByteArray &input = QByteArray())
     {
-        int exitCode = -1;
-        QByteArray output;
-        QByteArray errors;
-        QList<QByteArray> lines() const
-        {
-            QList<QByteArray> all = output.split('\n');
-            all.removeLast();
-            return all;
-        }
-    };
-
-    static Run run(const QStringList &arguments, const QByteArray &input = QByteArray())
+        return runProgram(QStringLiteral(UNDERSTAND_PROGRAM), arguments, input);
+    }
+    static QList<QByteArray> linesOf(const ProgramRun &result)
     {
-        QProcess process;
-        process.start(QStringLiteral(UNDERSTAND_PROGRAM), arguments);
-        process.write(input);
-        process.closeWriteChannel();
-        Run result;
-        if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit) {
-            result.exitCode = process.exitCode();
-        }
-        result.output = process.readAllStandardOutput();
-        result.errors = process.readAllStandardError();
-        return result;
+        QList<QByteArray> all = result.output.split('\n');
+        all.removeLast();
+        return all;
     }
 
     static QStringList atNoon() { return {QStringLiteral("--now"), QStringLiteral("2026-03-07T12:00:00")}; }
@@ -74,11 +58,11 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, input);
         QFETCH(QStringList, meanings);
-        const Run result = run(atNoon(), input);
-        QCOMPARE(result.exitCode, 0);
+        const ProgramRun result = run(atNoon(), input);
+        QCOMPARE(result.status, 0);
         QCOMPARE(result.errors, QByteArray());
         QStringList found;
-        for (const QByteArray &line : result.lines()) {
+        for (const QByteArray &line : linesOf(result)) {
             found.append(meaningOf(QString::fromUtf8(line)));
         }
         QCOMPARE(found, meanings);
@@ -86,7 +70,7 @@ private Q_SLOTS:
 
     void timesAreResolvedAgainstNow()
     {
-        const Run result = run(atNoon(), "半小时后开会\n");
+        const ProgramRun result = run(atNoon(), "半小时后开会\n");
         QCOMPARE(meaningOf(QString::fromUtf8(result.output)),
                  inOrder(QStringLiteral("CREATE_CONFERENCE open=开 datetime=2026-03-07T12:30")));
     }
@@ -97,7 +81,7 @@ private Q_SLOTS:
         QVERIFY(names.open());
         names.write("周一鸣\r\n\n 欧阳雪 \n");
         names.close();
-        const Run result =
+        const ProgramRun result =
             run(atNoon() << QStringLiteral("--contacts") << names.fileName(), "周一鸣欧阳雪开会\n");
         QCOMPARE(meaningOf(QString::fromUtf8(result.output)),
                  inOrder(QStringLiteral("CREATE_CONFERENCE open=开 name=周一鸣 name=欧阳雪")));
@@ -131,19 +115,19 @@ private Q_SLOTS:
         QFETCH(QStringList, arguments);
         QFETCH(int, exitCode);
         QFETCH(QByteArray, says);
-        const Run result = run(arguments);
-        QCOMPARE(result.exitCode, exitCode);
+        const ProgramRun result = run(arguments);
+        QCOMPARE(result.status, exitCode);
         QVERIFY2(result.errors.contains(says), result.errors.constData());
         QVERIFY(result.output.isEmpty());
     }
 
     void helpAndVersionAreThere()
     {
-        const Run help = run({QStringLiteral("--help")});
-        QCOMPARE(help.exitCode, 0);
+        const ProgramRun help = run({QStringLiteral("--help")});
+        QCOMPARE(help.status, 0);
         QVERIFY(help.output.contains("--now") && help.output.contains("--contacts"));
-        const Run version = run({QStringLiteral("--version")});
-        QCOMPARE(version.exitCode, 0);
+        const ProgramRun version = run({QStringLiteral("--version")});
+        QCOMPARE(version.status, 0);
         QVERIFY(version.output.startsWith("speakmate-understand "));
     }
 
@@ -161,8 +145,8 @@ private Q_SLOTS:
         }
         QElapsedTimer timer;
         timer.start();
-        const Run result = run(atNoon(), input);
-        QCOMPARE(result.lines().size(), count);
+        const ProgramRun result = run(atNoon(), input);
+        QCOMPARE(linesOf(result).size(), count);
         qInfo("%lld sentences per second", count * 1000LL / qMax<qint64>(1, timer.elapsed()));
         // Half a second on an idle machine; much more for one under load or a sanitizer.
         QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));

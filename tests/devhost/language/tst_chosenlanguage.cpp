@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include <QtTest>
+#include "programrun.h"
+#include "programtest.h"
 
 namespace {
 
@@ -10,7 +11,7 @@ const QString English = QStringLiteral("speakmate-devhost: Unknown option 'nonse
 
 struct Run
 {
-    int status = -1;
+    int status;
     QString output;
     QString errors;
 };
@@ -19,7 +20,6 @@ using Environment = QMap<QString, QString>;
 
 Run run(const QStringList &arguments, const Environment &locale, const QByteArray &input = QByteArray())
 {
-    QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char *name : {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG", "DISPLAY", "WAYLAND_DISPLAY"}) {
         environment.remove(QLatin1String(name));
@@ -27,28 +27,18 @@ Run run(const QStringList &arguments, const Environment &locale, const QByteArra
     for (auto value = locale.begin(); value != locale.end(); ++value) {
         environment.insert(value.key(), value.value());
     }
-    process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(DEVHOST), arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    Run result;
-    if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit) {
-        result.status = process.exitCode();
-    }
-    result.output = QString::fromUtf8(process.readAllStandardOutput());
-    result.errors = QString::fromUtf8(process.readAllStandardError());
-    return result;
+    const ProgramRun result = runProgram(QStringLiteral(DEVHOST), arguments, input, environment);
+    return {result.status, QString::fromUtf8(result.output), QString::fromUtf8(result.errors)};
 }
 
 } // namespace
 
 /// Which language the program speaks, from outside.
-class TestChosenLanguage : public QObject
+class TestChosenLanguage : public ProgramTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void localeChooses_data();
     void localeChooses();
     void optionOverrides_data();
@@ -60,17 +50,7 @@ private Q_SLOTS:
     void terminalSpeaksTheLanguageAndTheAssistantChinese_data();
     void terminalSpeaksTheLanguageAndTheAssistantChinese();
     void lineErrorsAreInTheLanguage();
-
-private:
-    const QTemporaryDir m_runtime;
 };
-
-void TestChosenLanguage::initTestCase()
-{
-    // Without it Qt complains on the error stream, which is compared here.
-    QVERIFY(m_runtime.isValid());
-    qputenv("XDG_RUNTIME_DIR", m_runtime.path().toLocal8Bit());
-}
 
 void TestChosenLanguage::localeChooses_data()
 {

@@ -1,17 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "filecontent.h"
+
 #include <QtTest>
 
 namespace {
 
 const QString Sources = QStringLiteral(CONTACT_SOURCE_DIR "/platform/devhost");
-
-QByteArray contentOf(const QString &name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 } // namespace
 

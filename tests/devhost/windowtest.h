@@ -72,7 +72,12 @@ private Q_SLOTS:
         QCoreApplication::setOrganizationName(QStringLiteral("test"));
         QCoreApplication::setApplicationName(QString::fromLatin1(QTest::currentTestFunction()));
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
+        prepare();
     }
+
+protected:
+    /// What every function begins with.
+    virtual void prepare() {}
 
 private:
     QTemporaryDir m_settings;

@@ -129,24 +129,25 @@ class TestWindowLanguages : public WindowTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase_data();
+    void cleanup();
     void codesBeginWithEnglish();
-    void frameIsInOneLanguage_data();
     void frameIsInOneLanguage();
-    void windowIsAsNarrowInEveryLanguage_data();
     void windowIsAsNarrowInEveryLanguage();
-    void menusAndDialogsAreInOneLanguage_data();
     void menusAndDialogsAreInOneLanguage();
-    void datesFollowTheWindow_data();
     void datesFollowTheWindow();
-    void assistantSpeaksChineseInEveryLanguage_data();
     void assistantSpeaksChineseInEveryLanguage();
 
 private:
-    void addLanguages();
+    /// Chooses the language.
+    void prepare() override;
     void verify(const QVector<ShownText> &texts, int least);
+
+    std::unique_ptr<ProgramLanguage> m_language;
 };
 
-void TestWindowLanguages::addLanguages()
+/// Everything is looked at in each language.
+void TestWindowLanguages::initTestCase_data()
 {
     QTest::addColumn<QString>("code");
     const QStringList codes = deskLanguage().codes();
@@ -155,10 +156,22 @@ void TestWindowLanguages::addLanguages()
     }
 }
 
+void TestWindowLanguages::prepare()
+{
+    QFETCH_GLOBAL(QString, code);
+    m_language.reset(new ProgramLanguage(deskLanguage()));
+    QVERIFY(m_language->choose(code));
+    QCOMPARE(m_language->code(), code);
+}
+
+void TestWindowLanguages::cleanup()
+{
+    m_language.reset();
+}
+
 void TestWindowLanguages::verify(const QVector<ShownText> &texts, int least)
 {
-    QFETCH(QString, code);
-    const QRegularExpression strange = strangeTo(code);
+    const QRegularExpression strange = strangeTo(m_language->code());
     for (const ShownText &shown : texts) {
         QVERIFY2(!shown.text.contains(strange),
                  qUtf8Printable(shown.where + QStringLiteral(": ") + shown.text));
@@ -171,16 +184,8 @@ void TestWindowLanguages::codesBeginWithEnglish()
     QCOMPARE(deskLanguage().codes(), QStringList({QStringLiteral("en"), QStringLiteral("zh_CN")}));
 }
 
-void TestWindowLanguages::frameIsInOneLanguage_data()
-{
-    addLanguages();
-}
-
 void TestWindowLanguages::frameIsInOneLanguage()
 {
-    QFETCH(QString, code);
-    ProgramLanguage language = deskLanguage();
-    QVERIFY(language.choose(code));
     PluginDesk desk;
     QVERIFY(desk.isLoaded);
     verify(textsIn(desk.window), 60);
@@ -208,32 +213,16 @@ void TestWindowLanguages::frameIsInOneLanguage()
     }
 }
 
-void TestWindowLanguages::windowIsAsNarrowInEveryLanguage_data()
-{
-    addLanguages();
-}
-
 /// Only the cards decide how narrow it gets.
 void TestWindowLanguages::windowIsAsNarrowInEveryLanguage()
 {
-    QFETCH(QString, code);
-    ProgramLanguage language = deskLanguage();
-    QVERIFY(language.choose(code));
     PluginDesk desk;
     desk.window.findChild<Inspector *>()->hide();
     QTRY_COMPARE(desk.window.minimumSizeHint().width(), desk.view().minimumWidth());
 }
 
-void TestWindowLanguages::menusAndDialogsAreInOneLanguage_data()
-{
-    addLanguages();
-}
-
 void TestWindowLanguages::menusAndDialogsAreInOneLanguage()
 {
-    QFETCH(QString, code);
-    ProgramLanguage language = deskLanguage();
-    QVERIFY(language.choose(code));
     PluginDesk desk;
     desk.type(semantic("ECHO", QStringLiteral("1")));
     QTRY_VERIFY(desk.isIdle());
@@ -273,36 +262,17 @@ void TestWindowLanguages::menusAndDialogsAreInOneLanguage()
     dialog->close();
 }
 
-void TestWindowLanguages::datesFollowTheWindow_data()
-{
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<QString>("month");
-    QTest::addColumn<QString>("day");
-    QTest::newRow("en") << "en" << QStringLiteral("March") << QStringLiteral("Sat");
-    QTest::newRow("zh_CN") << "zh_CN" << QStringLiteral("三月") << QStringLiteral("周六");
-}
-
 void TestWindowLanguages::datesFollowTheWindow()
 {
-    QFETCH(QString, code);
-    ProgramLanguage language = deskLanguage();
-    QVERIFY(language.choose(code));
-    const QCalendarWidget calendar;
-    QTEST(calendar.locale().monthName(3), "month");
-    QTEST(calendar.locale().dayName(Qt::Saturday, QLocale::ShortFormat), "day");
-    QCOMPARE(language.code(), code);
-}
-
-void TestWindowLanguages::assistantSpeaksChineseInEveryLanguage_data()
-{
-    addLanguages();
+    const QHash<QString, QString> dates{{QStringLiteral("en"), QStringLiteral("March Sat")},
+                                        {QStringLiteral("zh_CN"), QStringLiteral("三月 周六")}};
+    const QLocale locale = QCalendarWidget().locale();
+    QCOMPARE(locale.monthName(3) + QLatin1Char(' ') + locale.dayName(Qt::Saturday, QLocale::ShortFormat),
+             dates.value(m_language->code()));
 }
 
 void TestWindowLanguages::assistantSpeaksChineseInEveryLanguage()
 {
-    QFETCH(QString, code);
-    ProgramLanguage language = deskLanguage();
-    QVERIFY(language.choose(code));
     PluginDesk desk;
     desk.window.submit(QStringLiteral("help"));
     QTRY_VERIFY(desk.isIdle());

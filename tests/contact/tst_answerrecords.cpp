@@ -14,34 +14,39 @@
 #include <QtTest>
 
 #include <cstddef>
+#include <initializer_list>
 #include <limits>
 
+/// True when the members stand in the order of their @p offsets.
+constexpr bool isInOrder(std::initializer_list<std::size_t> offsets)
+{
+    std::size_t next = 0;
+    for (const std::size_t offset : offsets) {
+        if (offset < next) {
+            return false;
+        }
+        next = offset + 1;
+    }
+    return true;
+}
+
 // The order of members is part of the binary layout.
-static_assert(offsetof(UserInfo, name) < offsetof(UserInfo, remarkName));
-static_assert(offsetof(UserInfo, remarkName) < offsetof(UserInfo, userId));
-static_assert(offsetof(UserInfo, userId) < offsetof(UserInfo, account));
-static_assert(offsetof(DuplicateUsers, name) < offsetof(DuplicateUsers, users));
-static_assert(offsetof(ContactDetailMsg, title) < offsetof(ContactDetailMsg, participants));
-static_assert(offsetof(ContactDetailMsg, participants) < offsetof(ContactDetailMsg, duration));
-static_assert(offsetof(ContactDetailMsg, duration) < offsetof(ContactDetailMsg, startTime));
-static_assert(offsetof(ContactDetailMsg, startTime) < offsetof(ContactDetailMsg, confId));
-static_assert(offsetof(ContactDetailMsg, confId) < offsetof(ContactDetailMsg, conferenceDialNumber));
-static_assert(offsetof(ContactDetailMsg, conferenceDialNumber) <
-              offsetof(ContactDetailMsg, participantLimit));
-static_assert(offsetof(ContactDetailMsg, participantLimit) < offsetof(ContactDetailMsg, status));
-static_assert(offsetof(ContactDetailMsg, status) < offsetof(ContactDetailMsg, isPayingUser));
-static_assert(offsetof(ContactInviteMemberDetail, duplicateUsers) <
-              offsetof(ContactInviteMemberDetail, normalUsers));
-static_assert(offsetof(ContactInviteMemberDetail, normalUsers) <
-              offsetof(ContactInviteMemberDetail, notExistUsers));
-static_assert(offsetof(ContactInviteMemberDetail, notExistUsers) <
-              offsetof(ContactInviteMemberDetail, canInviteNum));
-static_assert(offsetof(ContactCreatedConferenceDetail, isSchedule) <
-              offsetof(ContactCreatedConferenceDetail, scheduleTimeMsecs));
-static_assert(offsetof(ContactCreatedConferenceDetail, scheduleTimeMsecs) <
-              offsetof(ContactCreatedConferenceDetail, conferences));
-static_assert(offsetof(ContactCreatedConferenceDetail, conferences) <
-              offsetof(ContactCreatedConferenceDetail, inviteDetail));
+static_assert(isInOrder({offsetof(UserInfo, name), offsetof(UserInfo, remarkName), offsetof(UserInfo, userId),
+                         offsetof(UserInfo, account)}));
+static_assert(isInOrder({offsetof(DuplicateUsers, name), offsetof(DuplicateUsers, users)}));
+static_assert(isInOrder({offsetof(ContactDetailMsg, title), offsetof(ContactDetailMsg, participants),
+                         offsetof(ContactDetailMsg, duration), offsetof(ContactDetailMsg, startTime),
+                         offsetof(ContactDetailMsg, confId), offsetof(ContactDetailMsg, conferenceDialNumber),
+                         offsetof(ContactDetailMsg, participantLimit), offsetof(ContactDetailMsg, status),
+                         offsetof(ContactDetailMsg, isPayingUser)}));
+static_assert(isInOrder({offsetof(ContactInviteMemberDetail, duplicateUsers),
+                         offsetof(ContactInviteMemberDetail, normalUsers),
+                         offsetof(ContactInviteMemberDetail, notExistUsers),
+                         offsetof(ContactInviteMemberDetail, canInviteNum)}));
+static_assert(isInOrder({offsetof(ContactCreatedConferenceDetail, isSchedule),
+                         offsetof(ContactCreatedConferenceDetail, scheduleTimeMsecs),
+                         offsetof(ContactCreatedConferenceDetail, conferences),
+                         offsetof(ContactCreatedConferenceDetail, inviteDetail)}));
 
 // Sent as int, so the numbers are the interface.
 static_assert(Create_Success == 0 && Create_Duplicate == 1 && Create_TimeOverlap == 2 &&

@@ -35,6 +35,20 @@ Node registry()
     return {QStringLiteral("org.a11y.atspi.Registry"), QStringLiteral("/org/a11y/atspi/accessible/root")};
 }
 
+/// Reads the list of structures in @p answer, each with @p read.
+template <typename Read>
+void readEach(const QDBusMessage &answer, Read read)
+{
+    const auto list = answer.arguments().value(0).value<QDBusArgument>();
+    list.beginArray();
+    while (!list.atEnd()) {
+        list.beginStructure();
+        read(list);
+        list.endStructure();
+    }
+    list.endArray();
+}
+
 } // namespace
 
 /**
@@ -93,18 +107,13 @@ QDBusMessage TestAssistiveTools::call(const Node &node, const QString &interface
 QVector<Node> TestAssistiveTools::children(const Node &node) const
 {
     QVector<Node> nodes;
-    const QDBusMessage answer = call(node, AccessibleInterface, QStringLiteral("GetChildren"));
-    const auto list = answer.arguments().value(0).value<QDBusArgument>();
-    list.beginArray();
-    while (!list.atEnd()) {
-        QString service;
-        QDBusObjectPath path;
-        list.beginStructure();
-        list >> service >> path;
-        list.endStructure();
-        nodes.append({service, path.path()});
-    }
-    list.endArray();
+    readEach(call(node, AccessibleInterface, QStringLiteral("GetChildren")),
+             [&nodes](const QDBusArgument &child) {
+                 QString service;
+                 QDBusObjectPath path;
+                 child >> service >> path;
+                 nodes.append({service, path.path()});
+             });
     return nodes;
 }
 
@@ -123,19 +132,14 @@ QString TestAssistiveTools::role(const Node &node) const
 QStringList TestAssistiveTools::actions(const Node &node) const
 {
     QStringList names;
-    const QDBusMessage answer = call(node, ActionInterface, QStringLiteral("GetActions"));
-    const auto list = answer.arguments().value(0).value<QDBusArgument>();
-    list.beginArray();
-    while (!list.atEnd()) {
-        QString action;
-        QString description;
-        QString keys;
-        list.beginStructure();
-        list >> action >> description >> keys;
-        list.endStructure();
-        names.append(action);
-    }
-    list.endArray();
+    readEach(call(node, ActionInterface, QStringLiteral("GetActions")),
+             [&names](const QDBusArgument &action) {
+                 QString name;
+                 QString description;
+                 QString keys;
+                 action >> name >> description >> keys;
+                 names.append(name);
+             });
     return names;
 }
 

@@ -35,6 +35,14 @@ QWidget *makeCard(const QString &title)
     return card;
 }
 
+/// Turns with a card each, called by their numbers.
+void addCards(ConversationView &view, int count)
+{
+    for (int turn = 1; turn <= count; ++turn) {
+        view.addReply(turn, QStringLiteral("答"), makeCard(QString::number(turn)));
+    }
+}
+
 int megabytesInUse()
 {
     QFile file(QStringLiteral("/proc/self/statm"));
@@ -146,10 +154,7 @@ void TestConversationView::scrollingTakesTheFocusFromNoCard()
     ShownView shown(500, 300);
     QVERIFY(shown.activate());
     ConversationView &view = shown.view;
-    constexpr int cards = 6;
-    for (int turn = 1; turn <= cards; ++turn) {
-        view.addReply(turn, QStringLiteral("答"), makeCard(QString::number(turn)));
-    }
+    addCards(view, 6);
     view.verticalScrollBar()->setValue(0);
     QVERIFY(view.moveFocus(true));
     QVERIFY(view.moveFocus(true));
@@ -293,9 +298,7 @@ void TestConversationView::tabReachesEveryCard()
     QVERIFY(shown.activate());
     ConversationView &view = shown.view;
     constexpr int cards = 8;
-    for (int turn = 1; turn <= cards; ++turn) {
-        view.addReply(turn, QStringLiteral("答"), makeCard(QString::number(turn)));
-    }
+    addCards(view, cards);
     // One that comes late stands above, and has its turn there.
     view.addReply(2, QStringLiteral("晚"), makeCard(QStringLiteral("2b")));
     view.scrollToEnd();

@@ -5,6 +5,7 @@
 #include "cardhost.h"
 #include "cardsamples.h"
 #include "conferencemsgstaticwidget.h"
+#include "confirmkeys.h"
 #include "testcolumns.h"
 #include "titleitem.h"
 
@@ -102,9 +103,7 @@ void TestConferenceCardInput::aDisabledCardOpensNothing()
 void TestConferenceCardInput::aKeyOpensTheContacts_data()
 {
     addColumns<int, bool>({"key", "opens"});
-    QTest::newRow("Return") << int(Qt::Key_Return) << true;
-    QTest::newRow("Enter") << int(Qt::Key_Enter) << true;
-    QTest::newRow("Space") << int(Qt::Key_Space) << true;
+    addConfirmKeys(true);
     QTest::newRow("a letter") << int(Qt::Key_A) << false;
     QTest::newRow("an arrow") << int(Qt::Key_Down) << false;
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "confirmkeys.h"
 #include "testcolumns.h"
 #include "titleitem.h"
 #include "titleitemtest.h"
@@ -161,9 +162,7 @@ void TestTitleItemSelection::aClickDoesNotReachTheCard()
 void TestTitleItemSelection::keysToggle_data()
 {
     addColumns<int, bool>({"key", "toggles"});
-    QTest::newRow("Space") << int(Qt::Key_Space) << true;
-    QTest::newRow("Return") << int(Qt::Key_Return) << true;
-    QTest::newRow("Enter") << int(Qt::Key_Enter) << true;
+    addConfirmKeys(true);
     QTest::newRow("a letter does not, and goes on to the card") << int(Qt::Key_A) << false;
 }
 

@@ -79,6 +79,20 @@ private:
     LauncherDesk m_desk;
 };
 
+/// A desk that was asked for @p sentence, to which the plugin's answer is @p reply, where notifications are
+/// shown.
+struct AskedDesk
+{
+    NotificationServer server;
+    Desk desk;
+
+    AskedDesk(const char *reply, const QString &sentence)
+    {
+        qputenv("TESTPLUGIN_REPLIES", reply);
+        desk.run(sentence);
+    }
+};
+
 } // namespace
 
 /// Where a reply to a launcher's act is shown.
@@ -116,32 +130,26 @@ void TestLauncherDesk::textIsNotified()
 
 void TestLauncherDesk::cardBringsUpTheWindow()
 {
-    qputenv("TESTPLUGIN_REPLIES", "CARD");
-    const NotificationServer server;
-    Desk desk;
-    desk.run(QStringLiteral("加200002为好友"));
+    const AskedDesk asked("CARD", QStringLiteral("加200002为好友"));
     QTRY_VERIFY(Desk::window() != nullptr);
     QVERIFY(Desk::bubbles().contains(QStringLiteral("加200002为好友")));
     const auto buttons = Desk::window()->view()->findChildren<QPushButton *>();
     QVERIFY(std::any_of(buttons.begin(), buttons.end(), [](const QPushButton *button) {
         return button->text() == QStringLiteral("按我") && button->isVisible();
     }));
-    QCOMPARE(server.shown.size(), 0);
+    QCOMPARE(asked.server.shown.size(), 0);
 }
 
 void TestLauncherDesk::questionBringsUpTheWindow()
 {
-    qputenv("TESTPLUGIN_REPLIES", "ASKPASSWORD");
-    const NotificationServer server;
-    Desk desk;
-    desk.run(QStringLiteral("加入会议880100004"));
+    AskedDesk asked("ASKPASSWORD", QStringLiteral("加入会议880100004"));
     QTRY_VERIFY(Desk::window() != nullptr);
-    QVERIFY(desk.conversation().expectsSecret());
+    QVERIFY(asked.desk.conversation().expectsSecret());
     QCOMPARE(Desk::window()->input()->echoMode(), QLineEdit::Password);
     // A search is no password.
-    desk->openWith(QStringLiteral("text"));
+    asked.desk->openWith(QStringLiteral("text"));
     QCOMPARE(Desk::window()->input()->text(), QString());
-    QCOMPARE(server.shown.size(), 0);
+    QCOMPARE(asked.server.shown.size(), 0);
 }
 
 void TestLauncherDesk::actAnswersNoOpenQuestion()

@@ -35,7 +35,7 @@
 
 /**
  * Tests a handler against its tables of outcomes and requests, and what all handlers have in common; a code
- * without an outcome must leave the reply alone. Derive from it to add tests of one handler.
+ * without an outcome must leave the reply alone. Derive from HandlerTestOf to add tests of one handler.
  */
 class HandlerTest : public QObject
 {
@@ -122,4 +122,12 @@ private:
 
     Subject m_subject;
     std::unique_ptr<LogCapture> m_log;
+};
+
+/// Derive a test that adds to HandlerTest from it; @p MakeSubject fills in the tables.
+template <HandlerTest::Subject (*MakeSubject)()>
+class HandlerTestOf : public HandlerTest
+{
+protected:
+    HandlerTestOf() : HandlerTest(MakeSubject()) {}
 };

@@ -143,12 +143,9 @@ HandlerTest::Subject subject()
 
 } // namespace
 
-class TestCreateConferenceIntent : public HandlerTest
+class TestCreateConferenceIntent : public HandlerTestOf<subject>
 {
     Q_OBJECT
-
-public:
-    TestCreateConferenceIntent() : HandlerTest(subject()) {}
 
 private Q_SLOTS:
     void pastOrUnreadableTimeSendsNothing_data();

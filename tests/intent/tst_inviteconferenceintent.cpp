@@ -82,12 +82,9 @@ HandlerTest::Subject subject()
 
 } // namespace
 
-class TestInviteConferenceIntent : public HandlerTest
+class TestInviteConferenceIntent : public HandlerTestOf<subject>
 {
     Q_OBJECT
-
-public:
-    TestInviteConferenceIntent() : HandlerTest(subject()) {}
 
 private Q_SLOTS:
     void cardCarriesTheRecord();

@@ -45,12 +45,9 @@ HandlerTest::Subject subject()
 
 } // namespace
 
-class TestQueryConferenceIntent : public HandlerTest
+class TestQueryConferenceIntent : public HandlerTestOf<subject>
 {
     Q_OBJECT
-
-public:
-    TestQueryConferenceIntent() : HandlerTest(subject()) {}
 
 private Q_SLOTS:
     void withoutATimeItIsSentAllTheSame();

@@ -43,14 +43,7 @@ extern "C" __attribute__((visibility("default"))) int open(const char *path, int
     return openRedirected(path, flags, mode);
 }
 
-extern "C" __attribute__((visibility("default"))) int open64(const char *path, int flags, ...)
-{
-    va_list rest;
-    va_start(rest, flags);
-    const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(rest, mode_t) : 0;
-    va_end(rest);
-    return openRedirected(path, flags, mode);
-}
+extern "C" __attribute__((visibility("default"), alias("open"))) int open64(const char *path, int flags, ...);
 
 RedirectedFile::RedirectedFile(const QByteArray &path, const QByteArray &target)
 {

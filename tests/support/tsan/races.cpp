@@ -45,23 +45,13 @@ void ownMutexes()
     });
 }
 
-void oneMutex()
+template <typename Lock, typename Locker>
+void underOne()
 {
     inTwoThreads([] {
-        static QMutex mutex;
+        static Lock lock;
         for (int round = 0; round < Rounds; ++round) {
-            const QMutexLocker locker(&mutex);
-            ++shared;
-        }
-    });
-}
-
-void writeLock()
-{
-    inTwoThreads([] {
-        static QReadWriteLock lock;
-        for (int round = 0; round < Rounds; ++round) {
-            const QWriteLocker locker(&lock);
+            const Locker locker(&lock);
             ++shared;
         }
     });
@@ -142,8 +132,8 @@ constexpr Program Programs[] = {{"unguarded", unguarded},
                                 {"own-mutexes", ownMutexes},
                                 {"posted-too-early", postedTooEarly},
                                 {"not-waited-for", notWaitedFor},
-                                {"one-mutex", oneMutex},
-                                {"write-lock", writeLock},
+                                {"one-mutex", underOne<QMutex, QMutexLocker>},
+                                {"write-lock", underOne<QReadWriteLock, QWriteLocker>},
                                 {"posted", posted},
                                 {"waited-for", waitedFor}};
 

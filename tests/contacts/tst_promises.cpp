@@ -2,18 +2,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "admin1proxy.h"
+#include "applicationonbus.h"
 #include "logcapture.h"
 
 #include "core/database.h"
 #include "core/statement.h"
 
 #include <kelvane/abilitycodes.h>
-#include <kelvane/kelvaneabilitymanager.h>
 
-#include <QDBusConnectionInterface>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QtTest>
 
 #include <algorithm>
@@ -26,31 +22,7 @@
 
 namespace {
 
-const auto ServiceName = QStringLiteral("com.kelvane.meetlynx");
-const auto AdminPath = QStringLiteral("/com/kelvane/meetlynx/admin");
 constexpr qint64 HourMsecs = 3600000;
-constexpr int PatientMsecs = 30000;
-
-struct Asked
-{
-    int code = 1;
-    QJsonObject answer;
-
-    QString ret() const { return answer.value(QLatin1String("ret")).toString(); }
-    QJsonObject conference() const { return answer.value(QLatin1String("list")).toArray().at(0).toObject(); }
-};
-
-Asked ask(const QString &action, const QJsonObject &parameters = {}, int timeoutMsecs = PatientMsecs)
-{
-    const std::unique_ptr<ContactAbility> ability(KelvaneAbilityManager::instance()->createContact());
-    ability->setTimeout(timeoutMsecs);
-    const QString text = QString::fromUtf8(QJsonDocument(parameters).toJson(QJsonDocument::Compact));
-    Asked asked;
-    QString answer;
-    asked.code = ability->request(action, text, answer);
-    asked.answer = QJsonDocument::fromJson(answer.toUtf8()).object();
-    return asked;
-}
 
 QJsonObject members()
 {
@@ -63,12 +35,6 @@ QJsonObject creation(qint64 startMsecs)
     QJsonObject parameters = members();
     parameters.insert(QStringLiteral("startTime"), startMsecs);
     return parameters;
-}
-
-pid_t servicePid()
-{
-    const QDBusReply<uint> pid = QDBusConnection::sessionBus().interface()->servicePid(ServiceName);
-    return pid.isValid() ? static_cast<pid_t>(pid.value()) : 0;
 }
 
 QString snapshot()
@@ -138,7 +104,7 @@ class TestPromises : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void cleanup();
+    void cleanup() { killApplication(); }
 
     void nothingIsDoneAfterTheTimeOut();
     void whatWasSaidIsWhatHappened();
@@ -157,15 +123,6 @@ void TestPromises::initTestCase()
     const int seed = numberFrom("CONTACT_TEST_SEED", static_cast<int>(std::random_device()() & 0x7fffffffU));
     qInfo("CONTACT_TEST_SEED=%d", seed);
     m_random.seed(static_cast<unsigned>(seed));
-}
-
-void TestPromises::cleanup()
-{
-    const pid_t pid = servicePid();
-    if (pid != 0) {
-        kill(pid, SIGKILL);
-    }
-    QTRY_VERIFY(servicePid() == 0);
 }
 
 void TestPromises::nothingIsDoneAfterTheTimeOut()

@@ -1,0 +1,166 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "largewindowtest.h"
+
+#include "window/conferencemodel.h"
+#include "window/peoplemodel.h"
+
+#include <QScrollBar>
+#include <QTabWidget>
+#include <QtTest>
+
+#include <algorithm>
+
+/// Large tables are read as one scrolls, sorts and filters.
+class TestLargeTables : public LargeWindowTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void peopleComeAsOneScrolls();
+    void aFilterFindsWhoWasNotReadYet();
+    void anotherOrderIsOfAllPeople();
+    void conferencesComeAsOneScrolls();
+    void anotherOrderIsOfManyConferences();
+    void whereOneHasScrolledOneStays();
+
+private:
+    /// Lets the people be read to the end and looks how long that stopped the window at most.
+    void finishReading();
+};
+
+void TestLargeTables::finishReading()
+{
+    auto *people = static_cast<PeopleModel *>(page(1)->table()->model());
+    QVector<double> goes;
+    while (people->isReading()) {
+        const double before = threadMsecs();
+        QCoreApplication::processEvents();
+        goes.append(threadMsecs() - before);
+    }
+    std::sort(goes.begin(), goes.end());
+    if (goes.size() < 20) {
+        return; // not much was read
+    }
+    // Each of them but for what a machine does now and then, and the last one, which shows the rows.
+    const double most = goes.at(goes.size() * 19 / 20);
+    qInfo("%d goes, %.2f ms nearly all, %.2f ms the longest", goes.size(), most, goes.constLast());
+    QVERIFY2(most < MostShownMsecs, qPrintable(QString::number(most)));
+}
+
+void TestLargeTables::peopleComeAsOneScrolls()
+{
+    m_window->findChild<QTabWidget *>()->setCurrentIndex(1);
+    HintedTable *table = page(1)->table();
+    QAbstractItemModel *model = table->model();
+    QVERIFY(model->rowCount() < 1000);
+    while (model->rowCount() < 1000) {
+        const int before = model->rowCount();
+        table->scrollToBottom();
+        QTRY_VERIFY(model->rowCount() > before);
+    }
+    QStringList accounts;
+    for (int row = 0; row < 1000; ++row) {
+        accounts.append(model->index(row, PeopleModel::Account).data().toString());
+    }
+    QCOMPARE(accounts.first(), QStringLiteral("100002"));
+    QCOMPARE(accounts.last(), QStringLiteral("5000977")); // behind the sample's 23
+    QStringList sorted = accounts;
+    sorted.sort();
+    QCOMPARE(accounts, sorted);
+    QCOMPARE(sorted.removeDuplicates(), 0);
+}
+
+void TestLargeTables::aFilterFindsWhoWasNotReadYet()
+{
+    QAbstractItemModel *model = page(1)->table()->model();
+    page(1)->filter()->setText(QStringLiteral("PERSON 99999"));
+    finishReading();
+    QCOMPARE(model->rowCount(), 1);
+    QCOMPARE(model->index(0, PeopleModel::Account).data().toString(), QStringLiteral("5099999"));
+    QVERIFY(!model->canFetchMore({}));
+    page(1)->filter()->setText(QStringLiteral("nobody"));
+    finishReading();
+    QCOMPARE(model->rowCount(), 0);
+    // A write meanwhile looks through everybody again, but not at a stretch.
+    m_world->admin.SetFriendLimit(1000000);
+    const double shown = showMsecs();
+    QVERIFY2(shown >= 0 && shown < MostShownMsecs, qPrintable(QString::number(shown)));
+    finishReading();
+    page(1)->filter()->clear();
+    QVERIFY(model->rowCount() >= 100);
+}
+
+void TestLargeTables::anotherOrderIsOfAllPeople()
+{
+    HintedTable *table = page(1)->table();
+    table->sortByColumn(PeopleModel::Account, Qt::DescendingOrder);
+    finishReading();
+    QCOMPARE(table->model()->rowCount(), Count + 23);
+    QCOMPARE(table->model()->index(0, PeopleModel::Account).data().toString(), QStringLiteral("5100000"));
+    // A write reads everybody again, but not at a stretch.
+    m_world->admin.SetFriendLimit(1000000);
+    const double shown = showMsecs();
+    QVERIFY2(shown >= 0 && shown < MostShownMsecs, qPrintable(QString::number(shown)));
+    finishReading();
+    QCOMPARE(table->model()->rowCount(), Count + 23);
+    table->sortByColumn(PeopleModel::Account, Qt::AscendingOrder);
+    finishReading();
+    QVERIFY(table->model()->rowCount() < Count);
+}
+
+void TestLargeTables::conferencesComeAsOneScrolls()
+{
+    m_window->findChild<QTabWidget *>()->setCurrentIndex(0);
+    HintedTable *table = page(0)->table();
+    QAbstractItemModel *model = table->model();
+    QCOMPARE(model->rowCount(), 100);
+    table->scrollToBottom();
+    QTRY_COMPARE(model->rowCount(), 200);
+    table->scrollToBottom();
+    QTRY_COMPARE(model->rowCount(), 300);
+    QVector<qint64> starts;
+    QStringList numbers;
+    for (int row = 0; row < model->rowCount(); ++row) {
+        starts.append(model->index(row, ConferenceModel::Start).data(ConferenceModel::SortRole).toLongLong());
+        numbers.append(model->index(row, ConferenceModel::Number).data().toString());
+    }
+    QVector<qint64> sorted = starts;
+    std::sort(sorted.begin(), sorted.end());
+    QCOMPARE(starts, sorted);
+    QVERIFY(sorted.first() < sorted.last());
+    QCOMPARE(numbers.removeDuplicates(), 0);
+}
+
+void TestLargeTables::anotherOrderIsOfManyConferences()
+{
+    HintedTable *table = page(0)->table();
+    table->sortByColumn(ConferenceModel::Title, Qt::AscendingOrder);
+    QVERIFY(table->model()->rowCount() >= 1000);
+    table->sortByColumn(ConferenceModel::Start, Qt::AscendingOrder);
+    QCOMPARE(table->model()->rowCount(), 300);
+    page(0)->filter()->setText(QStringLiteral("conference 900"));
+    QCOMPARE(table->model()->rowCount(), 1);
+    page(0)->filter()->clear();
+}
+
+void TestLargeTables::whereOneHasScrolledOneStays()
+{
+    m_window->findChild<QTabWidget *>()->setCurrentIndex(0);
+    HintedTable *table = page(0)->table();
+    table->scrollToTop();
+    page(0)->select(QStringLiteral("7000010"));
+    table->scrollTo(table->model()->index(150, 0), QAbstractItemView::PositionAtTop);
+    const int before = table->verticalScrollBar()->value();
+    QVERIFY(before > 0);
+    // Rows come behind what is shown.
+    m_world->ask(QStringLiteral("Delete Conference"),
+                 QJsonObject{{QStringLiteral("conferenceId"), QStringLiteral("c250")}});
+    QVERIFY(showMsecs() >= 0);
+    QCOMPARE(table->verticalScrollBar()->value(), before);
+    QCOMPARE(page(0)->selected(ConferenceModel::NumberRole).toString(), QStringLiteral("7000010"));
+}
+
+QTEST_MAIN(TestLargeTables)
+#include "tst_largetables.moc"

@@ -5,7 +5,7 @@
 
 #include <QLatin1String>
 
-/// The desk's names, which also name its settings file.
+/// The desk's names; they also name its settings file.
 namespace DeskNames {
 const QLatin1String Organization("kelvane");
 const QLatin1String Application("speakmate-devhost");

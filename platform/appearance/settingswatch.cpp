@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A file that is written in place is empty for a moment.
+/// A file that is being rewritten in place is empty for a moment.
 constexpr int BurstMsecs = 50;
 
 } // namespace
@@ -19,7 +19,7 @@ SettingsWatch::SettingsWatch(const QString &fileName, QObject *parent) : QObject
     m_burst.setInterval(BurstMsecs);
     const auto noteChange = [this] {
         watch();
-        // Not started anew: writes that never pause are told all the same.
+        // Not restarted: writes that never pause are reported all the same.
         if (!m_burst.isActive()) {
             m_burst.start();
         }
@@ -32,7 +32,8 @@ SettingsWatch::SettingsWatch(const QString &fileName, QObject *parent) : QObject
 
 void SettingsWatch::watch()
 {
-    // A replaced file is watched no longer, and a folder that comes to be is watched through the one above.
+    // A replaced file is no longer watched, and a folder that is only now created is noticed through its
+    // parent.
     QString folder = QFileInfo(m_fileName).absolutePath();
     while (!QDir(folder).exists() && folder != QDir::rootPath()) {
         folder = QFileInfo(folder).absolutePath();

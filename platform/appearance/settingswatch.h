@@ -7,8 +7,8 @@
 #include <QObject>
 #include <QTimer>
 
-/// Tells when another program may have written a settings file. Neither the file nor its folder needs to
-/// exist, and the file may be replaced by another one.
+/// Reports that another program may have written a settings file. Neither the file nor its folder needs to
+/// exist, and the file may be replaced.
 class SettingsWatch final : public QObject
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
     explicit SettingsWatch(const QString &fileName, QObject *parent = nullptr);
 
 Q_SIGNALS:
-    /// Once for a burst of writes.
+    /// Once per burst of writes.
     void changed();
 
 private:

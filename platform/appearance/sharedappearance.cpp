@@ -25,8 +25,8 @@ constexpr qint64 LargestFile = 64 * 1024; ///< bytes; the desk writes less than 
 const QLatin1String ThemeKey("appearance/theme");
 const QLatin1String FontStepKey("appearance/fontStep");
 
-/// Whether @p fileName can be read without waiting and without end: opening a pipe blocks until somebody
-/// writes into it.
+/// Whether @p fileName can be read to its end without blocking: opening a pipe blocks until somebody writes
+/// to it.
 bool isSettingsFile(const QString &fileName)
 {
     const int descriptor =

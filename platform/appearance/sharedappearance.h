@@ -33,10 +33,10 @@ public:
     int fontStep() const { return m_fontStep; }
     void setFontStep(int step);
 
-    /// From now on applies what another program writes into the file.
+    /// Follows what other programs write to the file from now on.
     void follow();
 
-    /// The file that the desk remembers its choice in.
+    /// The file in which the desk remembers the user's choice.
     static QString deskSettingsFile();
 
     static constexpr int SmallestStep = -2;
@@ -47,7 +47,7 @@ Q_SIGNALS:
 
 protected:
     qreal desktopPointSize() const { return m_desktopPointSize; }
-    /// The application's, as the step makes it.
+    /// The application's font at the current step.
     qreal pointSize() const;
 
 private:

@@ -6,7 +6,7 @@
 #include <QDBusMessage>
 #include <QString>
 
-/// Where the contacts application is found on the session bus.
+/// Addresses the contacts application on the session bus.
 namespace BusName {
 inline QString service()
 {

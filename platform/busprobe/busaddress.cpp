@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The value of a key in "unix:path=/run/bus,guid=…"; null without it.
+/// The value of a key in "unix:path=/run/bus,guid=…"; null when the key is missing.
 QByteArray valueOf(const QByteArray &address, const QByteArray &key)
 {
     const QByteArrayList pairs = address.mid(address.indexOf(':') + 1).split(',');
@@ -52,7 +52,7 @@ socklen_t BusAddress::fill(sockaddr_un &name, const QByteArray &path)
     }
     name.sun_family = AF_UNIX;
     std::memcpy(name.sun_path, path.constData(), static_cast<size_t>(path.size()));
-    // A file's name ends with its NUL, an abstract name with its length.
+    // A file's name ends with its NUL; an abstract name is as long as its length says.
     return static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + static_cast<size_t>(path.size()) +
                                   (path.startsWith('\0') ? 0 : 1));
 }

@@ -8,16 +8,16 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
-/// What the addresses of buses mean.
+/// Reads D-Bus server addresses.
 namespace BusAddress {
 
 /// The address of the user's own bus.
 QByteArray ownBus();
 
-/// Where the socket of a "unix:" address is; an abstract name starts with a NUL. Null for other addresses.
+/// The socket path of a "unix:" address, starting with a NUL for an abstract one. Null for other addresses.
 QByteArray socketOf(const QByteArray &address);
 
-/// Fills @p name and returns its length; 0 when the path is too long for a socket.
+/// Fills @p name and returns its length, 0 when the path is too long for a socket address.
 socklen_t fill(sockaddr_un &name, const QByteArray &path);
 
 } // namespace BusAddress

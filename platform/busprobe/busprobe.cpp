@@ -18,7 +18,7 @@ namespace {
 
 constexpr int StepMsecs = 20;
 
-/// Closes it at the end of its scope.
+/// Closes the descriptor at the end of the scope.
 class Socket
 {
 public:
@@ -43,7 +43,7 @@ bool connectTo(const Socket &socket, const QByteArray &path, const std::function
     if (length == 0) {
         return false;
     }
-    // "Again" says that the queue of a bus that does not take connections is full.
+    // EAGAIN: the listen queue is full because the bus accepts nobody.
     while (connect(socket.descriptor(), reinterpret_cast<const sockaddr *>(&name), length) != 0) {
         if ((errno != EAGAIN && errno != EINTR) || !goesOn()) {
             return false;
@@ -53,7 +53,7 @@ bool connectTo(const Socket &socket, const QByteArray &path, const std::function
     return true;
 }
 
-/// Says hello in the way of the protocol's handshake, and waits for a word.
+/// Starts the authentication handshake and waits for any answer.
 BusProbe::Found hasAnswer(const Socket &socket, const std::function<bool()> &goesOn)
 {
     const QByteArray hello = QByteArray(1, '\0') + "AUTH\r\n";
@@ -91,7 +91,7 @@ BusProbe::Found BusProbe::ask(const QByteArray &addresses, const std::function<b
     QByteArray all = addresses;
     if (all.isEmpty()) {
         const QByteArray own = qgetenv("XDG_RUNTIME_DIR") + "/bus";
-        // Without it the library below may start a bus, or not; that cannot be asked.
+        // Without an address libdbus may or may not start a bus of its own; there is nothing to probe.
         if (access(own.constData(), F_OK) != 0) {
             return Found::Bus;
         }

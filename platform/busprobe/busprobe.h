@@ -8,9 +8,9 @@
 #include <functional>
 
 /**
- * Whether somebody who speaks D-Bus is behind an address. The library below QtDBus waits without a bound for
- * a bus that takes connections and does not answer, one that is stopped for instance, on a thread that all of
- * the process's connections share; so this is asked first. Blocks, in steps of a few milliseconds.
+ * Finds out whether a D-Bus server answers at an address. libdbus waits without a bound for a bus that
+ * accepts connections but never answers, for instance because it is stopped, and does so on a thread that all
+ * connections of the process share. So this is asked first. Blocks, in steps of a few milliseconds.
  */
 namespace BusProbe {
 enum class Found {
@@ -19,7 +19,7 @@ enum class Found {
     Silence, ///< connected, and no answer before @c goesOn said no
 };
 
-/// Asks each of the addresses in @p addresses, separated by semicolons, until one answers; the empty text
-/// stands for the user's own bus. @p goesOn is asked again and again whether there is still time.
+/// Probes each address in @p addresses, separated by semicolons, until one answers; an empty text stands for
+/// the user's own bus. @p goesOn is polled: false means that time is up.
 Found ask(const QByteArray &addresses, const std::function<bool()> &goesOn);
 } // namespace BusProbe

@@ -22,7 +22,7 @@ namespace {
 
 constexpr std::chrono::milliseconds Step(10);
 
-/// Calls @p use with the number of each of the process's sockets and its name, "socket:[12345]".
+/// Calls @p use with the descriptor of each socket of the process and its name, "socket:[12345]".
 template <typename Use>
 void forEachSocket(Use use)
 {
@@ -41,7 +41,7 @@ void forEachSocket(Use use)
     closedir(folder);
 }
 
-/// The name that the other end of @p socket listens under; null without one.
+/// The address that the peer of @p socket listens on; null when it has none.
 QByteArray peerOf(int socket)
 {
     sockaddr_un name{};
@@ -54,7 +54,7 @@ QByteArray peerOf(int socket)
     return name.sun_path[0] == '\0' ? QByteArray(name.sun_path, size) : QByteArray(name.sun_path);
 }
 
-/// The name under which whoever is behind @p path listens, which may be another way to the same place.
+/// The address that the server behind @p path listens on; the path may be a link to it.
 QByteArray nameBehind(const QByteArray &path)
 {
     sockaddr_un name;
@@ -112,7 +112,7 @@ void ConnectionGuard::watch()
             buses.insert(nameBehind(path));
         }
     }
-    // Again and again: of several addresses the next one may be tried.
+    // Repeatedly: libdbus may go on to the next of several addresses.
     do {
         shutDown(buses);
     } while (!hasEnded());
@@ -128,7 +128,7 @@ void ConnectionGuard::shutDown(const std::set<QByteArray> &buses)
         if (m_before.count(name) > 0) {
             return;
         }
-        // A copy: the original may be closed meanwhile, and its number be somebody else's.
+        // A duplicate: the original may be closed meanwhile, and its number reused.
         const int copy = fcntl(descriptor, F_DUPFD_CLOEXEC, 0);
         if (copy >= 0) {
             if (buses.count(peerOf(copy)) > 0) {

@@ -12,18 +12,18 @@
 #include <thread>
 
 /**
- * Around the making of a connection to a bus. A bus that falls silent after it was asked would keep the
- * library below waiting for ever; what it has connected since is shut down once there is no more time, so
- * that it gives up. That library does not tell its sockets: any other socket of this process that was
- * connected to the same bus meanwhile, by whomever, is shut down too. Keep it around the connecting alone.
+ * Bounds the time that connecting to a bus may take. libdbus waits forever for a bus that falls silent during
+ * the handshake; once time is up, the guard shuts down the sockets connected since, so that it gives up.
+ * libdbus does not reveal its sockets, so any other socket that this process has connected to the same bus
+ * meanwhile is shut down too. Put nothing but the connecting in its scope.
  */
 class ConnectionGuard
 {
 public:
-    /// @p addresses are those that the connection is made to; the empty text stands for the user's own bus.
-    /// @p goesOn is asked again and again, on another thread, whether there is still time.
+    /// @p addresses are the ones being connected to; an empty text stands for the user's own bus. @p goesOn
+    /// is polled on another thread: false means that time is up.
     ConnectionGuard(const QByteArray &addresses, std::function<bool()> goesOn);
-    /// Returns at once, unless sockets are being shut down; afterwards none is.
+    /// Returns at once unless sockets are being shut down; none is once it has returned.
     ~ConnectionGuard();
 
 private:

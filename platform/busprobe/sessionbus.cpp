@@ -12,9 +12,9 @@ QDBusConnection SessionBus::connect(const QString &name, const std::function<boo
     if (BusProbe::ask(address, goesOn) != BusProbe::Found::Bus) {
         return QDBusConnection(name);
     }
-    // It has answered a moment ago, and may be stopped since.
+    // It answered a moment ago but may have been stopped since.
     const ConnectionGuard guard(address, goesOn);
-    // By its address: the library below remembers the first one for ever.
+    // By address: libdbus remembers the first session bus forever.
     return address.isEmpty() ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, name)
                              : QDBusConnection::connectToBus(QString::fromLocal8Bit(address), name);
 }

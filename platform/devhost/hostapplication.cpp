@@ -27,7 +27,7 @@ HostApplication::HostApplication(std::unique_ptr<Arguments> arguments)
     setDesktopFileName(QStringLiteral("speakmate-devhost"));
     setAttribute(Qt::AA_UseHighDpiPixmaps);
     setWindowIcon(QIcon(QStringLiteral(":/devhost/speakmate-devhost.svg")));
-    // The desktop's look, also where the cards are shown on another desktop.
+    // The desktop's own look, also where the cards are shown on another desktop.
     setStyle(new LStyle);
 }
 

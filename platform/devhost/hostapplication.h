@@ -9,14 +9,14 @@
 
 namespace devhost {
 
-/// The application object: sets the look, and keeps the exceptions of a plugin's cards from ending the host.
+/// The application object: sets the look and catches exceptions thrown by a plugin's cards.
 class HostApplication final : public QApplication
 {
     Q_OBJECT
 
 public:
-    /// @p programName is argv[0], or its like. Qt sees no other argument: it would take "--plugin" for its
-    /// own.
+    /// @p programName is argv[0] or the like. Qt gets no other argument: it would take "--plugin" for one of
+    /// its own.
     explicit HostApplication(char *programName);
 
     bool notify(QObject *receiver, QEvent *event) override;

@@ -21,7 +21,7 @@ using namespace devhost;
 
 namespace {
 
-/// Windows are never shown in the text modes, so no display is needed; what the user asks for wins.
+/// The text modes show no window and need no display; a platform chosen by the user wins.
 void choosePlatform(bool wantsWindow)
 {
     if (!wantsWindow && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
@@ -29,7 +29,7 @@ void choosePlatform(bool wantsWindow)
     }
 }
 
-/// A server is named; whether it answers is Qt's to find out.
+/// A display server is named; Qt finds out whether it answers.
 bool isDisplayNamed()
 {
     return !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("DISPLAY") ||
@@ -46,7 +46,7 @@ void complainOfUsage(const QString &message)
     complain(Options::tr("%1 See --help.").arg(message));
 }
 
-/// Chooses @p language first, so that what is wrong with the rest is said in it.
+/// Chooses @p language first, so that errors in the other options are reported in it.
 Options readOptions(const QStringList &arguments, ProgramLanguage &language)
 {
     language.followUser();
@@ -62,7 +62,7 @@ Options readOptions(const QStringList &arguments, ProgramLanguage &language)
     return options;
 }
 
-/// The window's application would end the process without a display, in English.
+/// QApplication would end the process without a display, with a message in English.
 int complainOfDisplay(const QStringList &arguments, char *programName)
 {
     int count = 1;
@@ -102,7 +102,7 @@ int run(const Options &options)
     if (options.mode == Options::Mode::Service) {
         return runService(options, host, logs);
     }
-    // Pictures of cards are the same everywhere, whatever desktop the host runs on.
+    // Pictures of cards look the same everywhere, whatever desktop the host runs on.
     applyTheme(options.theme == Options::Theme::Remembered ? Options::Theme::Light : options.theme);
     return runTextMode(options, host, logs);
 }

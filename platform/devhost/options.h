@@ -13,7 +13,7 @@ QT_END_NAMESPACE
 
 namespace devhost {
 
-/// The command line, read.
+/// The parsed command line.
 struct Options
 {
     Q_DECLARE_TR_FUNCTIONS(devhost::Options)
@@ -38,7 +38,7 @@ public:
     static Options read(const QStringList &arguments);
     /// Needs an application object.
     static QString helpText();
-    /// Whether a window may be shown; asked before there is an application, which needs to know.
+    /// Whether a window may be shown. Works without an application object, whose type depends on it.
     static bool wantsWindow(const QStringList &arguments);
 };
 

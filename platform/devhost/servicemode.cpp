@@ -42,7 +42,7 @@ ExitStatus runService(const Options &options, PluginHost &host, LogRecorder &log
     Conversation conversation(host, logs);
     LauncherDesk desk(conversation, bus.bus());
     desk.setContactNames(names);
-    // Followed in the background, so that no match waits for the contacts application.
+    // Updated in the background, so that no match waits for the contacts application.
     const KnownNames knownNames;
     QObject::connect(&knownNames, &KnownNames::changed, &desk,
                      [&desk, names](const QStringList &known) { desk.setContactNames(names + known); });

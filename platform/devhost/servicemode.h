@@ -10,7 +10,7 @@
 
 namespace devhost {
 
-/// Serves the desktop's launchers until the session bus goes.
+/// Serves the desktop's launchers until the session bus is gone.
 ExitStatus runService(const Options &options, PluginHost &host, LogRecorder &logs);
 
 } // namespace devhost

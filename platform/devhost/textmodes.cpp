@@ -19,7 +19,7 @@ namespace devhost {
 
 namespace {
 
-/// The same names as the man page: a colour is wanted on a terminal unless NO_COLOR says otherwise.
+/// The rule of the man page: colour on a terminal unless NO_COLOR is set.
 bool isColoured()
 {
     return isatty(STDOUT_FILENO) == 1 && qEnvironmentVariableIsEmpty("NO_COLOR") &&
@@ -64,7 +64,7 @@ ExitStatus runTextMode(const Options &options, PluginHost &host, LogRecorder &lo
     if (!isStandardInput) {
         file.open(QFile::encodeName(options.input).constData(), std::ios::binary);
         if (!file || file.peek() == std::ifstream::traits_type::eof()) {
-            // A folder opens but cannot be read; an empty file is nothing to answer.
+            // A folder can be opened but not read; an empty file has nothing to answer.
             if (!file.eof() || !QFile::exists(options.input)) {
                 complain(Options::tr("%1 cannot be read.").arg(options.input));
                 return WrongUsage;

@@ -10,10 +10,11 @@
 
 namespace devhost {
 
-/// Runs --batch or --converse to its end.
+/// Runs --batch or --converse and returns the exit status.
 ExitStatus runTextMode(const Options &options, PluginHost &host, LogRecorder &logs);
 
-/// The names in @p file, one per line; none for an empty name. False when the file cannot be read.
+/// Reads the names in @p file, one per line; none for an empty file name. Returns false when it cannot be
+/// read.
 bool readContactNames(const QString &file, QStringList &names);
 
 } // namespace devhost

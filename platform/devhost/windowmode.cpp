@@ -86,7 +86,7 @@ int runWindow(const Options &options, PluginHost &host, LogRecorder &logs)
         player.start();
     }
     QApplication::exec();
-    // The wait for a request that is under way is not for the user's eyes.
+    // Hides the window first: a pending request may take a moment to finish.
     window.hide();
     return status;
 }

@@ -10,8 +10,8 @@
 
 namespace devhost {
 
-/// Opens the window and runs until it is closed, or until its script has ended. Without a plugin the window
-/// says why.
+/// Opens the window and runs until it is closed or its script has ended. Without a plugin the window says
+/// why.
 int runWindow(const Options &options, PluginHost &host, LogRecorder &logs);
 
 } // namespace devhost

@@ -14,7 +14,7 @@ namespace {
 const QLatin1String English("en");
 const QLatin1String Folder(":/translations");
 
-/// The user's own country where it speaks @p code: the first day of the week and the dates are theirs.
+/// The user's own country when its language is @p code: the first day of the week and the dates follow it.
 QLocale localeOf(const QString &code)
 {
     const QLocale user = QLocale::system();
@@ -22,8 +22,8 @@ QLocale localeOf(const QString &code)
     return user.language() == language.language() && user.script() == language.script() ? user : language;
 }
 
-/// Whoever asks for the C locale, as scripts do, wants no other language, also where a list of languages is
-/// set. Qt knows it by its bare name only.
+/// The C locale, which scripts ask for, means English even when a list of languages is set. Qt knows it by
+/// its bare name only.
 bool isLocaleOfNobody()
 {
     QByteArray locale;
@@ -58,7 +58,7 @@ void ProgramLanguage::followUser()
     const QStringList known = codes();
     const QStringList wanted = QLocale::system().uiLanguages();
     for (const QString &name : wanted) {
-        // Also in another script: somebody who reads one of them rather reads the other than English.
+        // Another script is fine too: its readers prefer it to English.
         const auto found = std::find_if(known.begin(), known.end(), [&name](const QString &code) {
             return QLocale(code).language() == QLocale(name).language();
         });

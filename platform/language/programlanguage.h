@@ -12,29 +12,29 @@
  * The language of a program's own texts: its window, its terminal, its command line. Texts are English in the
  * source; ":/translations/PROGRAM_CODE.qm" holds another language (see contact_add_translations() in
  * cmake/Translations.cmake). Qt's own dialogs and the default locale, which calendars and dates follow,
- * change together with them.
+ * change with it.
  *
- * Belongs to the GUI thread, is made after the application object and destroyed before it. Texts are fetched
- * when a window is built, so the language is chosen before the first one.
+ * Lives on the GUI thread; create it after the application object and destroy it before. Texts are fetched
+ * when a window is built, so choose the language before the first one.
  */
 class ProgramLanguage final
 {
 public:
-    /// @p program is the name in front of the code in the names of its translations.
+    /// @p program prefixes the file names of its translations.
     explicit ProgramLanguage(const QString &program);
     Q_DISABLE_COPY(ProgramLanguage)
 
-    /// Of all languages that there are; English, which needs no translation, is the first.
+    /// All available languages, first English, which needs no translation.
     QStringList codes() const;
 
-    /// The language of the texts from now on.
+    /// The current language.
     QString code() const { return m_code; }
 
-    /// The first language of the user's that there is, or English.
+    /// The first of the user's languages that is available, or English.
     void followUser();
 
-    /// @p code is one of codes(), or means one of them: "zh", "zh-CN", "en_GB". False, without any change,
-    /// for others.
+    /// Accepts one of codes() and its variants: "zh", "zh-CN", "en_GB". Returns false, changing nothing, for
+    /// others.
     [[nodiscard]] bool choose(const QString &code);
 
 private:

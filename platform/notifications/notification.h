@@ -6,7 +6,7 @@
 #include <QString>
 #include <QStringList>
 
-/// What a notification server shows. Plain texts: whoever sends it escapes what the server would read as
+/// The contents of a desktop notification. Plain texts: the sender escapes what the server would read as
 /// markup.
 struct Notification
 {

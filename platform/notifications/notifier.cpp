@@ -34,7 +34,7 @@ Notifier::Notifier(const QDBusConnection &connection, const Program &program, QO
     , m_program(program)
 {
     followServer();
-    // Without the service's name, which Qt would look up here and now, and wait for the bus.
+    // Without the service's name: given one, Qt would look up its owner here and block on the bus.
     const bool hears = m_connection.connect(QString(), Path, Service, QStringLiteral("ActionInvoked"), this,
                                             SLOT(onActionInvoked(uint, QString, QDBusMessage))) &&
                        m_connection.connect(QString(), Path, Service, QStringLiteral("NotificationClosed"),

@@ -14,7 +14,7 @@
 class QDBusMessage;
 class QDBusPendingCall;
 
-/// The desktop's notification server, as a client sees it. Never waits for it. On the thread that made it.
+/// A client of the desktop's notification server. Never blocks on it. Use on the thread that created it.
 class Notifier : public QObject
 {
     Q_OBJECT
@@ -25,10 +25,10 @@ public:
         Unclear, ///< the server did not answer in time; it may show the notification or not
         Refused, ///< there is no server, or it does not want it
     };
-    /// The id is 0 unless it is shown.
+    /// The id is 0 when the notification is not shown.
     using Done = std::function<void(Result, quint32 id)>;
 
-    /// Whose notifications these are, for people and for the desktop.
+    /// The sender of these notifications, as the user and the desktop see it.
     struct Program
     {
         QString name;
@@ -38,14 +38,14 @@ public:
 
     Notifier(const QDBusConnection &connection, const Program &program, QObject *parent = nullptr);
 
-    /// Calls @p done once, later, unless it is deleted before.
+    /// Calls @p done once, later, unless this object is deleted first.
     void show(const Notification &notification, Done done);
     void close(quint32 id);
 
 Q_SIGNALS:
     void actionInvoked(quint32 id, const QString &action);
     void closed(quint32 id);
-    /// A server is there that was not there before; it shows nothing yet.
+    /// A server has appeared; it shows nothing yet.
     void serverCame();
     void serverWent();
 

@@ -9,7 +9,7 @@
 
 namespace devhost {
 
-/// One request that the ability library made for the plugin, as its trace tells it.
+/// One request that the ability library made for the plugin, read from the library's trace.
 struct AbilityCall
 {
     QString action;
@@ -17,12 +17,12 @@ struct AbilityCall
     QString answer;     ///< JSON; empty when the call failed
     int code = 0;
     double msecs = 0;
-    /// Not a request of this turn: a former one, said to have failed, was carried out after all.
+    /// Not a request of this turn: an earlier one, reported as failed, was carried out after all.
     bool isPerformedAfterAll = false;
 
     /// The log category of the trace. The host switches it on.
     static QString category();
-    /// Whether @p record is such a trace; then it is read into @p call.
+    /// Reads @p record into @p call; false when the record is no such trace.
     static bool read(const LogRecord &record, AbilityCall &call);
 };
 

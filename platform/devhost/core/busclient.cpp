@@ -12,16 +12,16 @@ namespace devhost {
 
 namespace {
 
-/// Long enough for a loaded machine to connect and to notice; a thread that is left behind runs into the
-/// process's end.
+/// Long enough for a loaded machine to connect and to notice the end; a thread left behind races with the
+/// process's exit.
 constexpr int LongestFarewellMsecs = 3000;
 
 } // namespace
 
 BusClient::BusClient(const QString &name)
 {
-    // A client that its thread could not end in time still has its connection: the next one must not share
-    // it, nor lose it when the former goes.
+    // A client whose thread could not be ended in time still has its connection; the next client must neither
+    // share it nor lose it when the earlier one goes.
     static std::atomic<int> count{0};
     m_connectionName = QStringLiteral("%1-%2").arg(name).arg(++count);
 }
@@ -50,7 +50,8 @@ bool BusClient::connectToBus(int msecs)
 QDBusPendingCallWatcher *BusClient::call(const QDBusMessage &message, int msecs)
 {
     auto *watcher = new QDBusPendingCallWatcher(bus().asyncCall(message, msecs), this);
-    // A connection's functor goes in QObject's destructor, after the watcher's reference to its call.
+    // QObject's destructor deletes the connection's functor, which is after the watcher has dropped its
+    // reference to the call.
     connect(watcher, &QObject::destroyed, watcher, [open = bus()] { Q_UNUSED(open) });
     return watcher;
 }
@@ -66,8 +67,8 @@ BusThread::~BusThread()
 {
     m_client->stopWaiting();
     m_thread->quit();
-    // Looked at again and again, because a bounded wait goes by the calendar in some surroundings and ends at
-    // once where that is set: a thread left behind then ran into the process's end.
+    // Polled, because a bounded wait may follow the wall clock and end at once when that is set; a thread
+    // left behind then raced with the process's exit.
     QElapsedTimer timer;
     timer.start();
     while (!m_thread->isFinished() && timer.elapsed() < LongestFarewellMsecs) {
@@ -77,7 +78,7 @@ BusThread::~BusThread()
         m_thread->wait();
         delete m_thread;
     }
-    // Else the bus fell silent in the middle of a call: left to the process's end.
+    // Otherwise the bus fell silent during a call: left until the process exits.
 }
 
 } // namespace devhost

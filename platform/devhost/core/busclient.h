@@ -17,9 +17,9 @@ QT_END_NAMESPACE
 namespace devhost {
 
 /**
- * Something that talks to the session bus over a connection of its own. It lives on a BusThread, because
- * making a connection blocks, and asks first whether the bus answers: the library below waits for a silent
- * bus without a bound, on a thread that all of the process's connections share, the plugin's too.
+ * A client of the session bus with a connection of its own. It lives on a BusThread, because connecting
+ * blocks, and first probes whether the bus answers: libdbus waits for a silent bus without a bound, on a
+ * thread that all connections of the process share, the plugin's included.
  */
 class BusClient : public QObject
 {
@@ -28,23 +28,23 @@ class BusClient : public QObject
 public:
     ~BusClient() override;
 
-    /// The first thing to happen on the thread.
+    /// Runs first on the thread.
     virtual void start() = 0;
-    /// Ends a wait for a bus that does not answer. Any thread.
+    /// Gives up waiting for a bus that does not answer. Any thread.
     void stopWaiting() { m_isEnding = true; }
 
 protected:
     static constexpr int AsLongAsItTakes = -1;
 
-    /// @p name is for people who look at the bus; each client has a connection of its own.
+    /// @p name shows in bus monitors; each client has a connection of its own.
     explicit BusClient(const QString &name);
 
-    /// Connects unless it is connected, and waits at most @p msecs for a bus that is silent.
+    /// Connects unless connected, waiting at most @p msecs for a silent bus.
     bool connectToBus(int msecs);
     /**
-     * Sends @p message; the answer has to come within @p msecs milliseconds. The watcher belongs to this
-     * client and keeps the connection open until it is deleted: closing a connection deletes its unfinished
-     * calls, whoever still refers to them.
+     * Sends @p message; the answer is due within @p msecs milliseconds. The watcher belongs to this client
+     * and keeps the connection open until it is deleted: closing a connection deletes its unfinished calls,
+     * whoever still refers to them.
      */
     QDBusPendingCallWatcher *call(const QDBusMessage &message, int msecs);
     QDBusConnection bus() const { return QDBusConnection(m_connectionName); }
@@ -54,11 +54,12 @@ private:
     std::atomic<bool> m_isEnding{false};
 };
 
-/// A thread for one client. Its end takes three seconds at most, whatever the bus does, and usually no time.
+/// A thread for one client. Stopping it usually takes no time, and three seconds at most, whatever the bus
+/// does.
 class BusThread
 {
 public:
-    /// Owns @p client from here on; it starts with start().
+    /// Takes ownership of @p client, which runs from start() on.
     explicit BusThread(BusClient *client);
     ~BusThread();
 

@@ -30,7 +30,7 @@ QImage cardPicture(QWidget &card)
     QImage image(card.size() * scale, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(scale);
     image.fill(card.palette().color(QPalette::Window));
-    // A grab lays out what has never been shown; render() alone leaves the children where they happen to be.
+    // grab() lays out what has never been shown; render() alone leaves the children unplaced.
     const QPixmap grabbed = card.grab();
     QPainter painter(&image);
     painter.drawPixmap(0, 0, grabbed);

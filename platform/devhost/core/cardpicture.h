@@ -11,7 +11,8 @@ QT_END_NAMESPACE
 
 namespace devhost {
 
-/// The size the host gives a card that nobody has placed yet: its own wish, within what a desk has room for.
+/// The size the host gives a card that has not been placed yet: its size hint, within what a desk has room
+/// for.
 void giveCardItsSize(QWidget &card);
 
 /// The card as it looks on the host's window, in its present size, at the screen's scale.

@@ -32,7 +32,7 @@ QString withoutMnemonic(QString text)
     return text.replace(QLatin1Char('\n'), QLatin1Char('&'));
 }
 
-/// What one control says; empty for those that say nothing by themselves.
+/// What one control says; empty for a control without a text of its own.
 QString textOf(const QWidget &widget)
 {
     if (const auto *label = qobject_cast<const QLabel *>(&widget)) {
@@ -78,7 +78,7 @@ QStringList cardSummary(const QWidget &card)
     });
     QStringList lines;
     for (int i = 0; i < pieces.size() && lines.size() < MostLines;) {
-        // What starts above the middle of the first piece's lower half stands in one row with it.
+        // Anything that starts above the middle of the first piece's lower half belongs to the same row.
         int end = i + 1;
         while (end < pieces.size() && pieces.at(end).place.center().y() <= pieces.at(i).place.bottom()) {
             ++end;

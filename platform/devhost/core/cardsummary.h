@@ -12,7 +12,7 @@ QT_END_NAMESPACE
 namespace devhost {
 
 /**
- * What a card says, line by line from the top, as a terminal can show it: texts as they are, "[按钮]" for
+ * The texts of a card, line by line from the top, as a terminal shows them: texts as they are, "[按钮]" for
  * buttons, "<值>" for fields. Works on any card that has been laid out (see cardPicture()).
  */
 QStringList cardSummary(const QWidget &card);

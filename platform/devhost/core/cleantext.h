@@ -9,8 +9,8 @@ namespace devhost {
 
 /**
  * @p text as the host shows it: without control characters and without the invisible and bidirectional ones
- * that let a name hide or read backwards. Line breaks and joiners stay, tabs become blanks. Texts longer than
- * any reply end in an ellipsis.
+ * that let a name hide or read backwards. Line breaks and joiners stay, tabs become spaces. Texts longer than
+ * any reply are cut off with an ellipsis.
  */
 QString cleanText(const QString &text);
 

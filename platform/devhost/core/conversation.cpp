@@ -19,13 +19,14 @@ namespace devhost {
 
 namespace {
 
-/// So many turns can be inspected; of older ones only the conversation view knows.
+/// Turns that can be inspected; older ones are known to the conversation view only.
 constexpr int MostTurns = 2000;
-/// So many log records and requests are kept of one turn.
+/// Log records and requests kept per turn.
 constexpr int MostRecords = 1000;
 constexpr int ShownInputLength = 2000;
 
-/// What the conversation shows for a semantic text, which is too long to read: the names of its intents.
+/// What the conversation shows in place of a semantic text, which is too long to read: the names of its
+/// intents.
 QString semanticTitle(const QString &semantic)
 {
     QString title = Conversation::tr("Semantic JSON");
@@ -113,7 +114,7 @@ int Conversation::enqueue(const QString &text, Form form, const QDateTime &when)
     m_turns.remove(turn.id - MostTurns);
     m_queue.enqueue({turn.id, text, form, when});
     Q_EMIT said(turn.id, turn.said);
-    // From the event loop: whoever says something first gets to know its turn.
+    // From the event loop, so that the caller knows its turn first.
     QMetaObject::invokeMethod(this, &Conversation::startNext, Qt::QueuedConnection);
     return turn.id;
 }
@@ -205,7 +206,7 @@ void Conversation::takeResult(const TurnResult &result)
         turn.cardClass = QString::fromLatin1(card->metaObject()->className());
     }
     if (m_runningIsSentence) {
-        // What the plugin itself says; a correction is about another turn.
+        // What the plugin itself reports; a correction belongs to another turn.
         m_dialogue.noteReply(turn.code, cleanText(result.reply.displayText.toString()));
     }
     if (result.isUnread() && turn.display.isEmpty()) {

@@ -21,11 +21,11 @@ namespace devhost {
 class LogRecorder;
 
 /**
- * One conversation with a plugin: takes sentences and semantic texts in any number, puts one after another to
- * the plugin, and tells what it answers. A sentence is understood when its turn comes, because it may answer
- * what the turn before has asked. Lives on the GUI thread and never blocks it.
+ * One conversation with a plugin: queues sentences and semantic texts, puts one after another to the plugin,
+ * and reports its answers. A sentence is only understood when its turn comes, because it may answer a
+ * question of the turn before. Lives on the GUI thread and never blocks it.
  *
- * Passwords are blotted out in everything that it tells or keeps.
+ * Passwords are masked in everything that it reports or keeps.
  */
 class Conversation final : public QObject
 {
@@ -36,45 +36,45 @@ public:
     Conversation(PluginHost &host, LogRecorder &logs, QObject *parent = nullptr);
 
     void setContactNames(const QStringList &names);
-    /// Who is named in the answer to "你会什么".
+    /// The people named in the answer to "你会什么".
     void setHelpNames(const QStringList &names) { m_helpNames = names; }
-    /// Forgets the turns and an open question. Not while it is busy.
+    /// Forgets the turns and an open question. Call only while nothing is queued or running.
     void startOver();
 
     /// Queues a sentence and returns its turn. A text that starts with "{" is taken as semantic JSON, unless
-    /// a password is asked for when its turn comes.
+    /// a password is being asked for when its turn comes.
     int say(const QString &text);
-    /// Queues a sentence that was said at @p when, which its times are set against, and to no open question.
+    /// Queues a sentence said at @p when, which its times are relative to. It answers no open question.
     int sayAsOf(const QString &sentence, const QDateTime &when);
-    /// Queues a semantic text, which reaches the plugin as it is.
+    /// Queues a semantic text, which reaches the plugin unchanged.
     int sendSemantic(const QString &semantic);
 
     bool isBusy() const { return m_running != 0 || !m_queue.isEmpty(); }
-    /// Whether what is typed now is a password.
+    /// Whether the next input is a password.
     bool expectsSecret() const;
 
-    /// The turn, or an empty one when it is unknown or so long ago that it was dropped.
+    /// The turn; an empty one when it is unknown or old enough to have been dropped.
     Turn turn(int id) const;
     int lastTurn() const { return m_lastId; }
 
-    /// A longer text is not taken; say() and sendSemantic() then end the turn with a failure.
+    /// Longer texts are refused: say() and sendSemantic() then end the turn with a failure.
     static constexpr int LongestInput = 1024 * 1024;
 
 Q_SIGNALS:
-    /// Something was queued; @p shown is how it may be shown and kept.
+    /// Something was queued; @p shown is the form in which it may be shown and kept.
     void said(int turn, const QString &shown);
-    /// Only now it is known that the text is a password.
+    /// The text has only now turned out to be a password.
     void saidChanged(int turn, const QString &shown);
     void started(int turn);
-    /// The receiver takes over the reply's card. The connection has to be direct.
+    /// The receiver takes ownership of the reply's card. Connect directly.
     void replied(int turn, const Reply &reply);
-    /// A reply that came by itself, after @p turn, the last one that was started.
+    /// An unsolicited reply; @p turn is the last turn that was started.
     void repliedLater(int turn, const Reply &reply);
-    /// There is no reply, and why.
+    /// There is no reply; @p reason says why.
     void failed(int turn, const QString &reason);
-    /// The last signal of a turn; everything about it is known, requests and log too.
+    /// The last signal of a turn; its requests and log are complete.
     void finished(int turn);
-    /// Nothing is left to do.
+    /// The queue is empty.
     void idle();
 
 private:
@@ -89,7 +89,7 @@ private:
     };
 
     int enqueue(const QString &text, Form form, const QDateTime &when = QDateTime());
-    /// As far as it can be told before the turn comes: the question for a password may be open only then.
+    /// A guess until the turn comes: the question for a password may only be open then.
     bool isSentence(const QString &text, Form form) const;
     QString shownSentence(const QString &sentence) const;
     void startNext();
@@ -113,7 +113,7 @@ private:
     bool m_runningIsSentence = false;
 };
 
-/// The card of @p reply, or null when its type says that there is none.
+/// The card of @p reply; null when its type says that it has none.
 QWidget *cardOf(const Reply &reply);
 
 } // namespace devhost

@@ -9,8 +9,8 @@
 
 namespace devhost {
 
-/// Puts in front of what @p reply shows and says that each of @p actions, which the user was told had failed,
-/// has been carried out after all. Leaves the reply alone when there is none.
+/// Prepends to what @p reply shows and says that each of @p actions, reported as failed before, has been
+/// carried out after all. Leaves the reply alone when there is none.
 void correctFormerTurns(const QStringList &actions, Reply &reply);
 
 } // namespace devhost

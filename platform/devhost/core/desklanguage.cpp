@@ -5,7 +5,7 @@
 
 #include <QDir>
 
-/// Nothing else asks for this part of the library; the macro does not work inside a namespace.
+/// Nothing else references this part of the library; the macro does not work inside a namespace.
 static void keepTranslations()
 {
     Q_INIT_RESOURCE(devhost_core_translations);

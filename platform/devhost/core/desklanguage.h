@@ -7,8 +7,8 @@
 
 namespace devhost {
 
-/// Of the desk's own texts. What the assistant says, in its answers and about what it is asked to do, is in
-/// the language in which it is spoken to, whatever the language here.
+/// The language of the desk's own texts. What the assistant says is in the language it is spoken to, whatever
+/// is chosen here.
 ProgramLanguage deskLanguage();
 
 } // namespace devhost

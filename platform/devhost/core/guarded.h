@@ -10,7 +10,7 @@
 
 namespace devhost {
 
-/// Calls @p function, which is a plugin's, and returns what it threw: empty when nothing.
+/// Calls @p function, which belongs to a plugin, and returns the message of what it threw; empty for nothing.
 template <typename Function>
 QString guarded(Function &&function)
 {

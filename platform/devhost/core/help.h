@@ -10,7 +10,7 @@ namespace devhost {
 /// What can be said to the assistant.
 namespace help {
 
-/// Whether a sentence asks for it, such as "你会什么".
+/// Whether a sentence asks for help, such as "你会什么".
 bool isAskedFor(const QString &sentence);
 
 struct Topic
@@ -19,10 +19,10 @@ struct Topic
     QStringList examples;
 };
 
-/// One topic per request, with people of @p names as far as there are any.
+/// One topic per request, with people from @p names where there are any.
 QVector<Topic> topics(const QStringList &names);
 
-/// The topics in one text.
+/// All topics as one text.
 QString text(const QStringList &names);
 
 } // namespace help

@@ -15,9 +15,9 @@ namespace devhost {
 class NameReader;
 
 /**
- * The names of the user's contacts, as the contacts application hands them out on the session bus. Follows
- * the application: asks when it appears and whenever it says that they have changed. Never starts it, and
- * never waits for the bus on the caller's thread.
+ * The names of the user's contacts, as the contacts application publishes them on the session bus. Follows
+ * the application: asks when it appears and whenever it reports a change. Never starts it, and never waits
+ * for the bus on the caller's thread.
  */
 class KnownNames final : public QObject
 {
@@ -27,7 +27,7 @@ public:
     explicit KnownNames(QObject *parent = nullptr);
     ~KnownNames() override;
 
-    /// The names known now, waiting at most @p msecs for the first answer. For programs without a window.
+    /// The current names; waits at most @p msecs for the first answer. For programs without a window.
     QStringList firstNames(int msecs);
 
 Q_SIGNALS:

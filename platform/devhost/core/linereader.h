@@ -9,7 +9,7 @@
 
 namespace devhost {
 
-/// Reads lines of UTF-8 text of bounded length. What is too long is skipped without being kept.
+/// Reads lines of UTF-8 text of bounded length. Skips lines that are too long without storing them.
 class LineReader
 {
 public:
@@ -18,9 +18,9 @@ public:
     /// @p input must outlive the reader. @p longest is in bytes.
     explicit LineReader(std::istream &input, int longest = 1024 * 1024);
 
-    /// The next line in @p line, without its end; empty unless the outcome is Line.
+    /// Reads the next line into @p line, without its end; empty unless the outcome is Line.
     Outcome read(QString &line);
-    /// Of the line that was read last; the first is 1.
+    /// Number of the line read last, counted from 1.
     int lineNumber() const { return m_lineNumber; }
 
 private:

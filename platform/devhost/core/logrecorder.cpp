@@ -17,7 +17,7 @@ constexpr int LongestText = 65536;
 
 LogRecorder *current = nullptr;
 
-/// Guards @ref current against a record that another thread writes while the recorder goes.
+/// Guards @ref current against a record written on another thread while the recorder is destroyed.
 QReadWriteLock &currentLock()
 {
     static QReadWriteLock lock;

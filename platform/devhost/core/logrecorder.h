@@ -12,9 +12,9 @@
 namespace devhost {
 
 /**
- * Keeps the log records of the whole process, from any thread, until they are fetched with take(). While it
- * lives nothing but fatal records reaches the terminal, unless asked for. One at a time; made and destroyed
- * on the GUI thread while no plugin's call is under way.
+ * Records the log messages of the whole process, from any thread, until take() fetches them. While it lives
+ * only fatal messages reach the terminal, unless requested otherwise. Only one may exist; create and destroy
+ * it on the GUI thread while no call of a plugin is running.
  */
 class LogRecorder
 {
@@ -25,10 +25,10 @@ public:
     ~LogRecorder();
     Q_DISABLE_COPY(LogRecorder)
 
-    /// The records since the last call, oldest first. Of a flood only the latest are kept.
+    /// The records since the last call, oldest first. Only the latest of a flood are kept.
     QVector<LogRecord> take();
 
-    /// What must not be seen in any record from here on; replaces what was set before.
+    /// Texts to mask in every record from here on; replaces the earlier ones.
     void setSecrets(const QStringList &secrets);
 
 private:

@@ -13,15 +13,16 @@
 namespace devhost {
 
 /**
- * Where a plugin drops replies, from any thread and also after the host has gone. A reply is handed on from
- * the event loop of the receiver's thread, never within post(): the plugin may be in the middle of a click.
+ * Where a plugin posts replies, from any thread, even after the host is gone. Replies are delivered by the
+ * event loop of the receiver's thread, never within post(): the plugin may be in the middle of handling a
+ * click.
  */
 class Mailbox
 {
 public:
     Mailbox(QObject *receiver, std::function<void(const Reply &)> deliver);
     void post(const Reply &reply);
-    /// From here on replies are dropped. On the receiver's thread.
+    /// Drops replies from here on. Call on the receiver's thread.
     void close();
 
 private:

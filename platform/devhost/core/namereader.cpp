@@ -20,7 +20,7 @@ constexpr int AnswerMsecs = 3000;
 constexpr int MostNames = 10000;
 constexpr int LongestName = 400;
 
-/// What another program sent is bounded before it is used.
+/// Bounds on what another program sends.
 QStringList usable(const QStringList &names)
 {
     QStringList kept;
@@ -50,7 +50,7 @@ void NameReader::start()
         QTimer::singleShot(m_retryMsecs, this, &NameReader::start);
         return;
     }
-    // From whoever says so, see SessionBus::connect(): it only makes this ask again.
+    // From any sender (see SessionBus::connect()): all it does is make this ask again.
     bus().connect(QString(), BusName::contactPath(), BusName::contactInterface(),
                   QStringLiteral("ContactNamesChanged"), this, SLOT(ask()));
     auto *watcher =

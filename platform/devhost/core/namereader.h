@@ -15,14 +15,14 @@ class NameReader final : public BusClient
     Q_OBJECT
 
 public:
-    /// Without a bus it looks for one again every @p retryMsecs.
+    /// Looks for a bus every @p retryMsecs for as long as there is none.
     explicit NameReader(int retryMsecs = RetryMsecs);
 
     void start() override;
 
 Q_SIGNALS:
-    /// Once after start() and again after each change. What was known stays when the application does not
-    /// answer; empty until it has.
+    /// Emitted once after start() and again after each change. The names stay when the application stops
+    /// answering; they are empty until it has answered once.
     void read(const QStringList &names);
 
 private Q_SLOTS:

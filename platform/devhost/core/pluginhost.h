@@ -25,9 +25,9 @@ struct ServiceReleaser
 using ServicePtr = std::unique_ptr<IService, ServiceReleaser>;
 
 /**
- * Loads one plugin and talks to it. Lives on the GUI thread. No exception of the plugin leaves it.
+ * Loads one plugin and talks to it. Lives on the GUI thread. Lets no exception of the plugin through.
  *
- * The plugin's code stays in the process until it ends, since cards that are still shown need it.
+ * The plugin stays loaded until the process ends, since cards that are still shown need its code.
  */
 class PluginHost final : public QObject
 {
@@ -38,23 +38,23 @@ public:
     ~PluginHost() override;
 
     /// @p plugin is a file, or a name such as "contact-plugin" that is looked up in the installed folder.
-    /// False with problem() set when it cannot be used. Once per host.
+    /// Returns false and sets problem() when it cannot be used. Call once per host.
     bool load(const QString &plugin);
     bool isLoaded() const { return m_plugin != nullptr; }
     const PluginProblem &problem() const { return m_problem; }
-    /// Of the file that was found; empty when there is none.
+    /// The file that was found; empty when there is none.
     QString path() const { return m_path; }
 
-    /// Whether IService::service() is to be called on another thread than this one.
+    /// Whether IService::service() wants a thread other than this one.
     bool needsOwnThread() const;
     /// A service for one dialogue; null when the plugin gives none.
     ServicePtr createService();
 
-    /// Where installed plugins are.
+    /// The folder of installed plugins.
     static QString installedFolder();
 
 Q_SIGNALS:
-    /// A reply that belongs to no call: from a button of a card, for instance. Always from the event loop.
+    /// A reply outside of any call, for instance from a card's button. Always from the event loop.
     void repliedLater(const Reply &reply);
 
 private:

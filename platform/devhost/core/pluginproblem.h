@@ -7,7 +7,7 @@
 
 namespace devhost {
 
-/// Why there is no plugin to talk to, and what the person in front of the host can do about it.
+/// Why no plugin could be loaded, and what the user can do about it.
 struct PluginProblem
 {
     enum Kind { None, Missing, NotAPlugin, OtherInterface, CannotLoad, InitFailed, NoService };

@@ -8,13 +8,13 @@
 
 namespace devhost {
 
-/// What stands in for a password, whatever its length.
+/// The mask that replaces a password, whatever its length.
 QString secretMask();
 
-/// The values of the "password" slots of a semantic JSON. Empty for a text that is none.
+/// The values of the "password" slots of a semantic JSON; empty for any other text.
 QStringList secretsIn(const QString &semantic);
 
-/// @p text with every one of @p secrets replaced by secretMask().
+/// @p text with each of @p secrets replaced by secretMask().
 QString withoutSecrets(QString text, const QStringList &secrets);
 
 } // namespace devhost

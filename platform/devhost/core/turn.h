@@ -12,7 +12,7 @@
 
 namespace devhost {
 
-/// What is known of one turn of the conversation, without secrets. Cards are not in here.
+/// Everything known about one turn of the conversation but its cards, with secrets masked.
 struct Turn
 {
     enum State { Queued, Running, Done };
@@ -39,7 +39,7 @@ struct Turn
     double serviceMsecs = 0;
     double replyMsecs = 0;
 
-    /// What the requests of the turn took together; the rest of serviceMsecs is the plugin's own.
+    /// Total time of the turn's requests; the rest of serviceMsecs is the plugin's own.
     double requestMsecs() const;
 };
 

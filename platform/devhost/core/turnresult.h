@@ -9,7 +9,7 @@
 
 namespace devhost {
 
-/// What became of one call of a service.
+/// The outcome of one call of a service.
 struct TurnResult
 {
     int status = 0;  ///< of service(): 0 handled, -100 the semantic could not be read, ...

@@ -43,7 +43,7 @@ void TurnRunner::run(const QString &semantic)
             this, [this, result] { finish(result); }, Qt::QueuedConnection);
         return;
     }
-    // The service is this object's until finish(), and the destructor waits for the thread.
+    // The service belongs to this object until finish(), and the destructor waits for the thread.
     const auto work = [this, service = m_service.get(), semantic] {
         TurnResult result;
         call(*service, semantic, result);

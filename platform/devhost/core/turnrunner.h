@@ -12,9 +12,9 @@
 namespace devhost {
 
 /**
- * Puts one semantic text at a time to the plugin: service() on a worker thread, getServiceReply() on the GUI
- * thread once it has returned, and a fresh service for every call. Lives on the GUI thread and never blocks
- * it, but for its destructor, which waits for a call that is under way.
+ * Puts one semantic text at a time to the plugin: service() on a worker thread, then getServiceReply() on the
+ * GUI thread, with a fresh service for every call. Lives on the GUI thread and never blocks it, except in its
+ * destructor, which waits for a running call.
  */
 class TurnRunner final : public QObject
 {
@@ -26,7 +26,7 @@ public:
     ~TurnRunner() override;
 
     bool isRunning() const { return m_isRunning; }
-    /// Not while isRunning(). finished() always follows, from the event loop.
+    /// Must not be called while isRunning(). finished() always follows, from the event loop.
     void run(const QString &semantic);
 
 Q_SIGNALS:

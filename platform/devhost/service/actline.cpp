@@ -20,7 +20,7 @@ namespace {
 constexpr int MostNamesShown = 5;
 constexpr int LongestPart = 40;
 
-/// The slots of the one intent that a launcher's sentence may hold.
+/// The slots of the single intent that a launcher's sentence may hold.
 class Slots
 {
 public:
@@ -65,7 +65,7 @@ QString day(const QDate &date, const QDate &today)
                                                      : QStringLiteral("yyyy年M月d日"));
 }
 
-/// What a datetime slot says: {"suggestDatetime":"2026-11-22T15:00:00"}, or a day alone.
+/// Reads a datetime slot: {"suggestDatetime":"2026-11-22T15:00:00"}, or a day alone.
 QString suggested(const Slots &slotList)
 {
     return QJsonDocument::fromJson(slotList.first("datetime").toUtf8())
@@ -87,7 +87,7 @@ QString createLine(const Slots &slotList, const QDate &today)
     const QString with =
         slotList.has("name") ? QStringLiteral("与%1的").arg(people(slotList.values("name"))) : QString();
     if (!slotList.has("datetime")) {
-        // 预约会议 leaves open when; the plugin would start it now.
+        // 预约会议 leaves the time open; the plugin would start the conference now.
         return isKnownToBeBooked(slotList.first("open")) ? QString()
                                                          : QStringLiteral("现在发起%1视频会议").arg(with);
     }

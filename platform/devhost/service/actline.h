@@ -10,13 +10,13 @@
 namespace devhost {
 
 /**
- * What carrying out @p semantic, which was understood on @p today, will do, in one line:
+ * Describes in one line what carrying out @p semantic, understood on @p today, will do:
  *
  *     预约 11月22日 15:00 与张伟的视频会议
  *
- * Empty for whatever a launcher must not offer: questions and refusals, a conference whose hour would have to
- * be invented, people outside @p knownNames (unless nobody is known yet), and passwords, because launchers
- * keep what was typed.
+ * Empty for anything that a launcher must not offer: questions and refusals, a conference whose hour would
+ * have to be guessed, people outside @p knownNames (unless nobody is known yet), and passwords, because
+ * launchers keep what was typed.
  */
 QString actLine(const QString &semantic, const QDate &today, const QSet<QString> &knownNames);
 

@@ -11,7 +11,7 @@ namespace devhost {
 
 class LauncherDesk;
 
-/// The object behind org.kde.krunner1. GUI thread.
+/// Implements org.kde.krunner1. GUI thread.
 class KRunnerRequests final : public QObject
 {
     Q_OBJECT

@@ -58,11 +58,11 @@ LauncherBus::Start LauncherBus::offer(LauncherDesk &desk)
     registerLauncherTypes();
     auto *krunner = new KRunnerRequests(desk, this);
     auto *search = new SearchRequests(desk, this);
-    // Adaptors belong to the objects that they speak for.
+    // Adaptors are children of the objects they stand for.
     new KRunnerAdaptor(krunner);
     new SearchProviderAdaptor(search);
     QDBusConnection connection = bus();
-    // The objects first: whoever waits for the name calls at once.
+    // Objects before the name: clients waiting for the name call at once.
     const bool areOffered =
         connection.registerObject(QStringLiteral("/krunner"), krunner) &&
         connection.registerObject(QStringLiteral("/com/kelvane/speakmate/devhost/SearchProvider"), search);

@@ -12,7 +12,7 @@ namespace devhost {
 
 class LauncherDesk;
 
-/// Puts the desk on the session bus, for both kinds of launcher, under one name.
+/// Publishes the desk on the session bus for both kinds of launcher, under one name.
 class LauncherBus final : public QObject
 {
     Q_OBJECT
@@ -23,14 +23,14 @@ public:
     LauncherBus();
     ~LauncherBus() override;
 
-    /// Waits at most three seconds for a bus that is silent.
+    /// Waits at most three seconds for a silent bus.
     Start connectToBus();
-    /// After connectToBus(). @p desk must outlive this object.
+    /// Call after connectToBus(). @p desk must outlive this object.
     Start offer(LauncherDesk &desk);
     QDBusConnection bus() const;
 
 Q_SIGNALS:
-    /// The bus has gone; there is nobody left to serve.
+    /// The bus is gone; nobody is left to serve.
     void disconnected();
 };
 

@@ -10,7 +10,7 @@ namespace devhost {
 
 namespace {
 
-/// A click on the notification itself.
+/// The action of a click on the notification itself.
 const QLatin1String Click("default");
 
 } // namespace
@@ -47,7 +47,7 @@ void LauncherDesk::run(const QString &id, Place place)
         notify(tr("Not carried out"), tr("This entry has expired; please type it again."), Told::NowhereElse);
         return;
     }
-    // Cards belong to the window from the start, shown or not.
+    // Cards belong to the window from the start, whether it is shown or not.
     window();
     if (place == Place::Window) {
         showWindow();

@@ -20,15 +20,15 @@ namespace devhost {
 class MainWindow;
 
 /**
- * The assistant behind the launchers: finds the act in what is typed, carries it out, and shows the reply, as
- * a notification, or in the window where there is a card or a question. GUI thread.
+ * The assistant behind the launchers: recognises a command in what is typed, carries it out, and shows the
+ * reply as a notification, or in the window when there is a card or a question. GUI thread.
  */
 class LauncherDesk final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @p conversation must outlive the desk; notifications go over @p bus.
+    /// @p conversation must outlive the desk; notifications are sent over @p bus.
     LauncherDesk(Conversation &conversation, const QDBusConnection &bus, QObject *parent = nullptr);
     ~LauncherDesk() override;
 
@@ -38,19 +38,19 @@ public:
     LauncherAct find(const QString &id) const { return m_matcher.find(id); }
 
     enum class Place { WhereItFits, Window };
-    /// Carries out what match() has found, once. Says so where it is not known any more.
+    /// Carries out once what match() found. Reports when the match is no longer known.
     void run(const QString &id, Place place);
-    /// Brings the window up with @p text ready to be sent.
+    /// Opens the window with @p text in its input line.
     void openWith(const QString &text);
 
 private:
-    /// Where else the user finds what a notification says.
+    /// Where else the user can read the text of a notification.
     enum class Told { InConversation, NowhereElse };
 
     MainWindow &window();
     void showWindow();
     void showReply(const Turn &turn);
-    /// As a notification; in the window where the desktop shows none.
+    /// Shows a notification, or the window where the desktop shows none.
     void notify(const QString &title, const QString &text, Told told);
 
     Conversation &m_conversation;

@@ -25,7 +25,7 @@ auto withId(const QVector<LauncherAct> &acts, const QString &id)
 
 LauncherMatcher::LauncherMatcher() : m_salt(QUuid::createUuid().toByteArray())
 {
-    // The rules are read with the first sentence.
+    // The first sentence loads the rules.
     understand(QStringLiteral("明天下午三点开会"), QDateTime::currentDateTime());
 }
 
@@ -41,7 +41,7 @@ void LauncherMatcher::setContactNames(const QStringList &names)
 QString LauncherMatcher::understand(const QString &text, const QDateTime &now)
 {
     const QString semantic = m_dialogue.turn(text, now);
-    // Whatever it asks back is not answered by what is typed next.
+    // The next input does not answer its questions.
     m_dialogue.turn(QStringLiteral("算了"), now);
     return semantic;
 }

@@ -14,7 +14,7 @@
 
 namespace devhost {
 
-/// One line of a launcher, and what stands behind it.
+/// One result line for a launcher and the request behind it.
 struct LauncherAct
 {
     QString id; ///< tells nothing about the sentence: launchers count and keep ids
@@ -26,8 +26,8 @@ struct LauncherAct
 };
 
 /**
- * Decides whether a text typed into a launcher orders something, and what. Works from the names it was given:
- * asks no application, waits for nothing and logs nothing. Sentences stand alone. GUI thread.
+ * Decides whether a text typed into a launcher is a command, and which. Works from the names it was given:
+ * asks no application, never blocks, and logs nothing. Every sentence stands alone. GUI thread.
  */
 class LauncherMatcher
 {
@@ -38,13 +38,13 @@ public:
 
     /// Empty unless @p text is understood beyond doubt.
     LauncherAct match(const QString &text, const QDateTime &now);
-    /// A recent match; empty for one that is unknown or was dropped.
+    /// A recent match; empty when it is unknown or was dropped.
     LauncherAct find(const QString &id) const;
-    /// Like find(), and forgets it: an act is carried out once. Empty also where the names have changed so
-    /// that the sentence would do something else than its line says.
+    /// Like find(), but forgets the match: a command is carried out once. Also empty when the names have
+    /// changed so that the sentence would no longer do what its line says.
     LauncherAct take(const QString &id);
 
-    /// Longer texts are not looked at.
+    /// Longer texts are ignored.
     static constexpr int LongestText = 200;
 
 private:

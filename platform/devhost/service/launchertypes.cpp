@@ -46,7 +46,7 @@ void registerLauncherTypes()
     qDBusRegisterMetaType<KRunnerMatch>();
     qDBusRegisterMetaType<KRunnerMatches>();
     qDBusRegisterMetaType<SearchMetas>();
-    // The adaptors know the lists by these names.
+    // The adaptors know the lists under these names.
     qRegisterMetaType<KRunnerActions>("devhost::KRunnerActions");
     qRegisterMetaType<KRunnerMatches>("devhost::KRunnerMatches");
     qRegisterMetaType<SearchMetas>("devhost::SearchMetas");

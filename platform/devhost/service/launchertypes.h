@@ -11,7 +11,7 @@
 
 namespace devhost {
 
-// What the launchers' protocols carry; the XML files beside this one explain them.
+// The types of the launchers' protocols; the XML files in this folder describe them.
 
 struct KRunnerAction
 {
@@ -39,7 +39,7 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, KRunnerAction &ac
 QDBusArgument &operator<<(QDBusArgument &argument, const KRunnerMatch &match);
 const QDBusArgument &operator>>(const QDBusArgument &argument, KRunnerMatch &match);
 
-/// Lets QtDBus carry them. Idempotent.
+/// Registers the types with QtDBus. Idempotent.
 void registerLauncherTypes();
 
 } // namespace devhost

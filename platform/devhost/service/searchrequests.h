@@ -12,7 +12,7 @@ namespace devhost {
 
 class LauncherDesk;
 
-/// The object behind org.gnome.Shell.SearchProvider2. GUI thread.
+/// Implements org.gnome.Shell.SearchProvider2. GUI thread.
 class SearchRequests final : public QObject
 {
     Q_OBJECT

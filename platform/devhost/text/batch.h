@@ -11,8 +11,8 @@ namespace devhost {
 /**
  * Puts one semantic JSON per line of input to the plugin, each as a dialogue of its own, and writes one JSON
  * reply per line. A line that cannot be answered gets a message with its number on the error stream and no
- * line of output; the rest goes on. Empty lines are skipped. Replies that come by themselves go to the error
- * stream, with the number of the line before them.
+ * line of output; processing continues. Empty lines are skipped. Unsolicited replies go to the error stream,
+ * with the number of the line before them.
  */
 class Batch final : public LineMode
 {
@@ -32,7 +32,7 @@ public:
 
 private:
     void next() override;
-    /// False with the reason when the line is no JSON object.
+    /// Returns false and the reason when the line is no JSON object.
     static bool isSemantic(const QString &line, QString &reason);
     void answer(const TurnResult &result);
     QByteArray describe(const Reply &reply, const QString &pictureName);

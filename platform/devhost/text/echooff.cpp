@@ -15,7 +15,7 @@ EchoOff::EchoOff()
     }
     termios silent = m_before;
     silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-    // The end of the line stays visible, or the answer would stand behind the question.
+    // The newline stays visible, or the answer would follow on the question's line.
     silent.c_lflag |= ECHONL;
     tcsetattr(STDIN_FILENO, TCSANOW, &silent);
 }

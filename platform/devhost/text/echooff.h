@@ -7,7 +7,7 @@
 
 namespace devhost {
 
-/// While it lives, the terminal on standard input does not show what is typed. Nothing happens without one.
+/// Switches off the terminal's echo on standard input while it lives. Does nothing without a terminal.
 class EchoOff
 {
 public:

@@ -5,7 +5,7 @@
 
 namespace devhost {
 
-/// What the program ends with; documented in its manual page.
+/// The program's exit status; documented in its manual page.
 enum ExitStatus {
     EverythingAnswered = 0,
     SomethingBroken =

@@ -14,8 +14,8 @@
 namespace devhost {
 
 /**
- * A mode of the host that reads a line, answers it and reads the next. Lives on the GUI thread and waits
- * there for input, which is for a program without a window.
+ * A mode of the host that reads a line, answers it and reads the next. Lives on the GUI thread and blocks
+ * there for input, so it suits programs without a window only.
  */
 class LineMode : public QObject
 {
@@ -31,10 +31,10 @@ protected:
     /// The streams must outlive the object.
     LineMode(std::istream &input, std::ostream &errors, const Screenshots &screenshots, QObject *parent);
 
-    /// Reads on, once the event loop is back; finish() when there is no more.
+    /// Reads the next line once control is back in the event loop; calls finish() at the end of the input.
     virtual void next() = 0;
     void finish() { Q_EMIT finished(m_status); }
-    /// Tells what is wrong with the current line. The program then ends with a status that says so.
+    /// Reports an error in the current line. The program's exit status will tell.
     void complain(const QString &message);
 
     const Screenshots m_screenshots;

@@ -10,7 +10,7 @@ namespace devhost {
 
 namespace {
 
-/// @p text as a JSON string. Qt writes objects with their keys sorted, so only the values are left to it.
+/// @p text as a JSON string. Qt writes objects with sorted keys, so it only encodes the values.
 QByteArray quoted(const QString &text)
 {
     const QByteArray array = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);

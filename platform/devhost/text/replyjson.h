@@ -10,7 +10,7 @@
 
 namespace devhost {
 
-/// A card as a reply's JSON tells of it.
+/// Describes a card in a reply's JSON.
 struct CardNote
 {
     QString className;
@@ -20,13 +20,13 @@ struct CardNote
 };
 
 /**
- * A reply as one line of compact JSON in UTF-8, without the line's end, the keys in this order:
+ * A reply as one line of compact JSON in UTF-8, without a newline, with the keys in this order:
  *
  *     {"code":0,"display":"好的","speech":"好的","type":11,
  *      "card":{"class":"ConferenceMsgStaticWidget","width":422,"height":268,"screenshot":"line-0001.png"}}
  *
- * "card" is null when @p card is; "screenshot" is only there when there is a picture. (One line, though it
- * takes two here.)
+ * "card" is null when @p card is; "screenshot" is present only when there is a picture. (Wrapped here to
+ * fit.)
  */
 QByteArray replyJson(const Reply &reply, const CardNote *card);
 

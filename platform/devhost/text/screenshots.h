@@ -11,17 +11,17 @@ QT_END_NAMESPACE
 
 namespace devhost {
 
-/// A folder for pictures of cards; without one, nothing is written and everything succeeds.
+/// A folder for pictures of cards. Without a folder nothing is written and every call succeeds.
 class Screenshots
 {
 public:
     explicit Screenshots(const QString &folder = QString());
 
     bool isOn() const { return !m_folder.isEmpty(); }
-    /// Makes the folder. False when that fails.
+    /// Creates the folder. Returns false on failure.
     bool prepare() const;
-    /// Lays out @p card, writes its picture and returns the file's name; empty when it could not be written,
-    /// or when there is no folder.
+    /// Lays out @p card, writes its picture and returns the file's name; empty on failure, or without a
+    /// folder.
     QString take(QWidget &card, const QString &baseName) const;
     QString folder() const { return m_folder; }
 

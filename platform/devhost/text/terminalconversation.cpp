@@ -37,7 +37,7 @@ TerminalConversation::TerminalConversation(Conversation &conversation, const Ter
     , m_terminal(terminal)
 {
     connect(&m_conversation, &Conversation::started, this, [this](int turn) {
-        // With an echoing terminal the sentence stands there already.
+        // A terminal that echoes shows the sentence already.
         if (!m_terminal.isPrompting) {
             printSaid(turn);
         }

@@ -9,8 +9,8 @@
 namespace devhost {
 
 /**
- * Plays a conversation in a terminal: one sentence or semantic JSON per line of input, printed with the
- * plugin's answers, cards as their texts. Lines that start with "#" and empty lines are left out.
+ * Plays a conversation in a terminal: reads a sentence or semantic JSON per line and prints it with the
+ * plugin's answers, cards as their texts. Skips empty lines and those that start with "#".
  */
 class TerminalConversation final : public LineMode
 {
@@ -26,7 +26,7 @@ public:
         bool isPrompting = false; ///< a person types, who sees what is typed
     };
 
-    /// What is given must outlive the object.
+    /// The arguments must outlive the object.
     TerminalConversation(Conversation &conversation, const Terminal &terminal, const Screenshots &screenshots,
                          QObject *parent = nullptr);
 

@@ -8,10 +8,10 @@
 
 namespace devhost {
 
-/// Columns that @p text takes in a terminal: Chinese characters take two.
+/// Terminal columns taken by @p text: two per Chinese character.
 int terminalWidth(const QString &text);
 
-/// @p text in lines of at most @p columns, broken anywhere, since Chinese has no blanks.
+/// Wraps @p text to @p columns, at any character, since Chinese has no spaces.
 QStringList wrapped(const QString &text, int columns);
 
 } // namespace devhost

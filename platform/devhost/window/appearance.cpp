@@ -22,7 +22,7 @@ Appearance::Appearance(QObject *parent) : SharedAppearance(QSettings().fileName(
 
 qreal Appearance::cardScale() const
 {
-    // Planned for a desktop's text of 14 pixels; a smaller one is no reason to shrink them.
+    // Designed for a desktop font of 14 pixels; a smaller one is no reason to shrink them.
     QFont desktop = QApplication::font();
     desktop.setPointSizeF(desktopPointSize());
     const qreal ofDesktop = qMax(1.0, QFontInfo(desktop).pixelSize() / PlannedPixelSize);

@@ -7,17 +7,16 @@
 
 namespace devhost {
 
-/// The desk's own appearance, and how large it makes the cards. GUI thread.
+/// The desk's own appearance, including how much it enlarges the cards. GUI thread.
 class Appearance final : public SharedAppearance
 {
     Q_OBJECT
 
 public:
-    /// Applies what was remembered.
+    /// Applies the remembered settings.
     explicit Appearance(QObject *parent = nullptr);
 
-    /// How much larger than planned the texts on cards are, from the desktop's font, its resolution and the
-    /// step.
+    /// The factor by which texts on cards grow, from the desktop's font, its resolution and the step.
     qreal cardScale() const;
 };
 

@@ -13,7 +13,7 @@ namespace devhost {
 
 class Appearance;
 
-/// Adds the choice of the theme and of the font size to @p menu. @p appearance outlives it.
+/// Adds theme and font size to @p menu. @p appearance must outlive it.
 void addAppearanceMenus(QMenu &menu, Appearance &appearance);
 
 } // namespace devhost

@@ -9,7 +9,7 @@ class QDBusServiceWatcher;
 
 namespace devhost {
 
-/// Talks to the contacts application for ApplicationLink, whose part it is.
+/// The part of ApplicationLink that talks to the contacts application.
 class ApplicationAsker final : public BusClient
 {
     Q_OBJECT
@@ -20,11 +20,11 @@ public:
     void start() override { ask(); }
     /// told() follows. Does not start the application.
     void ask();
-    /// Starts the application when it does not run; windowRefused() when it does not answer.
+    /// Starts the application if necessary; emits windowRefused() when it does not answer.
     void openWindow();
 
 Q_SIGNALS:
-    /// What the application's Overview() answers; the empty text without one.
+    /// The answer to Overview(); empty when the application gave none.
     void told(const QString &overview);
     void windowRefused();
 

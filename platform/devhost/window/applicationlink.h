@@ -12,7 +12,7 @@ namespace devhost {
 
 class ApplicationAsker;
 
-/// What the desk knows of the contacts application.
+/// The state of the contacts application.
 struct ApplicationState
 {
     bool isReached = false;
@@ -21,13 +21,13 @@ struct ApplicationState
     QString conferenceNumber; ///< of the same
     QStringList names;        ///< of those whom the user may invite, each only once and nobody's namesake
 
-    /// From what the application's Overview() answers.
+    /// Reads the answer to Overview().
     static ApplicationState read(const QString &overview);
 };
 
 /**
- * What the desk knows of the contacts application, kept up to date when it comes and goes. Asks on a thread
- * of its own, so that no bus can keep the window waiting. GUI thread.
+ * Follows the state of the contacts application as it starts and stops. Asks on a thread of its own, so that
+ * no bus can block the window. GUI thread.
  */
 class ApplicationLink final : public QObject
 {
@@ -39,7 +39,7 @@ public:
     const ApplicationState &state() const { return m_state; }
     /// changed() follows. Does not start the application.
     void refresh();
-    /// Brings up the application's window, and starts it when it does not run.
+    /// Opens the application's window, starting the application if necessary.
     void openWindow();
 
 Q_SIGNALS:

@@ -111,7 +111,7 @@ void Bubble::paintEvent(QPaintEvent *)
     }
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Radius, Radius);
     if (m_isCurrent) {
-        // On the accent colour itself the ring has the text's.
+        // On the accent colour the ring takes the text's colour.
         painter.setPen(
             QPen(palette().color(isSaid ? QPalette::HighlightedText : QPalette::Highlight), RingWidth));
         painter.setBrush(Qt::NoBrush);
@@ -148,7 +148,7 @@ void Bubble::resizeEvent(QResizeEvent *)
 
 void Bubble::hideEvent(QHideEvent *)
 {
-    // With the window both go and come by themselves.
+    // Both come and go with the window.
     if (isHidden()) {
         m_button->hide();
     }

@@ -10,8 +10,8 @@ namespace devhost {
 class TurnButton;
 
 /**
- * One utterance: plain text on a rounded ground. Shows every character as it is. Its size is what
- * Bubble::sizeFor() says; the conversation view makes bubbles only for what is in sight. Beside it stands a
+ * One utterance: plain text on a rounded ground, every character shown literally. Its size is what
+ * Bubble::sizeFor() says; the conversation view creates bubbles only for what is in sight. Beside it is a
  * button for the menu of its turn, a child of the same parent.
  */
 class Bubble final : public QWidget
@@ -24,13 +24,13 @@ public:
     explicit Bubble(QWidget *parent = nullptr);
 
     void show(Role role, const QString &text, bool isDimmed);
-    /// A ring around the bubble that the keyboard has come to.
+    /// The ring around the keyboard's current bubble.
     void setCurrent(bool isCurrent);
     QString text() const { return m_text; }
     Role role() const { return m_role; }
     bool isDimmed() const { return m_isDimmed; }
 
-    /// The size of a bubble no wider than @p maximumWidth. @p naturalWidth is its width without that bound.
+    /// The size of a bubble no wider than @p maximumWidth. @p naturalWidth receives its unbounded width.
     static QSize sizeFor(const QString &text, const QFont &font, int maximumWidth, int &naturalWidth);
 
 Q_SIGNALS:

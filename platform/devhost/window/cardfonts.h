@@ -11,8 +11,8 @@ QT_END_NAMESPACE
 
 namespace devhost {
 
-/// Gives every font that @p card has set in pixels @p scale times the size it was made with; others follow
-/// the application's font by themselves. To be called again when the card has got new rows.
+/// Scales every font that @p card has set in pixels to @p scale times its original size; other fonts follow
+/// the application's by themselves. Call again when the card has new rows.
 void scaleCardFonts(QWidget &card, qreal scale);
 
 } // namespace devhost

@@ -20,7 +20,7 @@ constexpr int PackingLevel = 2;               ///< fast: a card is mostly even
 
 CardRecord::CardRecord(QWidget &card) : m_text(cardSummary(card).join(QLatin1Char('\n')))
 {
-    // On the ground that it stands on: the card's own ground may let it through.
+    // With the ground behind it: the card's own ground may be translucent.
     const QPixmap grabbed = card.grab();
     QImage image(grabbed.size(), QImage::Format_RGB32);
     image.setDevicePixelRatio(grabbed.devicePixelRatioF());

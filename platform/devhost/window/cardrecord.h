@@ -13,7 +13,7 @@ QT_END_NAMESPACE
 
 namespace devhost {
 
-/// What is left of a card that was let go: how it looked, packed, and what it said. Some kilobytes where the
+/// What remains of a released card: its picture, compressed, and its texts. Takes some kilobytes where the
 /// card took a hundred.
 class CardRecord
 {
@@ -23,7 +23,7 @@ public:
 
     bool isEmpty() const { return m_pixels.isEmpty(); }
     QImage picture() const;
-    /// What the card said, line by line.
+    /// The card's texts, line by line.
     const QString &text() const { return m_text; }
 
 private:

@@ -11,13 +11,13 @@ QT_END_NAMESPACE
 
 namespace devhost {
 
-/// Where the Tab key stops on @p card, in its own order; the card itself may be one, and may be hidden.
+/// The Tab stops of @p card in their order; the card itself may be one, and may be hidden.
 QVector<QWidget *> cardStops(QWidget &card);
 
-/// Whether Tab may stop at @p widget, which is shown to @p shownTo.
+/// Whether Tab may stop at @p widget, given that @p shownTo is visible.
 bool isTabStop(const QWidget &widget, const QWidget &shownTo);
 
-/// Whether @p card has its window's focus, which comes back with the window when that is not active.
+/// Whether @p card has its window's focus, also while that window is inactive.
 bool hasFocusWithin(const QWidget &card);
 
 } // namespace devhost

@@ -8,15 +8,14 @@
 
 namespace devhost {
 
-/// What the desk adds to a card: an edge, without which a light card could not be told from the desk, and a
-/// veil while the card is disabled. Lies over the card, lets every click through, goes where the card goes,
-/// and deletes itself when the card is gone.
+/// The desk's overlay on a card: an edge, without which a light card would merge with the desk, and a veil
+/// while the card is disabled. Passes every click through, follows the card, and deletes itself with it.
 class CardSurround final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Beside @p card, which has a parent.
+    /// Becomes a sibling of @p card, which must have a parent.
     explicit CardSurround(QWidget *card);
 
 protected:

@@ -21,7 +21,7 @@ QAccessibleInterface *makeAccessible(const QString & /*className*/, QObject *obj
 
 void ConversationAccessible::registerFactory()
 {
-    // Qt ignores a factory that it has already.
+    // Qt ignores a factory that is already installed.
     QAccessible::installFactory(makeAccessible);
 }
 
@@ -52,7 +52,7 @@ void ConversationAccessible::tell(const ConversationView &view, const Conversati
 void ConversationAccessible::announce(const ConversationView &view, const ConversationEntry &entry)
 {
     tell(view, entry, QAccessible::ObjectCreated);
-    // What one has said oneself need not be read out.
+    // The user's own words need not be read out.
     if (entry.role != Bubble::Said) {
         tell(view, entry, QAccessible::Alert);
     }

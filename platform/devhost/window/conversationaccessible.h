@@ -14,15 +14,16 @@ class ConversationView;
 
 /**
  * Accessible interface of a conversation: a list of its utterances and cards from top to bottom, in sight or
- * not. An utterance is a list item whose name is what was said and whose description is who said it; a press
- * shows its turn in the inspector. A card is itself, or a graphic with its texts once it was let go.
+ * not. An utterance is a list item whose name is the text and whose description is the speaker; pressing it
+ * shows its turn in the inspector. A card is exposed itself, or as a graphic with its texts once it has been
+ * released.
  */
 class ConversationAccessible final : public QAccessibleWidget
 {
 public:
     static void registerFactory();
 
-    // What happened to @p entry of @p view. They cost nothing while nobody listens.
+    // Report what happened to @p entry of @p view. They cost nothing while no assistive technology listens.
     static void announce(const ConversationView &view, const ConversationEntry &entry);
     static void renamed(const ConversationView &view, const ConversationEntry &entry);
     static void focused(const ConversationView &view, const ConversationEntry &entry);

@@ -7,9 +7,9 @@ namespace devhost {
 
 namespace {
 
-/// A candidate's row with the card's margins: rows and the button below them are then equally wide.
+/// A candidate's row plus the card's margins, so that rows and the button below them are equally wide.
 constexpr int PreferredCardWidth = 350;
-/// Of the column's width; the rest shows who speaks.
+/// Share of the column's width; the rest shows who speaks.
 constexpr double WidestBubble = 0.78;
 
 } // namespace
@@ -33,7 +33,7 @@ void ConversationEntry::measure(int columnWidth, const QFont &font)
 void ConversationEntry::letCardGo()
 {
     record = CardRecord(*card);
-    // Later: it may be one of its own signals that has led here.
+    // Deferred: one of its own signals may have led here.
     card->deleteLater();
     card = nullptr;
 }

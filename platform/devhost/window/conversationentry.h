@@ -13,7 +13,7 @@
 
 namespace devhost {
 
-/// One text of a conversation with its card, and where it stands. The view owns bubble and card.
+/// One text of a conversation with its card and their places. The view owns bubble and card.
 struct ConversationEntry
 {
     ConversationEntry() = default;
@@ -47,7 +47,7 @@ struct ConversationEntry
     /// Replaces the card by a record of it.
     void letCardGo();
 
-    /// Gives text and card their sizes in a column of @p columnWidth pixels.
+    /// Sizes text and card for a column of @p columnWidth pixels.
     void measure(int columnWidth, const QFont &font);
 
 private:

@@ -22,7 +22,7 @@ int ConversationKeyboard::currentPosition() const
     if (position >= 0) {
         return position;
     }
-    // Where one reads first: at the end.
+    // Reading starts at the end.
     for (int i = entries.size() - 1; i >= 0; --i) {
         if (!entries.at(i).text.isEmpty()) {
             return i;
@@ -125,7 +125,7 @@ bool ConversationKeyboard::moveFocus(bool forward)
     ensureVisible(m_view.cardPlace(position));
     m_view.place();
     if (target != card) {
-        // A card that comes into sight for the first time has not been laid out.
+        // A card that comes into sight for the first time has no layout yet.
         QCoreApplication::sendPostedEvents(card, QEvent::LayoutRequest);
         const QPoint corner = m_view.cardPlace(position).topLeft() + target->mapTo(card, QPoint());
         ensureVisible(QRect(corner, target->size()));

@@ -15,32 +15,32 @@ namespace devhost {
 struct ConversationEntry;
 class ConversationView;
 
-/// Where the keyboard is in a conversation: the bubble that the arrows have come to, and the way of the Tab
-/// key through the cards.
+/// Keyboard navigation of a conversation: the bubble reached with the arrow keys, and the Tab order through
+/// the cards.
 class ConversationKeyboard
 {
 public:
-    /// @p view outlives it.
+    /// @p view must outlive it.
     explicit ConversationKeyboard(ConversationView &view) : m_view(view) {}
 
-    /// The current bubble's entry, the last one at first; -1 when there is none.
+    /// The current bubble's entry, initially the last; -1 when there is none.
     int currentPosition() const;
-    /// Whether the ring is to be around the bubble of @p entry.
+    /// Whether the bubble of @p entry shows the ring.
     bool isAt(const ConversationEntry &entry) const;
-    /// Goes @p step bubbles on and scrolls there.
+    /// Moves on by @p step bubbles and scrolls there.
     void moveCurrent(int step);
     void setCurrent(int position);
 
-    /// False for a key that is none of its own.
+    /// Returns false for a key it does not handle.
     bool press(const QKeyEvent &event);
-    /// The menu of the current bubble's turn.
+    /// Opens the menu of the current bubble's turn.
     void openMenu();
 
     /// See ConversationView::moveFocus().
     bool moveFocus(bool forward);
 
 private:
-    /// Scrolls so that @p place, in the viewport, is in sight; what is higher than the page, from its top on.
+    /// Scrolls @p place, in viewport coordinates, into sight; its top when it is taller than the viewport.
     void ensureVisible(const QRect &place);
 
     ConversationView &m_view;

@@ -9,7 +9,7 @@ namespace devhost {
 
 class ConversationView;
 
-/// What the conversation scrolls over; a widget of its own so that assistive technology finds the
+/// The scrolled page of a conversation; a widget of its own so that assistive technology finds the
 /// conversation below it (see ConversationAccessible).
 class ConversationPage final : public QWidget
 {

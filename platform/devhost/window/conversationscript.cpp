@@ -40,7 +40,7 @@ QString scriptOf(const Conversation &conversation)
     QString script;
     for (int id = 1; id <= conversation.lastTurn(); ++id) {
         const Turn turn = conversation.turn(id);
-        // What waits may be a password, which shows only when its turn comes.
+        // Queued input may be a password, which only shows when its turn comes.
         if (turn.id != 0 && turn.state == Turn::Done) {
             script += lineOf(turn) + QLatin1Char('\n');
         }

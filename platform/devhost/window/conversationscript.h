@@ -9,9 +9,8 @@ namespace devhost {
 
 class Conversation;
 
-/// What was said in @p conversation, one finished turn per line, as WindowScript plays it. A password was not
-/// kept by anybody; a comment stands in its place, and in that of a sentence that the script would read as
-/// something else.
+/// The user's side of @p conversation, one finished turn per line, as WindowScript plays it. A comment
+/// replaces passwords, which nobody has kept, and sentences that the script would read as something else.
 QString scriptOf(const Conversation &conversation);
 
 } // namespace devhost

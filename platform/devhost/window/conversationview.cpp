@@ -54,8 +54,8 @@ ConversationView::ConversationView(QWidget *parent)
 
 ConversationView::~ConversationView()
 {
-    // The base class deletes the cards, when there are no entries any more to note it in; cards that were let
-    // go may still be there, too.
+    // The base class deletes the cards, when there are no entries left to update; released cards may still
+    // exist, too.
     const QObjectList shown = viewport()->children();
     for (QObject *child : shown) {
         child->removeEventFilter(this);
@@ -187,7 +187,7 @@ int ConversationView::contentHeight() const
 
 void ConversationView::layOut(int first, bool wasAtEnd)
 {
-    // What stands at the upper edge stays there.
+    // Keeps what is at the upper edge in place.
     const int offset = verticalScrollBar()->value();
     const auto anchor = std::find_if(m_entries.begin(), m_entries.end(), [offset](const Entry &entry) {
         return entry.isSized && entry.bottom() > offset;
@@ -221,7 +221,7 @@ void ConversationView::place()
                                              [](const Entry &entry, int y) { return entry.bottom() < y; });
     const auto endShown = std::lower_bound(firstShown, m_entries.end(), offset + page,
                                            [](const Entry &entry, int y) { return entry.top < y; });
-    // Bubbles first become free, then are used again.
+    // Releases bubbles first, then reuses them.
     for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry) {
         if (entry < firstShown || entry >= endShown) {
             release(*entry);
@@ -301,7 +301,7 @@ void ConversationView::setCardScale(qreal scale)
 
 void ConversationView::cardChanged()
 {
-    // A card changes several times before it is shown again; one layout for all of it.
+    // A card changes several times before it is shown again; lay out once for all of it.
     if (m_isRelayoutPending) {
         return;
     }
@@ -341,7 +341,7 @@ bool ConversationView::eventFilter(QObject *watched, QEvent *event)
 
 void ConversationView::resizeEvent(QResizeEvent *event)
 {
-    // Before the resize the end may have been the end of a smaller range.
+    // The end before the resize may have been the end of a smaller range.
     const bool wasAtEnd = isAtEnd();
     QAbstractScrollArea::resizeEvent(event);
     layOut(0, wasAtEnd);

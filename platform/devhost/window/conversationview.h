@@ -15,15 +15,15 @@ class EndButton;
 class WaitingDots;
 
 /**
- * The conversation from top to bottom: what was said on the right, answers and their cards on the left. What
- * belongs to a turn stands together, so a late answer stands above what waits in the queue.
+ * The conversation from top to bottom: the user's words on the right, answers and their cards on the left. A
+ * turn stays together, so a late answer appears above what is still queued.
  *
- * It stays at its end while it is there, and keeps its position once the user has scrolled away. Widgets
- * exist only for the bubbles in sight and for the newest cards; older cards are kept as pictures. So
- * thousands of turns cost little.
+ * Follows the end while it is there, and keeps its position once the user has scrolled away. Widgets exist
+ * only for the bubbles in sight and for the newest cards; older cards are kept as pictures, so that thousands
+ * of turns cost little.
  *
- * With the keyboard one goes from bubble to bubble with the arrows, opens the menu of its turn with the Menu
- * key, and comes to the cards' controls with Tab, also to those out of sight.
+ * The arrow keys move from bubble to bubble, the Menu key opens the menu of the current bubble's turn, and
+ * Tab reaches the cards' controls, also those out of sight.
  */
 class ConversationView final : public QAbstractScrollArea
 {
@@ -33,21 +33,21 @@ public:
     explicit ConversationView(QWidget *parent = nullptr);
     ~ConversationView() override;
 
-    /// @p isQueued: it waits for its turn.
+    /// @p isQueued: still waits for its turn.
     void addSaid(int turn, const QString &text, bool isQueued);
     void changeSaid(int turn, const QString &text);
     void setStarted(int turn);
-    /// Takes over @p card, which may be null.
+    /// Takes ownership of @p card, which may be null.
     void addReply(int turn, const QString &text, QWidget *card);
-    /// Something about the turn that nobody has said.
+    /// Adds a note about the turn that neither side has said.
     void addNotice(int turn, const QString &text);
-    /// Dots after @p turn; 0 for none.
+    /// Shows waiting dots after @p turn; 0 for none.
     void setWaiting(int turn);
 
-    /// Of the texts on cards, those to come too.
+    /// Scales the texts on cards, including future ones.
     void setCardScale(qreal scale);
 
-    /// Forgets everything, cards included.
+    /// Clears the conversation, cards included.
     void clear();
 
     int count() const { return m_entries.size(); }
@@ -55,15 +55,16 @@ public:
     bool isAtEnd() const;
     void scrollToEnd();
 
-    /// Moves the focus to the next or the previous control of a card, from above the first or from below the
-    /// last one if it is elsewhere, and scrolls there. False when there is none.
+    /// Moves the focus to the next or the previous control of a card and scrolls there; with the focus
+    /// elsewhere, starts before the first or behind the last. Returns false when there is none.
     bool moveFocus(bool forward) { return m_keyboard.moveFocus(forward); }
 
     const EntryList &entries() const { return m_entries; }
-    /// Where the text, or the card, of the entry at @p position stands in the viewport, in sight or not.
+    /// The rectangle of the text, or of the card, of the entry at @p position in the viewport, in sight or
+    /// not.
     QRect textPlace(int position) const;
     QRect cardPlace(int position) const;
-    /// Puts the widgets of what is in sight on their places.
+    /// Places the widgets of what is in sight.
     void place();
     ConversationKeyboard &keyboard() { return m_keyboard; }
 
@@ -93,11 +94,11 @@ private:
     int columnWidth() const;
     int columnLeft() const { return (viewport()->width() - columnWidth()) / 2; }
     int contentHeight() const;
-    /// Gives the entries from @p first on their places. Keeps the position, or the end when @p wasAtEnd.
+    /// Lays out the entries from @p first on. Keeps the position, or the end when @p wasAtEnd.
     void layOut(int first, bool wasAtEnd);
     void placeEntry(int position);
-    /// Lets go of what shows @p entry. A card with the focus stays, out of sight: hiding it would hand the
-    /// focus to another one, and the view would go there.
+    /// Releases the widgets of @p entry. A card with the focus stays, out of sight: hiding it would pass the
+    /// focus on, and the view would scroll there.
     void release(Entry &entry);
     Bubble *takeBubble();
     void cardChanged();

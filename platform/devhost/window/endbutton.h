@@ -7,7 +7,7 @@
 
 namespace devhost {
 
-/// A round button with an arrow that leads to the conversation's end. Opaque: it lies over bubbles.
+/// A round button with an arrow that scrolls to the conversation's end. Opaque, since it lies over bubbles.
 class EndButton final : public ViewButton
 {
     Q_OBJECT

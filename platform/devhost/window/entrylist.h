@@ -9,29 +9,29 @@
 
 namespace devhost {
 
-/// The entries of a conversation from top to bottom. What belongs to a turn stands together.
+/// The entries of a conversation from top to bottom. A turn's entries stay together.
 class EntryList : public QVector<ConversationEntry>
 {
 public:
-    /// Where the next entry of @p turn belongs.
+    /// The position for the next entry of @p turn.
     int positionAfter(int turn) const;
-    /// What was said to begin @p turn; -1 when it is unknown.
+    /// The entry that began @p turn; -1 when it is unknown.
     int saidPosition(int turn) const;
-    /// The entry whose card holds @p widget, or is it; -1 when there is none.
+    /// The entry whose card is or contains @p widget; -1 when there is none.
     int positionOfCardWith(const QWidget &widget) const;
     int positionOfSerial(int serial) const;
 
-    /// Gives the entries from @p first on their sizes and places. Below @p waitingTurn, 0 for none, stays
-    /// room for dots of @p dotsHeight.
+    /// Lays out the entries from @p first on, leaving room for dots of @p dotsHeight below @p waitingTurn, 0
+    /// for none.
     void measure(int first, int columnWidth, const QFont &font, int waitingTurn, int dotsHeight);
 
-    /// Of the texts on the live cards.
+    /// Scales the texts on the live cards.
     void scaleCards(qreal scale) const;
 
     static constexpr int Margin = 16; ///< above the first and below the last
     static constexpr int Gap = 10;    ///< between two
 
-    /// Replaces the live cards above the newest @p kept by records of them, but for those that @p isNeeded.
+    /// Replaces the live cards above the newest @p kept by records, except those that @p isNeeded.
     template <typename Predicate>
     void letOldCardsGo(int kept, Predicate isNeeded)
     {

@@ -8,16 +8,16 @@
 
 namespace devhost {
 
-/// What was typed before, to be gone through with the arrow keys. A line that was begun is kept at the end.
+/// Earlier input, recalled with the arrow keys. A line that was begun is kept at the end.
 class InputHistory
 {
 public:
     void add(const QString &text);
     /// Forgets a text that turned out to be a secret.
     void remove(const QString &text);
-    /// The text before the present one; @p present itself at the oldest.
+    /// The text before the current one; @p present itself at the oldest.
     QString older(const QString &present);
-    /// The text after the present one, at last the line that was begun.
+    /// The text after the current one, and finally the line that was begun.
     QString newer(const QString &present);
 
 private:

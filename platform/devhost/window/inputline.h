@@ -10,7 +10,7 @@
 
 namespace devhost {
 
-/// The line one types in: up and down go through what was typed before, Escape clears it.
+/// The input line: Up and Down recall earlier input, Escape clears it.
 class InputLine final : public QLineEdit
 {
     Q_OBJECT
@@ -18,14 +18,14 @@ class InputLine final : public QLineEdit
 public:
     explicit InputLine(QWidget *parent = nullptr);
 
-    /// Empties the line and hands over what it held.
+    /// Clears the line and returns its text.
     QString takeText();
     InputHistory &history() { return m_history; }
-    /// Whether what is typed is a password: it is not shown then.
+    /// Whether the input is a password and not shown.
     void setSecret(bool isSecret);
 
 Q_SIGNALS:
-    /// A key for scrolling what stands above.
+    /// A key that scrolls the conversation.
     void pageWanted(QAbstractSlider::SliderAction action);
 
 protected:

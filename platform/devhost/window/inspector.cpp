@@ -64,7 +64,7 @@ Inspector::Inspector(QWidget *parent)
     m_search->setPlaceholderText(tr("Find on this page"));
     m_search->setAccessibleName(m_search->placeholderText());
     m_search->setClearButtonEnabled(true);
-    // While one types, what is marked already may still be the right place; Return goes on to the next one.
+    // While typing, the current hit may still match; Return moves on to the next.
     connect(m_search, &QLineEdit::textEdited, this,
             [this] { search(shownEdit()->textCursor().selectionStart()); });
     connect(m_search, &QLineEdit::returnPressed, this,

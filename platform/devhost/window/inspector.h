@@ -16,8 +16,8 @@ QT_END_NAMESPACE
 
 namespace devhost {
 
-/// The pane for plugin authors: what went in and out of the plugin in one turn, and a field to send it a
-/// semantic JSON as it is.
+/// The pane for plugin authors: a turn's input and output, and a field that sends raw semantic JSON to the
+/// plugin.
 class Inspector final : public QWidget
 {
     Q_OBJECT
@@ -26,10 +26,10 @@ public:
     explicit Inspector(QWidget *parent = nullptr);
 
     void show(const Turn &turn);
-    /// The turn that is shown, 0 for none.
+    /// The turn shown, 0 for none.
     int shownTurn() const { return m_turn; }
 
-    /// Where one types what is looked for on the page in front.
+    /// The search field for the current page.
     QLineEdit *searchField() const { return m_search; }
 
 Q_SIGNALS:
@@ -44,7 +44,7 @@ private:
     QWidget *makeLogTab();
     QPlainTextEdit *shownEdit() const;
     void copyShown() const;
-    /// Marks the next place from the position @p from on, or the first one.
+    /// Marks the next hit at or after position @p from, or else the first.
     void search(int from);
     void filterLog();
     void followFont();

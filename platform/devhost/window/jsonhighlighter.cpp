@@ -11,7 +11,7 @@ namespace devhost {
 
 namespace {
 
-/// A key with its colon, a string, a number, a word of JSON.
+/// A key with its colon, a string, a number, a JSON literal.
 const QRegularExpression &pieces()
 {
     static const QRegularExpression expression(

@@ -7,8 +7,8 @@
 
 namespace devhost {
 
-/// Colours the keys, strings, numbers and words of JSON, also where other text stands between. Its colours
-/// are those of the theme: one for each kind, mixed from the palette's.
+/// Colours the keys, strings, numbers and literals of JSON, also within other text. One colour for each kind,
+/// mixed from the palette.
 class JsonHighlighter final : public QSyntaxHighlighter
 {
     Q_OBJECT

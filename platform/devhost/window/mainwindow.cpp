@@ -106,7 +106,7 @@ void MainWindow::build()
     m_splitter->setStretchFactor(1, 2);
     m_splitter->setChildrenCollapsible(false);
     setCentralWidget(m_splitter);
-    // As one reads: the conversation, then what one says to it.
+    // In reading order: the conversation, then the input.
     setTabOrder(m_view, m_input);
     setTabOrder(m_input, m_send);
 }
@@ -208,7 +208,7 @@ void MainWindow::follow()
     });
     connect(&m_conversation, &Conversation::repliedLater, this, [this](int turn, const Reply &answer) {
         reply(turn, answer);
-        // After a button of a card one goes on typing, not on whatever is next to the button.
+        // After a card's button the user goes on typing, not with whatever is next to the button.
         const QWidget *focus = QApplication::focusWidget();
         if (focus == nullptr || m_view->isAncestorOf(focus)) {
             m_input->setFocus();
@@ -310,7 +310,7 @@ void MainWindow::inspect(int turn)
 void MainWindow::changeEvent(QEvent *event)
 {
     QMainWindow::changeEvent(event);
-    // Meanwhile something may have been done in the application.
+    // The user may have changed something in the application meanwhile.
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         m_application->refresh();
     }
@@ -334,7 +334,7 @@ bool MainWindow::focusNextPrevChild(bool next)
         m_view->setFocus(Qt::BacktabFocusReason);
         return true;
     }
-    // The cards stand in the chain where they came into the window; they have been visited with the view.
+    // The focus chain has the cards in the order of their creation; they were visited with the view.
     QWidget *const from = focus == nullptr ? this : isInView ? m_view : focus;
     QWidget *candidate = from;
     do {

@@ -24,7 +24,7 @@ class Inspector;
 class Speaker;
 class StatusLine;
 
-/// The host's window: the conversation, the line to type in, and the inspector beside it.
+/// The host's window: the conversation, the input line, and the inspector beside it.
 class MainWindow final : public QMainWindow
 {
     Q_OBJECT
@@ -33,9 +33,9 @@ public:
     /// Both must outlive the window.
     MainWindow(Conversation &conversation, Appearance &appearance, QWidget *parent = nullptr);
 
-    /// Says above the conversation why nothing will be answered.
+    /// Shows above the conversation why nothing will be answered.
     void showProblem(const QString &problem);
-    /// As if @p text had been typed and sent.
+    /// Acts as if @p text had been typed and sent.
     void submit(const QString &text);
 
     ConversationView *view() const { return m_view; }

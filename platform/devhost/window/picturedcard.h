@@ -9,7 +9,7 @@
 
 namespace devhost {
 
-/// Shows a card that was let go as it last looked. It cannot be used any more, which its tool tip says.
+/// Shows a released card as it last looked. Its tool tip says that it can no longer be used.
 class PicturedCard final : public QWidget
 {
     Q_OBJECT

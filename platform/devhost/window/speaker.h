@@ -8,8 +8,8 @@
 namespace devhost {
 
 /**
- * Reads replies aloud where the desktop has an engine for it; elsewhere it does nothing, without complaint.
- * Off at first. The engine is only started when it is wanted.
+ * Reads replies aloud where the desktop has a speech engine, and silently does nothing elsewhere. Initially
+ * off. The engine is started on first use.
  */
 class Speaker final : public QObject
 {

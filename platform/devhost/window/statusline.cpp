@@ -50,7 +50,7 @@ StatusLine::StatusLine(QWidget *parent)
     layout->addStretch(1);
     layout->addWidget(m_conference);
     layout->addWidget(m_leave);
-    // As high with the button as without.
+    // Keeps the height that the button needs.
     setMinimumHeight(layout->contentsMargins().bottom() + m_leave->sizeHint().height());
     show(ApplicationState());
 }

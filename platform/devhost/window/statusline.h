@@ -14,8 +14,8 @@ namespace devhost {
 
 struct ApplicationState;
 
-/// One line below the conversation: whether the application is reached, who is logged in, and the conference
-/// that one is in, with a button to leave it.
+/// The line below the conversation: whether the application is reached, who is logged in, and the current
+/// conference with a button to leave it.
 class StatusLine final : public QWidget
 {
     Q_OBJECT

@@ -7,8 +7,8 @@
 
 namespace devhost {
 
-/// Three dots beside a bubble that open the menu of its turn. Not in the Tab order: with the keyboard the
-/// Menu key does it.
+/// Three dots beside a bubble that open the menu of its turn. Not in the Tab order: the Menu key does the
+/// same.
 class TurnButton final : public ViewButton
 {
     Q_OBJECT

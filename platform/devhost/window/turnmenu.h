@@ -15,11 +15,11 @@ namespace devhost {
 class Conversation;
 struct Turn;
 
-/// The number of the conference that @p turn is about, from its answers; empty when there is none or several.
+/// The number of the conference in @p turn's answers; empty when there is none or more than one.
 QString conferenceNumberOf(const Turn &turn);
 
-/// What can be done with one bubble of @p turn whose text is @p text. The menu deletes itself when it is
-/// closed. A turn that holds a password cannot be asked again: nobody has kept it.
+/// Creates the menu for a bubble of @p turn with @p text. Deletes itself when closed. A turn that holds a
+/// password cannot be asked again, since the password was not kept.
 QMenu *makeTurnMenu(const Turn &turn, const QString &text, Conversation &conversation, QWidget *parent);
 
 } // namespace devhost

@@ -13,10 +13,10 @@ namespace turntexts {
 
 namespace {
 
-/// A longer answer would make the pane slow; its whole length is said.
+/// A longer answer would make the pane slow; its full length is stated.
 constexpr int LongestText = 100000;
 
-/// By two instead of Qt's four.
+/// Two spaces instead of Qt's four.
 QString narrowed(const QString &json)
 {
     QStringList lines = json.split(QLatin1Char('\n'));

@@ -7,13 +7,13 @@
 
 #include <QString>
 
-/// What the inspector shows of a turn, as plain texts.
+/// The texts that the inspector shows of a turn.
 namespace devhost {
 namespace turntexts {
 
-/// The semantic JSON, indented; as it came when it is none.
+/// The semantic JSON, indented; unchanged when it is not valid.
 QString semantic(const Turn &turn);
-/// Each request with its parameters, answer, code and time, and where the turn's time went.
+/// Each request with its parameters, answer, code and duration, and how the turn's time was spent.
 QString requests(const Turn &turn);
 QString reply(const Turn &turn);
 QString log(const Turn &turn);

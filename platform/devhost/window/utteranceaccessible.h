@@ -12,8 +12,8 @@ namespace devhost {
 class ConversationPage;
 struct ConversationEntry;
 
-/// One entry of a conversation to assistive technology: what was said, or the picture of a card that was let
-/// go. There is no widget behind it, because most entries are out of sight.
+/// Accessible interface of one entry: an utterance, or the picture of a released card. Not backed by a
+/// widget, because most entries are out of sight.
 class UtteranceAccessible final : public QAccessibleInterface, public QAccessibleActionInterface
 {
 public:

@@ -7,8 +7,8 @@
 
 namespace devhost {
 
-/// What the conversation's own buttons share: a fixed square, the hand under the mouse, and @p name both as
-/// tool tip and for screen readers. Derived classes paint themselves.
+/// Base of the conversation's own buttons: a fixed square, a pointing hand, and @p name as tool tip and
+/// accessible name. Derived classes paint themselves.
 class ViewButton : public QAbstractButton
 {
     Q_OBJECT

@@ -8,7 +8,7 @@
 
 namespace devhost {
 
-/// Three dots that move while an answer is on its way.
+/// Three animated dots while an answer is pending.
 class WaitingDots final : public QWidget
 {
     Q_OBJECT

@@ -5,8 +5,8 @@
 
 namespace devhost {
 
-/// Builds and paints one of everything that cards are made of, out of sight, so that the first card of the
-/// process does not pay for fonts and icons. Some tens of milliseconds; for when nothing else is to be done.
+/// Builds and paints one of each part of a card out of sight, so that the first card of the process does not
+/// pay for fonts and icons. Takes some tens of milliseconds; call it when idle.
 void warmUp();
 
 } // namespace devhost

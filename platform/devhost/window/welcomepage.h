@@ -8,7 +8,7 @@
 
 namespace devhost {
 
-/// What stands there before anything was said: a greeting and sentences to click on.
+/// The page shown before anything was said: a greeting and clickable examples.
 class WelcomePage final : public QWidget
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ class WelcomePage final : public QWidget
 public:
     explicit WelcomePage(QWidget *parent = nullptr);
 
-    /// Each works on the sample as the first sentence, and so do all of them one after another.
+    /// Each works on the sample as the first sentence, and so do all of them in order.
     static QStringList examples();
 
 Q_SIGNALS:

@@ -13,31 +13,31 @@ class Conversation;
 class MainWindow;
 
 /**
- * Plays a conversation in the window: a sentence or semantic JSON per line, "#" and empty lines left out,
- * "@press TEXT" for a click on the last button with that text. With a folder it pictures the window after
- * each line.
+ * Plays a conversation in the window: one sentence or semantic JSON per line; skips empty lines and those
+ * that start with "#"; "@press TEXT" clicks the last button with that text. Given a folder, it saves a
+ * picture of the window after each line.
  */
 class WindowScript final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What is given must outlive the script. @p folder may be empty.
+    /// The arguments must outlive the script. @p folder may be empty.
     WindowScript(MainWindow &window, Conversation &conversation, std::istream &input, const QString &folder,
                  QObject *parent = nullptr);
     void start();
 
-    /// Whether a script says @p line, rather than leaving it out or clicking.
+    /// Whether the script would say @p line, rather than skip it or click.
     static bool isSaid(const QString &line);
 
 Q_SIGNALS:
-    /// False when a picture could not be written or a button was not there.
+    /// False when a picture could not be written or a button was not found.
     void finished(bool isFine);
 
 private:
     void next();
     void press(const QString &text);
-    /// Goes on when the window has shown what came of the line.
+    /// Continues once the window has shown the outcome of the line.
     void settle();
 
     MainWindow &m_window;

@@ -31,7 +31,7 @@ void LGuiApplicationHelper::setPaletteType(ColorType type)
     }
     m_paletteType = type;
     const QPalette palette = type == UnknownType ? m_desktopPalette : standardPalette(type);
-    // The widgets of an application without QApplication do not exist.
+    // Without a QApplication there are no widgets to ask.
     if (qobject_cast<QApplication *>(qGuiApp) != nullptr) {
         QApplication::setPalette(palette);
     } else {
@@ -58,7 +58,7 @@ LGuiApplicationHelper::ColorType LGuiApplicationHelper::toColorType(const QPalet
 
 void LGuiApplicationHelper::followApplication()
 {
-    // The helper may be asked for before there is an application, and tests make several one after another.
+    // The helper may be used before there is an application, and tests create several in a row.
     if (m_followed == qGuiApp || qGuiApp == nullptr) {
         return;
     }

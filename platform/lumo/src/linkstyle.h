@@ -10,21 +10,21 @@ class QAbstractButton;
 class QStyleOptionButton;
 QT_END_NAMESPACE
 
-/// The look of one LCommandLinkButton. A style, because overrides in the button's header would tie whoever
-/// derives from it to this build of the toolkit.
+/// The look of one LCommandLinkButton. A style, because overrides in the button's header would tie derived
+/// classes to this build of the toolkit.
 class LinkStyle final : public QCommonStyle
 {
     Q_OBJECT
 
 public:
-    /// For the life of the button.
+    /// Lives as long as the button.
     static void giveTo(QAbstractButton &button);
 
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget = nullptr) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
                            const QWidget *widget = nullptr) const override;
-    /// Shows a text that is elided as tool tip, unless the button has one of its own.
+    /// Sets the full text as tool tip when it is elided, unless the button has a tool tip of its own.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

@@ -17,7 +17,7 @@ constexpr int FieldPadding = 4;
 constexpr int ButtonPadding = 12; ///< on either side of a text
 constexpr int CellMargin = 6;     ///< columns never touch
 
-/// Only for who uses the keyboard.
+/// Only after keyboard navigation.
 void drawFocusRing(const QStyleOption *option, QPainter *painter)
 {
     if (option->state.testFlag(QStyle::State_HasFocus) &&
@@ -43,7 +43,7 @@ void LStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
     case PE_FrameDefaultButton:
         return;
     case PE_FrameFocusRect:
-        // The ring of a button goes around all of it, not around its text as this would.
+        // A button's ring surrounds all of it; the base class would only surround the text.
         if (qobject_cast<const QPushButton *>(widget) == nullptr) {
             drawFocusRing(option, painter);
         }
@@ -54,7 +54,7 @@ void LStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
             break; // within a combo box or a spin box, which have one
         }
         QStyleOption field(*option);
-        // A line edit is always sunken, and nothing happens where one clicks.
+        // Line edits are always sunken, and a click changes nothing.
         field.state &= ~(State_Sunken | State_MouseOver);
         StylePainting::field(*painter, field);
         drawFocusRing(option, painter);

@@ -12,8 +12,7 @@ LSuggestButton::LSuggestButton(const QString &text, QWidget *parent) : QPushButt
 
 void LSuggestButton::paintEvent(QPaintEvent * /*event*/)
 {
-    // The colours are put in while painting and not into the widget's palette, which then belongs to its
-    // user.
+    // Sets the colours while painting rather than in the widget's palette, which stays free for the user.
     QStyleOptionButton option;
     initStyleOption(&option);
     for (const auto group : {QPalette::Active, QPalette::Inactive}) {

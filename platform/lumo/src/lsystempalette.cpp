@@ -27,7 +27,7 @@ void LSystemPalette::stop()
 
 bool LSystemPalette::eventFilter(QObject *watched, QEvent *event)
 {
-    // The platform tells its windows, once each.
+    // The platform notifies each of its windows once.
     if (event->type() == QEvent::ThemeChange && watched->isWindowType() && m_isFollowing) {
         adopt();
     }
@@ -38,7 +38,7 @@ void LSystemPalette::adopt()
 {
     auto *helper = LGuiApplicationHelper::instance();
     m_isAdopting = true;
-    // First the desktop's own, which says what it is like.
+    // Back to the desktop's own palette first, which tells its theme.
     helper->setPaletteType(LGuiApplicationHelper::UnknownType);
     helper->setPaletteType(helper->themeType());
     m_isAdopting = false;
@@ -49,7 +49,7 @@ void LSystemPalette::paletteChanged()
     if (!m_isFollowing || m_isAdopting) {
         return;
     }
-    // Somebody else gave the application another one: that is the desktop's now.
+    // Set by somebody else: this now counts as the desktop's palette.
     auto *helper = LGuiApplicationHelper::instance();
     const QPalette desktop = QGuiApplication::palette();
     m_isAdopting = true;

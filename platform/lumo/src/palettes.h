@@ -5,7 +5,7 @@
 
 #include <QPalette>
 
-/// The toolkit's colours. What is disabled has the same colours, fainter.
+/// The toolkit's colours. The disabled group has the same colours, fainter.
 namespace Palettes {
 QPalette light();
 QPalette dark();

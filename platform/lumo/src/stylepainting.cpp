@@ -59,7 +59,7 @@ QPen edgePen(const QStyleOption &option)
     return QPen(edge, 1);
 }
 
-/// Half a pixel inside, so that a line of one pixel falls on one row of pixels.
+/// Insets by half a pixel, so that a line of one pixel covers one row of pixels.
 QRectF inside(const QRect &rect, qreal lineWidth)
 {
     const qreal inset = lineWidth / 2;
@@ -76,7 +76,7 @@ void StylePainting::button(QPainter &painter, const QStyleOption &option, bool f
     }
     const PainterState state(painter);
     painter.setBrush(groundOf(option, QPalette::Button));
-    // The accent colour stands out by itself.
+    // The accent colour stands out without an edge.
     const bool isAccent = option.palette.color(QPalette::Button) == option.palette.color(QPalette::Highlight);
     painter.setPen(flat || isAccent ? QPen(Qt::NoPen) : edgePen(option));
     painter.drawRoundedRect(flat || isAccent ? QRectF(option.rect) : inside(option.rect, 1), Radius, Radius);
@@ -106,7 +106,7 @@ void StylePainting::headerSection(QPainter &painter, const QStyleOption &option,
     painter.setPen(edgePen(option));
     painter.drawLine(rect.bottomLeft(), rect.bottomRight());
     if (!isLast) {
-        // Where a column is made wider.
+        // The handle that resizes the column.
         painter.drawLine(rect.topRight() + QPointF(0, HeaderInset),
                          rect.bottomRight() - QPointF(0, HeaderInset));
     }
@@ -128,8 +128,8 @@ void StylePainting::tab(QPainter &painter, const QStyleOption &option)
 void StylePainting::focusRing(QPainter &painter, const QStyleOption &option)
 {
     const PainterState state(painter);
-    // On a ground in the accent colour a ring in that colour could not be seen, nor one of another colour at
-    // the edge, where it may have the colour of what is around.
+    // On an accent-coloured ground a ring in that colour would be invisible, and so might any other colour at
+    // the edge, depending on the surroundings.
     const bool onAccent = option.palette.color(QPalette::Button) == option.palette.color(QPalette::Highlight);
     const auto role = onAccent ? QPalette::HighlightedText : QPalette::Highlight;
     const qreal inset = onAccent ? RingWidth : 0;

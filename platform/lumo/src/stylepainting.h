@@ -12,16 +12,16 @@ class QRect;
 class QStyleOption;
 QT_END_NAMESPACE
 
-/// The shapes that LStyle draws, in the colours of the option's palette. They leave the painter as it was.
+/// Draws LStyle's shapes in the colours of the option's palette. The painter's state is restored.
 namespace StylePainting {
 
 void button(QPainter &painter, const QStyleOption &option, bool flat);
-/// The ground of a combo box, a spin box or a line edit.
+/// The background of a combo box, a spin box or a line edit.
 void field(QPainter &painter, const QStyleOption &option);
-/// Around a list or a text.
+/// The frame of a list or a text.
 void frame(QPainter &painter, const QStyleOption &option);
 void headerSection(QPainter &painter, const QStyleOption &option, bool isLast);
-/// A tab on top of its pages; the selected one has a line in the accent's colour below.
+/// A tab above its pages; the selected one is underlined in the accent colour.
 void tab(QPainter &painter, const QStyleOption &option);
 void focusRing(QPainter &painter, const QStyleOption &option);
 void checkMark(QPainter &painter, const QStyleOption &option);

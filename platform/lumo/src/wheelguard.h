@@ -9,14 +9,14 @@ QT_BEGIN_NAMESPACE
 class QWidget;
 QT_END_NAMESPACE
 
-/// Lets the wheel pass a widget by that does not have the focus. A filter, because an override in a header
-/// would tie whoever derives from the class to this build of the toolkit.
+/// Lets wheel events pass a widget without the focus. An event filter, because an override in a header would
+/// tie derived classes to this build of the toolkit.
 class WheelGuard final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// For the life of the widget.
+    /// Lives as long as the widget.
     static void watch(QWidget &widget);
 
     bool eventFilter(QObject *watched, QEvent *event) override;

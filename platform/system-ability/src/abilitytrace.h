@@ -8,8 +8,8 @@
 #include <chrono>
 
 /**
- * Writes each finished request as one debug record of the category "kelvane.ability", which is off unless the
- * process asks for it. The record's text is a JSON object, passwords blotted out:
+ * Writes each finished request as one debug message of the category "kelvane.ability", which is off by
+ * default. The message is a JSON object, with passwords masked:
  *
  *     {"action":"Join Conference","answer":"{\"ret\":\"OK\"}","code":0,"ms":3.2,
  *      "parameters":"{\"conferenceId\":\"600100\",\"password\":\"••••\"}"}
@@ -22,15 +22,15 @@ public:
     void finish(int code, const QString &answer) const;
 
     /**
-     * Says that a request whose caller was told that it failed has been carried out all the same: its answer
-     * came too late, or the application died after it. A warning of the same category, written before the
-     * next request is finished:
+     * Reports that a request whose caller was told that it failed has been carried out all the same: its
+     * answer came too late, or the application died after it. A warning of the same category, written before
+     * the next request is finished:
      *
      *     {"action":"Create Conference","performedAfterAll":true}
      */
     static void tellPerformedAfterAll(const QString &action);
 
-    /// @p parameters with the value of "password" replaced; as it came when it is no JSON object or has none.
+    /// @p parameters with the value of "password" masked; unchanged when it is no JSON object or has none.
     static QString withoutPassword(const QString &parameters);
 
 private:

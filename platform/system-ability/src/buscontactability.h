@@ -5,12 +5,12 @@
 
 #include <kelvane/contactability.h>
 
-/// Carries requests to the application over the session bus. Blocks the thread that asks, never longer than
-/// the time-out, and runs no event loop there.
+/// Sends requests to the application over the session bus. Blocks the calling thread, never longer than the
+/// time-out, without running an event loop there.
 class BusContactAbility final : public ContactAbility
 {
 public:
-    /// A time-out that is not above 0 stands for the default.
+    /// A time-out of 0 or less stands for the default.
     void setTimeout(const int &msecs) override;
     int request(const QString &action, const QString &parameters, QString &answer) override;
 

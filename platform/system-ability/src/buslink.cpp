@@ -24,16 +24,16 @@
 
 namespace {
 
-/// The bus's own time-out comes after the caller's: until then, "no reply" from the bus can only mean that
-/// the application has gone.
+/// Makes the bus's own time-out later than the caller's: until then, "no reply" from the bus can only mean
+/// that the application has gone.
 constexpr int GraceMsecs = 1000;
 
-/// Whoever ends the process waits so long for the thread, which usually takes no time.
+/// How long the end of the process waits for the thread, which usually takes no time.
 constexpr int LongestFarewellMsecs = 3000;
 
-/// So many requests without an answer are remembered.
+/// Requests without an answer that are remembered.
 constexpr int MostUnclear = 100;
-/// And so often the application may fail to tell what became of one.
+/// How often the application may fail to report what became of one.
 constexpr int MostErrors = 10;
 
 PendingRequest::Result resultOf(const QDBusPendingReply<QString> &reply)
@@ -42,7 +42,7 @@ PendingRequest::Result resultOf(const QDBusPendingReply<QString> &reply)
         const int code = codeOf(reply.error());
         return {code, {}, reply.error().name(), reply.error().message(), code == AbilityCode::TimedOut};
     }
-    // A typed reply only looks at as many arguments as it has types.
+    // A typed reply checks only as many arguments as it has types.
     const QString signature = reply.reply().signature();
     if (signature != QLatin1String("s")) {
         return {AbilityCode::MalformedAnswer, {}, QStringLiteral("signature"), signature};
@@ -54,7 +54,7 @@ PendingRequest::Result resultOf(const QDBusPendingReply<QString> &reply)
 
 namespace {
 
-/// Ends the link with the process.
+/// Ends the link at the end of the process.
 class LinkHolder
 {
 public:
@@ -65,8 +65,7 @@ public:
             delete m_link;
             return;
         }
-        // Left to the process's end, with all that it uses: also its code, should somebody unload the
-        // library.
+        // Leaks the link with everything it uses, including its code, in case somebody unloads the library.
         Dl_info self{};
         static const char ours = 0;
         if (dladdr(&ours, &self) != 0) {
@@ -90,12 +89,12 @@ BusLink &BusLink::instance()
 
 BusLink::BusLink() : m_thread(std::make_unique<QThread>())
 {
-    // Makes Qt's own manager of connections exist before this object does, and so outlive it.
+    // Creates Qt's own connection manager before this object, so that it is destroyed after it.
     const QDBusConnection older(QStringLiteral("contact-ability"));
     m_thread->setObjectName(QStringLiteral("contact-ability"));
     moveToThread(m_thread.get());
-    // At the end of the process there is no application object any more, and without one no event reaches a
-    // thread; a direct connection does.
+    // At the end of the process there is no application object, and without one no event reaches a thread; a
+    // direct connection works.
     connect(
         m_thread.get(), &QThread::finished, this,
         [this] {
@@ -112,8 +111,7 @@ bool BusLink::end()
 {
     m_isEnding = true; // ends a wait for a bus that does not answer
     m_thread->quit();
-    // Looked at again and again, because a bounded wait goes by the calendar in some surroundings and ends at
-    // once where that is set.
+    // Polled, because a bounded wait may follow the wall clock and end at once when that is set.
     QElapsedTimer timer;
     timer.start();
     while (!m_thread->isFinished()) {
@@ -149,7 +147,7 @@ void BusLink::askLater(const std::shared_ptr<PendingRequest> &request)
 
 void BusLink::askWhatBecame()
 {
-    // In front of the next request on the same connection, and so answered before it.
+    // Precedes the next request on the same connection, and so is answered before it.
     for (const Unclear &unclear : qAsConst(m_unclear)) {
         auto *watcher = new QDBusPendingCallWatcher(m_proxy->WasPerformed(unclear.request->id), this);
         connect(watcher, &QDBusPendingCallWatcher::finished, this,
@@ -170,7 +168,7 @@ void BusLink::take(const std::shared_ptr<PendingRequest> &request, const QDBusPe
         return; // two requests have asked, and the other one was answered first
     }
     if (reply.isError()) {
-        // An application of an older version never knows; one that dies or hangs may know later.
+        // An application of an older version never knows; one that crashed or hangs may know later.
         const bool isHopeless = reply.error().type() == QDBusError::UnknownMethod;
         if (isHopeless || ++unclear->errors == MostErrors) {
             m_unclear.erase(unclear);
@@ -237,7 +235,7 @@ QDBusConnection BusLink::openConnection(const PendingRequest &request)
         const QDBusConnection bus = SessionBus::connect(m_connectionName, [this, &request, &isSame] {
             return !m_isEnding && request.remainingMsecs() > 0 && isSame();
         });
-        // Another address may have come while this one was silent.
+        // The address may have changed while this one was silent.
         if (bus.isConnected() || m_isEnding || request.remainingMsecs() == 0 || isSame()) {
             return bus;
         }

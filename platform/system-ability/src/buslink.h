@@ -16,9 +16,9 @@ class Contact1Proxy;
 class PendingRequest;
 
 /**
- * The process's one connection to the application. It has a thread of its own, because whoever asks blocks
- * the thread it asks from, be it the one with the windows, and a reply needs a thread that is awake. One for
- * the whole process, made by the first request; connects again when the bus was restarted.
+ * The process's one connection to the application, created by the first request; reconnects when the bus was
+ * restarted. Has a thread of its own, because callers block theirs, the GUI thread included, and receiving a
+ * reply needs a thread that is awake.
  */
 class BusLink : public QObject
 {
@@ -28,18 +28,18 @@ public:
     static BusLink &instance();
     ~BusLink() override;
 
-    /// Ends the thread. It is given a few seconds; whether it has ended then.
+    /// Ends the thread within a few seconds. Returns whether it has ended.
     bool end();
 
-    /// Carries the request to its end. Returns at once; any thread.
+    /// Sends the request and sees it to its end. Returns at once; any thread.
     void send(const std::shared_ptr<PendingRequest> &request);
 
-    /// The caller of @p request was told that it failed, and it may have been carried out all the same. The
-    /// application is asked before the next request, and if it was, AbilityTrace says so. Returns at once.
+    /// The caller of @p request was told that it failed, but it may have been carried out. Asks the
+    /// application before the next request, and lets AbilityTrace report it if it was. Returns at once.
     void askLater(const std::shared_ptr<PendingRequest> &request);
 
 private:
-    /// Nobody knows yet whether it was performed.
+    /// A request of which it is not known yet whether it was performed.
     struct Unclear
     {
         std::shared_ptr<PendingRequest> request;
@@ -49,21 +49,20 @@ private:
     BusLink();
 
     void askWhatBecame();
-    /// What the application says about one of them.
+    /// The application's answer about one of them.
     void take(const std::shared_ptr<PendingRequest> &request, const QDBusPendingReply<bool> &reply);
 
     void call(const std::shared_ptr<PendingRequest> &request);
-    /// Makes a connection unless there is one that works. @return what is wrong with it, nothing when it
-    /// works.
+    /// Connects unless connected. @return the error; empty when there is a working connection.
     QDBusError connectToBus(const PendingRequest &request);
-    /// Not connected where nobody answers; tries again while the environment names another bus and the
-    /// request has time.
+    /// Returns an unconnected one where nobody answers; retries while the environment names another bus and
+    /// the request has time.
     QDBusConnection openConnection(const PendingRequest &request);
     void disconnectFromBus();
 
     std::unique_ptr<QThread> m_thread;
     std::atomic<bool> m_isEnding{false};
-    // Only touched on the thread.
+    // Only used on the thread.
     QString m_connectionName; ///< empty while there is none
     int m_connectionCount = 0;
     std::unique_ptr<Contact1Proxy> m_proxy;

@@ -18,20 +18,20 @@ struct NamedCode
     int code;
 };
 
-/// The first prefix that fits counts.
+/// The first matching prefix counts.
 const std::array<NamedCode, 11> NamedCodes{{
-    // The application kept the deadline that the request carried: nothing was done.
+    // The application kept the request's deadline: nothing was done.
     {QLatin1String("com.kelvane.meetlynx.Error.DeadlinePassed"), AbilityCode::TimedOut},
     {QLatin1String("org.freedesktop.DBus.Error.ServiceUnknown"), AbilityCode::NoService},
     {QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner"), AbilityCode::NoService},
     {QLatin1String("org.freedesktop.DBus.Error.Spawn."), AbilityCode::NoService},
-    // The bus gave up on starting the application.
+    // The bus gave up starting the application.
     {QLatin1String("org.freedesktop.DBus.Error.TimedOut"), AbilityCode::NoService},
     {QLatin1String("org.freedesktop.DBus.Error.NoReply"), AbilityCode::Died},
     {QLatin1String("org.freedesktop.DBus.Error.Disconnected"), AbilityCode::Died},
     {QLatin1String("org.freedesktop.DBus.Error.NoServer"), AbilityCode::NoBus},
     {QLatin1String("org.freedesktop.DBus.Error.NoNetwork"), AbilityCode::NoBus},
-    // The proxy's own name for a reply of another signature.
+    // QtDBus's own name for a reply of another signature.
     {QLatin1String("org.freedesktop.DBus.Error.InvalidSignature"), AbilityCode::MalformedAnswer},
     {QLatin1String("org.qtproject.QtDBus.Error.InvalidInterface"), AbilityCode::Refused},
 }};

@@ -5,5 +5,5 @@
 
 #include <QDBusError>
 
-/// The code (see AbilityCode) for an error that ended a call before its time had passed.
+/// The code (see AbilityCode) for an error that ended a call before its time-out.
 int codeOf(const QDBusError &error);

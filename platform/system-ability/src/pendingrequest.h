@@ -11,8 +11,8 @@
 #include <mutex>
 
 /**
- * One request between the thread that waits for it and the thread that carries it; shared by both, so it
- * outlives whichever is done first. The first end counts: a reply that comes after the time-out is dropped.
+ * One request, shared by the thread that waits for it and the thread that sends it, so it outlives whichever
+ * finishes first. The first end counts: a reply after the time-out is dropped.
  */
 class PendingRequest
 {
@@ -26,7 +26,7 @@ public:
         bool isRefusal = false; ///< the application itself has said that nothing was done
     };
 
-    /// The time starts to run here.
+    /// Starts the time-out.
     PendingRequest(const QString &action, const QString &parameters, int timeoutMsecs);
 
     const QString action;
@@ -35,14 +35,14 @@ public:
 
     /// Any thread.
     void finish(const Result &result);
-    /// Blocks until there is a result or the time has passed. Once.
+    /// Blocks until there is a result or the time-out passes. Call once.
     Result wait();
-    /// Milliseconds that are left, at least 0.
+    /// Remaining milliseconds, at least 0.
     int remainingMsecs() const;
-    /// Until when the application may carry it out, in milliseconds of CLOCK_MONOTONIC: a little before the
-    /// caller stops waiting, because the commit and the answer take their time as well.
+    /// The latest time at which the application may carry it out, in milliseconds of CLOCK_MONOTONIC: a
+    /// little before the caller stops waiting, because the commit and the answer take time as well.
     qint64 deadlineMsecs() const;
-    /// Called right before the request leaves the process.
+    /// Call right before the request leaves the process.
     void noteSent() { m_isSent = true; }
     /// Whether the application may have carried it out although the caller was told @p code. Any thread.
     bool isUnclear(int code) const;

@@ -9,9 +9,8 @@
 
 /**
  * A button that looks like a line of text: no frame, the text in the palette's ButtonText colour, underlined
- * under the mouse, with a frame when the keyboard's focus is on it. In a button that is too narrow the text
- * becomes smaller, down to the smallest size class, and is elided after that; then the tool tip shows it
- * whole.
+ * under the mouse, framed while it has the keyboard focus. If the button is too narrow, the text shrinks down
+ * to the smallest size class and is then elided, with the full text as tool tip.
  */
 class LUMO_EXPORT LCommandLinkButton : public QPushButton
 {

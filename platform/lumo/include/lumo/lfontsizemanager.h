@@ -7,8 +7,8 @@
 
 #include <QFont>
 
-/// The sizes that texts of the desktop come in, from the largest (T1) to the smallest (T10). May be used on
-/// any thread once there is an application.
+/// The size classes of the desktop's texts, from the largest (T1) to the smallest (T10). Thread-safe once
+/// there is an application.
 class LUMO_EXPORT LFontSizeManager
 {
 public:
@@ -16,9 +16,9 @@ public:
 
     static LFontSizeManager *instance();
 
-    /// @p base in the size of the class; nothing else of it changes.
+    /// @p base with the size of the class; everything else is kept.
     QFont get(SizeType type, const QFont &base = QFont()) const;
-    /// In device independent pixels. What lies outside T1 to T10 counts as the nearest of the two.
+    /// In device independent pixels. Values outside T1 to T10 are clamped.
     int fontPixelSize(SizeType type) const;
 
 private:

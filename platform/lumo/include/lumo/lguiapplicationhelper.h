@@ -11,9 +11,9 @@
 #include <QPointer>
 
 /**
- * Tells whether the desktop is light or dark. The theme is read from the application's palette, so that it
- * is right whoever sets that: the platform, a style or setPaletteType(). QGuiApplication::paletteChanged()
- * tells when it changes. Lives on the GUI thread until the process ends.
+ * Tells whether the desktop is light or dark. The theme is read from the application's palette, so it is
+ * right whoever sets that: the platform, a style or setPaletteType(). QGuiApplication::paletteChanged()
+ * reports changes. Lives on the GUI thread until the process ends.
  */
 class LUMO_EXPORT LGuiApplicationHelper : public QObject
 {
@@ -31,15 +31,15 @@ public:
 
     ColorType themeType() const;
 
-    /// Gives the application the palette of that theme, whatever the desktop has; UnknownType gives back the
-    /// palette from before. Needs an application.
+    /// Gives the application the palette of a theme, whatever the desktop has; UnknownType restores the
+    /// previous palette. Needs an application.
     void setPaletteType(ColorType type);
-    /// What was set last, UnknownType when the desktop's own palette holds.
+    /// The type set last; UnknownType while the desktop's own palette is in use.
     ColorType paletteType() const;
 
-    /// The toolkit's own colours; those of UnknownType are the light ones.
+    /// The toolkit's own colours; UnknownType gives the light ones.
     static QPalette standardPalette(ColorType type);
-    /// Which theme a palette belongs to: dark when its window is darker than its text.
+    /// The theme a palette belongs to: dark when its window is darker than its text.
     static ColorType toColorType(const QPalette &palette);
 
 private:

@@ -7,7 +7,7 @@
 
 #include <QLabel>
 
-/// The desktop's label. Whoever shows texts that somebody else wrote sets Qt::PlainText, as with any QLabel.
+/// The desktop's label. As with any QLabel, set Qt::PlainText for texts from outside the program.
 class LUMO_EXPORT LLabel : public QLabel
 {
     Q_OBJECT

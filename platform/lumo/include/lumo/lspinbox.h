@@ -16,8 +16,7 @@ class LUMO_EXPORT LSpinBox : public QSpinBox
 public:
     explicit LSpinBox(QWidget *parent = nullptr);
 
-    /// With true the buttons are arrows inside the field, with false (as at first) a minus and a plus of
-    /// their own beside it.
+    /// Arrows inside the field when true; a separate minus and plus beside it when false, the default.
     void setEnabledEmbedStyle(bool enabled);
     bool enabledEmbedStyle() const;
 };

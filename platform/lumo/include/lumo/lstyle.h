@@ -13,9 +13,9 @@ class QStyleOptionSpinBox;
 QT_END_NAMESPACE
 
 /**
- * The desktop's look: flat rounded buttons and fields, a ring in the accent colour where the keyboard's focus
- * is. All colours come from the palette of what is painted, so it serves both themes. Not needed for the
- * toolkit's widgets to work; an application that wants it calls QApplication::setStyle(new LStyle).
+ * The desktop's look: flat rounded buttons and fields, and a ring in the accent colour around the keyboard
+ * focus. All colours come from the palette of the painted widget, so it serves both themes. The toolkit's
+ * widgets work without it; to use it, call QApplication::setStyle(new LStyle).
  */
 class LUMO_EXPORT LStyle : public QProxyStyle
 {
@@ -36,7 +36,7 @@ public:
                          const QWidget *widget = nullptr) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
                     const QWidget *widget = nullptr) const override;
-    /// That of LGuiApplicationHelper::standardPalette() for the light theme.
+    /// LGuiApplicationHelper::standardPalette() of the light theme.
     QPalette standardPalette() const override;
 
 private:

@@ -7,8 +7,8 @@
 
 #include <QPushButton>
 
-/// The button that is the suggested one among several: in the accent colour of the palette (Highlight), with
-/// the text in HighlightedText. Follows the application's palette.
+/// The suggested button among several: in the palette's accent colour (Highlight), with the text in
+/// HighlightedText. Follows the application's palette.
 class LUMO_EXPORT LSuggestButton : public QPushButton
 {
     Q_OBJECT

@@ -8,9 +8,9 @@
 #include <QObject>
 
 /**
- * Keeps the application in the toolkit's light or dark palette, whichever the desktop's own is nearer to, and
- * follows the desktop when it changes. A desktop's palette itself was not made for the toolkit's controls:
- * the plates of buttons may have the window's colour there. GUI thread; needs an application.
+ * Keeps the application in the toolkit's light or dark palette, whichever is nearer to the desktop's own, and
+ * follows the desktop when it changes. A desktop's palette was not made for the toolkit's controls: button
+ * plates may have the window's colour there. GUI thread; needs an application.
  */
 class LUMO_EXPORT LSystemPalette : public QObject
 {
@@ -19,9 +19,9 @@ class LUMO_EXPORT LSystemPalette : public QObject
 public:
     explicit LSystemPalette(QObject *parent = nullptr);
 
-    /// From now on.
+    /// Takes effect at once and keeps following.
     void follow();
-    /// Leaves the palette as it is and does not touch it again.
+    /// Leaves the palette as it is and stops following.
     void stop();
 
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -5,7 +5,7 @@
 
 #include <QtGlobal>
 
-/// Marks what the toolkit's library gives to others; everything else stays hidden in it.
+/// Exports a symbol of the toolkit's library; all others are hidden.
 #if defined(LUMO_LIBRARY)
 #define LUMO_EXPORT Q_DECL_EXPORT
 #else

@@ -8,7 +8,7 @@
 #include <QString>
 
 /**
- * @p text as a tool tip that shows every character as it is. A tool tip has no plain format: Qt guesses, and
- * a text that somebody else wrote must not be taken for markup. Long texts wrap.
+ * @p text as a tool tip that shows every character literally. Tool tips have no plain format: Qt guesses, and
+ * a text from outside the program must not be taken for markup. Long texts wrap.
  */
 LUMO_EXPORT QString plainToolTip(const QString &text);

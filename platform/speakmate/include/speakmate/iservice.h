@@ -10,8 +10,8 @@
 
 using ServicePriority = int;
 
-/// How IService::service() ended. 0: handled; -20: the service has no factory; -21: the intent failed;
-/// -100: the semantic text could not be read.
+/// Results of IService::service(). 0: handled; -20: the service has no factory; -21: the intent failed; -100:
+/// the semantic text could not be read.
 using IRet = int;
 
 /**
@@ -30,10 +30,9 @@ public:
     virtual QString serviceName() = 0;
     virtual ServicePriority servicePriority() = 0;
     virtual bool canHandle(const QString &name) = 0;
-    /// @p semantic is the understanding result of one utterance, a JSON text.
+    /// @p semantic is the understanding result of one utterance as JSON.
     virtual IRet service(const QString &semantic) = 0;
-    /// The answer to the last service() call. Owned by the service and valid until the next call or its
-    /// release.
+    /// The reply to the last service() call. Owned by the service; valid until its next call or its release.
     virtual Reply *getServiceReply() = 0;
 
 Q_SIGNALS:

@@ -11,27 +11,27 @@
 #include <functional>
 
 /**
- * The interface by which the host talks to a plugin. The order of the virtual functions is the contract with
- * plugins built elsewhere; append only with a new interface id.
+ * The interface between the host and a plugin. The order of the virtual functions is the binary contract with
+ * plugins built elsewhere; extend it only under a new interface id.
  */
 class IServicePlugin
 {
 public:
     virtual ~IServicePlugin() = default;
 
-    /// Called once after loading. 0 is success; a plugin that fails is not used.
+    /// Called once after loading. Returns 0 on success; a plugin that fails is not used.
     virtual int init() = 0;
     virtual void uninit() = 0;
-    /// The names createService() knows.
+    /// The names that createService() accepts.
     virtual QStringList getSupportService() = 0;
-    /// A new service, owned by the plugin until releaseService(); null for a name it does not know.
+    /// Creates a service, owned by the plugin until releaseService(); null for an unknown name.
     virtual IService *createService(const QString &name) = 0;
     virtual void releaseService(IService *service) = 0;
-    /// Whether service() is to be called on a thread other than the GUI's.
+    /// Whether service() must be called on a thread other than the GUI thread.
     virtual bool needRunInDifferentThread() { return true; }
     virtual bool isAutoDetectSession() { return true; }
     virtual int getPluginProtocolVersion() { return 1; }
-    /// Installs the function that receives replies which arise later, from actions on a card.
+    /// Installs the function that receives unsolicited replies, which arise from actions on a card.
     virtual void setMessageHandle(std::function<void(IServicePlugin *, Reply)> handle)
     {
         messageHandle = std::move(handle);

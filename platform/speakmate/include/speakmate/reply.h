@@ -12,26 +12,25 @@ class QWidget;
 QT_END_NAMESPACE
 
 /**
- * What a plugin answers to one request: the texts to show and to speak and, where useful, a card.
+ * A plugin's answer to one request: the texts to show and to speak and, where useful, a card.
  *
- * The record travels by value, also through queued connections. The widget is not owned by it: copies share
- * the pointer, and whoever shows the card takes it over.
+ * Passed by value, also through queued connections. Does not own the widget: copies share the pointer, and
+ * whoever shows the card takes ownership.
  */
 class Reply
 {
 public:
-    /// The bits of @ref type. The two bits of the texts are always set together.
+    /// The bits of @ref type. The two text bits are always set together.
     enum ContentType {
         Texts = 3,
         Card = 8,
         TextsAndCard = Texts | Card,
     };
 
-    /// No answer yet: code -1, no texts, no card. Exists for the metatype system and for the handlers' first
-    /// state.
+    /// No answer yet: code -1, no texts, no card. For the metatype system and the handlers' initial state.
     Reply() : code(-1) {}
 
-    /// @p text is both shown and spoken.
+    /// @p text is both displayed and spoken.
     Reply(int resultCode, const QString &text, int contentType)
         : code(resultCode)
         , displayText(text)
@@ -40,7 +39,7 @@ public:
     {
     }
 
-    /// Replaces code, both texts and type; a card that is attached stays.
+    /// Replaces code, both texts and type; keeps an attached card.
     void update(int resultCode, const QString &text, int contentType)
     {
         code = resultCode;

@@ -3,8 +3,8 @@
 
 #pragma once
 
-/// What ContactAbility::request() answers. Everything from -9999 to -1 says that the call itself failed and
-/// that nothing is known about the action but, for the first three, that it was not performed.
+/// Results of ContactAbility::request(). From -9999 to -1 the call itself failed and the outcome of the
+/// action is unknown, except that the first three rule out that it was performed.
 namespace AbilityCode {
 constexpr int Success = 0;
 constexpr int NoBus = -2001;           ///< there is no session bus to be reached

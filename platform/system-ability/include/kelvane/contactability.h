@@ -13,20 +13,19 @@
 #endif
 
 /**
- * The contacts and meetings application, as one request sees it. Made by
- * KelvaneAbilityManager::createContact(), owned by the caller, used for one request and deleted. May be used
- * on any thread.
+ * The contacts and meetings application, for one request. Created by KelvaneAbilityManager::createContact(),
+ * owned by the caller, used for one request and deleted. Any thread.
  */
 class KELVANE_ABILITY_EXPORT ContactAbility
 {
 public:
     virtual ~ContactAbility();
-    /// Bounds the next request, in milliseconds.
+    /// Sets the time-out of the next request, in milliseconds.
     virtual void setTimeout(const int &msecs) = 0;
     /**
-     * Performs @p action with the JSON text @p parameters and waits for its end.
-     * @return 0 with the JSON answer in @p answer; -16020 when the time-out passed; -9999 to -1 when the call
-     * itself failed. @p answer is only written on success.
+     * Performs @p action with the JSON text @p parameters and blocks until its end.
+     * @return 0 with the JSON answer in @p answer; -16020 after the time-out; -9999 to -1 when the call
+     * itself failed. @p answer is written on success only.
      */
     virtual int request(const QString &action, const QString &parameters, QString &answer) = 0;
 };

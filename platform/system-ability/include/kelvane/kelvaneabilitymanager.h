@@ -5,11 +5,11 @@
 
 #include <kelvane/contactability.h>
 
-/// Gives out the abilities of the desktop's applications. One per process, safe on any thread.
+/// Creates the abilities of the desktop's applications. One per process; thread-safe.
 class KELVANE_ABILITY_EXPORT KelvaneAbilityManager
 {
 public:
     static KelvaneAbilityManager *instance();
-    /// A new ability, owned by the caller.
+    /// Creates an ability, owned by the caller.
     ContactAbility *createContact();
 };

@@ -45,7 +45,7 @@ std::unique_ptr<ContactsBook> openBook()
     }
 }
 
-/// Needs no bus: it may be called from where there is none, and beside a running application.
+/// Uses no bus: it may be called where there is none, and beside a running application.
 int exportCalendar(const QString &fileName, const QString &dialNumber)
 {
     const std::unique_ptr<ContactsBook> book = openBook();
@@ -65,7 +65,7 @@ bool remindersAreOn(ContactsBook &book)
     }
 }
 
-/// Who starts the application.
+/// How the application was started.
 enum class Starter {
     User,  ///< who wants to see the window
     Bus,   ///< for a program that calls
@@ -75,7 +75,7 @@ enum class Audience { Users, Developers };
 
 int serve(QCoreApplication &application, Starter starter, Audience audience)
 {
-    // Somebody who has never used the application has nothing to be reminded of.
+    // A user who has never used the application has nothing to be reminded of.
     if (starter == Starter::Login && !QFileInfo::exists(Database::defaultFileName())) {
         return Served;
     }
@@ -121,7 +121,7 @@ int serve(QCoreApplication &application, Starter starter, Audience audience)
             }
             window->bringUp(focus);
         };
-        // Not within the request that wants it: the answer goes first.
+        // After the request that wants it: its answer goes first.
         QObject::connect(book.get(), &ContactsBook::windowWanted, book.get(), showWindow,
                          Qt::QueuedConnection);
         QObject::connect(&reminders, &Reminders::windowWanted, book.get(),
@@ -143,7 +143,7 @@ int main(int argc, char **argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv, withWindow);
     QCoreApplication::setApplicationName(QStringLiteral("kelvane-contacts"));
-    // The desktop finds the window's name and icon by it.
+    // The desktop finds the window's name and icon by this.
     QGuiApplication::setDesktopFileName(QStringLiteral("com.kelvane.meetlynx"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CONTACTS_VERSION));
 

@@ -11,7 +11,7 @@
 
 #include <functional>
 
-/// What one action works with: everything happens at @p nowMsecs, for @p user, inside one transaction.
+/// The context of one action: everything happens at @p nowMsecs, for @p user, inside one transaction.
 struct ActionContext
 {
     PeopleRepository &people;

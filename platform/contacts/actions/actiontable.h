@@ -14,7 +14,7 @@ using ActionHandler = QJsonObject (*)(const ActionContext &context, const Reques
 /// Whether an action is refused while nobody is logged in.
 enum class ActionAccess { Anybody, LoggedInUser };
 
-/// One action that other programs may ask for.
+/// One action that other programs may request.
 struct Action
 {
     QString name;
@@ -22,5 +22,5 @@ struct Action
     ActionAccess access;
 };
 
-/// The action of that name; null for an unknown one.
+/// The action called @p name; null for an unknown one.
 const Action *findAction(const QString &name);

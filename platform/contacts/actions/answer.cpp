@@ -26,7 +26,7 @@ QJsonObject conferenceToJson(const Conference &conference, qint64 nowMsecs)
         {JsonKey::StartTime, conference.startMsecs},
         {JsonKey::Duration, conference.durationMsecs},
         {JsonKey::ParticipantLimit, conference.participantLimit},
-        // The state travels as a decimal text.
+        // The state is sent as a decimal text.
         {JsonKey::Status, QString::number(static_cast<int>(conference.stateAt(nowMsecs)))},
         {JsonKey::IsPayingUser, conference.paid},
         {JsonKey::Participants, participants},

@@ -16,8 +16,8 @@ class MemberMatches;
 QJsonObject answerWord(QLatin1String word);
 /// {"ret": word, "list": [...]}
 QJsonObject answerConferences(QLatin1String word, const QVector<Conference> &conferences, qint64 nowMsecs);
-/// {"ret": "Return", "users": [...]}: what became of each name.
+/// {"ret": "Return", "users": [...]}: the result for each name.
 QJsonObject answerUsers(const MemberMatches &matches);
 QJsonArray conferencesToJson(const QVector<Conference> &conferences, qint64 nowMsecs);
-/// An entry a name, in the order they were asked for.
+/// One entry per name, in the order of the request.
 QJsonArray matchesToJson(const QVector<MemberMatch> &matches);

@@ -9,14 +9,14 @@
 
 class RequestParameters;
 
-/// The longest passcode that a conference takes.
+/// The longest valid passcode.
 constexpr int MaxPasscodeLength = 20;
 
-/// Whether a conference may have @p passcode: nobody could type another. Empty is none.
+/// Whether @p passcode can be typed, and so may be a conference's passcode. Empty means none.
 bool canBePasscode(const QString &passcode);
-/// The title that a request gives its conference; nothing when it says none. Throws InvalidParameters for one
-/// that would be shown as nothing.
+/// The title in a request; nothing when it has none. Throws InvalidParameters for a title without visible
+/// characters.
 std::optional<QString> requestedTitle(const RequestParameters &parameters);
-/// The passcode that a request gives its conference, empty to lift it; nothing when it says none. Throws
-/// InvalidParameters for one that nobody could type.
+/// The passcode in a request, empty to remove it; nothing when it has none. Throws InvalidParameters for a
+/// passcode that nobody could type.
 std::optional<QString> requestedPasscode(const RequestParameters &parameters);

@@ -67,7 +67,7 @@ QJsonObject createConference(const ActionContext &context, const RequestParamete
     context.conferences.noteCreation(context.user.userId, context.nowMsecs);
     context.conferences.setAttendance(conference.id, context.user.userId,
                                       scheduled ? Attendance::Invited : Attendance::Joined);
-    // One seat is the host's own.
+    // One seat is the host's.
     const int fitting = qMin(found.size(), conference.participantLimit - 1);
     const QVector<Person> seated = found.mid(0, fitting);
     for (const Person &person : seated) {

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Numbers are said in groups and may come with what parts them.
+/// Numbers are spoken in groups and may come with separators.
 QString dialNumber(const QString &said)
 {
     QString number;

@@ -9,7 +9,7 @@
 
 class PeopleRepository;
 
-/// One asked-for member and the contacts that it may mean.
+/// One requested member and the contacts that match.
 struct MemberMatch
 {
     RequestedMember asked;
@@ -23,16 +23,16 @@ struct MemberMatch
 class MemberMatches
 {
 public:
-    /// Looks the members up among @p ownerId's contacts: by id when one was picked, else by name.
+    /// Looks the members up among @p ownerId's contacts: by id if one was picked, by name otherwise.
     MemberMatches(const PeopleRepository &people, const QString &ownerId,
                   const QVector<RequestedMember> &members);
 
     const QVector<MemberMatch> &all() const { return m_matches; }
     bool hasDuplicates() const;
     bool isEverybodyFound() const;
-    /// The people that were found, each once.
+    /// The people found, without duplicates.
     QVector<Person> found() const;
-    /// The matches that mean exactly one of @p people, each person once.
+    /// The members that match exactly one of @p people, each person once.
     QVector<MemberMatch> of(const QVector<Person> &people) const;
 
 private:

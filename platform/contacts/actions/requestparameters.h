@@ -11,26 +11,26 @@
 #include <optional>
 #include <stdexcept>
 
-/// The parameters are none that the action takes. Nothing has changed yet when it is thrown.
+/// The parameters are not valid for the action. Nothing has changed yet when it is thrown.
 class InvalidParameters : public std::runtime_error
 {
 public:
     explicit InvalidParameters(const char *reason) : std::runtime_error(reason) {}
 };
 
-/// Somebody to invite: asked for by name, or picked on a card by id.
+/// A person to invite, given by name, or by id when picked on a card.
 struct RequestedMember
 {
     QString name;   ///< as it was said, goes back in the answer unchanged
     QString userId; ///< empty unless picked
 };
 
-/// The parameter text of one request. It comes from speech and from other programs, so every reading of it is
-/// checked and throws InvalidParameters.
+/// The parameter text of one request. It comes from speech and from other programs, so every accessor
+/// validates and throws InvalidParameters.
 class RequestParameters
 {
 public:
-    /// No request that we know of is a tenth as long.
+    /// Ten times as long as any request we know of.
     static constexpr int MaxBytes = 65536;
 
     explicit RequestParameters(const QString &text);
@@ -38,7 +38,7 @@ public:
     bool has(QLatin1String key) const { return m_object.contains(key); }
     /// The key's text, empty when it is absent.
     QString text(QLatin1String key) const;
-    /// A whole number from 0 to the end of the year 9999 in milliseconds; nothing when the key is absent.
+    /// A whole number from 0 to the end of the year 9999, in milliseconds; nothing when the key is absent.
     std::optional<qint64> number(QLatin1String key) const;
     QVector<RequestedMember> members() const;
 

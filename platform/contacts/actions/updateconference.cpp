@@ -24,7 +24,7 @@ struct Change
     std::optional<QString> passcode;
 };
 
-/// A value that stays as it is is allowed, however it came about.
+/// An unchanged value is always valid, however it came about.
 bool isTimeAllowed(const ActionContext &context, const Conference &conference, const Change &change)
 {
     const qint64 start = change.startMsecs.value_or(conference.startMsecs);

@@ -38,7 +38,7 @@ bool isDialNumber(const QString &number)
                        [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
 }
 
-/// Moves the conference so that it is in @p state at @p now; false for an unknown word.
+/// Moves the conference in time so that it is in @p state at @p now; false for an unknown state.
 bool moveTo(Conference &conference, const QString &state, qint64 now)
 {
     if (state == QLatin1String("notStarted")) {
@@ -54,7 +54,7 @@ bool moveTo(Conference &conference, const QString &state, qint64 now)
     } else {
         return false;
     }
-    // One that was ended at its very start has nothing left to run for.
+    // A conference ended at its very start has no time left to run.
     if (state != QLatin1String("ended") && conference.durationMsecs < HourMsecs / 60) {
         conference.durationMsecs = ConferenceRules::forKind(AccountKind::Free).defaultDurationMsecs;
     }

@@ -11,9 +11,9 @@
 class ContactsBook;
 
 /**
- * What a demonstration, a test or the window does to the application's world: logging in and out, kinds of
- * account, conferences that start and end when one wants. See com.kelvane.meetlynx.Admin1.xml for each
- * method; methods that answer bool leave everything as it was when they answer false. On the book's thread.
+ * Controls the application's world for demonstrations, tests and the window: logging in and out, kinds of
+ * account, conferences that start and end on demand. com.kelvane.meetlynx.Admin1.xml describes each method; a
+ * method that returns false has changed nothing. On the book's thread.
  */
 class Administration : public QObject
 {

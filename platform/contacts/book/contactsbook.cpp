@@ -33,7 +33,7 @@ ContactsBook::ContactsBook(const QString &databaseFile, Clock clock, QObject *pa
     , m_session(m_database.handle())
     , m_reminders(m_database.handle())
 {
-    // As long as a frame on the screen; not started again by what comes meanwhile, so nothing puts it off.
+    // One frame on the screen. Not restarted by further changes, so nothing can put it off.
     constexpr int burstMsecs = 16;
     m_burst.setInterval(burstMsecs);
     m_burst.setSingleShot(true);
@@ -99,7 +99,7 @@ QString ContactsBook::perform(const QString &action, const QString &parameters, 
             if (hasWritten && !ticket.id.isEmpty()) {
                 m_session.notePerformed(ticket.id);
             }
-            // As late as can be: whoever has stopped waiting has been told that nothing was done.
+            // As late as possible: a caller that stopped waiting was told that nothing was done.
             if (ticket.hasPassed()) {
                 qInfo() << "Action" << action << "took too long and is undone";
                 return {};

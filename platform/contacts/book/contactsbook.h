@@ -18,7 +18,7 @@
 #include <functional>
 
 /**
- * The application's whole state and the one door to it: actions, the administration and the window all come
+ * The application's whole state and the only way to it: actions, the administration and the window all go
  * through here. Lives on one thread, together with its database.
  */
 class ContactsBook : public QObject
@@ -29,24 +29,25 @@ public:
     /// Milliseconds since the epoch.
     using Clock = std::function<qint64()>;
 
-    /// Opens the database, and loads the sample directory into a fresh one. Throws DatabaseError.
+    /// Opens the database and loads the sample directory into a new one. Throws DatabaseError.
     explicit ContactsBook(const QString &databaseFile, Clock clock = {}, QObject *parent = nullptr);
 
-    /// Performs one action and answers with a JSON object, whatever came in. What it did is on disk then. A
-    /// null text when the ticket's deadline has passed; then nothing has changed. Never throws.
+    /// Performs one action and returns its answer, a JSON object, for any input. Its changes are then on
+    /// disk. Returns a null text when the ticket's deadline has passed; nothing has changed then. Never
+    /// throws.
     QString perform(const QString &action, const QString &parameters, const RequestTicket &ticket = {});
-    /// Whether the request of that id has changed something. Never throws.
+    /// Whether the request with that id has changed something. Never throws.
     bool wasPerformed(const QString &requestId) const;
 
-    /// What the user who is logged in may call people: names and remarks of the contacts. Never throws.
+    /// The names by which the user may call people: names and remarks of the contacts. Never throws.
     QStringList contactNames();
 
-    /// Runs @p change in a transaction of its own and tells who shows the state. Does not throw: false when
-    /// it fails, and then nothing has changed; also when @p change answers false.
+    /// Runs @p change in a transaction and emits changed(). Does not throw: returns false, with nothing
+    /// changed, when that fails or @p change returns false.
     bool change(const std::function<bool()> &change);
 
-    /// For whoever catches what reading or writing threw: after damage, the next start checks the whole file.
-    /// Never throws.
+    /// Call with every error caught from reading or writing: after damage, the next start checks the whole
+    /// file. Never throws.
     void noteFailure(const std::exception &error) const;
 
     qint64 nowMsecs() const { return m_clock(); }
@@ -57,15 +58,15 @@ public:
     Database &database() { return m_database; }
 
 Q_SIGNALS:
-    /// The state may be another than before. Comes within the request that changed it, which waits.
+    /// The state may have changed. Emitted within the request, which waits for the slots.
     void changed();
-    /// The same, once for a burst of changes and after their answers: for whoever reads much.
+    /// The same, once per burst of changes and after their answers: for slots that read much.
     void changedLately();
-    /// The user is to see the window: asked for it, or has to log in.
+    /// The window should be shown: it was asked for, or the user has to log in.
     void windowWanted(WindowFocus focus);
 
 private:
-    /// Loads the sample where there was never anything.
+    /// Loads the sample unless the database has had content.
     void seed();
 
     Clock m_clock;

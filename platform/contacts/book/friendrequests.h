@@ -9,19 +9,19 @@
 
 class ContactsBook;
 
-/// The friend requests to whoever is logged in, and the user's answers. On the book's thread.
+/// The friend requests to the user who is logged in, and the user's answers. On the book's thread.
 class FriendRequests
 {
 public:
     /// @p book must outlive it.
     explicit FriendRequests(ContactsBook &book) : m_book(book) {}
 
-    /// Who waits for an answer, by their accounts; at most @p limit. Throws DatabaseError.
+    /// The people waiting for an answer, by account; at most @p limit. Throws DatabaseError.
     QVector<Person> waiting(int limit) const;
-    /// Both become friends, and in each other's contacts if they were not. Answers with an outcome's word,
-    /// see core/outcome.h; never throws.
+    /// Makes both friends, and each other's contacts if they were not. Returns an outcome, see
+    /// core/outcome.h; never throws.
     QString accept(const QString &account);
-    /// The request is gone; it may be sent again.
+    /// Deletes the request, which may be sent again.
     QString decline(const QString &account);
 
 private:

@@ -7,8 +7,8 @@
 
 #include <chrono>
 
-/// Until when somebody waits for a request, and by which name they ask about it later. The default is a
-/// request that waits for ever and that nobody asks about.
+/// The time limit of a request and the id by which its caller asks about it later. By default there is no
+/// limit and no id.
 struct RequestTicket
 {
     qint64 deadlineMsecs = 0; ///< of CLOCK_MONOTONIC; 0: none

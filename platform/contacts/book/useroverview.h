@@ -7,6 +7,7 @@
 
 class ContactsBook;
 
-/// How things are for the user who is logged in, as a JSON object; see com.kelvane.meetlynx.Contact1.xml. Any
-/// program of the session may ask for it, so there are no passcodes in it. Never throws.
+/// The state that concerns the user who is logged in, as a JSON object; see
+/// com.kelvane.meetlynx.Contact1.xml. Without passcodes, because any program of the session may ask for it.
+/// Never throws.
 QString userOverview(ContactsBook &book);

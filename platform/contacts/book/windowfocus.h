@@ -5,7 +5,7 @@
 
 #include <QMetaType>
 
-/// What becomes of the keyboard when the window comes up.
+/// Whether the window takes the focus when it is shown.
 enum class WindowFocus {
     Take,  ///< the user asked for the window itself
     Leave, ///< a program did, and the user may be typing into another one

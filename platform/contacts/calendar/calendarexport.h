@@ -8,8 +8,8 @@
 class ContactsBook;
 
 /**
- * Writes one of the user's conferences to an iCalendar file, "-" for the standard output: the one with
- * @p dialNumber, or the running or next one when that is empty. Says on standard error why it cannot; then
- * false.
+ * Writes one of the user's conferences to an iCalendar file, "-" for the standard output: the one with @p
+ * dialNumber, or the running or next one when that is empty. On failure writes the reason to standard error
+ * and returns false.
  */
 bool exportConference(ContactsBook &book, const QString &dialNumber, const QString &fileName);

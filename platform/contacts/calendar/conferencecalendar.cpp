@@ -38,7 +38,7 @@ QString descriptionOf(const Conference &conference)
     return lines.join(QLatin1Char('\n'));
 }
 
-/// Whether the clocks of @p zone show the time of @p moment twice, because they are put back.
+/// Whether the local time @p moment in @p zone is ambiguous because the clocks are put back.
 bool isShownTwice(const QDateTime &moment, const QTimeZone &zone)
 {
     constexpr qint64 daySeconds = 24 * 60 * 60;
@@ -52,15 +52,15 @@ bool isShownTwice(const QDateTime &moment, const QTimeZone &zone)
            zone.offsetFromUtc(shown.addSecs(-after)) == after;
 }
 
-/// In UTC where the local time would not be clear: readers disagree on which of the two is meant.
+/// In UTC where the local time is ambiguous: readers disagree on its meaning.
 QDateTime clearTime(qint64 msecs, const QTimeZone &zone)
 {
     const QDateTime moment = QDateTime::fromMSecsSinceEpoch(msecs, Qt::UTC);
     return isShownTwice(moment, zone) ? moment : moment.toTimeZone(zone);
 }
 
-/// The library writes no rule at all for a zone whose clocks have not changed since 1970, and readers then
-/// take its times for UTC.
+/// The library writes no rules for a zone whose clocks have not changed since 1970, and readers then take its
+/// times for UTC.
 QString withRuleForZone(QString calendar, const QTimeZone &zone, const QDateTime &moment)
 {
     const int minutes = zone.offsetFromUtc(moment) / 60;

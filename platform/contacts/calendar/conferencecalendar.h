@@ -9,10 +9,11 @@
 struct Conference;
 
 /**
- * The conference as an iCalendar file: one event in the time zone of this moment, with that zone's rules and
- * an alarm @p leadMinutes before its start. The passcode stays out, because such files are passed on.
+ * The conference as an iCalendar file: one event in the current time zone, with that zone's rules and an
+ * alarm
+ * @p leadMinutes before its start. Without the passcode, because such files are passed on.
  */
 QByteArray calendarOf(const Conference &conference, int leadMinutes);
 
-/// Writes @p calendar to the file, wholly or not at all; returns why it could not, empty when it is done.
+/// Writes @p calendar to the file, wholly or not at all. Returns the reason for a failure; empty on success.
 QString writeCalendar(const QByteArray &calendar, const QString &fileName);

@@ -8,13 +8,13 @@
 
 constexpr qint64 MinuteMsecs = 60 * 1000;
 
-/// Follows from the clock alone. The numbers are sent.
+/// Derived from the clock alone. The numbers are part of the answers.
 enum class ConferenceState { NotStarted = 0, Running = 1, Ended = 2 };
 
-/// What became of an invitation. The numbers are stored.
+/// The state of an invitation. The numbers are stored.
 enum class Attendance { Invited = 0, Joined = 1, Left = 2 };
 
-/// Somebody's seat in a conference.
+/// One person's seat in a conference.
 struct Participant
 {
     QString userId;

@@ -27,7 +27,7 @@ QString conferenceQuery(const QLatin1String condition)
            QStringLiteral("FROM conference JOIN person ON person.user_id = conference.host_id ") + condition;
 }
 
-/// What is over of one person's; see ofUserSql() for the order of the tables.
+/// One person's past conferences; see ofUserSql() for the order of the tables.
 constexpr char EndedOfUser[] = "FROM participant"
                                " CROSS JOIN conference ON conference.id = participant.conference_id"
                                " CROSS JOIN person ON person.user_id = conference.host_id"
@@ -99,8 +99,8 @@ QVector<Conference> ConferenceRepository::ofUser(const QString &userId, qint64 f
 
 QString ConferenceRepository::ofUserSql()
 {
-    // The join order is given by CROSS JOIN: first the person's own piece of the index by time, then one
-    // conference each.
+    // CROSS JOIN fixes the join order: first the person's range of the index by time, then one conference
+    // each.
     return QStringLiteral("SELECT") + conferenceColumns() +
            QStringLiteral("FROM participant"
                           " CROSS JOIN conference ON conference.id = participant.conference_id"
@@ -309,7 +309,7 @@ int ConferenceRepository::creationsBetween(const QString &hostId, qint64 afterMs
 
 void ConferenceRepository::noteCreation(const QString &hostId, qint64 nowMsecs)
 {
-    // What is older than a day decides nothing any more, nor does what a clock that was ahead noted.
+    // Entries older than a day no longer matter, nor do those from a clock that was ahead.
     constexpr qint64 dayMsecs = 24 * 60 * 60 * 1000;
     Statement(m_database, QStringLiteral("DELETE FROM creation WHERE host_id = ?"
                                          " AND (created_msecs < ? OR created_msecs > ?)"))

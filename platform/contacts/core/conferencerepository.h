@@ -12,9 +12,8 @@
 class Statement;
 
 /**
- * Conferences and the seats in them. Points in time are milliseconds since the epoch. Names of participants
- * are as
- * @p viewerId calls them. Throws DatabaseError.
+ * Conferences and the seats in them. Points in time are milliseconds since the epoch. Participants carry the
+ * names by which @p viewerId knows them. Throws DatabaseError.
  */
 class ConferenceRepository
 {
@@ -25,37 +24,37 @@ public:
     std::optional<Conference> byConfId(const QString &confId, const QString &viewerId) const;
     std::optional<Conference> byDialNumber(const QString &dialNumber, const QString &viewerId) const;
 
-    /// Those with a seat for @p userId, also a left one, that overlap the time from @p fromMsecs up to but
-    /// without
-    /// @p toMsecs, by their start; at most @p limit. Its cost does not depend on how many others there are.
+    /// Conferences with a seat for @p userId, even one that was left, that overlap the time from @p fromMsecs
+    /// up to but excluding @p toMsecs, by start; at most @p limit. The cost does not depend on the number of
+    /// others.
     QVector<Conference> ofUser(const QString &userId, qint64 fromMsecs, qint64 toMsecs, int limit) const;
-    /// The statement behind it, for whoever wants to know how the database runs it.
+    /// Its statement, for tests of the query plan.
     static QString ofUserSql();
-    /// Everybody's that end after @p nowMsecs, by their start; at most @p limit.
+    /// Everybody's conferences that end after @p nowMsecs, by start; at most @p limit.
     QVector<Conference> endingAfter(qint64 nowMsecs, const QString &viewerId, int limit) const;
-    /// Those with a seat for @p userId that started after @p fromMsecs and have ended by @p nowMsecs, the
+    /// Conferences with a seat for @p userId that started after @p fromMsecs and have ended by @p nowMsecs,
     /// latest first; at most @p limit.
     QVector<Conference> endedOfUser(const QString &userId, qint64 fromMsecs, qint64 nowMsecs,
                                     int limit) const;
-    /// The same of everybody.
+    /// Likewise for everybody's conferences.
     QVector<Conference> ended(qint64 fromMsecs, qint64 nowMsecs, const QString &viewerId, int limit) const;
-    /// How many the two above find, without reading them.
+    /// The number of conferences that the two above find, without reading them.
     int endedCountOfUser(const QString &userId, qint64 fromMsecs, qint64 nowMsecs, int limit) const;
     int endedCount(qint64 fromMsecs, qint64 nowMsecs, int limit) const;
-    /// Everybody's that start after @p fromMsecs, by their start; at most @p limit.
+    /// Everybody's conferences that start after @p fromMsecs, by start; at most @p limit.
     QVector<Conference> startingAfter(qint64 fromMsecs, const QString &viewerId, int limit) const;
-    /// The running conference in which @p userId is at the moment.
+    /// The running conference that @p userId is in.
     std::optional<Conference> joinedBy(const QString &userId, qint64 nowMsecs) const;
 
-    /// Everybody who has or had a seat, also those who left.
+    /// Everybody who has or had a seat, including those who left.
     QVector<Participant> seats(qint64 conferenceId, const QString &viewerId) const;
-    /// How the person sits in it; nothing for a stranger.
+    /// The attendance of a person; nothing for somebody without a seat.
     std::optional<Attendance> attendance(qint64 conferenceId, const QString &userId) const;
-    /// How many of its seats are taken, by people who are there and by people who are invited.
+    /// The number of seats taken by people present and people invited.
     int takenSeats(qint64 conferenceId) const;
 
-    /// Stores the record without its participants, with a number and an id of its own where it has none, and
-    /// gives it back with them.
+    /// Stores the record without its participants, assigning a number and an id where they are missing, and
+    /// returns it with them.
     Conference add(Conference conference);
     void setTimes(qint64 conferenceId, qint64 startMsecs, qint64 durationMsecs);
     void setTitle(qint64 conferenceId, const QString &title);
@@ -63,7 +62,7 @@ public:
     void setParticipantLimit(qint64 conferenceId, int limit);
     void setAttendance(qint64 conferenceId, const QString &userId, Attendance attendance);
     void remove(qint64 conferenceId);
-    /// Also forgets who created how many.
+    /// Also forgets how many conferences each person has created.
     void removeAll();
 
     /// For the limit on how often somebody may create.

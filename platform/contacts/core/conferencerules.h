@@ -5,8 +5,8 @@
 
 #include "core/person.h"
 
-/// What conferences of an account may be like. The reply cards offer durations up to 30 minutes to free
-/// accounts and up to four hours and 100 people to paying ones, so these are the limits.
+/// What an account's conferences may be like. The reply cards offer durations up to 30 minutes to free
+/// accounts, and up to four hours and 100 people to paying ones, so these are the limits.
 struct ConferenceRules
 {
     qint64 defaultDurationMsecs;
@@ -21,16 +21,15 @@ struct ConferenceRules
     }
 
     static constexpr int MinParticipantLimit = 2;
-    /// No conference in the database is longer, so whoever looks for those that overlap a time need not look
-    /// further back.
+    /// No conference in the database is longer, so a search for overlaps need not look further back.
     static constexpr qint64 LongestMsecs = 24 * 60 * 60 * 1000;
     static constexpr int CreationsPerMinute = 10;
     static constexpr int FriendLimit = 500;
-    /// Somebody who picks among people of the same name may be late by this much.
+    /// Choosing among people of the same name may delay the request by this much.
     static constexpr qint64 LateStartMsecs = 10 * 60 * 1000;
-    /// An answer lists no more conferences than this.
+    /// The most conferences in one answer.
     static constexpr int ListLimit = 100;
     static constexpr int MaxMembers = 300;
-    /// Candidates listed for one name.
+    /// The most candidates for one name.
     static constexpr int MaxCandidates = 50;
 };

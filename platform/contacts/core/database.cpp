@@ -31,13 +31,13 @@ void runPragma(const QSqlDatabase &database, const QString &sql, const QString &
     }
 }
 
-/// Somebody else's lock on the file is waited for this long.
+/// How long to wait for another process's lock on the file.
 constexpr int PatienceMsecs = 5000;
-/// A check reads the whole file; one that is larger than this, with a quarter of a million conferences, would
-/// keep the start waiting for too long. Damage in it is found when it is met.
+/// A check reads the whole file. A file larger than this, with a quarter of a million conferences, would
+/// delay the start too much; its damage is found when it is met.
 constexpr qint64 LargestCheckedFile = 256 * 1024 * 1024;
 
-/// Beside the database, when somebody has met damage in it.
+/// A file beside the database that records damage met while working.
 QString checkDemand(const QString &fileName)
 {
     return fileName + QStringLiteral(".check");
@@ -112,7 +112,7 @@ void Database::openPatiently(const QString &fileName)
             return;
         } catch (const DatabaseError &error) {
             close();
-            // SQLite waits itself, but not where it sees a deadlock coming.
+            // SQLite waits by itself, except where it sees a deadlock coming.
             if (!error.isBusy() || waiting.elapsed() >= PatienceMsecs) {
                 throw;
             }
@@ -159,7 +159,7 @@ void Database::open(const QString &fileName)
 
 void Database::check(const QString &fileName)
 {
-    // The first look into the file; SQLite calls anything else than its own format "not a database".
+    // First access to the file; SQLite calls anything but its own format "not a database".
     Statement(m_database, QStringLiteral("SELECT count(*) FROM sqlite_master")).run().next();
     const QString demand = checkDemand(fileName);
     if (QFileInfo(fileName).size() > LargestCheckedFile && !QFile::exists(demand)) {
@@ -172,7 +172,7 @@ void Database::check(const QString &fileName)
         QFile::remove(demand);
         return;
     }
-    // A page that could not be fetched for another reason than damage is reported in a row, too.
+    // A page that could not be read for other reasons than damage is reported in a row, too.
     static const QRegularExpression codeInText(QStringLiteral("error code=(\\d+)"));
     const QRegularExpressionMatch match = codeInText.match(result);
     const QString code = match.hasMatch() ? match.captured(1) : QStringLiteral("11");
@@ -219,7 +219,7 @@ void Database::close()
 
 Transaction::Transaction(const QSqlDatabase &database) : m_database(database)
 {
-    // Immediate: a transaction that reads first and writes later cannot be refused half way.
+    // Immediate: a transaction that reads first cannot be refused halfway when it starts to write.
     Statement(m_database, QStringLiteral("BEGIN IMMEDIATE")).run();
 }
 

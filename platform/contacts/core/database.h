@@ -12,32 +12,32 @@
 class UseLock;
 
 /**
- * The application's database file, brought up to date when it is opened. What is committed is on disk. Lives
- * on the thread that made it, and everything that uses it does so there. Throws DatabaseError.
+ * The application's database file, migrated when it is opened. What is committed is on disk. Lives on the
+ * thread that created it, together with everything that uses it. Throws DatabaseError.
  */
 class Database
 {
 public:
     /**
-     * Creates the file and its folder, readable by their owner alone, when they are missing. A damaged file
-     * is set aside, never deleted, what can be read of it is copied, and a notice to the user says so. Only
-     * what SQLite itself calls damaged is: a lock is waited for, a few seconds, and anything else is thrown,
-     * also damage in a file that another process works with.
+     * Creates the file and its folder, accessible to their owner alone, when they are missing. A damaged file
+     * is set aside, never deleted; what can be read of it is copied, and a notice tells the user. Only what
+     * SQLite itself calls damaged counts: a lock is waited for, for a few seconds, and any other error is
+     * thrown, as is damage in a file that another process works with.
      */
     explicit Database(const QString &fileName);
     ~Database();
 
     QSqlDatabase handle() const { return m_database; }
-    /// The damaged file that was set aside when this one was opened; empty without one.
+    /// The damaged file that opening has set aside; empty when there was none.
     QString setAsideFile() const { return m_setAsideFile; }
     Salvaged salvaged() const { return m_salvaged; }
-    /// Grows with every row that is written.
+    /// Grows with every row written.
     qint64 writtenRows() const;
 
-    /// Damage was met while working: the next start checks the whole file, however large it is.
+    /// Records damage met while working: the next start checks the whole file, however large.
     void demandCheck() const;
 
-    /// The user's own file, below the XDG data folder.
+    /// The user's own file, in the XDG data folder.
     static QString defaultFileName();
 
 private:
@@ -58,12 +58,12 @@ private:
     Salvaged m_salvaged;
 };
 
-/// Everything between construction and commit() happens wholly or not at all. Throws DatabaseError.
+/// Makes everything between construction and commit() happen wholly or not at all. Throws DatabaseError.
 class Transaction
 {
 public:
     explicit Transaction(const QSqlDatabase &database);
-    /// Rolls back what was not committed.
+    /// Rolls back unless committed.
     ~Transaction();
     void commit();
 

@@ -5,7 +5,7 @@
 
 namespace {
 
-// SQLite's primary result codes; the upper bits of an extended code say more about the same.
+// SQLite's primary result codes; an extended code adds detail in its upper bits.
 enum ResultCode { Busy = 5, Locked = 6, Corrupt = 11, Constraint = 19, NotADatabase = 26 };
 constexpr int PrimaryCode = 0xff;
 

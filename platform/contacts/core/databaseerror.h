@@ -8,21 +8,21 @@
 
 #include <stdexcept>
 
-/// A statement or the opening failed. Thrown by the repositories, caught at the application's doors; no
-/// answer is given and no half of a request stays.
+/// A statement, or opening the file, failed. Thrown by the repositories and caught where requests enter: such
+/// a request gets no answer and leaves nothing half done.
 class DatabaseError : public std::runtime_error
 {
 public:
     explicit DatabaseError(const QString &message) : std::runtime_error(message.toStdString()) {}
-    /// With the reason and the code that SQLite gave.
+    /// With the reason and SQLite's code.
     DatabaseError(const QSqlError &error, const QString &where);
 
-    /// Whether the file is damaged, which nothing else than SQLITE_CORRUPT and SQLITE_NOTADB says: no room,
-    /// no permission and a lock look alike from afar.
+    /// Whether the file is damaged: SQLITE_CORRUPT and SQLITE_NOTADB only. A full disk, missing permissions
+    /// and a lock are something else.
     bool isDamage() const;
-    /// Whether somebody else has the file locked.
+    /// Whether another process holds a lock on the file.
     bool isBusy() const;
-    /// Whether a rule of the tables has refused a row.
+    /// Whether a constraint of the tables has rejected a row.
     bool isConstraint() const;
 
 private:

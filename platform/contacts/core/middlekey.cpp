@@ -15,13 +15,13 @@ bool isText(const QVariant &value)
     return value.type() == QVariant::String;
 }
 
-/// Nothing of its type comes before it.
+/// Sorts before everything of its type.
 QVariant smallest(const QVariant &likeThis)
 {
     return isText(likeThis) ? QVariant(QLatin1String("")) : QVariant(std::numeric_limits<qint64>::min());
 }
 
-/// Whether @p left comes before @p right where texts are ordered by their characters.
+/// Whether @p left sorts before @p right, with texts ordered by their characters.
 bool isBefore(const QString &left, const QString &right)
 {
     const QVector<uint> one = left.toUcs4();
@@ -77,14 +77,14 @@ QVariant MiddleKey::between(const QVariant &low, const QVariant &high) const
     }
     const qint64 first = low.toLongLong();
     const qint64 last = high.toLongLong();
-    // Halved one by one: their sum may not fit.
+    // Halved one by one: the sum may overflow.
     const qint64 middle = first / 2 + last / 2 + (first % 2 + last % 2) / 2;
     return first < middle && middle < last ? QVariant(middle) : QVariant();
 }
 
 QVariant MiddleKey::between(const QString &low, const QString &high) const
 {
-    // As fractions in a number system with one digit for each character, and 0 for the end of the text.
+    // As fractions in a number system with one digit per character, and 0 for the end of the text.
     std::set<uint> known = m_characters;
     const QVector<uint> texts[] = {low.toUcs4(), high.toUcs4()};
     std::size_t length = 0;
@@ -108,7 +108,7 @@ QVariant MiddleKey::between(const QString &low, const QString &high) const
         digit = whole / 2;
         rest = whole % 2;
     }
-    // A sum of two digits may be one that there is not.
+    // The mean of two digits may be a character that was never met.
     for (std::size_t at = digits.size(); at-- > 1;) {
         if (digits[at] >= base) {
             digits[at] -= base;

@@ -14,8 +14,8 @@
 using RowKey = QVector<QVariant>;
 
 /**
- * Finds keys between two others, for a search that cannot count rows. Texts are halved over the characters
- * that have been met: of keys that are digits, a tenth lies behind each digit.
+ * Finds keys between two others, for a search that cannot count rows. Texts are bisected over the characters
+ * met so far: where keys consist of digits, each digit covers a tenth.
  */
 class MiddleKey
 {
@@ -23,8 +23,8 @@ public:
     /// Learns the characters of a key.
     void meet(const RowKey &key);
 
-    /// A key between @p low and @p high in the order of the database, about in the middle; none when nothing
-    /// is between them or they cannot be compared.
+    /// A key about halfway between @p low and @p high in the database's order; none when nothing is between
+    /// them or they cannot be compared.
     std::optional<RowKey> between(const RowKey &low, const RowKey &high) const;
 
 private:

@@ -41,8 +41,8 @@ QStringList firstVersion()
                        ")"),
         QStringLiteral("CREATE INDEX conference_by_host ON conference(host_id)"),
         QStringLiteral("CREATE INDEX conference_by_start ON conference(start_msecs)"),
-        // The start is kept here too, so that one person's day is one walk along one index, however many
-        // conferences other people have.
+        // Repeats the start, so that one person's day is one walk along one index, however many conferences
+        // other people have.
         QStringLiteral("CREATE TABLE participant ("
                        " conference_id INTEGER NOT NULL REFERENCES conference(id) ON DELETE CASCADE,"
                        " user_id TEXT NOT NULL REFERENCES person(user_id) ON DELETE CASCADE,"
@@ -72,8 +72,7 @@ QStringList firstVersion()
     };
 }
 
-/// Which requests have been carried out, what the user has to be told, and remarks that are found by their
-/// name.
+/// Requests that were carried out, the notice to the user, and an index of remarks by name.
 QStringList secondVersion()
 {
     return {
@@ -86,7 +85,7 @@ QStringList secondVersion()
     };
 }
 
-/// Reminders, and what people have not been told yet. What is there already needs no telling.
+/// Reminders, and what users have not been notified of yet. Existing rows need no notification.
 QStringList thirdVersion()
 {
     return {
@@ -95,7 +94,7 @@ QStringList thirdVersion()
                        " is_on INTEGER NOT NULL CHECK (is_on IN (0, 1)),"
                        " lead_minutes INTEGER NOT NULL"
                        ")"),
-        // A conference that is moved has another start, so its reminders come again.
+        // A conference that is moved has another start, so its reminders are shown again.
         QStringLiteral("CREATE TABLE shown_reminder ("
                        " user_id TEXT NOT NULL REFERENCES person(user_id) ON DELETE CASCADE,"
                        " conference_id INTEGER NOT NULL REFERENCES conference(id) ON DELETE CASCADE,"
@@ -130,15 +129,14 @@ QStringList thirdVersion()
     };
 }
 
-/// Contacts page by page in the order of their accounts, and friends counted without the other contacts.
+/// Pages of contacts by account, and counting friends without the other contacts.
 QStringList fourthVersion()
 {
     return {
-        // A contact whose person is missing, as a file may have it that was written without foreign keys, has
-        // no account.
+        // A contact without its person, as in a file written without foreign keys, has no account.
         QStringLiteral("DELETE FROM contact WHERE owner_id NOT IN (SELECT user_id FROM person)"
                        " OR person_id NOT IN (SELECT user_id FROM person)"),
-        // The account is kept here too, so that one page is one walk along one index.
+        // Repeats the account, so that one page is one walk along one index.
         QStringLiteral("ALTER TABLE contact ADD COLUMN account TEXT NOT NULL DEFAULT '' COLLATE NOCASE"),
         QStringLiteral("UPDATE contact SET account = (SELECT account FROM person WHERE user_id = person_id)"),
         QStringLiteral("CREATE INDEX contact_by_account ON contact(owner_id, account)"),
@@ -153,7 +151,7 @@ QStringList fourthVersion()
     };
 }
 
-/// The requests to somebody, without those to others.
+/// Requests to one person, apart from those to others.
 QStringList fifthVersion()
 {
     return {QStringLiteral("CREATE INDEX friend_request_of_person ON friend_request(person_id)")};

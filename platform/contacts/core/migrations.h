@@ -7,8 +7,7 @@
 #include <QVector>
 
 /**
- * The steps that bring a database up to date; the n-th leads from version n to n + 1, and the database's
- * "user_version" is the number of steps it has seen. A step that has been released is never changed, a change
- * is a new step at the end.
+ * The steps that bring a database up to date: step n leads from version n to n + 1, and the database's
+ * "user_version" counts the steps applied. Never change a released step; add a new one at the end.
  */
 const QVector<QStringList> &databaseMigrations();

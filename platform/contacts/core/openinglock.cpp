@@ -18,7 +18,7 @@
 
 namespace {
 
-/// Reading a large damaged file takes its time.
+/// Reading a large damaged file takes time.
 constexpr int PatienceMsecs = 60000;
 
 DatabaseError errorFor(const QString &file)
@@ -43,8 +43,8 @@ int openLockFile(const QString &databaseFile)
     return descriptor;
 }
 
-/// A lock on a part of the file that belongs to the descriptor and not to the process, and that knows nothing
-/// of the lock on the whole of it.
+/// A lock on a range of the file that belongs to the descriptor rather than the process, and is independent
+/// of the lock on the whole file.
 struct flock partLock(short type)
 {
     struct flock lock = {};

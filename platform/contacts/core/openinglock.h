@@ -6,14 +6,14 @@
 #include <QString>
 
 /**
- * Held while a database is looked at and, when it is damaged, set aside and replaced: of two processes that
- * start at once the second one finds what the first one has made, and does not take it for the damaged one.
- * A file beside the database, which stays. The lock ends with the process at the latest.
+ * Held while a database is checked and, when damaged, set aside and replaced: of two processes that start at
+ * once, the second finds what the first has made, rather than treating it as damaged. A file beside the
+ * database, which stays. The lock ends with the process at the latest.
  */
 class OpeningLock
 {
 public:
-    /// Waits for the other one, but not for ever. The database's folder exists. Throws DatabaseError.
+    /// Waits for another holder, within limits. The database's folder must exist. Throws DatabaseError.
     explicit OpeningLock(const QString &databaseFile);
     ~OpeningLock();
 
@@ -24,8 +24,8 @@ private:
 };
 
 /**
- * Held, in the same file, as long as a database is open: a damaged one is not taken away from a process that
- * works with it. Any number of them may be held at once.
+ * Held in the same file while a database is open: a damaged one is not replaced while a process works with
+ * it. Any number may be held at once.
  */
 class UseLock
 {
@@ -34,7 +34,7 @@ public:
     explicit UseLock(const QString &databaseFile);
     ~UseLock();
 
-    /// Whether anybody holds one. Throws DatabaseError.
+    /// Whether any process holds one. Throws DatabaseError.
     static bool isHeld(const QString &databaseFile);
 
 private:

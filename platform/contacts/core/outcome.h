@@ -5,7 +5,7 @@
 
 #include <QLatin1String>
 
-/// The words that an answer's "ret" says.
+/// The values of an answer's "ret".
 namespace Outcome {
 const QLatin1String Ok("OK");
 const QLatin1String Success("Success");
@@ -31,7 +31,7 @@ const QLatin1String InvalidParameters("Invalid Parameters");
 const QLatin1String InternalError("Internal Error");
 } // namespace Outcome
 
-/// What became of one name, an entry's "status" in "users".
+/// The result for one name, an entry's "status" in "users".
 namespace MemberStatus {
 const QLatin1String Ok("OK");
 const QLatin1String Duplicate("Duplicate");

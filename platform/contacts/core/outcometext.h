@@ -5,5 +5,5 @@
 
 #include <QString>
 
-/// What the window says to its user about the outcome word of an action.
+/// The window's message for an action's outcome.
 QString outcomeText(const QString &word);

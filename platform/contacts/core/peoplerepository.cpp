@@ -108,7 +108,8 @@ QVector<Person> PeopleRepository::contactsByName(const QString &ownerId, const Q
 
 QString PeopleRepository::contactsByNameSql()
 {
-    // One index each for the remark and the name; CROSS JOIN gives the order. "OR" would walk every contact.
+    // One index each for the remark and the name, in the order fixed by CROSS JOIN. "OR" would walk every
+    // contact.
     return contactQuery(
         "WHERE owner_id = ? AND person_id IN ("
         " SELECT person_id FROM contact WHERE owner_id = ? AND remark_name = ?"
@@ -121,7 +122,7 @@ QString PeopleRepository::contactsByNameSql()
 QVector<Person> PeopleRepository::contactsStartingWith(const QString &ownerId, const QString &text,
                                                        int limit) const
 {
-    // One piece of an index each.
+    // One range of an index each.
     Statement query(
         m_database,
         contactQuery("WHERE owner_id = ? AND person_id IN ("
@@ -159,7 +160,7 @@ QVector<Person> PeopleRepository::contacts(const QString &ownerId) const
 QVector<Person> PeopleRepository::knownAfter(const QString &ownerId, const QString &afterAccount,
                                              int limit) const
 {
-    // There are no more requests than friends are allowed, so that these can be looked at each time.
+    // There are no more requests than a user may have friends, so a scan is cheap.
     Statement query(
         m_database,
         QStringLiteral("SELECT person.user_id, person.account, name, kind, remark_name, is_friend,"

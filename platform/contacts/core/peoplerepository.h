@@ -11,8 +11,8 @@
 
 #include <optional>
 
-/// People and who has whom in the contacts. Names and accounts are compared without regard to the case of
-/// Latin letters. Throws DatabaseError.
+/// People and their contacts. Names and accounts compare case-insensitively for Latin letters. Throws
+/// DatabaseError.
 class PeopleRepository
 {
 public:
@@ -20,48 +20,45 @@ public:
 
     std::optional<Person> byAccount(const QString &account) const;
     std::optional<Person> byUserId(const QString &userId) const;
-    /// Everybody of that name, whether in somebody's contacts or not; at most @p limit.
+    /// Everybody of that name, in anybody's contacts or none; at most @p limit.
     QVector<Person> byName(const QString &name, int limit) const;
-    /// Whose account or user id @p said is, or else the only one of that name.
+    /// The person whose account or user id is @p said, or else the only one of that name.
     std::optional<Person> meantBy(const QString &said) const;
     QVector<Person> all() const;
 
-    /// Those of @p ownerId's contacts who can be invited as @p name: it is their name or the owner's remark
-    /// for them.
+    /// @p ownerId's contacts who can be invited as @p name: by their name or the owner's remark.
     QVector<Person> contactsByName(const QString &ownerId, const QString &name) const;
-    /// The statement behind it, for a look at its plan.
+    /// Its statement, for tests of the query plan.
     static QString contactsByNameSql();
-    /// Those of @p ownerId's contacts whose name, remark or account starts with @p text, by their accounts;
-    /// at most @p limit, and at a cost that grows with that.
+    /// @p ownerId's contacts whose name, remark or account starts with @p text, by account; at most @p limit.
+    /// The cost grows with that.
     QVector<Person> contactsStartingWith(const QString &ownerId, const QString &text, int limit) const;
     std::optional<Person> contactByUserId(const QString &ownerId, const QString &userId) const;
     QVector<Person> contacts(const QString &ownerId) const;
-    /// The contacts, and whoever else was asked to become a friend, whose account comes after @p
-    /// afterAccount, by their accounts; at most @p limit. Its cost does not depend on how many other contacts
-    /// there are.
+    /// The contacts, and other people with a pending friend request, whose account comes after @p
+    /// afterAccount, by account; at most @p limit. The cost does not depend on the number of other contacts.
     QVector<Person> knownAfter(const QString &ownerId, const QString &afterAccount, int limit) const;
-    /// The same of everybody.
+    /// Likewise for everybody.
     QVector<Person> everybodyAfter(const QString &afterAccount, int limit) const;
-    /// The names and remarks of @p ownerId's contacts, each once; at most @p limit.
+    /// The names and remarks of @p ownerId's contacts, without duplicates; at most @p limit.
     QStringList contactNames(const QString &ownerId, int limit) const;
-    /// The names that mean exactly one of @p ownerId's contacts, in the order of the accounts; at most
-    /// @p limit.
+    /// The names that mean exactly one of @p ownerId's contacts, by account; at most @p limit.
     QStringList unmistakableContactNames(const QString &ownerId, int limit) const;
     Friendship friendship(const QString &ownerId, const QString &personId) const;
-    /// Who has asked @p userId to become a friend, with the user's remarks, by their accounts; at most @p
-    /// limit.
+    /// The people who have asked @p userId to become a friend, with the user's remarks, by account; at most
+    /// @p limit.
     QVector<Person> requestsTo(const QString &userId, int limit) const;
-    /// Friends and open requests.
+    /// Counts friends and pending requests.
     int friendCount(const QString &ownerId) const;
 
     void addPerson(const Person &person);
     void setKind(const QString &userId, AccountKind kind);
-    /// Puts the person into the contacts, where they can be invited, or changes the entry.
+    /// Adds the person to the contacts, from which people can be invited, or updates the entry.
     void setContact(const QString &ownerId, const QString &personId, const QString &remarkName,
                     bool isFriend);
-    /// Asks somebody, in the contacts or not, to become a friend.
+    /// Sends a friend request to a person, in the contacts or not.
     void addFriendRequest(const QString &ownerId, const QString &personId);
-    /// Whether there was one.
+    /// Returns whether there was one.
     bool removeFriendRequest(const QString &ownerId, const QString &personId);
     void removeAll();
 

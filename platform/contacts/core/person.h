@@ -5,17 +5,17 @@
 
 #include <QString>
 
-/// What an account may do with its conferences. The numbers are stored.
+/// The limits on an account's conferences. The numbers are stored.
 enum class AccountKind { Free = 0, Paying = 1 };
 
-/// What one person is to another.
+/// The relation of one person to another.
 enum class Friendship {
     None,
     Requested, ///< asked, has not answered yet
     Friend,
 };
 
-/// Somebody with an account.
+/// A person with an account.
 struct Person
 {
     QString userId;

@@ -42,7 +42,7 @@ void makePrivate(const QString &databaseFile)
     const QFileInfo file(databaseFile);
     const QDir folder = file.absoluteDir();
     if (!folder.exists()) {
-        // Private from its first moment on.
+        // Created private, so that there is never a moment when it is not.
         const mode_t former = umask(077);
         const bool made = QDir().mkpath(folder.path());
         umask(former);

@@ -5,8 +5,8 @@
 
 #include <QString>
 
-/// Makes the folder of @p databaseFile, and keeps everybody but its owner out of it (0700) and of the
-/// database files in it (0600), also of those that are there already: they hold passcodes. The database file
-/// exists afterwards, perhaps empty, so that its journal files get the same permissions. What cannot be
-/// changed is logged. Throws DatabaseError when there can be no such file.
+/// Creates the folder of @p databaseFile and makes it (0700) and the database files in it (0600) accessible
+/// to their owner alone, existing ones included: they hold passcodes. Also creates the database file itself
+/// when missing, so that its journal files get the same permissions. Logs what cannot be changed. Throws
+/// DatabaseError when the file cannot be created.
 void makePrivate(const QString &databaseFile);

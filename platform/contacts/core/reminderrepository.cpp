@@ -8,10 +8,10 @@
 
 namespace {
 
-/// One answer names no more than this.
+/// The most entries of one answer.
 constexpr int MostAtOnce = 20;
 
-/// What readAwaited() reads.
+/// The columns that readAwaited() reads.
 QString awaitedColumns()
 {
     return QStringLiteral(
@@ -88,7 +88,7 @@ QVector<AwaitedConference> ReminderRepository::awaited(const QString &userId, qi
 
 std::optional<qint64> ReminderRepository::nextStart(const QString &userId, qint64 fromMsecs) const
 {
-    // Also one that the user will not be reminded of: one look too many costs nothing.
+    // May include one that needs no reminder: looking once too often is harmless.
     Statement query(m_database, QStringLiteral("SELECT start_msecs FROM participant WHERE user_id = ?"
                                                " AND start_msecs >= ? ORDER BY start_msecs LIMIT 1"));
     if (!query.bind(userId).bind(fromMsecs).run().next()) {
@@ -112,7 +112,7 @@ bool ReminderRepository::isAwaited(const QString &userId, qint64 conferenceId, q
 void ReminderRepository::noteShown(const QString &userId, qint64 conferenceId, ReminderKind kind,
                                    qint64 startMsecs)
 {
-    // Nothing for a conference that was deleted meanwhile.
+    // Does nothing for a conference that was deleted meanwhile.
     Statement(
         m_database,
         QStringLiteral("INSERT OR IGNORE INTO shown_reminder (user_id, conference_id, kind, start_msecs)"

@@ -14,7 +14,8 @@
 /// The kinds of reminder that are shown once per conference and start. The numbers are stored.
 enum class ReminderKind { Soon = 1, Start = 2 };
 
-/// A conference that the user has a seat in and has neither joined nor left. Milliseconds since the epoch.
+/// A conference in which the user has a seat that they have neither joined nor left. Milliseconds since the
+/// epoch.
 struct AwaitedConference
 {
     qint64 id = 0;
@@ -30,8 +31,8 @@ struct AwaitedConference
 };
 
 /**
- * What the user is reminded of, and what they have been told already. The database itself notes each
- * invitation and each friend request, whoever writes it, until it has been told. Throws DatabaseError.
+ * What the user is reminded of, and which notifications were shown. Triggers in the database record each
+ * invitation and friend request, whoever writes it, until it has been shown. Throws DatabaseError.
  */
 class ReminderRepository
 {
@@ -41,24 +42,24 @@ public:
     ReminderSettings settings() const;
     void setSettings(const ReminderSettings &settings);
 
-    /// Those that have not ended at @p nowMsecs and start before @p untilMsecs, by their start. Its cost does
-    /// not depend on how many others there are.
+    /// Conferences that have not ended at @p nowMsecs and start before @p untilMsecs, by start. The cost does
+    /// not depend on the number of others.
     QVector<AwaitedConference> awaited(const QString &userId, qint64 nowMsecs, qint64 untilMsecs) const;
-    /// When the first of the user's conferences that starts at or after @p fromMsecs starts.
+    /// The start of the user's first conference that starts at or after @p fromMsecs.
     std::optional<qint64> nextStart(const QString &userId, qint64 fromMsecs) const;
-    /// Whether the conference still starts at @p startMsecs, has not ended, and awaits the user.
+    /// Whether the conference still starts at @p startMsecs, has not ended, and the user has not joined it.
     bool isAwaited(const QString &userId, qint64 conferenceId, qint64 startMsecs, qint64 nowMsecs) const;
     void noteShown(const QString &userId, qint64 conferenceId, ReminderKind kind, qint64 startMsecs);
 
-    /// Invitations that the user has not been told, without those to conferences that have ended.
+    /// Invitations not shown to the user yet, except to conferences that have ended.
     QVector<AwaitedConference> untoldInvitations(const QString &userId, qint64 nowMsecs) const;
     void noteInvitationTold(const QString &userId, qint64 conferenceId);
-    /// Who asked the user to become a friend and was not told yet.
+    /// People whose friend request was not shown to the user yet.
     QVector<Person> untoldRequests(const QString &userId) const;
     void noteRequestTold(const QString &userId, const QString &askerId);
-    /// There is nothing to tell @p userId.
+    /// Drops everything that was to be shown to @p userId.
     void forgetNews(const QString &userId);
-    /// There is nothing to tell anybody.
+    /// Drops everything that was to be shown to anybody.
     void forgetNews();
 
 private:

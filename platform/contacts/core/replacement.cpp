@@ -70,14 +70,14 @@ void Replacement::note(const QSqlDatabase &successor, const Salvaged &salvaged) 
                              : QStringLiteral("没有可找回的内容，现在显示的是示例数据。");
     SessionRepository session(successor);
     session.setNotice(QStringLiteral("数据库已损坏，原文件保存为 %1。%2").arg(setAsideFile(), kept));
-    // What the session says of a damaged file may have been read although nobody else was.
+    // The session inside a damaged file may have been read although nothing else was.
     session.setSeeded(salvaged.people > 0);
     ReminderRepository(successor).forgetNews(); // copying invites nobody
 }
 
 void Replacement::finish() const
 {
-    // What is in a journal that could not be written back is not in the file.
+    // Anything in a journal that could not be written back is missing from the file.
     for (const char *journal : Journals) {
         if (QFile::exists(buildingFile() + QLatin1String(journal))) {
             throw DatabaseError(QStringLiteral("%1 cannot be completed").arg(buildingFile()));
@@ -89,8 +89,8 @@ void Replacement::finish() const
 
 void Replacement::swap() const
 {
-    // The journals go first: once the file itself is set aside, everything is, and what is at its name is an
-    // empty file of a start that was interrupted after it. A journal without its file would be deleted by
+    // Journals first: once the file itself is set aside, the job is done, and a file of that name is the
+    // empty one of a start that was interrupted afterwards. A journal without its file would be deleted by
     // whoever opens that name; a file without its journal is only found here, and set aside after it.
     if (!QFile::exists(setAsideFile())) {
         for (const char *suffix : {Journals[0], Journals[1], ""}) {

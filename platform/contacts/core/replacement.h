@@ -9,29 +9,29 @@
 #include <QString>
 
 /**
- * Replaces a damaged database so that a start that is killed on the way, or runs out of room, loses nothing
- * and keeps nothing from the user. The successor is built beside the damaged file, which stays where it is
- * until the successor is whole and holds the notice to the user. Then the successor gets a name that says so
- * ("contacts.db.replacement-STAMP"), the damaged file is set aside ("contacts.db.damaged-STAMP"), and the
- * successor takes its place. The next start finishes what was interrupted among these. Use it under the
- * OpeningLock. Throws DatabaseError.
+ * Replaces a damaged database so that a start that is killed meanwhile, or runs out of disk space, loses
+ * nothing and hides nothing from the user. The successor is built beside the damaged file, which stays in
+ * place until the successor is complete and holds the notice to the user. Then the successor gets a name that
+ * says so ("contacts.db.replacement-STAMP"), the damaged file is set aside ("contacts.db.damaged-STAMP"), and
+ * the successor takes its place. The next start finishes what was interrupted. Use under the OpeningLock.
+ * Throws DatabaseError.
  */
 class Replacement
 {
 public:
-    /// Clears what an interrupted attempt to build a successor of @p fileName has left.
+    /// Removes the remains of an interrupted attempt to build a successor of @p fileName.
     explicit Replacement(const QString &fileName);
 
-    /// Where the successor is built.
+    /// The successor's path while it is built.
     QString buildingFile() const;
-    /// Where the damaged file will be.
+    /// The future path of the damaged file.
     QString setAsideFile() const;
-    /// Writes into the successor what its user has to know; without people it will get the sample.
+    /// Writes the notice to the user into the successor; without people in it, it will get the sample.
     void note(const QSqlDatabase &successor, const Salvaged &salvaged) const;
-    /// Sets the damaged file aside and puts the successor, which nobody has open, in its place.
+    /// Sets the damaged file aside and moves the successor, which must be closed, into its place.
     void finish() const;
 
-    /// Finishes what a killed start has left of it. @return the damaged file's new name; empty when there was
+    /// Finishes what a killed start has left. @return the damaged file's new name; empty when there was
     /// nothing to finish.
     static QString resume(const QString &fileName);
 

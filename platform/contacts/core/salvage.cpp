@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Those that others refer to come first.
+/// Referenced tables first.
 struct SalvagedTable
 {
     const char *name;
@@ -30,7 +30,7 @@ constexpr SalvagedTable Tables[] = {
     {"shown_reminder", "conference_id user_id kind start_msecs"},
 };
 
-/// Ends after the database that has its name.
+/// Detaches at the end of the scope, which outlives the statements.
 struct Connection
 {
     Connection() = default;

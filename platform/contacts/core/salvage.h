@@ -5,7 +5,7 @@
 
 #include <QSqlDatabase>
 
-/// What could be read of a damaged database.
+/// The rows that could be read of a damaged database.
 struct Salvaged
 {
     int people = 0;
@@ -13,8 +13,8 @@ struct Salvaged
     int rows = 0; ///< of all tables
 };
 
-/// Copies what can be read of @p damagedFile into @p fresh, a database of the present version without
-/// content, row by row, also what lies between two damaged places. Rows whose person or conference is lost
-/// are left out. The damaged file is only read. Within a transaction of the caller's, which has to be undone
-/// when it throws: DatabaseError, when @p fresh fails.
+/// Copies what can be read of @p damagedFile, row by row, into @p fresh, a database of the current version
+/// without content; also what lies between two damaged places. Leaves out rows whose person or conference is
+/// lost. Only reads the damaged file. Call within a transaction and roll it back when this throws:
+/// DatabaseError, when @p fresh fails.
 Salvaged salvage(const QString &damagedFile, const QSqlDatabase &fresh);

@@ -9,13 +9,13 @@
 
 #include <optional>
 
-/// Who uses the application, and the limits that hold. Throws DatabaseError.
+/// The user who is logged in, and the limits in force. Throws DatabaseError.
 class SessionRepository
 {
 public:
     explicit SessionRepository(const QSqlDatabase &database) : m_database(database) {}
 
-    /// The person who is logged in.
+    /// The user who is logged in.
     std::optional<Person> user() const;
     void login(const QString &userId);
     void logout();
@@ -28,19 +28,19 @@ public:
     int creationsPerMinute() const;
     void setCreationsPerMinute(int limit);
 
-    /// Whether the database has had its first content; what somebody emptied later stays empty.
+    /// Whether the database has had its initial content; when somebody has emptied it since, it stays empty.
     bool isSeeded() const;
     void setSeeded(bool seeded);
 
-    /// Notes that the request of that id has been carried out; the last 1000 are known.
+    /// Records that the request with that id was carried out; the last 1000 are kept.
     void notePerformed(const QString &requestId);
     bool wasPerformed(const QString &requestId) const;
 
-    /// What the user has to be told about the database, until they have read it; empty for nothing.
+    /// A notice about the database, until the user has read it; empty for none.
     QString notice() const;
     void setNotice(const QString &text);
 
-    /// Nobody logged in, limits as they come.
+    /// Logs out and restores the default limits.
     void reset();
 
 private:

@@ -46,7 +46,7 @@ Statement &Statement::run()
 bool Statement::next()
 {
     const bool isRow = m_query.next();
-    // The end of the rows, or a page that cannot be read.
+    // Either the end of the rows or a page that cannot be read.
     if (!isRow && m_query.lastError().isValid()) {
         throw DatabaseError(m_query.lastError(), QStringLiteral("in ") + m_query.lastQuery());
     }

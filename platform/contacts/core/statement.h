@@ -14,7 +14,7 @@ public:
     Statement &bind(const QString &value);
     Statement &bind(qint64 value);
     Statement &bind(int value);
-    /// Returns itself, so that a statement without rows is one expression.
+    /// Returns itself, for use in one expression.
     Statement &run();
     bool next();
     QString text(int column) const;

@@ -12,9 +12,9 @@
 
 namespace {
 
-/// A gap that was halved so often without reading anything holds nothing, or nothing that can be found.
+/// A gap bisected this often without reading anything holds nothing, or nothing that can be found.
 constexpr int MostFailures = 8;
-/// The search in gaps ends then: whoever has started the application waits.
+/// Time limit for the search in gaps: the user is waiting for the start.
 constexpr qint64 LongestSearchMsecs = 20000;
 
 const QString Comma = QStringLiteral(", "); // clazy:exclude=non-pod-global-static
@@ -93,7 +93,7 @@ bool TableSalvage::prepare()
             m_columns.append(column);
         }
     }
-    // The session's row is there already; a row that was copied from another side is not copied again.
+    // The session's row exists already, and a row copied from the other end is not copied again.
     const QString verb =
         m_table == QLatin1String("session") ? QStringLiteral("REPLACE") : QStringLiteral("IGNORE");
     return !present.isEmpty() &&
@@ -197,7 +197,7 @@ QVector<RowKey> TableSalvage::keysIn(const QString &index, Direction direction) 
     QVector<RowKey> keys;
     QSqlQuery read(m_damaged);
     read.setForwardOnly(true);
-    // In the index's own order, or all of it would be sorted before the first row is seen.
+    // In the index's own order; any other would sort everything before the first row appears.
     if (!columns.isEmpty() &&
         read.exec(QStringLiteral("SELECT %1 FROM %2 INDEXED BY %3 ORDER BY %4")
                       .arg(m_keys.join(Comma), m_table, index, ordered(columns, direction)))) {
@@ -226,7 +226,7 @@ void TableSalvage::copy(const QSqlQuery &row)
         m_copied += m_write.numRowsAffected();
         return;
     }
-    // A row that refers to something that is lost, or makes no sense, is left out. Without room none is.
+    // Skips a row that refers to something lost, or is invalid. A full disk stops it.
     const DatabaseError error(m_write.lastError(), m_table);
     if (!error.isConstraint()) {
         throw error;

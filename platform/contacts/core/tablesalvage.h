@@ -12,18 +12,18 @@
 
 /**
  * Copies what can be read of one table of a damaged database: from the beginning and from the end, and where
- * that leaves a gap, what lies between the damaged places. It is found by halving the gap and walking up and
- * down from there, and by the keys that the table's indexes still know. For one use.
+ * that leaves a gap, what lies between the damaged places. That is found by bisecting the gap and walking up
+ * and down from there, and by the keys that the table's indexes still know. Use once.
  */
 class TableSalvage
 {
 public:
-    /// @p keys are the columns of the primary key, or "rowid". @p clock bounds the search in gaps.
+    /// @p keys are the columns of the primary key, or "rowid". @p clock limits the search in gaps.
     TableSalvage(const QSqlDatabase &damaged, const QSqlDatabase &fresh, const QString &table,
                  const QStringList &keys, const QElapsedTimer &clock);
 
-    /// How many rows were copied. Rows that refer to something lost are left out. Throws
-    /// DatabaseError when @p fresh fails otherwise.
+    /// The number of rows copied. Leaves out rows that refer to something lost. Throws DatabaseError when @p
+    /// fresh fails otherwise.
     int run();
 
 private:
@@ -33,7 +33,7 @@ private:
         bool isWhole = false; ///< no damage was met
         RowKey last;          ///< of the row that was read last; empty without one
     };
-    /// What lies between two keys could not be read so far.
+    /// A range of keys that could not be read so far.
     struct Gap
     {
         RowKey low;
@@ -42,11 +42,11 @@ private:
     };
 
     bool prepare();
-    /// Copies rows until the damage, from @p from on (down: without it) to before @p to; empty keys stand
-    /// for the ends.
+    /// Copies rows from @p from on in @p direction, until the damage or before @p to; empty keys stand for
+    /// the ends.
     Walk walk(Direction direction, const RowKey &from, const RowKey &to);
     void search(const RowKey &low, const RowKey &high);
-    /// Looks up each row whose key an index knows, and copies those that are missing.
+    /// Looks up each key known to an index and copies the missing rows.
     void copyByIndexes();
     QVector<RowKey> keysIn(const QString &index, Direction direction) const;
     bool isCopied(const RowKey &key);

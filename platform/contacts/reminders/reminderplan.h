@@ -20,11 +20,11 @@ struct Reminder
 
     Occasion occasion = Occasion::Soon;
     AwaitedConference conference;
-    /// The reminder that needs not be shown any more once this one has been.
+    /// The reminder that this one makes unnecessary.
     std::optional<ReminderKind> covers;
 };
 
-/// What is to be shown now and when to look again.
+/// What to show now and when to look again.
 struct ReminderPlan
 {
     QVector<Reminder> due;
@@ -32,9 +32,9 @@ struct ReminderPlan
 };
 
 /**
- * Decides what is due at @p nowMsecs, by the clock alone: how it got there, by waiting, by sleeping or by
- * being set, makes no difference. What ended is never due; what is running is, until its start has been
- * shown. An invitation says by itself how far the conference is, so there is one notification for both.
+ * Decides what is due at @p nowMsecs, by the clock alone: whether it got there by waiting, sleeping or being
+ * set makes no difference. An ended conference is never due; a running one is until its start has been shown.
+ * An invitation says when the conference starts, so one notification serves both.
  */
 ReminderPlan planReminders(const QVector<AwaitedConference> &awaited,
                            const QVector<AwaitedConference> &invitations, int leadMinutes, qint64 nowMsecs);

@@ -16,9 +16,9 @@
 
 namespace {
 
-/// How long the server is left alone after it refused something, and the database after it failed.
+/// Pause before trying again, after the server has refused something or the database has failed.
 constexpr qint64 RetryMsecs = MinuteMsecs;
-/// Looks at least this often, in case there is a reason to that nobody thought of.
+/// Looks at least this often, as a safety net.
 constexpr qint64 LongestWaitMsecs = 60 * MinuteMsecs;
 
 } // namespace
@@ -31,7 +31,7 @@ Reminders::Reminders(ContactsBook &book, const QDBusConnection &connection, QObj
 {
     m_afterChange.setSingleShot(true);
     connect(&m_afterChange, &QTimer::timeout, this, &Reminders::look);
-    // Not within the request that changes something: the answer goes first. Once for many.
+    // After the request that changes something: its answer goes first. Once for many.
     connect(&m_book, &ContactsBook::changed, &m_afterChange, QOverload<>::of(&QTimer::start));
     connect(&m_timer, &WallTimer::timeout, this, &Reminders::look);
     connect(&m_notifier, &Notifier::serverCame, this, [this] {
@@ -64,7 +64,7 @@ void Reminders::look()
 void Reminders::lookAs(const QString &userId, const ReminderSettings &settings)
 {
     if (!settings.isOn) {
-        // What came while nobody wanted to hear of it is not told later.
+        // Events that arrived while reminders were off are not shown later.
         if (!write([this, &userId] { m_book.reminders().forgetNews(userId); })) {
             waitUntil(m_book.nowMsecs() + RetryMsecs);
         }
@@ -150,7 +150,7 @@ void Reminders::send(const QString &key, const Notification &notification, const
             waitUntil(qMin(m_nextLookMsecs, *m_refusedMsecs + RetryMsecs));
             return; // tried again when a server comes, or then
         }
-        // What was shown and cannot be noted is at least not shown again by this process.
+        // A shown notification that cannot be recorded is at least not repeated by this process.
         if (note && !write(note)) {
             m_unnoted.insert(key);
         }
@@ -211,7 +211,7 @@ quint32 Reminders::shownFor(qint64 conferenceId) const
 
 bool Reminders::isHeldBack() const
 {
-    // A clock that was set back holds nothing back.
+    // A clock that was set back delays nothing.
     const qint64 now = m_book.nowMsecs();
     return m_refusedMsecs && now >= *m_refusedMsecs && now < *m_refusedMsecs + RetryMsecs;
 }
@@ -243,7 +243,7 @@ void Reminders::join(const Shown &shown)
     if (!isPresentUsers(shown)) {
         return; // somebody else has logged in since, and it is about to be withdrawn
     }
-    // By the same way as the assistant's requests.
+    // Like the assistant's requests.
     const QJsonObject parameters{{JsonKey::ConferenceId, shown.dialNumber}, {JsonKey::Password, QString()}};
     const QString answer =
         m_book.perform(QStringLiteral("Join Conference"),

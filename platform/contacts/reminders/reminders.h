@@ -17,10 +17,10 @@
 class ContactsBook;
 
 /**
- * Reminds the user who is logged in of their conferences, and tells of invitations and friend requests, with
- * desktop notifications. Looks when something changed, when something is due and when the clock was set. What
- * the server has taken is noted in the database, so it is shown once; what it refused is tried again.
- * Withdraws what is no longer true. Owned by main, on the book's thread, with or without a window.
+ * Shows desktop notifications for the user's conferences, invitations and friend requests. Looks when
+ * something has changed, when something is due and when the clock was set. What the server has accepted is
+ * recorded in the database, so it is shown once; what it has refused is tried again. Withdraws what no longer
+ * holds. Owned by main, on the book's thread, with or without a window.
  */
 class Reminders : public QObject
 {
@@ -32,17 +32,17 @@ public:
 
     /// Shows what is due. Never throws.
     void look();
-    /// When it looks next by itself, in milliseconds since the epoch.
+    /// The next time it looks by itself, in milliseconds since the epoch.
     qint64 nextLookMsecs() const { return m_nextLookMsecs; }
-    /// Whether the server has answered to everything and nothing has changed since it looked.
+    /// Whether the server has answered everything and nothing has changed since.
     bool isSettled() const { return m_sending.isEmpty() && !m_afterChange.isActive(); }
 
 Q_SIGNALS:
-    /// The user has clicked something that is done in the window.
+    /// The user has clicked something that the window handles.
     void windowWanted();
 
 private:
-    /// A notification on the screen; without a conference it is about something else.
+    /// A notification on the screen; one without a conference is about something else.
     struct Shown
     {
         QString userId;
@@ -56,14 +56,13 @@ private:
     void lookAs(const QString &userId, const ReminderSettings &settings);
     void showReminder(const QString &userId, const Reminder &reminder);
     void showRequest(const QString &userId, const Person &asker);
-    /// @p note is run when the server has taken it; empty for what needs no noting.
+    /// Runs @p note once the server has accepted it; empty when nothing needs recording.
     void send(const QString &key, const Notification &notification, const Shown &shown,
               const std::function<void()> &note);
-    /// Runs @p note in a transaction of its own; nobody who shows the state needs to know. False when it
-    /// fails.
+    /// Runs @p note in a transaction, without notifying whoever shows the state. Returns false on failure.
     bool write(const std::function<void()> &note);
     void withdrawStale(const QString &userId);
-    /// Whether what it tells @p userId is still so.
+    /// Whether what it says to @p userId still holds.
     bool isTrue(const Shown &shown, const QString &userId) const;
     quint32 shownFor(qint64 conferenceId) const;
     bool isHeldBack() const;

@@ -8,15 +8,15 @@
 struct Person;
 struct Reminder;
 
-/// The names of the buttons, as the notification server gives them back.
+/// The names of the buttons, as the notification server reports them.
 namespace ReminderAction {
 const QLatin1String Show("default"); ///< a click on the notification itself
 const QLatin1String Join("join");
 const QLatin1String Decline("decline");
 } // namespace ReminderAction
 
-/// What a notification says and offers. Times are in the time zone of the moment.
+/// The text and buttons of a notification. Times are in the current time zone.
 Notification notificationFor(const Reminder &reminder, qint64 nowMsecs);
 Notification notificationFor(const Person &asker);
-/// What became of a click on 加入 that did not lead into the conference; @p text says why.
+/// The notification after a click on 加入 that did not lead into the conference; @p text says why.
 Notification notificationAbout(const QString &title, const QString &text);

@@ -66,8 +66,8 @@ void WallTimer::watch(int descriptor)
 void WallTimer::watchClock()
 {
     itimerspec never{};
-    // The kernel takes what is beyond its own end for that end. A moment that the clock can pass would be due
-    // again and again.
+    // The kernel clamps anything beyond its range. A moment that the clock can pass would be due again and
+    // again.
     never.it_value.tv_sec = std::numeric_limits<time_t>::max();
     timerfd_settime(m_clock, TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &never, nullptr);
 }

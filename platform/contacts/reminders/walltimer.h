@@ -8,8 +8,8 @@
 #include <memory>
 
 /**
- * Waits for a moment of the calendar. Unlike QTimer it goes on counting while the computer sleeps, so that it
- * is due right after waking up, and it also tells when somebody sets the clock. On the thread that made it.
+ * Waits for a point in calendar time. Unlike QTimer it keeps counting while the computer sleeps, so it is due
+ * right after waking up, and it reports when somebody sets the clock. Use on the thread that created it.
  */
 class WallTimer : public QObject
 {
@@ -19,11 +19,11 @@ public:
     explicit WallTimer(QObject *parent = nullptr);
     ~WallTimer() override;
 
-    /// Waits @p msecs from now on, instead of what it waited for; at least a millisecond.
+    /// Waits @p msecs from now on, at least a millisecond; replaces the earlier wait.
     void start(qint64 msecs);
 
 Q_SIGNALS:
-    /// The time has passed, or the clock has been set.
+    /// The time has come, or the clock was set.
     void timeout();
 
 private:

@@ -15,7 +15,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-/// A static library's resources are not there by themselves. Outside any namespace, as the macro demands.
+/// Static libraries do not register their resources themselves. The macro must be outside any namespace.
 static void registerSample()
 {
     Q_INIT_RESOURCE(sample);
@@ -52,7 +52,7 @@ qint64 startOf(const QJsonObject &conference, qint64 nowMsecs)
     return QDateTime(day, time).toMSecsSinceEpoch();
 }
 
-/// Reads one sample; knows people by their account, as the file does.
+/// Reads one sample; like the file, refers to people by account.
 class SampleLoader
 {
 public:

@@ -9,10 +9,9 @@ class ConferenceRepository;
 class PeopleRepository;
 class SessionRepository;
 
-/// The directory that comes with the application, sample.json: enough people and conferences that every
-/// outcome can be had.
+/// The sample directory, sample.json: enough people and conferences for every outcome.
 namespace SampleDirectory {
-/// Adds it to an empty database and logs its user in. Its times are relative to @p nowMsecs, in local time.
+/// Adds it to an empty database and logs its user in. Times are relative to @p nowMsecs, in local time.
 /// Throws DatabaseError.
 void load(PeopleRepository &people, ConferenceRepository &conferences, SessionRepository &session,
           qint64 nowMsecs);

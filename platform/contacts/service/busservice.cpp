@@ -21,7 +21,7 @@ BusService::BusService(ContactsBook &book, Interfaces interfaces, QObject *paren
     , m_connection(QDBusConnection::sessionBus())
     , m_requests(new ContactRequests(book, this))
 {
-    // Adaptors belong to the objects that they speak for.
+    // Adaptors are children of the objects they stand for.
     new Contact1Adaptor(m_requests);
     if (interfaces == Interfaces::WithAdministration) {
         m_administration = new Administration(book, this);
@@ -40,7 +40,7 @@ BusService::Start BusService::start()
         qCritical() << "The end of the session bus cannot be watched:" << m_connection.lastError().message();
         return Start::Refused;
     }
-    // The objects first: whoever waits for the name calls at once.
+    // Objects before the name: clients waiting for the name call at once.
     if (!putOnBus(BusName::contactPath(), m_requests) ||
         (m_administration && !putOnBus(BusName::adminPath(), m_administration))) {
         return Start::Refused;

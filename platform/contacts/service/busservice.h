@@ -12,7 +12,7 @@ class Administration;
 class ContactRequests;
 class ContactsBook;
 
-/// Puts the application on the session bus: requests and administration, each at its own object, under the
+/// Publishes the application on the session bus: requests and administration, each at its own object, under
 /// one name. Owned by main, on the book's thread.
 class BusService : public QObject
 {
@@ -21,19 +21,19 @@ class BusService : public QObject
 public:
     using Start = BusStart;
 
-    /// The administration is for whoever runs the application to try it out: it hides nothing and can empty
-    /// everything, and any program of the session can call it.
+    /// The administration is for trying the application out: it hides nothing and can delete everything, and
+    /// any program of the session can call it.
     enum class Interfaces { RequestsOnly, WithAdministration };
 
     /// @p book must outlive it.
     BusService(ContactsBook &book, Interfaces interfaces, QObject *parent = nullptr);
 
     Start start();
-    /// Brings up the window of the process that has the name. Waits for its answer, 5 seconds at most.
+    /// Shows the window of the process that has the name. Waits for its answer, 5 seconds at most.
     void askOtherForWindow();
 
 Q_SIGNALS:
-    /// The bus has gone; there is nobody left to serve.
+    /// The bus is gone; nobody is left to serve.
     void disconnected();
 
 private:

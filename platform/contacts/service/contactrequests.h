@@ -9,7 +9,7 @@
 
 class ContactsBook;
 
-/// The object behind com.kelvane.meetlynx.Contact1: hands every request to the book. On the book's thread.
+/// Implements com.kelvane.meetlynx.Contact1 by passing every request to the book. On the book's thread.
 class ContactRequests : public QObject, protected QDBusContext
 {
     Q_OBJECT

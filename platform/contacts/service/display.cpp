@@ -15,7 +15,7 @@
 
 namespace {
 
-/// Connects to a local socket; a leading NUL names one in the abstract space.
+/// Connects to a local socket; a leading NUL means an abstract name.
 bool answers(const QByteArray &path)
 {
     sockaddr_un address{};
@@ -28,7 +28,7 @@ bool answers(const QByteArray &path)
     if (descriptor < 0) {
         return false;
     }
-    // A file's name ends with its NUL, an abstract name with its length.
+    // A file's name ends with its NUL; an abstract name is as long as its length says.
     const size_t length =
         offsetof(sockaddr_un, sun_path) + static_cast<size_t>(path.size()) + (path.startsWith('\0') ? 0 : 1);
     const bool connected = connect(descriptor, reinterpret_cast<const sockaddr *>(&address),

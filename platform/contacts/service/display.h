@@ -3,6 +3,6 @@
 
 #pragma once
 
-/// Whether a window can be shown: a platform was asked for by name, or a display server answers. Looked at
-/// before the application object exists, because a GUI application without a display server aborts.
+/// Whether a window can be shown: a platform was chosen by name, or a display server answers. Call before
+/// creating the application object, because a GUI application aborts without a display server.
 bool canShowWindows();

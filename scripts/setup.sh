@@ -21,8 +21,8 @@ packages_test=(
 packages_package=(abigail-tools binutils build-essential debhelper dpkg-dev lintian xz-utils)
 # Needed by tst_krunner, which is skipped otherwise. Never installed from here: it pulls in 380 packages.
 packages_launcher=(plasma-workspace xdotool xvfb)
-# Also needed by the benchmarks.
-packages_bench=(libbenchmark-dev python3 valgrind xvfb)
+# Also needed by the benchmarks. With libc6-dbg, callgrind can tell what the dynamic linker does.
+packages_bench=(libbenchmark-dev libc6-dbg python3 valgrind xvfb)
 # Also needed by .ci/run.
 packages_ci=(clang clang-format-16 clang-tidy clazy libbenchmark-dev libclang-rt-14-dev llvm shellcheck)
 

@@ -82,7 +82,9 @@ bool Clause::isExplained(std::size_t at) const
     case Token::Kind::Number: // a date or an hour that was cut
         return m_intent != QLatin1String(CreateConference) || token.inName || isDescription(at);
     case Token::Kind::Duration: // how long a new one takes, or how long one took
-        return m_intent == QLatin1String(CreateConference);
+        return m_intent == QLatin1String(CreateConference) ||
+               (m_isQuery && m_reading.has(WordClass::Question) &&
+                textOf(token) == QStringLiteral("一天")); // 今天一天有几个会
     default:
         return true;
     }

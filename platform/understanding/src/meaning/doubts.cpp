@@ -4,6 +4,7 @@
 #include "meaning/doubts.h"
 
 #include "meaning/outcome.h"
+#include "names/namelook.h"
 #include "text/scan.h"
 
 #include <algorithm>
@@ -51,6 +52,33 @@ bool callsStranger(const Reading &reading)
         if (strange && !token.inName && tokens[at - 1].is(WordClass::Trigger) && !tokens[at - 1].inName &&
             tokens[at + 1].isAny(WordClass::Join | WordClass::Arrive)) {
             return true;
+        }
+    }
+    return false;
+}
+
+/// 宋阳那边三点方便，帮我约个会 and 约个蔡小明的会: somebody is spoken of who was not found.
+bool mentionsStranger(const Reading &reading)
+{
+    constexpr int shortest = 2;
+    constexpr int longest = 3;
+    const QString &text = reading.sentence().text();
+    const Tokens &tokens = reading.tokens();
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        const Token &token = tokens[at];
+        if (token.kind != Token::Kind::Other || token.inName || token.inTopic) {
+            continue;
+        }
+        const bool begins = at == 0 || tokens[at - 1].is(WordClass::Punctuation);
+        const bool ofConference = at + 1 < tokens.size() && tokens[at + 1].is(WordClass::Conference) &&
+                                  token.length == longest + 1 && text.at(token.end() - 1) == QChar(u'的');
+        for (int length = shortest; length <= longest; ++length) {
+            const bool there =
+                begins && firstOf(text, token.position + length, {u"那边", u"这边", u"那儿"}) > 0;
+            const QString said = text.mid(token.position, length);
+            if ((there || (ofConference && length == longest)) && isPersonsName(said) && !isThing(said)) {
+                return true;
+            }
         }
     }
     return false;
@@ -187,7 +215,8 @@ bool isAboutSomethingElse(const Reading &reading, const QString &intent)
     }
     if (intent == QLatin1String(CreateConference)) {
         return asksWho(reading) || tellsBeginning(reading) || onlyTalks(reading) || isHeldInRoom(reading) ||
-               sendsSomebody(reading) || reminds(reading) || callsStranger(reading);
+               sendsSomebody(reading) || reminds(reading) || callsStranger(reading) ||
+               mentionsStranger(reading);
     }
     if (intent == QLatin1String(InviteConference)) {
         return asksWho(reading) || sendsSomebody(reading) || callsForNothing(reading);

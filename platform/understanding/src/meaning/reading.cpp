@@ -111,6 +111,11 @@ void Reading::collectTimes()
         if ((token.kind != Token::Kind::Time && token.time.isEmpty()) || token.inTopic || token.inName) {
             continue;
         }
+        const bool ends = m_time.hasClock && token.time.hasClock && // 三点开会，开到五点
+                          m_sentence.text().midRef(0, token.position).endsWith(QStringLiteral("开到"));
+        if (ends) {
+            continue;
+        }
         const bool again = m_time.hasClock && token.time.hasClock && m_time.hour == token.time.hour &&
                            m_time.minute == token.time.minute; // 明天三点，对，三点
         // 昨天的会没开完，明天三点接着开
@@ -200,7 +205,8 @@ bool Reading::isCutOff(std::size_t number) const
     const Token &behind = m_tokens[number + 1];
     if (behind.is(WordClass::Punctuation)) {
         return number + 2 < m_tokens.size() && m_tokens[number + 2].kind == Token::Kind::Number &&
-               m_tokens[number + 2].position == behind.end();
+               m_tokens[number + 2].position == behind.end() &&
+               (m_password.isEmpty() || m_password.position != behind.end());
     }
     return behind.kind == Token::Kind::Latin || behind.kind == Token::Kind::Time ||
            behind.kind == Token::Kind::Duration ||
@@ -233,7 +239,14 @@ void Reading::collectNumbers()
 {
     for (std::size_t at = 0; at < m_tokens.size() && m_password.isEmpty(); ++at) {
         if (m_tokens[at].is(WordClass::PasswordLabel)) {
-            takePassword(at);
+            const bool behind = at > 1 && m_tokens[at - 2].kind == Token::Kind::Number && // 1122是密码
+                                m_tokens[at - 1].position + 1 == m_tokens[at].position &&
+                                m_sentence.text().at(m_tokens[at - 1].position) == QChar(u'是');
+            if (behind) {
+                m_password = digitsOf(m_tokens[at - 2]);
+            } else {
+                takePassword(at);
+            }
         }
     }
     for (std::size_t at = 0; at < m_tokens.size(); ++at) {

@@ -126,7 +126,7 @@ private:
     bool holdsOtherThings() const
     {
         static const QString never =
-            QStringLiteral("了的着得吧吗呢啊呀嘛哦哈呗噢啦咯也都就还再又个这那谁他她它您你");
+            QStringLiteral("了的着得吧吗呢啊呀嘛哦哈呗噢啦咯没俩仨也都就还再又个这那谁他她它您你");
         static const QString neverFirst = QStringLiteral("不没别在要想到过去来一有是");
         const QString name = said();
         const bool strange = std::any_of(name.cbegin(), name.cend(), [](QChar character) {

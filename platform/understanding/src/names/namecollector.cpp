@@ -64,7 +64,8 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
     const bool cut = withoutParticles(QStringLiteral("的的") + behind).size() > 2 ||
                      (behind.size() > 1 && !withoutParticles(behind).isEmpty());
     name.truncate(head);
-    if (name.size() > 2 && name.at(0) == QChar(u'约') && isPersonsName(name.mid(1))) { // 约约王磊
+    static const QString leads = QStringLiteral("约人"); // 约约王磊, 邀请人宋阳
+    if (name.size() > 2 && leads.contains(name.at(0)) && isPersonsName(name.mid(1))) {
         name = name.mid(1);
     }
     const int offset = chunk.lastIndexOf(name);
@@ -94,7 +95,7 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
 bool NameCollector::isWholeName(const QString &chunk, int end) const
 {
     static const QString enclosing = QStringLiteral("、,。;/和跟与及 ");
-    static const QString never = QStringLiteral("也都全等哈吧呢啊呀了的吗嘛呗参加");
+    static const QString never = QStringLiteral("没俩仨也都全等哈吧呢啊呀了的吗嘛呗参加");
     static const QString always = QStringLiteral("为可成能做");
     const bool closed = end == m_text.size() || enclosing.contains(m_text.at(end));
     return chunk.size() == 3 && isPersonsName(chunk) &&

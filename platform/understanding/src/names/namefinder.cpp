@@ -123,6 +123,10 @@ private:
         if (m_tokens[last].kind != Token::Kind::Other) {
             return at;
         }
+        if (const int comer = m_places.comerLength(at)) { // 宋阳必须到
+            addOne(token.position, comer, true);
+            return at;
+        }
         if (token.length == 1 && last == at && last + 1 < m_tokens.size() &&
             m_tokens[last + 1].is(WordClass::Title) &&
             m_tokens[last + 1].position == m_tokens[last].end()) { // 陈工

@@ -251,8 +251,9 @@ QStringList splitNames(const QString &text)
 QString withoutParticles(const QString &text)
 {
     static const QString leading = QStringLiteral("的也都再就先在要想了个请给对着还又把将跟是有帮替");
-    static const QString trailing = QStringLiteral("也都全来去再就先在要想等的给吧呢啊呀了过到于得能可需将又"
-                                                   "还会用里并且吗嘛上下把做成为参加约让呗哈哦噢喔啦咯");
+    static const QString trailing =
+        QStringLiteral("也都全来去再就先在要想等的给吧呢啊呀了过到于得能可需将又"
+                       "还会用里并且吗嘛上下把做成为参加约让呗哈没俩仨哦噢喔啦咯");
     int start = 0;
     int end = text.size();
     // What is left has two characters at least: 王来 is a name.

@@ -5,6 +5,7 @@
 
 #include "names/headreader.h"
 #include "names/namelook.h"
+#include "text/scan.h"
 
 #include <algorithm>
 
@@ -256,6 +257,33 @@ bool NamePlaces::isSomebody(std::size_t at) const
            m_tokens[next].position == m_tokens[at].end() &&
            (m_tokens[next].kind == Token::Kind::Other || m_tokens[next].is(WordClass::Title)) &&
            isPersonsName(m_text.mid(m_tokens[at].position, m_tokens[next].length + 1));
+}
+
+int NamePlaces::comerLength(std::size_t at) const
+{
+    if (at == 0 || m_tokens[at].kind != Token::Kind::Other || !m_tokens[at - 1].is(WordClass::Punctuation) ||
+        !hasConference()) {
+        return 0;
+    }
+    for (const int length : {2, 3}) {
+        const int start = m_tokens[at].position;
+        int next = start + length;
+        if (next > m_text.size() || !isPersonsName(m_text.mid(start, length))) {
+            continue;
+        }
+        const int must = firstOf(m_text, next,
+                                 {u"也必须", u"也得", u"也要", u"必须", u"务必", u"一定得", u"一定要",
+                                  u"一定", u"得", u"要", u"也", u"需要"});
+        const int comes = firstOf(m_text, next + must, {u"来", u"到场", u"到", u"参加", u"出席", u"在"});
+        const int alone = firstOf(m_text, next, {u"一个人就", u"一个就", u"一人就"});
+        next += must + comes;
+        const QChar behind = m_text.size() > next ? m_text.at(next) : QChar(u',');
+        static const QString ends = QStringLiteral(",.!。;吧哦啊的");
+        if (alone > 0 || (must > 0 && comes > 0 && ends.contains(behind))) {
+            return length;
+        }
+    }
+    return 0;
 }
 
 bool NamePlaces::callsAgain(std::size_t lead, std::size_t next) const

@@ -45,6 +45,8 @@ public:
     [[nodiscard]] bool callsAgain(std::size_t lead, std::size_t next) const;
     /// 张伟, Tom, 于老板: a name begins there, also one that begins with a word of the rules.
     [[nodiscard]] bool isSomebody(std::size_t at) const;
+    /// The length of the name in 三点开会，宋阳必须到 and 宋阳一个人就行; 0 where nobody comes so.
+    [[nodiscard]] int comerLength(std::size_t at) const;
     /// 我的 in 和我的同事李静.
     [[nodiscard]] bool isOwner(std::size_t at) const;
     /// The token that holds the end of what says who somebody is, 号线的耿浩 in 4号线的耿浩; @p at for none.

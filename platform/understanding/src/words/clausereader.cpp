@@ -291,6 +291,25 @@ bool asksAtStart(const Tokens &tokens, std::size_t at)
     return false;
 }
 
+/// 敲定 in 跟张伟开会敲定合同: what the conference is for, right behind it.
+bool isPurpose(const QString &text, const Tokens &tokens, std::size_t at)
+{
+    if (at < 2 || !tokens[at - 1].is(WordClass::Conference) || tokens[at - 1].length != 1 ||
+        !tokens[at - 2].isAny(WordClass::WeakOpen | WordClass::Measure) ||
+        tokens[at - 1].end() != tokens[at].position) {
+        return false;
+    }
+    const int verb = firstOf(text, tokens[at].position,
+                             {u"敲定",   u"确认", u"分析", u"解决",   u"处理", u"看看", u"看下", u"看一下",
+                              u"定一下", u"定下", u"说下", u"说一下", u"对接", u"推进", u"核对", u"拍板",
+                              u"决定",   u"拟定", u"制定", u"修改",   u"完善", u"审核", u"演示", u"布置",
+                              u"落实",   u"明确", u"评估", u"规划",   u"答疑", u"汇总", u"回顾", u"反馈",
+                              u"协调",   u"准备", u"安排", u"商定",   u"选",   u"改",   u"过"});
+    const int behind = tokens[at].position + verb;
+    return verb > 0 && behind < text.size() &&
+           firstOf(text, behind, {u"了", u"过", u"完", u"得", u",", u"."}) == 0;
+}
+
 /// What a conference is about runs to the end of its clause or to the conference: 关于预算的会议.
 void settleTopics(const QString &text, Tokens &tokens)
 {
@@ -304,6 +323,7 @@ void settleTopics(const QString &text, Tokens &tokens)
             token.is(WordClass::NameLabel) || settlesTime(text, token) || labelsTime(text, token)) {
             inTopic = false;
         }
+        inTopic = inTopic || isPurpose(text, tokens, at);
         token.inTopic = inTopic;
         // 评审 in 邀请评审专家戚教授 tells who is called.
         if (token.is(WordClass::Topic) && !called && !asksAtStart(tokens, at)) {
@@ -311,6 +331,28 @@ void settleTopics(const QString &text, Tokens &tokens)
         }
         called = token.isAny(WordClass::Trigger | WordClass::Invite) && !token.is(WordClass::StrongOpen) &&
                  token.length > 1;
+    }
+}
+
+/// 延期 in 项目延期了，明天三点开会: not the conference is put off.
+void settleChanges(const QString &text, Tokens &tokens)
+{
+    std::size_t change = tokens.size();
+    bool conference = false; // in this clause, or its time
+    for (std::size_t at = 0; at <= tokens.size(); ++at) {
+        if (isAtClauseEnd(tokens, at)) {
+            if (change < at && !conference && at + 1 < tokens.size()) {
+                tokens[change].classes.remove(WordClass::Change);
+            }
+            change = tokens.size();
+            conference = false;
+            continue;
+        }
+        conference = conference || isConference(tokens[at]) || tokens[at].kind == Token::Kind::Time ||
+                     firstOf(text, tokens[at].position, {u"时间", u"会"}) > 0;
+        if (tokens[at].is(WordClass::Change) && charAt(text, tokens[at].end()) == QChar(u'了')) {
+            change = at;
+        }
     }
 }
 
@@ -356,6 +398,7 @@ void settleQuestions(const QString &text, Tokens &tokens)
 void settleWords(const QString &text, Tokens &tokens)
 {
     settleQuestions(text, tokens);
+    settleChanges(text, tokens);
     settleConferences(text, tokens);
     settleTopics(text, tokens);
     settleOpening(text, tokens);

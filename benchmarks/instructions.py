@@ -117,6 +117,7 @@ def main(build):
     for name, title in (
         ("oneConference", "one conference"),
         ("listOfConferences/3", "three conferences"),
+        ("listOfConferences/10000", "10,000 conferences"),
         ("editableConference", "a conference to be changed"),
         ("candidatesToPick/50", "50 people to pick from"),
     ):

@@ -73,6 +73,7 @@ void PlainWidgets::readWidget(const QWidget &widget)
     } else if (const auto *button = qobject_cast<const QPushButton *>(&widget)) {
         m_kind = Kind::Button;
         m_texts.append(button->text());
+        m_isFlat = button->isFlat();
     } else if (const auto *box = qobject_cast<const QComboBox *>(&widget)) {
         m_kind = qobject_cast<const CustomizeComboBox *>(box) != nullptr ? Kind::DateBox : Kind::ComboBox;
         for (int i = 0; i < box->count(); ++i) {
@@ -88,6 +89,8 @@ void PlainWidgets::readWidget(const QWidget &widget)
     m_hasPalette = widget.testAttribute(Qt::WA_SetPalette);
     m_palette = widget.palette();
     m_isHidden = widget.isHidden();
+    m_fillsGround = widget.autoFillBackground();
+    m_groundRole = widget.backgroundRole();
     m_minimumSize = widget.minimumSize();
     m_maximumSize = widget.maximumSize();
     if (const auto *layout = qobject_cast<const QBoxLayout *>(widget.layout())) {
@@ -133,9 +136,12 @@ QWidget *PlainWidgets::buildWidget(QWidget *parent) const
         widget = label;
         break;
     }
-    case Kind::Button:
-        widget = new QPushButton(m_texts.first(), parent);
+    case Kind::Button: {
+        auto *button = new QPushButton(m_texts.first(), parent);
+        button->setFlat(m_isFlat);
+        widget = button;
         break;
+    }
     case Kind::CheckBox:
         widget = new QCheckBox(m_texts.first(), parent);
         break;
@@ -159,6 +165,10 @@ QWidget *PlainWidgets::buildWidget(QWidget *parent) const
     default:
         widget = new QWidget(parent);
         break;
+    }
+    if (m_fillsGround) {
+        widget->setAutoFillBackground(true);
+        widget->setBackgroundRole(m_groundRole);
     }
     widget->setFont(m_font);
     if (m_hasPalette) {

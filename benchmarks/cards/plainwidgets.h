@@ -49,6 +49,9 @@ private:
     QPalette m_palette;
     bool m_hasPalette = false;
     bool m_isHidden = false;
+    bool m_isFlat = false;
+    bool m_fillsGround = false;
+    QPalette::ColorRole m_groundRole = QPalette::NoRole;
     QSize m_minimumSize;
     QSize m_maximumSize;
     int m_stretch = 0;

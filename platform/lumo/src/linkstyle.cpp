@@ -18,23 +18,27 @@ constexpr int HorizontalPadding = 2;
 constexpr int VerticalPadding = 4;
 constexpr qreal FocusFrameRadius = 4;
 
-/// The font in which the text fits, or the smallest one.
-QFont shownFont(const QString &text, const QWidget &widget)
+struct Shown
+{
+    QFont font;
+    QString text;
+};
+
+/// The text in the largest font in which it fits; elided, in the smallest one, if there is none. Measuring
+/// costs more than painting, so what fits is not measured again.
+Shown shown(const QString &text, const QWidget &widget)
 {
     const int room = widget.width() - 2 * HorizontalPadding;
     const int smallest = LFontSizeManager::instance()->fontPixelSize(LFontSizeManager::T10);
-    QFont shown = widget.font();
+    QFont font = widget.font();
     int pixelSize = widget.fontInfo().pixelSize();
-    while (pixelSize > smallest && QFontMetrics(shown).size(Qt::TextShowMnemonic, text).width() > room) {
-        shown.setPixelSize(--pixelSize);
+    while (QFontMetrics(font).size(Qt::TextShowMnemonic, text).width() > room) {
+        if (pixelSize <= smallest) {
+            return {font, QFontMetrics(font).elidedText(text, Qt::ElideRight, room, Qt::TextShowMnemonic)};
+        }
+        font.setPixelSize(--pixelSize);
     }
-    return shown;
-}
-
-QString shownText(const QString &text, const QFont &font, const QWidget &widget)
-{
-    return QFontMetrics(font).elidedText(text, Qt::ElideRight, widget.width() - 2 * HorizontalPadding,
-                                         Qt::TextShowMnemonic);
+    return {font, text};
 }
 
 } // namespace
@@ -76,7 +80,7 @@ bool LinkStyle::eventFilter(QObject *watched, QEvent *event)
         return QCommonStyle::eventFilter(watched, event);
     }
     const QString text = button->text();
-    if (shownText(text, shownFont(text, *button), *button) == text) {
+    if (shown(text, *button).text == text) {
         return false;
     }
     const auto *help = static_cast<const QHelpEvent *>(event);
@@ -94,12 +98,11 @@ void LinkStyle::drawLink(const QStyleOptionButton &option, QPainter &painter, co
                                 FocusFrameRadius);
     }
     const bool enabled = option.state.testFlag(State_Enabled);
-    const QFont textFont = shownFont(option.text, widget);
-    QFont painted = textFont;
-    painted.setUnderline(enabled && option.state.testFlag(State_MouseOver));
-    painter.setFont(painted);
+    Shown link = shown(option.text, widget);
+    link.font.setUnderline(enabled && option.state.testFlag(State_MouseOver));
+    painter.setFont(link.font);
     const QRect room = option.rect.adjusted(HorizontalPadding, 0, -HorizontalPadding, 0);
-    drawItemText(&painter, room, Qt::AlignCenter | Qt::TextShowMnemonic, option.palette, enabled,
-                 shownText(option.text, textFont, widget), QPalette::ButtonText);
+    drawItemText(&painter, room, Qt::AlignCenter | Qt::TextShowMnemonic, option.palette, enabled, link.text,
+                 QPalette::ButtonText);
     painter.restore();
 }

@@ -27,6 +27,11 @@ bool Clause::isOtherQuestion() const
     }
     const bool uncalled =
         m_begin < m_end && m_tokens[m_begin].inName && !m_reading.isCalledAt(m_tokens[m_begin].position);
+    // 老板下午有会吗, 我们老板有会吗
+    const std::size_t owner =
+        m_begin < m_end && m_tokens[m_begin].is(WordClass::Nobody) ? m_begin + 1 : m_begin;
+    const bool others = owner < m_end && has(WordClass::Have) && m_tokens[owner].is(WordClass::Title) &&
+                        isSomebody(m_tokens[owner]);
     static const QStringList settling = {QStringLiteral("定在"), QStringLiteral("定于"),
                                          QStringLiteral("约在"), QStringLiteral("放在")};
     const bool settled = any([&](std::size_t at) { return settling.contains(textOf(m_tokens[at])); });
@@ -39,7 +44,7 @@ bool Clause::isOtherQuestion() const
         const bool none = at + 1 < m_end && m_tokens[at + 1].is(WordClass::Conference);
         return m_tokens[at].is(WordClass::Reported) && !none;
     });
-    return uncalled || settled || proposed || reported || asksAboutConference() ||
+    return uncalled || others || settled || proposed || reported || asksAboutConference() ||
            (has(WordClass::Have) && !m_reading.hasAny(AskingWords) && !m_reading.isAsked());
 }
 

@@ -8,6 +8,7 @@
 #include "text/scan.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace understanding {
 
@@ -206,25 +207,80 @@ bool isHeldInRoom(const Reading &reading)
            text.indexOf(QStringLiteral("开会"), room) > room;
 }
 
+/// 123456789是张伟的会议号 tells whose it is.
+bool tellsWhoseNumber(const Reading &reading)
+{
+    const int end = reading.conferenceNumber().position + reading.conferenceNumber().length;
+    return !reading.conferenceNumber().isEmpty() && reading.has(WordClass::IdLabel) &&
+           !reading.hasAny(WordClass::Join | WordClass::WeakJoin | WordClass::Request) &&
+           charAt(reading.sentence().text(), end) == QChar(u'是');
+}
+
+/// 下次开会记得叫我, 有空一起开会啊, 你能开会吗, 我先开会, 会议三点到五点: no time is set, or no
+/// order given.
+bool onlySpeaksOf(const Reading &reading)
+{
+    const QString &text = reading.sentence().text();
+    if (!reading.names().empty() || reading.has(WordClass::Request)) {
+        const bool ability = text.startsWith(QStringLiteral("你能")) ||
+                             text.startsWith(QStringLiteral("你会")) ||
+                             text.startsWith(QStringLiteral("你可以"));
+        return reading.names().empty() && ability && reading.has(WordClass::QuestionParticle) &&
+               reading.timeSaid().isEmpty() && !text.contains(QStringLiteral("帮")) &&
+               !text.contains(QStringLiteral("给"));
+    }
+    const bool bare = reading.openVerb().isEmpty() && text.startsWith(QStringLiteral("会议")) &&
+                      !text.startsWith(QStringLiteral("会议预"));
+    if (!reading.timeSaid().isEmpty()) {
+        return bare && reading.tokens().size() <= 3;
+    }
+    return text.contains(QStringLiteral("下次")) || text.contains(QStringLiteral("有空")) ||
+           text.startsWith(QStringLiteral("我先"));
+}
+
+/// 帮我把会议室退了: a room is given back.
+bool returnsRoom(const Reading &reading)
+{
+    return reading.sentence().text().contains(QStringLiteral("会议室退"));
+}
+
+bool comesLater(const Reading &reading)
+{
+    return reading.has(WordClass::UnclearSoon); // 等会儿再加入123456789
+}
+
+constexpr struct
+{
+    const char *intent;
+    bool (*isDoubtful)(const Reading &);
+} Doubts[] = {
+    {CreateConference, asksWho},
+    {CreateConference, tellsBeginning},
+    {CreateConference, onlyTalks},
+    {CreateConference, isHeldInRoom},
+    {CreateConference, sendsSomebody},
+    {CreateConference, reminds},
+    {CreateConference, callsStranger},
+    {CreateConference, mentionsStranger},
+    {CreateConference, onlySpeaksOf},
+    {InviteConference, asksWho},
+    {InviteConference, sendsSomebody},
+    {InviteConference, callsForNothing},
+    {EnterConferenceById, tellsWhoseNumber},
+    {EnterConferenceById, comesLater},
+    {EnterMyConference, asksWho},
+    {EnterMyConference, asksHowMany},
+    {CloseConference, returnsRoom},
+    {AddBuddy, onlyMentionsFriend},
+};
+
 } // namespace
 
 bool isAboutSomethingElse(const Reading &reading, const QString &intent)
 {
-    if (intent == QLatin1String(QueryConference)) {
-        return false;
-    }
-    if (intent == QLatin1String(CreateConference)) {
-        return asksWho(reading) || tellsBeginning(reading) || onlyTalks(reading) || isHeldInRoom(reading) ||
-               sendsSomebody(reading) || reminds(reading) || callsStranger(reading) ||
-               mentionsStranger(reading);
-    }
-    if (intent == QLatin1String(InviteConference)) {
-        return asksWho(reading) || sendsSomebody(reading) || callsForNothing(reading);
-    }
-    if (intent == QLatin1String(EnterMyConference)) {
-        return asksWho(reading) || asksHowMany(reading);
-    }
-    return intent == QLatin1String(AddBuddy) && onlyMentionsFriend(reading);
+    return std::any_of(std::begin(Doubts), std::end(Doubts), [&](const auto &doubt) {
+        return intent == QLatin1String(doubt.intent) && doubt.isDoubtful(reading);
+    });
 }
 
 } // namespace understanding

@@ -56,7 +56,8 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
     if (name.size() < 2 || name.size() > LongestName || (mustLookLikeName && !looksLikeName(name))) {
         return;
     }
-    if (Lexicon::instance().classesOf(name).has(WordClass::Nobody) || isThing(name)) {
+    if (Lexicon::instance().classesOf(name).has(WordClass::Nobody) || isThing(name) ||
+        (name.size() == 2 && name.at(1) == QChar(u'不'))) { // 查不到
         return;
     }
     const int head = headLength(name);
@@ -100,6 +101,11 @@ bool NameCollector::isWholeName(const QString &chunk, int end) const
     const bool closed = end == m_text.size() || enclosing.contains(m_text.at(end));
     return chunk.size() == 3 && isPersonsName(chunk) &&
            ((closed && !never.contains(chunk.at(2))) || always.contains(chunk.at(2)));
+}
+
+bool NameCollector::followsName(const Token &token) const
+{
+    return !m_names.empty() && m_names.back().position + m_names.back().said.size() == token.position;
 }
 
 bool NameCollector::isLostBefore(const Tokens &tokens, std::size_t at) const

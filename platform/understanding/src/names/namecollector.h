@@ -26,6 +26,8 @@ protected:
     void doubtLast();
     void addChunk(int start, int end, bool mustLookLikeName, bool called);
 
+    /// 叫上王磊去打球: what follows a name at once has to look like one.
+    [[nodiscard]] bool followsName(const Token &token) const;
     /// 一鸣 in 参会人一鸣、芳姐: somebody was named before the separator who was not found.
     [[nodiscard]] bool isLostBefore(const Tokens &tokens, std::size_t at) const;
 

@@ -227,7 +227,8 @@ private:
                 at += 2;
                 continue;
             }
-            if (token.is(WordClass::Nobody) && token.length == 1 && followsName(at)) { // 叫王磊来我办公室
+            if (token.is(WordClass::Nobody) && token.length == 1 &&
+                followsName(m_tokens[at])) { // 叫王磊来我办公室
                 return at;
             }
             if (token.kind == Token::Kind::Name) {
@@ -246,7 +247,7 @@ private:
                 at = takeLatinName(at);
             } else if (token.kind == Token::Kind::Other || m_places.isSmallWordInName(at) ||
                        m_places.isPlainBeforeName(at) || m_places.isNumberBeforeName(at)) {
-                const bool follows = followsName(at);
+                const bool follows = followsName(m_tokens[at]);
                 const std::size_t before = m_names.size();
                 at = takeRun(at, mustLookLikeName || afterComma || follows);
                 if (follows && m_names.size() == before && m_modifierStart < 0) { // 跟Jerry过方案
@@ -261,13 +262,6 @@ private:
             ++at;
         }
         return at;
-    }
-
-    /// 叫上王磊去打球: what follows a name at once has to look like one.
-    bool followsName(std::size_t at) const
-    {
-        return !m_names.empty() &&
-               m_names.back().position + m_names.back().said.size() == m_tokens[at].position;
     }
 
     /// Takes one run of characters, titles and dotted names; what only says who follows is left to that name.

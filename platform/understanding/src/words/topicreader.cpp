@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "words/topicreader.h"
+
+#include "text/scan.h"
+
+namespace understanding {
+
+namespace {
+
+bool isAtClauseEnd(const Tokens &tokens, std::size_t at)
+{
+    return at >= tokens.size() || tokens[at].is(WordClass::Punctuation) ||
+           tokens[at].kind == Token::Kind::Space;
+}
+
+/// 需求评审安排到明天上午: the topic ends before its verb.
+bool settlesTime(const QString &text, const Token &token)
+{
+    static const QString where = QStringLiteral("到在");
+    return token.is(WordClass::StrongOpen) && token.length > 1 && where.contains(text.at(token.end() - 1));
+}
+
+/// 名称：复盘 时间：周五三点: what follows is no topic.
+bool labelsTime(const QString &text, const Token &token)
+{
+    return token.is(WordClass::Filler) && firstOf(text, token.position, {u"时间", u"日期"}) > 0;
+}
+
+/// 说说 in 说说我明天的会: it asks what there is, and says nothing about a conference.
+bool asksAtStart(const Tokens &tokens, std::size_t at)
+{
+    if (!tokens[at].is(WordClass::Query)) {
+        return false;
+    }
+    constexpr WordClasses leading = WordClass::Filler | WordClass::Request | WordClass::Punctuation;
+    for (std::size_t before = 0; before < at; ++before) {
+        if (!tokens[before].isAny(leading)) {
+            return false;
+        }
+    }
+    for (std::size_t next = at + 1; !isAtClauseEnd(tokens, next); ++next) {
+        if (tokens[next].is(WordClass::Conference)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// 敲定 in 跟张伟开会敲定合同: what the conference is for, right behind it.
+bool isPurpose(const QString &text, const Tokens &tokens, std::size_t at)
+{
+    if (at < 2 || !tokens[at - 1].is(WordClass::Conference) || tokens[at - 1].length != 1 ||
+        tokens[at - 1].end() != tokens[at].position) {
+        return false;
+    }
+    const bool measured = at > 2 && tokens[at - 2].is(WordClass::Measure); // 开个会
+    if (!tokens[measured ? at - 3 : at - 2].is(WordClass::WeakOpen)) {
+        return false;
+    }
+    const int verb =
+        firstOf(text, tokens[at].position,
+                {u"敲定", u"确认", u"分析",   u"解决", u"处理", u"看看", u"看下", u"看一下", u"定一下",
+                 u"定下", u"说下", u"说一下", u"对接", u"推进", u"核对", u"拍板", u"拟定",   u"制定",
+                 u"修改", u"完善", u"审核",   u"演示", u"布置", u"落实", u"明确", u"评估",   u"规划",
+                 u"答疑", u"汇总", u"回顾",   u"反馈", u"协调", u"商定"});
+    const int behind = tokens[at].position + verb;
+    return verb > 0 && behind < text.size() &&
+           firstOf(text, behind, {u"了", u"过", u"完", u"得", u",", u"."}) == 0;
+}
+
+} // namespace
+
+void settleTopics(const QString &text, Tokens &tokens)
+{
+    bool inTopic = false;
+    bool called = false; // right before
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        Token &token = tokens[at];
+        const bool newTrigger =
+            token.is(WordClass::Trigger) && !token.is(WordClass::WeakTrigger) && token.length > 1;
+        if (token.is(WordClass::Conference) || token.is(WordClass::Punctuation) || newTrigger ||
+            token.is(WordClass::NameLabel) || settlesTime(text, token) || labelsTime(text, token)) {
+            inTopic = false;
+        }
+        inTopic = inTopic || isPurpose(text, tokens, at);
+        token.inTopic = inTopic;
+        // 评审 in 邀请评审专家戚教授 tells who is called.
+        if (token.is(WordClass::Topic) && !called && !asksAtStart(tokens, at)) {
+            inTopic = true;
+        }
+        called = token.isAny(WordClass::Trigger | WordClass::Invite) && !token.is(WordClass::StrongOpen) &&
+                 token.length > 1;
+    }
+}
+
+} // namespace understanding

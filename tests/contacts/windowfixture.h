@@ -43,6 +43,16 @@ struct WindowFixture
     }
     Q_DISABLE_COPY(WindowFixture)
 
+    /// The window as the next start of the application shows it.
+    void reopen()
+    {
+        const QSize size = window->size();
+        window = std::make_unique<ContactsWindow>(world->book, world->admin);
+        window->resize(size);
+        window->show();
+        window->activateWindow();
+    }
+
     [[nodiscard]] bool waitUntilShown() const { return QTest::qWaitForWindowExposed(window.get()); }
 
     template <typename T>

@@ -11,6 +11,7 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QtTest>
 
 namespace {
@@ -59,6 +60,8 @@ private Q_SLOTS:
     void theSignsOfTheSpinBoxSayItsStyle();
     void aStepThatIsNotPossibleIsFaint();
     void theMarkOfACheckBoxIsInTheAccentColour();
+    void aRadioButtonIsSeenWhetherItIsChosenOrNot_data() { addThemes(); }
+    void aRadioButtonIsSeenWhetherItIsChosenOrNot();
     void theKeyboardsFocusIsSeen_data();
     void theKeyboardsFocusIsSeen();
     void controlsAreTallEnough();
@@ -191,6 +194,22 @@ void TestLStyle::theMarkOfACheckBoxIsInTheAccentColour()
     const QImage checked = paint(box);
     QVERIFY(count(checked, accent) > 100);
     QVERIFY(count(checked, box.palette().color(QPalette::HighlightedText)) > 3);
+}
+
+void TestLStyle::aRadioButtonIsSeenWhetherItIsChosenOrNot()
+{
+    QFETCH(int, theme);
+    Helper::instance()->setPaletteType(static_cast<Helper::ColorType>(theme));
+    QRadioButton button;
+    const QColor accent = button.palette().color(QPalette::Highlight);
+    const QColor edge = button.palette().color(QPalette::Mid);
+    const QImage free = paint(button);
+    QCOMPARE(count(free, accent), 0);
+    QVERIFY(count(free, edge) > 3);
+    button.setChecked(true);
+    const QImage chosen = paint(button);
+    QVERIFY(count(chosen, accent) > 100);
+    QVERIFY(count(chosen, button.palette().color(QPalette::HighlightedText)) > 10);
 }
 
 void TestLStyle::theKeyboardsFocusIsSeen_data()

@@ -4,6 +4,7 @@
 #include "window/conferencedetail.h"
 
 #include "window/bookaction.h"
+#include "window/celldelegate.h"
 #include "window/conferencetimeedit.h"
 #include "window/passcodefield.h"
 #include "window/resultlabel.h"
@@ -31,7 +32,7 @@
 namespace {
 
 constexpr int LeastWidth = 480;
-constexpr int LeastSeatsHeight = 160;
+constexpr int LeastSeatsHeight = 180;
 
 QString stateText(const Participant &seat, const QString &hostId)
 {
@@ -93,6 +94,7 @@ void ConferenceDetail::arrange()
     m_seats->setAccessibleName(QStringLiteral("成员"));
     m_seats->setHeaderLabels({QStringLiteral("成员"), QStringLiteral("账号"), QStringLiteral("状态")});
     m_seats->setRootIsDecorated(false);
+    m_seats->setItemDelegate(new CellDelegate(m_seats));
     m_seats->setMinimumHeight(LeastSeatsHeight);
     m_seats->setTextElideMode(Qt::ElideRight);
     m_seats->header()->setStretchLastSection(false);

@@ -49,12 +49,14 @@ ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administratio
     }
 
     auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 16, 16, 16);
+    layout->setSpacing(10);
     layout->addWidget(makeNotice(book));
     layout->addLayout(account);
     layout->addWidget(m_pages, 1);
     layout->addWidget(m_told);
     addShortcuts();
-    resize(1000, 600);
+    resize(1000, 640);
 }
 
 void ContactsWindow::bringUp(WindowFocus focus)

@@ -5,6 +5,7 @@
 
 #include "book/contactsbook.h"
 #include "core/displaytext.h"
+#include "window/celldelegate.h"
 
 #include <lumo/plaintooltip.h>
 
@@ -23,7 +24,7 @@
 namespace {
 
 constexpr int MostFound = 20;
-constexpr int ListHeight = 92;
+constexpr int ListHeight = 3 * CellDelegate::RowHeight + 2;
 
 QString textOf(const Person &person)
 {
@@ -60,6 +61,7 @@ InviteeField::InviteeField(ContactsBook &book, int most, QWidget *parent)
     m_completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     m_completer->setWidget(m_edit); // not setCompleter(), which would write into the field
     m_edit->installEventFilter(this);
+    m_completer->popup()->setItemDelegate(new CellDelegate(m_completer->popup()));
     m_completer->popup()->installEventFilter(this); // it gets the keys while it is open
     m_list->installEventFilter(this);
     connect(m_edit, &QLineEdit::textEdited, this, &InviteeField::complete);
@@ -79,6 +81,7 @@ void InviteeField::arrange()
     m_list->setObjectName(QStringLiteral("invitees"));
     m_list->setAccessibleName(QStringLiteral("已选择的成员"));
     m_list->setFixedHeight(ListHeight);
+    m_list->setItemDelegate(new CellDelegate(m_list));
     m_remove->setObjectName(QStringLiteral("removeInvitee"));
     m_remove->setAutoDefault(false);
     m_remove->setEnabled(false);

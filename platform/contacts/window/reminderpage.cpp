@@ -31,6 +31,8 @@ ReminderPage::ReminderPage(ContactsBook &book, QWidget *parent)
     hint->setTextFormat(Qt::PlainText);
     hint->setWordWrap(true);
     auto *layout = new QFormLayout(this);
+    layout->setContentsMargins(0, 10, 0, 0);
+    layout->setSpacing(10);
     layout->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     layout->addRow(m_isOn);
     layout->addRow(lead, m_lead);

@@ -53,6 +53,8 @@ TablePage::TablePage(QAbstractItemModel *model, int keyRole, int sortColumn, QWi
 
     m_upperRow->addWidget(m_filter, 1);
     auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 10, 0, 0); // the window has a margin
+    layout->setSpacing(10);
     layout->addLayout(m_upperRow);
     layout->addWidget(m_table, 1);
     layout->addLayout(m_lowerRow);

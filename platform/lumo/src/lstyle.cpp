@@ -71,6 +71,9 @@ void LStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
     case PE_IndicatorCheckBox:
         StylePainting::checkMark(*painter, *option);
         return;
+    case PE_IndicatorRadioButton:
+        StylePainting::radioMark(*painter, *option);
+        return;
     default:
         break;
     }
@@ -163,6 +166,8 @@ int LStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QW
     switch (metric) {
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
         return IndicatorExtent;
     case PM_FocusFrameHMargin:
     case PM_HeaderMargin:

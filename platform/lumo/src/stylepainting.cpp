@@ -11,6 +11,8 @@ namespace {
 constexpr qreal Radius = 8;
 constexpr qreal RingWidth = 2;
 constexpr qreal CheckRadius = 4;
+constexpr qreal RoundEdge = 1.5; ///< a thinner circle is faint where it is smoothed
+constexpr qreal DotInset = 0.32; ///< of a radio button's width
 constexpr qreal SignWidth = 1.5;
 constexpr qreal SignExtent = 4; ///< half the width of a sign
 constexpr int HoverFactor = 106;
@@ -57,6 +59,15 @@ QPen edgePen(const QStyleOption &option)
     QColor edge = option.palette.color(QPalette::Mid);
     edge.setAlpha(is(option, QStyle::State_Enabled) ? edge.alpha() : DisabledAlpha);
     return QPen(edge, 1);
+}
+
+/// The ground and the edge of something that is ticked or not.
+void setMark(QPainter &painter, const QStyleOption &option, bool checked, qreal edgeWidth)
+{
+    QPen edge = edgePen(option);
+    edge.setWidthF(edgeWidth);
+    painter.setBrush(groundOf(option, checked ? QPalette::Highlight : QPalette::Base));
+    painter.setPen(checked ? QPen(Qt::NoPen) : edge);
 }
 
 /// Insets by half a pixel, so that a line of one pixel covers one row of pixels.
@@ -145,8 +156,7 @@ void StylePainting::checkMark(QPainter &painter, const QStyleOption &option)
     const PainterState state(painter);
     const QRectF box = inside(option.rect, 1);
     const bool checked = is(option, QStyle::State_On);
-    painter.setBrush(groundOf(option, checked ? QPalette::Highlight : QPalette::Base));
-    painter.setPen(checked ? QPen(Qt::NoPen) : QPen(option.palette.color(QPalette::Mid), 1));
+    setMark(painter, option, checked, 1);
     painter.drawRoundedRect(box, CheckRadius, CheckRadius);
     if (!checked) {
         return;
@@ -157,6 +167,20 @@ void StylePainting::checkMark(QPainter &painter, const QStyleOption &option)
         return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
     };
     painter.drawPolyline(QPolygonF({at(0.25, 0.53), at(0.44, 0.72), at(0.76, 0.32)}));
+}
+
+void StylePainting::radioMark(QPainter &painter, const QStyleOption &option)
+{
+    const PainterState state(painter);
+    const QRectF circle = inside(option.rect, RoundEdge);
+    const bool checked = is(option, QStyle::State_On);
+    setMark(painter, option, checked, RoundEdge);
+    painter.drawEllipse(circle);
+    if (checked) {
+        const qreal inset = circle.width() * DotInset;
+        painter.setBrush(option.palette.color(QPalette::HighlightedText));
+        painter.drawEllipse(circle.adjusted(inset, inset, -inset, -inset));
+    }
 }
 
 void StylePainting::sign(QPainter &painter, const QStyleOption &option, const QRect &room, Sign sign,

@@ -25,6 +25,7 @@ void headerSection(QPainter &painter, const QStyleOption &option, bool isLast);
 void tab(QPainter &painter, const QStyleOption &option);
 void focusRing(QPainter &painter, const QStyleOption &option);
 void checkMark(QPainter &painter, const QStyleOption &option);
+void radioMark(QPainter &painter, const QStyleOption &option);
 
 enum class Sign { Up, Down, Plus, Minus };
 void sign(QPainter &painter, const QStyleOption &option, const QRect &room, Sign sign, bool enabled);

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "documentedpictures.h"
+#include "windowfixture.h"
+#include "windowpictures.h"
+#include "windowstates.h"
+
+using Helper = LGuiApplicationHelper;
+
+/// The window in ten states, as large as it opens, in both themes, compared with the pictures in
+/// docs/pictures/contacts. With UPDATE_PICTURES set it writes those pictures. tst_windowcontrast measures the
+/// same states.
+class TestContactsWindowPictures : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QApplication::setCursorFlashTime(0); }
+    void everyState_data();
+    void everyState();
+};
+
+void TestContactsWindowPictures::everyState_data()
+{
+    QTest::addColumn<WindowState>("state");
+    QTest::addColumn<bool>("isDark");
+    const QVector<WindowState> states = windowStates();
+    for (const WindowState &state : states) {
+        QTest::addRow("%s, light", state.name) << state << false;
+        QTest::addRow("%s, dark", state.name) << state << true;
+    }
+}
+
+void TestContactsWindowPictures::everyState()
+{
+    QFETCH(WindowState, state);
+    QFETCH(bool, isDark);
+    const ChosenTheme theme(isDark ? Helper::DarkType : Helper::LightType);
+    WindowFixture fixture;
+    QVERIFY(QTest::qWaitForWindowActive(fixture.window.get()));
+    state.arrange(fixture);
+    QCoreApplication::sendPostedEvents();
+    QTest::qWait(1); // the queued layout
+    const QString difference = DocumentedPictures::differenceFromDocuments(
+        DocumentedPictures::pictureOf(*fixture.window), QStringLiteral("contacts"), QLatin1String(state.name),
+        isDark);
+    QVERIFY2(difference.isEmpty(), qPrintable(difference));
+}
+
+QTEST_MAIN(TestContactsWindowPictures)
+#include "tst_contactswindowpictures.moc"

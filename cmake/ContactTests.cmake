@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
 # contact_add_test(NAME SOURCES... LIBRARIES... [NO_TEST] [OWN_LANGUAGE] [SCRIPTED_ABILITY])
-#   A QtTest program. The desk's window speaks Chinese in it unless it has its OWN_LANGUAGE. With NO_TEST it is only built; add its runs with contact_add_test_run().
+#   A QtTest program. The desk's window and the contacts application speak Chinese in it unless it has its OWN_LANGUAGE. With NO_TEST it is only built; add its runs with contact_add_test_run().
 # contact_add_test_run(NAME TARGET t [AT "2026-03-07 10:20:00"] [TZ zone] [ENVIRONMENT var=value...] [COMMAND cmd...]
 #                      [ARGUMENTS ...] [LABELS ...] [TIMEOUT seconds] [SERIAL] [BUS] [EMPTY_BUS] [SCRIPTED_ABILITY])
 #   One run of such a program. AT sets the clock to that local time. BUS provides a private session bus, home and XDG folders,
@@ -41,6 +41,8 @@ function(contact_add_test name)
     target_compile_definitions(${name} PRIVATE CONTACT_SOURCE_DIR="${CMAKE_SOURCE_DIR}" CONTACT_BINARY_DIR="${CMAKE_BINARY_DIR}")
     if(NOT arg_OWN_LANGUAGE AND arg_LIBRARIES MATCHES "devhost_(window|service)")
         target_sources(${name} PRIVATE $<TARGET_OBJECTS:chinese-desk>)
+    elseif(NOT arg_OWN_LANGUAGE AND arg_LIBRARIES MATCHES "contacts_|reminders_test")
+        target_sources(${name} PRIVATE $<TARGET_OBJECTS:chinese-contacts>)
     endif()
     if(NOT arg_NO_TEST)
         if(arg_SCRIPTED_ABILITY)

@@ -8,7 +8,7 @@
 
 find_package(Qt5 REQUIRED COMPONENTS LinguistTools)
 
-# Also what the test of the translations runs; see tests/devhost/language.
+# Also what the test of the translations runs; see tests/language.
 set(CONTACT_LUPDATE_OPTIONS "-silent -no-obsolete -locations none -source-language en")
 
 function(contact_add_translations target program)

@@ -4,7 +4,9 @@
 #include "book/administration.h"
 #include "book/contactsbook.h"
 #include "calendar/calendarexport.h"
+#include "core/contactslanguage.h"
 #include "core/databaseerror.h"
+#include "options.h"
 #include "reminders/reminders.h"
 #include "service/busservice.h"
 #include "service/display.h"
@@ -15,17 +17,24 @@
 #include <sharedappearance.h>
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QDebug>
 #include <QFileInfo>
 
+#include <iostream>
 #include <memory>
 
 #include <sys/stat.h>
 
 namespace {
 
-enum ExitStatus { Served = 0, DatabaseUnusable = 1, NoSessionBus = 2, BusRefused = 3, NotExported = 4 };
+enum ExitStatus {
+    Served = 0,
+    WrongUsage = 1,
+    DatabaseUnusable = 1,
+    NoSessionBus = 2,
+    BusRefused = 3,
+    NotExported = 4
+};
 
 std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv, bool withWindow)
 {
@@ -64,14 +73,6 @@ bool remindersAreOn(ContactsBook &book)
         return true;
     }
 }
-
-/// How the application was started.
-enum class Starter {
-    User,  ///< who wants to see the window
-    Bus,   ///< for a program that calls
-    Login, ///< for the reminders alone
-};
-enum class Audience { Users, Developers };
 
 int serve(QCoreApplication &application, Starter starter, Audience audience)
 {
@@ -147,43 +148,14 @@ int main(int argc, char **argv)
     QGuiApplication::setDesktopFileName(QStringLiteral("com.kelvane.meetlynx"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CONTACTS_VERSION));
 
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Contacts and video conferences, for the user and for the voice assistant."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    const QCommandLineOption service(
-        QStringLiteral("service"),
-        QStringLiteral("Serve other programs and show no window until it is asked for."));
-    const QCommandLineOption reminders(
-        QStringLiteral("reminders"),
-        QStringLiteral(
-            "As --service, for the start of a session: end at once when reminders are switched off "
-            "or the application has never been used."));
-    const QCommandLineOption developer(
-        QStringLiteral("developer"),
-        QStringLiteral("Put the administration on the session bus, which shows every passcode and can empty "
-                       "everything, and show what only a developer needs."));
-    parser.addOption(service);
-    parser.addOption(reminders);
-    parser.addOption(developer);
-    const QCommandLineOption exported(
-        QStringLiteral("export"),
-        QStringLiteral(
-            "Write one of your conferences to an iCalendar file, '-' for the standard output, and end."),
-        QStringLiteral("file"));
-    const QCommandLineOption conference(
-        QStringLiteral("conference"),
-        QStringLiteral("The number of the conference to export; without it the running or the next one."),
-        QStringLiteral("number"));
-    parser.addOption(exported);
-    parser.addOption(conference);
-    parser.process(*application);
-    if (parser.isSet(exported)) {
-        return exportCalendar(parser.value(exported), parser.value(conference));
+    ProgramLanguage language = contactsLanguage();
+    const Options options = Options::read(*application, language);
+    if (!options.usageError.isEmpty()) {
+        std::cerr << qUtf8Printable(options.usageError) << std::endl;
+        return WrongUsage;
     }
-    const Starter starter = parser.isSet(reminders) ? Starter::Login
-                            : parser.isSet(service) ? Starter::Bus
-                                                    : Starter::User;
-    return serve(*application, starter, parser.isSet(developer) ? Audience::Developers : Audience::Users);
+    if (options.exportFile) {
+        return exportCalendar(*options.exportFile, options.conference);
+    }
+    return serve(*application, options.starter, options.audience);
 }

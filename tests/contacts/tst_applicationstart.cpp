@@ -171,7 +171,7 @@ void TestApplicationStart::aSessionStartsItToRemind()
     const auto mine = [&server] {
         return server.summaries().filter(QStringLiteral("设计讨论"));
     };
-    QTRY_COMPARE(mine(), QStringList{QStringLiteral("设计讨论：4 分钟后开始")});
+    QTRY_COMPARE(mine(), QStringList{QStringLiteral("设计讨论: starts in 4 min")});
     application.terminate();
     QVERIFY(application.waitForFinished());
 }
@@ -222,10 +222,10 @@ void TestApplicationStart::itRemindsAlsoWithoutAWindow()
                  .value()
                  .isEmpty());
     QTRY_COMPARE(mine().size(), 1);
-    QCOMPARE(mine().last(), QStringLiteral("设计讨论：1 分钟后开始"));
+    QCOMPARE(mine().last(), QStringLiteral("设计讨论: starts in 1 min"));
     QTRY_COMPARE(mine().size(), 2);
     QVERIFY(QDateTime::currentMSecsSinceEpoch() >= start);
-    QCOMPARE(mine().last(), QStringLiteral("设计讨论：现在开始"));
+    QCOMPARE(mine().last(), QStringLiteral("设计讨论: starts now"));
     // Killed and started again, it shows none of them once more.
     killApplication();
     admin.SetFriendLimit(500).waitForFinished();
@@ -235,7 +235,7 @@ void TestApplicationStart::itRemindsAlsoWithoutAWindow()
                  .value()
                  .isEmpty());
     QTRY_COMPARE(mine().size(), 3);
-    QCOMPARE(mine().last(), QStringLiteral("设计评审：1 分钟后开始"));
+    QCOMPARE(mine().last(), QStringLiteral("设计评审: starts in 1 min"));
 }
 
 QTEST_GUILESS_MAIN(TestApplicationStart)

@@ -44,10 +44,10 @@ struct WindowFixture
     Q_DISABLE_COPY(WindowFixture)
 
     /// The window as the next start of the application shows it.
-    void reopen()
+    void reopen(ContactsWindow::Tools tools = ContactsWindow::Tools::ForUsers)
     {
         const QSize size = window->size();
-        window = std::make_unique<ContactsWindow>(world->book, world->admin);
+        window = std::make_unique<ContactsWindow>(world->book, world->admin, tools);
         window->resize(size);
         window->show();
         window->activateWindow();

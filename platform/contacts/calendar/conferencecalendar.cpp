@@ -11,6 +11,7 @@
 #include <KCalendarCore/ICalFormat>
 #include <KCalendarCore/MemoryCalendar>
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QSaveFile>
 #include <QTimeZone>
@@ -28,12 +29,14 @@ QString descriptionOf(const Conference &conference)
             host = name;
         }
     }
-    QStringList lines{QStringLiteral("会议号：%1").arg(conference.dialNumber)};
+    QStringList lines{
+        QCoreApplication::translate("ConferenceCalendar", "Number: %1").arg(conference.dialNumber)};
     if (!host.isEmpty()) {
-        lines.append(QStringLiteral("主持人：%1").arg(host));
+        lines.append(QCoreApplication::translate("ConferenceCalendar", "Host: %1").arg(host));
     }
     if (!names.isEmpty()) {
-        lines.append(QStringLiteral("参加者：%1").arg(names.join(QStringLiteral("、"))));
+        lines.append(
+            QCoreApplication::translate("ConferenceCalendar", "Participants: %1").arg(listOfNames(names)));
     }
     return lines.join(QLatin1Char('\n'));
 }
@@ -84,9 +87,11 @@ QByteArray calendarOf(const Conference &conference, int leadMinutes)
     const KCalendarCore::Event::Ptr event(new KCalendarCore::Event);
     const QString title = cleanDisplayText(conference.title);
     event->setUid(conference.confId);
-    event->setSummary(title.isEmpty() ? QStringLiteral("视频会议") : title);
+    event->setSummary(title.isEmpty() ? QCoreApplication::translate("ConferenceCalendar", "Video conference")
+                                      : title);
     event->setDescription(descriptionOf(conference));
-    event->setLocation(QStringLiteral("视频会议 %1").arg(conference.dialNumber));
+    event->setLocation(
+        QCoreApplication::translate("ConferenceCalendar", "Video conference %1").arg(conference.dialNumber));
     event->setDtStart(clearTime(conference.startMsecs, zone));
     event->setDtEnd(clearTime(conference.endMsecs(), zone));
     event->setStatus(KCalendarCore::Incidence::StatusConfirmed);

@@ -3,6 +3,8 @@
 
 #include "core/displaytext.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 constexpr int MaxLength = 100;
@@ -35,4 +37,9 @@ QString cleanDisplayText(const QString &text)
         }
     }
     return clean.simplified();
+}
+
+QString listOfNames(const QStringList &names)
+{
+    return names.join(QCoreApplication::translate("DisplayText", ", ", "between names"));
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 /**
  * A name or title as other people may see it: without control characters and without the invisible and
@@ -11,3 +12,6 @@
  * characters. Joiners stay: scripts need them.
  */
 QString cleanDisplayText(const QString &text);
+
+/// Names one after the other, as the user's language separates them.
+QString listOfNames(const QStringList &names);

@@ -5,26 +5,32 @@
 
 #include "core/outcome.h"
 
+#include <QCoreApplication>
 #include <QHash>
 
 QString outcomeText(const QString &word)
 {
-    static const QHash<QString, QString> texts{
-        {Outcome::Ok, QStringLiteral("好的。")},
-        {Outcome::Return, QStringLiteral("没有找到，或有同名联系人。")},
-        {Outcome::NotFound, QStringLiteral("没有找到。")},
-        {Outcome::NoConference, QStringLiteral("没有正在进行的会议。")},
-        {Outcome::ConferenceNotStarted, QStringLiteral("会议还未开始。")},
-        {Outcome::TimeOverlap, QStringLiteral("与其他会议时间重复。")},
-        {Outcome::IsYourFriend, QStringLiteral("已经添加过该好友。")},
-        {Outcome::ExceedFriendLimit, QStringLiteral("好友已超过最大限制。")},
-        {Outcome::IsYourself, QStringLiteral("无法添加自己为好友。")},
-        {Outcome::InOtherConference, QStringLiteral("正在其他会议中。")},
-        {Outcome::InvalidPasscode, QStringLiteral("密码不正确，请输入密码后再加入。")},
-        {Outcome::NotLoggedIn, QStringLiteral("请先登录。")},
-        {Outcome::TooFrequent, QStringLiteral("操作太频繁，请稍候重试。")},
-        {Outcome::ParticipantsFull, QStringLiteral("会议人数已满。")},
-        {Outcome::UpdateFailed, QStringLiteral("修改失败。")},
+    static const QHash<QString, const char *> texts{
+        {Outcome::Ok, QT_TRANSLATE_NOOP("OutcomeText", "Done.")},
+        {Outcome::Return, QT_TRANSLATE_NOOP("OutcomeText", "Not found, or several contacts have that name.")},
+        {Outcome::NotFound, QT_TRANSLATE_NOOP("OutcomeText", "Not found.")},
+        {Outcome::NoConference, QT_TRANSLATE_NOOP("OutcomeText", "There is no conference going on.")},
+        {Outcome::ConferenceNotStarted, QT_TRANSLATE_NOOP("OutcomeText", "The conference has not started.")},
+        {Outcome::TimeOverlap, QT_TRANSLATE_NOOP("OutcomeText", "The time is taken by another conference.")},
+        {Outcome::IsYourFriend,
+         QT_TRANSLATE_NOOP("OutcomeText", "They are your friend already, or have been asked.")},
+        {Outcome::ExceedFriendLimit,
+         QT_TRANSLATE_NOOP("OutcomeText", "You have as many friends as you can have.")},
+        {Outcome::IsYourself, QT_TRANSLATE_NOOP("OutcomeText", "You cannot be your own friend.")},
+        {Outcome::InOtherConference, QT_TRANSLATE_NOOP("OutcomeText", "You are in another conference.")},
+        {Outcome::InvalidPasscode,
+         QT_TRANSLATE_NOOP("OutcomeText", "The passcode is wrong. Please type it and join again.")},
+        {Outcome::NotLoggedIn, QT_TRANSLATE_NOOP("OutcomeText", "Please log in first.")},
+        {Outcome::TooFrequent,
+         QT_TRANSLATE_NOOP("OutcomeText", "Too many at once. Please try again in a while.")},
+        {Outcome::ParticipantsFull, QT_TRANSLATE_NOOP("OutcomeText", "The conference is full.")},
+        {Outcome::UpdateFailed, QT_TRANSLATE_NOOP("OutcomeText", "It could not be changed.")},
     };
-    return texts.value(word, QStringLiteral("操作失败。"));
+    return QCoreApplication::translate("OutcomeText",
+                                       texts.value(word, QT_TRANSLATE_NOOP("OutcomeText", "That failed.")));
 }

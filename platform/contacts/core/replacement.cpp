@@ -7,6 +7,7 @@
 #include "core/reminderrepository.h"
 #include "core/sessionrepository.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -63,13 +64,18 @@ QString Replacement::wholeFile() const
 
 void Replacement::note(const QSqlDatabase &successor, const Salvaged &salvaged) const
 {
-    const QString kept = salvaged.people > 0
-                             ? QStringLiteral("已找回 %1 位联系人和 %2 个会议，其余内容可能已丢失。")
-                                   .arg(salvaged.people)
-                                   .arg(salvaged.conferences)
-                             : QStringLiteral("没有可找回的内容，现在显示的是示例数据。");
+    const QString kept =
+        salvaged.people > 0
+            ? QCoreApplication::translate(
+                  "Replacement", "People recovered: %1, conferences recovered: %2. The rest may be lost.")
+                  .arg(salvaged.people)
+                  .arg(salvaged.conferences)
+            : QCoreApplication::translate("Replacement",
+                                          "Nothing could be recovered; the sample data is shown now.");
     SessionRepository session(successor);
-    session.setNotice(QStringLiteral("数据库已损坏，原文件保存为 %1。%2").arg(setAsideFile(), kept));
+    session.setNotice(QCoreApplication::translate(
+                          "Replacement", "The database was damaged; the former file is kept as %1. %2")
+                          .arg(setAsideFile(), kept));
     // The session inside a damaged file may have been read although nothing else was.
     session.setSeeded(salvaged.people > 0);
     ReminderRepository(successor).forgetNews(); // copying invites nobody

@@ -26,8 +26,8 @@ constexpr qint64 LongestWaitMsecs = 60 * MinuteMsecs;
 Reminders::Reminders(ContactsBook &book, const QDBusConnection &connection, QObject *parent)
     : QObject(parent)
     , m_book(book)
-    , m_notifier(connection, {QStringLiteral("联系人"), QStringLiteral("meetlynx"),
-                              QStringLiteral("com.kelvane.meetlynx")})
+    , m_notifier(connection,
+                 {tr("Contacts"), QStringLiteral("meetlynx"), QStringLiteral("com.kelvane.meetlynx")})
 {
     m_afterChange.setSingleShot(true);
     connect(&m_afterChange, &QTimer::timeout, this, &Reminders::look);
@@ -254,7 +254,7 @@ void Reminders::join(const Shown &shown)
         return;
     }
     const QString text = word == Outcome::ConferenceNotStarted
-                             ? QStringLiteral("会议还未开始，开始时会再次提醒您。")
+                             ? tr("The conference has not started. You will be reminded when it does.")
                              : outcomeText(word);
     Shown told;
     told.userId = shown.userId;

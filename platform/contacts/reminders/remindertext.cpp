@@ -8,7 +8,9 @@
 #include "core/person.h"
 #include "reminders/reminderplan.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
+#include <QLocale>
 
 namespace {
 
@@ -17,7 +19,7 @@ QString clockText(const QDateTime &time, const QDate &today)
     if (time.date() == today) {
         return time.toString(QStringLiteral("HH:mm"));
     }
-    return time.toString(QStringLiteral("M月d日 HH:mm"));
+    return QLocale().toString(time, QCoreApplication::translate("ReminderText", "MMM d, HH:mm"));
 }
 
 /// "10:00–11:00", with the day where it is not today.
@@ -33,19 +35,19 @@ QString stateText(const AwaitedConference &conference, qint64 nowMsecs, const QD
 {
     if (conference.startMsecs > nowMsecs) {
         const qint64 minutes = (conference.startMsecs - nowMsecs + MinuteMsecs - 1) / MinuteMsecs;
-        return QStringLiteral("%1 分钟后开始").arg(minutes);
+        return QCoreApplication::translate("ReminderText", "starts in %1 min").arg(minutes);
     }
     if (nowMsecs - conference.startMsecs < MinuteMsecs) {
-        return QStringLiteral("现在开始");
+        return QCoreApplication::translate("ReminderText", "starts now");
     }
-    return QStringLiteral("已于 %1 开始")
+    return QCoreApplication::translate("ReminderText", "started at %1")
         .arg(clockText(QDateTime::fromMSecsSinceEpoch(conference.startMsecs), today));
 }
 
 QString titleText(const AwaitedConference &conference)
 {
     const QString title = cleanDisplayText(conference.title);
-    return title.isEmpty() ? QStringLiteral("视频会议") : title;
+    return title.isEmpty() ? QCoreApplication::translate("ReminderText", "Video conference") : title;
 }
 
 } // namespace
@@ -58,27 +60,30 @@ Notification notificationFor(const Reminder &reminder, qint64 nowMsecs)
     const QString host = cleanDisplayText(conference.hostName);
     Notification notification;
     if (isInvitation) {
-        notification.summary = QStringLiteral("%1邀请您参加“%2”").arg(host, titleText(conference));
+        notification.summary = QCoreApplication::translate("ReminderText", "%1 invites you to “%2”")
+                                   .arg(host, titleText(conference));
     } else {
-        notification.summary =
-            QStringLiteral("%1：%2").arg(titleText(conference), stateText(conference, nowMsecs, today));
+        notification.summary = QCoreApplication::translate("ReminderText", "%1: %2")
+                                   .arg(titleText(conference), stateText(conference, nowMsecs, today));
     }
     QStringList lines{timesText(conference, today)};
     if (isInvitation && conference.startMsecs <= nowMsecs) {
-        lines.append(QStringLiteral("正在进行"));
+        lines.append(QCoreApplication::translate("ReminderText", "It is running."));
     }
     if (!isInvitation && !conference.isOwn) {
-        lines.append(QStringLiteral("主持人：%1").arg(host));
+        lines.append(QCoreApplication::translate("ReminderText", "Host: %1").arg(host));
     }
-    lines.append(QStringLiteral("会议号：%1").arg(conference.dialNumber));
+    lines.append(QCoreApplication::translate("ReminderText", "Number: %1").arg(conference.dialNumber));
     notification.body = lines.join(QStringLiteral("\n"));
-    notification.actions = QStringList{ReminderAction::Show, QStringLiteral("查看")};
+    notification.actions =
+        QStringList{ReminderAction::Show, QCoreApplication::translate("ReminderText", "Show")};
     // An invitation for tomorrow cannot be joined yet.
     if (!isInvitation || reminder.covers) {
-        notification.actions << ReminderAction::Join << QStringLiteral("加入");
+        notification.actions << ReminderAction::Join << QCoreApplication::translate("ReminderText", "Join");
     }
     if (isInvitation) {
-        notification.actions << ReminderAction::Decline << QStringLiteral("谢绝");
+        notification.actions << ReminderAction::Decline
+                             << QCoreApplication::translate("ReminderText", "Decline");
     }
     return notification;
 }
@@ -86,9 +91,12 @@ Notification notificationFor(const Reminder &reminder, qint64 nowMsecs)
 Notification notificationFor(const Person &asker)
 {
     Notification notification;
-    notification.summary = QStringLiteral("%1请求加您为好友").arg(cleanDisplayText(asker.shownName()));
-    notification.body = QStringLiteral("账号：%1").arg(cleanDisplayText(asker.account));
-    notification.actions = QStringList{ReminderAction::Show, QStringLiteral("查看")};
+    notification.summary = QCoreApplication::translate("ReminderText", "%1 asks to be your friend")
+                               .arg(cleanDisplayText(asker.shownName()));
+    notification.body =
+        QCoreApplication::translate("ReminderText", "Account: %1").arg(cleanDisplayText(asker.account));
+    notification.actions =
+        QStringList{ReminderAction::Show, QCoreApplication::translate("ReminderText", "Show")};
     return notification;
 }
 
@@ -97,6 +105,7 @@ Notification notificationAbout(const QString &title, const QString &text)
     Notification notification;
     notification.summary = cleanDisplayText(title);
     notification.body = text;
-    notification.actions = QStringList{ReminderAction::Show, QStringLiteral("查看")};
+    notification.actions =
+        QStringList{ReminderAction::Show, QCoreApplication::translate("ReminderText", "Show")};
     return notification;
 }

@@ -17,7 +17,7 @@ AccountBar::AccountBar(ContactsBook &book, Administration &administration, QWidg
     , m_administration(administration)
     , m_accounts(new AccountModel(book, this))
     , m_account(new QComboBox)
-    , m_logout(new QPushButton(QStringLiteral("退出登录(&O)")))
+    , m_logout(new QPushButton(tr("Log &Out")))
     , m_kind(new QComboBox)
 {
     addControls();
@@ -35,15 +35,15 @@ void AccountBar::addControls()
 {
     m_account->setModel(m_accounts);
     m_account->setObjectName(QStringLiteral("account"));
-    m_account->setAccessibleName(QStringLiteral("登录账号"));
+    m_account->setAccessibleName(tr("Account to log in with"));
     m_account->setMinimumContentsLength(16);
     m_account->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_logout->setObjectName(QStringLiteral("logout"));
     m_kind->setObjectName(QStringLiteral("kind"));
-    m_kind->setAccessibleName(QStringLiteral("账号类型"));
-    m_kind->addItem(QStringLiteral("付费"), QStringLiteral("paying"));
-    m_kind->addItem(QStringLiteral("免费"), QStringLiteral("free"));
-    auto *label = new QLabel(QStringLiteral("账号(&A)"));
+    m_kind->setAccessibleName(tr("Kind of account"));
+    m_kind->addItem(tr("Paying"), QStringLiteral("paying"));
+    m_kind->addItem(tr("Free"), QStringLiteral("free"));
+    auto *label = new QLabel(tr("&Account"));
     label->setBuddy(m_account);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

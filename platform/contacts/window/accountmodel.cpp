@@ -87,7 +87,7 @@ QVariant AccountModel::data(const QModelIndex &index, int role) const
         return {};
     }
     if (index.row() == 0) {
-        return isText ? QStringLiteral("未登录") : QString();
+        return isText ? tr("Not logged in") : QString();
     }
     const Person &person =
         index.row() <= currentRow() ? *m_user : m_others.at(index.row() - currentRow() - 1);

@@ -19,21 +19,21 @@ AddFriendDialog::AddFriendDialog(ContactsBook &book, QWidget *parent)
     , m_book(book)
     , m_said(new QLineEdit)
     , m_result(new ResultLabel)
-    , m_send(new QPushButton(QStringLiteral("发送申请(&S)")))
+    , m_send(new QPushButton(tr("&Send Request")))
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(QStringLiteral("添加好友"));
+    setWindowTitle(tr("Add Friend"));
     m_said->setObjectName(QStringLiteral("friendAccount"));
     m_said->setMaxLength(100);
     m_result->setObjectName(QStringLiteral("friendResult"));
     m_send->setObjectName(QStringLiteral("sendRequest"));
     m_send->setDefault(true);
     m_send->setEnabled(false);
-    auto *label = new QLabel(QStringLiteral("对方的账号，或没有重名的姓名(&A)"));
+    auto *label = new QLabel(tr("Their &account, or a name that nobody else has"));
     label->setBuddy(m_said);
     auto *buttons = new QDialogButtonBox;
     buttons->addButton(m_send, QDialogButtonBox::AcceptRole);
-    QPushButton *cancel = buttons->addButton(QStringLiteral("关闭"), QDialogButtonBox::RejectRole);
+    QPushButton *cancel = buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole);
     cancel->setAutoDefault(false);
 
     auto *layout = new QVBoxLayout(this);
@@ -57,8 +57,9 @@ void AddFriendDialog::send()
         accept();
         return;
     }
-    m_result->tell(word == Outcome::NotFound ? QStringLiteral("没有找到，或有多人同名，请填写账号。")
-                                             : outcomeText(word));
+    m_result->tell(word == Outcome::NotFound
+                       ? tr("Nobody was found, or several people have that name. Please give the account.")
+                       : outcomeText(word));
     m_said->selectAll();
     m_said->setFocus();
 }

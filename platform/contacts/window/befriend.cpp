@@ -9,6 +9,8 @@
 #include "core/outcome.h"
 #include "window/bookaction.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 /// The account of whoever is meant, if they have asked the user; empty otherwise.
@@ -33,8 +35,10 @@ BefriendResult befriend(ContactsBook &book, const QString &said)
 {
     const QString asker = askerMeant(book, said);
     if (!asker.isEmpty()) {
-        return {FriendRequests(book).accept(asker), QStringLiteral("对方已申请加您为好友，已成为好友。")};
+        return {
+            FriendRequests(book).accept(asker),
+            QCoreApplication::translate("Befriend", "They had asked you already, so you are friends now.")};
     }
     return {performAction(book, QStringLiteral("Add Friends"), {{JsonKey::UserId, said}}),
-            QStringLiteral("好友申请已发送。")};
+            QCoreApplication::translate("Befriend", "The friend request was sent.")};
 }

@@ -6,6 +6,7 @@
 #include "book/contactsbook.h"
 #include "calendar/conferencecalendar.h"
 
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QStandardPaths>
 
@@ -19,16 +20,18 @@ QString exportTo(ContactsBook &book, const QString &dialNumber, const QString &f
         const std::optional<Conference> conference =
             book.conferences().byDialNumber(dialNumber, user ? user->userId : QString());
         if (!conference) {
-            return QStringLiteral("会议已不存在。");
+            return QCoreApplication::translate("CalendarDialog", "The conference no longer exists.");
         }
         const QString error =
             writeCalendar(calendarOf(*conference, book.reminders().settings().leadMinutes), fileName);
-        return error.isEmpty() ? QStringLiteral("已导出到 %1。").arg(fileName)
-                               : QStringLiteral("无法写入 %1：%2").arg(fileName, error);
+        return error.isEmpty()
+                   ? QCoreApplication::translate("CalendarDialog", "Exported to %1.").arg(fileName)
+                   : QCoreApplication::translate("CalendarDialog", "%1 cannot be written: %2")
+                         .arg(fileName, error);
     } catch (const std::exception &error) {
         book.noteFailure(error);
         qWarning("A conference cannot be exported: %s", error.what());
-        return QStringLiteral("操作失败。");
+        return QCoreApplication::translate("CalendarDialog", "That failed.");
     }
 }
 
@@ -37,10 +40,11 @@ QString exportTo(ContactsBook &book, const QString &dialNumber, const QString &f
 void askForCalendarFile(QWidget *parent, ContactsBook &book, const QString &dialNumber,
                         std::function<void(const QString &)> tell)
 {
-    auto *dialog = new QFileDialog(parent, QStringLiteral("导出日历文件"));
+    auto *dialog =
+        new QFileDialog(parent, QCoreApplication::translate("CalendarDialog", "Export Calendar File"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setNameFilter(QStringLiteral("日历文件 (*.ics)"));
+    dialog->setNameFilter(QCoreApplication::translate("CalendarDialog", "Calendar files (*.ics)"));
     dialog->setDefaultSuffix(QStringLiteral("ics"));
     dialog->setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     dialog->selectFile(QStringLiteral("%1.ics").arg(dialNumber));

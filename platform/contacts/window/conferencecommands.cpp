@@ -23,14 +23,14 @@ ConferenceCommands::ConferenceCommands(ContactsBook &book, Administration &admin
     , m_book(book)
     , m_administration(administration)
     , m_window(window)
-    , m_open(add("open", QStringLiteral("会议详情(&I)…")))
-    , m_create(add("create", QStringLiteral("发起会议(&N)…")))
-    , m_join(add("join", QStringLiteral("加入(&J)")))
-    , m_start(add("start", QStringLiteral("开始(&S)")))
-    , m_end(add("end", QStringLiteral("结束(&T)")))
-    , m_cancel(add("delete", QStringLiteral("取消会议(&D)")))
-    , m_copyNumber(add("copyNumber", QStringLiteral("复制会议号(&C)"), QKeySequence::Copy))
-    , m_export(add("export", QStringLiteral("导出日历文件(&X)…"), QKeySequence(QStringLiteral("Ctrl+E"))))
+    , m_open(add("open", tr("Deta&ils…")))
+    , m_create(add("create", tr("&New Conference…")))
+    , m_join(add("join", tr("&Join")))
+    , m_start(add("start", tr("&Start")))
+    , m_end(add("end", tr("En&d")))
+    , m_cancel(add("delete", tr("Cancel Con&ference")))
+    , m_copyNumber(add("copyNumber", tr("&Copy Number"), QKeySequence::Copy))
+    , m_export(add("export", tr("E&xport Calendar File…"), QKeySequence(QStringLiteral("Ctrl+E"))))
 {
     const auto run = [this](QAction *action, auto slot) {
         // QAction::trigger() does not look whether the action is enabled.
@@ -107,7 +107,7 @@ void ConferenceCommands::showDetail()
 {
     readChosen();
     if (!m_chosen) {
-        Q_EMIT told(QStringLiteral("会议已不存在。"));
+        Q_EMIT told(tr("The conference no longer exists."));
         return;
     }
     auto *detail = new ConferenceDetail(m_book, *m_chosen, m_window);
@@ -136,19 +136,19 @@ void ConferenceCommands::joinChosen()
 void ConferenceCommands::startChosen()
 {
     readChosen();
-    setState(m_options.start, QStringLiteral("running"), QStringLiteral("会议已开始。"));
+    setState(m_options.start, QStringLiteral("running"), tr("The conference has started."));
 }
 
 void ConferenceCommands::endChosen()
 {
     readChosen();
-    setState(m_options.end, QStringLiteral("ended"), QStringLiteral("会议已结束。"));
+    setState(m_options.end, QStringLiteral("ended"), tr("The conference has ended."));
 }
 
 void ConferenceCommands::setState(bool isPossible, const QString &state, const QString &done)
 {
     const bool isDone = isPossible && m_administration.SetConferenceState(m_chosen->dialNumber, state);
-    Q_EMIT told(isDone ? done : QStringLiteral("会议已有变化，请再看一下它的状态。"));
+    Q_EMIT told(isDone ? done : tr("The conference has changed. Please look at its state again."));
 }
 
 void ConferenceCommands::readChosen()
@@ -166,7 +166,7 @@ void ConferenceCommands::readChosen()
 void ConferenceCommands::copyNumberOfChosen()
 {
     QGuiApplication::clipboard()->setText(m_chosen->dialNumber);
-    Q_EMIT told(QStringLiteral("已复制会议号。"));
+    Q_EMIT told(tr("The conference number was copied."));
 }
 
 void ConferenceCommands::exportChosen()
@@ -180,8 +180,9 @@ void ConferenceCommands::askAndCancel()
     // What is asked about, whatever is chosen when the answer comes.
     const QString conferenceId = m_chosen->confId;
     askFirst(m_window,
-             QStringLiteral("要取消会议 %1 吗？已邀请的成员也将看不到它。").arg(m_chosen->dialNumber),
-             QStringLiteral("取消会议"), [this, conferenceId] {
+             tr("Cancel conference %1? Those who are invited will no longer see it either.")
+                 .arg(m_chosen->dialNumber),
+             tr("Cancel Conference"), [this, conferenceId] {
                  perform(QStringLiteral("Delete Conference"), {{JsonKey::ConferenceId, conferenceId}});
              });
 }

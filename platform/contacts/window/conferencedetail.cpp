@@ -39,15 +39,15 @@ QString stateText(const Participant &seat, const QString &hostId)
     const QString state = [&seat] {
         switch (seat.attendance) {
         case Attendance::Joined:
-            return QStringLiteral("已加入");
+            return ConferenceDetail::tr("Joined");
         case Attendance::Left:
-            return QStringLiteral("已离开");
+            return ConferenceDetail::tr("Left");
         case Attendance::Invited:
             break;
         }
-        return QStringLiteral("未加入");
+        return ConferenceDetail::tr("Not joined");
     }();
-    return seat.userId == hostId ? QStringLiteral("主持人，%1").arg(state) : state;
+    return seat.userId == hostId ? ConferenceDetail::tr("%1 (host)").arg(state) : state;
 }
 
 int minutesOf(const Conference &conference)
@@ -66,7 +66,7 @@ QLabel *makeLabel()
 } // namespace
 
 ConferenceDetail::ConferenceDetail(ContactsBook &book, const Conference &conference, QWidget *parent)
-    : FormDialog(QStringLiteral("会议详情"), LeastWidth, parent)
+    : FormDialog(tr("Conference Details"), LeastWidth, parent)
     , m_book(book)
     , m_conference(conference)
     , m_title(new QLineEdit)
@@ -78,7 +78,7 @@ ConferenceDetail::ConferenceDetail(ContactsBook &book, const Conference &confere
     , m_passcode(new PasscodeField)
     , m_passcodeNote(new QLabel)
     , m_seats(new QTreeWidget)
-    , m_save(new LSuggestButton(QStringLiteral("保存(&O)")))
+    , m_save(new LSuggestButton(tr("&Save")))
 {
     arrange();
     reload();
@@ -91,8 +91,8 @@ ConferenceDetail::ConferenceDetail(ContactsBook &book, const Conference &confere
 void ConferenceDetail::arrange()
 {
     m_seats->setObjectName(QStringLiteral("seats"));
-    m_seats->setAccessibleName(QStringLiteral("成员"));
-    m_seats->setHeaderLabels({QStringLiteral("成员"), QStringLiteral("账号"), QStringLiteral("状态")});
+    m_seats->setAccessibleName(tr("Participants"));
+    m_seats->setHeaderLabels({tr("Participant"), tr("Account"), tr("State")});
     m_seats->setRootIsDecorated(false);
     m_seats->setItemDelegate(new CellDelegate(m_seats));
     m_seats->setMinimumHeight(LeastSeatsHeight);
@@ -104,7 +104,7 @@ void ConferenceDetail::arrange()
     m_save->setObjectName(QStringLiteral("save"));
     addFields();
     addBelowForm(m_seats);
-    addButtons(m_save, QStringLiteral("关闭"));
+    addButtons(m_save, tr("Close"));
     connect(m_title, &QLineEdit::textChanged, this, &ConferenceDetail::showWhetherChanged);
     connect(m_start, &QDateTimeEdit::dateTimeChanged, this, &ConferenceDetail::showWhetherChanged);
     for (QSpinBox *box : {m_minutes, m_limit}) {
@@ -122,20 +122,20 @@ void ConferenceDetail::addFields()
     m_host->setWordWrap(true);
     m_start->setObjectName(QStringLiteral("start"));
     m_minutes->setObjectName(QStringLiteral("minutes"));
-    m_minutes->setSuffix(QStringLiteral(" 分钟"));
+    m_minutes->setSuffix(tr(" min"));
     m_limit->setObjectName(QStringLiteral("limit"));
-    m_limit->setSuffix(QStringLiteral(" 人"));
+    m_limit->setSuffix(tr(" people"));
     m_passcodeNote->setObjectName(QStringLiteral("passcodeNote"));
     auto *passcode = new QVBoxLayout;
     passcode->addWidget(m_passcode);
     passcode->addWidget(m_passcodeNote);
-    form()->addRow(QStringLiteral("主题(&I)"), m_title);
-    form()->addRow(QStringLiteral("会议号"), m_number);
-    form()->addRow(QStringLiteral("主持人"), m_host);
-    form()->addRow(QStringLiteral("开始时间(&B)"), m_start);
-    form()->addRow(QStringLiteral("时长(&D)"), m_minutes);
-    form()->addRow(QStringLiteral("人数上限(&L)"), m_limit);
-    form()->addRow(QStringLiteral("密码"), passcode);
+    form()->addRow(tr("T&itle"), m_title);
+    form()->addRow(tr("Number"), m_number);
+    form()->addRow(tr("Host"), m_host);
+    form()->addRow(tr("&Begins"), m_start);
+    form()->addRow(tr("&Duration"), m_minutes);
+    form()->addRow(tr("&Limit"), m_limit);
+    form()->addRow(tr("Passcode"), passcode);
 }
 
 void ConferenceDetail::reload()
@@ -158,12 +158,12 @@ void ConferenceDetail::reload()
     }
     if (m_openedFor && *m_openedFor != m_viewer.userId) {
         // What it shows is the former user's, the passcode too.
-        Q_EMIT told(QStringLiteral("账号已更换，会议详情已关闭。"));
+        Q_EMIT told(tr("Somebody else has logged in, so the details were closed."));
         close();
         return;
     }
     if (!conference) {
-        Q_EMIT told(QStringLiteral("会议已不存在。"));
+        Q_EMIT told(tr("The conference no longer exists."));
         close();
         return;
     }
@@ -221,8 +221,7 @@ void ConferenceDetail::showEditable(const Conference &current)
     m_passcode->setVisible(isHost);
     m_passcode->setReadOnly(!canEdit);
     m_passcodeNote->setVisible(!isHost);
-    m_passcodeNote->setText(current.passcode.isEmpty() ? QStringLiteral("无")
-                                                       : QStringLiteral("有，仅主持人可见"));
+    m_passcodeNote->setText(current.passcode.isEmpty() ? tr("None") : tr("Set; only the host sees it"));
     m_save->setVisible(canEdit);
     showWhetherChanged();
 }
@@ -265,10 +264,11 @@ void ConferenceDetail::submit()
         askBook(m_book, QStringLiteral("Update Conference"), parameters).value(JsonKey::Ret).toString();
     if (word == Outcome::Ok) {
         accept();
-        Q_EMIT told(QStringLiteral("会议 %1 已修改。").arg(m_conference.dialNumber));
+        Q_EMIT told(tr("Conference %1 was changed.").arg(m_conference.dialNumber));
         return;
     }
     result()->tell(word == Outcome::UpdateFailed
-                       ? QStringLiteral("修改失败：时间已过或与其他会议重复，或人数少于已邀请的成员。")
+                       ? tr("It could not be changed: the time has passed or is taken by another conference, "
+                            "or more people are invited than it would take.")
                        : outcomeText(word));
 }

@@ -64,17 +64,17 @@ qint64 suggestedStart(qint64 nowMsecs)
 } // namespace
 
 ConferenceDialog::ConferenceDialog(ContactsBook &book, QWidget *parent)
-    : FormDialog(QStringLiteral("发起会议"), LeastWidth, parent)
+    : FormDialog(tr("New Conference"), LeastWidth, parent)
     , m_book(book)
     , m_title(new QLineEdit)
-    , m_now(new QRadioButton(QStringLiteral("现在开始(&G)")))
-    , m_later(new QRadioButton(QStringLiteral("预约(&B)")))
+    , m_now(new QRadioButton(tr("Ri&ght now")))
+    , m_later(new QRadioButton(tr("&Later")))
     , m_start(makeConferenceTimeEdit())
     , m_passcode(new PasscodeField)
 {
     const Person user = userOf(m_book);
     m_people = new InviteeField(m_book, ConferenceRules::forKind(user.kind).defaultParticipantLimit - 1);
-    m_title->setPlaceholderText(QStringLiteral("%1的视频会议").arg(cleanDisplayText(user.name)));
+    m_title->setPlaceholderText(tr("%1's video conference").arg(cleanDisplayText(user.name)));
     arrange();
 }
 
@@ -84,13 +84,13 @@ void ConferenceDialog::arrange()
     m_title->setMaxLength(100);
     m_passcode->setObjectName(QStringLiteral("newPasscode"));
     result()->setObjectName(QStringLiteral("newResult"));
-    form()->addRow(QStringLiteral("主题(&I)"), m_title);
+    form()->addRow(tr("T&itle"), m_title);
     addWhen();
-    form()->addRow(QStringLiteral("邀请(&P)"), m_people);
-    form()->addRow(QStringLiteral("密码(&C)"), m_passcode);
-    auto *make = new LSuggestButton(QStringLiteral("发起(&O)"));
+    form()->addRow(tr("&Participants"), m_people);
+    form()->addRow(tr("Pa&sscode"), m_passcode);
+    auto *make = new LSuggestButton(tr("&Create"));
     make->setObjectName(QStringLiteral("make"));
-    addButtons(make, QStringLiteral("取消"));
+    addButtons(make, tr("Cancel"));
     connect(m_people, &InviteeField::told, result(), &ResultLabel::tell);
     connect(m_people, &InviteeField::changed, this, [this] { result()->tell(QString()); });
 }
@@ -113,16 +113,15 @@ void ConferenceDialog::addWhen()
     when->addWidget(m_now);
     when->addWidget(m_later);
     when->addWidget(m_start, 1);
-    form()->addRow(QStringLiteral("时间"), when);
+    form()->addRow(tr("Time"), when);
 }
 
 QJsonObject ConferenceDialog::parameters() const
 {
     QJsonObject parameters;
+    // Without one it has the name that the empty field shows, in the window's language.
     const QString title = cleanDisplayText(m_title->text());
-    if (!title.isEmpty()) {
-        parameters.insert(JsonKey::Title, title);
-    }
+    parameters.insert(JsonKey::Title, title.isEmpty() ? m_title->placeholderText() : title);
     if (!m_passcode->text().isEmpty()) {
         parameters.insert(JsonKey::Password, m_passcode->text());
     }
@@ -144,17 +143,19 @@ void ConferenceDialog::submit()
     const QJsonArray list = answer.value(JsonKey::List).toArray();
     // An overlap is answered with the others, which are there already.
     if (list.isEmpty() || word == Outcome::TimeOverlap) {
-        result()->tell(word == Outcome::InvalidParameters ? QStringLiteral("时间已过，或密码含有空格。")
-                                                          : outcomeText(word));
+        result()->tell(word == Outcome::InvalidParameters
+                           ? tr("The time has passed, or the passcode has spaces.")
+                           : outcomeText(word));
         return;
     }
     const QString number = list.at(0).toObject().value(JsonKey::ConferenceDialNumber).toString();
     const QStringList missing = word == Outcome::Ok ? QStringList() : notInvited(number);
     accept();
     Q_EMIT made(number);
-    Q_EMIT told(missing.isEmpty() ? QStringLiteral("会议 %1 已发起。").arg(number)
-                                  : QStringLiteral("会议 %1 已发起，但未能邀请：%2。")
-                                        .arg(number, missing.join(QStringLiteral("、"))));
+    Q_EMIT told(missing.isEmpty()
+                    ? tr("Conference %1 was created.").arg(number)
+                    : tr("Conference %1 was created, but these people could not be invited: %2.")
+                          .arg(number, listOfNames(missing)));
 }
 
 QStringList ConferenceDialog::notInvited(const QString &number) const

@@ -35,21 +35,23 @@ StateLook lookOf(ConferenceState state)
 {
     switch (state) {
     case ConferenceState::NotStarted:
-        return {QStringLiteral("未开始"), QColor(0, 129, 255)};
+        return {ConferenceModel::tr("Not started"), QColor(0, 129, 255)};
     case ConferenceState::Running:
-        return {QStringLiteral("进行中"), QColor(89, 190, 45)};
+        return {ConferenceModel::tr("Running"), QColor(89, 190, 45)};
     case ConferenceState::Ended:
         break;
     }
-    return {QStringLiteral("已结束"), QColor(128, 128, 128)};
+    return {ConferenceModel::tr("Ended"), QColor(128, 128, 128)};
 }
 
 QString headerText(int column)
 {
-    static const std::array<QString, ConferenceModel::ColumnCount> headers{
-        QStringLiteral("状态"), QStringLiteral("主题"), QStringLiteral("会议号"), QStringLiteral("开始时间"),
-        QStringLiteral("时长"), QStringLiteral("人数"), QStringLiteral("主持人"), QStringLiteral("密码")};
-    return headers.at(static_cast<size_t>(column));
+    static constexpr std::array<const char *, ConferenceModel::ColumnCount> headers{
+        QT_TRANSLATE_NOOP("ConferenceModel", "State"),    QT_TRANSLATE_NOOP("ConferenceModel", "Title"),
+        QT_TRANSLATE_NOOP("ConferenceModel", "Number"),   QT_TRANSLATE_NOOP("ConferenceModel", "Starts"),
+        QT_TRANSLATE_NOOP("ConferenceModel", "Duration"), QT_TRANSLATE_NOOP("ConferenceModel", "People"),
+        QT_TRANSLATE_NOOP("ConferenceModel", "Host"),     QT_TRANSLATE_NOOP("ConferenceModel", "Passcode")};
+    return ConferenceModel::tr(headers.at(static_cast<size_t>(column)));
 }
 
 QString hostName(const Conference &conference)
@@ -67,10 +69,12 @@ QString startText(qint64 startMsecs, qint64 nowMsecs)
 {
     const QDateTime start = QDateTime::fromMSecsSinceEpoch(startMsecs);
     const qint64 days = QDateTime::fromMSecsSinceEpoch(nowMsecs).date().daysTo(start.date());
+    const QString time = start.toString(QStringLiteral("hh:mm"));
     if (days == 0) {
-        return start.toString(QStringLiteral("今天 hh:mm"));
+        return ConferenceModel::tr("Today %1").arg(time);
     }
-    return start.toString(days == 1 ? QStringLiteral("明天 hh:mm") : QStringLiteral("yyyy-MM-dd hh:mm"));
+    return days == 1 ? ConferenceModel::tr("Tomorrow %1").arg(time)
+                     : start.toString(QStringLiteral("yyyy-MM-dd hh:mm"));
 }
 
 /// A veil of the accent colour that leaves texts legible in both themes.
@@ -95,7 +99,7 @@ QString participantNames(const Conference &conference)
     for (const Participant &participant : conference.participants) {
         names.append(cleanDisplayText(participant.name));
     }
-    return names.join(QStringLiteral("、"));
+    return listOfNames(names);
 }
 
 } // namespace
@@ -300,13 +304,13 @@ QString ConferenceModel::display(const Conference &conference, int column) const
     case Start:
         return startText(conference.startMsecs, m_book.nowMsecs());
     case Duration:
-        return QStringLiteral("%1分钟").arg(conference.durationMsecs / MinuteMsecs);
+        return tr("%1 min").arg(conference.durationMsecs / MinuteMsecs);
     case People:
         return QStringLiteral("%1/%2").arg(conference.participants.size()).arg(conference.participantLimit);
     case Host:
         return hostName(conference);
     case Passcode:
-        return conference.passcode.isEmpty() ? QString() : QStringLiteral("需要");
+        return conference.passcode.isEmpty() ? QString() : tr("Required");
     default:
         return {};
     }

@@ -60,19 +60,19 @@ ConferencePage::ConferencePage(ConferenceModel *model, SortedConferences *sorted
 
 void ConferencePage::arrange()
 {
-    table()->setAccessibleName(QStringLiteral("会议列表"));
+    table()->setAccessibleName(tr("List of conferences"));
     arrangeConferenceColumns(table());
     m_scope->setObjectName(QStringLiteral("scope"));
-    m_scope->setAccessibleName(QStringLiteral("显示哪些会议"));
-    m_scope->addItems({QStringLiteral("我的会议"), QStringLiteral("全部会议")});
+    m_scope->setAccessibleName(tr("Which conferences are shown"));
+    m_scope->addItems({tr("My Conferences"), tr("All Conferences")});
     upperRow()->addWidget(m_scope);
     auto *column = static_cast<QVBoxLayout *>(layout());
     column->insertWidget(0, m_current);
     column->insertWidget(column->indexOf(table()) + 1, m_ended);
 
     m_passcode->setObjectName(QStringLiteral("passcode"));
-    m_passcode->setAccessibleName(QStringLiteral("会议密码"));
-    m_passcode->setPlaceholderText(QStringLiteral("会议密码"));
+    m_passcode->setAccessibleName(tr("Conference passcode"));
+    m_passcode->setPlaceholderText(tr("Passcode"));
     m_passcode->setEchoMode(QLineEdit::Password);
     m_passcode->setMaxLength(MaxPasscodeLength);
     m_passcode->setMaximumWidth(120);
@@ -225,12 +225,12 @@ void ConferencePage::showHint()
 {
     const QString hint = [this] {
         if (!filter()->text().isEmpty()) {
-            return QStringLiteral("没有符合“%1”的会议。按 Esc 清除筛选。").arg(filter()->text());
+            return tr("No conference matches “%1”. Press Esc to clear the filter.").arg(filter()->text());
         }
         if (!m_commands->isLoggedIn() && m_scope->currentIndex() == 0) {
-            return QStringLiteral("还没有登录。请在上方选择账号，登录后可以在这里看到会议。");
+            return tr("Nobody is logged in. Choose an account above to see its conferences here.");
         }
-        return QStringLiteral("没有即将开始的会议。点“发起会议”可以预约一个。");
+        return tr("No conferences are coming up. Make one with “New Conference”.");
     }();
     table()->setHint(hint);
 }

@@ -4,20 +4,19 @@
 #include "window/conferencetimeedit.h"
 
 #include <QCalendarWidget>
+#include <QCoreApplication>
 #include <QDateTimeEdit>
 
 QDateTimeEdit *makeConferenceTimeEdit()
 {
     auto *edit = new QDateTimeEdit;
     edit->setDisplayFormat(QStringLiteral("yyyy-MM-dd hh:mm"));
-    edit->setLocale(QLocale(QLocale::Chinese, QLocale::China));
-    edit->setAccessibleName(QStringLiteral("开始时间"));
+    edit->setAccessibleName(QCoreApplication::translate("ConferenceTimeEdit", "Start time"));
     edit->setCalendarPopup(true);
     // A form would make it narrower than its text.
     constexpr int arrowAndEdges = 52;
     const QString longest = edit->dateTime().toString(edit->displayFormat());
     edit->setMinimumWidth(edit->fontMetrics().horizontalAdvance(longest) + arrowAndEdges);
-    edit->calendarWidget()->setLocale(edit->locale());
     edit->calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     return edit;
 }

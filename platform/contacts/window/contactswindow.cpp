@@ -32,12 +32,12 @@ ContactsWindow::ContactsWindow(ContactsBook &book, Administration &administratio
 
     auto *conferences = new ConferencePage(new ConferenceModel(book), book, administration);
     connect(conferences, &ConferencePage::told, this, &ContactsWindow::tell);
-    m_pages->addTab(conferences, QStringLiteral("会议(&1)"));
+    m_pages->addTab(conferences, tr("&Conferences"));
     auto *people = new PeoplePage(new PeopleModel(book), book);
     connect(people, &PeoplePage::told, this, &ContactsWindow::tell);
-    m_pages->addTab(people, QStringLiteral("联系人(&2)"));
-    m_pages->addTab(new ReminderPage(book), QStringLiteral("提醒(&3)"));
-    m_pages->setAccessibleName(QStringLiteral("会议、联系人和提醒"));
+    m_pages->addTab(people, tr("P&eople"));
+    m_pages->addTab(new ReminderPage(book), tr("&Reminders"));
+    m_pages->setAccessibleName(tr("Conferences, people and reminders"));
 
     m_told->setObjectName(QStringLiteral("told"));
     auto *account = new QHBoxLayout;
@@ -84,8 +84,8 @@ QWidget *ContactsWindow::makeNotice(ContactsBook &book)
     text->setTextFormat(Qt::PlainText);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     text->setWordWrap(true);
-    text->setAccessibleName(QStringLiteral("通知"));
-    auto *read = new QPushButton(QStringLiteral("知道了(&K)"));
+    text->setAccessibleName(tr("Notice"));
+    auto *read = new QPushButton(tr("O&K"));
     read->setObjectName(QStringLiteral("noticeRead"));
     auto *layout = new QHBoxLayout(notice);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -41,11 +41,11 @@ CurrentConference::CurrentConference(ContactsBook &book, QWidget *parent)
     , m_book(book)
     , m_title(makeLabel(QStringLiteral("currentTitle")))
     , m_details(makeLabel(QStringLiteral("currentDetails")))
-    , m_copy(new QPushButton(QStringLiteral("复制会议号(&P)")))
-    , m_leave(new QPushButton(QStringLiteral("离开(&L)")))
+    , m_copy(new QPushButton(tr("Co&py Number")))
+    , m_leave(new QPushButton(tr("&Leave")))
 {
     setObjectName(QStringLiteral("current"));
-    setAccessibleName(QStringLiteral("正在进行的会议"));
+    setAccessibleName(tr("The conference you are in"));
     QFont bold = m_title->font();
     bold.setBold(true);
     m_title->setFont(bold);
@@ -66,7 +66,7 @@ CurrentConference::CurrentConference(ContactsBook &book, QWidget *parent)
     layout->addWidget(m_leave);
     connect(m_copy, &QPushButton::clicked, this, [this] {
         QGuiApplication::clipboard()->setText(m_number);
-        Q_EMIT told(QStringLiteral("已复制会议号。"));
+        Q_EMIT told(tr("The conference number was copied."));
     });
     connect(m_leave, &QPushButton::clicked, this, [this] {
         Q_EMIT told(outcomeText(performAction(m_book, QStringLiteral("Exit Conference"), {})));
@@ -99,7 +99,7 @@ void CurrentConference::reload()
     m_fullTitle = cleanDisplayText(conference->title);
     m_title->setToolTip(plainToolTip(m_fullTitle));
     m_title->setAccessibleName(m_fullTitle);
-    m_details->setText(QStringLiteral("正在会议中 · 会议号 %1 · %2 至 %3 · %4 人")
+    m_details->setText(tr("In a conference · Number %1 · %2 to %3 · People: %4")
                            .arg(m_number, clock(conference->startMsecs), clock(conference->endMsecs()))
                            .arg(conference->participants.size()));
     elide();

@@ -11,18 +11,18 @@
 #include <QMenu>
 
 DeveloperMenu::DeveloperMenu(ContactsBook &book, Administration &administration, QWidget *parent)
-    : QPushButton(QStringLiteral("开发者(&V)"), parent)
+    : QPushButton(tr("De&veloper"), parent)
     , m_book(book)
     , m_administration(administration)
 {
     setObjectName(QStringLiteral("developer"));
     setAutoDefault(false);
     auto *menu = new QMenu(this);
-    m_elsewhere = menu->addAction(QStringLiteral("正在其他设备上开会(&E)"));
+    m_elsewhere = menu->addAction(tr("In a Conference on Another D&evice"));
     m_elsewhere->setObjectName(QStringLiteral("elsewhere"));
     m_elsewhere->setCheckable(true);
     menu->addSeparator();
-    QAction *sample = menu->addAction(QStringLiteral("恢复示例数据(&R)…"));
+    QAction *sample = menu->addAction(tr("&Restore Sample Data…"));
     sample->setObjectName(QStringLiteral("sample"));
     setMenu(menu);
     connect(m_elsewhere, &QAction::triggered, &m_administration, &Administration::SetEngagedElsewhere);
@@ -33,10 +33,11 @@ DeveloperMenu::DeveloperMenu(ContactsBook &book, Administration &administration,
 
 void DeveloperMenu::askForSample()
 {
-    askFirst(this, QStringLiteral("要恢复示例数据吗？现有的联系人和会议都会被替换。"),
-             QStringLiteral("恢复示例数据"), [this] {
-                 Q_EMIT told(m_administration.LoadSample() ? QStringLiteral("示例数据已恢复。")
-                                                           : QStringLiteral("操作失败。"));
+    askFirst(this,
+             tr("Restore the sample data? All contacts and conferences that are there now are replaced."),
+             tr("Restore Sample Data"), [this] {
+                 Q_EMIT told(m_administration.LoadSample() ? tr("The sample data was restored.")
+                                                           : tr("That failed."));
              });
 }
 

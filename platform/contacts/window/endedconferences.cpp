@@ -50,8 +50,8 @@ void EndedConferences::addTable()
 {
     m_table->setModel(m_sorted);
     m_table->setObjectName(QStringLiteral("endedTable"));
-    m_table->setAccessibleName(QStringLiteral("已结束的会议"));
-    m_table->setHint(QStringLiteral("最近三十天没有已结束的会议。"));
+    m_table->setAccessibleName(tr("Conferences that have ended"));
+    m_table->setHint(tr("No conference has ended within thirty days."));
     TablePage::dress(m_table, ConferenceModel::Start, Qt::DescendingOrder);
     arrangeConferenceColumns(m_table);
     m_table->hide();
@@ -91,6 +91,6 @@ void EndedConferences::count()
     const QString shown = found > ConferenceModel::CountLimit
                               ? QStringLiteral("%1+").arg(int(ConferenceModel::CountLimit))
                               : QString::number(found);
-    m_disclosure->setText(QStringLiteral("已结束 (%1)").arg(shown));
+    m_disclosure->setText(tr("Ended (%1)").arg(shown));
     m_disclosure->setEnabled(found > 0 || m_disclosure->isChecked());
 }

@@ -55,7 +55,7 @@ InviteeField::InviteeField(ContactsBook &book, int most, QWidget *parent)
     , m_completer(new QCompleter(m_found, this))
     , m_edit(new QLineEdit)
     , m_list(new QListWidget)
-    , m_remove(new QPushButton(QStringLiteral("移除(&M)")))
+    , m_remove(new QPushButton(tr("Re&move")))
 {
     arrange();
     m_completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
@@ -75,11 +75,11 @@ InviteeField::InviteeField(ContactsBook &book, int most, QWidget *parent)
 void InviteeField::arrange()
 {
     m_edit->setObjectName(QStringLiteral("invitee"));
-    m_edit->setAccessibleName(QStringLiteral("邀请的成员"));
-    m_edit->setPlaceholderText(QStringLiteral("输入姓名、备注或账号"));
+    m_edit->setAccessibleName(tr("People to invite"));
+    m_edit->setPlaceholderText(tr("Name, remark or account"));
     m_edit->setMaxLength(100);
     m_list->setObjectName(QStringLiteral("invitees"));
-    m_list->setAccessibleName(QStringLiteral("已选择的成员"));
+    m_list->setAccessibleName(tr("People chosen"));
     m_list->setFixedHeight(ListHeight);
     m_list->setItemDelegate(new CellDelegate(m_list));
     m_remove->setObjectName(QStringLiteral("removeInvitee"));
@@ -162,8 +162,8 @@ void InviteeField::pickTyped()
     if (meant) {
         add(*meant);
     } else {
-        Q_EMIT told(people.isEmpty() ? QStringLiteral("联系人中没有“%1”。").arg(m_edit->text())
-                                     : QStringLiteral("有多位联系人符合，请从列表中选择。"));
+        Q_EMIT told(people.isEmpty() ? tr("“%1” is not among your contacts.").arg(m_edit->text())
+                                     : tr("Several contacts match. Please choose from the list."));
     }
 }
 
@@ -180,7 +180,7 @@ void InviteeField::pick(const QString &userId)
 void InviteeField::add(const Person &person)
 {
     if (m_people.size() >= m_most) {
-        Q_EMIT told(QStringLiteral("最多可以邀请 %1 人。").arg(m_most));
+        Q_EMIT told(tr("No more than %1 people can be invited.").arg(m_most));
         return;
     }
     m_people.append(person);

@@ -12,15 +12,15 @@
 PasscodeField::PasscodeField(QWidget *parent)
     : QWidget(parent)
     , m_edit(new QLineEdit)
-    , m_reveal(new QPushButton(QStringLiteral("显示(&W)")))
+    , m_reveal(new QPushButton(tr("Sho&w")))
 {
     m_edit->setObjectName(QStringLiteral("passcodeText"));
-    m_edit->setAccessibleName(QStringLiteral("会议密码"));
-    m_edit->setPlaceholderText(QStringLiteral("不填则无需密码"));
+    m_edit->setAccessibleName(tr("Conference passcode"));
+    m_edit->setPlaceholderText(tr("Leave empty for none"));
     m_edit->setEchoMode(QLineEdit::Password);
     m_edit->setMaxLength(MaxPasscodeLength);
     m_reveal->setObjectName(QStringLiteral("reveal"));
-    m_reveal->setAccessibleName(QStringLiteral("显示会议密码"));
+    m_reveal->setAccessibleName(tr("Show the conference passcode"));
     m_reveal->setCheckable(true);
     m_reveal->setAutoDefault(false);
     auto *layout = new QHBoxLayout(this);

@@ -5,24 +5,31 @@
 
 #include "core/displaytext.h"
 
+#include <QCoreApplication>
+
 QString peopleHint(const PeopleView &view)
 {
     if (!view.isLoggedIn) {
-        return QStringLiteral("还没有登录。\n在上方选择账号，就能看到联系人。");
+        return QCoreApplication::translate(
+            "PeopleHint", "Nobody is logged in.\nChoose an account above to see its contacts.");
     }
     if (view.isReading) {
-        return QStringLiteral("正在查找…");
+        return QCoreApplication::translate("PeopleHint", "Searching…");
     }
     if (!view.text.trimmed().isEmpty()) {
-        return QStringLiteral("没有找到“%1”。\n按 Esc 清除搜索。").arg(cleanDisplayText(view.text));
+        return QCoreApplication::translate("PeopleHint",
+                                           "“%1” was not found.\nPress Esc to clear the search.")
+            .arg(cleanDisplayText(view.text));
     }
     switch (view.scope) {
     case PeopleScope::Friends:
-        return QStringLiteral("还没有好友。\n点“添加好友”发送申请。");
+        return QCoreApplication::translate("PeopleHint",
+                                           "There are no friends yet.\nSend a request with “Add Friend”.");
     case PeopleScope::Asked:
-        return QStringLiteral("没有等待回答的好友申请。");
+        return QCoreApplication::translate("PeopleHint", "No friend request waits for its answer.");
     case PeopleScope::Everybody:
         break;
     }
-    return QStringLiteral("还没有联系人。\n点“添加好友”发送申请。");
+    return QCoreApplication::translate("PeopleHint",
+                                       "There are no contacts yet.\nSend a request with “Add Friend”.");
 }

@@ -16,9 +16,10 @@ constexpr int PageSize = 100;
 
 QString headerText(int column)
 {
-    static const std::array<QString, PeopleModel::ColumnCount> headers{
-        QStringLiteral("姓名"), QStringLiteral("账号"), QStringLiteral("关系"), QStringLiteral("账号类型")};
-    return headers.at(static_cast<size_t>(column));
+    static constexpr std::array<const char *, PeopleModel::ColumnCount> headers{
+        QT_TRANSLATE_NOOP("PeopleModel", "Name"), QT_TRANSLATE_NOOP("PeopleModel", "Account"),
+        QT_TRANSLATE_NOOP("PeopleModel", "Relation"), QT_TRANSLATE_NOOP("PeopleModel", "Kind of Account")};
+    return PeopleModel::tr(headers.at(static_cast<size_t>(column)));
 }
 
 } // namespace

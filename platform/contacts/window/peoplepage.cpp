@@ -29,10 +29,10 @@ PeoplePage::PeoplePage(PeopleModel *model, ContactsBook &book, QWidget *parent)
     , m_model(model)
     , m_book(book)
     , m_scope(new QComboBox)
-    , m_add(new QPushButton(QStringLiteral("添加好友(&F)…")))
-    , m_befriend(new QPushButton(QStringLiteral("加为好友(&B)")))
-    , m_befriendEntry(new QAction(QStringLiteral("加为好友(&B)"), table()))
-    , m_copyAccount(new QAction(QStringLiteral("复制账号(&C)"), table()))
+    , m_add(new QPushButton(tr("Add &Friend…")))
+    , m_befriend(new QPushButton(tr("Add as Fr&iend")))
+    , m_befriendEntry(new QAction(tr("Add as Fr&iend"), table()))
+    , m_copyAccount(new QAction(tr("&Copy Account"), table()))
 {
     m_model->setParent(this);
     addControls();
@@ -45,13 +45,13 @@ PeoplePage::PeoplePage(PeopleModel *model, ContactsBook &book, QWidget *parent)
 void PeoplePage::addControls()
 {
     filter()->setObjectName(QStringLiteral("peopleFilter"));
-    filter()->setPlaceholderText(QStringLiteral("搜索姓名、备注或账号"));
-    filter()->setAccessibleName(QStringLiteral("搜索姓名、备注或账号"));
+    filter()->setPlaceholderText(tr("Search names, remarks and accounts"));
+    filter()->setAccessibleName(tr("Search names, remarks and accounts"));
     m_scope->setObjectName(QStringLiteral("peopleScope"));
-    m_scope->setAccessibleName(QStringLiteral("显示哪些联系人"));
-    m_scope->addItem(QStringLiteral("全部联系人"), static_cast<int>(PeopleScope::Everybody));
-    m_scope->addItem(QStringLiteral("好友"), static_cast<int>(PeopleScope::Friends));
-    m_scope->addItem(QStringLiteral("已发送的申请"), static_cast<int>(PeopleScope::Asked));
+    m_scope->setAccessibleName(tr("Which people are shown"));
+    m_scope->addItem(tr("All Contacts"), static_cast<int>(PeopleScope::Everybody));
+    m_scope->addItem(tr("Friends"), static_cast<int>(PeopleScope::Friends));
+    m_scope->addItem(tr("Requests Sent"), static_cast<int>(PeopleScope::Asked));
     m_add->setObjectName(QStringLiteral("addFriend"));
     m_add->setAutoDefault(false);
     m_befriend->setObjectName(QStringLiteral("befriend"));
@@ -71,7 +71,7 @@ void PeoplePage::addControls()
     setTabOrder(table(), m_befriend);
 
     table()->setObjectName(QStringLiteral("people"));
-    table()->setAccessibleName(QStringLiteral("联系人列表"));
+    table()->setAccessibleName(tr("List of contacts"));
     QHeaderView *header = table()->horizontalHeader();
     header->setMinimumSectionSize(NarrowestColumn);
     header->setMaximumSectionSize(WidestColumn);
@@ -100,7 +100,7 @@ void PeoplePage::connectControls()
     connect(m_befriendEntry, &QAction::triggered, this, &PeoplePage::addSelected);
     connect(m_copyAccount, &QAction::triggered, this, [this] {
         QGuiApplication::clipboard()->setText(selected(PeopleModel::AccountRole).toString());
-        Q_EMIT told(QStringLiteral("已复制账号。"));
+        Q_EMIT told(tr("The account was copied."));
     });
     connect(this, &TablePage::selectionChanged, this, &PeoplePage::showWhatIsPossible);
     connect(m_model, &QAbstractItemModel::dataChanged, this, &PeoplePage::showWhatIsPossible);

@@ -5,26 +5,28 @@
 
 #include "core/displaytext.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 QString relationText(Friendship friendship)
 {
     switch (friendship) {
     case Friendship::Friend:
-        return QStringLiteral("好友");
+        return QCoreApplication::translate("PersonTexts", "Friend");
     case Friendship::Requested:
-        return QStringLiteral("已发送好友申请");
+        return QCoreApplication::translate("PersonTexts", "Request sent");
     case Friendship::None:
         break;
     }
-    return QStringLiteral("同事");
+    return QCoreApplication::translate("PersonTexts", "Colleague");
 }
 
 QString nameText(const Person &person)
 {
     const QString shown = cleanDisplayText(person.shownName());
     const QString name = cleanDisplayText(person.name);
-    return shown == name ? name : QStringLiteral("%1（%2）").arg(shown, name);
+    return shown == name ? name : QCoreApplication::translate("PersonTexts", "%1 (%2)").arg(shown, name);
 }
 
 } // namespace
@@ -39,7 +41,8 @@ QString personText(const Person &person, PersonColumn column)
     case PersonColumn::Relation:
         return relationText(person.friendship);
     case PersonColumn::Kind:
-        return person.kind == AccountKind::Paying ? QStringLiteral("付费") : QStringLiteral("免费");
+        return person.kind == AccountKind::Paying ? QCoreApplication::translate("PersonTexts", "Paying")
+                                                  : QCoreApplication::translate("PersonTexts", "Free");
     }
     return {};
 }

@@ -3,6 +3,7 @@
 
 #include "window/question.h"
 
+#include <QCoreApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -15,7 +16,8 @@ void askFirst(QWidget *parent, const QString &question, const QString &yes, std:
     box->setText(question);
     QPushButton *agree = box->addButton(yes, QMessageBox::DestructiveRole);
     agree->setObjectName(QStringLiteral("agree"));
-    QPushButton *refuse = box->addButton(QStringLiteral("不，保留"), QMessageBox::RejectRole);
+    QPushButton *refuse =
+        box->addButton(QCoreApplication::translate("Question", "No, Keep"), QMessageBox::RejectRole);
     refuse->setObjectName(QStringLiteral("refuse"));
     box->setDefaultButton(refuse);
     box->setEscapeButton(refuse);

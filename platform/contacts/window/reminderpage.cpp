@@ -14,20 +14,21 @@
 ReminderPage::ReminderPage(ContactsBook &book, QWidget *parent)
     : QWidget(parent)
     , m_book(book)
-    , m_isOn(new QCheckBox(QStringLiteral("提醒我会议、邀请和好友申请(&M)")))
+    , m_isOn(new QCheckBox(tr("Re&mind me of conferences, invitations and friend requests")))
     , m_lead(new QSpinBox)
 {
     m_isOn->setObjectName(QStringLiteral("remind"));
     m_lead->setObjectName(QStringLiteral("leadMinutes"));
     m_lead->setRange(ReminderSettings::MinLeadMinutes, ReminderSettings::MaxLeadMinutes);
     m_lead->setKeyboardTracking(false); // "15" is not 1 on its way
-    m_lead->setSuffix(QStringLiteral(" 分钟"));
-    m_lead->setAccessibleName(QStringLiteral("会议开始前多少分钟提醒"));
-    auto *lead = new QLabel(QStringLiteral("会议开始前(&B)"));
+    m_lead->setSuffix(tr(" min"));
+    m_lead->setAccessibleName(tr("Minutes before a conference"));
+    auto *lead = new QLabel(tr("&Before it starts"));
     lead->setBuddy(m_lead);
-    auto *hint =
-        new QLabel(QStringLiteral("会议开始前和开始时各通知一次；已谢绝、已加入和已结束的会议不再提醒。"
-                                  "打开提醒后，登录桌面时会在后台启动，关闭窗口后仍会提醒。"));
+    auto *hint = new QLabel(tr("Notifies you before a conference starts and when it does. Conferences that "
+                               "you have declined or joined, or that have ended, are left out. "
+                               "While reminders are on, the application starts in the background when you "
+                               "log in, and reminds you after its window is closed."));
     hint->setTextFormat(Qt::PlainText);
     hint->setWordWrap(true);
     auto *layout = new QFormLayout(this);

@@ -21,9 +21,9 @@ constexpr int MostCounted = 100;
 
 QString textFor(const Person &asker, int others)
 {
-    const QString text = QStringLiteral("%1（%2）想加您为好友。")
+    const QString text = RequestBar::tr("%1 (%2) wants to be your friend.")
                              .arg(cleanDisplayText(asker.shownName()), cleanDisplayText(asker.account));
-    return others == 0 ? text : text + QStringLiteral("还有 %1 个申请。").arg(others);
+    return others == 0 ? text : RequestBar::tr("%1 Further requests: %2.").arg(text, QString::number(others));
 }
 
 } // namespace
@@ -33,8 +33,8 @@ RequestBar::RequestBar(ContactsBook &book, QWidget *parent)
     , m_book(book)
     , m_requests(book)
     , m_text(new QLabel)
-    , m_accept(new QPushButton(QStringLiteral("接受(&P)")))
-    , m_decline(new QPushButton(QStringLiteral("谢绝(&D)")))
+    , m_accept(new QPushButton(tr("Acce&pt")))
+    , m_decline(new QPushButton(tr("&Decline")))
 {
     setObjectName(QStringLiteral("requests"));
     m_text->setObjectName(QStringLiteral("requestText"));
@@ -50,9 +50,9 @@ RequestBar::RequestBar(ContactsBook &book, QWidget *parent)
     layout->addWidget(m_accept);
     layout->addWidget(m_decline);
     connect(m_accept, &QPushButton::clicked, this,
-            [this] { answer(&FriendRequests::accept, QStringLiteral("已成为好友。")); });
+            [this] { answer(&FriendRequests::accept, tr("You are friends now.")); });
     connect(m_decline, &QPushButton::clicked, this,
-            [this] { answer(&FriendRequests::decline, QStringLiteral("已谢绝好友申请。")); });
+            [this] { answer(&FriendRequests::decline, tr("The friend request was declined.")); });
     connect(&m_book, &ContactsBook::changedLately, this, &RequestBar::reload);
     reload();
 }

@@ -9,13 +9,13 @@ ResultLabel::ResultLabel(QWidget *parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
     setWordWrap(true); // a long path makes the window no wider
-    setAccessibleName(QStringLiteral("结果"));
+    setAccessibleName(tr("Result"));
 }
 
 void ResultLabel::tell(const QString &text)
 {
     setText(text);
-    setAccessibleName(text.isEmpty() ? QStringLiteral("结果") : QStringLiteral("结果：%1").arg(text));
+    setAccessibleName(text.isEmpty() ? tr("Result") : tr("Result: %1").arg(text));
     if (text.isEmpty()) {
         return;
     }

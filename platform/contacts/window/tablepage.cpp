@@ -36,8 +36,8 @@ TablePage::TablePage(QAbstractItemModel *model, int keyRole, int sortColumn, QWi
     , m_upperRow(new QHBoxLayout)
     , m_lowerRow(new QHBoxLayout)
 {
-    m_filter->setPlaceholderText(QStringLiteral("筛选"));
-    m_filter->setAccessibleName(QStringLiteral("筛选"));
+    m_filter->setPlaceholderText(tr("Filter"));
+    m_filter->setAccessibleName(tr("Filter"));
     m_filter->setClearButtonEnabled(true);
     m_filter->setMaxLength(100);
     auto *escape = new QShortcut(Qt::Key_Escape, m_filter, nullptr, nullptr, Qt::WidgetShortcut);

@@ -11,12 +11,12 @@
 
 namespace {
 
-/// "会议(&1)" without its shortcut.
+/// "会议(&1)" or "&Conferences" without its shortcut.
 QString pageName(const QString &tabText)
 {
     static const QRegularExpression shortcut(QStringLiteral("\\(&.\\)"));
     QString name = tabText;
-    return name.remove(shortcut);
+    return name.remove(shortcut).remove(QLatin1Char('&'));
 }
 
 } // namespace
@@ -36,7 +36,7 @@ void WindowTitle::readUser()
 {
     try {
         const std::optional<Person> user = m_book.session().user();
-        m_user = user ? cleanDisplayText(user->name) : QStringLiteral("未登录");
+        m_user = user ? cleanDisplayText(user->name) : tr("Not logged in");
         m_user.replace(QLatin1String("[*]"),
                        QLatin1String("[*][*]")); // "[*]" is Qt's sign of unsaved changes
     } catch (const std::exception &error) {
@@ -49,6 +49,6 @@ void WindowTitle::readUser()
 void WindowTitle::show()
 {
     const QString page = pageName(m_pages.tabText(m_pages.currentIndex()));
-    const QStringList parts{page, m_user, QStringLiteral("联系人与会议")};
+    const QStringList parts{page, m_user, tr("Contacts and Conferences")};
     m_window.setWindowTitle(parts.join(QStringLiteral(" – ")));
 }

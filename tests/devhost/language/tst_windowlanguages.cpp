@@ -5,6 +5,7 @@
 #include "desklanguage.h"
 #include "inspector.h"
 #include "plugindesk.h"
+#include "shownlanguage.h"
 #include "statusline.h"
 #include "turnmenu.h"
 #include "welcomepage.h"
@@ -52,29 +53,12 @@ QStringList textsOf(const QWidget &widget)
     if (isAssistants(widget)) {
         return {widget.toolTip()};
     }
-    QStringList texts;
-    // By the properties, so that no kind of widget is forgotten.
-    for (const char *name :
-         {"windowTitle", "toolTip", "accessibleName", "accessibleDescription", "text", "title",
-          "placeholderText", "plainText", "prefix", "suffix", "informativeText"}) {
-        texts << withoutPluginsTexts(widget, widget.property(name).toString());
+    QStringList texts = ShownLanguage::textsOf(widget);
+    for (QString &text : texts) {
+        text = withoutPluginsTexts(widget, text);
     }
     if (const auto *bubble = qobject_cast<const Bubble *>(&widget)) {
         texts << withoutPluginsTexts(widget, bubble->text());
-    }
-    if (const auto *tabs = qobject_cast<const QTabWidget *>(&widget)) {
-        for (int i = 0; i < tabs->count(); ++i) {
-            texts << tabs->tabText(i) << tabs->tabToolTip(i);
-        }
-    }
-    if (const auto *box = qobject_cast<const QComboBox *>(&widget)) {
-        for (int i = 0; i < box->count(); ++i) {
-            texts << box->itemText(i);
-        }
-    }
-    const auto actions = widget.actions();
-    for (const QAction *action : actions) {
-        texts << action->text() << action->toolTip() << action->shortcut().toString(QKeySequence::NativeText);
     }
     return texts;
 }
@@ -109,16 +93,6 @@ void markCards(ConversationView &view)
             card->setObjectName(QStringLiteral("card"));
         }
     }
-}
-
-/// What a text of the frame must not contain in a language.
-QRegularExpression strangeTo(const QString &code)
-{
-    return QRegularExpression(
-        code == QLatin1String("en")
-            ? QStringLiteral("[\\p{Han}\\x{3000}-\\x{303f}\\x{ff00}-\\x{ffef}]")
-            // Words that are no names: "JSON", "service()" and file names stay as they are.
-            : QStringLiteral("\\b[A-Z]?[a-z]+ [a-z]{2,}\\b|^&?[A-Z][a-z]{2,}…?$"));
 }
 
 } // namespace
@@ -171,7 +145,7 @@ void TestWindowLanguages::cleanup()
 
 void TestWindowLanguages::verify(const QVector<ShownText> &texts, int least)
 {
-    const QRegularExpression strange = strangeTo(m_language->code());
+    const QRegularExpression strange = ShownLanguage::strangeTo(m_language->code());
     for (const ShownText &shown : texts) {
         QVERIFY2(!shown.text.contains(strange),
                  qUtf8Printable(shown.where + QStringLiteral(": ") + shown.text));

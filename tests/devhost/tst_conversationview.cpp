@@ -125,6 +125,24 @@ void TestConversationView::oldCardsBecomePicturesThatComeBack()
                      qPrintable(QStringLiteral("%1, %2").arg(x).arg(y)));
         }
     }
+    // Nobody takes it for one that can be used: a veil of the ground lies on it.
+    QVERIFY(!pictured->isEnabled());
+    QVERIFY(pictured->toolTip().contains(QStringLiteral("再")));
+    const QImage desk = view.viewport()->grab().toImage();
+    const QColor ground = view.palette().color(QPalette::Window);
+    const auto distance = [&ground](const QColor &color) {
+        return qAbs(color.lightness() - ground.lightness());
+    };
+    int darkest = 0;
+    int darkestVeiled = 0;
+    for (int y = inside.top(); y < inside.bottom(); ++y) {
+        for (int x = inside.left(); x < inside.right(); ++x) {
+            darkest = qMax(darkest, distance(again.pixelColor(x, y)));
+            darkestVeiled = qMax(darkestVeiled, distance(desk.pixelColor(pictured->pos() + QPoint(x, y))));
+        }
+    }
+    QVERIFY2(darkest > 100 && darkestVeiled < darkest / 2 && darkestVeiled > 30,
+             qPrintable(QStringLiteral("%1, %2").arg(darkest).arg(darkestVeiled)));
     view.scrollToEnd();
     QVERIFY(view.findChildren<PicturedCard *>().isEmpty());
 }

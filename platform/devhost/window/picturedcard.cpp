@@ -18,6 +18,7 @@ PicturedCard::PicturedCard(const CardRecord &record, QWidget *parent)
     : QWidget(parent)
     , m_picture(record.picture())
 {
+    setEnabled(false); // under a veil, as cards whose buttons are dead for other reasons
     setAccessibleName(record.text());
     setToolTip(tr("Of older cards only a picture is kept; to use it again, ask again."));
 }

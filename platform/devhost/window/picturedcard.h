@@ -9,7 +9,8 @@
 
 namespace devhost {
 
-/// Shows a released card as it last looked. Its tool tip says that it can no longer be used.
+/// Shows a released card as it last looked. Disabled, because it cannot be used any more; its tool tip says
+/// so.
 class PicturedCard final : public QWidget
 {
     Q_OBJECT

@@ -4,6 +4,7 @@
 #include "meaning/doubts.h"
 
 #include "meaning/outcome.h"
+#include "names/headreader.h"
 #include "names/namelook.h"
 #include "text/scan.h"
 
@@ -143,28 +144,41 @@ bool sendsSomebody(const Reading &reading)
     return false;
 }
 
-/// 通知张伟交周报: nothing says that it is about a conference, and the second name may be none.
+/// Somebody and nothing else: 李娜, Tom, 老婆, but not 李娜起床.
+bool isClearlySomebody(const QString &name)
+{
+    return isPersonsName(name) || name.at(0).unicode() < 0x250 || name.contains(QChar(u'·')) ||
+           isTransliterated(name) || name.size() == 2 || isModifier(name);
+}
+
+/// 通知张伟交周报, 请李娜介绍一下, 拉李娜一把: nothing says that it is about a conference, and more follows.
 bool callsForNothing(const Reading &reading)
 {
     constexpr WordClasses conference = WordClass::Conference | WordClass::Arrive | WordClass::Join |
                                        WordClass::WeakJoin | WordClass::Invite | WordClass::InviteNoun |
-                                       WordClass::ComeMeet | WordClass::Video;
-    if (reading.hasAny(conference)) {
+                                       WordClass::ComeMeet | WordClass::Video | WordClass::Add;
+    const std::vector<FoundName> &names = reading.names();
+    if (names.empty() || reading.hasAny(conference)) {
         return false;
     }
+    const bool clear = std::all_of(names.cbegin(), names.cend(),
+                                   [](const FoundName &name) { return isClearlySomebody(name.name); });
     static const QString telling = QStringLiteral("通让请联找");
-    const bool told =
-        std::any_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
-            return token.is(WordClass::Trigger) && !token.inName &&
-                   telling.contains(reading.sentence().text().at(token.position));
-        });
-    const std::vector<FoundName> &names = reading.names();
-    for (std::size_t at = 1; told && at < names.size(); ++at) {
-        if (names[at - 1].position + names[at - 1].said.size() == names[at].position) {
-            return true;
-        }
+    bool told = false;
+    bool furtherDeed = false; // behind the last name
+    const int end = names.back().position + names.back().said.size();
+    static const QString deeds = QStringLiteral("等稍先别把");
+    for (const Token &token : reading.tokens()) {
+        const QChar first = reading.sentence().text().at(token.position);
+        told = told || (token.is(WordClass::Trigger) && !token.inName && telling.contains(first));
+        furtherDeed = furtherDeed || (token.position >= end &&
+                                      (token.inTopic || token.is(WordClass::Topic) || deeds.contains(first)));
     }
-    return false;
+    bool adjacent = false;
+    for (std::size_t at = 1; at < names.size(); ++at) {
+        adjacent = adjacent || names[at - 1].position + names[at - 1].said.size() == names[at].position;
+    }
+    return !clear || furtherDeed || (told && adjacent);
 }
 
 /// 找小王聊聊离职的事: people talk about something, and no word says that they meet.

@@ -42,9 +42,12 @@ bool isLeftByOther(const Reading &reading)
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         const Token &token = tokens[at];
         const QString word = text.mid(token.position, token.length);
+        static const QString everybody = QStringLiteral("大所全各同他她"); // 通知大家散会
         const bool other =
-            at + 1 < tokens.size() && (tokens[at + 1].inName || tokens[at + 1].is(WordClass::Actor) ||
-                                       tokens[at + 1].is(WordClass::Title));
+            at + 1 < tokens.size() &&
+            (tokens[at + 1].inName ||
+             (tokens[at + 1].is(WordClass::Nobody) && everybody.contains(text.at(tokens[at + 1].position))) ||
+             tokens[at + 1].is(WordClass::Actor) || tokens[at + 1].is(WordClass::Title));
         const bool noun = token.is(WordClass::Close) && token.end() + 1 < text.size() &&
                           text.at(token.end()) == QChar(u'的');
         const bool moved = moving.contains(text.at(token.end() - 1)) && isOther(reading, at + 1);

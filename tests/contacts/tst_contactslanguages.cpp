@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QProcess>
+#include <QScrollBar>
 
 namespace {
 
@@ -304,6 +305,8 @@ void TestContactsLanguages::theEnglishWindow()
     QCOMPARE(m_fixture->cell(0, ConferenceModel::Start), QStringLiteral("Today 09:50"));
     QCOMPARE(m_fixture->cell(0, ConferenceModel::Duration), QStringLiteral("60 min"));
     QCOMPARE(m_fixture->cell(2, ConferenceModel::Start), QStringLiteral("Tomorrow 10:20"));
+    // All columns fit into the window as it opens.
+    QCOMPARE(m_fixture->conferences()->horizontalScrollBar()->maximum(), 0);
     QTest::keyClick(m_fixture->window.get(), Qt::Key_E, Qt::AltModifier);
     QCOMPARE(m_fixture->tabs()->currentIndex(), 1);
     QCOMPARE(m_fixture->child<QLabel>("requestText")->text(),

@@ -347,7 +347,7 @@
 <context>
     <name>ConferenceModel</name>
     <message>
-        <source>Not started</source>
+        <source>Upcoming</source>
         <translation>未开始</translation>
     </message>
     <message>

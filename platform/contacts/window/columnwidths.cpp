@@ -7,14 +7,25 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QStyle>
 #include <QTableView>
 
 namespace {
 
+/// Narrower than the header's own hint, which has room for a bold text; none is here.
+int headerWidth(const QTableView &table, int column)
+{
+    const QHeaderView *header = table.horizontalHeader();
+    const QString text = table.model()->headerData(column, Qt::Horizontal).toString();
+    const int margins = 3 * header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
+    const int sortMark = header->style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, header);
+    return header->fontMetrics().horizontalAdvance(text) + margins + sortMark;
+}
+
 int neededWidth(const QTableView &table, int column)
 {
     const auto &view = static_cast<const QAbstractItemView &>(table); // where it is public
-    return qMax(view.sizeHintForColumn(column), table.horizontalHeader()->sectionSizeHint(column));
+    return qMax(view.sizeHintForColumn(column), headerWidth(table, column));
 }
 
 } // namespace

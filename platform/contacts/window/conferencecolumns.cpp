@@ -14,6 +14,7 @@ void arrangeConferenceColumns(QTableView *table)
     constexpr int wide = 190;
     QVector<ColumnWidths::Limits> limits(ConferenceModel::ColumnCount, {narrow, wide});
     limits[ConferenceModel::Title] = {180, 180};
-    limits[ConferenceModel::Host] = {80, 140};
+    limits[ConferenceModel::Start] = {narrow, 2 * wide}; // a date is never shortened, however large its text
+    limits[ConferenceModel::Host] = {narrow, 140};
     new ColumnWidths(table, limits, ConferenceModel::Title);
 }

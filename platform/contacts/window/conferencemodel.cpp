@@ -35,7 +35,7 @@ StateLook lookOf(ConferenceState state)
 {
     switch (state) {
     case ConferenceState::NotStarted:
-        return {ConferenceModel::tr("Not started"), QColor(0, 129, 255)};
+        return {ConferenceModel::tr("Upcoming"), QColor(0, 129, 255)};
     case ConferenceState::Running:
         return {ConferenceModel::tr("Running"), QColor(89, 190, 45)};
     case ConferenceState::Ended:

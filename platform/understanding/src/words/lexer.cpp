@@ -72,11 +72,22 @@ private:
     /// 阿布都热合曼, 阿不都拉: names in which words of the rules stand.
     bool takeForeignName()
     {
-        int length =
-            firstOf(m_text, m_at, {u"阿不都拉", u"阿布都拉", u"阿不都", u"阿布都", u"阿卜都", u"加拉提"});
-        if (length == 0 && !m_tokens.empty() && tailLength(m_tokens.back()) == 1 &&
-            (m_tokens.back().kind == Token::Kind::Other || m_tokens.back().is(WordClass::Title))) {
-            length = firstOf(m_text, m_at, {u"明晨"}); // 居委会的董明晨
+        int length = 0;
+        switch (m_text.at(m_at).unicode()) {
+        case u'阿':
+            length = firstOf(m_text, m_at, {u"阿不都拉", u"阿布都拉", u"阿不都", u"阿布都", u"阿卜都"});
+            break;
+        case u'加':
+            length = firstOf(m_text, m_at, {u"加拉提"});
+            break;
+        case u'明': // 居委会的董明晨
+            if (!m_tokens.empty() && tailLength(m_tokens.back()) == 1 &&
+                (m_tokens.back().kind == Token::Kind::Other || m_tokens.back().is(WordClass::Title))) {
+                length = firstOf(m_text, m_at, {u"明晨"});
+            }
+            break;
+        default:
+            break;
         }
         for (int taken = 0; taken < length; ++taken) {
             takeOther();
@@ -84,11 +95,15 @@ private:
         return length > 0;
     }
 
-    /// How many characters of @p token stand behind its last 的.
+    /// How many characters of @p token stand behind its last 的, three at most.
     int tailLength(const Token &token) const
     {
-        const int end = token.end() - 1;
-        return qMin(token.length, end - m_text.lastIndexOf(QChar(u'的'), end));
+        constexpr int most = 3;
+        int length = 0;
+        while (length < qMin(token.length, most) && m_text.at(token.end() - 1 - length) != QChar(u'的')) {
+            ++length;
+        }
+        return length;
     }
 
     /// A name that nobody knows may begin like a time: 和周一鸣, 和高明早上.

@@ -124,8 +124,9 @@ bool sendsSomebody(const Reading &reading)
     static const QStringList calls = {QStringLiteral("让"),  QStringLiteral("叫"),   QStringLiteral("请"),
                                       QStringLiteral("喊"),  QStringLiteral("通知"), QStringLiteral("找"),
                                       QStringLiteral("联系")};
-    static const QStringList does = {QStringLiteral("把"), QStringLiteral("将"), QStringLiteral("给"),
-                                     QStringLiteral("帮")};
+    static const QStringList does = {QStringLiteral("把"),  QStringLiteral("将"),   QStringLiteral("给"),
+                                     QStringLiteral("帮"),  QStringLiteral("给我"), QStringLiteral("帮我"),
+                                     QStringLiteral("替我")};
     const Tokens &tokens = reading.tokens();
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         if (tokens[at].inName || !tokens[at].is(WordClass::Trigger) ||
@@ -268,23 +269,14 @@ constexpr struct
     const char *intent;
     bool (*isDoubtful)(const Reading &);
 } Doubts[] = {
-    {CreateConference, asksWho},
-    {CreateConference, tellsBeginning},
-    {CreateConference, onlyTalks},
-    {CreateConference, isHeldInRoom},
-    {CreateConference, sendsSomebody},
-    {CreateConference, reminds},
-    {CreateConference, callsStranger},
-    {CreateConference, mentionsStranger},
-    {CreateConference, onlySpeaksOf},
-    {InviteConference, asksWho},
-    {InviteConference, sendsSomebody},
-    {InviteConference, callsForNothing},
-    {EnterConferenceById, tellsWhoseNumber},
-    {EnterConferenceById, comesLater},
-    {EnterMyConference, asksWho},
-    {EnterMyConference, asksHowMany},
-    {CloseConference, returnsRoom},
+    {CreateConference, asksWho},         {CreateConference, tellsBeginning},
+    {CreateConference, onlyTalks},       {CreateConference, isHeldInRoom},
+    {CreateConference, sendsSomebody},   {CreateConference, reminds},
+    {CreateConference, callsStranger},   {CreateConference, mentionsStranger},
+    {CreateConference, onlySpeaksOf},    {InviteConference, sendsSomebody},
+    {InviteConference, callsForNothing}, {EnterConferenceById, tellsWhoseNumber},
+    {EnterConferenceById, comesLater},   {EnterMyConference, asksWho},
+    {EnterMyConference, asksHowMany},    {CloseConference, returnsRoom},
     {AddBuddy, onlyMentionsFriend},
 };
 

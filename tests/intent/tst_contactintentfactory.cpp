@@ -112,7 +112,9 @@ void TestContactIntentFactory::eachHandlerHasATableOfOutcomes()
     QVERIFY2(test.open(QIODevice::ReadOnly), qPrintable(test.fileName()));
     const QString source = QString::fromUtf8(test.readAll());
     QVERIFY(source.contains(QStringLiteral("HandlerTest::subjectOf<%1, ").arg(className)));
-    QVERIFY(source.contains(QStringLiteral("(subject())")));
+    // By the test's main function, or by the base of a test that adds to it.
+    QVERIFY(source.contains(QStringLiteral("(subject())")) ||
+            source.contains(QStringLiteral("public HandlerTestOf<subject>")));
 }
 
 void TestContactIntentFactory::otherNamesHaveNone_data()

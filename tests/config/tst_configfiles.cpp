@@ -139,11 +139,11 @@ private Q_SLOTS:
         timer.start();
         QVERIFY(!config.init(path));
         QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
-        QCOMPARE(log.lines().first(),
+        QCOMPARE(log.lines().constFirst(),
                  QStringLiteral("debug: Load config failed, can not open file: \"%1\"").arg(path));
         QCOMPARE(log.texts(QtWarningMsg).size(), 1);
         QVERIFY2(log.texts(QtWarningMsg)
-                     .first()
+                     .constFirst()
                      .startsWith(QStringLiteral("The configuration is not read: ") + reason),
                  qPrintable(log.texts(QtWarningMsg).first()));
         QCOMPARE(log.texts(QtCriticalMsg), QStringList{RootMustBeObject});

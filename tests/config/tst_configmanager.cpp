@@ -185,8 +185,9 @@ private Q_SLOTS:
         config.init(QStringLiteral("/nowhere"));
         config.dump();
         JsonConfigLoader().unload();
-        QVERIFY(log.records().size() >= 6);
-        for (const LogRecord &record : log.records()) {
+        const QVector<LogRecord> records = log.records();
+        QVERIFY(records.size() >= 6);
+        for (const LogRecord &record : records) {
             QCOMPARE(record.category, QByteArray("default"));
             QVERIFY2(record.file.isNull() && record.function.isNull() && record.line == 0,
                      qPrintable(record.text));

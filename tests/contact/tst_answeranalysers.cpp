@@ -13,7 +13,7 @@
 namespace {
 
 /// A different list for each of the words, to see whether it was read.
-const QByteArray OneConference = R"("list": [{"confId": "7"}])";
+constexpr char OneConference[] = R"("list": [{"confId": "7"}])";
 
 QString answerOf(const char *word, const QByteArray &rest = OneConference)
 {
@@ -264,7 +264,7 @@ private Q_SLOTS:
             users += (users.isEmpty() ? "" : ",") + QByteArray(R"({"name": "n", "status": ")") +
                      status.toUtf8() + "\"}";
         }
-        const QString answer = answerOf("Return", OneConference + ", \"users\": [" + users + "]");
+        const QString answer = answerOf("Return", QByteArray(OneConference) + ", \"users\": [" + users + "]");
 
         ContactInviteMemberDetail invited = filledDetail().inviteDetail;
         QCOMPARE(ContactUtils::analyzeResultContext(answer, {}, invited), code);
@@ -339,7 +339,7 @@ private Q_SLOTS:
         QCOMPARE(ContactUtils::analyzeUpdateReturnContext(answer, created), -16001);
 
         QCOMPARE(log.texts(QtWarningMsg), QStringList({text, memberText, memberText, text, text, text}));
-        QCOMPARE(log.records().first().category, QByteArray("default"));
+        QCOMPARE(log.records().constFirst().category, QByteArray("default"));
         QCOMPARE(created.isSchedule, true);
         QCOMPARE(created.scheduleTimeMsecs, qint64(5));
         QCOMPARE(created.conferences.size(), 3);

@@ -112,8 +112,10 @@ QVector<AbilityEvent::Kind> kindsOf(const QVector<AbilityEvent> &events)
     return kinds;
 }
 
-const QVector<AbilityEvent::Kind> OneRequest{AbilityEvent::Created, AbilityEvent::TimeoutSet,
-                                             AbilityEvent::Requested, AbilityEvent::Deleted};
+QVector<AbilityEvent::Kind> oneRequest()
+{
+    return {AbilityEvent::Created, AbilityEvent::TimeoutSet, AbilityEvent::Requested, AbilityEvent::Deleted};
+}
 
 } // namespace
 
@@ -159,7 +161,7 @@ private Q_SLOTS:
         const LogCapture log;
         QTEST(operation(m_gateway), "code");
         const QVector<AbilityEvent> events = m_script.events();
-        QCOMPARE(kindsOf(events), OneRequest);
+        QCOMPARE(kindsOf(events), oneRequest());
         QCOMPARE(events.at(1).timeout, 800);
         QTEST(events.at(2).action, "action");
         QTEST(events.at(2).parameters, "parameters");
@@ -178,7 +180,7 @@ private Q_SLOTS:
             m_script.reset();
             m_script.enqueue(code, QStringLiteral("not JSON"));
             QCOMPARE(operation(m_gateway), code);
-            QCOMPARE(kindsOf(m_script.events()), OneRequest);
+            QCOMPARE(kindsOf(m_script.events()), oneRequest());
         }
     }
 
@@ -191,7 +193,7 @@ private Q_SLOTS:
         LogCapture log;
         log.expect(QtWarningMsg, QStringLiteral("The contact ability failed: \"%1\" broken").arg(action));
         QCOMPARE(operation(m_gateway), -1);
-        QCOMPARE(kindsOf(m_script.events()), OneRequest);
+        QCOMPARE(kindsOf(m_script.events()), oneRequest());
     }
 
     void libraryWithoutAnAbilityIsAFailedCall_data() { addOperations(); }
@@ -210,7 +212,7 @@ private Q_SLOTS:
         m_gateway.closeVideoConference();
         showProcesses(0);
         m_gateway.closeVideoConference();
-        QCOMPARE(kindsOf(m_script.events()), OneRequest + OneRequest);
+        QCOMPARE(kindsOf(m_script.events()), oneRequest() + oneRequest());
         QCOMPARE(m_script.requests().at(0).timeout, 800);
         QCOMPARE(m_script.requests().at(1).timeout, 9000);
         QCOMPARE(m_script.requests().at(1).ability, 2);
@@ -275,7 +277,7 @@ private Q_SLOTS:
         QCOMPARE(m_script.onlyRequest().action, QStringLiteral("Is Conference Host"));
         QCOMPARE(m_script.onlyRequest().parameters, QString());
         QCOMPARE(m_script.onlyRequest().timeout, 800);
-        QCOMPARE(kindsOf(m_script.events()), OneRequest);
+        QCOMPARE(kindsOf(m_script.events()), oneRequest());
     }
 
     void unreadableAnswerCountsAsInMeeting()
@@ -326,12 +328,12 @@ private Q_SLOTS:
         int canInvite = -1;
         Reply *seen = nullptr;
         QObject context;
-        QObject::connect(&m_gateway, &ConferenceCardInterface::sentActionSignals, &context,
-                         [&](const int &actionType, const QVariant &payload, Reply *joined) {
-                             type = actionType;
-                             canInvite = payload.value<ContactInviteMemberDetail>().canInviteNum;
-                             seen = joined;
-                         });
+        const auto take = [&](const int &actionType, const QVariant &payload, Reply *joined) {
+            type = actionType;
+            canInvite = payload.value<ContactInviteMemberDetail>().canInviteNum;
+            seen = joined;
+        };
+        QObject::connect(&m_gateway, &ConferenceCardInterface::sentActionSignals, &context, take);
         const LogCapture log;
         m_gateway.noticeSentActionSignals(Invite_ExceedLimit, QVariant::fromValue(record), &reply);
         QCOMPARE(type, 4);

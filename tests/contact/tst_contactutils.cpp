@@ -21,7 +21,7 @@ private Q_SLOTS:
         QTest::newRow("Chinese") << QStringLiteral("李 雷") << QStringLiteral("李 雷");
         QTest::newRow("quotes and line breaks")
             << QStringLiteral("a\"b\\c\nd") << QStringLiteral("a\\\"b\\\\c\\nd");
-        QTest::newRow("empty") << QStringLiteral("") << QString();
+        QTest::newRow("empty") << QString(QLatin1String("")) << QString();
         QTest::newRow("null") << QString() << QString();
     }
     void singleTexts()

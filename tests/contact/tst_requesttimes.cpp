@@ -208,7 +208,8 @@ private Q_SLOTS:
     void scheduledStart_data()
     {
         addColumns<QString, QString, bool>({"slot", "start", "isAccepted"});
-        for (const Schedule &row : schedules()) {
+        const auto rows = schedules();
+        for (const Schedule &row : rows) {
             if (clockOfThisRun() == QString::fromUtf8(row.clock)) {
                 QTest::newRow(row.name) << row.slot << QString::fromUtf8(row.startUtc) << row.isAccepted;
             }
@@ -230,8 +231,8 @@ private Q_SLOTS:
             QCOMPARE(utcText(msecs), start);
             QCOMPARE(isSchedule, isAccepted || flagIn);
             QCOMPARE(log.records().size(), 1);
-            QVERIFY(log.lines().first().startsWith(QStringLiteral("debug: startTime QDateTime(")));
-            QCOMPARE(log.lines().first().endsWith(QStringLiteral(") true")), slot.isEmpty());
+            QVERIFY(log.lines().constFirst().startsWith(QStringLiteral("debug: startTime QDateTime(")));
+            QCOMPARE(log.lines().constFirst().endsWith(QStringLiteral(") true")), slot.isEmpty());
         }
     }
 
@@ -318,7 +319,8 @@ private Q_SLOTS:
     void queriedRange_data()
     {
         addColumns<QString, qint64, QString, QString, QString>({"slot", "startIn", "start", "end", "exact"});
-        for (const Query &row : queries()) {
+        const auto rows = queries();
+        for (const Query &row : rows) {
             if (clockOfThisRun() == QString::fromUtf8(row.clock)) {
                 QTest::newRow(row.name) << row.slot << row.startIn << QString::fromUtf8(row.startUtc)
                                         << QString::fromUtf8(row.endUtc) << QString::fromUtf8(row.exactUtc);
@@ -340,7 +342,7 @@ private Q_SLOTS:
 
         QCOMPARE(utcText(queryStart), exact.isEmpty() ? utcText(startIn) : exact);
         QCOMPARE(log.records().size(), 1);
-        const QString line = log.lines().first();
+        const QString line = log.lines().constFirst();
         if (start.isEmpty()) {
             QCOMPARE(text, QString());
             QVERIFY2(

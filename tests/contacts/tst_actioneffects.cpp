@@ -288,9 +288,9 @@ void TestActionEffects::openingTheListShowsTheWindow()
     world.ask(Open);
     QCOMPARE(wanted.count(), 1);
     // A program's request, such as that of a join from within another conference: its user may be typing.
-    QCOMPARE(wanted.takeFirst().first().value<WindowFocus>(), WindowFocus::Leave);
+    QCOMPARE(wanted.takeFirst().constFirst().value<WindowFocus>(), WindowFocus::Leave);
     world.ask(Open, {{QStringLiteral("askedBy"), QStringLiteral("user")}});
-    QCOMPARE(wanted.takeFirst().first().value<WindowFocus>(), WindowFocus::Take);
+    QCOMPARE(wanted.takeFirst().constFirst().value<WindowFocus>(), WindowFocus::Take);
 }
 
 void TestActionEffects::aSearchWithoutParametersFindsEverythingFromNowOn()

@@ -222,10 +222,10 @@ void TestApplicationStart::itRemindsAlsoWithoutAWindow()
                  .value()
                  .isEmpty());
     QTRY_COMPARE(mine().size(), 1);
-    QCOMPARE(mine().last(), QStringLiteral("设计讨论: starts in 1 min"));
+    QCOMPARE(mine().constLast(), QStringLiteral("设计讨论: starts in 1 min"));
     QTRY_COMPARE(mine().size(), 2);
     QVERIFY(QDateTime::currentMSecsSinceEpoch() >= start);
-    QCOMPARE(mine().last(), QStringLiteral("设计讨论: starts now"));
+    QCOMPARE(mine().constLast(), QStringLiteral("设计讨论: starts now"));
     // Killed and started again, it shows none of them once more.
     killApplication();
     admin.SetFriendLimit(500).waitForFinished();
@@ -235,7 +235,7 @@ void TestApplicationStart::itRemindsAlsoWithoutAWindow()
                  .value()
                  .isEmpty());
     QTRY_COMPARE(mine().size(), 3);
-    QCOMPARE(mine().last(), QStringLiteral("设计评审: starts in 1 min"));
+    QCOMPARE(mine().constLast(), QStringLiteral("设计评审: starts in 1 min"));
 }
 
 QTEST_GUILESS_MAIN(TestApplicationStart)

@@ -88,7 +88,8 @@ QString RealDesk::lastText() const
 QWidget *RealDesk::lastCard() const
 {
     QList<QWidget *> cards;
-    for (QWidget *widget : m_window.view()->findChildren<QWidget *>()) {
+    const auto widgets = m_window.view()->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
         if (widget->inherits("ConferenceMsgStaticWidget")) {
             cards.append(widget);
         }

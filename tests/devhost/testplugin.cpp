@@ -93,11 +93,11 @@ private:
         auto *button = new QPushButton(QStringLiteral("按我"), card);
         layout->addWidget(label);
         layout->addWidget(button);
-        QObject::connect(button, &QPushButton::clicked, card, [&plugin = m_plugin, card] {
+        QObject::connect(button, &QPushButton::clicked, card, [plugin = &m_plugin, card] {
             auto *more = new QLabel(QStringLiteral("更多"), card);
             more->setMinimumHeight(200);
             card->layout()->addWidget(more);
-            plugin.answerLater(Reply(0, QStringLiteral("按过了"), Reply::Texts));
+            plugin->answerLater(Reply(0, QStringLiteral("按过了"), Reply::Texts));
         });
         m_reply.widget = card;
         m_reply.type |= Reply::Card;

@@ -146,7 +146,8 @@ QStringList TestAssistiveTools::actions(const Node &node) const
 QVector<Node> TestAssistiveTools::all(const Node &node) const
 {
     QVector<Node> nodes{node};
-    for (const Node &child : children(node)) {
+    const auto found = children(node);
+    for (const Node &child : found) {
         nodes += all(child);
     }
     return nodes;
@@ -155,7 +156,8 @@ QVector<Node> TestAssistiveTools::all(const Node &node) const
 QVector<Node> TestAssistiveTools::allWithRole(const Node &node, const QString &role) const
 {
     QVector<Node> found;
-    for (const Node &candidate : all(node)) {
+    const auto nodes = all(node);
+    for (const Node &candidate : nodes) {
         if (this->role(candidate) == role) {
             found.append(candidate);
         }
@@ -165,7 +167,8 @@ QVector<Node> TestAssistiveTools::allWithRole(const Node &node, const QString &r
 
 Node TestAssistiveTools::conversation() const
 {
-    for (const Node &program : children(registry())) {
+    const auto found = children(registry());
+    for (const Node &program : found) {
         const QVector<Node> lists = allWithRole(program, QStringLiteral("list"));
         if (!lists.isEmpty()) {
             return lists.first();
@@ -214,7 +217,8 @@ void TestAssistiveTools::conversationIsReadInItsOrder()
     const Node list = conversation();
     QCOMPARE(name(list), QStringLiteral("对话"));
     QStringList read;
-    for (const Node &child : children(list)) {
+    const auto found = children(list);
+    for (const Node &child : found) {
         read << role(child) + QLatin1Char(' ') + name(child);
     }
     QCOMPARE(read.size(), 6);
@@ -244,7 +248,8 @@ void TestAssistiveTools::separatorsAndPeopleAppearAsWhatTheyAre()
     QVERIFY(allWithRole(shown.at(2), QStringLiteral("push button")).isEmpty());
     // Five people, each once.
     QStringList people;
-    for (const Node &box : allWithRole(shown.at(5), QStringLiteral("check box"))) {
+    const auto boxes = allWithRole(shown.at(5), QStringLiteral("check box"));
+    for (const Node &box : boxes) {
         people << name(box);
     }
     QCOMPARE(people.size(), 5);

@@ -54,7 +54,8 @@ int megabytesInUse()
 
 Bubble *bubbleWith(const ConversationView &view, const QString &text)
 {
-    for (Bubble *bubble : view.findChildren<Bubble *>()) {
+    const auto bubbles = view.findChildren<Bubble *>();
+    for (Bubble *bubble : bubbles) {
         if (bubble->isVisible() && bubble->text() == text) {
             return bubble;
         }
@@ -265,16 +266,15 @@ void TestConversationView::menuOpensByItsButtonAndByItsKey()
     QSignalSpy wanted(&view, &ConversationView::turnMenuWanted);
 
     const Bubble *said = bubbleWith(view, QStringLiteral("问"));
-    int buttons = 0;
-    for (TurnButton *button : view.findChildren<TurnButton *>()) {
+    const auto buttons = view.findChildren<TurnButton *>();
+    for (TurnButton *button : buttons) {
         QVERIFY(view.viewport()->rect().contains(button->geometry()));
         if (button->isVisible() && button->geometry().center().y() < said->geometry().bottom()) {
             QVERIFY(button->geometry().right() < said->x());
             QTest::mouseClick(button, Qt::LeftButton);
         }
-        ++buttons;
     }
-    QCOMPARE(buttons, 2);
+    QCOMPARE(buttons.size(), 2);
     QCOMPARE(wanted.size(), 1);
     QCOMPARE(wanted.takeFirst().at(1).toString(), QStringLiteral("问"));
 

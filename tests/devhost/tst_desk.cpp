@@ -106,7 +106,8 @@ void TestDesk::durationIsChangedOnTheCard()
     QCOMPARE(m_desk->conversation().turn(1).code, 0);
     QTRY_VERIFY(m_desk->shown<QPushButton>(QStringLiteral("修 改")) != nullptr);
     QComboBox *duration = nullptr;
-    for (auto *combo : m_desk->window().view()->findChildren<QComboBox *>()) {
+    const auto boxes = m_desk->window().view()->findChildren<QComboBox *>();
+    for (auto *combo : boxes) {
         if (combo->currentText() == QStringLiteral("1小时")) {
             duration = combo;
         }
@@ -167,7 +168,8 @@ void TestDesk::conferenceIsJoinedWithAPasswordInTwoTurns()
     for (const LogRecord &record : turn.logs) {
         seen << record.text;
     }
-    for (const Bubble *bubble : m_desk->window().view()->findChildren<Bubble *>()) {
+    const auto bubbles = m_desk->window().view()->findChildren<Bubble *>();
+    for (const Bubble *bubble : bubbles) {
         seen << bubble->text();
     }
     for (const QString &text : qAsConst(seen)) {

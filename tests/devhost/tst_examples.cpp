@@ -120,7 +120,8 @@ void TestExamples::welcomePageWorksInItsOrder()
 {
     RealDesk desk;
     QStringList examples;
-    for (const auto *button : desk.window().findChildren<QPushButton *>(QStringLiteral("example"))) {
+    const auto buttons = desk.window().findChildren<QPushButton *>(QStringLiteral("example"));
+    for (const auto *button : buttons) {
         examples << button->text();
     }
     QVERIFY(examples.size() >= 4);
@@ -131,7 +132,8 @@ void TestExamples::welcomePageWorksInItsOrder()
 
 void TestExamples::welcomePageWorksOneByOne()
 {
-    for (const QString &example : WelcomePage::examples()) {
+    const auto examples = WelcomePage::examples();
+    for (const QString &example : examples) {
         QVERIFY(RealDesk::loadSample());
         RealDesk desk;
         follow(desk, example);
@@ -221,7 +223,8 @@ void TestExamples::conversationEndsAsItSays()
     RealDesk desk;
     int sentences = 0;
     int answers = 0;
-    for (const QString &line : linesOf(QStringLiteral("data/conversation.txt"))) {
+    const auto lines = linesOf(QStringLiteral("data/conversation.txt"));
+    for (const QString &line : lines) {
         const QString mark = QStringLiteral("# => ");
         if (line.startsWith(mark)) {
             ++answers;

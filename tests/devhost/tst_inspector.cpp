@@ -38,7 +38,8 @@ void TestInspector::inspectorShowsTheTurnAndSendsSemantics()
     QTRY_VERIFY(text("inspectorReply").contains(QStringLiteral("原样")));
 
     // A click on an earlier turn brings it back.
-    for (Bubble *bubble : desk.window.view()->findChildren<Bubble *>()) {
+    const auto bubbles = desk.window.view()->findChildren<Bubble *>();
+    for (Bubble *bubble : bubbles) {
         if (bubble->text() == QStringLiteral("回声")) {
             QTest::mouseClick(bubble, Qt::LeftButton);
         }

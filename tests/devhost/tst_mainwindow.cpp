@@ -35,7 +35,7 @@ void TestMainWindow::exampleIsSentByAClick()
     QVERIFY(example != nullptr && example->isVisible());
     QTest::mouseClick(example, Qt::LeftButton);
     QTRY_VERIFY(desk.isIdle() && desk.shownTexts().size() == 2);
-    QCOMPARE(desk.shownTexts().first(), example->text());
+    QCOMPARE(desk.shownTexts().constFirst(), example->text());
     QVERIFY(!example->isVisible());
 }
 
@@ -83,7 +83,8 @@ void TestMainWindow::cardIsLiveAndItsReplyStandsBelow()
     desk.type(semantic("CARD", QStringLiteral("卡片")));
     QPushButton *button = nullptr;
     const auto findButton = [&] {
-        for (auto *found : desk.window.view()->findChildren<QPushButton *>()) {
+        const auto buttons = desk.window.view()->findChildren<QPushButton *>();
+        for (auto *found : buttons) {
             if (found->text() == QStringLiteral("按我")) {
                 button = found;
             }
@@ -96,7 +97,8 @@ void TestMainWindow::cardIsLiveAndItsReplyStandsBelow()
     QTest::mouseClick(button, Qt::LeftButton);
     QTRY_COMPARE(desk.shownTexts().value(2), QStringLiteral("按过了"));
     QTRY_VERIFY(card->height() >= heightBefore + 200);
-    for (const Bubble *bubble : desk.window.view()->findChildren<Bubble *>()) {
+    const auto bubbles = desk.window.view()->findChildren<Bubble *>();
+    for (const Bubble *bubble : bubbles) {
         if (bubble->text() == QStringLiteral("按过了")) {
             QTRY_VERIFY(bubble->y() >= card->geometry().bottom());
         }

@@ -28,7 +28,8 @@ namespace {
 QVector<Bubble *> bubblesIn(const ConversationView &view)
 {
     QVector<Bubble *> shown;
-    for (Bubble *bubble : view.findChildren<Bubble *>()) {
+    const auto bubbles = view.findChildren<Bubble *>();
+    for (Bubble *bubble : bubbles) {
         if (bubble->isVisible()) {
             shown.append(bubble);
         }
@@ -89,7 +90,7 @@ void TestWindowLooks::aSentenceInTheQueueIsDimmed()
     ConversationView &view = onScreen.view;
     view.addSaid(1, QStringLiteral("等着"), true);
     const auto ground = [&view] {
-        Bubble *bubble = bubblesIn(view).first();
+        Bubble *bubble = bubblesIn(view).constFirst();
         return view.viewport()->grab().toImage().pixelColor(bubble->pos() + QPoint(6, bubble->height() / 2));
     };
     const QColor accent = view.palette().color(QPalette::Highlight);
@@ -236,7 +237,8 @@ void TestWindowLooks::theWelcomeIsLargerThanTheText()
     const WelcomePage page;
     const LFontSizeManager *sizes = LFontSizeManager::instance();
     int greetings = 0;
-    for (const QLabel *label : page.findChildren<QLabel *>()) {
+    const auto labels = page.findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
         if (label->text().startsWith(QStringLiteral("您好"))) {
             QCOMPARE(label->font().pixelSize(), sizes->fontPixelSize(LFontSizeManager::T4));
             ++greetings;

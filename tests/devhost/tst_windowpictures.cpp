@@ -169,7 +169,8 @@ void TestWindowPictures::everyState()
     desk.window.show();
     // Which monospaced font a machine prefers is its own affair; the pictures have the one that every Debian
     // has.
-    for (QPlainTextEdit *edit : desk.window.findChildren<QPlainTextEdit *>()) {
+    const auto edits = desk.window.findChildren<QPlainTextEdit *>();
+    for (QPlainTextEdit *edit : edits) {
         QFont font = edit->font();
         font.setFamily(QStringLiteral("DejaVu Sans Mono"));
         edit->setFont(font);

@@ -42,7 +42,8 @@ struct Desk
     QStringList shownTexts() const
     {
         QVector<QPair<int, QString>> placed;
-        for (const devhost::Bubble *bubble : window.view()->findChildren<devhost::Bubble *>()) {
+        const auto bubbles = window.view()->findChildren<devhost::Bubble *>();
+        for (const devhost::Bubble *bubble : bubbles) {
             if (bubble->isVisible()) {
                 placed.append({bubble->y(), bubble->text()});
             }

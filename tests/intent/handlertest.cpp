@@ -42,7 +42,8 @@ void HandlerTest::eachOutcomeHasItsReply_data()
 {
     addColumns<QByteArray, Script, Expected>({"slotArray", "script", "expected"});
     QVERIFY2(!m_subject.outcomes.isEmpty(), "a handler has outcomes");
-    for (const Outcome &outcome : allOutcomes()) {
+    const auto outcomes = allOutcomes();
+    for (const Outcome &outcome : outcomes) {
         const char *slotArray = outcome.slotArray == nullptr ? m_subject.usualSlots : outcome.slotArray;
         QTest::newRow(outcome.name) << QByteArray(slotArray) << outcome.script << outcome.expected;
     }
@@ -64,7 +65,8 @@ void HandlerTest::eachOtherCodeLeavesTheReply_data()
     for (int code = -16001; code >= -16021; --code) {
         codes.append(code);
     }
-    for (const Outcome &outcome : allOutcomes()) {
+    const auto outcomes = allOutcomes();
+    for (const Outcome &outcome : outcomes) {
         codes.removeAll(outcome.expected.code);
     }
     for (const int code : qAsConst(codes)) {
@@ -82,7 +84,7 @@ void HandlerTest::requestHoldsWhatWasSaid_data()
 {
     addColumns<QByteArray, QString>({"slotArray", "parameters"});
     QVERIFY2(!m_subject.requests.isEmpty(), "a handler sends something");
-    for (const Request &request : m_subject.requests) {
+    for (const Request &request : qAsConst(m_subject.requests)) {
         QTest::newRow(request.name) << QByteArray(request.slotArray) << QString::fromUtf8(request.parameters);
     }
 }

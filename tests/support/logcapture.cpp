@@ -43,7 +43,8 @@ LogCapture::~LogCapture()
         qInstallMessageHandler(m_previous);
     }
     if (m_policy == Unexpected::Fails) {
-        for (const QString &problem : problems()) {
+        const auto all = problems();
+        for (const QString &problem : all) {
             QTest::qFail(qPrintable(problem), __FILE__, __LINE__);
         }
     }
@@ -64,7 +65,8 @@ QVector<LogRecord> LogCapture::records() const
 QStringList LogCapture::texts(QtMsgType level) const
 {
     QStringList result;
-    for (const LogRecord &record : records()) {
+    const auto all = records();
+    for (const LogRecord &record : all) {
         if (record.level == level) {
             result.append(record.text);
         }
@@ -75,7 +77,8 @@ QStringList LogCapture::texts(QtMsgType level) const
 QStringList LogCapture::lines() const
 {
     QStringList result;
-    for (const LogRecord &record : records()) {
+    const auto all = records();
+    for (const LogRecord &record : all) {
         result.append(lineOf(record.level, record.text));
     }
     return result;
@@ -88,7 +91,8 @@ bool LogCapture::contains(QtMsgType level, const QString &text) const
 
 LogRecord LogCapture::find(const QString &text) const
 {
-    for (const LogRecord &record : records()) {
+    const auto all = records();
+    for (const LogRecord &record : all) {
         if (record.text == text) {
             return record;
         }

@@ -32,7 +32,8 @@ ScriptedAbility &ScriptedAbility::instance()
 QVector<AbilityEvent> ScriptedAbility::requests() const
 {
     QVector<AbilityEvent> result;
-    for (const AbilityEvent &event : events()) {
+    const auto all = events();
+    for (const AbilityEvent &event : all) {
         if (event.kind == AbilityEvent::Requested) {
             result.append(event);
         }
@@ -43,7 +44,8 @@ QVector<AbilityEvent> ScriptedAbility::requests() const
 QStringList ScriptedAbility::actions() const
 {
     QStringList result;
-    for (const AbilityEvent &request : requests()) {
+    const auto all = requests();
+    for (const AbilityEvent &request : all) {
         result.append(request.action);
     }
     return result;

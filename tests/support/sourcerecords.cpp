@@ -8,7 +8,8 @@
 void compareRecords(const LogCapture &log, const char *file, const QVector<SourceRecord> &expected)
 {
     QStringList actual;
-    for (const LogRecord &record : log.records()) {
+    const auto all = log.records();
+    for (const LogRecord &record : all) {
         if (record.file == file) {
             QCOMPARE(record.category, QByteArray("default"));
             QVERIFY(record.line > 0);

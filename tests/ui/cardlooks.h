@@ -27,7 +27,8 @@ inline std::unique_ptr<ConferenceMsgStaticWidget> singleCard(const ContactDetail
 
 inline QLabel *labelWith(const QWidget &parent, const QString &text)
 {
-    for (QLabel *label : CardSamples::shown<QLabel>(parent)) {
+    const auto labels = CardSamples::shown<QLabel>(parent);
+    for (QLabel *label : labels) {
         if (label->text() == text) {
             return label;
         }

@@ -94,7 +94,8 @@ QStringList CardSamples::texts(const QWidget &parent)
 
 QPushButton *CardSamples::button(const QWidget &parent, const QString &text)
 {
-    for (QPushButton *candidate : shown<QPushButton>(parent)) {
+    const auto buttons = shown<QPushButton>(parent);
+    for (QPushButton *candidate : buttons) {
         if (candidate->text() == text) {
             return candidate;
         }

@@ -202,7 +202,7 @@ void TestCardAccessibility::theCardCanBePressed()
     QAccessibleActionInterface *actions = interface->actionInterface();
     QVERIFY(actions != nullptr);
     const QString press = QAccessibleActionInterface::pressAction();
-    QCOMPARE(actions->actionNames().first(), press);
+    QCOMPARE(actions->actionNames().constFirst(), press);
     actions->doAction(press);
     QCOMPARE(CardHost::actions().size(), 1);
     // A cancelled one cannot, as it cannot be clicked.

@@ -203,7 +203,8 @@ void TestCardPictures::everyCard()
     QVERIFY(host.card()->width() <= state.width);
     // Fixed texts are never cut off where the card is as wide as planned.
     if (state.width >= HostWidth) {
-        for (const QLabel *label : shown<QLabel>(*host.card())) {
+        const auto labels = shown<QLabel>(*host.card());
+        for (const QLabel *label : labels) {
             if (label->text() == QStringLiteral("参与人") || label->text() == QStringLiteral("进行中")) {
                 QVERIFY(label->width() >= label->fontMetrics().horizontalAdvance(label->text()));
             }

@@ -144,7 +144,8 @@ void TestCardWait::theNewValuesArePaintedBeforeTheAnswer()
     QVERIFY(host.activate());
     QStringList painted;
     ScriptedAbility::instance().duringNextRequest([&] {
-        for (const QLabel *label : shown<QLabel>(*host.card())) {
+        const auto labels = shown<QLabel>(*host.card());
+        for (const QLabel *label : labels) {
             // A place of its own is what a label gets from a layout that was activated.
             if (host.card()->rect().contains(QRect(label->mapTo(host.card(), QPoint()), label->size()))) {
                 painted.append(label->text());

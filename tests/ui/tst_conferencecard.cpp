@@ -87,7 +87,7 @@ void TestConferenceCard::howManyConferencesAListShows()
     }
     QCOMPARE(shown<LCommandLinkButton>(card).size(), footer.isEmpty() ? 0 : 1);
     if (!footer.isEmpty()) {
-        QCOMPARE(shown<LCommandLinkButton>(card).first()->text(), footer);
+        QCOMPARE(shown<LCommandLinkButton>(card).constFirst()->text(), footer);
     }
 }
 
@@ -97,7 +97,7 @@ void TestConferenceCard::anItemOfTheList()
     card.multipleInit(conferences(2));
     // Lays out what was never shown.
     card.grab();
-    CustomizeItem *item = shown<CustomizeItem>(card).first();
+    CustomizeItem *item = shown<CustomizeItem>(card).constFirst();
     QCOMPARE(item->focusPolicy(), Qt::NoFocus);
     const auto *layout = qobject_cast<QVBoxLayout *>(item->layout());
     QVERIFY(layout != nullptr);
@@ -123,7 +123,7 @@ void TestConferenceCard::theFooterIsLegibleInTheDarkTheme()
     ConferenceMsgStaticWidget card;
     card.multipleInit(conferences(4));
     card.show();
-    LCommandLinkButton *footer = shown<LCommandLinkButton>(card).first();
+    LCommandLinkButton *footer = shown<LCommandLinkButton>(card).constFirst();
     const QImage chip = footer->grab().toImage();
     const int inset = chip.height() / 2;
     const double contrast = PaintedContrast::ofText(chip.copy(chip.rect().adjusted(inset, 1, -inset, -1)));
@@ -136,7 +136,7 @@ void TestConferenceCard::theFooter()
 {
     ConferenceMsgStaticWidget card;
     card.multipleInit(conferences(4));
-    const LCommandLinkButton *footer = shown<LCommandLinkButton>(card).first();
+    const LCommandLinkButton *footer = shown<LCommandLinkButton>(card).constFirst();
     QCOMPARE(footer->minimumWidth(), 200);
     QCOMPARE(footer->maximumWidth(), 200);
     QCOMPARE(footer->font(), sized(*footer, LFontSizeManager::T8));
@@ -186,7 +186,8 @@ void TestConferenceCard::markupIsShownAsItIs()
             card.multipleInit({one, one});
         }
         QVERIFY(texts(card).contains(markup));
-        for (const QLabel *label : shown<QLabel>(card)) {
+        const auto labels = shown<QLabel>(card);
+        for (const QLabel *label : labels) {
             QCOMPARE(label->textFormat(), Qt::PlainText);
         }
     }
@@ -231,7 +232,8 @@ void TestConferenceCard::noTextMakesTheCardWider()
     host.resize(width, 400);
     host.show();
     QCOMPARE(card->width(), width);
-    for (const QLabel *label : shown<QLabel>(*card)) {
+    const auto labels = shown<QLabel>(*card);
+    for (const QLabel *label : labels) {
         const QRect place(label->mapTo(card, QPoint()), label->size());
         QVERIFY2(card->rect().contains(place), qPrintable(label->text()));
     }
@@ -285,7 +287,7 @@ void TestConferenceCard::coloursThatDoNotFollowTheTheme()
     QTRY_COMPARE(textColor(*labelWith(card, QStringLiteral("会议1"))), QColor(255, 255, 255, 178));
     QCOMPARE(textColor(*labelWith(card, QStringLiteral("未开始"))), QColor(0, 129, 255));
     QCOMPARE(textColor(*labelWith(card, QStringLiteral("已结束"))), QColor(0, 0, 0, 77));
-    QCOMPARE(shown<LCommandLinkButton>(card).first()->palette().color(QPalette::ButtonText),
+    QCOMPARE(shown<LCommandLinkButton>(card).constFirst()->palette().color(QPalette::ButtonText),
              QColor(0, 0, 0, 102));
 }
 
@@ -294,7 +296,8 @@ void TestConferenceCard::noStyleSheetIsUsed()
     ConferenceMsgStaticWidget card;
     QVector<ContactDetailMsg> list = conferences(1);
     card.createInviteConference(list);
-    for (const QWidget *widget : card.findChildren<QWidget *>()) {
+    const auto widgets = card.findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
         QVERIFY(widget->styleSheet().isEmpty());
     }
 }

@@ -114,7 +114,7 @@ void TestConferenceCardActions::aReplyHasTextsOnly()
     CardHost host(buildEditable);
     QTest::mouseClick(button(*host.card(), QStringLiteral("取 消")), Qt::LeftButton);
     QCOMPARE(host.replies().size(), 1);
-    const Reply reply = host.replies().first();
+    const Reply reply = host.replies().constFirst();
     QCOMPARE(reply.code, QVariant(0));
     QCOMPARE(reply.displayText, QVariant(QStringLiteral("已为您取消会议。")));
     QCOMPARE(reply.speechText, reply.displayText);

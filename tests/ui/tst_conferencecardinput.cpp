@@ -73,7 +73,8 @@ void TestConferenceCardInput::aClickOpensTheContacts()
     host.card()->singleInit({conference()});
     QVERIFY(host.activate());
     QWidget *target = host.card();
-    for (QLabel *candidate : shown<QLabel>(*host.card())) {
+    const auto labels = shown<QLabel>(*host.card());
+    for (QLabel *candidate : labels) {
         if (!label.isEmpty() && candidate->text() == label) {
             target = candidate;
         }
@@ -184,7 +185,7 @@ void TestConferenceCardInput::aClickOnACandidateSelectsOnly()
     CardHost host;
     host.card()->inviteMultiplePerson(inviteDetail());
     QVERIFY(host.activate());
-    TiTleItem *row = shown<TiTleItem>(*host.card()).first();
+    TiTleItem *row = shown<TiTleItem>(*host.card()).constFirst();
     QTest::mouseClick(row, Qt::LeftButton);
     QVERIFY(row->isSelected());
     QCOMPARE(CardHost::actions(), QStringList());
@@ -229,7 +230,7 @@ void TestConferenceCardInput::theKeyThatPressedAButtonDoesNotOpenTheContacts()
     QCOMPARE(CardHost::actions(), once("Invite Members"));
     // The next key is meant for the card.
     QTest::keyClick(host.windowHandle(), Qt::Key_Return);
-    QCOMPARE(CardHost::actions().last(), QString::fromLatin1(OpenList));
+    QCOMPARE(CardHost::actions().constLast(), QString::fromLatin1(OpenList));
 }
 
 QTEST_MAIN(TestConferenceCardInput)

@@ -172,7 +172,7 @@ void TestConferenceCardLifetime::deletedWhileItOpensTheContacts()
     host.card()->multipleInit(conferences(4));
     QVERIFY(host.activate());
     ScriptedAbility::instance().duringNextRequest([&host] { delete host.card(); });
-    QPushButton *footer = shown<LCommandLinkButton>(*host.card()).first();
+    QPushButton *footer = shown<LCommandLinkButton>(*host.card()).constFirst();
     QWidget *target = onFooter ? static_cast<QWidget *>(footer) : host.card();
     target->setFocus(Qt::TabFocusReason);
     if (withKey) {

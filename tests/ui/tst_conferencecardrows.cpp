@@ -217,7 +217,7 @@ void TestConferenceCardRows::theStaticStart()
     ConferenceMsgStaticWidget card;
     ContactDetailMsg one = conference();
     one.startTime = start.toMSecsSinceEpoch();
-    QTEST(texts(*card.getConferenceBeginTimeWidget(one, true)).last(), "text");
+    QTEST(texts(*card.getConferenceBeginTimeWidget(one, true)).constLast(), "text");
 }
 
 void TestConferenceCardRows::theStaticDuration_data()
@@ -235,7 +235,7 @@ void TestConferenceCardRows::theStaticDuration()
     ConferenceMsgStaticWidget card;
     ContactDetailMsg one = conference();
     one.duration = duration;
-    QTEST(texts(*card.getConferenceTimeLengthWidget(one, true)).last(), "text");
+    QTEST(texts(*card.getConferenceTimeLengthWidget(one, true)).constLast(), "text");
 }
 
 void TestConferenceCardRows::participants_data()
@@ -257,7 +257,7 @@ void TestConferenceCardRows::participants()
     for (const QString &name : names) {
         one.participants.append(user(name, QStringLiteral("别名"), {}, QStringLiteral("account")));
     }
-    QTEST(texts(*card.getConferenceparticipateNameWidget(one)).last(), "text");
+    QTEST(texts(*card.getConferenceparticipateNameWidget(one)).constLast(), "text");
 }
 
 void TestConferenceCardRows::theFontsAndColoursOfTheTexts()

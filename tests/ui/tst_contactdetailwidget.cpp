@@ -110,7 +110,8 @@ void TestContactDetailWidget::longTextsAreElided()
     const Form form({talkative});
     QCOMPARE(form.widget.minimumSizeHint().width(), usual);
     int whole = 0;
-    for (const LLabel *label : form.widget.findChildren<LLabel *>()) {
+    const auto labels = form.widget.findChildren<LLabel *>();
+    for (const LLabel *label : labels) {
         whole += label->text() == talkative.title ? 1 : 0;
     }
     QCOMPARE(whole, 1);
@@ -121,7 +122,8 @@ void TestContactDetailWidget::onlyTheFirstConferenceIsShown()
     ContactDetailMsg second = conference();
     second.title = QStringLiteral("other");
     const Form form({conference(), second});
-    for (const LLabel *label : form.widget.findChildren<LLabel *>()) {
+    const auto labels = form.widget.findChildren<LLabel *>();
+    for (const LLabel *label : labels) {
         QVERIFY(label->text() != second.title);
     }
 }
@@ -146,7 +148,8 @@ void TestContactDetailWidget::theStartIsChosenByMonthDayAndHour()
     QCOMPARE(form.hour()->currentText(), QStringLiteral("9"));
 
     QStringList units;
-    for (const LLabel *label : form.month()->parentWidget()->findChildren<LLabel *>()) {
+    const auto labels = form.month()->parentWidget()->findChildren<LLabel *>();
+    for (const LLabel *label : labels) {
         QCOMPARE(label->minimumWidth(), 60);
         QCOMPARE(label->maximumWidth(), 60);
         units.append(label->text());

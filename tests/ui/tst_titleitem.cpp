@@ -110,7 +110,7 @@ void TestTiTleItem::whatIsShownOfAPerson()
     QFETCH(QString, texts);
     m_row->insertConferenceMsg({name, remarkName, QStringLiteral("u7"), account});
     QCOMPARE(shownTexts(*m_row).join(QLatin1Char('|')), texts);
-    QCOMPARE(m_row->accessibleName(), shownTexts(*m_row).first());
+    QCOMPARE(m_row->accessibleName(), shownTexts(*m_row).constFirst());
     const UserInfo stored = m_row->getUserInfo();
     QCOMPARE(stored.name, name);
     QCOMPARE(stored.remarkName, remarkName);
@@ -327,7 +327,7 @@ void TestTiTleItem::itIsACheckBoxToAssistiveTools()
 
     QAccessibleActionInterface *actions = row->actionInterface();
     QVERIFY(actions != nullptr);
-    QCOMPARE(actions->actionNames().first(), QAccessibleActionInterface::toggleAction());
+    QCOMPARE(actions->actionNames().constFirst(), QAccessibleActionInterface::toggleAction());
     actions->doAction(QAccessibleActionInterface::toggleAction());
     QVERIFY(m_row->isSelected());
     QVERIFY(row->state().checked);

@@ -62,7 +62,8 @@ private Q_SLOTS:
         QCOMPARE(result.status, 0);
         QCOMPARE(result.errors, QByteArray());
         QStringList found;
-        for (const QByteArray &line : linesOf(result)) {
+        const auto lines = linesOf(result);
+        for (const QByteArray &line : lines) {
             found.append(meaningOf(QString::fromUtf8(line)));
         }
         QCOMPARE(found, meanings);

@@ -251,7 +251,8 @@ void TestWindowLanguages::assistantSpeaksChineseInEveryLanguage()
     desk.window.submit(QStringLiteral("help"));
     QTRY_VERIFY(desk.isIdle());
     QVERIFY(desk.conversation.turn(1).display.startsWith(QStringLiteral("您可以说：")));
-    for (const QString &example : WelcomePage::examples()) {
+    const auto examples = WelcomePage::examples();
+    for (const QString &example : examples) {
         QVERIFY2(example.contains(QRegularExpression(QStringLiteral("\\p{Han}"))), qUtf8Printable(example));
     }
 }

@@ -48,7 +48,8 @@ void TestLauncherConference::sentenceBooksTheConferenceAndShowsItsCard()
     const QByteArray told = QJsonDocument(answer).toJson();
     const qint64 start = QDateTime(QDate(2026, 11, 22), QTime(15, 0)).toMSecsSinceEpoch();
     QVERIFY2(told.contains(QByteArray::number(start)), told.constData());
-    for (QWidget *window : QApplication::topLevelWidgets()) {
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
         window->close();
     }
 

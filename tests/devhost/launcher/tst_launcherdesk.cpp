@@ -41,7 +41,8 @@ public:
     /// The window, as far as there is one to be seen.
     static MainWindow *window()
     {
-        for (QWidget *widget : QApplication::topLevelWidgets()) {
+        const auto windows = QApplication::topLevelWidgets();
+        for (QWidget *widget : windows) {
             auto *window = qobject_cast<MainWindow *>(widget);
             if (window != nullptr && window->isVisible()) {
                 return window;
@@ -52,7 +53,8 @@ public:
     static QStringList bubbles()
     {
         QStringList texts;
-        for (const Bubble *bubble : window()->view()->findChildren<Bubble *>()) {
+        const auto bubbles = window()->view()->findChildren<Bubble *>();
+        for (const Bubble *bubble : bubbles) {
             if (bubble->isVisible()) {
                 texts.append(bubble->text());
             }

@@ -76,7 +76,7 @@ void TestLauncherProgram::krunnerGetsALineAndRunsIt()
     QCOMPARE(actions.signature(), QStringLiteral("a(sss)"));
     const QDBusReply<devhost::KRunnerActions> offered = actions;
     QCOMPARE(match.properties.value(QStringLiteral("actions")).toStringList(),
-             QStringList{offered.value().first().id});
+             QStringList{offered.value().constFirst().id});
 
     QCOMPARE(notifications.shown.size(), 0);
     QCOMPARE(LauncherProgram::krunner(QStringLiteral("Run"), {match.id, QString()}).type(),

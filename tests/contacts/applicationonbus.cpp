@@ -37,5 +37,5 @@ void killApplication()
     if (pid != 0) {
         kill(pid, SIGKILL);
     }
-    QTRY_VERIFY(servicePid() == 0);
+    QTRY_VERIFY_WITH_TIMEOUT(servicePid() == 0, PatientMsecs);
 }

@@ -13,6 +13,9 @@
 inline const QString ServiceName = QStringLiteral("com.kelvane.meetlynx");
 inline const QString AdminPath = QStringLiteral("/com/kelvane/meetlynx/admin");
 
+/// How long a loaded machine may take to start a process, or to notice its end.
+constexpr int PatientMsecs = 30000;
+
 /// An answer of the application, as the ability library hands it over.
 struct Asked
 {
@@ -24,7 +27,7 @@ struct Asked
 };
 
 /// Asks the application through the ability library; the bus starts it where it does not run. Any thread.
-Asked ask(const QString &action, const QJsonObject &parameters = {}, int timeoutMsecs = 30000);
+Asked ask(const QString &action, const QJsonObject &parameters = {}, int timeoutMsecs = PatientMsecs);
 
 /// 0 while the application does not run.
 pid_t servicePid();

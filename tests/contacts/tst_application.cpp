@@ -72,7 +72,7 @@ void TestApplication::anInstalledOneHasNoAdministration()
     QProcess application;
     application.setProcessChannelMode(QProcess::ForwardedChannels);
     application.start(QStringLiteral(APPLICATION), {QStringLiteral("--service")});
-    QTRY_COMPARE(qint64(servicePid()), application.processId());
+    QTRY_COMPARE_WITH_TIMEOUT(qint64(servicePid()), application.processId(), PatientMsecs);
     Admin1Proxy admin(ServiceName, AdminPath, QDBusConnection::sessionBus());
     QDBusPendingReply<QString> snapshot = admin.Snapshot();
     snapshot.waitForFinished();
@@ -92,7 +92,7 @@ void TestApplication::itEndsWithItsBus()
     bus.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     bus.start(QStringLiteral("dbus-daemon"), {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
                                               QStringLiteral("--config-file=" PRIVATE_BUS_CONFIG)});
-    QVERIFY(bus.waitForReadyRead(10000));
+    QVERIFY(bus.waitForReadyRead(PatientMsecs));
     const QString address = QString::fromLatin1(bus.readLine()).trimmed();
     const QDBusConnection connection = QDBusConnection::connectToBus(address, QStringLiteral("other"));
     QVERIFY(connection.interface()->startService(ServiceName).isValid());
@@ -100,7 +100,7 @@ void TestApplication::itEndsWithItsBus()
     QVERIFY(isAlive(pid));
     bus.kill();
     QVERIFY(bus.waitForFinished());
-    QTRY_VERIFY(!isAlive(pid));
+    QTRY_VERIFY_WITH_TIMEOUT(!isAlive(pid), PatientMsecs);
     QDBusConnection::disconnectFromBus(QStringLiteral("other"));
 }
 
@@ -122,7 +122,7 @@ void TestApplication::itServesWithoutAScreen()
     application.setProcessEnvironment(environment);
     application.setProcessChannelMode(QProcess::ForwardedChannels);
     application.start(QStringLiteral(APPLICATION), {QStringLiteral("--service")});
-    QTRY_COMPARE(qint64(servicePid()), application.processId());
+    QTRY_COMPARE_WITH_TIMEOUT(qint64(servicePid()), application.processId(), PatientMsecs);
     QCOMPARE(outcome(QStringLiteral("Open Conference List")), QStringLiteral("Success"));
     application.terminate();
     QVERIFY(application.waitForFinished());
@@ -136,7 +136,7 @@ void TestApplication::itNeedsABus()
     QProcess application;
     application.setProcessEnvironment(environment);
     application.start(QStringLiteral(APPLICATION), {QStringLiteral("--service")});
-    QVERIFY(application.waitForFinished(10000));
+    QVERIFY(application.waitForFinished(PatientMsecs));
     QCOMPARE(application.exitCode(), 2);
     QVERIFY(application.readAllStandardError().contains("There is no session bus"));
 }

@@ -94,7 +94,7 @@ void TestApplicationStart::aSecondStartEndsAtOnce()
     const pid_t first = servicePid();
     QProcess second;
     second.start(QStringLiteral(APPLICATION), QStringList());
-    QVERIFY(second.waitForFinished(10000));
+    QVERIFY(second.waitForFinished(PatientMsecs));
     QCOMPARE(second.exitCode(), 0);
     QCOMPARE(servicePid(), first);
 }
@@ -103,11 +103,11 @@ void TestApplicationStart::itTellsWhatItIs()
 {
     QProcess application;
     application.start(QStringLiteral(APPLICATION), {QStringLiteral("--help")});
-    QVERIFY(application.waitForFinished(10000));
+    QVERIFY(application.waitForFinished(PatientMsecs));
     QCOMPARE(application.exitCode(), 0);
     QVERIFY(application.readAllStandardOutput().contains("--service"));
     application.start(QStringLiteral(APPLICATION), {QStringLiteral("--version")});
-    QVERIFY(application.waitForFinished(10000));
+    QVERIFY(application.waitForFinished(PatientMsecs));
     QCOMPARE(application.readAllStandardOutput().trimmed(), QByteArray("kelvane-contacts " CONTACTS_VERSION));
 }
 
@@ -130,7 +130,7 @@ void TestApplicationStart::aStartInTheBackgroundOpensNoWindow()
     QProcess first;
     first.setProcessChannelMode(QProcess::MergedChannels);
     first.start(QStringLiteral(APPLICATION), arguments);
-    QTRY_COMPARE(qint64(servicePid()), first.processId());
+    QTRY_COMPARE_WITH_TIMEOUT(qint64(servicePid()), first.processId(), PatientMsecs);
     QCOMPARE(outcome(QStringLiteral("Is Conference Host")),
              QStringLiteral("No Conference")); // past its start
     first.terminate();
@@ -144,7 +144,7 @@ void TestApplicationStart::aStartInTheBackgroundOpensNoWindow()
     QProcess second;
     second.setProcessChannelMode(QProcess::ForwardedChannels);
     second.start(QStringLiteral(APPLICATION), arguments);
-    QTRY_COMPARE(second.state(), QProcess::NotRunning);
+    QTRY_COMPARE_WITH_TIMEOUT(second.state(), QProcess::NotRunning, PatientMsecs);
     QCOMPARE(second.exitCode(), 0);
     QCOMPARE(running.asked.count(QStringLiteral("Open Conference List")), windowsWanted);
     QCOMPARE(running.parametersAsked.count(QStringLiteral("{\"askedBy\":\"user\"}")), windowsWanted);
@@ -167,11 +167,11 @@ void TestApplicationStart::aSessionStartsItToRemind()
     QProcess application;
     application.setProcessChannelMode(QProcess::ForwardedChannels);
     application.start(QStringLiteral(APPLICATION), autostartArguments());
-    QTRY_COMPARE(qint64(servicePid()), application.processId());
+    QTRY_COMPARE_WITH_TIMEOUT(qint64(servicePid()), application.processId(), PatientMsecs);
     const auto mine = [&server] {
         return server.summaries().filter(QStringLiteral("设计讨论"));
     };
-    QTRY_COMPARE(mine(), QStringList{QStringLiteral("设计讨论: starts in 4 min")});
+    QTRY_COMPARE_WITH_TIMEOUT(mine(), QStringList{QStringLiteral("设计讨论: starts in 4 min")}, PatientMsecs);
     application.terminate();
     QVERIFY(application.waitForFinished());
 }
@@ -215,15 +215,15 @@ void TestApplicationStart::itRemindsAlsoWithoutAWindow()
     const auto mine = [&server] {
         return server.summaries().filter(QStringLiteral("设计"));
     };
-    const qint64 start = QDateTime::currentMSecsSinceEpoch() + 700;
+    const qint64 start = QDateTime::currentMSecsSinceEpoch() + 3000;
     QVERIFY(!admin
                  .AddConference(QStringLiteral("1"), QStringLiteral("设计讨论"), QStringLiteral("100001"),
                                 start, 3600000, 10, QString(), {})
                  .value()
                  .isEmpty());
-    QTRY_COMPARE(mine().size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(mine().size(), 1, PatientMsecs);
     QCOMPARE(mine().constLast(), QStringLiteral("设计讨论: starts in 1 min"));
-    QTRY_COMPARE(mine().size(), 2);
+    QTRY_COMPARE_WITH_TIMEOUT(mine().size(), 2, PatientMsecs);
     QVERIFY(QDateTime::currentMSecsSinceEpoch() >= start);
     QCOMPARE(mine().constLast(), QStringLiteral("设计讨论: starts now"));
     // Killed and started again, it shows none of them once more.
@@ -234,7 +234,7 @@ void TestApplicationStart::itRemindsAlsoWithoutAWindow()
                                 start + 60000, 3600000, 10, QString(), {})
                  .value()
                  .isEmpty());
-    QTRY_COMPARE(mine().size(), 3);
+    QTRY_COMPARE_WITH_TIMEOUT(mine().size(), 3, PatientMsecs);
     QCOMPARE(mine().constLast(), QStringLiteral("设计评审: starts in 1 min"));
 }
 

@@ -145,7 +145,7 @@ private Q_SLOTS:
         QVERIFY2(log.texts(QtWarningMsg)
                      .constFirst()
                      .startsWith(QStringLiteral("The configuration is not read: ") + reason),
-                 qPrintable(log.texts(QtWarningMsg).first()));
+                 qPrintable(log.texts(QtWarningMsg).constFirst()));
         QCOMPARE(log.texts(QtCriticalMsg), QStringList{RootMustBeObject});
     }
 

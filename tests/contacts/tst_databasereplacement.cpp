@@ -136,7 +136,7 @@ void TestDatabaseReplacement::aReplacementThatWasInterruptedIsFinished()
     const qint64 size = QFileInfo(setAside).size();
     // Back to how it was in between.
     QVERIFY(QFile::rename(folder.file, QString(folder.file + QStringLiteral(".replacement-"))
-                                           .append(name.mid(name.indexOf(QLatin1Char('-')) + 1))));
+                                           .append(name.midRef(name.indexOf(QLatin1Char('-')) + 1))));
     const QString journal = QStringLiteral("-wal");
     QFile::remove(setAside + journal);
     QFile rest((journalMoved ? setAside : folder.file) + journal);

@@ -72,14 +72,12 @@ void TestBusClient::unfinishedCallKeepsItsConnection()
     QString connection;
     QString address;
     QSemaphore hasCalled;
-    connect(
-        caller, &Caller::called, caller,
-        [&](const QString &name, const QString &uniqueName) {
-            connection = name;
-            address = uniqueName;
-            hasCalled.release();
-        },
-        Qt::DirectConnection);
+    const auto take = [&](const QString &name, const QString &uniqueName) {
+        connection = name;
+        address = uniqueName;
+        hasCalled.release();
+    };
+    connect(caller, &Caller::called, caller, take, Qt::DirectConnection);
     {
         BusThread thread(caller);
         thread.start();

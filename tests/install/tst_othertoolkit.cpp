@@ -100,7 +100,8 @@ void TestOtherToolkit::theOtherToolkitIsLoaded()
     const QString toolkit = QFileInfo(QFile::decodeName(qgetenv("TOOLKIT"))).canonicalFilePath();
     QVERIFY(!toolkit.isEmpty());
     QSet<QString> found;
-    for (const QByteArray &line : maps.readAll().split('\n')) {
+    const QList<QByteArray> lines = maps.readAll().split('\n');
+    for (const QByteArray &line : lines) {
         const int path = line.indexOf('/');
         if (line.endsWith("/liblumo.so")) {
             found.insert(QFile::decodeName(line.mid(path)));
@@ -160,7 +161,8 @@ void TestOtherToolkit::everyCardIsShownAndPainted()
     // Narrower than its texts: what is elided is painted in another way.
     card->resize(120, card->height());
     QVERIFY(!card->grab().isNull());
-    for (QWidget *child : card->findChildren<QWidget *>()) {
+    const auto children = card->findChildren<QWidget *>();
+    for (QWidget *child : children) {
         QHelpEvent help(QEvent::ToolTip, QPoint(3, 3), child->mapToGlobal(QPoint(3, 3)));
         QApplication::sendEvent(child, &help);
     }
@@ -179,24 +181,28 @@ void TestOtherToolkit::everyControlCanBeUsed()
     QPointer<QWidget> card = cardOf(action, data).release();
     card->show();
     QVERIFY(QTest::qWaitForWindowExposed(card.data()));
-    for (QSpinBox *box : CardSamples::shown<QSpinBox>(*card)) {
+    const auto spinBoxes = CardSamples::shown<QSpinBox>(*card);
+    for (QSpinBox *box : spinBoxes) {
         QTest::keyClick(box, Qt::Key_Up);
         QTest::keyClick(box, Qt::Key_Down);
     }
-    for (QComboBox *box : CardSamples::shown<QComboBox>(*card)) {
+    const auto comboBoxes = CardSamples::shown<QComboBox>(*card);
+    for (QComboBox *box : comboBoxes) {
         QTest::mouseClick(box, Qt::LeftButton);
         box->hidePopup();
         QTest::keyClick(box, Qt::Key_Down);
         QTest::qWait(0);
     }
-    for (QWidget *row : CardSamples::shown<QWidget>(*card)) {
+    const auto widgets = CardSamples::shown<QWidget>(*card);
+    for (QWidget *row : widgets) {
         if (row->inherits("TiTleItem")) {
             QTest::mouseClick(row, Qt::LeftButton);
         }
     }
     // A click may delete the buttons beside it, and the card.
     QVector<QPointer<QPushButton>> buttons;
-    for (QPushButton *button : CardSamples::shown<QPushButton>(*card)) {
+    const auto shownButtons = CardSamples::shown<QPushButton>(*card);
+    for (QPushButton *button : shownButtons) {
         buttons.append(button);
     }
     for (const QPointer<QPushButton> &button : buttons) {

@@ -108,7 +108,7 @@ void TestConferenceCardKeys::aHeldReturnClicksOnce()
     CardHost host;
     host.card()->multipleInit(conferences(4));
     QVERIFY(host.activate());
-    QPushButton *footer = shown<LCommandLinkButton>(*host.card()).first();
+    QPushButton *footer = shown<LCommandLinkButton>(*host.card()).constFirst();
     footer->setFocus();
     QTest::keyPress(footer, Qt::Key_Return);
     for (int i = 0; i < 3; ++i) {

@@ -79,7 +79,8 @@ void TestConferenceCardSelection::theRowsOfASelectionCard()
     QFETCH(QStringList, userIds);
     CardHost host(build);
     QStringList shownIds;
-    for (const TiTleItem *row : shown<TiTleItem>(*host.card())) {
+    const auto rows = shown<TiTleItem>(*host.card());
+    for (const TiTleItem *row : rows) {
         shownIds.append(row->getUserInfo().userId);
         QVERIFY(row->isEnabled());
         QVERIFY(!row->isSelected());
@@ -108,7 +109,8 @@ void TestConferenceCardSelection::theMeasuresOfASelectionCard()
     QCOMPARE(layout->itemAt(7)->widget(), confirmButton(host));
     QCOMPARE(confirmButton(host)->minimumHeight(), 36);
     QCOMPARE(confirmButton(host)->maximumHeight(), 36);
-    for (const TiTleItem *row : shown<TiTleItem>(*host.card())) {
+    const auto rows = shown<TiTleItem>(*host.card());
+    for (const TiTleItem *row : rows) {
         QCOMPARE(row->parentWidget(), host.card());
     }
 }
@@ -327,7 +329,8 @@ void TestConferenceCardSelection::howManyCanBePicked()
     host.card()->invitePersonLimit(detail);
     pick(host, {0, 1, 2, 3, 4, 5});
     int selected = 0;
-    for (const TiTleItem *row : shown<TiTleItem>(*host.card())) {
+    const auto rows = shown<TiTleItem>(*host.card());
+    for (const TiTleItem *row : rows) {
         selected += row->isSelected() ? 1 : 0;
     }
     QTEST(selected, "selected");

@@ -149,7 +149,7 @@ void TestContactDetailRequests::aFailureLeavesTheFormAsItIs()
     ScriptedAbility::instance().setAnswer(QStringLiteral("Update Conference"), -16020, QString());
     const LogCapture log(LogCapture::Unexpected::Passes);
     form.widget.slotsClickConfirm();
-    QCOMPARE(log.texts(QtDebugMsg).last(), QStringLiteral("-16020"));
+    QCOMPARE(log.texts(QtDebugMsg).constLast(), QStringLiteral("-16020"));
     QCOMPARE(form.hour()->currentText(), QStringLiteral("17"));
     QVERIFY(form.widget.isEnabled());
 }

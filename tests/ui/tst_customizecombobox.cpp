@@ -78,11 +78,12 @@ void TestCustomizeComboBox::aSelectionIsToldBeforeItIsTakenOver()
 {
     m_field->slotSelectionData(Thursday);
     QVector<QDate> told;
-    connect(m_field, &CustomizeComboBox::signalSelectionDate, this, [&told, this](const QDate &date) {
+    const auto take = [&told, this](const QDate &date) {
         told.append(date);
         QCOMPARE(m_field->getConferenceDate(), Thursday);
         QCOMPARE(m_field->currentText(), QStringLiteral("3月7日 周四"));
-    });
+    };
+    connect(m_field, &CustomizeComboBox::signalSelectionDate, this, take);
     m_field->slotSelectionData(Thursday.addDays(1));
     QCOMPARE(told, QVector<QDate>{Thursday.addDays(1)});
 

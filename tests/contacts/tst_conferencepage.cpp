@@ -28,6 +28,7 @@ private Q_SLOTS:
     void todaysStandOut();
     void whatHasEndedIsFoldedAway();
     void theOneTheUserIsInIsOnTop();
+    void theOneTheUserIsInMayEndOnAnotherDay();
     void aLongTitleIsElided();
     void aFilterLeavesWhatItSays();
     void aHeaderSorts();
@@ -166,6 +167,15 @@ void TestConferencePage::theOneTheUserIsInIsOnTop()
     QVERIFY(current->isVisible());
     m_fixture->world->nowMsecs += 50;
     QTRY_VERIFY(!current->isVisible());
+}
+
+void TestConferencePage::theOneTheUserIsInMayEndOnAnotherDay()
+{
+    m_fixture->world->ask(QStringLiteral("Join Conference"),
+                          QJsonObject{{QStringLiteral("conferenceId"), QStringLiteral("880100004")}});
+    m_fixture->follow();
+    QCOMPARE(m_fixture->child<QLabel>("currentDetails")->text(),
+             QStringLiteral("正在会议中 · 会议号 880100004 · 09:20 至 3月8日 09:20 · 2 人"));
 }
 
 void TestConferencePage::aLongTitleIsElided()

@@ -499,6 +499,10 @@
         <translation>已复制会议号。</translation>
     </message>
     <message>
+        <source>MMM d, HH:mm</source>
+        <translation>M月d日 HH:mm</translation>
+    </message>
+    <message>
         <source>In a conference · Number %1 · %2 to %3 · People: %4</source>
         <translation>正在会议中 · 会议号 %1 · %2 至 %3 · %4 人</translation>
     </message>

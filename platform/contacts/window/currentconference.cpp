@@ -16,6 +16,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -92,8 +93,11 @@ void CurrentConference::reload()
         m_number.clear();
         return;
     }
-    const auto clock = [](qint64 msecs) {
-        return QDateTime::fromMSecsSinceEpoch(msecs).toString(QStringLiteral("hh:mm"));
+    // The day, too, where it is not today: a conference may run into the night.
+    const auto clock = [today = QDateTime::fromMSecsSinceEpoch(m_book.nowMsecs()).date()](qint64 msecs) {
+        const QDateTime time = QDateTime::fromMSecsSinceEpoch(msecs);
+        return time.date() == today ? time.toString(QStringLiteral("HH:mm"))
+                                    : QLocale().toString(time, tr("MMM d, HH:mm"));
     };
     m_number = conference->dialNumber;
     m_fullTitle = cleanDisplayText(conference->title);

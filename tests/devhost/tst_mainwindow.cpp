@@ -23,6 +23,7 @@ private Q_SLOTS:
     void newConversationBeginsAtTheWelcomePage();
     void applicationThatDoesNotRunIsSaid();
     void windowRemembersItself();
+    void titleNamesTheProgramOnce();
     void problemIsShown();
     void namesAreShownWithoutWhatHides();
 };
@@ -173,6 +174,16 @@ void TestMainWindow::windowRemembersItself()
     Conversation conversation(host, logs);
     const MainWindow window(conversation, appearance);
     QCOMPARE(window.size(), QSize(777, 555));
+}
+
+void TestMainWindow::titleNamesTheProgramOnce()
+{
+    const PluginDesk desk;
+    const QString title = desk.window.windowTitle();
+    // What main() gives Qt as the display name; Qt adds it to titles that do not end with it.
+    const QString program = QCoreApplication::translate("devhost::HostApplication", "Voice Assistant");
+    QVERIFY2(title.endsWith(program), qPrintable(title));
+    QCOMPARE(title.count(program), 1);
 }
 
 void TestMainWindow::problemIsShown()

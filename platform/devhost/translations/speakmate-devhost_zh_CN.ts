@@ -235,8 +235,8 @@
         <translation>发送</translation>
     </message>
     <message>
-        <source>Voice Assistant · Plugin Development</source>
-        <translation>语音助手 · 插件开发</translation>
+        <source>Plugin Development – Voice Assistant</source>
+        <translation>插件开发 – 语音助手</translation>
     </message>
     <message>
         <source>&amp;Conversation</source>

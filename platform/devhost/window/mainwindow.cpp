@@ -62,7 +62,8 @@ MainWindow::MainWindow(Conversation &conversation, Appearance &appearance, QWidg
     , m_splitter(new QSplitter)
     , m_inspector(new Inspector)
 {
-    setWindowTitle(tr("Voice Assistant · Plugin Development"));
+    // Ends with the program's display name, or Qt adds that on screen.
+    setWindowTitle(tr("Plugin Development – Voice Assistant"));
     build();
     buildMenus();
     follow();

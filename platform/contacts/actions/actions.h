@@ -13,9 +13,9 @@ class RequestParameters;
 // back.
 
 /**
- * "Create Conference" {"members", "startTime"}: now without a start time or with 0, otherwise scheduled. A
- * name that several people have, or a sole name that nobody has, creates nothing and is answered with
- * "Return"; otherwise the people found are invited, up to the conference's limit.
+ * "Create Conference" {"members", "startTime", "title", "password"}: now without a start time or with 0,
+ * otherwise scheduled. A name that several people have, or a sole name that nobody has, creates nothing and
+ * is answered with "Return"; otherwise the people found are invited, up to the conference's limit.
  */
 QJsonObject createConference(const ActionContext &context, const RequestParameters &parameters);
 
@@ -61,8 +61,8 @@ QJsonObject exitConference(const ActionContext &context, const RequestParameters
 QJsonObject openConferenceList(const ActionContext &context, const RequestParameters &parameters);
 
 /**
- * "Update Conference" {"conferenceId", "startTime", "duration", "participantLimit"}: of a conference that the
- * user hosts; missing values stay. All or nothing: "Update Failed" when the account does not allow it, or the
- * conference would overlap or have ended.
+ * "Update Conference" {"conferenceId", "startTime", "duration", "participantLimit", "title", "password"}: of
+ * a conference that the user hosts; missing values stay. All or nothing: "Update Failed" when the account
+ * does not allow it, or the conference would overlap or have ended.
  */
 QJsonObject updateConference(const ActionContext &context, const RequestParameters &parameters);

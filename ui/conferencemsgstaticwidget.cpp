@@ -17,7 +17,6 @@
 
 #include <QComboBox>
 #include <QDebug>
-#include <QLayout>
 #include <QPointer>
 #include <QPushButton>
 
@@ -71,11 +70,7 @@ void ConferenceMsgStaticWidget::multipleInit(const QVector<ContactDetailMsg> &li
     const QVector<ContactDetailMsg> shown = list.mid(0, ShownConferences);
     for (const ContactDetailMsg &conference : shown) {
         QWidget *item = ConferenceRows::item(this);
-        for (QWidget *row :
-             {ConferenceRows::status(conference, true, item), ConferenceRows::number(conference, item),
-              ConferenceRows::beginTime(conference, item)}) {
-            item->layout()->addWidget(m_rows.listed(row));
-        }
+        m_rows.addInside(*item, ConferenceRows::summary(conference, item));
         addRow(item);
     }
     if (list.size() > ShownConferences) {

@@ -34,6 +34,13 @@ void CardRowList::addSpacing(int height)
     m_layout->addSpacing(height);
 }
 
+void CardRowList::addInside(QWidget &panel, const QVector<QWidget *> &rows)
+{
+    for (QWidget *row : rows) {
+        panel.layout()->addWidget(listed(row));
+    }
+}
+
 void CardRowList::removeAll(Qt::FocusReason focusReason)
 {
     while (!m_rows.isEmpty()) {

@@ -22,6 +22,8 @@ public:
     /// Adds @p row to the card's layout.
     void add(QWidget *row);
     void addSpacing(int height);
+    /// Notes @p rows, and adds them to the layout of @p panel, which is a row itself.
+    void addInside(QWidget &panel, const QVector<QWidget *> &rows);
 
     /// Forgets the listed rows; they stay on the card.
     void clear() { m_rows.clear(); }

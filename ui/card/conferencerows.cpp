@@ -162,6 +162,11 @@ ConferenceRows::CaptionedRow ConferenceRows::captioned(const QString &caption, Q
     return {row, layout, label};
 }
 
+QVector<QWidget *> ConferenceRows::summary(const ContactDetailMsg &conference, QWidget *parent)
+{
+    return {status(conference, true, parent), number(conference, parent), beginTime(conference, parent)};
+}
+
 QPushButton *ConferenceRows::line(QWidget *parent)
 {
     return new CardLine(parent);

@@ -24,6 +24,9 @@ QWidget *timeLength(const ContactDetailMsg &conference, QWidget *parent);
 QWidget *personNum(const ContactDetailMsg &conference, QWidget *parent);
 QWidget *participants(const ContactDetailMsg &conference, QWidget *parent);
 
+/// The rows of a conference among several, from top to bottom.
+QVector<QWidget *> summary(const ContactDetailMsg &conference, QWidget *parent);
+
 /// A row that has its caption and waits for its value in the layout.
 struct CaptionedRow
 {

@@ -92,6 +92,8 @@ void writeRecords(FuzzedDataProvider &bytes)
     }
     const QJsonArray members = RequestText::membersPicked(users);
     require(members.size() == users.size());
+    require(read(RequestText::inviteMembers(members)).value(QStringLiteral("members")).toArray().size() ==
+            members.size());
     const qint64 start = anyMsecs(bytes);
     const QJsonObject create = read(RequestText::createConference(members, start));
     require(create.value(QStringLiteral("members")).toArray().size() == users.size());

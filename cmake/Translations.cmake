@@ -4,7 +4,8 @@
 # contact_add_translations(TARGET PROGRAM CODES...)
 #   Embeds translations/PROGRAM_CODE.ts of this folder in TARGET as :/translations/PROGRAM_CODE.qm. With a static library,
 #   call Q_INIT_RESOURCE(TARGET_translations) before ProgramLanguage is made.
-#   The target update-translations writes the texts of the sources into the .ts files.
+#   The target update-translations writes the texts of the sources into the .ts files, with those of platform/language,
+#   which every program shows.
 
 find_package(Qt5 REQUIRED COMPONENTS LinguistTools)
 
@@ -44,7 +45,7 @@ function(contact_add_translations target program)
     endif()
     separate_arguments(options UNIX_COMMAND ${CONTACT_LUPDATE_OPTIONS})
     add_custom_target(update-translations-${program}
-        COMMAND Qt5::lupdate ${options} ${CMAKE_CURRENT_SOURCE_DIR} -ts ${sources}
+        COMMAND Qt5::lupdate ${options} ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/platform/language -ts ${sources}
         VERBATIM)
     add_dependencies(update-translations update-translations-${program})
 endfunction()

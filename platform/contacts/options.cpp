@@ -23,6 +23,7 @@ public:
     }
 
     QCommandLineParser *operator->() { return &m_parser; }
+    QCommandLineParser &operator*() { return m_parser; }
 
     const QCommandLineOption service{
         QStringLiteral("service"),
@@ -44,35 +45,22 @@ public:
         QStringLiteral("conference"),
         Options::tr("The number of the conference to export; without it the running or the next one."),
         QStringLiteral("number")};
-    const QCommandLineOption language{
-        QStringLiteral("language"),
-        Options::tr("The language of the window and of these texts, such as en or zh_CN; without it, the "
-                    "user's."),
-        QStringLiteral("code")};
+    const QCommandLineOption language = ProgramLanguage::option(QStringLiteral("code"));
 
 private:
     QCommandLineParser m_parser;
 };
-
-/// Empty, or what is wrong with the language that is asked for.
-QString chooseLanguage(const QStringList &arguments, ProgramLanguage &language)
-{
-    language.followUser();
-    Parser parser;
-    parser->parse(arguments); // the rest is looked at in the language that was chosen
-    if (!parser->isSet(parser.language) || language.choose(parser->value(parser.language))) {
-        return {};
-    }
-    return Options::tr("There is no translation to '%1'; --language takes one of: %2.")
-        .arg(parser->value(parser.language), language.codes().join(QStringLiteral(", ")));
-}
 
 } // namespace
 
 Options Options::read(const QCoreApplication &application, ProgramLanguage &language)
 {
     Options options;
-    options.usageError = chooseLanguage(QCoreApplication::arguments(), language);
+    {
+        Parser parser; // the other options are looked at in the language that is chosen here
+        parser->parse(QCoreApplication::arguments());
+        options.usageError = language.follow(*parser);
+    }
     Parser parser;
     parser->process(application);
     if (parser->isSet(parser.exported)) {

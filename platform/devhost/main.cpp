@@ -46,22 +46,6 @@ void complainOfUsage(const QString &message)
     complain(Options::tr("%1 See --help.").arg(message));
 }
 
-/// Chooses @p language first, so that errors in the other options are reported in it.
-Options readOptions(const QStringList &arguments, ProgramLanguage &language)
-{
-    language.followUser();
-    Options options = Options::read(arguments);
-    if (!options.isLanguageSet) {
-        return options;
-    }
-    if (language.choose(options.language)) {
-        return Options::read(arguments);
-    }
-    options.usageError = Options::tr("There is no translation to '%1'; --language takes one of: %2.")
-                             .arg(options.language, language.codes().join(QStringLiteral(", ")));
-    return options;
-}
-
 /// QApplication would end the process without a display, with a message in English.
 int complainOfDisplay(const QStringList &arguments, char *programName)
 {
@@ -69,7 +53,7 @@ int complainOfDisplay(const QStringList &arguments, char *programName)
     char *values[] = {programName, nullptr};
     const QCoreApplication application(count, values);
     ProgramLanguage language = deskLanguage();
-    const QString usageError = readOptions(arguments, language).usageError;
+    const QString usageError = Options::read(arguments, language).usageError;
     complainOfUsage(usageError.isEmpty()
                         ? Options::tr("There is no display to open a window on. Use --converse or --batch.")
                         : usageError);
@@ -123,7 +107,7 @@ int main(int argc, char **argv)
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     const HostApplication application(argv[0]);
     ProgramLanguage language = deskLanguage();
-    const Options options = readOptions(arguments, language);
+    const Options options = Options::read(arguments, language);
     QGuiApplication::setApplicationDisplayName(HostApplication::tr("Voice Assistant"));
     if (!options.usageError.isEmpty()) {
         complainOfUsage(options.usageError);

@@ -3,6 +3,8 @@
 
 #include "options.h"
 
+#include <programlanguage.h>
+
 #include <QCommandLineParser>
 
 namespace devhost {
@@ -26,6 +28,7 @@ public:
     }
 
     QCommandLineParser *operator->() { return &m_parser; }
+    QCommandLineParser &operator*() { return m_parser; }
 
     const QCommandLineOption batch{QStringLiteral("batch"),
                                    Options::tr("One semantic JSON per line in FILE (\"-\": standard input), "
@@ -55,11 +58,7 @@ public:
     const QCommandLineOption theme{QStringLiteral("theme"),
                                    Options::tr("light, dark or system. The window remembers its own choice."),
                                    QStringLiteral("THEME")};
-    const QCommandLineOption language{
-        QStringLiteral("language"),
-        Options::tr("The language of the window and of these texts, such as en or zh_CN; without it, the "
-                    "user's."),
-        QStringLiteral("CODE")};
+    const QCommandLineOption language = ProgramLanguage::option(QStringLiteral("CODE"));
     const QCommandLineOption verbose{QStringLiteral("verbose"),
                                      Options::tr("Also write the log, the plugin's too, to standard error.")};
     const QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, Options::tr("This text.")};
@@ -114,10 +113,7 @@ Options Options::read(const QStringList &arguments)
 {
     Parser parser;
     Options options;
-    const bool isRead = parser->parse(arguments);
-    options.isLanguageSet = parser->isSet(parser.language);
-    options.language = parser->value(parser.language);
-    if (!isRead) {
+    if (!parser->parse(arguments)) {
         options.usageError = parser->errorText();
         return options;
     }
@@ -143,6 +139,18 @@ Options Options::read(const QStringList &arguments)
         options.usageError = tr("Unexpected argument '%1'.").arg(files.last());
     } else if (parser->isSet(parser.theme) && !readTheme(parser->value(parser.theme), options.theme)) {
         options.usageError = tr("--theme takes light, dark or system.");
+    }
+    return options;
+}
+
+Options Options::read(const QStringList &arguments, ProgramLanguage &language)
+{
+    Parser parser;
+    parser->parse(arguments);
+    const QString problem = language.follow(*parser);
+    Options options = read(arguments);
+    if (!problem.isEmpty()) {
+        options.usageError = problem;
     }
     return options;
 }

@@ -7,9 +7,7 @@
 #include <QString>
 #include <QStringList>
 
-QT_BEGIN_NAMESPACE
-class QCommandLineParser;
-QT_END_NAMESPACE
+class ProgramLanguage;
 
 namespace devhost {
 
@@ -27,8 +25,6 @@ public:
     QString input;       ///< of Batch and Converse, and what Window plays; "-" is standard input
     QString screenshots; ///< a folder, or empty
     QString contacts;    ///< a file of known names, or empty
-    QString language;    ///< a code; see isLanguageSet
-    bool isLanguageSet = false;
     Theme theme = Theme::Remembered;
     bool isVerbose = false;
 
@@ -36,6 +32,8 @@ public:
 
     /// @p arguments start with the program's name.
     static Options read(const QStringList &arguments);
+    /// Chooses the language first: the one that is asked for, or the user's. Usage errors are in it.
+    static Options read(const QStringList &arguments, ProgramLanguage &language);
     /// Needs an application object.
     static QString helpText();
     /// Whether a window may be shown. Works without an application object, whose type depends on it.

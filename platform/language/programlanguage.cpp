@@ -3,7 +3,7 @@
 
 #include "programlanguage.h"
 
-#include <QCoreApplication>
+#include <QCommandLineParser>
 #include <QDir>
 #include <QLibraryInfo>
 
@@ -13,6 +13,7 @@ namespace {
 
 const QLatin1String English("en");
 const QLatin1String Folder(":/translations");
+const QLatin1String OptionName("language");
 
 /// The user's own country when its language is @p code: the first day of the week and the dates follow it.
 QLocale localeOf(const QString &code)
@@ -83,6 +84,24 @@ bool ProgramLanguage::choose(const QString &code)
     }
     install(*found);
     return true;
+}
+
+QCommandLineOption ProgramLanguage::option(const QString &valueName)
+{
+    return {OptionName,
+            tr("The language of the window and of these texts, such as en or zh_CN; without it, the user's."),
+            valueName};
+}
+
+QString ProgramLanguage::follow(const QCommandLineParser &line)
+{
+    followUser(); // also what a complaint is written in
+    const QString code = line.value(OptionName);
+    if (!line.isSet(OptionName) || choose(code)) {
+        return {};
+    }
+    return tr("There is no translation to '%1'; --language takes one of: %2.")
+        .arg(code, codes().join(QStringLiteral(", ")));
 }
 
 void ProgramLanguage::install(const QString &code)

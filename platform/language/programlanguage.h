@@ -3,10 +3,16 @@
 
 #pragma once
 
+#include <QCommandLineOption>
+#include <QCoreApplication>
 #include <QLocale>
 #include <QString>
 #include <QStringList>
 #include <QTranslator>
+
+QT_BEGIN_NAMESPACE
+class QCommandLineParser;
+QT_END_NAMESPACE
 
 /**
  * The language of a program's own texts: its window, its terminal, its command line. Texts are English in the
@@ -19,6 +25,8 @@
  */
 class ProgramLanguage final
 {
+    Q_DECLARE_TR_FUNCTIONS(ProgramLanguage)
+
 public:
     /// @p program prefixes the file names of its translations.
     explicit ProgramLanguage(const QString &program);
@@ -36,6 +44,14 @@ public:
     /// Accepts one of codes() and its variants: "zh", "zh-CN", "en_GB". Returns false, changing nothing, for
     /// others.
     [[nodiscard]] bool choose(const QString &code);
+
+    /// The option --language, described in the current language. @p valueName stands for the code in the
+    /// help text.
+    static QCommandLineOption option(const QString &valueName);
+
+    /// Chooses the language that --language names in the parsed @p line, or the user's. Returns what is wrong
+    /// with the name, or an empty string. Texts of @p line stay in the language it was made in.
+    [[nodiscard]] QString follow(const QCommandLineParser &line);
 
 private:
     void install(const QString &code);

@@ -3,6 +3,7 @@
 
 #include "reminders/remindertext.h"
 
+#include "core/clocktext.h"
 #include "core/conference.h"
 #include "core/displaytext.h"
 #include "core/person.h"
@@ -10,17 +11,8 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QLocale>
 
 namespace {
-
-QString clockText(const QDateTime &time, const QDate &today)
-{
-    if (time.date() == today) {
-        return time.toString(QStringLiteral("HH:mm"));
-    }
-    return QLocale().toString(time, QCoreApplication::translate("ReminderText", "MMM d, HH:mm"));
-}
 
 /// "10:00–11:00", with the day where it is not today.
 QString timesText(const AwaitedConference &conference, const QDate &today)

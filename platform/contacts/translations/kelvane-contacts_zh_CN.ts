@@ -97,6 +97,13 @@
     </message>
 </context>
 <context>
+    <name>ClockText</name>
+    <message>
+        <source>MMM d, HH:mm</source>
+        <translation>M月d日 HH:mm</translation>
+    </message>
+</context>
+<context>
     <name>ConferenceCalendar</name>
     <message>
         <source>Number: %1</source>
@@ -499,10 +506,6 @@
         <translation>已复制会议号。</translation>
     </message>
     <message>
-        <source>MMM d, HH:mm</source>
-        <translation>M月d日 HH:mm</translation>
-    </message>
-    <message>
         <source>In a conference · Number %1 · %2 to %3 · People: %4</source>
         <translation>正在会议中 · 会议号 %1 · %2 至 %3 · %4 人</translation>
     </message>
@@ -617,14 +620,6 @@
     <message>
         <source>The number of the conference to export; without it the running or the next one.</source>
         <translation>要导出的会议的会议号；不填则为正在进行或下一个会议。</translation>
-    </message>
-    <message>
-        <source>The language of the window and of these texts, such as en or zh_CN; without it, the user&apos;s.</source>
-        <translation>窗口和这些文字的语言，例如 en 或 zh_CN；不填则为用户的语言。</translation>
-    </message>
-    <message>
-        <source>There is no translation to &apos;%1&apos;; --language takes one of: %2.</source>
-        <translation>没有“%1”的翻译；--language 可以是：%2。</translation>
     </message>
 </context>
 <context>
@@ -838,6 +833,17 @@ Send a request with “Add Friend”.</source>
     </message>
 </context>
 <context>
+    <name>ProgramLanguage</name>
+    <message>
+        <source>The language of the window and of these texts, such as en or zh_CN; without it, the user&apos;s.</source>
+        <translation>窗口和这些文字的语言，例如 en 或 zh_CN；省略时跟随用户的语言。</translation>
+    </message>
+    <message>
+        <source>There is no translation to &apos;%1&apos;; --language takes one of: %2.</source>
+        <translation>没有“%1”的翻译；--language 可以是：%2。</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>No, Keep</source>
@@ -869,10 +875,6 @@ Send a request with “Add Friend”.</source>
 </context>
 <context>
     <name>ReminderText</name>
-    <message>
-        <source>MMM d, HH:mm</source>
-        <translation>M月d日 HH:mm</translation>
-    </message>
     <message>
         <source>starts in %1 min</source>
         <translation>%1 分钟后开始</translation>

@@ -6,6 +6,7 @@
 #include "window/bookaction.h"
 
 #include "book/contactsbook.h"
+#include "core/clocktext.h"
 #include "core/displaytext.h"
 #include "core/outcometext.h"
 
@@ -16,7 +17,6 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -93,11 +93,8 @@ void CurrentConference::reload()
         m_number.clear();
         return;
     }
-    // The day, too, where it is not today: a conference may run into the night.
     const auto clock = [today = QDateTime::fromMSecsSinceEpoch(m_book.nowMsecs()).date()](qint64 msecs) {
-        const QDateTime time = QDateTime::fromMSecsSinceEpoch(msecs);
-        return time.date() == today ? time.toString(QStringLiteral("HH:mm"))
-                                    : QLocale().toString(time, tr("MMM d, HH:mm"));
+        return clockText(QDateTime::fromMSecsSinceEpoch(msecs), today);
     };
     m_number = conference->dialNumber;
     m_fullTitle = cleanDisplayText(conference->title);

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>ProgramLanguage</name>
+    <message>
+        <source>The language of the window and of these texts, such as en or zh_CN; without it, the user&apos;s.</source>
+        <translation>窗口和这些文字的语言，例如 en 或 zh_CN；省略时跟随用户的语言。</translation>
+    </message>
+    <message>
+        <source>There is no translation to &apos;%1&apos;; --language takes one of: %2.</source>
+        <translation>没有“%1”的翻译；--language 可以是：%2。</translation>
+    </message>
+</context>
+<context>
     <name>devhost::AppearanceMenus</name>
     <message>
         <source>Follow the System</source>
@@ -318,10 +329,6 @@
         <translation>%1参见 --help。</translation>
     </message>
     <message>
-        <source>There is no translation to &apos;%1&apos;; --language takes one of: %2.</source>
-        <translation>没有“%1”的翻译；--language 可以是：%2。</translation>
-    </message>
-    <message>
         <source>There is no display to open a window on. Use --converse or --batch.</source>
         <translation>没有可以打开窗口的显示器。请使用 --converse 或 --batch。</translation>
     </message>
@@ -364,10 +371,6 @@
     <message>
         <source>light, dark or system. The window remembers its own choice.</source>
         <translation>light、dark 或 system。窗口会记住自己的选择。</translation>
-    </message>
-    <message>
-        <source>The language of the window and of these texts, such as en or zh_CN; without it, the user&apos;s.</source>
-        <translation>窗口和这些文字的语言，例如 en 或 zh_CN；省略时跟随用户的语言。</translation>
     </message>
     <message>
         <source>Also write the log, the plugin&apos;s too, to standard error.</source>

@@ -135,6 +135,11 @@ private:
         if (strange || (neverFirst.contains(name.at(0)) && name != QStringLiteral("一诺"))) {
             return true;
         }
+        static const QString speakers = QStringLiteral("我咱俺");
+        static const QString relatives = QStringLiteral("妈爸娘爹姐哥弟妹爷奶姨舅叔伯姑婶嫂");
+        if (speakers.contains(name.at(0)) && !relatives.contains(name.at(1))) { // 邀请我收到了
+            return true;
+        }
         constexpr WordClasses ordinary =
             WordClass::Nobody | WordClass::Mine | WordClass::Measure | WordClass::Title | WordClass::Query |
             WordClass::Question | WordClass::Schedule | WordClass::Address | WordClass::AccountLabel |

@@ -56,6 +56,11 @@ bool isModifier(const QString &text)
     return text.endsWith(QChar(u'的')) || ((calling || endsWithRole(text)) && !isSurnameWithTitle(text));
 }
 
+bool isRelative(const QString &text)
+{
+    return roles().value(text, false);
+}
+
 int modifierLength(const QString &text)
 {
     const int of = text.lastIndexOf(QChar(u'的'));

@@ -14,6 +14,9 @@ int modifierLength(const QString &text);
 /// True when @p text ends with a word that describes a person: 高级工程师, 研发部, 美国那边的.
 bool isModifier(const QString &text);
 
+/// True for a word for a relative or a close friend, behind which a given name may stand alone: 表妹, 外甥女.
+bool isRelative(const QString &text);
+
 /// How much of @p name is somebody's name: 王磊 of 王磊去打球, 欧阳经理 of 欧阳经理让.
 int headLength(const QString &name);
 

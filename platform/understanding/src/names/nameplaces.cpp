@@ -52,6 +52,7 @@ std::size_t NamePlaces::endOfModifier(std::size_t at) const
     constexpr WordClasses between = WordClass::Nobody | WordClass::Plain | WordClass::Title |
                                     WordClass::AccountLabel | WordClass::Mine | WordClass::NameLabel |
                                     WordClass::IdLabel | WordClass::Filler | WordClass::Reported;
+    bool owned = false; // 武汉的
     for (std::size_t next = at; next < qMin(m_tokens.size(), at + longest); ++next) {
         const Token &token = m_tokens[next];
         const bool past = token.time.day == TimeExpression::Day::Relative && token.time.dayOffset < 0;
@@ -59,6 +60,9 @@ std::size_t NamePlaces::endOfModifier(std::size_t at) const
                               (past || token.time.day == TimeExpression::Day::DayOfMonth);
         if (token.inTopic || (next > at && token.position != m_tokens[next - 1].end())) {
             return at;
+        }
+        if (owned && (token.kind == Token::Kind::Name || token.kind == Token::Kind::Latin)) {
+            return next;
         }
         if (token.kind == Token::Kind::Other) {
             std::size_t last = lastOfRun(next, next + 3); // 柴进 is a character and a word
@@ -71,6 +75,16 @@ std::size_t NamePlaces::endOfModifier(std::size_t at) const
             const QString head = withoutParticles(text.mid(of + 1));
             const bool afterDay = next > at && m_tokens[next - 1].kind == Token::Kind::Time;
             if (of >= 0 && next > at && !(afterDay && of == 0) && looksLikeName(head)) {
+                return next;
+            }
+            constexpr WordClasses describing = WordClass::Nobody | WordClass::Title | WordClass::Address;
+            const bool described = of + 1 == text.size() && last + 1 < m_tokens.size() &&
+                                   m_tokens[last + 1].isAny(describing) && m_tokens[last + 1].length > 1;
+            if (next == at && described) { // 武汉的同事小邓
+                owned = true;
+                continue;
+            }
+            if (owned && of < 0 && looksLikeName(head)) {
                 return next;
             }
             const std::size_t latin = next + 1;
@@ -96,14 +110,25 @@ bool NamePlaces::isAddressBeforeName(std::size_t at) const
     }
     const Token &next = m_tokens[at + 1];
     constexpr int longest = 3;
-    return next.kind == Token::Kind::Name || next.kind == Token::Kind::Latin ||
+    const bool wordInName = isSmallWordInName(at + 1) && at + 2 < m_tokens.size() && // 于长河
+                            m_tokens[at + 2].kind == Token::Kind::Other &&
+                            isPersonsName(m_text.mid(next.position, 2));
+    const bool wordBehind = next.length == 1 && at + 2 < m_tokens.size() && isSmallWordInName(at + 2);
+    const int length = next.length + (wordBehind ? 1 : 0); // 丁一
+    return wordInName || next.kind == Token::Kind::Name || next.kind == Token::Kind::Latin ||
            (next.kind == Token::Kind::Other &&
-            isPersonsName(m_text.mid(next.position, qMin(next.length, longest))));
+            isPersonsName(m_text.mid(next.position, qMin(length, longest))));
 }
 
 bool NamePlaces::isOpeningOne(std::size_t at) const
 {
     const std::size_t next = at + 1;
+    static const QString moves = QStringLiteral("把将");
+    if (moves.contains(m_text.at(m_tokens[at].position)) && next + 1 < m_tokens.size() &&
+        m_tokens[next].is(WordClass::Title) && m_tokens[next + 1].is(WordClass::Conference) &&
+        !m_tokens[next + 1].is(WordClass::Join)) { // 把部长会议安排在三点
+        return true;
+    }
     // 组织项目复盘会: what stands between the verb and the conference says what it is about.
     if (m_tokens[at].is(WordClass::StrongOpen) && next + 1 < m_tokens.size() &&
         m_tokens[next].kind == Token::Kind::Other && m_tokens[next + 1].is(WordClass::Conference) &&

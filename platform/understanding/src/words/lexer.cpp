@@ -299,7 +299,30 @@ private:
             const int end = latinEndFrom(m_at + form); // Mr. Brown
             return end > m_at ? end : latinEndFrom(m_at);
         }
-        return latinEndFrom(m_at);
+        int start = m_at;
+        while (isInitial(start)) { // J.K. Rowling
+            start = skipSpaces(m_text, start + 2);
+        }
+        const int end = latinEndFrom(start);
+        return end > start ? end : latinEndFrom(m_at);
+    }
+
+    /// ' in O'Brien, also as it is typeset.
+    bool isApostrophe(int at) const
+    {
+        static const QString apostrophes = QStringLiteral("'’‘´`");
+        const QChar before = charAt(m_text, at - 1);
+        const QChar next = charAt(m_text, at + 1);
+        return at > m_at && apostrophes.contains(m_text.at(at)) && isLatinLetterOrDigit(before) &&
+               before.isLetter() && isLatinLetterOrDigit(next) && next.isLetter();
+    }
+
+    /// J. before another initial or a name.
+    bool isInitial(int at) const
+    {
+        const QChar next = charAt(m_text, skipSpaces(m_text, at + 2));
+        return charAt(m_text, at).isUpper() && charAt(m_text, at + 1) == QLatin1Char('.') &&
+               isLatinLetterOrDigit(next) && next.isUpper();
     }
 
     int latinEndFrom(int start) const
@@ -312,6 +335,8 @@ private:
             if (isLatinLetterOrDigit(character)) {
                 letters = letters || character.isLetter();
                 end = ++at;
+            } else if (isApostrophe(at)) {
+                ++at;
             } else if (at > m_at && QStringLiteral("@._-+").contains(character)) {
                 ++at;
             } else {

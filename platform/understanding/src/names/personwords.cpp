@@ -1,0 +1,244 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "names/personwords.h"
+
+#include "names/headreader.h"
+#include "names/namelook.h"
+#include "text/scan.h"
+
+#include <algorithm>
+
+namespace understanding {
+
+namespace {
+
+bool isLead(const Token &token)
+{
+    constexpr WordClasses leads = WordClass::Trigger | WordClass::Separator | WordClass::NameLabel |
+                                  WordClass::Invite | WordClass::Pull;
+    return token.isAny(leads) && !token.inTopic;
+}
+
+/// True when a name begins at @p position, in @p token or with it.
+bool nameBegins(const QString &text, const Tokens &tokens, std::size_t at, int position)
+{
+    const Token &token = tokens[at];
+    if (token.kind == Token::Kind::Name || token.kind == Token::Kind::Latin) {
+        return token.position == position;
+    }
+    int end = token.end();
+    const bool smallWord = token.kind == Token::Kind::Word && token.length == 1 && at + 1 < tokens.size() &&
+                           tokens[at + 1].kind == Token::Kind::Other && !isLead(token); // 关丽
+    if (smallWord) {
+        end = tokens[at + 1].end();
+    } else if (token.kind != Token::Kind::Other) {
+        return false;
+    }
+    const std::size_t next = at + 1;
+    constexpr WordClasses never = WordClass::Separator | WordClass::Trigger | WordClass::Punctuation |
+                                  WordClass::Conference | WordClass::WeakOpen;
+    if (!smallWord && end - position == 1 && next < tokens.size() && tokens[next].length == 1 &&
+        tokens[next].position == end && !tokens[next].isAny(never)) { // 丁一
+        ++end;
+    }
+    constexpr int longestName = 4;
+    for (int length = 2; length <= qMin(longestName, end - position); ++length) {
+        const QString name = text.mid(position, length);
+        if (isPersonsName(name) && !isThing(name)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Builds the tokens anew while it goes over them.
+class PersonWords final
+{
+public:
+    PersonWords(const QString &text, Tokens &tokens) : m_text(text), m_tokens(tokens) {}
+
+    void run()
+    {
+        m_joined.reserve(m_tokens.size());
+        while (m_at < m_tokens.size()) {
+            if (!joinGroup() && !joinRelative() && !takeJob()) {
+                m_joined.push_back(m_tokens[m_at++]);
+            }
+        }
+        m_tokens = std::move(m_joined);
+    }
+
+private:
+    bool isBehindLead() const { return !m_joined.empty() && isLead(m_joined.back()); }
+
+    Token wordUntil(int end, WordClass wordClass) const
+    {
+        Token word;
+        word.kind = Token::Kind::Word;
+        word.position = m_tokens[m_at].position;
+        word.length = end - word.position;
+        word.classes = wordClass;
+        return word;
+    }
+
+    /// 所有人, 同事们, 一帮人: all of those whom the words before describe.
+    bool isCollective(std::size_t at) const
+    {
+        const Token &token = m_tokens[at];
+        if (m_text.at(token.end() - 1) == QChar(u'们')) {
+            static const QString speakers = QStringLiteral("我咱俺你");
+            return !speakers.contains(m_text.at(token.position));
+        }
+        if (!token.isAny(WordClass::Nobody | WordClass::NameTail) || token.length < 2) {
+            return false;
+        }
+        static const QString beginnings = QStringLiteral("所全各大一那这每几");
+        const bool all = beginnings.contains(m_text.at(token.position));
+        const std::size_t next = at + 1;
+        const bool somebodyNext =
+            next < m_tokens.size() && nameBegins(m_text, m_tokens, next, m_tokens[next].position);
+        return all && !somebodyNext;
+    }
+
+    /// 渠道部, 研发中心的, 三班: what the collective word at @p at may follow. 王师傅 in 王师傅他们 is called
+    /// by name.
+    bool describesGroup(std::size_t at) const
+    {
+        const int start = m_tokens[m_at].position;
+        const int end = m_tokens[at].position;
+        const QString said = m_text.mid(start, end - start);
+        static const QString offices = QStringLiteral("部门组处科室班队院校厂店社局所站司心团系级届");
+        static const QString others = QStringLiteral("他她几");
+        if (said.size() > 1 && offices.contains(said.at(said.size() - 1))) {
+            return true;
+        }
+        return !others.contains(m_text.at(end)) && !m_tokens[at - 1].is(WordClass::Title) && isModifier(said);
+    }
+
+    /// 渠道部所有人, 研究生们
+    bool joinGroup()
+    {
+        if (!isBehindLead()) {
+            return false;
+        }
+        constexpr int longestGroup = 10;
+        constexpr WordClasses describing =
+            WordClass::Plain | WordClass::Title | WordClass::Nobody | WordClass::Mine | WordClass::NameTail;
+        for (std::size_t at = m_at; at < m_tokens.size(); ++at) {
+            const Token &token = m_tokens[at];
+            if (token.position - m_tokens[m_at].position > longestGroup) {
+                return false;
+            }
+            const bool many = token.length == 1 && m_text.at(token.position) == QChar(u'们');
+            if (at > m_at && isCollective(at) && (many || describesGroup(at))) {
+                m_joined.push_back(wordUntil(token.end(), WordClass::Nobody));
+                m_at = at + 1;
+                return true;
+            }
+            constexpr WordClasses never = WordClass::Separator | WordClass::Trigger | WordClass::Punctuation |
+                                          WordClass::Conference | WordClass::Address; // 兄弟们
+            const bool describes = token.kind == Token::Kind::Other || token.kind == Token::Kind::Latin ||
+                                   token.kind == Token::Kind::Number || token.isAny(describing) ||
+                                   (token.kind == Token::Kind::Word && token.length == 1); // 场 in 市场部
+            if (!describes || token.isAny(never)) {
+                return false;
+            }
+        }
+        return false;
+    }
+
+    /// The length of the word for a relative at @p position: 弟 in 我弟陈麒.
+    int relativeLength(int position) const
+    {
+        if (const int length = firstOf(m_text, position,
+                                       {u"爸爸", u"妈妈", u"老爸", u"老妈", u"老大", u"老二", u"老三",
+                                        u"老四", u"老幺", u"弟媳", u"弟妹"})) {
+            return length;
+        }
+        constexpr int longest = 4;
+        for (int length = longest; length > 1; --length) {
+            if (isRelative(m_text.mid(position, length))) {
+                return length;
+            }
+        }
+        static const QString relatives = QStringLiteral("妈爸娘爹姐哥弟妹爷奶姨舅叔伯姑婶嫂");
+        return position < m_text.size() && relatives.contains(m_text.at(position)) ? 1 : 0;
+    }
+
+    /// 我弟 in 跟我弟陈麒, 我家老二 in 叫上我家老二丁一
+    bool joinRelative()
+    {
+        const Token &owner = m_tokens[m_at];
+        static const QString owners = QStringLiteral("我咱俺你您他她");
+        const bool listed = m_relativeEnd == owner.position; // 咱爸杨树林咱妈吴桂兰
+        if (!owner.isAny(WordClass::Nobody | WordClass::Mine) ||
+            !owners.contains(m_text.at(owner.position)) || !(isBehindLead() || listed)) {
+            return false;
+        }
+        const int length = relativeLength(owner.end());
+        const int end = owner.end() + length;
+        std::size_t last = m_at + 1;
+        while (last < m_tokens.size() && m_tokens[last].end() <= end) {
+            ++last;
+        }
+        if (length == 0 || last == m_tokens.size() || !nameBegins(m_text, m_tokens, last, end)) {
+            return false;
+        }
+        m_joined.push_back(wordUntil(end, WordClass::Address));
+        m_relativeEnd = m_tokens[last].end();
+        m_tokens[last].length = m_tokens[last].end() - end;
+        m_tokens[last].position = end;
+        m_at = last;
+        return true;
+    }
+
+    /// 翻译 in 让翻译小阮进会 describes somebody, in 翻译一下 it is a request.
+    bool takeJob()
+    {
+        const Token &job = m_tokens[m_at];
+        const std::size_t next = m_at + 1;
+        const bool ofSomething = !m_joined.empty() && m_joined.back().kind == Token::Kind::Other &&
+                                 m_text.at(m_joined.back().end() - 1) == QChar(u'的'); // 上海的翻译小阮
+        if (!job.is(WordClass::Unsupported) || !(isBehindLead() || ofSomething) || next >= m_tokens.size() ||
+            m_tokens[next].position != job.end() || !nameBegins(m_text, m_tokens, next, job.end()) ||
+            !isModifier(m_text.mid(job.position, job.length)) || !meets()) {
+            return false;
+        }
+        m_joined.push_back(job);
+        m_joined.back().classes = WordClass::Title;
+        m_at = next;
+        return true;
+    }
+
+    /// True when people come together somewhere in the sentence.
+    bool meets()
+    {
+        if (!m_meetsKnown) {
+            constexpr WordClasses meeting = WordClass::Conference | WordClass::Join | WordClass::Arrive |
+                                            WordClass::ComeMeet | WordClass::Video;
+            m_meets = std::any_of(m_tokens.cbegin(), m_tokens.cend(), [](const Token &token) {
+                return token.isAny(meeting) || (token.is(WordClass::Pull) && token.length > 1); // 叫上
+            });
+            m_meetsKnown = true;
+        }
+        return m_meets;
+    }
+
+    const QString &m_text;
+    Tokens &m_tokens;
+    Tokens m_joined;
+    std::size_t m_at = 0;
+    int m_relativeEnd = -1; ///< where the name behind the last relative ends
+    bool m_meets = false;
+    bool m_meetsKnown = false;
+};
+
+} // namespace
+
+void joinPersonWords(const QString &text, Tokens &tokens)
+{
+    PersonWords(text, tokens).run();
+}
+
+} // namespace understanding

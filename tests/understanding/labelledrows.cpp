@@ -177,11 +177,13 @@ RowResult runRow(const LabelledRow &row)
     for (const LabelledTurn &turn : row.turns) {
         if (turn.reply != 0) {
             dialogue.noteReply(turn.reply, QString());
+            result.found += QStringLiteral("(reply %1) ").arg(turn.reply);
             continue;
         }
         const QJsonObject found = outcomeOf(dialogue.turn(turn.say, row.now));
-        result.found = turn.say + QStringLiteral(" -> ") +
-                       QString::fromUtf8(QJsonDocument(found).toJson(QJsonDocument::Compact));
+        result.found += turn.say + QStringLiteral(" -> ") +
+                        QString::fromUtf8(QJsonDocument(found).toJson(QJsonDocument::Compact)) +
+                        QLatin1Char(' ');
         result.right = std::any_of(turn.accept.begin(), turn.accept.end(), [&](const QJsonValue &accepted) {
             return isAccepted(found, accepted.toObject());
         });

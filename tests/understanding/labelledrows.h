@@ -37,7 +37,7 @@ struct RowResult
 {
     bool right = false;
     bool acted = false; ///< something was carried out where no accepted outcome carries anything out
-    QString found;      ///< what was understood in the last turn looked at
+    QString found;      ///< what was understood, turn by turn, up to the last one looked at
 };
 
 /// The rows of the JSON-lines file @p fileName. Ends the program when it cannot be read.

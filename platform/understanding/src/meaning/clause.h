@@ -25,6 +25,8 @@ public:
     bool isPolitelyRequested() const;
     bool callsSomebody() const;
     bool isSupposed() const;
+    /// 我妈喊我吃饭: somebody else calls the speaker.
+    bool isCalledAway() const;
     /// 张伟明天三点开会: somebody whom no word calls, right before what is done.
     bool hasOtherSubject() const;
     /// 秦姐, alone before an order: somebody whom nothing calls.
@@ -88,6 +90,8 @@ private:
     bool isExplained(std::size_t at) const;
     /// 需求 in 开个需求会, 张总的 in 加入张总的会议, 需求 in 对一下需求: what kind of conference it is.
     bool isDescription(std::size_t at) const;
+    /// 护理部 in 护理部培训会帮我建一个: which conference it is, before the verb that is asked for.
+    bool isTitleBeforeVerb(std::size_t at) const;
     /// team in team meeting.
     bool isBeforeConference(std::size_t at) const;
     /// 赵院长发来 in 赵院长发来的会议号.

@@ -4,6 +4,7 @@
 #include "meaning/clause.h"
 
 #include "meaning/outcome.h"
+#include "names/namelook.h"
 #include "text/chinesenumber.h"
 #include "text/scan.h"
 
@@ -66,7 +67,7 @@ bool Clause::isPieceOfTime(std::size_t at) const
 bool Clause::isExplained(std::size_t at) const
 {
     const Token &token = m_tokens[at];
-    if (isPieceOfTime(at)) {
+    if (isPieceOfTime(at) && !isTitleBeforeVerb(at)) { // but 二 in 二车间班前会
         return false;
     }
     switch (token.kind) {
@@ -77,7 +78,8 @@ bool Clause::isExplained(std::size_t at) const
         return (m_isQuery && token.is(WordClass::Framed)) || token.inName || token.isAny(m_allowed.beside) ||
                isNothing(token) || isDescription(at) || isAddress(at);
     case Token::Kind::Other:
-        return token.inName || isNothing(token) || isDescription(at) || isPreamble(at) || isOfNumber(at) ||
+        return token.inName || isNothing(token) || isDescription(at) || isTitleBeforeVerb(at) ||
+               isPreamble(at) || isOfNumber(at) ||
                (m_intent == QLatin1String(AddBuddy) && !m_reading.account().isEmpty());
     case Token::Kind::Number: // a date or an hour that was cut
         return m_intent != QLatin1String(CreateConference) || token.inName || isDescription(at);
@@ -117,6 +119,33 @@ bool Clause::isOfNumber(std::size_t at) const
                return label > at && m_tokens[label].isAny(WordClass::IdLabel | WordClass::Conference) &&
                       charAt(m_reading.sentence().text(), m_tokens[label].position - 1) == QChar(u'的');
            });
+}
+
+bool Clause::isTitleBeforeVerb(std::size_t at) const
+{
+    if (m_intent != QLatin1String(CreateConference) || m_tokens[at].kind != Token::Kind::Other) {
+        return false;
+    }
+    constexpr std::size_t farthest = 6;
+    constexpr WordClasses describing =
+        WordClass::Title | WordClass::Plain | WordClass::Filler | WordClass::Topic | WordClass::Nobody;
+    std::size_t next = at + 1;
+    while (next < m_end && next < at + farthest && !m_tokens[next].is(WordClass::Conference) &&
+           (m_tokens[next].kind == Token::Kind::Other || m_tokens[next].is(WordClass::WeakOpen) || // 新品打样
+            (m_tokens[next].isAny(describing) && !m_tokens[next].is(WordClass::Request)))) {
+        ++next;
+    }
+    QString said = textOf(m_tokens[at]);
+    const bool owned = said.endsWith(QChar(u'的')); // 张伟的周会: who comes is not known
+    said.chop(owned ? 1 : 0);
+    if (next >= m_end || !m_tokens[next].is(WordClass::Conference) || (owned && isPersonsName(said))) {
+        return false;
+    }
+    bool requested = false;
+    for (++next; next < m_end && m_tokens[next].isAny(WordClass::Filler | WordClass::Request); ++next) {
+        requested = requested || m_tokens[next].is(WordClass::Request);
+    }
+    return requested && next < m_end && m_tokens[next].isAny(WordClass::StrongOpen | WordClass::WeakOpen);
 }
 
 bool Clause::isBeforeConference(std::size_t at) const

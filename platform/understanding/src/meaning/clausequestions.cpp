@@ -4,6 +4,7 @@
 #include "meaning/clause.h"
 
 #include "meaning/outcome.h"
+#include "names/namelook.h"
 #include "text/scan.h"
 
 #include <algorithm>
@@ -118,6 +119,33 @@ bool Clause::tellsWhyCalled() const
            !has(WordClass::Negation);
 }
 
+bool Clause::isCalledAway() const
+{
+    static const QString calling = QStringLiteral("叫喊找让催约请");
+    const QString &text = m_reading.sentence().text();
+    bool somebody = false;
+    for (std::size_t at = m_begin; at + 1 < m_end; ++at) {
+        const Token &token = m_tokens[at];
+        static const QString going = QStringLiteral("下去回来吃接拿上过"); // 我下楼 taken for a name
+        const QString whom = textOf(m_tokens[at + 1]);
+        const bool speaker = whom == QStringLiteral("我") ||
+                             (whom.startsWith(QChar(u'我')) && whom.size() > 1 && going.contains(whom.at(1)));
+        const bool called =
+            token.is(WordClass::Trigger) && calling.contains(text.at(token.position)) && speaker;
+        if (called && somebody) {
+            return true;
+        }
+        if (token.isAny(WordClass::Request | WordClass::Trigger)) {
+            return false;
+        }
+        const bool kin = at > m_begin && textOf(m_tokens[at - 1]) == QStringLiteral("我"); // 我妈
+        somebody = somebody || token.kind == Token::Kind::Name ||
+                   token.isAny(WordClass::Title | WordClass::Actor) ||
+                   (token.kind == Token::Kind::Other && (kin || isPersonsName(textOf(token))));
+    }
+    return false;
+}
+
 bool Clause::isPolitelyRequested() const
 {
     static const QStringList proposing = {QStringLiteral("咱们"), QStringLiteral("要不"),
@@ -150,14 +178,17 @@ bool Clause::isFinished() const
     if (has(WordClass::Request)) {
         return false;
     }
+    bool deed = false; // 行了 in 行了退会 finishes nothing
     return any([&](std::size_t at) {
         const Token &token = m_tokens[at];
-        if (!token.isAny(m_allowed.anchors) && !token.is(WordClass::OpenParticle)) {
+        deed = deed || token.isAny(m_allowed.anchors) || token.is(WordClass::Trigger);
+        if (!deed || (!token.isAny(m_allowed.anchors) && !token.is(WordClass::OpenParticle))) {
             return false;
         }
         static const QString done = QStringLiteral("了过");
+        const bool purposeFollows = at + 1 < m_end && m_tokens[at + 1].inTopic; // 开会过报价
         return done.contains(text.at(token.end() - 1)) ||
-               (token.end() < text.size() && done.contains(text.at(token.end())));
+               (token.end() < text.size() && !purposeFollows && done.contains(text.at(token.end())));
     });
 }
 

@@ -25,9 +25,14 @@ bool isClauseEnd(const Tokens &tokens, std::size_t at)
     return at >= tokens.size() || tokens[at].is(WordClass::Punctuation);
 }
 
-/// 明天开会谁主持, 是谁约的会: 谁 asks, wherever it stands.
+/// 明天开会谁主持, 是谁约的会, 你建还是我建: it is asked who does it, wherever that stands.
 bool asksWho(const Reading &reading)
 {
+    const QString &text = reading.sentence().text();
+    const int other = text.indexOf(QChar(u'你'));
+    if (other >= 0 && text.indexOf(QStringLiteral("还是我"), other) > other) {
+        return true;
+    }
     return std::any_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
         return token.is(WordClass::Actor) && !token.inTopic && !token.inName &&
                (textOf(reading, token).contains(QChar(u'谁')) ||
@@ -112,6 +117,42 @@ bool tellsBeginning(const Reading &reading)
         conference = (conference || tokens[at].is(WordClass::Conference)) && !isClauseEnd(tokens, at);
         if (conference && tokens[at].length == begins.size() && textOf(reading, tokens[at]) == begins &&
             isClauseEnd(tokens, at + 1)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// 家长会是周四晚上七点, 班会在周五下午: it is known when the conference is, and nobody opens one.
+bool tellsWhen(const Reading &reading)
+{
+    constexpr WordClasses wanting =
+        WordClass::Query | WordClass::Schedule | WordClass::Have | WordClass::AskedTime | WordClass::Question;
+    const Tokens &tokens = reading.tokens();
+    const QString &text = reading.sentence().text();
+    const bool served = std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
+        return token.is(WordClass::Request) && textOf(reading, token) != QStringLiteral("吧");
+    });
+    const bool asks = std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
+        return token.isAny(wanting) && textOf(reading, token) != QStringLiteral("是不是");
+    });
+    if (!reading.openVerb().isEmpty() || served || asks) {
+        return false;
+    }
+    for (std::size_t at = 0; at + 2 < tokens.size(); ++at) {
+        if (!tokens[at].is(WordClass::Conference) || tokens[at].inTopic) {
+            continue;
+        }
+        int end = tokens[at].end();
+        end += firstOf(text, end, {u"应该", u"好像", u"可能", u"大概"});
+        const int link =
+            firstOf(text, end, {u"是不是在", u"是不是", u"就是在", u"就是", u"是在", u"就在", u"是", u"在"});
+        std::size_t next = at + 1;
+        while (next < tokens.size() && tokens[next].position < end + link) {
+            ++next;
+        }
+        const bool timed = next < tokens.size() && tokens[next].kind == Token::Kind::Time;
+        if (link > 0 && timed) {
             return true;
         }
     }
@@ -270,6 +311,7 @@ constexpr struct
     bool (*isDoubtful)(const Reading &);
 } Doubts[] = {
     {CreateConference, asksWho},         {CreateConference, tellsBeginning},
+    {CreateConference, tellsWhen},       {QueryConference, tellsWhen},
     {CreateConference, onlyTalks},       {CreateConference, isHeldInRoom},
     {CreateConference, sendsSomebody},   {CreateConference, reminds},
     {CreateConference, callsStranger},   {CreateConference, mentionsStranger},

@@ -33,6 +33,41 @@ static bool isAllQuoted(const QString &text)
     return text.startsWith(QChar(u'“')) && text.indexOf(QChar(u'”')) == text.size() - 1;
 }
 
+/// Whether what follows each token up to the next sign may be an aside, 客户那边在催 in 查一下下周五的会
+/// 客户那边在催: something that no rule knows and that names nobody, nothing and no time.
+static std::vector<bool> findAsides(const Reading &reading, const QString &intent)
+{
+    constexpr WordClasses adding = WordClass::Conference | WordClass::Schedule | WordClass::Query |
+                                   WordClass::Negation | WordClass::Repair | WordClass::NameLabel |
+                                   WordClass::PasswordLabel | WordClass::IdLabel | WordClass::GiveUp |
+                                   WordClass::Close | WordClass::CloseAlone;
+    WordClasses weighty = adding;
+    if (intent != QLatin1String(QueryConference)) { // which does no harm
+        weighty.add(allowedWordsFor(intent).anchors);
+        weighty.add(WordClass::Question | WordClass::QuestionParticle | WordClass::HowTo | WordClass::Framed |
+                    WordClass::Actor | WordClass::Reported | WordClass::Trigger | WordClass::Pull |
+                    WordClass::Invite | WordClass::Arrive);
+    }
+    const Tokens &tokens = reading.tokens();
+    std::vector<bool> asides(tokens.size() + 1, false);
+    bool harmless = true;
+    bool strange = false;
+    for (std::size_t at = tokens.size(); at-- > 0;) {
+        const Token &token = tokens[at];
+        if (token.is(WordClass::Punctuation)) {
+            harmless = true;
+            strange = false;
+            continue;
+        }
+        const bool plain = token.kind == Token::Kind::Other || token.kind == Token::Kind::Word ||
+                           token.kind == Token::Kind::Space;
+        harmless = harmless && plain && !token.inName && !token.isAny(weighty);
+        strange = strange || token.kind == Token::Kind::Other;
+        asides[at] = harmless && strange;
+    }
+    return asides;
+}
+
 /// True where a clause ends: at a sign, or at the space in 拉一下Momo 她还没进会.
 static bool endsClause(const Tokens &tokens, std::size_t at)
 {
@@ -74,18 +109,29 @@ Verdict judge(const Reading &reading, const QString &intent)
                             (reading.clockCount() > 1 || reading.namesTwoDays()));
     // 退出会议，安排下: two things at once.
     doubtful = doubtful || (intent == QLatin1String(CreateConference) && alsoEnds(reading));
+    const std::vector<bool> asides = findAsides(reading, intent);
+    const WordClasses anchors = allowedWordsFor(intent).anchors;
     bool untitled = false; // the name of the conference was not understood
     bool quoted = false;
     bool told = false; // what somebody says or does, before the order
     for (std::size_t begin = 0; begin < tokens.size();) {
         std::size_t end = begin;
-        while (end < tokens.size() && !endsClause(tokens, end)) {
+        bool anchored = false;
+        while (end < tokens.size() && !endsClause(tokens, end) &&
+               !(anchored && tokens[end].kind == Token::Kind::Space && asides[end + 1])) {
+            anchored = anchored || tokens[end].isAny(anchors);
             ++end;
+        }
+        const bool spaced = begin > 0 && tokens[begin - 1].kind == Token::Kind::Space;
+        if (ordered && asides[begin] && (spaced || intent == QLatin1String(QueryConference))) {
+            begin = end + 1;
+            continue;
         }
         const QChar sign = end < tokens.size() ? reading.sentence().text().at(tokens[end].position) : QChar();
         const Clause clause(reading, intent, begin, end);
         supposed = supposed || clause.isSupposed();
-        if (takesPeople && clause.isOrder() && clause.excludesSomebody()) {
+        const bool calledAway = intent == QLatin1String(InviteConference) && clause.isCalledAway();
+        if (takesPeople && clause.isOrder() && (clause.excludesSomebody() || calledAway)) {
             return Verdict::Refuse;
         }
         if (ordered && takesPeople && clause.tellsWhyCalled()) { // 拉一下Momo，她还没进会

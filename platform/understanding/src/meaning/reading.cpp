@@ -8,6 +8,7 @@
 #include "text/chinesenumber.h"
 #include "text/scan.h"
 #include "words/clausereader.h"
+#include "words/joinreader.h"
 #include "words/lexer.h"
 #include "words/repairs.h"
 
@@ -26,6 +27,7 @@ Reading::Reading(const QString &sentence, const ContactIndex &contacts) : m_sent
 {
     m_tokens = tokenize(m_sentence.text(), contacts);
     applyRepairs(m_sentence.text(), m_tokens);
+    settleInvitations(m_sentence.text(), m_tokens);
     joinPersonWords(m_sentence.text(), m_tokens);
     joinFramedNames(m_sentence.raw(), m_sentence.text(), m_tokens);
     settleWords(m_sentence.text(), m_tokens);

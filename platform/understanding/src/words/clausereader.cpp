@@ -4,6 +4,7 @@
 #include "words/clausereader.h"
 
 #include "text/scan.h"
+#include "words/joinreader.h"
 #include "words/topicreader.h"
 
 #include <algorithm>
@@ -191,7 +192,10 @@ void settleOpening(const QString &text, Tokens &tokens)
         const bool comes =
             text.at(token.position) == QChar(u'来') && at > 0 &&
             (tokens[at - 1].kind == Token::Kind::Name || tokens[at - 1].kind == Token::Kind::Other);
-        if (insideName || isDue(text, tokens, at) ||
+        // 组 in 我们组例会 is who meets, 组 in 我们组个会 what they do.
+        const bool group = text.at(token.position) == QChar(u'组') && at > 0 && at + 1 < tokens.size() &&
+                           text.at(tokens[at - 1].end() - 1) == QChar(u'们') && isConference(tokens[at + 1]);
+        if (group || insideName || isDue(text, tokens, at) ||
             (comes && startsAt(text, token.end(), QStringLiteral("一下"))) ||
             !(governsConference(text, tokens, at) || followsConference(text, tokens, at))) {
             token.classes.remove(WordClass::WeakOpen);
@@ -324,6 +328,7 @@ void settleWords(const QString &text, Tokens &tokens)
 {
     settleQuestions(text, tokens);
     settleChanges(text, tokens);
+    settleJoins(text, tokens);
     settleConferences(text, tokens);
     settleTopics(text, tokens);
     settleOpening(text, tokens);

@@ -5,6 +5,8 @@
 
 #include "text/scan.h"
 
+#include <algorithm>
+
 namespace understanding {
 
 namespace {
@@ -48,15 +50,20 @@ bool asksAtStart(const Tokens &tokens, std::size_t at)
     return false;
 }
 
+/// True right behind 开会 and 开个会.
+bool isBehindOpening(const Tokens &tokens, std::size_t at)
+{
+    if (at < 2 || !tokens[at - 1].is(WordClass::Conference) || tokens[at - 1].end() != tokens[at].position) {
+        return false;
+    }
+    const bool measured = at > 2 && tokens[at - 2].is(WordClass::Measure);
+    return tokens[measured ? at - 3 : at - 2].is(WordClass::WeakOpen);
+}
+
 /// 敲定 in 跟张伟开会敲定合同: what the conference is for, right behind it.
 bool isPurpose(const QString &text, const Tokens &tokens, std::size_t at)
 {
-    if (at < 2 || !tokens[at - 1].is(WordClass::Conference) || tokens[at - 1].length != 1 ||
-        tokens[at - 1].end() != tokens[at].position) {
-        return false;
-    }
-    const bool measured = at > 2 && tokens[at - 2].is(WordClass::Measure); // 开个会
-    if (!tokens[measured ? at - 3 : at - 2].is(WordClass::WeakOpen)) {
+    if (!isBehindOpening(tokens, at) || tokens[at - 1].length != 1) {
         return false;
     }
     const int verb =
@@ -70,12 +77,49 @@ bool isPurpose(const QString &text, const Tokens &tokens, std::size_t at)
            firstOf(text, behind, {u"了", u"过", u"完", u"得", u",", u"."}) == 0;
 }
 
+/// 对账 in 三点跟张伟开会对账: an unknown purpose, up to the end of the clause. What befalls people in a
+/// conference (开会迟到了, 开会真累) is none.
+bool isUnknownPurpose(const QString &text, const Tokens &tokens, std::size_t at)
+{
+    if (!isBehindOpening(tokens, at)) {
+        return false;
+    }
+    constexpr WordClasses harmless =
+        WordClass::WeakOpen | WordClass::Measure | WordClass::Plain | WordClass::Topic | WordClass::Filler;
+    constexpr int longest = 8;
+    const int begin = tokens[at].position;
+    std::size_t end = at;
+    if (tokens[end].length == 1 && text.at(begin) == QChar(u'对')) { // usually calls: 对张伟
+        ++end;
+    }
+    while (
+        !isAtClauseEnd(tokens, end) &&
+        (tokens[end].kind == Token::Kind::Other ||
+         (tokens[end].isAny(harmless) && !tokens[end].isAny(WordClass::Request | WordClass::UnclearSoon)))) {
+        ++end;
+    }
+    const int length = tokens[end - 1].end() - begin;
+    if (!isAtClauseEnd(tokens, end) || tokens[at].is(WordClass::Filler) || length < 2 || length > longest) {
+        return false;
+    }
+    static const QString telling = QStringLiteral("了完得太真很好吗么呢吧啊没不又还都已着去来累烦困笑哭骂吵");
+    const QString said = text.mid(begin, length);
+    return std::none_of(said.cbegin(), said.cend(),
+                        [](QChar character) { return telling.contains(character); }) &&
+           said.indexOf(QChar(u'过'), 1) < 0 &&
+           firstOf(text, begin, {u"迟到", u"早退", u"睡",   u"打瞌睡", u"打盹", u"走神", u"摸鱼",
+                                 u"发呆", u"紧张", u"无聊", u"头疼",   u"头大", u"的",   u"时",
+                                 u"前",   u"后",   u"中",   u"期间",   u"要",   u"会"}) == 0;
+}
+
 } // namespace
 
 void settleTopics(const QString &text, Tokens &tokens)
 {
     bool inTopic = false;
     bool called = false; // right before
+    bool timed = false;  // in this clause
+    bool joined = false; // 跟张伟, in this clause
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         Token &token = tokens[at];
         const bool newTrigger =
@@ -84,7 +128,10 @@ void settleTopics(const QString &text, Tokens &tokens)
             token.is(WordClass::NameLabel) || settlesTime(text, token) || labelsTime(text, token)) {
             inTopic = false;
         }
-        inTopic = inTopic || isPurpose(text, tokens, at);
+        inTopic =
+            inTopic || isPurpose(text, tokens, at) || (timed && joined && isUnknownPurpose(text, tokens, at));
+        timed = (timed || token.time.hasClock) && !token.is(WordClass::Punctuation);
+        joined = (joined || token.is(WordClass::Trigger)) && !token.is(WordClass::Punctuation);
         token.inTopic = inTopic;
         // 评审 in 邀请评审专家戚教授 tells who is called.
         if (token.is(WordClass::Topic) && !called && !asksAtStart(tokens, at)) {

@@ -85,7 +85,7 @@ private Q_SLOTS:
             }
         }
         qInfo("%s", qPrintable(rates.toString()));
-        QCOMPARE(rates.sentences, 3895);
+        QCOMPARE(rates.sentences, 4081);
         QCOMPARE(rates.dialogues, 926);
         compare(rates, Own);
     }

@@ -242,8 +242,9 @@ bool Clause::isUncalled(const Token &name) const
 
 bool Clause::isPast() const
 {
-    return !m_isQuery &&
-           any([&](std::size_t at) { return m_tokens[at].time.isPastDay() && !isModifying(at); });
+    return !m_isQuery && any([&](std::size_t at) {
+        return m_tokens[at].time.isPastDay() && !m_tokens[at].inModifier && !isModifying(at);
+    });
 }
 
 bool Clause::isModifying(std::size_t pastDay) const
@@ -276,8 +277,12 @@ QString Clause::textOf(const Token &token) const
 
 bool Clause::isStatement() const
 {
-    return m_intent == QLatin1String(CreateConference) && has(WordClass::Have) &&
-           m_reading.openVerb().isEmpty();
+    const bool has = any([&](std::size_t at) {
+        const bool lists = m_tokens[at].is(WordClass::Separator) && at + 1 < m_end &&
+                           m_tokens[at + 1].inName; // 跟老柏还有小马碰一下
+        return m_tokens[at].is(WordClass::Have) && !m_tokens[at].inName && !lists;
+    });
+    return m_intent == QLatin1String(CreateConference) && has && m_reading.openVerb().isEmpty();
 }
 
 bool Clause::isOnlyNumber() const

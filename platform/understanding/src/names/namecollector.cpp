@@ -88,7 +88,7 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
                                        .longestAt(m_text, end)
                                        .classes.intersects(WordClass::Conference | WordClass::Video);
         const bool onlyOf =
-            chunk.endsWith(QChar(u'的')) && !ofConference && isModifier(found) && !isPersonsName(found);
+            chunk.endsWith(QChar(u'的')) && !ofConference && !isPersonsName(found); // 拉个懂技术的进来
         m_names[at].doubtful = cut || strange || onlyOf || !isLikelyName(found);
     }
 }

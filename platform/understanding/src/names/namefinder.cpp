@@ -4,9 +4,8 @@
 #include "names/namefinder.h"
 
 #include "names/headreader.h"
-#include "names/namecollector.h"
 #include "names/namelook.h"
-#include "names/nameplaces.h"
+#include "names/namerunreader.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
 #include "words/negation.h"
@@ -17,14 +16,11 @@ namespace understanding {
 
 namespace {
 
-class NameFinder final : private NameCollector
+class NameFinder final : private NameRunReader
 {
 public:
     NameFinder(const QString &raw, const QString &text, const Tokens &tokens)
-        : NameCollector(raw, text)
-        , m_text(text)
-        , m_tokens(tokens)
-        , m_places(text, tokens)
+        : NameRunReader(raw, text, tokens)
     {
     }
 
@@ -94,16 +90,17 @@ private:
         if (at == 0 || m_tokens[at - 1].inTopic) {
             return;
         }
-        const bool latin = m_tokens[at - 1].kind == Token::Kind::Latin;
-        if (m_tokens[at - 1].kind != Token::Kind::Other && !latin) {
+        const Token &left = m_tokens[at - 1];
+        const bool titled = m_listed && left.is(WordClass::Title) && at > 1 && !m_tokens[at - 2].inTopic &&
+                            m_tokens[at - 2].kind == Token::Kind::Other; // 供应商金总、...
+        if (left.kind != Token::Kind::Other && left.kind != Token::Kind::Latin && !titled) {
             return;
         }
-        const Token &left = m_tokens[at - 1];
-        const int start = m_tokens[m_places.firstOfLatinName(at - 1)].position;
+        const int start = m_tokens[titled ? at - 2 : m_places.firstOfLatinName(at - 1)].position;
         const bool taken = std::any_of(m_names.cbegin(), m_names.cend(),
                                        [&](const FoundName &name) { return name.position >= start; });
         if (!taken && left.end() == m_tokens[at].position) {
-            if (start < left.position) { // Tom Lee、...
+            if (start < left.position && !titled) { // Tom Lee、...
                 addOne(start, left.end() - start, true);
             } else {
                 addChunk(start, left.end(), !m_listed, true);
@@ -188,8 +185,12 @@ private:
             end = takeNames(m_places.skipToNames(lead), false);
         }
         if (end < m_tokens.size() && m_tokens[end].isAny(takesPeople)) {
-            std::for_each(m_names.begin() + static_cast<std::ptrdiff_t>(before), m_names.end(),
-                          [](FoundName &name) { name.doubtful = !isLikelyName(name.name); });
+            // 拉个懂技术的进来
+            const bool described = charAt(m_text, m_tokens[end].position - 1) == QChar(u'的');
+            std::for_each(
+                m_names.begin() + static_cast<std::ptrdiff_t>(before), m_names.end(), [&](FoundName &name) {
+                    name.doubtful = !isLikelyName(name.name) || (described && !isPersonsName(name.name));
+                });
         }
         const bool listed = m_tokens[lead].is(WordClass::Separator) && lead > 0 && !m_names.empty() &&
                             m_names.back().position + m_names.back().said.size() == m_tokens[lead].position;
@@ -264,121 +265,7 @@ private:
         return at;
     }
 
-    /// Takes one run of characters, titles and dotted names; what only says who follows is left to that name.
-    std::size_t takeRun(std::size_t at, bool mustLookLikeName)
-    {
-        const int start = m_tokens[at].position;
-        std::size_t last = m_places.lastOfRun(at, m_tokens.size());
-        bool dotted = false;
-        while (last + 1 < m_tokens.size()) {
-            if (m_places.isMiddleDot(last + 1) && last + 2 < m_tokens.size()) { // 买买提·艾力
-                dotted = true;
-                last = m_tokens[last + 2].kind == Token::Kind::Other
-                           ? last + 2
-                           : m_places.lastOfRun(last + 2, m_tokens.size());
-            } else if (m_tokens[last + 1].is(WordClass::Title)) { // 张主任, 产品经理吴迪
-                last = m_places.lastOfRun(last + 1, m_tokens.size());
-            } else {
-                break;
-            }
-        }
-        const int end = m_tokens[last].end();
-        if (dotted) {
-            const QString name = dottedName(m_text.mid(start, end - start));
-            addOne(m_text.indexOf(name, start), name.size(), true);
-            m_names.back().start = m_modifierStart >= 0 ? m_modifierStart : m_names.back().start;
-            if (isModifier(m_text.mid(start, m_names.back().position - start))) { // 人事部的丽莎·张
-                m_names.back().start = qMin(start, m_names.back().start);
-            }
-            m_modifierStart = -1;
-            return last;
-        }
-        const QString run = m_text.mid(start, end - start);
-        const std::size_t next = last + 1;
-        const bool nameFollows = next < m_tokens.size() && (m_tokens[next].kind == Token::Kind::Name ||
-                                                            m_tokens[next].kind == Token::Kind::Latin);
-        if (nameFollows && isModifier(run)) {
-            m_modifierStart = m_modifierStart < 0 ? start : m_modifierStart;
-            return last;
-        }
-        const QChar last1 = run.at(run.size() - 1);
-        const bool sir = startsAt(m_text, end, QStringLiteral("Sir"));
-        if (nameFollows && (isNamePrefix(last1) || sir) &&
-            isModifier(run.chopped(1))) { // 设计师阿B, 法务的林Sir
-            addOne(end - 1, m_tokens[next].end() - end + 1, true);
-            m_names.back().start = m_modifierStart >= 0 ? m_modifierStart : start;
-            m_modifierStart = -1;
-            return next;
-        }
-        if (m_places.isPointer(next) && !isPersonsName(run)) {
-            m_modifierStart = start;
-            return next;
-        }
-        const std::size_t before = m_names.size();
-        addChunk(start, end, mustLookLikeName, true);
-        const bool listed = at > 0 && m_tokens[at - 1].is(WordClass::Separator);
-        if (m_names.size() == before && mustLookLikeName && listed && !m_names.empty()) { // 阿辉和思思
-            addChunk(start, end, false, true);
-            std::for_each(m_names.begin() + static_cast<std::ptrdiff_t>(before), m_names.end(),
-                          [](FoundName &name) { name.doubtful = true; });
-        }
-        return last;
-    }
-
-    /// Anna Maria Schmidt is one person; HR李娜 is 李娜.
-    std::size_t takeLatinName(std::size_t at)
-    {
-        std::size_t last = m_places.lastOfLatinName(at);
-        const QString first = m_text.mid(m_tokens[at].position, m_tokens[at].length);
-        if (last > at && isModifier(first)) { // CFO Linda
-            at += 2;
-        }
-        const int start = m_tokens[at].position;
-        if (m_text.at(start).isDigit()) { // 1on1
-            return at;
-        }
-        const QString name = m_text.mid(start, m_tokens[last].end() - start);
-        const bool nameFollows =
-            last + 1 < m_tokens.size() &&
-            (m_tokens[last + 1].kind == Token::Kind::Name || m_tokens[last + 1].kind == Token::Kind::Other);
-        if ((nameFollows && isModifier(name)) || m_places.isGroupOfNext(last)) {
-            m_modifierStart = m_modifierStart < 0 ? start : m_modifierStart;
-            return last;
-        }
-        const bool titled = last + 1 < m_tokens.size() && m_tokens[last + 1].is(WordClass::Title) &&
-                            m_tokens[last + 1].length > 1; // Novak博士
-        addOne(start, name.size() + (titled ? m_tokens[last + 1].length : 0), true);
-        last += titled ? 1 : 0;
-        m_names.back().start = qMin(start, m_modifierStart >= 0 ? m_modifierStart : start);
-        m_modifierStart = -1;
-        return last;
-    }
-
-    /// A known name; with one character more it is another, unknown one (张伟 and 张伟杰).
-    std::size_t takeKnownName(std::size_t at)
-    {
-        const Token &token = m_tokens[at];
-        if (at + 1 < m_tokens.size()) {
-            const Token &next = m_tokens[at + 1];
-            const QString rest = m_text.mid(next.position, next.length);
-            const bool oneMore = next.kind == Token::Kind::Other && next.length == 1 && token.length < 3 &&
-                                 token.name.at(0).unicode() >= 0x80 && !isParticle(rest.at(0)) &&
-                                 !Lexicon::instance().classesOf(rest).has(WordClass::Title);
-            if (oneMore) {
-                addUnknown(token.position, m_text.mid(token.position, token.length + 1), true);
-                return at + 1;
-            }
-        }
-        addKnown(token, true);
-        m_names.back().start = m_modifierStart >= 0 ? m_modifierStart : token.position;
-        m_modifierStart = -1;
-        return m_places.skipTitle(at);
-    }
-
-    const QString &m_text;
     bool m_lost = false; ///< somebody stands in a list who was not found
-    const Tokens &m_tokens;
-    const NamePlaces m_places;
 };
 
 } // namespace

@@ -69,7 +69,13 @@ bool startsTwoCharacterSurname(const QString &text)
         QStringLiteral("司徒"), QStringLiteral("东方"), QStringLiteral("夏侯"), QStringLiteral("皇甫"),
         QStringLiteral("令狐"), QStringLiteral("尉迟"), QStringLiteral("公孙"), QStringLiteral("慕容"),
         QStringLiteral("端木"), QStringLiteral("南宫"), QStringLiteral("独孤"), QStringLiteral("百里"),
-        QStringLiteral("宇文"), QStringLiteral("长孙")};
+        QStringLiteral("宇文"), QStringLiteral("长孙"), QStringLiteral("呼延"), QStringLiteral("万俟"),
+        QStringLiteral("澹台"), QStringLiteral("钟离"), QStringLiteral("闻人"), QStringLiteral("赫连"),
+        QStringLiteral("轩辕"), QStringLiteral("淳于"), QStringLiteral("拓跋"), QStringLiteral("完颜"),
+        QStringLiteral("纳兰"), QStringLiteral("西门"), QStringLiteral("田中"), QStringLiteral("山本"),
+        QStringLiteral("佐藤"), QStringLiteral("铃木"), QStringLiteral("渡边"), QStringLiteral("伊藤"),
+        QStringLiteral("中村"), QStringLiteral("吉田"), QStringLiteral("山田"), QStringLiteral("松本"),
+        QStringLiteral("斋藤"), QStringLiteral("藤田")};
     return std::any_of(surnames.cbegin(), surnames.cend(),
                        [&](const QString &name) { return text.startsWith(name); });
 }
@@ -163,6 +169,9 @@ bool isPersonsName(const QString &text)
         Lexicon::instance().classesOf(text.right(1)).has(WordClass::Title)) {
         return true;
     }
+    if (text.size() == 3 && isNamePrefix(text.at(0)) && startsTwoCharacterSurname(text.mid(1))) { // 小诸葛
+        return true;
+    }
     // 小王老师
     if (text.size() == 4 && isNamePrefix(text.at(0)) && isSurname(text.at(1)) &&
         Lexicon::instance().classesOf(text.right(2)).has(WordClass::Title)) {
@@ -229,7 +238,8 @@ QStringList splitNames(const QString &text)
     }
     static const QString titles = QStringLiteral("总工哥姐");
     // A name of four characters with a family name of two is one.
-    if (text.size() < 4 || text.size() > 12 || startsTwoCharacterSurname(text) || !isSurname(text.at(0))) {
+    if (text.size() < 4 || text.size() > 12 || startsTwoCharacterSurname(text) || !isSurname(text.at(0)) ||
+        isSurnameWithTitle(text)) { // 周工程师
         return {text};
     }
     if (endsLikeName(text) && !titles.contains(text.at(1))) { // 张总李总 are two, 孙中山中心 is one
@@ -250,7 +260,7 @@ QStringList splitNames(const QString &text)
 
 QString withoutParticles(const QString &text)
 {
-    static const QString leading = QStringLiteral("的也都再就先在要想了个请给对着还又把将跟是有帮替");
+    static const QString leading = QStringLiteral("的也都再就先在要想了个位请给对着还又把将跟是有帮替");
     static const QString trailing =
         QStringLiteral("也都全来去再就先在要想等的给吧呢啊呀了过到于得能可需将又"
                        "还会用里并且吗嘛上下把做成为参加约让呗哈没俩仨哦噢喔啦咯");

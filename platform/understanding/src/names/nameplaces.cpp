@@ -51,7 +51,8 @@ std::size_t NamePlaces::endOfModifier(std::size_t at) const
     constexpr std::size_t longest = 5;
     constexpr WordClasses between = WordClass::Nobody | WordClass::Plain | WordClass::Title |
                                     WordClass::AccountLabel | WordClass::Mine | WordClass::NameLabel |
-                                    WordClass::IdLabel | WordClass::Filler | WordClass::Reported;
+                                    WordClass::IdLabel | WordClass::Filler | WordClass::Reported |
+                                    WordClass::WeakJoin;
     bool owned = false; // 武汉的
     for (std::size_t next = at; next < qMin(m_tokens.size(), at + longest); ++next) {
         const Token &token = m_tokens[next];
@@ -109,15 +110,12 @@ bool NamePlaces::isAddressBeforeName(std::size_t at) const
         return false;
     }
     const Token &next = m_tokens[at + 1];
+    static const QString owners = QStringLiteral("我咱俺你您他她"); // 我弟 stands only before a name
     constexpr int longest = 3;
-    const bool wordInName = isSmallWordInName(at + 1) && at + 2 < m_tokens.size() && // 于长河
-                            m_tokens[at + 2].kind == Token::Kind::Other &&
-                            isPersonsName(m_text.mid(next.position, 2));
-    const bool wordBehind = next.length == 1 && at + 2 < m_tokens.size() && isSmallWordInName(at + 2);
-    const int length = next.length + (wordBehind ? 1 : 0); // 丁一
-    return wordInName || next.kind == Token::Kind::Name || next.kind == Token::Kind::Latin ||
+    return owners.contains(m_text.at(m_tokens[at].position)) || next.kind == Token::Kind::Name ||
+           next.kind == Token::Kind::Latin ||
            (next.kind == Token::Kind::Other &&
-            isPersonsName(m_text.mid(next.position, qMin(length, longest))));
+            isPersonsName(m_text.mid(next.position, qMin(next.length, longest))));
 }
 
 bool NamePlaces::isOpeningOne(std::size_t at) const

@@ -45,7 +45,8 @@ bool nameBegins(const QString &text, const Tokens &tokens, std::size_t at, int p
     constexpr int longestName = 4;
     for (int length = 2; length <= qMin(longestName, end - position); ++length) {
         const QString name = text.mid(position, length);
-        if (isPersonsName(name) && !isThing(name)) {
+        const bool doubled = length == 2 && name.at(0) == name.at(1); // 晓晓
+        if ((doubled || isPersonsName(name)) && !isThing(name)) {
             return true;
         }
     }
@@ -94,7 +95,11 @@ private:
             return false;
         }
         static const QString beginnings = QStringLiteral("所全各大一那这每几");
-        const bool all = beginnings.contains(m_text.at(token.position));
+        static const QString counts = QStringLiteral("两三四五俩仨"); // 产品的两个人
+        const QChar first = m_text.at(token.position);
+        const bool some = token.is(WordClass::NameTail) && counts.contains(first) &&
+                          charAt(m_text, token.position - 1) == QChar(u'的');
+        const bool all = some || beginnings.contains(first);
         const std::size_t next = at + 1;
         const bool somebodyNext =
             next < m_tokens.size() && nameBegins(m_text, m_tokens, next, m_tokens[next].position);
@@ -151,9 +156,10 @@ private:
     /// The length of the word for a relative at @p position: 弟 in 我弟陈麒.
     int relativeLength(int position) const
     {
-        if (const int length = firstOf(m_text, position,
-                                       {u"爸爸", u"妈妈", u"老爸", u"老妈", u"老大", u"老二", u"老三",
-                                        u"老四", u"老幺", u"弟媳", u"弟妹"})) {
+        if (const int length =
+                firstOf(m_text, position,
+                        {u"侄女儿", u"女儿", u"同桌", u"同学", u"同窗", u"太太", u"爱人", u"爸爸", u"妈妈",
+                         u"老爸", u"老妈", u"老大", u"老二", u"老三", u"老四", u"老幺", u"弟媳", u"弟妹"})) {
             return length;
         }
         constexpr int longest = 4;

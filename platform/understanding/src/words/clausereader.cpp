@@ -39,6 +39,12 @@ void settleConferences(const QString &text, Tokens &tokens)
     static const QString mayFollow = QStringLiteral("的在要需得完没总定开");
     for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
         Token &token = tokens[at];
+        const bool room = token.is(WordClass::Conference) && text.at(token.end() - 1) == QChar(u'室') &&
+                          charAt(text, token.end()) == QChar(u'的') &&
+                          charAt(text, token.end() + 1) != QChar(u'会');
+        if (room) { // 会议室的事, 会议室的钥匙
+            makePlain(token);
+        }
         if (token.length != 1 || !token.is(WordClass::Conference)) {
             continue;
         }

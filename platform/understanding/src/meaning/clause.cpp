@@ -22,7 +22,9 @@ Clause::Clause(const Reading &reading, const QString &intent, std::size_t begin,
     , m_begin(begin)
     , m_end(end)
     , m_isQuery(intent == QLatin1String(QueryConference))
+    , m_firstSaid(end)
 {
+    survey();
 }
 
 bool Clause::isOrder() const
@@ -84,11 +86,9 @@ bool Clause::isOnlySomebody() const
     }
     const int start = m_tokens[m_begin].position;
     const QString text = m_reading.sentence().text().mid(start, m_tokens[m_end - 1].end() - start);
-    const QStringList names = splitNames(text);
     const bool known = Lexicon::instance().longestAt(text, 0).length == text.size(); // 那个, 小艾
     const QString head = text.mid(modifierLength(text));                             // 对象李准基
-    return !known && (std::all_of(names.cbegin(), names.cend(), isPersonsName) || isPersonsName(head)) &&
-           !isAddressing();
+    return !known && (isPeople(text) || isPersonsName(head)) && !isAddressing();
 }
 
 bool Clause::tellsNumber() const

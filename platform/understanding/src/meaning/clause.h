@@ -98,6 +98,8 @@ private:
     bool isOfNumber(std::size_t at) const;
     /// 兄弟 in 兄弟，开会 and 开会吧兄弟, 同志 in 王磊同志.
     bool isAddress(std::size_t at) const;
+    /// Looks once for what isExplained() needs to know of the whole clause.
+    void survey();
     /// Little words that change nothing.
     bool isNothing(const Token &token) const;
 
@@ -108,6 +110,10 @@ private:
     const std::size_t m_begin;
     const std::size_t m_end;
     const bool m_isQuery;
+    std::size_t m_firstSaid;       ///< the first token that is more than politeness
+    std::size_t m_lastSaid = 0;    ///< the last one
+    std::size_t m_numberOwned = 0; ///< 会议号 in 赵院长发来的会议号, the last one
+    int m_ownDeed = -1;            ///< where 我先 stands in 孩子哭了我先退会, the last one
 };
 
 template <typename Holds>

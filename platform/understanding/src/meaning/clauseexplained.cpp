@@ -14,17 +14,31 @@
 
 namespace understanding {
 
+void Clause::survey()
+{
+    constexpr WordClasses around = WordClass::Filler | WordClass::Address | WordClass::Request |
+                                   WordClass::OpenParticle | WordClass::QuestionParticle |
+                                   WordClass::NameTail;
+    const QString &text = m_reading.sentence().text();
+    for (std::size_t at = m_begin; at < m_end; ++at) {
+        const Token &token = m_tokens[at];
+        if (token.kind != Token::Kind::Space && !token.isAny(around) && !isNothing(token)) {
+            m_firstSaid = qMin(m_firstSaid, at);
+            m_lastSaid = at;
+        }
+        if (!token.inTopic && token.isAny(WordClass::IdLabel | WordClass::Conference) &&
+            charAt(text, token.position - 1) == QChar(u'的')) {
+            m_numberOwned = at;
+        }
+        for (int start = token.position; start < token.end(); ++start) { // 孩子哭了我先退会
+            m_ownDeed = firstOf(text, start, {u"我先", u"我要", u"我得", u"我就"}) > 0 ? start : m_ownDeed;
+        }
+    }
+}
+
 bool Clause::isPreamble(std::size_t at) const
 {
-    // 孩子哭了我先退会
-    static const QStringList own = {QStringLiteral("我先"), QStringLiteral("我要"), QStringLiteral("我得"),
-                                    QStringLiteral("我就")};
-    const int next = m_tokens[at].end();
-    const bool beforeOwn = std::any_of(own.cbegin(), own.cend(), [&](const QString &words) {
-        const int found = m_reading.sentence().text().indexOf(words, next);
-        return found >= 0 && found < m_tokens[m_end - 1].end();
-    });
-    if (m_intent == QLatin1String(CloseConference) && beforeOwn) {
+    if (m_intent == QLatin1String(CloseConference) && m_tokens[at].end() <= m_ownDeed) {
         return true;
     }
     for (std::size_t later = at + 1; later < qMin(m_end, at + 3); ++later) {
@@ -100,25 +114,12 @@ bool Clause::isAddress(std::size_t at) const
     if (at > m_begin && m_tokens[at - 1].inName && m_tokens[at - 1].end() == m_tokens[at].position) {
         return true;
     }
-    constexpr WordClasses around = WordClass::Filler | WordClass::Address | WordClass::Request |
-                                   WordClass::OpenParticle | WordClass::QuestionParticle |
-                                   WordClass::NameTail;
-    const auto isEmpty = [&](const Token &token) {
-        return token.kind == Token::Kind::Space || token.isAny(around) || isNothing(token);
-    };
-    const auto place = [&](std::size_t index) {
-        return m_tokens.cbegin() + static_cast<std::ptrdiff_t>(index);
-    };
-    return std::all_of(place(m_begin), place(at), isEmpty) ||
-           std::all_of(place(at + 1), place(m_end), isEmpty);
+    return at < m_firstSaid || at >= m_lastSaid;
 }
 
 bool Clause::isOfNumber(std::size_t at) const
 {
-    return m_intent == QLatin1String(EnterConferenceById) && any([&](std::size_t label) {
-               return label > at && m_tokens[label].isAny(WordClass::IdLabel | WordClass::Conference) &&
-                      charAt(m_reading.sentence().text(), m_tokens[label].position - 1) == QChar(u'的');
-           });
+    return m_intent == QLatin1String(EnterConferenceById) && at < m_numberOwned;
 }
 
 bool Clause::isTitleBeforeVerb(std::size_t at) const
@@ -176,7 +177,10 @@ bool Clause::isDescription(std::size_t at) const
     while (
         next < m_end && next < at + farthest &&
         (m_tokens[next].isAny(WordClass::Measure | WordClass::Title | WordClass::Plain | WordClass::Filler) ||
-         m_tokens[next].kind == Token::Kind::Other || isNothing(m_tokens[next]))) {
+         m_tokens[next].kind == Token::Kind::Other || isNothing(m_tokens[next]) ||
+         (m_tokens[next].kind == Token::Kind::Time && !m_tokens[next].time.hasClock &&
+          charAt(m_reading.sentence().text(), m_tokens[next].position - 1) ==
+              QChar(u'的')))) { // 产品部的周五晨会
         ++next;
     }
     if (next >= m_end || !m_tokens[next].is(WordClass::Conference)) {

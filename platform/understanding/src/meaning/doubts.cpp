@@ -20,12 +20,7 @@ QString textOf(const Reading &reading, const Token &token)
     return reading.sentence().text().mid(token.position, token.length);
 }
 
-bool isClauseEnd(const Tokens &tokens, std::size_t at)
-{
-    return at >= tokens.size() || tokens[at].is(WordClass::Punctuation);
-}
-
-/// 明天开会谁主持, 是谁约的会, 你建还是我建: it is asked who does it, wherever that stands.
+/// 明天开会谁主持, 是谁约的会, 你建还是我建: asks who does it, wherever that stands.
 bool asksWho(const Reading &reading)
 {
     const QString &text = reading.sentence().text();
@@ -114,9 +109,10 @@ bool tellsBeginning(const Reading &reading)
     const Tokens &tokens = reading.tokens();
     bool conference = false; // in the same clause
     for (std::size_t at = 0; at < tokens.size(); ++at) {
-        conference = (conference || tokens[at].is(WordClass::Conference)) && !isClauseEnd(tokens, at);
+        conference =
+            (conference || tokens[at].is(WordClass::Conference)) && !tokens[at].is(WordClass::Punctuation);
         if (conference && tokens[at].length == begins.size() && textOf(reading, tokens[at]) == begins &&
-            isClauseEnd(tokens, at + 1)) {
+            isAtClauseEnd(tokens, at + 1)) {
             return true;
         }
     }
@@ -159,7 +155,7 @@ bool tellsWhen(const Reading &reading)
     return false;
 }
 
-/// 让财务把钱打过来, 叫小王把报告发我: whoever is told to do something to something else.
+/// 让财务把钱打过来, 叫小王把报告发我: somebody is told to do something else.
 bool sendsSomebody(const Reading &reading)
 {
     static const QStringList calls = {QStringLiteral("让"),  QStringLiteral("叫"),   QStringLiteral("请"),
@@ -178,8 +174,7 @@ bool sendsSomebody(const Reading &reading)
         while (next < tokens.size() && (tokens[next].inName || tokens[next].is(WordClass::Title))) {
             ++next;
         }
-        if (next > at + 1 && next < tokens.size() && !tokens[next].inName &&
-            does.contains(textOf(reading, tokens[next]))) {
+        if (next > at + 1 && next < tokens.size() && does.contains(textOf(reading, tokens[next]))) {
             return true;
         }
     }
@@ -257,7 +252,11 @@ bool isHeldInRoom(const Reading &reading)
 {
     const QString &text = reading.sentence().text();
     const int room = text.indexOf(QStringLiteral("室"));
-    const int before = room < 0 ? -1 : text.lastIndexOf(QStringLiteral("在"), room);
+    int before = room < 0 ? -1 : text.lastIndexOf(QChar(u'在'), room);
+    static const QString adverbs = QStringLiteral("现正实"); // 现在
+    while (before > 0 && adverbs.contains(text.at(before - 1))) {
+        before = text.lastIndexOf(QChar(u'在'), before - 1);
+    }
     constexpr int longestRoom = 8; // 三号大会议室
     return before >= 0 && room - before <= longestRoom && charAt(text, before + 1) != QChar(u'线') &&
            text.indexOf(QStringLiteral("开会"), room) > room;
@@ -272,19 +271,22 @@ bool tellsWhoseNumber(const Reading &reading)
            charAt(reading.sentence().text(), end) == QChar(u'是');
 }
 
-/// 下次开会记得叫我, 有空一起开会啊, 你能开会吗, 我先开会, 会议三点到五点: no time is set, or no
-/// order given.
-bool onlySpeaksOf(const Reading &reading)
+/// 你能开会吗 asks what the assistant can do; 你能帮我开会吗 asks for a conference.
+bool asksAbility(const Reading &reading)
 {
     const QString &text = reading.sentence().text();
+    return firstOf(text, 0, {u"你能", u"你会", u"你可以"}) > 0 && reading.has(WordClass::Request) &&
+           reading.has(WordClass::QuestionParticle) && reading.names().empty() &&
+           reading.timeSaid().isEmpty() && !text.contains(QChar(u'帮')) && !text.contains(QChar(u'给'));
+}
+
+/// 下次开会记得叫我, 有空一起开会啊, 我先开会, 会议三点到五点: sets no time, or gives no order.
+bool onlySpeaksOf(const Reading &reading)
+{
     if (!reading.names().empty() || reading.has(WordClass::Request)) {
-        const bool ability = text.startsWith(QStringLiteral("你能")) ||
-                             text.startsWith(QStringLiteral("你会")) ||
-                             text.startsWith(QStringLiteral("你可以"));
-        return reading.names().empty() && ability && reading.has(WordClass::QuestionParticle) &&
-               reading.timeSaid().isEmpty() && !text.contains(QStringLiteral("帮")) &&
-               !text.contains(QStringLiteral("给"));
+        return false;
     }
+    const QString &text = reading.sentence().text();
     const bool bare = reading.openVerb().isEmpty() && text.startsWith(QStringLiteral("会议")) &&
                       !text.startsWith(QStringLiteral("会议预"));
     if (!reading.timeSaid().isEmpty()) {
@@ -310,15 +312,25 @@ constexpr struct
     const char *intent;
     bool (*isDoubtful)(const Reading &);
 } Doubts[] = {
-    {CreateConference, asksWho},         {CreateConference, tellsBeginning},
-    {CreateConference, tellsWhen},       {QueryConference, tellsWhen},
-    {CreateConference, onlyTalks},       {CreateConference, isHeldInRoom},
-    {CreateConference, sendsSomebody},   {CreateConference, reminds},
-    {CreateConference, callsStranger},   {CreateConference, mentionsStranger},
-    {CreateConference, onlySpeaksOf},    {InviteConference, sendsSomebody},
-    {InviteConference, callsForNothing}, {EnterConferenceById, tellsWhoseNumber},
-    {EnterConferenceById, comesLater},   {EnterMyConference, asksWho},
-    {EnterMyConference, asksHowMany},    {CloseConference, returnsRoom},
+    {CreateConference, asksWho},
+    {CreateConference, tellsBeginning},
+    {CreateConference, tellsWhen},
+    {QueryConference, tellsWhen},
+    {CreateConference, onlyTalks},
+    {CreateConference, isHeldInRoom},
+    {CreateConference, sendsSomebody},
+    {CreateConference, reminds},
+    {CreateConference, callsStranger},
+    {CreateConference, mentionsStranger},
+    {CreateConference, onlySpeaksOf},
+    {CreateConference, asksAbility},
+    {InviteConference, sendsSomebody},
+    {InviteConference, callsForNothing},
+    {EnterConferenceById, tellsWhoseNumber},
+    {EnterConferenceById, comesLater},
+    {EnterMyConference, asksWho},
+    {EnterMyConference, asksHowMany},
+    {CloseConference, returnsRoom},
     {AddBuddy, onlyMentionsFriend},
 };
 

@@ -189,7 +189,7 @@ int Reading::strangeLength() const
 /// 一二三百四: what touches a string of digits may belong to it.
 bool Reading::isCutOff(std::size_t number) const
 {
-    static const QString mayFollow = QStringLiteral("的号是这那吧呢啊呀哦个会为和就给加进入我,，");
+    static const QString mayFollow = QStringLiteral("的号是这那吧呢啊呀哦个会为和就给加进入我,");
     static const QString mayBelong = QStringLiteral("十百千万亿两俩廿卅点");
     const QString &text = m_sentence.text();
     const Token &token = m_tokens[number];

@@ -53,7 +53,8 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
     if (modifier > 0) {
         name = whole ? name.mid(modifier) : withoutParticles(name.mid(modifier));
     }
-    if (name.size() < 2 || name.size() > LongestName || (mustLookLikeName && !looksLikeName(name))) {
+    if (name.size() < 2 || name.size() > LongestName ||
+        (mustLookLikeName && !looksLikeName(name) && !isPeople(name))) {
         return;
     }
     if (Lexicon::instance().classesOf(name).has(WordClass::Nobody) || isThing(name) ||

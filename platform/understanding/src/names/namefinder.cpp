@@ -73,7 +73,8 @@ private:
             }
             return last;
         }
-        if (isAbsent(m_text, m_tokens, at)) { // 李娜不去了，叫上王磊
+        // 李娜不去了，叫上王磊; 不让李娜参加
+        if (isAbsent(m_text, m_tokens, at) || isNegatedBefore(m_text, m_tokens, at)) {
             return at;
         }
         if (token.kind == Token::Kind::Name) {

@@ -258,6 +258,12 @@ QStringList splitNames(const QString &text)
     return names;
 }
 
+bool isPeople(const QString &text)
+{
+    const QStringList names = splitNames(text);
+    return std::all_of(names.cbegin(), names.cend(), isPersonsName);
+}
+
 QString withoutParticles(const QString &text)
 {
     static const QString leading = QStringLiteral("的也都再就先在要想了个位请给对着还又把将跟是有帮替");

@@ -30,6 +30,9 @@ bool isPersonsName(const QString &text);
 /// @p text cut into names where each part begins with a family name (赵云马超), else @p text alone.
 QStringList splitNames(const QString &text);
 
+/// True for one person or several in a row: 李娜, 李娜王芳.
+bool isPeople(const QString &text);
+
 /// @p text without the little words around a name: 也, 来, 的.
 QString withoutParticles(const QString &text);
 

@@ -56,9 +56,8 @@ std::size_t NamePlaces::endOfModifier(std::size_t at) const
     bool owned = false; // 武汉的
     for (std::size_t next = at; next < qMin(m_tokens.size(), at + longest); ++next) {
         const Token &token = m_tokens[next];
-        const bool past = token.time.day == TimeExpression::Day::Relative && token.time.dayOffset < 0;
         const bool plainDay = token.kind == Token::Kind::Time && next == at && !token.time.hasClock &&
-                              (past || token.time.day == TimeExpression::Day::DayOfMonth);
+                              (token.time.isPastDay() || token.time.day == TimeExpression::Day::DayOfMonth);
         if (token.inTopic || (next > at && token.position != m_tokens[next - 1].end())) {
             return at;
         }
@@ -132,7 +131,7 @@ bool NamePlaces::isOpeningOne(std::size_t at) const
         m_tokens[next].kind == Token::Kind::Other && m_tokens[next + 1].is(WordClass::Conference) &&
         !m_tokens[next + 1].is(WordClass::Join)) {
         const QString what = m_text.mid(m_tokens[next].position, m_tokens[next].length);
-        return isThing(what) || !(isPersonsName(what) || what.endsWith(QChar(u'的')));
+        return isThing(what) || !(isPeople(what) || what.endsWith(QChar(u'的')));
     }
     return m_tokens[at].isAny(WordClass::StrongOpen | WordClass::WeakOpen) && next < m_tokens.size() &&
            m_tokens[next].is(WordClass::Measure) && !m_tokens[next].is(WordClass::Filler) &&
@@ -291,7 +290,8 @@ int NamePlaces::comerLength(std::size_t at) const
     for (const int length : {2, 3}) {
         const int start = m_tokens[at].position;
         int next = start + length;
-        if (next > m_text.size() || !isPersonsName(m_text.mid(start, length))) {
+        const QString said = m_text.mid(start, length);
+        if (next > m_text.size() || !isPersonsName(said) || isThing(said.left(2))) {
             continue;
         }
         const int must = firstOf(m_text, next,

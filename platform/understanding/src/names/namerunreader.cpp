@@ -51,9 +51,10 @@ std::size_t NameRunReader::takeRun(std::size_t at, bool mustLookLikeName)
         m_modifierStart = m_modifierStart < 0 ? start : m_modifierStart;
         return last;
     }
-    const QChar last1 = run.at(run.size() - 1);
+    const QChar lastCharacter = run.at(run.size() - 1);
     const bool sir = startsAt(m_text, end, QStringLiteral("Sir"));
-    if (nameFollows && (isNamePrefix(last1) || sir) && isModifier(run.chopped(1))) { // 设计师阿B, 法务的林Sir
+    if (nameFollows && (isNamePrefix(lastCharacter) || sir) &&
+        isModifier(run.chopped(1))) { // 设计师阿B, 法务的林Sir
         addOne(end - 1, m_tokens[next].end() - end + 1, true);
         m_names.back().start = m_modifierStart >= 0 ? m_modifierStart : start;
         m_modifierStart = -1;

@@ -37,6 +37,13 @@ inline QChar charAt(const QString &text, int position)
     return position >= 0 && position < text.size() ? text.at(position) : QChar();
 }
 
+/// True for letters of the Latin alphabet, also with accents, and for ASCII digits.
+inline bool isLatinLetterOrDigit(QChar character)
+{
+    constexpr ushort latinEnd = 0x250; // with accents: Müller
+    return character.unicode() < latinEnd && character.isLetterOrNumber();
+}
+
 inline int skipSpaces(const QString &text, int position)
 {
     while (charAt(text, position) == QLatin1Char(' ')) {

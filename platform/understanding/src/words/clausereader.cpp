@@ -104,13 +104,7 @@ bool governsConference(const QString &text, const Tokens &tokens, std::size_t ve
     return false;
 }
 
-bool isAtClauseEnd(const Tokens &tokens, std::size_t at)
-{
-    return at >= tokens.size() || tokens[at].is(WordClass::Punctuation) ||
-           tokens[at].kind == Token::Kind::Space;
-}
-
-/// 上 in 约上: it is done to what stands before.
+/// 上 in 约上: the verb acts on what stands before it.
 bool isResultative(const QString &text, const Token &verb)
 {
     static const QString results = QStringLiteral("来上好成下");
@@ -269,24 +263,64 @@ void settleCalls(const QString &text, Tokens &tokens)
     }
 }
 
-/// 延期 in 项目延期了，明天三点开会: not the conference is put off.
-void settleChanges(const QString &text, Tokens &tokens)
+/// 延期 in 项目延期了，明天三点开会: it is not the conference that is put off, as it is in 周会，延期了.
+void settleDelays(const QString &text, Tokens &tokens)
 {
     std::size_t change = tokens.size();
     bool conference = false; // in this clause, or its time
+    bool before = false;     // the same in the clause before
+    bool begins = true;      // nothing but adverbs so far
     for (std::size_t at = 0; at <= tokens.size(); ++at) {
         if (isAtClauseEnd(tokens, at)) {
             if (change < at && !conference && at + 1 < tokens.size()) {
                 tokens[change].classes.remove(WordClass::Change);
             }
+            before = conference;
             change = tokens.size();
             conference = false;
+            begins = true;
             continue;
         }
         conference = conference || isConference(tokens[at]) || tokens[at].kind == Token::Kind::Time ||
-                     firstOf(text, tokens[at].position, {u"时间", u"会"}) > 0;
+                     firstOf(text, tokens[at].position, {u"时间", u"会"}) > 0 ||
+                     (tokens[at].is(WordClass::Change) && begins && before);
+        begins = begins && tokens[at].isAny(WordClass::Filler | WordClass::Next);
         if (tokens[at].is(WordClass::Change) && charAt(text, tokens[at].end()) == QChar(u'了')) {
             change = at;
+        }
+    }
+}
+
+/// 开到 in 三点开会，开到五点 says how long it takes; without a beginning it reports.
+void settleEnds(const QString &text, Tokens &tokens)
+{
+    bool begun = false;
+    for (Token &token : tokens) {
+        if (begun && startsAt(text, token.position, QStringLiteral("开到")) && token.length == 2) {
+            token.classes.remove(WordClass::Reported);
+        }
+        begun = begun || token.time.hasClock;
+    }
+}
+
+/// 我想早点散会 is only a wish, 我想早点跟李娜开个会 an order.
+void settleWishes(const QString &text, Tokens &tokens)
+{
+    constexpr WordClasses ordering =
+        WordClass::Trigger | WordClass::Separator | WordClass::StrongOpen | WordClass::Measure;
+    constexpr WordClasses ending = WordClass::Close | WordClass::CloseAlone | WordClass::Plain;
+    WordClasses behind; // in the same clause
+    for (std::size_t at = tokens.size(); at-- > 0;) {
+        Token &token = tokens[at];
+        const bool wished = token.is(WordClass::UnclearSoon) && text.at(token.position) == QChar(u'早') &&
+                            charAt(text, token.position - 1) == QChar(u'想');
+        if (wished && (!behind.intersects(ordering) || behind.intersects(ending))) {
+            token.classes.add(WordClass::Framed);
+        }
+        if (isAtClauseEnd(tokens, at)) {
+            behind = WordClasses();
+        } else {
+            behind.add(token.classes);
         }
     }
 }
@@ -333,7 +367,9 @@ void settleQuestions(const QString &text, Tokens &tokens)
 void settleWords(const QString &text, Tokens &tokens)
 {
     settleQuestions(text, tokens);
-    settleChanges(text, tokens);
+    settleEnds(text, tokens);
+    settleWishes(text, tokens);
+    settleDelays(text, tokens);
     settleJoins(text, tokens);
     settleConferences(text, tokens);
     settleTopics(text, tokens);

@@ -7,18 +7,13 @@
 #include "text/scan.h"
 #include "time/timereader.h"
 #include "words/lexicon.h"
+#include "words/namesliketimes.h"
 
 namespace understanding {
 
 namespace {
 
 constexpr int ShortestSpokenNumber = 3; // 一下, 二三 are no numbers yet
-
-bool isLatinLetterOrDigit(QChar character)
-{
-    constexpr ushort latinEnd = 0x250; // with accents: Müller
-    return character.unicode() < latinEnd && character.isLetterOrNumber();
-}
 
 class Lexer final
 {
@@ -80,11 +75,8 @@ private:
         case u'加':
             length = firstOf(m_text, m_at, {u"加拉提"});
             break;
-        case u'明': // 居委会的董明晨
-            if (!m_tokens.empty() && tailLength(m_tokens.back()) == 1 &&
-                (m_tokens.back().kind == Token::Kind::Other || m_tokens.back().is(WordClass::Title))) {
-                length = firstOf(m_text, m_at, {u"明晨"});
-            }
+        case u'明': // 居委会的董明晨, but not 王总明晨
+            length = isBehindFamilyName(m_text, m_tokens) ? firstOf(m_text, m_at, {u"明晨"}) : 0;
             break;
         default:
             break;
@@ -95,61 +87,10 @@ private:
         return length > 0;
     }
 
-    /// How many characters of @p token stand behind its last 的, three at most.
-    int tailLength(const Token &token) const
-    {
-        constexpr int most = 3;
-        int length = 0;
-        while (length < qMin(token.length, most) && m_text.at(token.end() - 1 - length) != QChar(u'的')) {
-            ++length;
-        }
-        return length;
-    }
-
-    /// A name that nobody knows may begin like a time: 和周一鸣, 和高明早上.
-    bool isInUnknownName(const TimeMatch &match) const
-    {
-        if (match.kind == TimeMatch::Kind::None || m_tokens.empty()) {
-            return false;
-        }
-        const Token &before = m_tokens.back();
-        constexpr WordClasses leadsToNames = WordClass::Trigger | WordClass::Separator | WordClass::NameLabel;
-        const bool owned = before.kind == Token::Kind::Other && // 数学组的周一鸣
-                           m_text.at(before.end() - 1) == QChar(u'的') &&
-                           (before.length > 1 || m_tokens.size() > 1);
-        const bool afterLead = owned || before.isAny(leadsToNames);
-        if (afterLead && match.expression.isBareWeekday()) {
-            const int end = m_at + match.length;
-            return end < m_text.size() && readTime(m_text, end).kind == TimeMatch::Kind::None &&
-                   Lexicon::instance().longestAt(m_text, end).length == 0 && m_text.at(end) != QChar(u'的') &&
-                   m_text.at(end) != QLatin1Char(' ') && !isLatinLetterOrDigit(m_text.at(end));
-        }
-        if (before.kind != Token::Kind::Other) {
-            return false;
-        }
-        const TimeMatch later = readTime(m_text, m_at + 1);
-        // 陶渊明下午三点: hardly anybody says 明下午.
-        if (tailLength(before) <= 2 && firstOf(m_text, m_at, {u"明上午", u"明下午", u"明中午"}) > 0) {
-            return later.kind == TimeMatch::Kind::Time;
-        }
-        const bool laterIsTime = later.kind == TimeMatch::Kind::Time && !later.expression.impossible;
-        // 李四四点; 张三周三 holds no three weeks.
-        const bool unlikely =
-            match.expression.impossible || (match.kind == TimeMatch::Kind::Duration && before.length == 1);
-        if (unlikely) {
-            return laterIsTime;
-        }
-        // One character is no name: 和高明早上 is 高明, 和王五十分钟后 is 王五.
-        const bool alone =
-            before.length == 1 && m_tokens.size() > 1 && m_tokens[m_tokens.size() - 2].isAny(leadsToNames);
-        static const QString givenNames = QStringLiteral("明晨一二三四五六七八九");
-        return alone && laterIsTime && givenNames.contains(m_text.at(m_at));
-    }
-
     bool takeTimeOrNumberOrWord()
     {
         WordMatch word = Lexicon::instance().longestAt(m_text, m_at);
-        if (takesPieceOfTime(word.length)) {
+        if (takesPieceOfNext(word)) {
             word = Lexicon::instance().longestAt(m_text.left(m_at + word.length - 1), m_at);
         }
         settleConferenceEnd(word);
@@ -160,7 +101,8 @@ private:
             word = Lexicon::instance().longestAt(m_text.left(m_at + 1), m_at);
         }
         const TimeMatch time = readTime(m_text, m_at);
-        if (time.kind != TimeMatch::Kind::None && time.length >= word.length && !isInUnknownName(time)) {
+        if (time.kind != TimeMatch::Kind::None && time.length >= word.length &&
+            !isInUnknownName(m_text, m_tokens, m_at, time)) {
             takeTime(time);
             return true;
         }
@@ -180,17 +122,26 @@ private:
         return true;
     }
 
-    /// 约下 in 约下午三点 and 约下周三, but not 约一下 in 约一下周三.
-    bool takesPieceOfTime(int wordLength) const
+    /// True if the last character of @p word begins what follows: 约下 in 约下午三点 and 约下周三, but not
+    /// 约一下 in 约一下周三.
+    bool takesPieceOfNext(const WordMatch &word) const
     {
-        const int last = m_at + wordLength - 1;
-        // 博士 in 施博士后天, 叫 in 叫上官婉儿, 开会 in 开会时间, 清明 in 记不清明天
-        if (wordLength >= 2 &&
-            firstOf(m_text, last,
-                    {u"后天", u"上官", u"时间", u"明天", u"明早", u"明晚", u"明儿", u"约翰", u"约瑟"}) > 0) {
+        const int last = m_at + word.length - 1;
+        if (word.length < 2) {
+            return false;
+        }
+        // 博士 in 施博士后天, 叫 in 叫上官婉儿, 开会 in 开会时间, 清明 in 记不清明天, 不同意 in 不同意见,
+        // 新年 in 新年度, 也别 in 也别忘了, 孙女 in 孙女士
+        if (firstOf(m_text, last,
+                    {u"后天", u"上官", u"时间", u"明天", u"明早", u"明晚", u"明儿", u"约翰", u"约瑟", u"意见",
+                     u"年度", u"别忘", u"女士"}) > 0) {
             return true;
         }
-        if (wordLength < 2 || m_text.at(last) != QChar(u'下') || m_text.at(last - 1) == QChar(u'一') ||
+        const bool descendant = firstOf(m_text, m_at, {u"孙子", u"孙女"}) == word.length; // 孙 in 孙子涵
+        if (descendant && isSingleStranger(m_text, m_at + word.length)) {
+            return true;
+        }
+        if (m_text.at(last) != QChar(u'下') || m_text.at(last - 1) == QChar(u'一') ||
             charAt(m_text, last + 1) == QChar(u'下')) {
             return false;
         }

@@ -127,6 +127,7 @@ bool repairAt(Tokens &tokens, std::size_t repair, std::vector<bool> &dropped)
     if (later == None) {
         return false;
     }
+    const std::size_t earlierCode = isCode(tokens[later]) ? lastBefore(tokens, repair, isCode) : None;
     if (tokens[later].kind == Token::Kind::Time) {
         const std::size_t earlier =
             lastBefore(tokens, repair, [](const Token &token) { return token.kind == Token::Kind::Time; });
@@ -135,8 +136,8 @@ bool repairAt(Tokens &tokens, std::size_t repair, std::vector<bool> &dropped)
         }
         replaceTime(tokens[later], tokens[earlier]);
         dropped[earlier] = true;
-    } else if (isCode(tokens[later]) && lastBefore(tokens, repair, isCode) != None) {
-        dropped[lastBefore(tokens, repair, isCode)] = true;
+    } else if (earlierCode != None) {
+        dropped[earlierCode] = true;
     } else if (isNamePart(tokens[later])) {
         const std::size_t earlier = nameBefore(tokens, repair);
         if (earlier != None) {

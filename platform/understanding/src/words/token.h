@@ -42,4 +42,11 @@ struct Token
 
 using Tokens = std::vector<Token>;
 
+/// True at the end of the sentence, at punctuation and at a space.
+inline bool isAtClauseEnd(const Tokens &tokens, std::size_t at)
+{
+    return at >= tokens.size() || tokens[at].is(WordClass::Punctuation) ||
+           tokens[at].kind == Token::Kind::Space;
+}
+
 } // namespace understanding

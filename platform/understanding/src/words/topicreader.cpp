@@ -11,12 +11,6 @@ namespace understanding {
 
 namespace {
 
-bool isAtClauseEnd(const Tokens &tokens, std::size_t at)
-{
-    return at >= tokens.size() || tokens[at].is(WordClass::Punctuation) ||
-           tokens[at].kind == Token::Kind::Space;
-}
-
 /// 需求评审安排到明天上午: the topic ends before its verb.
 bool settlesTime(const QString &text, const Token &token)
 {

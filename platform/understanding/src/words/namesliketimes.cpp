@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "words/namesliketimes.h"
+
+#include "text/scan.h"
+#include "words/lexicon.h"
+
+namespace understanding {
+
+namespace {
+
+/// The number of characters behind the last 的 of @p token, at most three.
+int tailLength(const QString &text, const Token &token)
+{
+    constexpr int most = 3;
+    int length = 0;
+    while (length < qMin(token.length, most) && text.at(token.end() - 1 - length) != QChar(u'的')) {
+        ++length;
+    }
+    return length;
+}
+
+/// True for 小王 and 李娜, behind which 明 begins 明下午; 黄晓明 and 陶渊明 are whole names.
+bool isWholeBefore(const QString &text, const Token &before)
+{
+    static const QString prefixes = QStringLiteral("小老阿");
+    static const QString seldomInside =
+        QStringLiteral("娜娟芳燕霞玲凤珍艳敏静洁颖倩莉雯佳婷怡琳雪欣瑶琪薇蕾蓉菲妍媛茜莲蓓丹萍磊强涛鹏");
+    return tailLength(text, before) == 2 &&
+           (prefixes.contains(text.at(before.end() - 2)) || seldomInside.contains(text.at(before.end() - 1)));
+}
+
+} // namespace
+
+bool isSingleStranger(const QString &text, int at)
+{
+    static const QString never = QStringLiteral("的儿们婿");
+    const auto isKnown = [&](int position) {
+        return position >= text.size() || !text.at(position).isLetter() ||
+               isLatinLetterOrDigit(text.at(position)) ||
+               readTime(text, position).kind != TimeMatch::Kind::None ||
+               Lexicon::instance().longestAt(text, position).length > 0;
+    };
+    return !isKnown(at) && isKnown(at + 1) && !never.contains(text.at(at));
+}
+
+bool isBehindFamilyName(const QString &text, const Tokens &tokens)
+{
+    if (tokens.empty() || tailLength(text, tokens.back()) != 1) {
+        return false;
+    }
+    const Token &before = tokens.back();
+    const bool titled = tokens.size() > 1 && tokens[tokens.size() - 2].kind == Token::Kind::Other &&
+                        text.at(before.position - 1) != QChar(u'的');
+    return before.kind == Token::Kind::Other || (before.is(WordClass::Title) && !titled);
+}
+
+bool isInUnknownName(const QString &text, const Tokens &tokens, int at, const TimeMatch &match)
+{
+    if (match.kind == TimeMatch::Kind::None || tokens.empty()) {
+        return false;
+    }
+    const Token &before = tokens.back();
+    constexpr WordClasses leadsToNames = WordClass::Trigger | WordClass::Separator | WordClass::NameLabel;
+    const bool owned = before.kind == Token::Kind::Other && // 数学组的周一鸣
+                       text.at(before.end() - 1) == QChar(u'的') && (before.length > 1 || tokens.size() > 1);
+    const bool afterLead = owned || before.isAny(leadsToNames);
+    if (afterLead && match.expression.isBareWeekday()) {
+        const int end = at + match.length;
+        return end < text.size() && (!owned || isSingleStranger(text, end)) &&
+               readTime(text, end).kind == TimeMatch::Kind::None &&
+               Lexicon::instance().longestAt(text, end).length == 0 && text.at(end) != QChar(u'的') &&
+               text.at(end) != QLatin1Char(' ') && !isLatinLetterOrDigit(text.at(end));
+    }
+    if (before.kind != Token::Kind::Other) {
+        return false;
+    }
+    const TimeMatch later = readTime(text, at + 1);
+    // 陶渊明下午三点: hardly anybody says 明下午.
+    if (tailLength(text, before) <= 2 && !isWholeBefore(text, before) &&
+        firstOf(text, at, {u"明上午", u"明下午", u"明中午"}) > 0) {
+        return later.kind == TimeMatch::Kind::Time;
+    }
+    const bool laterIsTime = later.kind == TimeMatch::Kind::Time && !later.expression.impossible;
+    // 李四四点; 张三周三 holds no three weeks.
+    const bool unlikely =
+        match.expression.impossible || (match.kind == TimeMatch::Kind::Duration && before.length == 1);
+    if (unlikely) {
+        return laterIsTime;
+    }
+    // One character is no name: 和高明早上 is 高明, 和王五十分钟后 is 王五.
+    const bool alone =
+        before.length == 1 && tokens.size() > 1 && tokens[tokens.size() - 2].isAny(leadsToNames);
+    static const QString givenNames = QStringLiteral("明晨一二三四五六七八九");
+    return alone && laterIsTime && givenNames.contains(text.at(at));
+}
+
+} // namespace understanding

@@ -116,6 +116,11 @@ bool Clause::excludesSomebody() const
 
 bool Clause::isTold() const
 {
+    const bool due = m_intent == QLatin1String(EnterMyConference) && has(WordClass::Reported) &&
+                     !has(WordClass::Join | WordClass::WeakJoin | WordClass::Back); // 我的会到点了
+    if (due) {
+        return true;
+    }
     return m_begin < m_end && isSomebody(m_tokens[m_begin]) && isOrder() && hasOtherSubject() && !isRefused();
 }
 

@@ -31,7 +31,7 @@ public:
     bool hasOtherSubject() const;
     /// 秦姐, alone before an order: somebody whom nothing calls.
     bool isOnlySomebody() const;
-    /// 老板喊开会了: somebody without a name does it, so it is only news.
+    /// 老板喊开会了, 我的会到点了: somebody without a name does it, or it comes about, so it is only news.
     bool isTold() const;
     /// 领导要求明天开会: told or wished, whatever follows.
     bool isOnlyReported() const;

@@ -211,11 +211,16 @@ bool callsForNothing(const Reading &reading)
         furtherDeed = furtherDeed || (token.position >= end &&
                                       (token.inTopic || token.is(WordClass::Topic) || deeds.contains(first)));
     }
+    const QString &text = reading.sentence().text();
+    const bool toldBehindPronoun = std::any_of(names.cbegin(), names.cend(), [&](const FoundName &name) {
+        static const QString pronouns = QStringLiteral("他她"); // 让他先忙
+        return pronouns.contains(charAt(text, name.start - 1)) && !isPersonsName(name.name);
+    });
     bool adjacent = false;
     for (std::size_t at = 1; at < names.size(); ++at) {
         adjacent = adjacent || names[at - 1].position + names[at - 1].said.size() == names[at].position;
     }
-    return !clear || furtherDeed || (told && adjacent);
+    return !clear || furtherDeed || toldBehindPronoun || (told && adjacent);
 }
 
 /// 找小王聊聊离职的事: people talk about something, and no word says that they meet.

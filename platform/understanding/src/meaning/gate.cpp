@@ -128,6 +128,12 @@ Verdict judge(const Reading &reading, const QString &intent)
             continue;
         }
         const QChar sign = end < tokens.size() ? reading.sentence().text().at(tokens[end].position) : QChar();
+        const bool introduces = takesPeople && begin < end && reading.introduction() >= 0 &&
+                                tokens[begin].position == reading.introduction();
+        if (introduces && end < tokens.size()) { // 沈佳掉线了，拉一下她
+            begin = end + 1;
+            continue;
+        }
         const Clause clause(reading, intent, begin, end);
         supposed = supposed || clause.isSupposed();
         const bool calledAway = intent == QLatin1String(InviteConference) && clause.isCalledAway();

@@ -5,6 +5,7 @@
 
 #include "names/framednames.h"
 #include "names/personwords.h"
+#include "names/pronouns.h"
 #include "text/chinesenumber.h"
 #include "text/scan.h"
 #include "words/clausereader.h"
@@ -36,6 +37,7 @@ Reading::Reading(const QString &sentence, const ContactIndex &contacts) : m_sent
     m_names.erase(std::remove_if(m_names.begin(), m_names.end(),
                                  [&](const FoundName &name) { return m_elsewhere.holds(name.start); }),
                   m_names.end());
+    m_introduction = resolvePronouns(m_sentence.raw(), m_sentence.text(), m_tokens, m_names);
     markNames();
     collectClasses();
     collectTimes();
@@ -288,7 +290,8 @@ void Reading::collectOpenVerb()
                                                                                        : 0;
         if (rank > best) {
             best = rank;
-            const bool once = token.length > 1 && m_sentence.text().at(token.end() - 1) == QChar(u'下');
+            const bool once =
+                token.length > 1 && QStringLiteral("下了").contains(m_sentence.text().at(token.end() - 1));
             const QChar last = m_sentence.text().at(token.end() - 1);
             const bool when = token.length > 2 && (last == QChar(u'到') || last == QChar(u'在'));
             const int length = once ? 1 : token.length - (when ? 1 : 0); // 约 in 约一下, 安排 in 安排到

@@ -54,6 +54,8 @@ public:
     /// 今天 and 明天 in one sentence.
     bool namesTwoDays() const { return m_daysDiffer; }
     bool hasDoubtfulName() const;
+    /// Where the clause begins that only says who is meant by a later 她 (沈佳掉线了，拉一下她); -1 for none.
+    int introduction() const { return m_introduction; }
     /// 来我办公室: somebody is to come, but to no conference.
     bool isElsewhere() const { return !m_elsewhere.isEmpty(); }
     /// 薛宝钗那边也叫上: somebody is called, but nobody was found.
@@ -97,6 +99,7 @@ private:
     TimeExpression m_time;
     int m_timeCount = 0;
     int m_clockCount = 0;
+    int m_introduction = -1;
     bool m_numberCutOff = false;
     bool m_daysDiffer = false;
 };

@@ -5,6 +5,7 @@
 
 #include "text/scan.h"
 #include "words/joinreader.h"
+#include "words/questionreader.h"
 #include "words/topicreader.h"
 
 #include <algorithm>
@@ -167,6 +168,7 @@ bool isDue(const QString &text, const Tokens &tokens, std::size_t verb)
 
 void settleOpening(const QString &text, Tokens &tokens)
 {
+    bool wanted = false; // by more than 把
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         Token &token = tokens[at];
         if (token.is(WordClass::StrongOpen)) {
@@ -181,7 +183,14 @@ void settleOpening(const QString &text, Tokens &tokens)
         if (token.is(WordClass::GoverningOpen) && !governsConference(text, tokens, at)) {
             token.classes.remove(WordClass::GoverningOpen);
         }
-        if (!token.is(WordClass::WeakOpen)) {
+        wanted = wanted || (token.is(WordClass::Request) && !token.is(WordClass::Trigger));
+        const bool disposed = at > 1 && wanted && tokens[at - 1].is(WordClass::Conference) && // 把会开了
+                              text.at(tokens[at - 2].end() - 1) == QChar(u'把') &&
+                              startsAt(text, token.position, QStringLiteral("开了"));
+        if (disposed) {
+            token.classes = WordClass::WeakOpen;
+        }
+        if (!token.is(WordClass::WeakOpen) || disposed) {
             continue;
         }
         const bool insideName = at > 1 && tokens[at - 1].kind == Token::Kind::Other &&
@@ -321,43 +330,6 @@ void settleWishes(const QString &text, Tokens &tokens)
             behind = WordClasses();
         } else {
             behind.add(token.classes);
-        }
-    }
-}
-
-/// 明天三点开会如何 proposes, 如何开会 asks for help.
-void settleQuestions(const QString &text, Tokens &tokens)
-{
-    // 呢 in 七点半呢，跟张伟开个会 only gives time to think.
-    for (std::size_t at = 1; at + 2 < tokens.size(); ++at) {
-        if (tokens[at].is(WordClass::QuestionParticle) && tokens[at - 1].kind == Token::Kind::Time &&
-            tokens[at + 1].is(WordClass::Punctuation)) {
-            tokens[at].classes.remove(WordClass::QuestionParticle);
-        }
-    }
-    // 客户等着呢 and 开着车呢 beside an order are asides.
-    constexpr WordClasses asked = WordClass::Conference | WordClass::Have | WordClass::Query |
-                                  WordClass::Question | WordClass::Schedule | WordClass::Next;
-    bool asks = false; // in this clause
-    for (Token &token : tokens) {
-        if (token.is(WordClass::QuestionParticle) && !asks && text.at(token.position) == QChar(u'呢')) {
-            token.classes.remove(WordClass::QuestionParticle);
-        }
-        asks = (asks || token.isAny(asked)) && !token.is(WordClass::Punctuation);
-    }
-    // 还是明天下午开会吧 decides; only behind a first choice it asks.
-    for (Token &token : tokens) {
-        if (token.is(WordClass::EitherOr) || token.kind == Token::Kind::Time) {
-            if (token.kind != Token::Kind::Time) {
-                token.classes.remove(WordClass::EitherOr);
-            }
-            break;
-        }
-    }
-    for (std::size_t at = 0; at < tokens.size(); ++at) {
-        if (tokens[at].is(WordClass::HowTo) && tokens[at].is(WordClass::Filler) &&
-            isAtClauseEnd(tokens, at + 1)) {
-            tokens[at].classes.remove(WordClass::HowTo);
         }
     }
 }

@@ -144,6 +144,9 @@ int headLength(const QString &name)
         return name.size();
     }
     for (int at = 2; at < name.size(); ++at) {
+        if (name.at(at) == name.at(0) && isSurnameWithTitle(name.mid(at)) && isPersonsName(name.left(at))) {
+            return at; // 于谦于老师
+        }
         if (verbs.contains(name.at(at)) && isPersonsName(name.left(at))) {
             return at;
         }
@@ -156,6 +159,9 @@ bool isLikelyName(const QString &name)
     constexpr int longestName = 5; // 乌兰图雅
     static const QString strange =
         QStringLiteral("薅去说吃喝打看做写送聊谈让叫喊呗请找搞问想要进入把给是没不了过吗呢吧的");
+    if (name.contains(QChar(u'俩')) || name.contains(QChar(u'仨'))) { // 法务那俩律师
+        return false;
+    }
     const bool latin =
         std::any_of(name.cbegin(), name.cend(), [](QChar character) { return character.unicode() < 0x250; });
     if (latin || name.contains(QChar(u'·')) || isPersonsName(name) || endsWithRole(name)) {

@@ -62,15 +62,17 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
         return;
     }
     const int head = headLength(name);
-    const QString behind = name.mid(head); // 吃饭 in 叫张伟吃饭
-    const bool cut = withoutParticles(QStringLiteral("的的") + behind).size() > 2 ||
-                     (behind.size() > 1 && !withoutParticles(behind).isEmpty());
+    const QString behind = name.mid(head);          // 吃饭 in 叫张伟吃饭
+    const bool titled = isSurnameWithTitle(behind); // 于老师 in 于谦于老师
+    const bool cut = !titled && (withoutParticles(QStringLiteral("的的") + behind).size() > 2 ||
+                                 (behind.size() > 1 && !withoutParticles(behind).isEmpty()));
     name.truncate(head);
     static const QString leads = QStringLiteral("约人"); // 约约王磊, 邀请人宋阳
     if (name.size() > 2 && leads.contains(name.at(0)) && isPersonsName(name.mid(1))) {
         name = name.mid(1);
     }
     const int offset = chunk.lastIndexOf(name);
+    const bool described = modifier > 0 || m_modifierStart >= 0; // 云薇 in 、运维组的云薇
     const std::size_t before = m_names.size();
     if (modifier > 0 && isPersonsName(name)) {
         addOne(start + offset, name.size(), called);
@@ -83,7 +85,7 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
     }
     for (std::size_t at = before; at < m_names.size(); ++at) {
         const QString &found = m_names[at].name;
-        const bool strange = m_listed && !looksLikeName(found) && !isModifier(found);
+        const bool strange = m_listed && !described && !looksLikeName(found) && !isModifier(found);
         const bool ofConference =
             end < m_text.size() && Lexicon::instance()
                                        .longestAt(m_text, end)

@@ -109,10 +109,8 @@ bool NamePlaces::isAddressBeforeName(std::size_t at) const
         return false;
     }
     const Token &next = m_tokens[at + 1];
-    static const QString owners = QStringLiteral("我咱俺你您他她"); // 我弟 stands only before a name
     constexpr int longest = 3;
-    return owners.contains(m_text.at(m_tokens[at].position)) || next.kind == Token::Kind::Name ||
-           next.kind == Token::Kind::Latin ||
+    return m_tokens[at].inModifier || next.kind == Token::Kind::Name || next.kind == Token::Kind::Latin ||
            (next.kind == Token::Kind::Other &&
             isPersonsName(m_text.mid(next.position, qMin(next.length, longest))));
 }
@@ -157,6 +155,15 @@ bool NamePlaces::isPrefixOfLatin(std::size_t at) const
     return at + 1 < m_tokens.size() && m_tokens[at].length == 1 && m_tokens[at].kind == Token::Kind::Other &&
            looksLikeName(m_text.mid(m_tokens[at].position, 1) + QChar(u'子')) &&
            m_tokens[at + 1].kind == Token::Kind::Latin && m_tokens[at + 1].position == m_tokens[at].end();
+}
+
+bool NamePlaces::isSurnameBehind(std::size_t latin) const
+{
+    const std::size_t next = latin + 1;
+    return next < m_tokens.size() && m_tokens[next].kind == Token::Kind::Other &&
+           m_tokens[next].length == 1 && m_tokens[next].position == m_tokens[latin].end() &&
+           isPersonsName(m_text.mid(m_tokens[next].position, 1) + QChar(u'子')) &&
+           (next + 1 == m_tokens.size() || !m_tokens[next + 1].is(WordClass::Title));
 }
 
 bool NamePlaces::startsCapital(std::size_t at) const

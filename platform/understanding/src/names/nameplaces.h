@@ -57,6 +57,8 @@ public:
     [[nodiscard]] bool isOnlyRelative(std::size_t at) const;
     /// 阿 in 阿Ken, 林 in 林Sir.
     [[nodiscard]] bool isPrefixOfLatin(std::size_t at) const;
+    /// 李 in Miss李.
+    [[nodiscard]] bool isSurnameBehind(std::size_t latin) const;
     [[nodiscard]] bool isMiddleDot(std::size_t at) const;
     /// 那个 in 外包那个Sergey, 人 in 鉴定人贾博文.
     [[nodiscard]] bool isPointer(std::size_t at) const;

@@ -87,6 +87,12 @@ std::size_t NameRunReader::takeLatinName(std::size_t at)
         return at;
     }
     const QString name = m_text.mid(start, m_tokens[last].end() - start);
+    if (m_places.isSurnameBehind(last)) { // Miss李, C罗
+        addOne(start, name.size() + 1, true);
+        m_names.back().start = m_modifierStart >= 0 ? m_modifierStart : start;
+        m_modifierStart = -1;
+        return last + 1;
+    }
     const bool nameFollows = last + 1 < m_tokens.size() && (m_tokens[last + 1].kind == Token::Kind::Name ||
                                                             m_tokens[last + 1].kind == Token::Kind::Other);
     if ((nameFollows && isModifier(name)) || m_places.isGroupOfNext(last)) {

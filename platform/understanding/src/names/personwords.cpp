@@ -30,7 +30,9 @@ bool nameBegins(const QString &text, const Tokens &tokens, std::size_t at, int p
     int end = token.end();
     const bool smallWord = token.kind == Token::Kind::Word && token.length == 1 && at + 1 < tokens.size() &&
                            tokens[at + 1].kind == Token::Kind::Other && !isLead(token); // 关丽
-    if (smallWord) {
+    const bool titled = token.kind == Token::Kind::Other && end - position == 1 && at + 1 < tokens.size() &&
+                        tokens[at + 1].is(WordClass::Title); // 蒲先生
+    if (smallWord || titled) {
         end = tokens[at + 1].end();
     } else if (token.kind != Token::Kind::Other) {
         return false;
@@ -63,7 +65,7 @@ public:
     {
         m_joined.reserve(m_tokens.size());
         while (m_at < m_tokens.size()) {
-            if (!joinGroup() && !joinRelative() && !takeJob()) {
+            if (!joinGroup() && !joinRelative() && !joinOwner() && !takeJob()) {
                 m_joined.push_back(m_tokens[m_at++]);
             }
         }
@@ -192,11 +194,95 @@ private:
             return false;
         }
         m_joined.push_back(wordUntil(end, WordClass::Address));
+        m_joined.back().inModifier = true;
         m_relativeEnd = m_tokens[last].end();
         m_tokens[last].length = m_tokens[last].end() - end;
         m_tokens[last].position = end;
         m_at = last;
         return true;
+    }
+
+    /// True for what may stand in a description that ends with 的: 上次来, 做视频, but no name and no time.
+    bool describes(std::size_t at) const
+    {
+        const Token &token = m_tokens[at];
+        constexpr WordClasses never = WordClass::Punctuation | WordClass::Negation | WordClass::Query |
+                                      WordClass::Question | WordClass::Topic | WordClass::Arrive |
+                                      WordClass::Request | WordClass::Filler;
+        const bool separates =
+            token.isAny(WordClass::Separator | WordClass::Trigger) && !token.is(WordClass::WeakTrigger);
+        return (token.kind == Token::Kind::Other || token.kind == Token::Kind::Word ||
+                token.kind == Token::Kind::Latin) &&
+               !token.isAny(never) && !separates;
+    }
+
+    /// The place of the name that @p at begins with, or that follows what tells of somebody: 那位, 谈判代表.
+    std::size_t nameFrom(std::size_t at, int &position) const
+    {
+        constexpr std::size_t farthest = 4;
+        if (at < m_tokens.size() && nameBegins(m_text, m_tokens, at, position)) {
+            return at;
+        }
+        const std::size_t end = qMin(m_tokens.size(), at + farthest);
+        for (std::size_t next = at; next + 1 < end; ++next) {
+            const Token &token = m_tokens[next];
+            const bool kinds = token.kind == Token::Kind::Other || token.kind == Token::Kind::Word;
+            if (!kinds || token.isAny(WordClass::Punctuation | WordClass::Separator | WordClass::Arrive)) {
+                return m_tokens.size();
+            }
+            if (token.isAny(WordClass::Title | WordClass::Nobody) && token.length > 1 &&
+                nameBegins(m_text, m_tokens, next + 1, token.end())) {
+                position = token.end();
+                return next + 1;
+            }
+        }
+        return m_tokens.size();
+    }
+
+    /// 视频组的 in 约视频组的史小平, 上次来的那位 in 跟上次来的那位蒲先生: words of the rules describe
+    /// somebody.
+    bool joinOwner()
+    {
+        constexpr int longest = 10;
+        constexpr WordClasses speakers = WordClass::Nobody | WordClass::Mine | WordClass::Measure;
+        const Token &first = m_tokens[m_at];
+        const bool person =
+            first.kind == Token::Kind::Other && nameBegins(m_text, m_tokens, m_at, first.position);
+        if (!isBehindLead() || first.isAny(speakers) || person || !meets()) {
+            return false;
+        }
+        bool word = false;
+        for (std::size_t at = m_at; at < m_tokens.size() && describes(at); ++at) {
+            const Token &token = m_tokens[at];
+            const int of = token.kind == Token::Kind::Other
+                               ? m_text.midRef(token.position, token.length).indexOf(QChar(u'的'))
+                               : -1;
+            if (token.end() - first.position > longest + token.length) {
+                return false;
+            }
+            if (of < 0) {
+                word = word || (token.kind == Token::Kind::Word && token.length > 1);
+                continue;
+            }
+            int position = token.position + of + 1;
+            std::size_t name = nameFrom(position < token.end() ? at : at + 1, position);
+            static const QString offices = QStringLiteral("部门组处科室班队院校");
+            const int left = token.end() - position;
+            if (offices.contains(charAt(m_text, position - 2)) && (left == 2 || left == 3)) { // 开发组的凯文
+                name = at;
+                position = token.position + of + 1;
+            }
+            if (!word || name == m_tokens.size()) {
+                return false;
+            }
+            m_joined.push_back(wordUntil(position, WordClass::Address));
+            m_joined.back().inModifier = true;
+            m_tokens[name].length = m_tokens[name].end() - position;
+            m_tokens[name].position = position;
+            m_at = name;
+            return true;
+        }
+        return false;
     }
 
     /// 翻译 in 让翻译小阮进会 describes somebody, in 翻译一下 it is a request.

@@ -26,7 +26,8 @@ void Clause::survey()
             m_firstSaid = qMin(m_firstSaid, at);
             m_lastSaid = at;
         }
-        if (!token.inTopic && token.isAny(WordClass::IdLabel | WordClass::Conference) &&
+        if (!token.inTopic &&
+            (token.isAny(WordClass::IdLabel | WordClass::Conference) || token.kind == Token::Kind::Number) &&
             charAt(text, token.position - 1) == QChar(u'的')) {
             m_numberOwned = at;
         }
@@ -89,8 +90,11 @@ bool Clause::isExplained(std::size_t at) const
         return token.inName || m_intent == QLatin1String(AddBuddy) ||
                m_intent == QLatin1String(EnterConferenceById) || isDescription(at) || isBeforeConference(at);
     case Token::Kind::Word:
-        return (m_isQuery && token.is(WordClass::Framed)) || token.inName || token.isAny(m_allowed.beside) ||
-               isNothing(token) || isDescription(at) || isAddress(at);
+        return (m_isQuery && token.is(WordClass::Framed)) ||
+               (m_isQuery && token.is(WordClass::Plain) &&
+                m_reading.hasAny(WordClass::QuestionParticle | WordClass::Query)) ||
+               token.inName || token.isAny(m_allowed.beside) || isNothing(token) || isDescription(at) ||
+               isAddress(at);
     case Token::Kind::Other:
         return token.inName || isNothing(token) || isDescription(at) || isTitleBeforeVerb(at) ||
                isPreamble(at) || isOfNumber(at) ||

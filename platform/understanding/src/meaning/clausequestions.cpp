@@ -42,7 +42,8 @@ bool Clause::isOtherQuestion() const
                           (!m_reading.names().empty() || m_reading.timeCount() == 0);
     constexpr WordClasses asking = WordClass::Query | WordClass::Question | WordClass::QuestionParticle;
     const bool reported = !m_reading.hasAny(asking) && any([&](std::size_t at) { // 昨天的会没开完, not 没会
-        const bool none = at + 1 < m_end && m_tokens[at + 1].is(WordClass::Conference);
+        const bool none = at + 1 < m_end && m_tokens[at + 1].is(WordClass::Conference) &&
+                          m_end == m_tokens.size(); // 没会，可以睡懒觉
         return m_tokens[at].is(WordClass::Reported) && !none;
     });
     return uncalled || others || settled || proposed || reported || asksAboutConference() ||

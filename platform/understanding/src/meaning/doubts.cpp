@@ -288,17 +288,19 @@ bool asksAbility(const Reading &reading)
 /// 下次开会记得叫我, 有空一起开会啊, 我先开会, 会议三点到五点: sets no time, or gives no order.
 bool onlySpeaksOf(const Reading &reading)
 {
-    if (!reading.names().empty() || reading.has(WordClass::Request)) {
+    const QString &text = reading.sentence().text();
+    const bool nextTime = text.startsWith(QStringLiteral("下次")) || text.startsWith(QStringLiteral("下回"));
+    if (reading.has(WordClass::Request) ||
+        (!reading.names().empty() && !(nextTime && reading.timeSaid().isEmpty()))) {
         return false;
     }
-    const QString &text = reading.sentence().text();
     const bool bare = reading.openVerb().isEmpty() && text.startsWith(QStringLiteral("会议")) &&
                       !text.startsWith(QStringLiteral("会议预"));
     if (!reading.timeSaid().isEmpty()) {
         return bare && reading.tokens().size() <= 3;
     }
     return text.contains(QStringLiteral("下次")) || text.contains(QStringLiteral("有空")) ||
-           text.startsWith(QStringLiteral("我先"));
+           text.contains(QStringLiteral("会别")) || text.startsWith(QStringLiteral("我先"));
 }
 
 /// 帮我把会议室退了: a room is given back.

@@ -9,6 +9,8 @@
 #include "meaning/suspicions.h"
 #include "time/timeresolver.h"
 
+#include <algorithm>
+
 namespace understanding {
 
 namespace {
@@ -36,8 +38,16 @@ QString problemAnswer(ResolvedTime::Problem problem)
 
 void fillNames(Outcome &outcome, const Reading &reading)
 {
+    constexpr int listed = 2; // 张伟、张伟 are two people, 曹总后天有空，帮我跟曹总约个会 names one
+    int end = 0;              // of the name before
     for (const FoundName &name : reading.names()) {
-        outcome.addSlot(NameSlot, name.said, name.name);
+        const bool again = outcome.hasSlot(NameSlot) && name.position - end > listed &&
+                           std::any_of(outcome.slotList.cbegin(), outcome.slotList.cend(),
+                                       [&](const Slot &slot) { return slot.normValue == name.name; });
+        if (!again) {
+            outcome.addSlot(NameSlot, name.said, name.name);
+        }
+        end = name.position + name.said.size();
     }
     outcome.needsName = callsByAddressOnly(reading) || callsNumber(reading);
 }

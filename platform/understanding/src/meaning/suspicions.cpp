@@ -48,8 +48,8 @@ bool isLeftByOther(const Reading &reading)
             (tokens[at + 1].inName ||
              (tokens[at + 1].is(WordClass::Nobody) && everybody.contains(text.at(tokens[at + 1].position))) ||
              tokens[at + 1].is(WordClass::Actor) || tokens[at + 1].is(WordClass::Title));
-        const bool noun = token.is(WordClass::Close) && token.end() + 1 < text.size() &&
-                          text.at(token.end()) == QChar(u'的');
+        const bool noun =
+            token.is(WordClass::Close) && token.end() < text.size() && text.at(token.end()) == QChar(u'的');
         const bool moved = moving.contains(text.at(token.end() - 1)) && isOther(reading, at + 1);
         if ((((calls.contains(word) && other) || moved) && !token.inName) || noun) {
             return true;
@@ -133,6 +133,17 @@ static bool isWhether(const QString &text, const Token &token)
     return token.kind == Token::Kind::Other && token.length != 2 && text.at(token.position) == QChar(u'若');
 }
 
+/// True when a later clause than the one at @p at says the hour.
+static bool isTimedLater(const Tokens &tokens, std::size_t at)
+{
+    bool later = false;
+    return std::any_of(tokens.cbegin() + static_cast<std::ptrdiff_t>(at), tokens.cend(),
+                       [&](const Token &token) {
+                           later = later || token.is(WordClass::Punctuation);
+                           return later && token.time.hasClock;
+                       });
+}
+
 bool isConditional(const Reading &reading)
 {
     static const QStringList conditions = {
@@ -158,8 +169,8 @@ bool isConditional(const Reading &reading)
         if (told && ((begins && isWhether(text, token)) || endsCondition(reading, begin, at))) {
             return true;
         }
-        // 等张伟回来再开会, but 把老林拉进来，等他半天了
-        if (told && waits && !timed &&
+        // 等张伟回来再开会, but neither 等孩子睡了，今晚十点开会 nor 把老林拉进来，等他半天了
+        if (told && waits && !timed && !isTimedLater(tokens, at) &&
             std::any_of(tokens.cbegin() + static_cast<std::ptrdiff_t>(at), tokens.cend(), isDeed)) {
             return true;
         }

@@ -67,11 +67,11 @@ int subjectLength(const QString &text, int position, int end)
         }
         const int behind = position + length;
         if (behind == end ||
-            firstOf(text, behind, {u"说", u"掉", u"断",   u"卡",   u"退",  u"有",   u"没",   u"在", u"能",
-                                   u"还", u"要", u"想",   u"也",   u"来",  u"那边", u"这边", u"呢", u"怎么",
-                                   u"懂", u"熟", u"知道", u"等",   u"已",  u"刚",   u"今",   u"明", u"后天",
-                                   u"下", u"上", u"方便", u"负责", u"是",  u"最",   u"比较", u"忘", u"和",
-                                   u"跟", u"、", u"空",   u"清楚", u"了解"}) > 0) {
+            firstOf(text, behind, {u"说",   u"掉", u"断", u"卡",   u"退",   u"有",  u"没",   u"不",   u"在",
+                                   u"能",   u"还", u"要", u"想",   u"也",   u"来",  u"那边", u"这边", u"呢",
+                                   u"怎么", u"懂", u"熟", u"知道", u"等",   u"已",  u"刚",   u"今",   u"明",
+                                   u"后天", u"下", u"上", u"方便", u"负责", u"是",  u"最",   u"比较", u"忘",
+                                   u"和",   u"跟", u"、", u"空",   u"清楚", u"了解"}) > 0) {
             return length;
         }
     }

@@ -50,9 +50,11 @@ bool endsWithRole(const QString &text)
 bool isModifier(const QString &text)
 {
     // 陪审员, 委托人, 供应处: whatever ends so tells what somebody does.
-    static const QString callings = QStringLiteral("员师长生人手者士部组处科室班队院校厂店社局所站方");
+    static const QString callings = QStringLiteral("师长生人手士班队社站方");
+    static const QString inNoName = QStringLiteral("员者部组处科室院校厂店局所"); // 公证员
+    const QChar last = text.isEmpty() ? QChar() : text.at(text.size() - 1);
     const bool calling =
-        text.size() > 2 && callings.contains(text.at(text.size() - 1)) && !isPersonsName(text);
+        text.size() > 2 && (inNoName.contains(last) || (callings.contains(last) && !isPersonsName(text)));
     return text.endsWith(QChar(u'的')) || ((calling || endsWithRole(text)) && !isSurnameWithTitle(text));
 }
 
@@ -78,6 +80,15 @@ int modifierLength(const QString &text)
     for (int length = qMin(longestForeign, rest.size() - 2); length >= shortestForeign; --length) {
         const int cut = rest.size() - length;
         if (isTransliterated(rest.mid(cut)) && isModifier(rest.left(cut))) {
+            return start + cut;
+        }
+    }
+    // 蓝海李工: what stands before somebody's title is where they work.
+    for (int length = 2; length <= 4 && rest.size() - length >= 2; ++length) {
+        const int cut = rest.size() - length;
+        const QString left = rest.left(cut);
+        const bool ofSomebody = isNamePrefix(left.at(0)) || isPersonsName(left.left(2)) || cut > 4;
+        if (!ofSomebody && isSurnameWithTitle(rest.mid(cut))) {
             return start + cut;
         }
     }

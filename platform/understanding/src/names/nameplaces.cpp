@@ -110,7 +110,10 @@ bool NamePlaces::isAddressBeforeName(std::size_t at) const
     }
     const Token &next = m_tokens[at + 1];
     constexpr int longest = 3;
-    return m_tokens[at].inModifier || next.kind == Token::Kind::Name || next.kind == Token::Kind::Latin ||
+    const bool titled = next.kind == Token::Kind::Other && next.length == 1 && at + 2 < m_tokens.size() &&
+                        m_tokens[at + 2].is(WordClass::Title); // 冯大爷
+    return m_tokens[at].inModifier || titled || next.kind == Token::Kind::Name ||
+           next.kind == Token::Kind::Latin ||
            (next.kind == Token::Kind::Other &&
             isPersonsName(m_text.mid(next.position, qMin(next.length, longest))));
 }

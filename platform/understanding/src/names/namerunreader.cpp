@@ -53,8 +53,9 @@ std::size_t NameRunReader::takeRun(std::size_t at, bool mustLookLikeName)
     }
     const QChar lastCharacter = run.at(run.size() - 1);
     const bool sir = startsAt(m_text, end, QStringLiteral("Sir"));
+    const bool apart = run.size() > 1 && run.at(run.size() - 2) == QLatin1Char('-'); // 测试-阿May
     if (nameFollows && (isNamePrefix(lastCharacter) || sir) &&
-        isModifier(run.chopped(1))) { // 设计师阿B, 法务的林Sir
+        (apart || isModifier(run.chopped(1)))) { // 设计师阿B, 法务的林Sir
         addOne(end - 1, m_tokens[next].end() - end + 1, true);
         m_names.back().start = m_modifierStart >= 0 ? m_modifierStart : start;
         m_modifierStart = -1;

@@ -48,7 +48,7 @@ bool nameBegins(const QString &text, const Tokens &tokens, std::size_t at, int p
     for (int length = 2; length <= qMin(longestName, end - position); ++length) {
         const QString name = text.mid(position, length);
         const bool doubled = length == 2 && name.at(0) == name.at(1); // 晓晓
-        if ((doubled || isPersonsName(name)) && !isThing(name)) {
+        if ((doubled || isPersonsName(name)) && !isThing(name) && !isRelative(name)) {
             return true;
         }
     }

@@ -5,6 +5,7 @@
 
 #include "text/scan.h"
 #include "words/joinreader.h"
+#include "words/kindreader.h"
 #include "words/questionreader.h"
 #include "words/topicreader.h"
 
@@ -345,6 +346,7 @@ void settleWords(const QString &text, Tokens &tokens)
     settleJoins(text, tokens);
     settleConferences(text, tokens);
     settleTopics(text, tokens);
+    settleKinds(text, tokens);
     settleOpening(text, tokens);
     settleCalls(text, tokens);
     settleArrivals(text, tokens);

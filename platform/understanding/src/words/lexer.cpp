@@ -133,8 +133,8 @@ private:
         // 博士 in 施博士后天, 叫 in 叫上官婉儿, 开会 in 开会时间, 清明 in 记不清明天, 不同意 in 不同意见,
         // 新年 in 新年度, 也别 in 也别忘了, 孙女 in 孙女士
         if (firstOf(m_text, last,
-                    {u"后天", u"上官", u"时间", u"明天", u"明早", u"明晚", u"明儿", u"约翰", u"约瑟", u"意见",
-                     u"年度", u"别忘", u"女士"}) > 0) {
+                    {u"后天", u"上官", u"时间", u"明天", u"明早", u"明晚", u"明儿", u"约翰", u"约瑟", u"上午",
+                     u"好友", u"意见", u"年度", u"别忘", u"女士"}) > 0) {
             return true;
         }
         const bool descendant = firstOf(m_text, m_at, {u"孙子", u"孙女"}) == word.length; // 孙 in 孙子涵

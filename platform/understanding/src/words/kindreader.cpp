@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "words/kindreader.h"
+
+#include "text/scan.h"
+
+#include <algorithm>
+
+namespace understanding {
+
+namespace {
+
+constexpr int LongestKind = 12;     // in characters
+constexpr int ShortestCompound = 3; // 评审会, unlike 会 and 会议, is what somebody opens
+
+/// What an order means only outside the name of a conference.
+constexpr WordClasses Misleading =
+    WordClass::Change | WordClass::Cancel | WordClass::Unsupported | WordClass::Framed | WordClass::Reported |
+    WordClass::Close | WordClass::Join | WordClass::Query | WordClass::Have | WordClass::Actor |
+    WordClass::Lunar | WordClass::HowTo | WordClass::Schedule | WordClass::Plain;
+
+/// True for 开 and 约个, behind which the kind of a conference may stand.
+bool opensKind(const QString &text, const Tokens &tokens, std::size_t at)
+{
+    static const QString verbs = QStringLiteral("开建约办搞做拉");
+    const Token &verb = tokens[at];
+    const bool opens = verb.is(WordClass::StrongOpen) || (verb.is(WordClass::WeakOpen) && verb.length == 1 &&
+                                                          verbs.contains(text.at(verb.position)));
+    const bool measured = at + 1 < tokens.size() && tokens[at + 1].is(WordClass::Measure);
+    return opens && !verb.inTopic && (measured || !verb.is(WordClass::Trigger));
+}
+
+/// True for 个 and 一场, false for 一下.
+bool counts(const QString &text, const Token &token)
+{
+    static const QString counting = QStringLiteral("个场次新");
+    return token.is(WordClass::Measure) && counting.contains(text.at(token.end() - 1));
+}
+
+/// True if the token at @p at may be a part of the name of a conference.
+bool mayBeInKind(const QString &text, const Tokens &tokens, std::size_t at)
+{
+    constexpr WordClasses never = WordClass::Punctuation | WordClass::Nobody | WordClass::NameLabel |
+                                  WordClass::Negation | WordClass::Recurring | WordClass::EitherOr |
+                                  WordClass::Zone | WordClass::CloseAlone | WordClass::Measure |
+                                  WordClass::Mine | WordClass::Request | WordClass::Repair;
+    constexpr WordClasses verbs = WordClass::WeakOpen | WordClass::WeakJoin | WordClass::Query;
+    const Token &token = tokens[at];
+    const bool written = token.kind == Token::Kind::Other || token.kind == Token::Kind::Word ||
+                         token.kind == Token::Kind::Latin;
+    const bool calls =
+        token.isAny(WordClass::Trigger | WordClass::Separator) && !token.is(WordClass::StrongOpen);
+    const bool clock = firstOf(text, token.position, {u"时间", u"日期"}) > 0;
+    if (!written || calls || clock || token.isAny(never)) {
+        return false;
+    }
+    if (token.length > 1 || !token.isAny(Misleading | verbs)) {
+        return true;
+    }
+    // 退 in 退货流程会, 录 in 目录评审会
+    const bool joined = (at + 1 < tokens.size() && tokens[at + 1].kind == Token::Kind::Other) ||
+                        (at > 0 && tokens[at - 1].kind == Token::Kind::Other);
+    return joined && !token.isAny(verbs);
+}
+
+/// True if the conference at @p conference is of the kind that @p last ends.
+bool isOfKind(const QString &text, const Token &last, const Token &conference)
+{
+    const QChar behind = charAt(text, conference.end());
+    const QChar end = text.at(conference.end() - 1);
+    if (!conference.is(WordClass::Conference) || conference.is(WordClass::Join) || behind == QChar(u'室') ||
+        end == QChar(u'室') || last.end() != conference.position) {
+        return false;
+    }
+    if (conference.length >= ShortestCompound) {
+        return true;
+    }
+    // 建议收集会, 架构调整会, but neither 提前结束会议 nor 没意思的会
+    const bool noun = last.kind == Token::Kind::Other && text.at(last.end() - 1) != QChar(u'的');
+    return noun || (conference.length == 1 && last.is(WordClass::Change));
+}
+
+} // namespace
+
+void settleKinds(const QString &text, Tokens &tokens)
+{
+    const auto timed = [](const Token &token) {
+        return token.kind == Token::Kind::Time && !token.inTopic;
+    };
+    const bool dated = std::any_of(tokens.cbegin(), tokens.cend(), timed);
+    for (std::size_t verb = 0; verb + 2 < tokens.size(); ++verb) {
+        if (!opensKind(text, tokens, verb)) {
+            continue;
+        }
+        std::size_t begin = verb + 1;
+        while (begin < tokens.size() &&
+               (counts(text, tokens[begin]) || timed(tokens[begin]) ||
+                (tokens[begin].length == 1 && text.at(tokens[begin].position) == QChar(u'的')))) {
+            ++begin;
+        }
+        std::size_t end = begin;
+        while (end < tokens.size() && !tokens[end].is(WordClass::Conference) &&
+               tokens[end].end() - tokens[begin].position <= LongestKind && mayBeInKind(text, tokens, end)) {
+            ++end;
+        }
+        if (end == begin || end == tokens.size() || !isOfKind(text, tokens[end - 1], tokens[end])) {
+            continue;
+        }
+        const bool misleads = std::any_of(tokens.cbegin() + static_cast<std::ptrdiff_t>(begin),
+                                          tokens.cbegin() + static_cast<std::ptrdiff_t>(end),
+                                          [](const Token &token) { return token.isAny(Misleading); });
+        for (std::size_t at = begin; misleads && at < end; ++at) {
+            // 中秋活动筹备会 tells when only if nothing else does.
+            tokens[at].inTopic = tokens[at].inTopic || dated || !tokens[at].is(WordClass::Lunar);
+        }
+        verb = end;
+    }
+}
+
+} // namespace understanding

@@ -60,7 +60,7 @@ void TestSettingsWatch::aWriteIsTold()
         QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("organization")));
         QVERIFY(changed.wait());
     }
-    // Replaced and written in place, in turns: each is told.
+    // The signal comes both for a replaced file and for one written in place.
     for (int round = 0; round < 2; ++round) {
         replace(name, "22");
         QVERIFY(changed.wait());
@@ -92,7 +92,7 @@ void TestSettingsWatch::steadyWritesAreTold()
     QTimer writes;
     int round = 0;
     connect(&writes, &QTimer::timeout, this, [&] { replace(name, QByteArray::number(++round)); });
-    writes.start(5); // more often than a burst lasts
+    writes.start(5); // shorter than the watch's burst interval
     QVERIFY(changed.wait(2000));
     QVERIFY(changed.wait(2000));
 }
@@ -109,7 +109,7 @@ void TestSettingsWatch::whatHappensAboveTheFolderIsNotTold()
     QVERIFY(!changed.wait(300));
     replace(name, "22");
     QVERIFY(changed.wait());
-    // The folder goes, and comes again.
+    // The folder is removed and comes back.
     QVERIFY(QDir(folder.filePath(QStringLiteral("organization"))).removeRecursively());
     QVERIFY(changed.wait());
     QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("organization")));

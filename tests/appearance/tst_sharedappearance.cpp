@@ -15,7 +15,7 @@
 
 using Helper = LGuiApplicationHelper;
 
-/// Two programs of one desktop: the one that lets the user choose, and the one that follows.
+/// Two programs on one desktop: one lets the user choose the appearance, the other follows it.
 class TestSharedAppearance : public QObject
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ private Q_SLOTS:
 private:
     void write(const char *key, const QVariant &value) const
     {
-        // By the names, as another program has it.
+        // By the literal keys, as another program would write them.
         QSettings(m_file, QSettings::NativeFormat).setValue(QLatin1String(key), value);
     }
     static QColor window() { return QApplication::palette().color(QPalette::Window); }
@@ -172,7 +172,7 @@ void TestSharedAppearance::whatIsNoSettingsFileIsTheDefault()
                                                : ::mkdir(path.constData(), 0700),
                  0);
     }
-    ::alarm(20); // opening a pipe without care waits for ever
+    ::alarm(20); // a blocking open() of a pipe would hang forever
     const SharedAppearance appearance(m_file);
     ::alarm(0);
     QCOMPARE(appearance.theme(), SharedAppearance::System);
@@ -183,7 +183,7 @@ void TestSharedAppearance::whatIsNoSettingsFileIsTheDefault()
 void TestSharedAppearance::theDesksFileIsTheDesks()
 {
     const QString ours = SharedAppearance::deskSettingsFile();
-    // As the desk finds it, by its own names.
+    // The desk finds the file through its own organization and application names.
     QCoreApplication::setOrganizationName(DeskNames::Organization);
     QCoreApplication::setApplicationName(DeskNames::Application);
     QCOMPARE(QSettings().fileName(), ours);

@@ -6,7 +6,7 @@
 #include <QAccessible>
 #include <QStringList>
 
-/// What a screen reader would announce while it lives. One at a time.
+/// Records what a screen reader would announce during the object's lifetime. One at a time.
 class Announcements
 {
 public:

@@ -9,14 +9,14 @@
 
 #include <sys/types.h>
 
-/// The application's name on the session bus and its object for the administration.
+/// The application's name on the session bus, and the path of its administration object.
 inline const QString ServiceName = QStringLiteral("com.kelvane.meetlynx");
 inline const QString AdminPath = QStringLiteral("/com/kelvane/meetlynx/admin");
 
-/// How long a loaded machine may take to start a process, or to notice its end.
+/// How long a loaded machine may take to start a process or to notice its end (ms).
 constexpr int PatientMsecs = 30000;
 
-/// An answer of the application, as the ability library hands it over.
+/// The application's answer, as the ability library delivers it.
 struct Asked
 {
     int code = 1;
@@ -26,11 +26,11 @@ struct Asked
     QJsonObject conference() const { return answer.value(QLatin1String("list")).toArray().at(0).toObject(); }
 };
 
-/// Asks the application through the ability library; the bus starts it where it does not run. Any thread.
+/// Asks the application through the ability library; the bus starts it if necessary. Any thread.
 Asked ask(const QString &action, const QJsonObject &parameters = {}, int timeoutMsecs = PatientMsecs);
 
-/// 0 while the application does not run.
+/// Returns 0 while the application is not running.
 pid_t servicePid();
 
-/// Kills the application where it runs, and waits until the bus has noticed.
+/// Kills the application, if running, and waits until the bus has noticed.
 void killApplication();

@@ -12,9 +12,9 @@
 
 #include <functional>
 
-/// Brings the sample into the state that a row is about.
+/// Brings the sample into the state a row needs.
 using Arrange = std::function<void(SampleWorld &)>;
-/// The parameters of a row, which may name what the sample holds.
+/// Returns the parameters of a row, which may refer to the sample's contents.
 using Parameters = std::function<QJsonObject(SampleWorld &)>;
 Q_DECLARE_METATYPE(Arrange)
 Q_DECLARE_METATYPE(Parameters)
@@ -53,7 +53,7 @@ inline Parameters names(const QStringList &asked, qint64 startMsecs = 0)
     return fixed(parameters);
 }
 
-/// {"conferenceId": the id of the conference with that number, ...}
+/// Returns {"conferenceId": id of the conference with that number, ...}.
 inline Parameters conference(const char *dialNumber, const QJsonObject &more = {})
 {
     return [dialNumber, more](SampleWorld &world) {

@@ -7,7 +7,7 @@
 
 #include <QTest>
 
-// The actions by their names, and what they are asked and answer most often.
+// The actions' names, and their most common parameters and answers.
 
 const auto Create = QStringLiteral("Create Conference");
 const auto Invite = QStringLiteral("Invite Members");
@@ -36,7 +36,7 @@ inline void useFreeAccount(SampleWorld &world)
     QVERIFY(world.admin.Login(QStringLiteral("100002")));
 }
 
-/// A free account's conference takes ten: the host and up to nine others.
+/// Leaves one seat free: a free account's conference takes ten, the host and up to nine others.
 inline void startOneWithEight(SampleWorld &world)
 {
     useFreeAccount(world);

@@ -99,7 +99,7 @@ QVector<int> leavesOf(const QString &fileName, const QString &table)
         }
         return value;
     };
-    // Of an inner page each cell begins with the number of a page below, and its header holds the last one's.
+    // Each cell of an interior page begins with a child's page number; the header holds the last child's.
     const std::function<void(int)> collect = [&](int page) {
         const int start = (page - 1) * int(PageBytes);
         const int kind = number(start, 1);

@@ -9,30 +9,30 @@
 #include <QTemporaryDir>
 #include <QVector>
 
-/// The folder of an application's data, with no database in it yet.
+/// A folder for the application's data, without a database yet.
 struct DataFolder
 {
     QTemporaryDir root;
     QString file = root.filePath(QStringLiteral("kelvane-contacts/contacts.db"));
 
-    /// The names of the damaged databases, without the journals beside them.
+    /// Returns the names of the damaged databases, without their journals.
     QStringList setAside() const;
 };
 
-/// Always 7 March 2026, 10:20.
+/// Returns a clock that stands at 10:20 on 7 March 2026.
 ContactsBook::Clock fixedClock();
-/// The snapshot of the database in @p file, which is made when it is missing.
+/// Returns the snapshot of the database in @p file, creating it if it is missing.
 QString worldIn(const QString &file);
 /// Adds people with the ids p000000, p000001, ..., the accounts 9000000, ... and the names 第0位, ...
 void addPeople(ContactsBook &book, int count);
 
 constexpr qint64 PageBytes = 4096;
 
-/// Overwrites the bytes of @p name from @p from up to @p to with rubbish.
+/// Overwrites the bytes of @p name from @p from up to @p to with garbage.
 void overwrite(const QString &name, qint64 from, qint64 to);
-/// Overwrites one page; the first is number 1.
+/// Overwrites one page. Page numbers start at 1.
 void overwritePage(const QString &name, int page);
-/// Damages the first page of one table or index; all the others can be read.
+/// Overwrites the root page of one table or index; all other tables stay readable.
 void overwriteTable(const QString &fileName, const QString &table);
-/// The numbers of the pages that hold the rows of @p table, in the order of its key.
+/// Returns the leaf pages of @p table, in key order.
 QVector<int> leavesOf(const QString &fileName, const QString &table);

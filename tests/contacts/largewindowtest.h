@@ -14,8 +14,8 @@
 #include <memory>
 
 /**
- * The window over a hundred thousand conferences and as many contacts. Derive a test class from it: all its
- * functions share one window. Times are of the processor, in milliseconds.
+ * Base class of tests with a window over a hundred thousand conferences and as many contacts. All test
+ * functions of a class share one window. Times are CPU times in milliseconds.
  */
 class LargeWindowTest : public QObject
 {
@@ -29,18 +29,18 @@ protected:
     static constexpr int Count = 100000;
     static constexpr qint64 HourMsecs = 3600000;
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-    static constexpr double Slower = 10; // still far below one walk over everything
+    static constexpr double Slower = 10; // still far below one pass over everything
 #else
     static constexpr double Slower = 1;
 #endif
-    /// One frame at 60 a second.
+    /// One frame at 60 frames per second.
     static constexpr double MostShownMsecs = 16 * Slower;
 
-    /// What this thread has used, which a busy machine does not stretch.
+    /// Returns this thread's CPU time, which doesn't depend on the machine's load.
     static double threadMsecs();
 
     TablePage *page(int index) const;
-    /// What the window does when it follows a change, up to its painting; negative when it follows none.
+    /// Measures the window's update after a change, including painting. Negative if there is no update.
     double showMsecs();
 
     std::unique_ptr<SampleWorld> m_world;

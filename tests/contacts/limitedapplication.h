@@ -9,7 +9,7 @@
 
 #include <sys/resource.h>
 
-/// The application on a data folder. With @p roomBytes no file may grow beyond that size, as on a full disk.
+/// The application on a data folder. With @p roomBytes, no file may grow beyond that size, as on a full disk.
 class Application : public QProcess
 {
 public:

@@ -11,7 +11,7 @@ void RemindersTest::init()
 {
     m_log = std::make_unique<LogCapture>();
     m_world = std::make_unique<SampleWorld>();
-    // It runs already and would be reminded of at once.
+    // It is already running, so its reminder would come at once.
     QVERIFY(m_world->admin.SetConferenceState(QStringLiteral("880100001"), QStringLiteral("ended")));
     m_server = std::make_unique<NotificationServer>();
     restart();
@@ -36,7 +36,7 @@ void RemindersTest::addConference(const char *number, const char *title, qint64 
         m_world->admin.AddConference(QString::fromLatin1(number), QString::fromUtf8(title), host,
                                      m_world->nowMsecs + inMsecs, lastsMsecs, 10, QString(), {User, Friend});
     QVERIFY(!id.isEmpty());
-    // Told elsewhere, unless a test is about it.
+    // Drop the news of the invitation: tst_invitations covers it.
     QVERIFY(m_world->book.change([this] {
         m_world->book.reminders().forgetNews();
         return true;

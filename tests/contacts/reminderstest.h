@@ -18,9 +18,9 @@ inline const QString User = QStringLiteral("100001");
 inline const QString Friend = QStringLiteral("100003");
 
 /**
- * Notifications over a private bus. Derive a test class from it: each test function gets the sample, a server
- * that shows everything and has shown nothing yet, and a clock of the application's, so that nothing waits
- * for minutes.
+ * Base class of tests of notifications on a private bus. Each test function gets the sample, a server that
+ * shows everything and has shown nothing yet, and a clock that the test moves, so that nothing waits for
+ * minutes.
  */
 class RemindersTest : public QObject
 {
@@ -31,13 +31,13 @@ private Q_SLOTS:
     void cleanup();
 
 protected:
-    /// A conference of the user's with the friend, neither of them in it.
+    /// Adds a conference of the user and the friend, neither of whom has joined it.
     void addConference(const char *number, const char *title, qint64 inMsecs, qint64 lastsMsecs = HourMsecs,
                        const QString &host = User);
-    /// The friend invites the user to a conference of an hour.
+    /// Has the friend invite the user to a conference of one hour.
     void invite(const char *number, const char *title, qint64 inMsecs);
     void restart();
-    /// Lets the application look, and the server answer.
+    /// Makes the application look and waits for the server's answers.
     void settle();
     /// Moves the clock, then settles.
     void pass(qint64 msecs);

@@ -10,7 +10,7 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
-/// The sample directory in a database of its own, on 7 March 2026 at 10:20 unless the test moves the clock.
+/// The sample directory in a temporary database, at 10:20 on 7 March 2026 unless the test moves the clock.
 class SampleWorld
 {
 public:
@@ -20,7 +20,7 @@ public:
     QJsonObject ask(const QString &action, const QJsonObject &parameters);
     QJsonObject snapshot();
     QJsonArray conferences();
-    /// From the snapshot; empty for an unknown number.
+    /// Returns a conference from the snapshot; empty for an unknown number.
     QJsonObject conference(const QString &number);
     QString conferenceId(const QString &number);
 
@@ -30,7 +30,7 @@ public:
     Administration admin;
 };
 
-/// Milliseconds since the epoch of a local time "yyyy-MM-ddThh:mm".
+/// Converts a local time "yyyy-MM-ddThh:mm" to milliseconds since the epoch.
 qint64 at(const char *localTime);
-/// {"members": [{"name": ..., "userId": ""}]}
+/// Returns {"members": [{"name": ..., "userId": ""}]}.
 QJsonObject membersNamed(const QStringList &names);

@@ -5,7 +5,7 @@
 
 #include "core/statement.h"
 
-/// Who uses the application.
+/// The bar that shows and changes the user.
 class TestAccountBar : public ContactsWindowTest
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ void TestAccountBar::loggingInAndOutChangesWhatIsShown()
     m_fixture->click("logout");
     m_fixture->follow();
     QCOMPARE(m_fixture->conferences()->model()->rowCount(), 0);
-    // An empty table says so.
+    // An empty table shows a hint.
     const QImage hinted = m_fixture->conferences()->viewport()->grab().toImage();
     m_fixture->conferences()->setHint(QString());
     QVERIFY(m_fixture->conferences()->viewport()->grab().toImage() != hinted);
@@ -51,7 +51,7 @@ void TestAccountBar::whoCannotLogInIsNotShown()
 {
     auto *account = m_fixture->child<QComboBox>("account");
     const QString before = account->currentText();
-    // Gone since the list was read.
+    // The person is gone since the list was read.
     Statement(m_fixture->world->book.database().handle(),
               QStringLiteral("DELETE FROM person WHERE user_id = 'u200002'"))
         .run();

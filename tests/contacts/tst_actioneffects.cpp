@@ -11,7 +11,7 @@
 #include <QJsonDocument>
 #include <QtTest>
 
-/// What actions change in the sample directory, and what they answer beside their word.
+/// What actions change in the sample directory, and what they answer besides the outcome word.
 class TestActionEffects : public QObject
 {
     Q_OBJECT
@@ -189,7 +189,7 @@ void TestActionEffects::anUpdateIsAnsweredWithTheConference()
     QCOMPARE(changed.value(QLatin1String("startTime")).toDouble(), double(at("2026-03-08T12:00")));
     QCOMPARE(changed.value(QLatin1String("duration")).toInt(), 900000);
     QCOMPARE(changed.value(QLatin1String("participantLimit")).toInt(), 30);
-    // It is found at its new time and no longer at the old one.
+    // A search finds it at its new time only.
     QCOMPARE(ret(world.ask(Search, QJsonObject{{QStringLiteral("startTime"), at("2026-03-08T10:00")},
                                                {QStringLiteral("endTime"), at("2026-03-08T11:00")}})),
              QStringLiteral("Not Found"));
@@ -229,7 +229,7 @@ void TestActionEffects::namesThatWereAskedForComeBackClean()
     QVERIFY(world.admin.AddPerson(QStringLiteral("300001"), QStringLiteral("甲"), QStringLiteral("free")));
     QVERIFY(world.admin.AddPerson(QStringLiteral("300002"), QStringLiteral("乙"), QStringLiteral("free")));
     for (const char *account : {"300001", "300002"}) {
-        // As an older version, which took names as they came, may have stored it.
+        // Older versions stored names unchecked.
         Statement(world.book.database().handle(),
                   QStringLiteral("UPDATE person SET name = ? WHERE account = ?"))
             .bind(QString(override + QStringLiteral("孪生")))
@@ -287,7 +287,7 @@ void TestActionEffects::openingTheListShowsTheWindow()
     QSignalSpy wanted(&world.book, &ContactsBook::windowWanted);
     world.ask(Open);
     QCOMPARE(wanted.count(), 1);
-    // A program's request, such as that of a join from within another conference: its user may be typing.
+    // A program's request, such as joining while in another conference: its user may be typing.
     QCOMPARE(wanted.takeFirst().constFirst().value<WindowFocus>(), WindowFocus::Leave);
     world.ask(Open, {{QStringLiteral("askedBy"), QStringLiteral("user")}});
     QCOMPARE(wanted.takeFirst().constFirst().value<WindowFocus>(), WindowFocus::Take);
@@ -301,7 +301,7 @@ void TestActionEffects::aSearchWithoutParametersFindsEverythingFromNowOn()
     for (const QJsonValue &value : found) {
         numbers.append(value.toObject().value(QLatin1String("conferenceDialNumber")).toString());
     }
-    // By their start: the running one first, the ended one not at all.
+    // Sorted by start: the running one first, the ended one left out.
     QCOMPARE(numbers, QStringList({QStringLiteral("880100001"), QStringLiteral("880100005"),
                                    QStringLiteral("880100006"), QStringLiteral("880100007")}));
 }
@@ -339,7 +339,7 @@ void TestActionEffects::theOverviewTellsTheUserTheConferenceAndNoPasscode()
     QVERIFY(names().contains(QStringLiteral("赵磊")));
     QVERIFY(!names().contains(QStringLiteral("张伟")));
     QVERIFY(!names().contains(QStringLiteral("孟欣"))); // a stranger
-    // A remark makes a name mean two people.
+    // A remark makes the name ambiguous.
     QVERIFY(world.admin.AddContact(QStringLiteral("100001"), QStringLiteral("200001"), QStringLiteral("赵磊"),
                                    QStringLiteral("colleague")));
     QVERIFY(!names().contains(QStringLiteral("赵磊")));

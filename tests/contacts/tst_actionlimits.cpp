@@ -10,7 +10,7 @@
 #include <future>
 #include <thread>
 
-/// What limits an action: how often, how many, how late.
+/// Limits of an action: how often, how many, how late.
 class TestActionLimits : public QObject
 {
     Q_OBJECT
@@ -50,7 +50,7 @@ void TestActionLimits::anInvitationBeyondTheLimitInvitesNobody()
         Invite, membersNamed({QStringLiteral("朱红"), QStringLiteral("胡军"), QStringLiteral("赵磊")}));
     QCOMPARE(answer.value(QLatin1String("can_invite_num")).toInt(-1), 1);
     const QJsonArray left = answer.value(QLatin1String("not_join_list")).toArray();
-    QCOMPARE(left.size(), 2); // 赵磊 has a seat
+    QCOMPARE(left.size(), 2); // 赵磊 already has a seat
     QCOMPARE(left.at(0).toObject().value(QLatin1String("status")).toString(), QStringLiteral("OK"));
     QCOMPARE(left.at(0).toObject().value(QLatin1String("userId")).toString(), QStringLiteral("u100039"));
     QCOMPARE(ret(world.ask(Invite, membersNamed({QStringLiteral("朱红")}))), QStringLiteral("OK"));
@@ -89,7 +89,7 @@ void TestActionLimits::aClockThatIsSetBackLocksNobodyOut()
     world.nowMsecs -= dayMsecs;
     QCOMPARE(schedule(1), QStringLiteral("OK"));
     QCOMPARE(schedule(2), QStringLiteral("Conference Create Too Frequently"));
-    // What the clock noted while it was ahead does not come back when that time really comes.
+    // Creations noted while the clock was ahead don't count when that time really comes.
     world.nowMsecs += dayMsecs;
     QCOMPARE(schedule(3), QStringLiteral("OK"));
 }
@@ -123,7 +123,7 @@ void TestActionLimits::aRequestThatTakesTooLongIsUndone()
     const QJsonObject before = world.snapshot();
     const QString file = world.folder.filePath(QStringLiteral("contacts.db"));
     std::promise<void> locked;
-    // Somebody else writes until the deadline has passed.
+    // Another connection holds the write lock until the deadline has passed.
     std::thread other([&file, &locked] {
         const Database database(file);
         const Transaction transaction(database.handle());
@@ -145,7 +145,7 @@ void TestActionLimits::itIsKnownWhatWasPerformed()
     const auto perform = [&world](const QString &action, const QString &id) {
         return ret(QJsonDocument::fromJson(world.book.perform(action, QString(), {0, id}).toUtf8()).object());
     };
-    // What changes nothing need not be known.
+    // An action that changes nothing is not recorded.
     QCOMPARE(perform(Search, QStringLiteral("search")), QStringLiteral("OK"));
     QVERIFY(!world.book.wasPerformed(QStringLiteral("search")));
     QCOMPARE(perform(Create, QStringLiteral("first")), QStringLiteral("OK"));

@@ -9,7 +9,7 @@
 
 #include <QtTest>
 
-/// Every action against the sample directory: which word for which state.
+/// Every action against the sample directory: the outcome word for each state.
 class TestActions : public QObject
 {
     Q_OBJECT

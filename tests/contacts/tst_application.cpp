@@ -19,7 +19,7 @@ QString outcome(const QString &action)
 
 bool isAlive(pid_t pid)
 {
-    // A process that nobody has collected yet is dead all the same.
+    // A zombie counts as dead.
     QFile status(QStringLiteral("/proc/%1/stat").arg(pid));
     if (!status.open(QIODevice::ReadOnly)) {
         return false;
@@ -30,7 +30,7 @@ bool isAlive(pid_t pid)
 
 } // namespace
 
-/// The application as a process on its bus: administered, without a screen, without a bus.
+/// The application as a process: its administration on the bus, no screen, no bus.
 class TestApplication : public QObject
 {
     Q_OBJECT

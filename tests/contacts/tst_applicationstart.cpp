@@ -21,7 +21,7 @@ QString outcome(const QString &action)
     return ask(action).ret();
 }
 
-/// What the session starts the application with.
+/// Returns the arguments with which the session starts the application.
 QStringList autostartArguments()
 {
     const QSettings entry(QStringLiteral(CONTACT_SOURCE_DIR "/data/autostart/com.kelvane.meetlynx.desktop"),
@@ -33,7 +33,7 @@ QStringList autostartArguments()
 
 } // namespace
 
-/// The application's name on the bus, with what it is asked.
+/// Owns the application's name on the bus and records what it is asked.
 class RunningApplication : public QObject
 {
     Q_OBJECT
@@ -70,7 +70,7 @@ private:
     bool m_isThere = false;
 };
 
-/// How the application is started: by the user, by the bus, with the session to remind, and twice.
+/// Starting the application: by the user, by the bus, with the session for reminders, and twice.
 class TestApplicationStart : public QObject
 {
     Q_OBJECT
@@ -124,7 +124,7 @@ void TestApplicationStart::aStartInTheBackgroundOpensNoWindow()
 {
     QFETCH(QStringList, arguments);
     QFETCH(int, windowsWanted);
-    // The database that starting with the session asks for.
+    // Creates the database, without which a start with the session ends at once.
     QCOMPARE(outcome(QStringLiteral("Is Conference Host")), QStringLiteral("No Conference"));
     killApplication();
     QProcess first;
@@ -132,13 +132,13 @@ void TestApplicationStart::aStartInTheBackgroundOpensNoWindow()
     first.start(QStringLiteral(APPLICATION), arguments);
     QTRY_COMPARE_WITH_TIMEOUT(qint64(servicePid()), first.processId(), PatientMsecs);
     QCOMPARE(outcome(QStringLiteral("Is Conference Host")),
-             QStringLiteral("No Conference")); // past its start
+             QStringLiteral("No Conference")); // start-up is complete
     first.terminate();
     QVERIFY(first.waitForFinished());
-    // What Qt says here when a window comes up.
+    // Qt's offscreen platform says so when a window comes up.
     QCOMPARE(first.readAll().count("does not support raise()"), windowsWanted);
 
-    // Stands for an application that runs already.
+    // A stand-in for an already running application.
     RunningApplication running;
     QVERIFY(running.isThere());
     QProcess second;
@@ -152,7 +152,7 @@ void TestApplicationStart::aStartInTheBackgroundOpensNoWindow()
 
 void TestApplicationStart::aSessionStartsItToRemind()
 {
-    // What is due was made by an earlier session's application.
+    // An earlier session's application added the conference that is due.
     Admin1Proxy admin(ServiceName, AdminPath, QDBusConnection::sessionBus());
     QVERIFY(admin.LoadSample().value());
     QVERIFY(!admin
@@ -211,7 +211,7 @@ void TestApplicationStart::itRemindsAlsoWithoutAWindow()
 {
     Admin1Proxy admin(ServiceName, AdminPath, QDBusConnection::sessionBus());
     QVERIFY(admin.LoadSample().value());
-    // Only now: what an earlier function left in the database could be shown until it was replaced.
+    // Not earlier: it might show what a previous test function left in the database.
     const NotificationServer server;
     const auto mine = [&server] {
         return server.summaries().filter(QStringLiteral("设计"));
@@ -227,7 +227,7 @@ void TestApplicationStart::itRemindsAlsoWithoutAWindow()
     QTRY_COMPARE_WITH_TIMEOUT(mine().size(), 2, PatientMsecs);
     QVERIFY(QDateTime::currentMSecsSinceEpoch() >= start);
     QCOMPARE(mine().constLast(), QStringLiteral("设计讨论: starts now"));
-    // Killed and started again, it shows none of them once more.
+    // After a kill and a restart, it repeats none of them.
     killApplication();
     admin.SetFriendLimit(500).waitForFinished();
     QVERIFY(!admin

@@ -26,7 +26,7 @@ Component read(const QByteArray &text)
     return {icalparser_parse_string(text.constData()), &icalcomponent_free};
 }
 
-/// By the zone's rules in the file, not by what this machine knows of the zone.
+/// Converts a time by the zone's rules in the file, not by this machine's zone database.
 qint64 msecsOf(icalcomponent *calendar, icalcomponent *event, icalproperty_kind kind)
 {
     icalproperty *property = icalcomponent_get_first_property(event, kind);
@@ -45,7 +45,7 @@ int countOf(icalcomponent *component, icalcomponent_kind kind)
 
 } // namespace
 
-/// Files that another calendar library reads.
+/// Calendar files, read back with another library.
 class TestCalendar : public QObject
 {
     Q_OBJECT
@@ -76,7 +76,7 @@ void TestCalendar::anotherLibraryReadsIt_data()
     addRow("no summer time", "Asia/Shanghai", "2026-03-08T02:00:00Z", "20260308T100000");
     addRow("winter in Berlin", "Europe/Berlin", "2026-01-15T09:00:00Z", "20260115T100000");
     addRow("summer in Berlin", "Europe/Berlin", "2026-07-15T08:00:00Z", "20260715T100000");
-    // 01:30 comes twice that night; 02:00, the end, does not.
+    // 01:30 occurs twice that night, so the start is in UTC; the ends, 02:00 and 03:00, are unique.
     addRow("first 01:30 in New York", "America/New_York", "2026-11-01T05:30:00Z", "20261101T053000Z");
     addRow("second 01:30 in New York", "America/New_York", "2026-11-01T06:30:00Z", "20261101T063000Z");
     addRow("before it comes twice", "America/New_York", "2026-11-01T04:30:00Z", "20261101T003000");
@@ -120,7 +120,7 @@ void TestCalendar::anotherLibraryReadsIt()
              QStringLiteral("会议号：880100005\n主持人：王小明\n参加者：王小明、李娜"));
     QCOMPARE(msecsOf(calendar.get(), event, ICAL_DTSTART_PROPERTY), conference.startMsecs);
     QCOMPARE(msecsOf(calendar.get(), event, ICAL_DTEND_PROPERTY), conference.endMsecs());
-    QVERIFY2(text.contains(localTime.toLatin1()), text.constData()); // as the user's clock says it
+    QVERIFY2(text.contains(localTime.toLatin1()), text.constData()); // in the user's local time
     QCOMPARE(countOf(event, ICAL_VALARM_COMPONENT), 1);
     icalcomponent *alarm = icalcomponent_get_first_component(event, ICAL_VALARM_COMPONENT);
     const icaltriggertype trigger =
@@ -155,7 +155,7 @@ void TestCalendar::oddTitlesStayOneText()
     conference.durationMsecs = 60000;
     const Component calendar = ::read(calendarOf(conference, 5));
     QVERIFY(calendar);
-    QCOMPARE(countOf(calendar.get(), ICAL_ANY_COMPONENT), 2); // the zone and the event
+    QCOMPARE(countOf(calendar.get(), ICAL_ANY_COMPONENT), 2); // the time zone and the event
     icalcomponent *event = icalcomponent_get_first_component(calendar.get(), ICAL_VEVENT_COMPONENT);
     QCOMPARE(QString::fromUtf8(icalcomponent_get_summary(event)), read);
     QCOMPARE(icalcomponent_count_properties(event, ICAL_ATTACH_PROPERTY), 0);
@@ -174,7 +174,7 @@ void TestCalendar::theNextConferenceIsWritten()
     SampleWorld world;
     const QString file = world.folder.filePath(QStringLiteral("next.ics"));
     QVERIFY(exportConference(world.book, QString(), file));
-    QVERIFY(contentOf(file).contains("880100001")); // it runs
+    QVERIFY(contentOf(file).contains("880100001")); // the running one
     world.nowMsecs += 5 * 3600000LL;
     QVERIFY(world.book.change([&world] {
         world.book.reminders().setSettings({true, 20});
@@ -184,7 +184,7 @@ void TestCalendar::theNextConferenceIsWritten()
     const QByteArray text = contentOf(file);
     QVERIFY(text.contains("880100005"));
     QVERIFY2(text.contains("-PT20M"), text.constData());
-    // Not what one has declined.
+    // Conferences the user has declined are skipped.
     QVERIFY(world.book.change([&world] {
         const auto declined = world.book.conferences().byDialNumber(QStringLiteral("880100005"), QString());
         world.book.conferences().setAttendance(declined->id, QStringLiteral("u100001"), Attendance::Left);
@@ -255,7 +255,7 @@ void TestCalendar::theProgramWritesBesideARunningOne()
     QCOMPARE(
         run({QStringLiteral("--export"), file, QStringLiteral("--conference"), QStringLiteral("1")}, &output),
         4);
-    QVERIFY(contentOf(file).contains("880100005")); // what was there stays
+    QVERIFY(contentOf(file).contains("880100005")); // the previous file is kept
 }
 
 QTEST_GUILESS_MAIN(TestCalendar)

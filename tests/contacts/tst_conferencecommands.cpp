@@ -13,7 +13,7 @@
 #include <QGuiApplication>
 #include <QToolButton>
 
-/// What one does on the page of conferences, over the sample directory.
+/// The commands of the conferences page, over the sample directory.
 class TestConferenceCommands : public ContactsWindowTest
 {
     Q_OBJECT
@@ -67,7 +67,7 @@ void TestConferenceCommands::cancellingIsAskedAbout()
     QTest::keyClick(m_fixture->child<QPushButton>("refuse"), Qt::Key_Escape);
     QTRY_VERIFY(!isAsked());
     QCOMPARE(m_fixture->told(), before);
-    // Return, which is pressed without reading, keeps it.
+    // Return, often pressed without reading, keeps the conference.
     m_fixture->click("delete");
     QVERIFY(m_fixture->child<QPushButton>("refuse")->isDefault() &&
             !m_fixture->child<QPushButton>("agree")->isDefault());
@@ -75,7 +75,7 @@ void TestConferenceCommands::cancellingIsAskedAbout()
     QTRY_VERIFY(!isAsked());
     QCOMPARE(m_fixture->told(), before);
     QVERIFY(!m_fixture->world->conference(QStringLiteral("880100005")).isEmpty());
-    // It has ended when the answer comes.
+    // The conference ends before the question is answered.
     m_fixture->click("delete");
     m_fixture->world->admin.SetConferenceState(QStringLiteral("880100005"), QStringLiteral("ended"));
     m_fixture->click("agree");
@@ -109,13 +109,13 @@ void TestConferenceCommands::joiningAsksForThePasscode()
     QVERIFY(passcode->text().isEmpty());
     m_fixture->follow();
     m_fixture->selectNumber("880100004");
-    QVERIFY(!join->isEnabled()); // in another one
+    QVERIFY(!join->isEnabled()); // the user is in another one
     m_fixture->click("leave");
     QCOMPARE(m_fixture->told(), QStringLiteral("好的。"));
     m_fixture->follow();
     QVERIFY(!m_fixture->child<QPushButton>("leave")->isVisible());
     QVERIFY(join->isEnabled());
-    QVERIFY(!passcode->isVisible()); // open to everybody
+    QVERIFY(!passcode->isVisible()); // this one needs no passcode
 }
 
 void TestConferenceCommands::returnJoinsOnlyWhenTheButtonDoes()
@@ -138,7 +138,7 @@ void TestConferenceCommands::aPasscodeIsForOneConference()
     m_fixture->pick("scope", 1);
     m_fixture->selectNumber("880100002");
     QTest::keyClicks(passcode, QStringLiteral("135790"));
-    // The table begins anew, with the same conference chosen.
+    // The table is reset and keeps its selection.
     m_fixture->world->admin.SetFriendLimit(7);
     m_fixture->follow();
     QCOMPARE(passcode->text(), QStringLiteral("135790"));
@@ -155,7 +155,7 @@ void TestConferenceCommands::returnOpensTheRowWithTheFocus()
         const auto *detail = m_fixture->window->findChild<ConferenceDetail *>();
         return detail ? detail->findChild<QLabel *>(QStringLiteral("number"))->text() : QString();
     };
-    // The tab key makes the first row the current one, and selects none.
+    // Tab makes the first row current but selects nothing.
     m_fixture->child<QComboBox>("scope")->setFocus();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     QCOMPARE(QApplication::focusWidget(), m_fixture->conferences());
@@ -177,13 +177,13 @@ void TestConferenceCommands::returnAfterFoldingOpensTheRowWithTheFocus()
     m_fixture->selectNumber("880100005");
     disclosure->setChecked(true);
     m_fixture->child<QTableView>("endedTable")->selectRow(0);
-    // Back in the upper table, what its row says opens, not what is selected in the other.
+    // Back in the upper table, Return opens its current row, not the other table's selection.
     m_fixture->conferences()->setFocus();
     QTest::keyClick(m_fixture->conferences(), Qt::Key_Return);
     QCOMPARE(opened(), QStringLiteral("880100005"));
     QTest::keyClick(m_fixture->window->findChild<ConferenceDetail *>(), Qt::Key_Escape);
     QTRY_VERIFY(opened().isEmpty());
-    // Folding leaves nothing selected.
+    // Folding the lower table clears its selection.
     m_fixture->child<QTableView>("endedTable")->selectRow(0);
     disclosure->setChecked(false);
     m_fixture->conferences()->setFocus();
@@ -193,7 +193,7 @@ void TestConferenceCommands::returnAfterFoldingOpensTheRowWithTheFocus()
 
 void TestConferenceCommands::nothingHappensWithoutAConference()
 {
-    // A disabled action can still be triggered by the program.
+    // QAction::trigger() works on disabled actions, too, so the slots have to check.
     const QJsonObject before = m_fixture->world->snapshot();
     for (const char *name : {"open", "join", "start", "end", "delete", "copyNumber", "export"}) {
         auto *action = m_fixture->child<QAction>(name);
@@ -210,7 +210,7 @@ void TestConferenceCommands::startingWhatHasBeenStartedSaysSo()
     m_fixture->selectNumber("880100005");
     auto *start = m_fixture->child<QAction>("start");
     QVERIFY(start->isEnabled());
-    // The window follows a moment later.
+    // The window doesn't know yet: it follows a moment later.
     QVERIFY(
         m_fixture->world->admin.SetConferenceState(QStringLiteral("880100005"), QStringLiteral("running")));
     m_fixture->world->nowMsecs += 5 * MinuteMsecs;
@@ -278,7 +278,7 @@ void TestConferenceCommands::whatCannotBeDoneIsDisabled()
         }
     }
     QCOMPARE(enabled, possible);
-    // The menu offers the same.
+    // The context menu offers the same actions.
     QStringList offered;
     const QList<QAction *> actions = m_fixture->conferences()->actions();
     for (const QAction *action : actions) {
@@ -312,7 +312,7 @@ void TestConferenceCommands::aConferenceIsExportedFromTheMenu()
     QVERIFY(written.readAll().contains("880100005"));
     QCOMPARE(m_fixture->told(), QStringLiteral("已导出到 %1。").arg(written.fileName()));
 
-    // Cancelled meanwhile.
+    // The conference is cancelled while the dialog is open.
     m_fixture->child<QAction>("export")->trigger();
     QVERIFY(dialog());
     m_fixture->world->ask(QStringLiteral("Delete Conference"),

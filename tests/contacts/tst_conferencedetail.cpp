@@ -15,7 +15,7 @@
 #include <QToolButton>
 #include <QTreeWidget>
 
-/// The dialog that shows one conference, and lets its host change it.
+/// The dialog that shows a conference and lets its host change it.
 class TestConferenceDetail : public ContactsDialogTest<ConferenceDetail>
 {
     Q_OBJECT
@@ -71,7 +71,7 @@ void TestConferenceDetail::returnAndADoubleClickOpenIt()
     QCOMPARE(field<QLabel>("number")->text(), QStringLiteral("880100001"));
     QTest::keyClick(dialog(), Qt::Key_Escape);
     QTRY_VERIFY(!dialog());
-    // Of those that have ended, too.
+    // It opens for ended conferences, too.
     m_fixture->child<QToolButton>("ended")->click();
     auto *ended = m_fixture->child<QTableView>("endedTable");
     ended->selectRow(0);
@@ -128,7 +128,7 @@ void TestConferenceDetail::aHostChangesEverything()
     QCOMPARE(after.participantLimit, 33);
     QCOMPARE(after.passcode, QStringLiteral("77"));
     QTRY_COMPARE(m_fixture->cell(1, ConferenceModel::Title), QStringLiteral("周会"));
-    // What was stored is what the dialog opens with.
+    // Reopened, the dialog shows what was stored.
     open("880100005");
     QCOMPARE(field<QLineEdit>("passcodeText")->text(), QStringLiteral("77"));
     QVERIFY(!field<QPushButton>("save")->isEnabled());
@@ -138,7 +138,7 @@ void TestConferenceDetail::aHostChangesEverything()
 
 void TestConferenceDetail::onlyWhatWasEditedIsSent()
 {
-    // A start with seconds, and a duration that is no whole number of minutes.
+    // Values that the fields can't show: a start with seconds, a duration that is no whole number of minutes.
     const qint64 start = m_fixture->world->nowMsecs + 10 * 24 * 60 * MinuteMsecs + 12345;
     QVERIFY(!m_fixture->world->admin
                  .AddConference(QStringLiteral("1"), QStringLiteral("旧名"), QStringLiteral("100001"), start,
@@ -158,7 +158,7 @@ void TestConferenceDetail::onlyWhatWasEditedIsSent()
 
 void TestConferenceDetail::aLongPasscodeIsKeptWhenItIsNotEdited()
 {
-    // Longer than what the field takes, from a former database.
+    // Longer than the field allows, as older databases may hold.
     const QString passcode = QStringLiteral("1234567890123456789012345");
     QVERIFY(m_fixture->world->book.change([this, &passcode] {
         m_fixture->world->book.conferences().setPasscode(stored("880100005").id, passcode);
@@ -198,7 +198,7 @@ void TestConferenceDetail::othersCanOnlyRead()
         QVERIFY2(field<QAbstractSpinBox>(name)->isReadOnly(), name);
     }
     QVERIFY(!field<QPushButton>("save")->isVisible());
-    // The passcode is the host's.
+    // Only the host sees the passcode.
     QVERIFY(!field<QLineEdit>("passcodeText")->isVisible());
     QVERIFY(field<QLineEdit>("passcodeText")->text().isEmpty());
     QCOMPARE(field<QLabel>("passcodeNote")->text(), QStringLiteral("有，仅主持人可见"));
@@ -235,7 +235,7 @@ void TestConferenceDetail::itFollowsWhoJoinsAndClosesWhenItIsGone()
     field<QLineEdit>("title")->setText(QStringLiteral("周会"));
     m_fixture->world->admin.SetFriendLimit(7);
     m_fixture->follow();
-    QCOMPARE(field<QLineEdit>("title")->text(), QStringLiteral("周会")); // somebody is typing
+    QCOMPARE(field<QLineEdit>("title")->text(), QStringLiteral("周会")); // keeps what the user types
     m_fixture->world->ask(QStringLiteral("Delete Conference"),
                           QJsonObject{{QStringLiteral("conferenceId"), stored("880100005").confId}});
     QTRY_VERIFY(!dialog());
@@ -270,7 +270,7 @@ void TestConferenceDetail::aHostsPasscodeGoesWithTheAccount()
 void TestConferenceDetail::whatIsGoneIsNotOpened()
 {
     m_fixture->selectNumber("880100005");
-    // The tables follow a moment later.
+    // The tables still show it: they follow a moment later.
     m_fixture->world->ask(QStringLiteral("Delete Conference"),
                           QJsonObject{{QStringLiteral("conferenceId"), stored("880100005").confId}});
     m_fixture->child<QAction>("open")->trigger();

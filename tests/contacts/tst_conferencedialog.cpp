@@ -13,7 +13,7 @@
 #include <QDateTimeEdit>
 #include <QRadioButton>
 
-/// The dialog that asks for a new conference.
+/// The dialog for a new conference.
 class TestConferenceDialog : public ContactsDialogTest<ConferenceDialog>
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ private Q_SLOTS:
     void pictures();
 
 private:
-    /// Opens it.
+    /// Opens the dialog.
     void prepare() override;
     void invite(const QString &name) const
     {
@@ -44,7 +44,7 @@ private:
         return m_fixture->page(0)->selected(ConferenceModel::NumberRole).toString();
     }
     void clickMake() const { QTest::mouseClick(field<QPushButton>("make"), Qt::LeftButton); }
-    /// What was made, once the dialog has gone.
+    /// Waits for the dialog to close and returns the new conference.
     std::optional<Conference> made() const
     {
         const auto isGone = [this] {
@@ -59,7 +59,7 @@ private:
 
 void TestConferenceDialog::prepare()
 {
-    m_fixture->page(0)->filter()->setText(QStringLiteral("产品")); // what is made is shown all the same
+    m_fixture->page(0)->filter()->setText(QStringLiteral("产品")); // must not hide the new conference
     m_fixture->click("create");
     QVERIFY(dialog() && dialog()->isVisible());
 }
@@ -134,7 +134,7 @@ void TestConferenceDialog::whoCouldNotBeInvitedIsNamed()
             book.people().setContact(userId, people.constFirst().userId, QString(), true);
             return true;
         }));
-        QVERIFY(m_fixture->world->admin.Login(QStringLiteral("100001"))); // went with everybody
+        QVERIFY(m_fixture->world->admin.Login(QStringLiteral("100001"))); // logged out by the removal
     }
     clickMake();
     const std::optional<Conference> conference = made();
@@ -149,7 +149,7 @@ void TestConferenceDialog::aRefusalKeepsItOpen()
     const int before = m_fixture->world->conferences().size();
     field<QLineEdit>("title")->setText(QStringLiteral("重复"));
     field<QRadioButton>("later")->setChecked(true);
-    // When 产品周会 takes place.
+    // During 产品周会.
     field<QDateTimeEdit>("start")->setDateTime(QDateTime(QDate(2026, 3, 8), QTime(10, 30)));
     clickMake();
     QVERIFY(dialog() && dialog()->isVisible());

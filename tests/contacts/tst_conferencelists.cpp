@@ -8,7 +8,7 @@
 
 #include <limits>
 
-/// Which conferences the window gets to show, from the sample directory and some that have ended.
+/// The lists of conferences for the window, from the sample directory and some ended conferences.
 class TestConferenceLists : public QObject
 {
     Q_OBJECT
@@ -81,7 +81,7 @@ void TestConferenceLists::whatHasNotEndedComesByItsStart()
 {
     SampleWorld world;
     const QVector<Conference> found = world.book.conferences().endingAfter(world.nowMsecs, me(), 100);
-    QCOMPARE(found.size(), 8); // all but the one of last week
+    QCOMPARE(found.size(), 8); // all but last week's
     QCOMPARE(found.constFirst().dialNumber, QStringLiteral("880100004"));
     QVERIFY(std::is_sorted(found.cbegin(), found.cend(), [](const Conference &one, const Conference &other) {
         return one.startMsecs < other.startMsecs;

@@ -18,7 +18,7 @@
 #include <QScrollBar>
 #include <QToolButton>
 
-/// What the page of conferences shows, over the sample directory.
+/// What the conferences page shows, over the sample directory.
 class TestConferencePage : public ContactsWindowTest
 {
     Q_OBJECT
@@ -52,9 +52,9 @@ void TestConferencePage::itShowsTheUsersConferences()
     QCOMPARE(m_fixture->cell(0, ConferenceModel::Duration), QStringLiteral("240分钟"));
     QCOMPARE(m_fixture->cell(0, ConferenceModel::People), QStringLiteral("4/20"));
     QCOMPARE(m_fixture->cell(0, ConferenceModel::Host), QStringLiteral("李娜"));
-    // All of its columns are seen in the window as it opens.
+    // All columns fit into the window's initial size.
     QTRY_COMPARE(m_fixture->conferences()->horizontalScrollBar()->maximum(), 0);
-    // By their start at first, without a grid; what has ended is elsewhere.
+    // Initially sorted by start, without a grid; ended conferences are elsewhere.
     QCOMPARE(m_fixture->cell(1, ConferenceModel::Start), QStringLiteral("明天 10:00"));
     QCOMPARE(m_fixture->cell(2, ConferenceModel::Start), QStringLiteral("2026-03-09 10:00"));
     QCOMPARE(m_fixture->child<QTableView>("endedTable")->model()->rowCount(), 0);
@@ -62,7 +62,7 @@ void TestConferencePage::itShowsTheUsersConferences()
     const auto look = [this](int row, ConferenceModel::Column column, int role) {
         return m_fixture->conferences()->model()->index(row, column).data(role);
     };
-    // The states' colours are in their dots: the texts are legible everywhere.
+    // The dots carry the states' colours, so that the texts stay legible.
     QCOMPARE(look(0, ConferenceModel::State, Qt::DecorationRole).value<QColor>(),
              legibleInLists(QColor(89, 190, 45)));
     QCOMPARE(look(1, ConferenceModel::State, Qt::DecorationRole).value<QColor>(),
@@ -111,7 +111,7 @@ void TestConferencePage::whatHasEndedIsFoldedAway()
     };
     QCOMPARE(ended(0, ConferenceModel::Number, Qt::DisplayRole).toString(), QStringLiteral("880100008"));
     QVERIFY(!ended(0, ConferenceModel::State, Qt::ForegroundRole).isValid());
-    // What is chosen there is what the actions are about.
+    // Actions apply to the selection in the lower table.
     m_fixture->selectNumber("880100005");
     table->selectRow(0);
     QVERIFY(!m_fixture->page(0)->selected(ConferenceModel::NumberRole).isValid());
@@ -120,7 +120,7 @@ void TestConferencePage::whatHasEndedIsFoldedAway()
     m_fixture->selectNumber("880100005");
     QVERIFY(!table->selectionModel()->hasSelection());
 
-    // One more, the latest first; what was chosen stays chosen.
+    // Another one ends: the latest comes first, and the selection stays.
     table->selectRow(0);
     m_fixture->world->admin.SetConferenceState(QStringLiteral("880100005"), QStringLiteral("ended"));
     m_fixture->follow();
@@ -133,7 +133,7 @@ void TestConferencePage::whatHasEndedIsFoldedAway()
     m_fixture->page(0)->filter()->clear();
     QTest::keyClick(disclosure, Qt::Key_Space);
     QVERIFY(!table->isVisible());
-    // A filter says how many it finds among them, folded as they are.
+    // Though folded, the heading counts what the filter finds.
     m_fixture->page(0)->filter()->setText(QStringLiteral("复盘"));
     QCOMPARE(disclosure->text(), QStringLiteral("已结束 (1)"));
     m_fixture->page(0)->filter()->setText(QStringLiteral("无"));
@@ -160,7 +160,7 @@ void TestConferencePage::theOneTheUserIsInIsOnTop()
     QCOMPARE(m_fixture->told(), QStringLiteral("好的。"));
     m_fixture->follow();
     QVERIFY(!current->isVisible());
-    // It goes when it ends by the clock, too.
+    // It also goes when the conference's time is over.
     m_fixture->world->ask(QStringLiteral("Join My Conference"));
     m_fixture->world->nowMsecs = at("2026-03-07T13:59") + MinuteMsecs - 50;
     m_fixture->follow();
@@ -222,7 +222,7 @@ void TestConferencePage::aHeaderSorts()
     QVERIFY(first != m_fixture->cell(0, ConferenceModel::Number));
     QCOMPARE(QSet<QString>({first, m_fixture->cell(0, ConferenceModel::Number)}),
              QSet<QString>({QStringLiteral("880100001"), QStringLiteral("880100007")}));
-    // Durations by their length, not by their text.
+    // Durations sort by length, not by text.
     m_fixture->conferences()->sortByColumn(ConferenceModel::Duration, Qt::AscendingOrder);
     QCOMPARE(m_fixture->cell(0, ConferenceModel::Duration), QStringLiteral("30分钟"));
     QCOMPARE(m_fixture->cell(3, ConferenceModel::Duration), QStringLiteral("240分钟"));
@@ -332,11 +332,11 @@ void TestConferencePage::columnsNeverTouch()
         sum += table->columnWidth(column);
         QVERIFY(table->columnWidth(column) >= (column == ConferenceModel::Title ? 180 : 64));
     }
-    // All of the room is used, and what does not fit is scrolled to.
+    // The columns fill the table; if they don't fit, it scrolls.
     QVERIFY(sum >= table->viewport()->width());
     QCOMPARE(table->horizontalScrollBar()->maximum(), sum - table->viewport()->width());
 
-    // Between two cells nothing is painted but the ground, however long their texts are.
+    // Only background is painted between two cells, however long their texts.
     const QImage picture = table->viewport()->grab().toImage();
     const qreal ratio = picture.devicePixelRatio();
     for (int column = 1; column < ConferenceModel::ColumnCount; ++column) {

@@ -9,7 +9,7 @@
 
 #include <QtTest>
 
-/// The titles and passcodes that requests give to conferences.
+/// Titles and passcodes set by requests.
 class TestConferenceTexts : public QObject
 {
     Q_OBJECT
@@ -77,7 +77,7 @@ void TestConferenceTexts::aHostChangesThem()
     QCOMPARE(stored().title, QStringLiteral("周会"));
     QCOMPARE(stored().passcode, QStringLiteral("99"));
     QCOMPARE(stored().startMsecs, before.startMsecs);
-    // What a request does not name stays; an empty passcode lifts it.
+    // What a request leaves out stays; an empty passcode removes it.
     QCOMPARE(ret(world.ask(
                  Update, QJsonObject{{QLatin1String("conferenceId"), before.confId}, {Passcode, QString()}})),
              QStringLiteral("OK"));

@@ -21,7 +21,7 @@ namespace {
 
 constexpr qint64 HourMsecs = 3600 * 1000;
 
-/// People and conferences whose names are in no language, seen by the account 1.
+/// Fills @p world with people and conferences whose names are digits, and logs in account 1.
 void nameWithDigits(SampleWorld &world)
 {
     Administration &admin = world.admin;
@@ -55,7 +55,7 @@ void nameWithDigits(SampleWorld &world)
 
 } // namespace
 
-/// The window is in one language, whatever the names in it; so is what the program says in a terminal.
+/// The window is in one language, whatever the names in it, and so is the program's terminal output.
 class TestContactsLanguages : public QObject
 {
     Q_OBJECT
@@ -113,7 +113,7 @@ void TestContactsLanguages::addLanguages()
     }
 }
 
-/// The window, in the language @p code.
+/// Opens the window in the language @p code.
 void TestContactsLanguages::open(const QString &code)
 {
     QVERIFY(m_language->choose(code));
@@ -131,7 +131,7 @@ void TestContactsLanguages::verify(QWidget &root, int least)
     widgets.prepend(&root);
     int found = 0;
     for (const QWidget *widget : qAsConst(widgets)) {
-        // Qt's own way to show the folders of a file dialog.
+        // Qt's list of folders in a file dialog: their names are not translated.
         if (widget->inherits("QFileDialogComboBox")) {
             continue;
         }
@@ -217,7 +217,7 @@ void TestContactsLanguages::dialogsAreInOneLanguage()
     QFETCH(QString, code);
     open(code);
     for (const char *number : {"8802", "8803"}) {
-        m_fixture->selectNumber(number); // as its host, and as a guest
+        m_fixture->selectNumber(number); // as host and as guest
         m_fixture->child<QAction>("open")->trigger();
         verify(*dialog(), 25);
         close(dialog());
@@ -229,10 +229,10 @@ void TestContactsLanguages::dialogsAreInOneLanguage()
     m_fixture->click("create");
     auto *invitee = dialog()->findChild<QLineEdit *>(QStringLiteral("invitee"));
     for (const char *typed : {"9", "2"}) {
-        invitee->setText(QString::fromLatin1(typed)); // nobody, and somebody
+        invitee->setText(QString::fromLatin1(typed)); // matches nobody, then somebody
         QTest::keyClick(invitee, Qt::Key_Return);
         QLineEdit *title = dialog()->findChild<QLineEdit *>(QStringLiteral("title"));
-        // The user's own name is in it.
+        // It contains the user's own name.
         QVERIFY(title->placeholderText().contains(QStringLiteral("11111")));
         verify(*dialog(), 18);
     }
@@ -305,7 +305,7 @@ void TestContactsLanguages::theEnglishWindow()
     QCOMPARE(m_fixture->cell(0, ConferenceModel::Start), QStringLiteral("Today 09:50"));
     QCOMPARE(m_fixture->cell(0, ConferenceModel::Duration), QStringLiteral("60 min"));
     QCOMPARE(m_fixture->cell(2, ConferenceModel::Start), QStringLiteral("Tomorrow 10:20"));
-    // All columns fit into the window as it opens.
+    // All columns fit into the window's initial size.
     QCOMPARE(m_fixture->conferences()->horizontalScrollBar()->maximum(), 0);
     QTest::keyClick(m_fixture->window.get(), Qt::Key_E, Qt::AltModifier);
     QCOMPARE(m_fixture->tabs()->currentIndex(), 1);

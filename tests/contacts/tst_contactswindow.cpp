@@ -12,7 +12,7 @@
 #include <QLineEdit>
 #include <QMenu>
 
-/// What all pages of the window have in common.
+/// What the window's pages have in common.
 class TestContactsWindow : public ContactsWindowTest
 {
     Q_OBJECT
@@ -96,7 +96,7 @@ void TestContactsWindow::comingUpForAProgramItLeavesTheFocusWhereOneTypes()
     QVERIFY(elsewhere.hasFocus() && !window.isActiveWindow());
     QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("a"));
     QCOMPARE(elsewhere.text(), QStringLiteral("a"));
-    // Neither when it has to be shown first; the test's platform itself knows no such wish.
+    // Nor when a hidden window is shown; the offscreen platform ignores the request, so check Qt's property.
     window.hide();
     window.bringUp(WindowFocus::Leave);
     QVERIFY(window.isVisible());
@@ -139,7 +139,7 @@ void TestContactsWindow::usersDoNotSeeWhatIsForDevelopers()
     QMenu *menu = m_fixture->child<QPushButton>("developer")->menu();
     QVERIFY(menu->actions().contains(m_fixture->child<QAction>("sample")));
     QVERIFY(menu->actions().contains(m_fixture->child<QAction>("elsewhere")));
-    // Who tries it out is asked before everything goes.
+    // Restoring the sample asks before it deletes everything.
     m_fixture->world->admin.Reset();
     m_fixture->child<QAction>("sample")->trigger();
     m_fixture->click("refuse");
@@ -179,7 +179,7 @@ void TestContactsWindow::tabGoesAsOneReads()
         QTest::keyClick(widget, Qt::Key_Tab);
     }
     QVERIFY(order.size() > 12);
-    // What stands beside something else is read from the left.
+    // Controls side by side are visited from left to right.
     const auto place = [this](const QWidget *widget) {
         return QRect(widget->mapTo(m_fixture->window.get(), QPoint()), widget->size());
     };

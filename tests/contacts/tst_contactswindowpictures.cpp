@@ -8,8 +8,8 @@
 
 using Helper = LGuiApplicationHelper;
 
-/// The window in ten states, as large as it opens, in both themes, compared with the pictures in
-/// docs/pictures/contacts. With UPDATE_PICTURES set it writes those pictures. tst_windowcontrast measures the
+/// Compares the window in ten states and both themes, at its initial size, with the pictures in
+/// docs/pictures/contacts. Writes those pictures if UPDATE_PICTURES is set. tst_windowcontrast measures the
 /// same states.
 class TestContactsWindowPictures : public QObject
 {

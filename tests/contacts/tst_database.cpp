@@ -20,7 +20,7 @@ QString onlyText(const QSqlDatabase &database, const char *sql)
     return query.text(0);
 }
 
-/// A file of that former version, with content.
+/// Creates a file of version 3 with some content.
 void makeVersion3(const QString &file)
 {
     const QString connection = QStringLiteral("version 3");
@@ -34,7 +34,7 @@ void makeVersion3(const QString &file)
         statements += {
             QStringLiteral(
                 "INSERT INTO person VALUES ('u1', '100001', '王小明', 0), ('u2', '100002', '李静', 0)"),
-            // Foreign keys are off here, as they were for whoever has lost u3.
+            // Foreign keys are off, as they must have been for u3 to get lost.
             QStringLiteral("INSERT INTO contact VALUES ('u1', 'u2', '小李', 1), ('u1', 'u3', '', 1),"
                            " ('u3', 'u1', '', 0)"),
             QStringLiteral("UPDATE session SET user_id = 'u1', seeded = 1, friend_limit = 7"),
@@ -50,7 +50,7 @@ void makeVersion3(const QString &file)
 
 } // namespace
 
-/// The file under the application: how it is made, kept and searched.
+/// The application's database file: creating, keeping and searching it.
 class TestDatabase : public QObject
 {
     Q_OBJECT
@@ -130,7 +130,7 @@ void TestDatabase::aFileOfVersion3IsBroughtUpToDate()
     QCOMPARE(onlyText(book.database().handle(), "PRAGMA user_version"), QStringLiteral("5"));
     QCOMPARE(book.session().user()->account, QStringLiteral("100001"));
     QCOMPARE(book.session().friendLimit(), 7);
-    // Whose person is missing is no contact any more.
+    // A contact whose person is missing is dropped.
     const QVector<Person> contacts = book.people().knownAfter(QStringLiteral("u1"), QString(), 10);
     QCOMPARE(contacts.size(), 1);
     QCOMPARE(contacts.at(0).account, QStringLiteral("100002"));
@@ -183,7 +183,7 @@ void TestDatabase::foreignKeysHold()
 
 void TestDatabase::aDaysQueryWalksOneIndex()
 {
-    // The search's own statement, as the database means to run it: no table is read from end to end.
+    // The query plan of the search's own statement reads no table from end to end.
     SampleWorld world;
     const QSqlDatabase database = world.book.database().handle();
     Statement query(database, QStringLiteral("EXPLAIN QUERY PLAN ") + ConferenceRepository::ofUserSql());
@@ -218,7 +218,7 @@ void TestDatabase::aSpokenNameWalksNoTable()
              qPrintable(whole));
     QVERIFY2(whole.contains(QLatin1String("person_by_name (name=?)")), qPrintable(whole));
     QVERIFY2(!whole.contains(QLatin1String("SCAN")), qPrintable(whole));
-    // Neither of the two ways is along all of an owner's contacts.
+    // Neither branch walks all of an owner's contacts.
     QVERIFY2(!whole.contains(QLatin1String("(owner_id=?)")), qPrintable(whole));
 }
 
@@ -270,7 +270,7 @@ void TestDatabase::theLastThousandRequestsAreKnown()
     }));
     QVERIFY(!session.wasPerformed(name(1)));
     QVERIFY(session.wasPerformed(name(2)));
-    // One that is noted already counts nothing, whatever was inserted before it.
+    // Noting a request again drops no other, whatever was inserted in between.
     Statement(world.book.database().handle(),
               QStringLiteral("INSERT INTO conference (id, conf_id, dial_number, title, host_id, start_msecs,"
                              " duration_msecs, participant_limit)"

@@ -31,7 +31,7 @@ unsigned modeOf(const QString &path)
 
 using Obstacle = std::function<std::function<void()>(const QString &file)>;
 
-/// Puts a folder where a file ought to be; what comes back takes it away.
+/// Puts a folder where a file ought to be. The returned function removes it.
 Obstacle folderInPlaceOf(const QString &suffix)
 {
     return [suffix](const QString &file) {
@@ -42,7 +42,7 @@ Obstacle folderInPlaceOf(const QString &suffix)
     };
 }
 
-/// Has the file for itself.
+/// Locks the file exclusively. The returned function unlocks it.
 std::function<void()> lockExclusively(const QString &file)
 {
     const QString name = QStringLiteral("other");
@@ -63,8 +63,8 @@ std::function<void()> lockExclusively(const QString &file)
 
 Q_DECLARE_METATYPE(Obstacle)
 
-/// A database that cannot be opened: the disk, another process or the file rights stand in the way, and
-/// nothing may be lost.
+/// Databases that cannot be opened because of the disk, another process or file permissions. Nothing may be
+/// lost.
 class TestDatabaseFaults : public QObject
 {
     Q_OBJECT
@@ -215,7 +215,7 @@ void TestDatabaseFaults::othersCannotRead()
             QCOMPARE(modeOf(folder.file + QLatin1String(suffix)), 0600U);
         }
     }
-    // As a former version left them.
+    // The permissions set by older versions.
     const QString damaged = folder.file + QStringLiteral(".damaged-20260101T000000000");
     QVERIFY(QFile::copy(folder.file, damaged));
     QVERIFY(chmod(QFile::encodeName(path).constData(), 0755) == 0);

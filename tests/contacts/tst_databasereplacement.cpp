@@ -23,7 +23,7 @@ using Use = std::function<void(ContactsBook &book)>;
 
 Q_DECLARE_METATYPE(Use)
 
-/// How a damaged database is noticed and replaced: once, whole, and again after an interruption.
+/// Detecting and replacing a damaged database: only once, completely, and after an interruption.
 class TestDatabaseReplacement : public QObject
 {
     Q_OBJECT
@@ -48,7 +48,7 @@ void TestDatabaseReplacement::ofManyStartsOneSetsAside()
             ContactsBook book(folder.file, fixedClock());
             addPeople(book, 500);
         }
-        // Not a place in the file: what lies there changes with every table that is added.
+        // A table rather than an offset, whose content would change with every added table.
         overwriteTable(folder.file, QStringLiteral("notice"));
         const LogCapture log(LogCapture::Unexpected::Passes);
         std::atomic<int> replaced{0};
@@ -134,7 +134,7 @@ void TestDatabaseReplacement::aReplacementThatWasInterruptedIsFinished()
     const QString name = folder.setAside().at(0);
     const QString setAside = QFileInfo(folder.file).dir().filePath(name);
     const qint64 size = QFileInfo(setAside).size();
-    // Back to how it was in between.
+    // Restore the state in the middle of the replacement.
     QVERIFY(QFile::rename(folder.file, QString(folder.file + QStringLiteral(".replacement-"))
                                            .append(name.midRef(name.indexOf(QLatin1Char('-')) + 1))));
     const QString journal = QStringLiteral("-wal");
@@ -168,7 +168,7 @@ void TestDatabaseReplacement::damageThatIsMetInALargeFileIsMendedAtTheNextStart(
     }
     const QVector<int> pages = leavesOf(folder.file, QStringLiteral("person"));
     overwritePage(folder.file, pages.at(pages.size() / 2));
-    // Larger than what is checked at a start, with nothing in it.
+    // Pad the file with zeros beyond the size that is checked at start-up.
     QFile large(folder.file);
     QVERIFY(large.resize(300 * 1024 * 1024));
     const LogCapture log(LogCapture::Unexpected::Passes);
@@ -217,7 +217,7 @@ void TestDatabaseReplacement::damageIsHeededWhereverItIsMet()
     const DataFolder folder;
     worldIn(folder.file);
     overwriteTable(folder.file, damaged);
-    // Larger than what is checked at a start.
+    // Beyond the size that is checked at start-up.
     QFile large(folder.file);
     QVERIFY(large.resize(300 * 1024 * 1024));
     const LogCapture log(LogCapture::Unexpected::Passes);

@@ -17,7 +17,7 @@
 
 namespace {
 
-/// 4000 people, as many contacts, requests, conferences and seats in them.
+/// Adds 4000 people and as many contacts, friend requests, conferences and seats.
 void fillLargely(const QString &file)
 {
     constexpr int count = 4000;
@@ -42,7 +42,7 @@ void fillLargely(const QString &file)
 
 } // namespace
 
-/// What is found again of a damaged database.
+/// What is recovered from a damaged database.
 class TestDatabaseSalvage : public QObject
 {
     Q_OBJECT
@@ -59,7 +59,7 @@ private Q_SLOTS:
     void noRoomInTheMiddleOfATableIsAnError();
 
 private:
-    DataFolder m_large; ///< filled when it is first wanted
+    DataFolder m_large; ///< filled on first use
 };
 
 void TestDatabaseSalvage::whatCanBeReadOfADamagedFileIsKept()
@@ -81,7 +81,7 @@ void TestDatabaseSalvage::whatCanBeReadOfADamagedFileIsKept()
         ContactsBook book(folder.file, fixedClock());
         kept = book.people().all().size();
         notice = book.session().notice();
-        // Those who are there are found by every index.
+        // Every index finds the people that were kept.
         QVERIFY(book.people().byAccount(QStringLiteral("9000000")).has_value());
         QCOMPARE(book.people().byName(QStringLiteral("第%1位").arg(peopleCount - 1), 2).size(), 1);
     }
@@ -93,7 +93,7 @@ void TestDatabaseSalvage::whatCanBeReadOfADamagedFileIsKept()
     QVERIFY2(notice.contains(QStringLiteral("已找回 %1 位联系人").arg(kept)), qPrintable(notice));
     QCOMPARE(log.texts(QtCriticalMsg).size(), 2);
 
-    // It is sound from now on, and what was told stays to be read.
+    // From now on the database is sound; the notice stays until it is read.
     ContactsBook again(folder.file, fixedClock());
     QCOMPARE(again.people().all().size(), kept);
     QCOMPARE(again.session().notice(), notice);
@@ -134,7 +134,7 @@ void TestDatabaseSalvage::whatLiesBetweenDamagedPlacesIsKept()
         before = rows(large);
     }
     QVERIFY(QDir().mkpath(QFileInfo(folder.file).path()) && QFile::copy(m_large.file, folder.file));
-    // One page of the table at each of the places, and nothing else.
+    // Overwrite one page of the table at each place, and nothing else.
     const QVector<int> pages = leavesOf(folder.file, table);
     QVERIFY2(pages.size() > 20, qPrintable(QString::number(pages.size())));
     for (const int place : qAsConst(places)) {
@@ -148,7 +148,7 @@ void TestDatabaseSalvage::whatLiesBetweenDamagedPlacesIsKept()
     QCOMPARE(folder.setAside().size(), 1);
     const int lost = before - rows(book);
     const int perPage = before / pages.size() + 1;
-    // A page that is not quite full holds a few less, and one more row may be lost with its neighbour.
+    // Pages differ in how full they are, and a neighbouring row may be lost, too.
     QVERIFY2(
         lost > 0 && lost <= places.size() * perPage * 3 / 2,
         qPrintable(QStringLiteral("%1 of %2 rows lost, %3 on each page").arg(lost).arg(before).arg(perPage)));
@@ -263,7 +263,7 @@ void TestDatabaseSalvage::noRoomInTheMiddleOfATableIsAnError()
     }
     Transaction transaction(fresh.handle());
     QVERIFY_EXCEPTION_THROWN(salvage(folder.file, fresh.handle()), DatabaseError);
-    QCOMPARE(QSqlDatabase::connectionNames().size(), 1); // the fresh one's
+    QCOMPARE(QSqlDatabase::connectionNames().size(), 1); // that of the fresh database
 }
 
 QTEST_GUILESS_MAIN(TestDatabaseSalvage)

@@ -7,7 +7,7 @@
 #include "core/outcome.h"
 #include "core/statement.h"
 
-/// Requests to the user who is logged in, answered by the book and in the window.
+/// Friend requests to the logged-in user, answered through the book and in the window.
 class TestFriendRequests : public ContactsWindowTest
 {
     Q_OBJECT
@@ -55,7 +55,7 @@ void TestFriendRequests::whoAcceptsHasAFriend()
 {
     QCOMPARE(waiting(), QStringList());
     ask("200002", "100001");
-    ask("100011", "100001"); // a colleague, with a remark
+    ask("100011", "100001"); // a colleague with a remark
     ask("200001", "100002"); // to somebody else
     QCOMPARE(waiting(), (QStringList{QStringLiteral("100011"), QStringLiteral("200002")}));
     FriendRequests requests(book());
@@ -67,7 +67,7 @@ void TestFriendRequests::whoAcceptsHasAFriend()
         book().people().contactByUserId(QStringLiteral("u100001"), QStringLiteral("u100011"))->remarkName,
         QStringLiteral("研发部张伟"));
     QCOMPARE(waiting(), QStringList{QStringLiteral("200002")});
-    QCOMPARE(requests.accept(QStringLiteral("200002")), QString(Outcome::Ok)); // was in nobody's contacts
+    QCOMPARE(requests.accept(QStringLiteral("200002")), QString(Outcome::Ok)); // was not among the contacts
     QCOMPARE(friendship("u100001", "u200002"), Friendship::Friend);
     QCOMPARE(waiting(), QStringList());
     QVERIFY(book().reminders().untoldRequests(QStringLiteral("u100001")).isEmpty());
@@ -90,7 +90,7 @@ void TestFriendRequests::anAcceptedRequestAnswersOnesOwn()
     ask("200002", "100001");
     ask("100001", "200002");
     const int before = book().people().friendCount(QStringLiteral("u100001"));
-    m_fixture->world->admin.SetFriendLimit(before); // the own request has its place already
+    m_fixture->world->admin.SetFriendLimit(before); // the user's own request already counts
     QCOMPARE(FriendRequests(book()).accept(QStringLiteral("200002")), QString(Outcome::Ok));
     QCOMPARE(book().people().friendCount(QStringLiteral("u100001")), before);
     QVERIFY(m_fixture->world->admin.Login(QStringLiteral("200002")));
@@ -161,7 +161,7 @@ void TestFriendRequests::theBarShowsOneAfterTheOther()
     m_fixture->pick("peopleScope", 1);
     QCOMPARE(m_fixture->page(1)->table()->model()->rowCount(), 4);
 
-    // Withdrawn before the window has followed.
+    // The request is withdrawn before the window follows.
     ask("200002", "100001");
     m_fixture->follow();
     Statement(book().database().handle(), QStringLiteral("DELETE FROM friend_request")).run();
@@ -176,7 +176,7 @@ void TestFriendRequests::theBarKeepsWhomItShows()
     ask("200001", "100001");
     m_fixture->follow();
     QCOMPARE(text->text(), QStringLiteral("孟欣（200001）想加您为好友。"));
-    ask("100005", "100001"); // comes first by its account
+    ask("100005", "100001"); // sorts first, by account
     m_fixture->follow();
     QCOMPARE(text->text(), QStringLiteral("孟欣（200001）想加您为好友。还有 1 个申请。"));
     m_fixture->click("acceptRequest");

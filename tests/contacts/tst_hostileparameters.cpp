@@ -29,7 +29,7 @@ QString manyMembers(int count)
 
 } // namespace
 
-/// Parameter texts that no honest program sends: each is answered, and nothing changes.
+/// Parameters that no honest program sends: each gets an answer, and nothing changes.
 class TestHostileParameters : public QObject
 {
     Q_OBJECT
@@ -150,7 +150,7 @@ void TestHostileParameters::oddButHarmless()
 
 void TestHostileParameters::aNameGoesBackClean()
 {
-    // The cards show it, and the caller knows it by its place in the list.
+    // The cards show the name; the caller matches it by position.
     SampleWorld world;
     const QString odd = QStringLiteral("\u202e李四 ");
     const QJsonArray users = world.ask(QStringLiteral("Create Conference"), membersNamed({odd}))

@@ -5,7 +5,7 @@
 
 #include <QtTest>
 
-/// Invitations and friend requests that the user is told of.
+/// Notifications of invitations and friend requests.
 class TestInvitations : public RemindersTest
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ void TestInvitations::invitationsAreTold()
     pass(26 * HourMsecs - 5 * MinuteMsecs);
     QCOMPARE(m_server->summaries().last(), QStringLiteral("设计讨论：5 分钟后开始"));
     QCOMPARE(lastBody(), QStringLiteral("12:20–13:20\n主持人：李娜\n会议号：1"));
-    // One's own conferences are no invitations.
+    // The user's own conferences are no invitations.
     const int before = m_server->shown.size();
     m_world->admin.AddConference(QStringLiteral("2"), QStringLiteral("自己的"), User,
                                  m_world->nowMsecs + 26 * HourMsecs, HourMsecs, 10, QString(), {Friend});
@@ -68,7 +68,7 @@ void TestInvitations::anInvitationIsDeclined()
     pass(HourMsecs - MinuteMsecs);
     pass(MinuteMsecs);
     QCOMPARE(m_server->shown.size(), 1);
-    // Who is invited again is told again.
+    // Another invitation is told again.
     QVERIFY(m_world->book.change([&] {
         m_world->book.conferences().setAttendance(id, userId, Attendance::Invited);
         return true;
@@ -87,7 +87,7 @@ void TestInvitations::friendRequestsAreTold()
     restart();
     settle();
     QCOMPARE(m_server->shown.size(), 1);
-    // One's own requests are not told to oneself.
+    // The user's own requests are not told.
     m_world->ask(QStringLiteral("Add Friends"),
                  QJsonObject{{QStringLiteral("userId"), QStringLiteral("200001")}});
     settle();
@@ -111,7 +111,7 @@ void TestInvitations::theSampleInvitesNobody()
 {
     QVERIFY(m_world->admin.LoadSample());
     settle();
-    // Of one that runs the user is reminded all the same.
+    // Only the reminder of the running conference is shown.
     QCOMPARE(m_server->summaries(), QStringList{QStringLiteral("部门早会：已于 10:00 开始")});
 }
 

@@ -14,7 +14,7 @@
 #include <QPushButton>
 #include <QtTest>
 
-/// The fields that a new conference is asked for with: its people and its passcode.
+/// The fields for a new conference's people and passcode.
 class TestInviteeField : public QObject
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ struct Field
     void type(const QString &text) const
     {
         edit->clear();
-        // As an input method does.
+        // The way an input method commits text.
         QInputMethodEvent typed;
         typed.setCommitString(text);
         QCoreApplication::sendEvent(edit, &typed);
@@ -126,7 +126,7 @@ void TestInviteeField::whatIsTypedIsCompleted()
     QCOMPARE(field.accounts(), QStringList(QStringLiteral("100003")));
     QVERIFY(field.edit->text().isEmpty());
     QCOMPARE(field.list->count(), 1);
-    // Nobody is offered twice.
+    // Picked people are not offered again.
     field.type(QStringLiteral("李娜"));
     QVERIFY(!field.completer->popup()->isVisible());
 }
@@ -155,7 +155,7 @@ void TestInviteeField::returnPicksWhileSomebodyIsOffered()
     field.type(QStringLiteral("李娜"));
     QVERIFY(field.completer->popup()->isVisible());
     QVERIFY(!field.completer->popup()->selectionModel()->hasSelection());
-    // The keys go to the popup while it is open.
+    // The open popup gets the keys.
     QTest::keyClick(field.completer->popup(), Qt::Key_Return);
     QCOMPARE(field.accounts(), QStringList(QStringLiteral("100003")));
     QVERIFY(!field.completer->popup()->isVisible());
@@ -180,7 +180,7 @@ void TestInviteeField::anExactMatchWins()
     field.edit->setText(QStringLiteral("程昱"));
     QTest::keyClick(field.edit, Qt::Key_Return);
     QCOMPARE(field.accounts(), QStringList(QStringLiteral("300001")));
-    // Two of the same name are asked about.
+    // Two people of the same name are ambiguous.
     QVERIFY(add(QStringLiteral("300003"), QStringLiteral("程昱文")));
     QVERIFY(add(QStringLiteral("300004"), QStringLiteral("程昱文静")));
     QSignalSpy told(&field.field, &InviteeField::told);

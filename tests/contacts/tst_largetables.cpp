@@ -12,7 +12,7 @@
 
 #include <algorithm>
 
-/// Large tables are read as one scrolls, sorts and filters.
+/// Large tables are read on demand: by scrolling, sorting and filtering.
 class TestLargeTables : public LargeWindowTest
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ private Q_SLOTS:
     void whereOneHasScrolledOneStays();
 
 private:
-    /// Lets the people be read to the end and looks how long that stopped the window at most.
+    /// Reads all people to the end and checks how long that blocks the window.
     void finishReading();
 };
 
@@ -41,9 +41,9 @@ void TestLargeTables::finishReading()
     }
     std::sort(goes.begin(), goes.end());
     if (goes.size() < 20) {
-        return; // not much was read
+        return; // too few for a percentile
     }
-    // Each of them but for what a machine does now and then, and the last one, which shows the rows.
+    // The 95th percentile leaves out hiccups of the machine and the last go, which shows the rows.
     const double most = goes.at(goes.size() * 19 / 20);
     qInfo("%d goes, %.2f ms nearly all, %.2f ms the longest", goes.size(), most, goes.constLast());
     QVERIFY2(most < MostShownMsecs, qPrintable(QString::number(most)));
@@ -65,7 +65,7 @@ void TestLargeTables::peopleComeAsOneScrolls()
         accounts.append(model->index(row, PeopleModel::Account).data().toString());
     }
     QCOMPARE(accounts.first(), QStringLiteral("100002"));
-    QCOMPARE(accounts.last(), QStringLiteral("5000977")); // behind the sample's 23
+    QCOMPARE(accounts.last(), QStringLiteral("5000977")); // after the sample's 23
     QStringList sorted = accounts;
     sorted.sort();
     QCOMPARE(accounts, sorted);
@@ -83,7 +83,7 @@ void TestLargeTables::aFilterFindsWhoWasNotReadYet()
     page(1)->filter()->setText(QStringLiteral("nobody"));
     finishReading();
     QCOMPARE(model->rowCount(), 0);
-    // A write meanwhile looks through everybody again, but not at a stretch.
+    // A write filters everybody again, but not in one go.
     m_world->admin.SetFriendLimit(1000000);
     const double shown = showMsecs();
     QVERIFY2(shown >= 0 && shown < MostShownMsecs, qPrintable(QString::number(shown)));
@@ -99,7 +99,7 @@ void TestLargeTables::anotherOrderIsOfAllPeople()
     finishReading();
     QCOMPARE(table->model()->rowCount(), Count + 23);
     QCOMPARE(table->model()->index(0, PeopleModel::Account).data().toString(), QStringLiteral("5100000"));
-    // A write reads everybody again, but not at a stretch.
+    // A write reads everybody again, but not in one go.
     m_world->admin.SetFriendLimit(1000000);
     const double shown = showMsecs();
     QVERIFY2(shown >= 0 && shown < MostShownMsecs, qPrintable(QString::number(shown)));
@@ -154,7 +154,7 @@ void TestLargeTables::whereOneHasScrolledOneStays()
     table->scrollTo(table->model()->index(150, 0), QAbstractItemView::PositionAtTop);
     const int before = table->verticalScrollBar()->value();
     QVERIFY(before > 0);
-    // Rows come behind what is shown.
+    // This changes rows below the visible ones.
     m_world->ask(QStringLiteral("Delete Conference"),
                  QJsonObject{{QStringLiteral("conferenceId"), QStringLiteral("c250")}});
     QVERIFY(showMsecs() >= 0);

@@ -16,7 +16,7 @@
 
 namespace {
 
-/// The lower quartile: what the machine's other work adds, by emptied caches and interrupts, it adds to some.
+/// Returns the lower quartile: other work (cold caches, interrupts) slows down only some of the runs.
 double usual(QVector<double> values)
 {
     std::sort(values.begin(), values.end());
@@ -25,7 +25,7 @@ double usual(QVector<double> values)
 
 } // namespace
 
-/// What a write and the opening cost where everything is large.
+/// The cost of a write, and of opening the window, with a large database.
 class TestLargeWindow : public LargeWindowTest
 {
     Q_OBJECT
@@ -117,7 +117,7 @@ void TestLargeWindow::openingReadsOnlyWhatIsShown()
         opened.append(threadMsecs() - before);
     }
     qInfo("%.2f ms for opening", usual(opened));
-    // Far above it, and far below one walk over all contacts, wherever it runs.
+    // A bound that scales with the machine: opening must not walk over all contacts.
     const double before = threadMsecs();
     const int count = m_world->book.people().contacts(QStringLiteral("u100001")).size();
     const double allOfThem = threadMsecs() - before;
@@ -153,7 +153,7 @@ void TestLargeWindow::everybodyCanLogIn()
     for (int row = 0; row < model->rowCount(); ++row) {
         accounts.insert(model->index(row, 0).data(Qt::UserRole).toString());
     }
-    QCOMPARE(model->rowCount(), Count + 26 + 1); // and nobody
+    QCOMPARE(model->rowCount(), Count + 26 + 1); // plus the entry for nobody
     QCOMPARE(accounts.size(), model->rowCount());
     account->setCurrentIndex(account->findData(QStringLiteral("5099999")));
     Q_EMIT account->activated(account->currentIndex());

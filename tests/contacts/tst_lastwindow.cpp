@@ -13,7 +13,7 @@
 
 #include <functional>
 
-/// What closing windows does to the application.
+/// What closing windows means for the application.
 class TestLastWindow : public QObject
 {
     Q_OBJECT
@@ -33,7 +33,7 @@ private Q_SLOTS:
 private:
     enum ExitCode { Ended = 0, StillRunning = 1 };
 
-    /// Closes @p window in the running application, and ends that when nothing else does.
+    /// Closes @p window inside the event loop, and ends the loop if nothing else does.
     static int runAndClose(QWidget &window)
     {
         return runAndClose(window, [&window] { window.close(); });
@@ -42,7 +42,7 @@ private:
     {
         QTimer::singleShot(0, &window, [&window, close] {
             close();
-            // What closing posts comes first.
+            // Events posted by closing come first.
             QTimer::singleShot(0, &window, [] { QCoreApplication::exit(StillRunning); });
         });
         return QCoreApplication::exec();
@@ -65,7 +65,7 @@ void TestLastWindow::itEndsWithItsLastWindowUnlessItIsNeeded()
     QFETCH(int, code);
     m_isNeeded = isNeeded;
     QWidget window;
-    // Asked each time anew: the window is closed, shown and closed again.
+    // The condition is evaluated on each close: show and close the window twice.
     for (int round = 0; round < 2; ++round) {
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));

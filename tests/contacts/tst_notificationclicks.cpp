@@ -10,7 +10,7 @@
 #include <QDBusMessage>
 #include <QtTest>
 
-/// What a click on a notification does, and when a notification is withdrawn.
+/// Clicks on notifications, and withdrawing notifications.
 class TestNotificationClicks : public RemindersTest
 {
     Q_OBJECT
@@ -49,7 +49,7 @@ void TestNotificationClicks::anothersNotificationJoinsNobody()
     pass(MinuteMsecs);
     m_server->click(m_server->shown.last().id, QStringLiteral("join"));
     m_server->flush();
-    // The click comes before the answer to this, and is handled after the login.
+    // The round trip ensures that the click has arrived; it is handled after the login.
     QVERIFY(!QDBusConnection::sessionBus().interface()->isServiceRegistered(QStringLiteral("no.body")));
     QVERIFY(m_world->admin.Login(Friend));
     QCoreApplication::sendPostedEvents();
@@ -67,7 +67,7 @@ void TestNotificationClicks::joiningTooEarlySaysSo()
     QCOMPARE(lastBody(), QStringLiteral("会议还未开始，开始时会再次提醒您。"));
     pass(5 * MinuteMsecs);
     QCOMPARE(m_server->summaries().last(), QStringLiteral("设计讨论：现在开始"));
-    // Somewhere else already.
+    // The user is in a conference elsewhere.
     m_world->admin.SetEngagedElsewhere(true);
     m_server->click(m_server->shown.last().id, QStringLiteral("join"));
     QTRY_COMPARE(lastBody(), QStringLiteral("正在其他会议中。"));
@@ -94,13 +94,13 @@ void TestNotificationClicks::othersNotificationsAreLeftAlone()
     m_server->click(mine + 1, QStringLiteral("join"));
     m_server->click(mine + 1, QStringLiteral("default"));
     m_server->click(m_server->shown.first().id, QStringLiteral("unknown"));
-    // Somebody who is not the server.
+    // A forged signal, not from the server.
     QDBusMessage forged = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/Notifications"),
                                                      QStringLiteral("org.freedesktop.Notifications"),
                                                      QStringLiteral("ActionInvoked"));
     forged << mine << QStringLiteral("default");
     QVERIFY(QDBusConnection::sessionBus().send(forged));
-    // Signals keep their order.
+    // Signals arrive in order, so a genuine one shows that the others were ignored.
     m_server->shown.clear();
     QVERIFY(m_world->admin.AddContact(Friend, User, QString(), QStringLiteral("requested")));
     settle();
@@ -124,7 +124,7 @@ void TestNotificationClicks::anAnsweredFriendRequestIsWithdrawn()
     settle();
     QCOMPARE(m_server->shown.size(), 1);
     const uint id = m_server->shown.last().id;
-    m_world->admin.SetFriendLimit(1000); // something else changes
+    m_world->admin.SetFriendLimit(1000); // an unrelated change
     settle();
     QVERIFY(m_server->isOnScreen(id));
     FriendRequests requests(m_world->book);

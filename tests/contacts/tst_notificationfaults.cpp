@@ -7,7 +7,7 @@
 
 #include <QtTest>
 
-/// Reminders beside a server that is late, refuses or stays silent, and a database that fails.
+/// Reminders with a server that is late, refuses or stays silent, and with a failing database.
 class TestNotificationFaults : public RemindersTest
 {
     Q_OBJECT
@@ -39,7 +39,7 @@ void TestNotificationFaults::aServerThatRefusesIsAskedAgain()
     m_log->expect(QtWarningMsg, QStringLiteral("A notification was not taken: \"too many\""));
     addConference("1", "设计讨论", 5 * MinuteMsecs);
     for (int round = 0; round < 10; ++round) {
-        settle(); // whatever else makes it look
+        settle(); // looking again must not ask the server again
     }
     QCOMPARE(m_server->attempts, 1);
     QCOMPARE(m_reminders->nextLookMsecs(), m_world->nowMsecs + MinuteMsecs);
@@ -90,7 +90,7 @@ void TestNotificationFaults::namesAndTitlesAreNoMarkup()
     m_server = std::make_unique<NotificationServer>(QStringList());
     addConference("1", "一<b>二", MinuteMsecs, HourMsecs);
     QTRY_COMPARE(m_server->summaries(), QStringList{QStringLiteral("一<b>二：1 分钟后开始")});
-    QCOMPARE(m_server->shown.last().actions, QStringList()); // this server has no buttons
+    QCOMPARE(m_server->shown.last().actions, QStringList()); // this server doesn't support actions
 }
 
 void TestNotificationFaults::whatCannotBeNotedIsNotRepeated()

@@ -10,7 +10,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 
-/// The page of people over the sample directory.
+/// The people page, over the sample directory.
 class TestPeoplePage : public ContactsWindowTest
 {
     Q_OBJECT
@@ -102,7 +102,7 @@ void TestPeoplePage::theSelectedOneIsAdded()
     QTRY_VERIFY(!entry->isEnabled());
     m_fixture->pick("peopleScope", 2);
     QCOMPARE(accounts(), (QStringList{QStringLiteral("100031"), QStringLiteral("100032")}));
-    // Refused by the same rules as when somebody says it.
+    // The same rules apply as for the spoken command.
     m_fixture->world->admin.SetFriendLimit(0);
     m_fixture->pick("peopleScope", 0);
     page()->select(QStringLiteral("100033"));
@@ -213,7 +213,7 @@ void TestPeoplePage::anEmptyListSaysWhy()
     QVERIFY2(hint().startsWith(QStringLiteral("还没有联系人。")), qPrintable(hint()));
     m_fixture->pick("peopleScope", 1);
     QVERIFY2(hint().startsWith(QStringLiteral("还没有好友。")), qPrintable(hint()));
-    // And it is painted.
+    // The hint is painted, too.
     const QImage hinted = page()->table()->viewport()->grab().toImage();
     page()->table()->setHint(QString());
     QVERIFY(page()->table()->viewport()->grab().toImage() != hinted);

@@ -62,7 +62,7 @@ int performedAfterAll(const LogCapture &log)
         .count(QStringLiteral("{\"action\":\"Create Conference\",\"performedAfterAll\":true}"));
 }
 
-/// The application's file, looked at past the application.
+/// Reads the application's database directly.
 class StoredConferences
 {
 public:
@@ -96,8 +96,8 @@ private:
 
 } // namespace
 
-/// What the caller was told is what happened, with the application stopped and killed at any moment.
-/// CONTACT_TEST_SEED, CONTACT_TEST_INJECTIONS and CONTACT_TEST_KILLS say which moments and how many.
+/// Checks that the caller is told what really happened, with the application stopped or killed at any moment.
+/// CONTACT_TEST_SEED sets the moments, CONTACT_TEST_INJECTIONS and CONTACT_TEST_KILLS their number.
 class TestPromises : public QObject
 {
     Q_OBJECT
@@ -111,7 +111,7 @@ private Q_SLOTS:
     void whatWasAnsweredOutlivesTheApplication();
 
 private:
-    /// How long a request that writes takes on this machine, with the thread that asks; the median of some.
+    /// Returns the median time of a writing request on this machine, including starting the asking thread.
     int usualRequestMicros();
 
     std::mt19937 m_random;
@@ -128,7 +128,7 @@ void TestPromises::initTestCase()
 void TestPromises::nothingIsDoneAfterTheTimeOut()
 {
     const LogCapture log(LogCapture::Unexpected::Passes);
-    // In a conference of one's own, into which one can invite, with another one that can be changed.
+    // The user is in a conference of their own, to invite to, and has another one to change.
     QCOMPARE(ask(QStringLiteral("Create Conference")).ret(), QStringLiteral("OK"));
     const Asked later = ask(QStringLiteral("Create Conference"), creation(m_nextStart += HourMsecs));
     QCOMPARE(later.ret(), QStringLiteral("OK"));
@@ -153,7 +153,7 @@ void TestPromises::nothingIsDoneAfterTheTimeOut()
     QCOMPARE(ask(QStringLiteral("Is Conference Host")).code, 0);
     QCOMPARE(servicePid(), pid);
     QCOMPARE(snapshot(), before);
-    // The same four are performed when there is time.
+    // Given time, the same requests are performed.
     QCOMPARE(ask(QStringLiteral("Update Conference"), moved).ret(), QStringLiteral("OK"));
     QCOMPARE(ask(QStringLiteral("Delete Conference"), that).ret(), QStringLiteral("OK"));
     QCOMPARE(ask(QStringLiteral("Invite Members"), members()).ret(), QStringLiteral("OK"));
@@ -192,8 +192,8 @@ void TestPromises::whatWasSaidIsWhatHappened()
         const LogCapture log(LogCapture::Unexpected::Passes);
         const pid_t pid = servicePid();
         const qint64 start = m_nextStart += HourMsecs;
-        // Every fifth one kills, the others stop it and let it go on when the caller has been told. About as
-        // many within a request as after it.
+        // Every fifth injection kills the application; the others stop it until the caller has its answer.
+        // About half of them fall within a request.
         const bool isKill = injection % 5 == 4;
         const auto moment =
             std::chrono::microseconds(std::uniform_int_distribution<int>(0, 2 * requestMicros)(m_random));
@@ -209,7 +209,7 @@ void TestPromises::whatWasSaidIsWhatHappened()
         } else {
             kill(pid, SIGCONT);
         }
-        // The next answer: what is said beside it counts.
+        // The next answer may carry a correction, which counts.
         QCOMPARE(ask(QStringLiteral("Is Conference Host")).code, 0);
         const int corrections = performedAfterAll(log);
         const bool saidDone = code == 0 || corrections == 1;
@@ -282,7 +282,7 @@ void TestPromises::whatWasAnsweredOutlivesTheApplication()
                                    QStringLiteral(" AND (SELECT count(*) FROM participant"
                                                   " WHERE conference_id = conference.id) <> 2"));
     const int corrected = performedAfterAll(*log);
-    log.reset(); // what follows is for whoever runs it
+    log.reset(); // shows the summary on the terminal again
     qInfo("%d kills, %d answers: lost %d, half %d, without an answer but there %d, of which told by the next "
           "answer %d, integrity %s",
           kills, told, lost, half, there - told, corrected, qPrintable(stored.integrity()));

@@ -7,7 +7,7 @@
 
 #include <QCheckBox>
 
-/// The page of the reminders' settings.
+/// The page with the reminder settings.
 class TestReminderPage : public ContactsWindowTest
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ void TestReminderPage::remindersAreSetWithTheKeyboard()
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
     QVERIFY(settings().isOn);
 
-    // What cannot be saved is not shown as if it were.
+    // A setting that cannot be saved reverts.
     m_fixture->log.reset();
     const LogCapture log(LogCapture::Unexpected::Passes);
     Statement(m_fixture->world->book.database().handle(),

@@ -11,7 +11,7 @@
 #include <ctime>
 #include <limits>
 
-/// When a conference is reminded of, and when not: the clock, the time zone, restarts, settings.
+/// When reminders come and when they don't: the clock, the time zone, restarts, settings.
 class TestReminders : public RemindersTest
 {
     Q_OBJECT
@@ -49,7 +49,7 @@ void TestReminders::theyComeBeforeAndAtTheStartOnce()
     QCOMPARE(m_server->shown.size(), 1);
     pass(1);
     QCOMPARE(m_server->summaries().last(), QStringLiteral("设计讨论：现在开始"));
-    // In the place of the first, so that only one of them is on the screen.
+    // It replaces the first, so that only one is on screen.
     QCOMPARE(m_server->shown.last().id, m_server->shown.first().id);
     for (int minute = 0; minute < 90; ++minute) {
         pass(MinuteMsecs);
@@ -68,7 +68,7 @@ void TestReminders::theyWaitForTheRightMoment()
     pass(5 * MinuteMsecs);
     QCOMPARE(m_reminders->nextLookMsecs(), start + HourMsecs); // its end
     pass(HourMsecs);
-    // Nothing near: at the latest in an hour.
+    // With nothing due, it looks again in an hour at the latest.
     QCOMPARE(m_reminders->nextLookMsecs(), start + 2 * HourMsecs);
 }
 
@@ -164,7 +164,7 @@ void TestReminders::aClockThatWasAheadDoesNotTakeTheNextReminder()
 {
     addConference("1", "设计讨论", 3 * HourMsecs);
     settle();
-    // Past the first reminder and into the conference, then back where it was.
+    // Forward past the first reminder into the conference, then back again.
     pass(3 * HourMsecs + MinuteMsecs);
     QCOMPARE(m_server->summaries(), QStringList{QStringLiteral("设计讨论：已于 13:20 开始")});
     pass(-3 * HourMsecs - MinuteMsecs);
@@ -186,7 +186,7 @@ void TestReminders::anotherTimeZoneChangesOnlyTheText()
     QCOMPARE(m_server->shown.size(), 1);
     pass(5 * MinuteMsecs);
     QCOMPARE(lastBody(), QStringLiteral("03:30–04:30\n会议号：1"));
-    qputenv("TZ", "Pacific/Kiritimati"); // another day there
+    qputenv("TZ", "Pacific/Kiritimati"); // UTC+14
     tzset();
     pass(0);
     QCOMPARE(m_server->shown.size(), 2);
@@ -204,7 +204,7 @@ void TestReminders::aMovedConferenceRemindsAnew()
         return true;
     }));
     settle();
-    QTRY_VERIFY(!m_server->isOnScreen(1)); // it says a time that is not true any more
+    QTRY_VERIFY(!m_server->isOnScreen(1)); // its time is out of date
     pass(55 * MinuteMsecs);
     QCOMPARE(m_server->shown.size(), 2);
     QCOMPARE(m_server->summaries().last(), QStringLiteral("设计讨论：5 分钟后开始"));
@@ -229,7 +229,7 @@ void TestReminders::theSwitchAndTheLeadTimeHold()
     QCOMPARE(m_server->shown.size(), 0);
     pass(MinuteMsecs);
     QCOMPARE(m_server->summaries(), QStringList{QStringLiteral("设计讨论：9 分钟后开始")});
-    set(true, 30); // what was shown is not shown again
+    set(true, 30); // a shown reminder is not repeated
     settle();
     QCOMPARE(m_server->shown.size(), 1);
     set(true, 100000);
@@ -238,7 +238,7 @@ void TestReminders::theSwitchAndTheLeadTimeHold()
     settle();
     pass(9 * MinuteMsecs);
     QCOMPARE(m_server->shown.size(), 1);
-    QVERIFY(m_world->admin.LoadSample()); // other content, the same user's wishes
+    QVERIFY(m_world->admin.LoadSample()); // replaces the content but keeps the settings
     QCOMPARE(book.reminders().settings().isOn, false);
 }
 
@@ -257,7 +257,7 @@ void TestReminders::whatCameWhileSwitchedOffIsNotTold()
     settle();
     turn(true);
     QCOMPARE(m_server->summaries(), QStringList());
-    pass(55 * MinuteMsecs); // but reminded of it
+    pass(55 * MinuteMsecs); // the reminder still comes
     QCOMPARE(m_server->summaries(), QStringList{QStringLiteral("设计讨论：5 分钟后开始")});
 }
 

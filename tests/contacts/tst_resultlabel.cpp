@@ -6,7 +6,7 @@
 
 #include <QtTest>
 
-/// Runs where screen readers do: without them Qt announces nothing.
+/// The label for results. Needs an active accessibility bus: otherwise, Qt announces nothing.
 class TestResultLabel : public QObject
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ void TestResultLabel::whatIsToldIsAnnouncedByItsName()
     label.show();
     QCOMPARE(label.accessibleName(), QStringLiteral("结果"));
     label.tell(QStringLiteral("<b>好的。"));
-    label.tell(QStringLiteral("<b>好的。")); // said again, and so told again
+    label.tell(QStringLiteral("<b>好的。")); // the same text is announced again
     const QString name = QStringLiteral("结果：<b>好的。");
     QCOMPARE(announced.names(), (QStringList{name, name}));
     QCOMPARE(label.text(), QStringLiteral("<b>好的。"));

@@ -10,7 +10,7 @@
 
 #include <ctime>
 
-/// The timer on the clock of the calendar.
+/// The timer on the wall clock.
 class TestWallTimer : public QObject
 {
     Q_OBJECT
@@ -31,14 +31,14 @@ void TestWallTimer::aMomentOfTheCalendarIsWaitedFor()
     QVERIFY(elapsed.elapsed() >= 30);
     timer.start(3600 * 1000);
     QVERIFY(!timeout.wait(50));
-    timer.start(-5); // past already
+    timer.start(-5); // already past
     QVERIFY(timeout.wait());
     QVERIFY(!timeout.wait(50)); // once
 }
 
 void TestWallTimer::aClockThatIsNotSetIsNeverDue()
 {
-    // What the kernel tells of this process's timers on the calendar's clock.
+    // The kernel's view of this process's timers on CLOCK_REALTIME.
     static const QRegularExpression waits(
         QStringLiteral("clockid: %1\\n.*it_value: \\((\\d+),").arg(CLOCK_REALTIME),
         QRegularExpression::DotMatchesEverythingOption);

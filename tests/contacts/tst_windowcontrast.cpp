@@ -66,7 +66,7 @@ void openDialog(WindowFixture &fixture)
     fixture.click("sendRequest");
 }
 
-/// Those that nobody needs a picture of in the documents.
+/// States that the documents don't picture.
 constexpr WindowState MoreStates[] = {{"a person selected", selectPerson},
                                       {"nobody found", searchInVain},
                                       {"people, logged out", peopleLoggedOut},
@@ -75,7 +75,7 @@ constexpr WindowState MoreStates[] = {{"a person selected", selectPerson},
 
 } // namespace
 
-/// What the window paints can be read, and what can be used is seen to be there, in both themes.
+/// Texts are legible and controls have visible edges, in both themes.
 class TestWindowContrast : public QObject
 {
     Q_OBJECT
@@ -92,7 +92,7 @@ private:
     void measureText(const QRect &place, const QString &name);
     void measureEdge(const QRect &place, const QString &name);
     void measureView(const QAbstractItemView &view);
-    /// One with something to tick before its text.
+    /// Measures a check box or radio button.
     void measureButton(const QAbstractButton &button, QStyle::SubElement indicator, const QRect &place,
                        const QString &name);
     QRect pixels(const QRect &place) const
@@ -149,7 +149,7 @@ void TestWindowContrast::measureView(const QAbstractItemView &view)
             const QModelIndex index = model->index(row, column);
             const QRect whole = view.visualRect(index);
             const QRect cell = whole & view.viewport()->rect();
-            // A cell that is cut in half has no whole text.
+            // The text of a partly hidden cell is cut off.
             if (!index.data().toString().isEmpty() && cell.height() == whole.height()) {
                 measureText(cell.translated(origin), index.data().toString());
             }
@@ -195,7 +195,7 @@ void TestWindowContrast::measure(QWidget &window)
         const bool isPart = qobject_cast<const QComboBox *>(widget->parentWidget()) ||
                             qobject_cast<const QAbstractSpinBox *>(widget->parentWidget());
         if (qobject_cast<const QHeaderView *>(widget)) {
-            continue; // with its table
+            continue; // measured with its table
         }
         if (const auto *view = qobject_cast<const QAbstractItemView *>(widget)) {
             measureEdge(place, name);
@@ -217,7 +217,7 @@ void TestWindowContrast::measure(QWidget &window)
                    (qobject_cast<const QPushButton *>(widget) || qobject_cast<const QLineEdit *>(widget) ||
                     qobject_cast<const QComboBox *>(widget) ||
                     qobject_cast<const QAbstractSpinBox *>(widget))) {
-            // Within the edge: it would count as a stroke of the text.
+            // Excludes the edge, which would count as text.
             measureText(place.adjusted(4, 4, -4, -4), name);
             measureEdge(place, name);
         }
@@ -244,7 +244,7 @@ void TestWindowContrast::everyTextAndEdgeIsSeen()
     QFETCH(int, theme);
     WindowFixture fixture;
     QVERIFY(fixture.waitUntilShown());
-    // While it is shown, as the user's choice comes.
+    // Change the theme of the shown window, as a user would.
     Helper::instance()->setPaletteType(static_cast<Helper::ColorType>(theme));
     state.arrange(fixture);
     QCoreApplication::sendPostedEvents();

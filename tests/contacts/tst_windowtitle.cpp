@@ -11,7 +11,7 @@
 #include <QTabWidget>
 #include <QtTest>
 
-/// What the desktop's lists of windows show.
+/// The title and icon in the desktop's window lists.
 class TestWindowTitle : public QObject
 {
     Q_OBJECT
@@ -56,7 +56,7 @@ void TestWindowTitle::aNameIsShownAsItIs()
     QVERIFY(world.admin.Login(QStringLiteral("300001")));
     ContactsWindow window(world.book, world.admin);
     window.show();
-    // What the desktop gets, which is without Qt's own signs.
+    // The desktop gets the literal name: "[*]" must not act as Qt's placeholder.
     QCOMPARE(window.windowHandle()->title(), QStringLiteral("会议 – 甲[*] – 联系人与会议"));
 }
 

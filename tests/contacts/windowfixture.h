@@ -22,7 +22,7 @@
 
 #include <memory>
 
-/// The application's window over the sample directory, for driving it as a person would. One per test
+/// The application's window over the sample directory, to be driven as a user would. Create one per test
 /// function.
 struct WindowFixture
 {
@@ -43,7 +43,7 @@ struct WindowFixture
     }
     Q_DISABLE_COPY(WindowFixture)
 
-    /// The window as the next start of the application shows it.
+    /// Recreates the window, as after a restart of the application.
     void reopen(ContactsWindow::Tools tools = ContactsWindow::Tools::ForUsers)
     {
         const QSize size = window->size();
@@ -60,7 +60,7 @@ struct WindowFixture
     {
         return childOf<T>(window.get(), name);
     }
-    /// Of a dialog, say, which must be there.
+    /// Returns a child of @p parent, which may be a dialog. Ends the program if there is none.
     template <typename T>
     static T *childOf(const QWidget *parent, const char *name)
     {
@@ -85,7 +85,7 @@ struct WindowFixture
         box->setCurrentIndex(index);
         Q_EMIT box->activated(index);
     }
-    /// Lets the window follow a change, which it does a moment later.
+    /// Waits until the window has followed a change, which it does with a delay.
     void follow() const
     {
         QSignalSpy later(&world->book, &ContactsBook::changedLately);
@@ -93,7 +93,7 @@ struct WindowFixture
     }
     QString told() const { return child<QLabel>("told")->text(); }
 
-    /// The application's own style, as long as the program runs.
+    /// Sets the application's style, once per process.
     static bool dress()
     {
         static const bool done = [] {
@@ -109,7 +109,7 @@ struct WindowFixture
     std::unique_ptr<ContactsWindow> window;
 };
 
-/// Derive a test of the window from it: each function gets a window of its own, which shows @p page.
+/// Base class of window tests: each test function gets a new window that shows @p page.
 class ContactsWindowTest : public QObject
 {
     Q_OBJECT
@@ -128,7 +128,7 @@ private Q_SLOTS:
     void cleanup() { m_fixture.reset(); }
 
 protected:
-    /// What every function begins with.
+    /// Runs before each test function.
     virtual void prepare() {}
 
     std::unique_ptr<WindowFixture> m_fixture;
@@ -137,12 +137,12 @@ private:
     const int m_page;
 };
 
-/// Derive the test of a dialog of the window from it.
+/// Base class of tests of one of the window's dialogs.
 template <typename Dialog>
 class ContactsDialogTest : public ContactsWindowTest
 {
 protected:
-    /// Null while there is none.
+    /// Returns the open dialog; null if there is none.
     Dialog *dialog() const { return m_fixture->window->findChild<Dialog *>(); }
     template <typename T>
     T *field(const char *name) const

@@ -12,9 +12,9 @@
 #include <QWidget>
 #include <QtTest>
 
-// Pictures of the window and its dialogs, kept for people to look at.
+// Pictures of the window and its dialogs, for people to look at.
 
-/// The theme that the user has chosen, for as long as it lives.
+/// Sets the user's theme for the lifetime of the object.
 class ChosenTheme
 {
 public:
@@ -40,7 +40,7 @@ inline void savePicture(const QImage &picture, const QString &fileName)
     QVERIFY(picture.save(folder.filePath(fileName)));
 }
 
-/// Saves how @p widget looks in @p theme, which its ground must show; @p name is completed by the data row's.
+/// Saves a picture of @p widget as "NAME-ROW.png", after checking that its background matches @p theme.
 inline void keepPicture(QWidget *widget, const ChosenTheme &theme, const QString &name)
 {
     QCoreApplication::processEvents();

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// The open dialog, above the middle of the window: the screen of a test is smaller than both.
+/// Returns the open dialog, centred over the window: the test's screen is too small for both.
 QDialog *dialogOf(const WindowFixture &fixture)
 {
     auto *dialog = fixture.window->findChild<QDialog *>();
@@ -51,7 +51,7 @@ void loggedOut(WindowFixture &fixture)
     fixture.follow();
 }
 
-/// Everybody's, with one that asks for a passcode, and those that have ended.
+/// Shows everybody's conferences, with one selected that needs a passcode, and the ended ones.
 void everything(WindowFixture &fixture)
 {
     fixture.pick("scope", 1);
@@ -82,7 +82,7 @@ void newConference(WindowFixture &fixture)
 
 void requests(WindowFixture &fixture)
 {
-    // As if 孟欣 and 白露 had asked.
+    // Friend requests of 孟欣 and 白露.
     for (const char *account : {"200001", "200002"}) {
         fixture.world->admin.AddContact(QString::fromLatin1(account), QStringLiteral("100001"), QString(),
                                         QStringLiteral("requested"));

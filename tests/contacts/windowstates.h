@@ -8,7 +8,7 @@
 
 struct WindowFixture;
 
-/// A state of the window that one looks at: pictured in the documents, and measured.
+/// A state of the window that is measured and, in most cases, pictured in the documents.
 struct WindowState
 {
     const char *name;
@@ -16,5 +16,5 @@ struct WindowState
 };
 Q_DECLARE_METATYPE(WindowState)
 
-/// All of them begin with the window as it opens on the sample directory.
+/// Returns the pictured states. Each starts from a newly opened window on the sample directory.
 QVector<WindowState> windowStates();

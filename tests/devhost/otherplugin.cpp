@@ -4,7 +4,7 @@
 #include <QObject>
 #include <QtPlugin>
 
-/// A plugin of another host.
+/// A plugin for another host.
 class OtherPlugin : public QObject
 {
     Q_OBJECT

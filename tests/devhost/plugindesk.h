@@ -6,7 +6,7 @@
 #include "semantics.h"
 #include "windowtest.h"
 
-/// A window on the test plugin, shown.
+/// A shown window with the test plugin.
 struct PluginDesk : Desk
 {
     PluginDesk() : Desk(QStringLiteral(TEST_PLUGIN))

@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// Derive a test that compares what programs write on their error stream from it.
+/// Base class of tests that compare what programs write to stderr.
 class ProgramTest : public QObject
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ class ProgramTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        // Without it Qt complains on the error stream.
+        // Qt warns on stderr if it is unset.
         QVERIFY(m_runtime.isValid());
         qputenv("XDG_RUNTIME_DIR", m_runtime.path().toLocal8Bit());
     }

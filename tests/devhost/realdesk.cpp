@@ -12,7 +12,7 @@ using namespace devhost;
 
 namespace {
 
-/// The plugin's configuration file, wherever the test runs.
+/// The plugin's configuration file, redirected so that the test doesn't depend on an installed one.
 class Configuration
 {
 public:
@@ -20,7 +20,7 @@ public:
     {
         QFile file(m_folder.filePath(QStringLiteral("plugin.json")));
         if (!file.open(QIODevice::WriteOnly)) {
-            qFatal("the plugin's configuration cannot be written");
+            qFatal("cannot write the plugin's configuration");
         }
         file.write("{\"Contact\":{\"TimeOut\":\"5000\",\"MaxTimeOut\":\"15000\"}}");
         file.close();
@@ -33,7 +33,7 @@ private:
     std::unique_ptr<RedirectedFile> m_redirected;
 };
 
-/// The lowest of @p widgets that can be seen.
+/// Returns the lowest visible one of @p widgets.
 template <typename Widget>
 Widget *lowest(const QList<Widget *> &widgets)
 {
@@ -59,14 +59,14 @@ PluginHost &RealDesk::host()
     static std::unique_ptr<Configuration> configuration;
     static std::unique_ptr<PluginHost> host;
     if (host == nullptr) {
-        // The plugin's requests are known from its log.
+        // The plugin's requests are read from its log.
         QLoggingCategory::setFilterRules(AbilityCall::category() + QStringLiteral(".debug=true"));
         configuration = std::make_unique<Configuration>();
         host = std::make_unique<PluginHost>();
         if (!host->load(QStringLiteral(CONTACT_PLUGIN))) {
             qFatal("%s", qUtf8Printable(host->problem().toText()));
         }
-        // Before the application object: the plugin's objects need it.
+        // Unloads the plugin before QCoreApplication goes: the plugin's objects need it.
         qAddPostRoutine([] { host.reset(); });
     }
     return *host;

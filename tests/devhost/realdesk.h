@@ -16,32 +16,32 @@
 #include <memory>
 
 /**
- * The whole desk: the real window with the real plugin and the real application on a bus of its own, used as
- * a person would. Make it in the test function: the test framework takes the log records for itself before.
+ * The whole desk: the real window, plugin and application on a private bus, driven as a user would. Create
+ * it inside a test function: Qt Test installs its own message handler before that.
  */
 class RealDesk
 {
 public:
     RealDesk();
 
-    /// Types @p text, sends it, and waits until it is answered.
+    /// Types and sends @p text, then waits for the answer.
     void say(const QString &text);
-    /// The visible control with this text; null when there is none.
+    /// Returns the visible control with this text; null if there is none.
     template <typename Control>
     Control *shown(const QString &text) const;
-    /// The newest bubble's text.
+    /// Returns the newest bubble's text.
     QString lastText() const;
-    /// The newest card; null without one.
+    /// Returns the newest card; null if there is none.
     QWidget *lastCard() const;
     devhost::Turn lastTurn() const { return m_conversation.turn(m_conversation.lastTurn()); }
 
-    /// Puts the application's sample back, over the bus.
+    /// Restores the application's sample data over the bus.
     static bool loadSample();
 
     devhost::Conversation &conversation() { return m_conversation; }
     devhost::MainWindow &window() { return m_window; }
 
-    /// The plugin and its configuration: once per process.
+    /// Loads the plugin with its configuration, once per process.
     static devhost::PluginHost &host();
 
 private:

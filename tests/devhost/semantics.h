@@ -5,7 +5,7 @@
 
 #include <QString>
 
-/// The semantic text for the test plugin: one intent with at most one slot.
+/// Returns semantic JSON for the test plugin: one intent with at most one slot.
 inline QString semantic(const char *intent, const QString &value = QString())
 {
     const QString slot =

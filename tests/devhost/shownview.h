@@ -7,7 +7,7 @@
 
 #include <QTest>
 
-/// A conversation by itself, on the screen.
+/// A shown conversation view without its window.
 struct ShownView
 {
     devhost::ConversationView view;
@@ -17,7 +17,7 @@ struct ShownView
         view.resize(width, height);
         view.show();
     }
-    /// Gives it the keyboard.
+    /// Activates the view, so that it gets key events.
     bool activate()
     {
         view.activateWindow();

@@ -7,7 +7,7 @@
 #include <QObject>
 #include <QTimer>
 
-/// Measures the longest time for which the event loop did nothing else, by a timer that should fire at once.
+/// Measures the longest stall of the event loop with a timer of zero milliseconds.
 class StallMeter : public QObject
 {
 public:

@@ -38,7 +38,7 @@ public:
                                        .toArray()
                                        .at(0)
                                        .toObject();
-        // Sentences have intents of their own.
+        // A sentence's intent is not under the test's control, so the environment may override it.
         m_name = qEnvironmentVariable("TESTPLUGIN_REPLIES", intent.value(QLatin1String("intent")).toString());
         m_slot = intent.value(QLatin1String("slots"))
                      .toArray()

@@ -8,12 +8,12 @@
 #include <functional>
 
 /**
- * A plugin that does what the name of the first intent says: "ECHO" answers its slot "text", "SLOW" sleeps
- * for the slot "msecs" first, "WAIT" waits until the file in the slot "file" is there, "CARD" answers with a
- * card whose button answers later, "LATE" answers and then once more from another thread, "ASKPASSWORD"
- * answers like a conference that wants one, "THROW" and "THROWREPLY" throw, "NOREPLY" gives none; anything
- * else counts how often its service was used. The environment decides how it starts: TESTPLUGIN_INIT is
- * "fail", "partly" or "throw", TESTPLUGIN_SERVICES is "none".
+ * A plugin that echoes the value of the first slot or, without one, says how often its service was used. Some
+ * names of the first intent do more: "SLOW" sleeps for the slot's milliseconds first, "WAIT" waits (20 s at
+ * most) for the file the slot names, "CARD" adds a card whose button answers later, "LATE" answers once more
+ * from another thread, "ASKPASSWORD" answers like a conference that wants one, "THROW" and "THROWREPLY"
+ * throw, "NOREPLY" gives no reply. The environment overrides the intent's name (TESTPLUGIN_REPLIES) and the
+ * start: TESTPLUGIN_INIT is "fail", "partly" or "throw", TESTPLUGIN_SERVICES is "none".
  */
 class TestPlugin : public QObject, public IServicePlugin
 {
@@ -29,6 +29,6 @@ public:
     void releaseService(IService *service) override;
 
     void answerLater(const Reply &reply);
-    /// answerLater() for another thread, with the host of now: a new one may come while that thread runs.
+    /// Returns an answerLater() for another thread, bound to the current host, which may change meanwhile.
     std::function<void(const Reply &)> answerer();
 };

@@ -29,13 +29,13 @@ struct Node
     QString path;
 };
 
-/// Whose children are the programs.
+/// Returns the registry's root, whose children are the programs.
 Node registry()
 {
     return {QStringLiteral("org.a11y.atspi.Registry"), QStringLiteral("/org/a11y/atspi/accessible/root")};
 }
 
-/// Reads the list of structures in @p answer, each with @p read.
+/// Calls @p read for each structure of the list in @p answer.
 template <typename Read>
 void readEach(const QDBusMessage &answer, Read read)
 {
@@ -52,8 +52,8 @@ void readEach(const QDBusMessage &answer, Read read)
 } // namespace
 
 /**
- * The conversation as a screen reader sees it: over the bus of assistive technology, on a display. The reader
- * is this program too, over a connection of its own, and never waits without handling events.
+ * The conversation as a screen reader sees it: over the accessibility bus, on a display. This program is also
+ * the reader, on a second connection; it never waits without running the event loop.
  */
 class TestAssistiveTools : public QObject
 {
@@ -77,7 +77,7 @@ private:
     QString name(const Node &node) const;
     QString role(const Node &node) const;
     QStringList actions(const Node &node) const;
-    /// All below @p node, from top to bottom.
+    /// Returns all descendants of @p node, from top to bottom.
     QVector<Node> all(const Node &node) const;
     QVector<Node> allWithRole(const Node &node, const QString &role) const;
     Node conversation() const;
@@ -179,7 +179,7 @@ Node TestAssistiveTools::conversation() const
 
 void TestAssistiveTools::initTestCase()
 {
-    // The first question makes Qt connect, later and from the event loop; what is shown before that is lost.
+    // The first query makes Qt connect, later and from the event loop. Anything shown before that is lost.
     QAccessible::isActive();
     QTRY_VERIFY(QDBusConnection(QStringLiteral("a11y")).isConnected());
     const QString address = qEnvironmentVariable("TEST_ASSISTIVE_BUS");
@@ -246,7 +246,7 @@ void TestAssistiveTools::separatorsAndPeopleAppearAsWhatTheyAre()
     const QVector<Node> shown = children(conversation());
     QCOMPARE(allWithRole(shown.at(2), QStringLiteral("separator")).size(), 1);
     QVERIFY(allWithRole(shown.at(2), QStringLiteral("push button")).isEmpty());
-    // Five people, each once.
+    // Each of the five people appears once.
     QStringList people;
     const auto boxes = allWithRole(shown.at(5), QStringLiteral("check box"));
     for (const Node &box : boxes) {
@@ -264,7 +264,7 @@ void TestAssistiveTools::repliesAreAnnounced()
                           QStringLiteral("ChildrenChanged"), this, SLOT(childrenChanged(QDBusMessage))));
     call(listeners, QStringLiteral("org.a11y.atspi.Registry"), QStringLiteral("RegisterEvent"),
          {QStringLiteral("object:children-changed")});
-    // The program hears of its listeners a moment later.
+    // The program learns of its listeners asynchronously.
     int turn = 2;
     QString text;
     const auto reply = [&] {

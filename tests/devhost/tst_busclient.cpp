@@ -15,7 +15,7 @@ namespace {
 constexpr int LongMsecs = 60000;
 const QString Silent = QStringLiteral("org.example.Silent");
 
-/// Answers after the test, which gives its event loop no time.
+/// Never answers in time: the test doesn't run its event loop meanwhile.
 class SilentObject : public QObject
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public Q_SLOTS:
     Q_SCRIPTABLE void wait() {}
 };
 
-/// Sends one call that nobody answers.
+/// Sends one call that stays unanswered.
 class Caller : public BusClient
 {
     Q_OBJECT
@@ -59,8 +59,8 @@ private Q_SLOTS:
     void unfinishedCallKeepsItsConnection();
 };
 
-/// A connection that closes deletes its unfinished calls on a thread of its own, while their watchers are
-/// about to let go of them: a desk that was closed at the wrong moment had its heap corrupted.
+/// A closing connection deletes its unfinished calls on its own thread while their watchers may be releasing
+/// them. Closing the desk at the wrong moment used to corrupt the heap.
 void TestBusClient::unfinishedCallKeepsItsConnection()
 {
     SilentObject silent;

@@ -18,7 +18,7 @@ using namespace devhost;
 
 namespace {
 
-/// As many widgets as a conference card has.
+/// Creates a card with as many widgets as a conference card has.
 QWidget *makeCard(const QString &title)
 {
     auto *card = new QWidget;
@@ -35,7 +35,7 @@ QWidget *makeCard(const QString &title)
     return card;
 }
 
-/// Turns with a card each, called by their numbers.
+/// Adds turns with one card each, titled by its number.
 void addCards(ConversationView &view, int count)
 {
     for (int turn = 1; turn <= count; ++turn) {
@@ -65,7 +65,7 @@ Bubble *bubbleWith(const ConversationView &view, const QString &text)
 
 } // namespace
 
-/// The conversation by itself: how it is read, used with the keyboard, and what it keeps.
+/// The conversation view alone: reading it, using the keyboard, and what it keeps in memory.
 class TestConversationView : public QObject
 {
     Q_OBJECT
@@ -118,7 +118,7 @@ void TestConversationView::oldCardsBecomePicturesThatComeBack()
     QVERIFY(pictured->accessibleName().contains(QStringLiteral("第 1 张")));
     const QImage again = pictured->grab().toImage();
     QCOMPARE(again.size(), first.size());
-    // A colour has a few bits less.
+    // The picture's colours have fewer bits.
     const QRect inside = first.rect().adjusted(8, 8, -8, -8);
     for (int y = inside.top(); y < inside.bottom(); ++y) {
         for (int x = inside.left(); x < inside.right(); ++x) {
@@ -126,7 +126,7 @@ void TestConversationView::oldCardsBecomePicturesThatComeBack()
                      qPrintable(QStringLiteral("%1, %2").arg(x).arg(y)));
         }
     }
-    // Nobody takes it for one that can be used: a veil of the ground lies on it.
+    // A veil in the background's colour marks it as unusable.
     QVERIFY(!pictured->isEnabled());
     QVERIFY(pictured->toolTip().contains(QStringLiteral("再")));
     const QImage desk = view.viewport()->grab().toImage();
@@ -167,7 +167,7 @@ void TestConversationView::cardWithTheFocusStaysAlive()
     QVERIFY(used->isAncestorOf(QApplication::focusWidget()));
 }
 
-/// Hiding the card gave the focus to another one, and the view scrolled there.
+/// Hiding the card used to move the focus to another one, and the view scrolled there.
 void TestConversationView::scrollingTakesTheFocusFromNoCard()
 {
     ShownView shown(500, 300);
@@ -187,7 +187,7 @@ void TestConversationView::scrollingTakesTheFocusFromNoCard()
         QCOMPARE(QApplication::focusWidget(), focus);
         QVERIFY(!card->geometry().intersects(view.viewport()->rect()) || value == 0);
     }
-    // The way goes on from there, and the card is hidden like the others once the focus has left it.
+    // Tabbing goes on from there, and the card is hidden like the others once it has lost the focus.
     QVERIFY(view.moveFocus(true) && view.moveFocus(true));
     QVERIFY(view.entries().at(2).card->isAncestorOf(QApplication::focusWidget()));
     view.scrollToEnd();
@@ -196,7 +196,7 @@ void TestConversationView::scrollingTakesTheFocusFromNoCard()
 
 void TestConversationView::tenThousandTurnsStaySmall()
 {
-    // As many as are measured, and what they say about as many as there may be.
+    // Measures this many turns and extrapolates to the promised number.
     const int turns = qEnvironmentVariableIntValue("CONVERSATION_TURNS") > 0
                           ? qEnvironmentVariableIntValue("CONVERSATION_TURNS")
                           : 1500;
@@ -215,7 +215,7 @@ void TestConversationView::tenThousandTurnsStaySmall()
     };
     QElapsedTimer timer;
     timer.start();
-    // The cards that stay alive take their room once.
+    // Fill up with live cards first: their memory is a constant.
     const int begun = 3 * ConversationView::LiveCards;
     talk(1, begun);
     const int before = megabytesInUse();
@@ -243,7 +243,7 @@ void TestConversationView::arrowsGoFromBubbleToBubble()
     const QImage ringed = bubbleWith(view, last)->grab().toImage();
     QTest::keyClick(&view, Qt::Key_Up);
     QCOMPARE(view.entries().at(view.keyboard().currentPosition()).text, QStringLiteral("第 29 句"));
-    // The ring is seen, and has moved on.
+    // The focus ring is visible and has moved on.
     QVERIFY(bubbleWith(view, last)->grab().toImage() != ringed);
     for (int i = 0; i < 40; ++i) {
         QTest::keyClick(&view, Qt::Key_Up);
@@ -286,7 +286,7 @@ void TestConversationView::menuOpensByItsButtonAndByItsKey()
     QCOMPARE(wanted.first().at(1).toString(), QStringLiteral("问"));
 }
 
-/// They were hidden with the window and stayed hidden until one scrolled.
+/// They used to be hidden with the window and stay hidden until the user scrolled.
 void TestConversationView::menuButtonsComeBackWithTheWindow()
 {
     ShownView shown(500, 300);
@@ -305,7 +305,7 @@ void TestConversationView::menuButtonsComeBackWithTheWindow()
     QCOMPARE(shownButtons(), 0);
     view.show();
     QCOMPARE(shownButtons(), before);
-    // A bubble that is out of sight takes its button along.
+    // A bubble that goes takes its button along.
     view.clear();
     QCOMPARE(shownButtons(), 0);
 }
@@ -317,7 +317,7 @@ void TestConversationView::tabReachesEveryCard()
     ConversationView &view = shown.view;
     constexpr int cards = 8;
     addCards(view, cards);
-    // One that comes late stands above, and has its turn there.
+    // A late card stands with its turn further up and gets the focus in that place.
     view.addReply(2, QStringLiteral("晚"), makeCard(QStringLiteral("2b")));
     view.scrollToEnd();
     view.setFocus();

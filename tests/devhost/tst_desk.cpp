@@ -17,8 +17,8 @@
 using namespace devhost;
 
 /**
- * The whole desk: the real window with the real plugin and the real application on a bus of its own, used as
- * a person would; what came of it is looked up in the application's database.
+ * The whole desk: the real window, plugin and application on a private bus, driven as a user would. Results
+ * are checked in the application's database.
  */
 class TestDesk : public QObject
 {
@@ -39,16 +39,16 @@ private Q_SLOTS:
     void namesComeFromTheApplication();
 
 private:
-    /// Clicks, and prints how long the window was busy with it.
+    /// Clicks, and prints how long the click kept the window busy.
     static void press(QPushButton *button);
     static int count(const QString &sql);
 
-    std::unique_ptr<RealDesk> m_desk; ///< made per test
+    std::unique_ptr<RealDesk> m_desk; ///< recreated for each test
 };
 
 void TestDesk::initTestCase()
 {
-    // The first request starts the application, and with it its database.
+    // The first request starts the application, which creates its database.
     init();
     m_desk->say(QStringLiteral("查询今天的会议"));
     auto database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
@@ -131,7 +131,7 @@ void TestDesk::conferenceIsCancelledOnTheCard()
     press(m_desk->shown<QPushButton>(QStringLiteral("取 消")));
     QTRY_VERIFY(m_desk->window().view()->count() == 3);
     QCOMPARE(count(QStringLiteral("conference")), before);
-    // One goes on typing.
+    // The user can go on typing.
     QCOMPARE(QApplication::focusWidget(), m_desk->window().input());
 }
 
@@ -158,7 +158,7 @@ void TestDesk::conferenceIsJoinedWithAPasswordInTwoTurns()
     QTRY_COMPARE(m_desk->lastText(), QStringLiteral("好的，您已成功加入会议。"));
     QCOMPARE(count(inside), 1);
     QCOMPARE(m_desk->window().input()->echoMode(), QLineEdit::Normal);
-    // The password is nowhere to be seen.
+    // The password shows up nowhere.
     const Turn turn = m_desk->conversation().turn(2);
     QStringList seen{turn.said, turn.semantic};
     QVERIFY(!turn.calls.isEmpty());
@@ -219,7 +219,7 @@ void TestDesk::bubbleHasAMenu()
     QCOMPARE(m_desk->lastTurn().said, QStringLiteral("查询今天的会议"));
     menu->close();
     QTRY_VERIFY(m_desk->window().findChild<QMenu *>(QString(), Qt::FindDirectChildrenOnly) == nullptr);
-    // Nobody keeps a password.
+    // A password is not kept.
     m_desk->say(QStringLiteral("加入会议880100002"));
     m_desk->say(QStringLiteral("246810"));
     menu = openMenu();
@@ -251,7 +251,7 @@ void TestDesk::statusLineNeedsNoAdministration()
             QDBusConnection::sessionBus().interface()->servicePid(QStringLiteral("com.kelvane.meetlynx"));
         return found.isValid() ? qint64(found.value()) : 0;
     };
-    // As it is installed, where nobody starts it for developers.
+    // Run it as installed: without the developers' administration on the bus.
     kill(static_cast<pid_t>(pid()), SIGTERM);
     QTRY_COMPARE(pid(), 0);
     auto *account = m_desk->window().findChild<QLabel *>(QStringLiteral("statusAccount"));
@@ -271,7 +271,7 @@ void TestDesk::statusLineNeedsNoAdministration()
     QTRY_VERIFY(!conference->isVisible() && !leave->isVisible());
     application.terminate();
     QVERIFY(application.waitForFinished());
-    // The next request has the bus start it again.
+    // The next request makes the bus start it again.
     QTRY_COMPARE(account->text(), QStringLiteral("联系人应用未运行"));
     m_desk->say(QStringLiteral("查询今天的会议"));
     QTRY_COMPARE(account->text(), QStringLiteral("王小明（100001）"));

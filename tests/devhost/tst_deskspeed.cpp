@@ -15,7 +15,7 @@ namespace {
 
 constexpr int LongestWaitMsecs = 20000;
 
-/// How long after start() a window has painted for the first time.
+/// Measures the time from start() to a window's first paint.
 class PaintMeter : public QObject
 {
 public:
@@ -27,7 +27,7 @@ public:
         m_timer.start();
     }
     double msecs() const { return m_msecs; }
-    /// In an event loop, which sleeps only while there is nothing to do.
+    /// Waits in an event loop, which sleeps only while idle.
     bool wait()
     {
         QEventLoop loop;
@@ -63,7 +63,7 @@ private:
 
 } // namespace
 
-/// How long a turn of the whole desk takes from Enter to the screen, and how long the window stalls.
+/// Measures a turn of the whole desk from Enter to the screen, and the window's longest stall.
 class TestDeskSpeed : public QObject
 {
     Q_OBJECT
@@ -97,7 +97,7 @@ void TestDeskSpeed::turnsAreFastAndTheWindowDoesNotStall()
         QSignalSpy answered(&desk.conversation(), &Conversation::replied);
         sinceEnter.start();
         QTest::keyClick(desk.window().input(), Qt::Key_Return);
-        // Not QTRY_VERIFY, whose naps of ten milliseconds would count.
+        // Not QTRY_VERIFY(): it would add up to ten milliseconds of sleep.
         QVERIFY(!answered.isEmpty() || answered.wait(LongestWaitMsecs));
         QVERIFY(paintMeter.wait());
         QTRY_VERIFY(!desk.conversation().isBusy());
@@ -125,7 +125,7 @@ void TestDeskSpeed::turnsAreFastAndTheWindowDoesNotStall()
     std::cout << "Enter to screen:          " << qUtf8Printable(figure(total)) << std::endl;
     std::cout << "longest stall:            " << meter.longestMsecs() << " ms" << std::endl;
     std::sort(total.begin(), total.end());
-    // Far above what a busy machine makes of it, and far below what makes one wait.
+    // Far above the figures of a busy machine, and the most a user should wait.
     QVERIFY2(total.at(total.size() / 2) < 1000, qPrintable(figure(total)));
     QVERIFY2(meter.longestMsecs() < 1000, qPrintable(QString::number(meter.longestMsecs())));
 }

@@ -37,7 +37,7 @@ QStringList withPlugin(QStringList arguments)
 
 } // namespace
 
-/// The program from outside: its text modes, messages and exit statuses.
+/// The program from outside: text modes, messages and exit codes.
 class TestDevhostProgram : public ProgramTest
 {
     Q_OBJECT
@@ -199,7 +199,7 @@ void TestDevhostProgram::conversationIsPrinted()
     QVERIFY(printed.contains(QStringLiteral("语义 JSON CARD  ：你")));
     QVERIFY(printed.contains(QStringLiteral("助手：看卡片\n      │ 一张卡片\n      │ [按我]")));
     QVERIFY(printed.contains(QStringLiteral("助手：请输入密码:  (-16014)")));
-    QVERIFY2(!printed.contains(QLatin1Char('\033')), "colours are for terminals");
+    QVERIFY2(!printed.contains(QLatin1Char('\033')), "colours in output that is no terminal");
     QVERIFY(!printed.contains(QStringLiteral("comment")));
 }
 

@@ -34,7 +34,7 @@ QStringList allMatches(const QString &pattern, const QString &text)
     return found;
 }
 
-/// The sentences that a document shows: what is quoted and longer than a button's text, and a list's items.
+/// Returns the sentences of a document: quotes longer than a button's text and, in Chinese ones, list items.
 QStringList sentencesOf(const QString &file)
 {
     const QString text = linesOf(file).join(QLatin1Char('\n'));
@@ -48,8 +48,8 @@ QStringList sentencesOf(const QString &file)
 } // namespace
 
 /**
- * Everything that somebody is shown to try works, on the sample, in the order in which it is shown. The
- * sentences come from the very places that show them; the clock is another one in each run.
+ * Every sentence we suggest works on the sample data, in the order shown. The sentences are read from the
+ * places that show them; each run uses another time of day.
  */
 class TestExamples : public QObject
 {
@@ -67,7 +67,7 @@ private Q_SLOTS:
     void conversationEndsAsItSays();
 
 private:
-    /// Says an example as the documents write it, with what follows in its remark: "SENTENCE（REMARK）".
+    /// Says an example from the documents and follows its remark: "SENTENCE（REMARK）".
     static void follow(RealDesk &desk, const QString &example);
 };
 
@@ -176,7 +176,7 @@ void TestExamples::exampleOfTheRefusalWorks()
 void TestExamples::helpWorksAndNamesWhoIsThere()
 {
     RealDesk desk;
-    // Who is there is known when the application has answered.
+    // The names are known once the application has answered.
     auto *account = desk.window().findChild<QLabel *>(QStringLiteral("statusAccount"));
     QTRY_COMPARE(account->text(), QStringLiteral("王小明（100001）"));
     desk.say(QStringLiteral("你能做什么？"));
@@ -210,7 +210,7 @@ void TestExamples::requestsWorkAndShowAllSeven()
             QVERIFY2(turn.code == 0, qUtf8Printable(request + QLatin1Char(' ') + turn.display));
         }
     }
-    // What a password and a choice look like is shown once each.
+    // The password prompt and the choice appear once each.
     QCOMPARE(questions, (QVector<int>{AsksForThePassword, AsksWhichOfThem}));
     QCOMPARE(actions, (QSet<QString>{QStringLiteral("Create Conference"), QStringLiteral("Invite Members"),
                                      QStringLiteral("Join Conference"), QStringLiteral("Join My Conference"),

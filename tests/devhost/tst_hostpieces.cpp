@@ -29,7 +29,7 @@
 
 using namespace devhost;
 
-/// The small units of the host that need neither a plugin nor a window.
+/// Small units of the host that need neither a plugin nor a window.
 class TestHostPieces : public QObject
 {
     Q_OBJECT
@@ -243,7 +243,7 @@ void TestHostPieces::theHelpNamesThreePeople()
     const QString text = help::text({QStringLiteral("甲一"), QStringLiteral("乙二"), QStringLiteral("丙三")});
     QVERIFY2(text.contains(QStringLiteral("叫上甲一和乙二")), qPrintable(text));
     QVERIFY2(text.contains(QStringLiteral("邀请丙三加入会议")), qPrintable(text));
-    // Who is not known is of the sample.
+    // Missing names are filled in from the sample.
     QVERIFY(help::text({QStringLiteral("甲一")}).contains(QStringLiteral("叫上甲一和赵磊")));
 }
 

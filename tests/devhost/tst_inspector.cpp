@@ -9,7 +9,7 @@
 
 using namespace devhost;
 
-/// The inspector beside a conversation.
+/// The inspector next to the conversation.
 class TestInspector : public WindowTest
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ void TestInspector::inspectorShowsTheTurnAndSendsSemantics()
     desk.window.findChild<QPushButton *>(QStringLiteral("inspectorSend"))->click();
     QTRY_VERIFY(text("inspectorReply").contains(QStringLiteral("原样")));
 
-    // A click on an earlier turn brings it back.
+    // A click on an earlier turn shows that turn again.
     const auto bubbles = desk.window.view()->findChildren<Bubble *>();
     for (Bubble *bubble : bubbles) {
         if (bubble->text() == QStringLiteral("回声")) {

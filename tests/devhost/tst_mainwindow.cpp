@@ -9,7 +9,7 @@
 
 using namespace devhost;
 
-/// The window, driven as a person would, with a plugin that answers slowly, late and with cards.
+/// The window, driven as a user would, with a plugin that answers slowly, late and with cards.
 class TestMainWindow : public WindowTest
 {
     Q_OBJECT
@@ -48,7 +48,7 @@ void TestMainWindow::windowStaysAliveWhileARequestRuns()
     desk.type(semantic("WAIT", gate));
     QTRY_VERIFY(desk.window.view()->isWaiting());
     StallMeter meter;
-    // Typing works meanwhile.
+    // Typing still works.
     QTest::keyClicks(desk.window.input(), QStringLiteral("abcdefghij"));
     int ticks = 0;
     QTimer ticker;
@@ -127,7 +127,7 @@ void TestMainWindow::viewStaysAtTheEndUnlessTheUserScrolledUp()
     QCOMPARE(view->verticalScrollBar()->value(), 200);
     QCOMPARE(desk.shownTexts(), before);
 
-    // Something that is said oneself leads back to the end.
+    // The user's own input scrolls back to the end.
     desk.type(semantic("ECHO", QStringLiteral("Ende")));
     QTRY_VERIFY(desk.shownTexts().contains(QStringLiteral("Ende")));
     QVERIFY(view->isAtEnd());
@@ -180,7 +180,7 @@ void TestMainWindow::titleNamesTheProgramOnce()
 {
     const PluginDesk desk;
     const QString title = desk.window.windowTitle();
-    // What main() gives Qt as the display name; Qt adds it to titles that do not end with it.
+    // main() sets this display name, which Qt appends to titles that don't end with it.
     const QString program = QCoreApplication::translate("devhost::HostApplication", "Voice Assistant");
     QVERIFY2(title.endsWith(program), qPrintable(title));
     QCOMPARE(title.count(program), 1);

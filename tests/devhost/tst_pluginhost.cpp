@@ -30,7 +30,7 @@ struct LoadedHost
 
 } // namespace
 
-/// Loading plugins that work and that do not, and putting turns to one.
+/// Loading working and broken plugins, and sending turns to one.
 class TestPluginHost : public QObject
 {
     Q_OBJECT
@@ -211,7 +211,7 @@ void TestPluginHost::replyFromAnotherThreadArrivesLater()
 
 void TestPluginHost::replyAfterTheHostHasGoneIsDropped()
 {
-    // Many times, since the late reply races with the end of the host.
+    // Repeated, because the late reply races with the host's destruction.
     for (int i = 0; i < 50; ++i) {
         LoadedHost host;
         QVERIFY(host.isLoaded);
@@ -254,14 +254,14 @@ void TestPluginHost::helpIsNoPassword()
     conversation.say(QStringLiteral("加入会议880100002"));
     QVERIFY(idle.wait());
     QVERIFY(conversation.expectsSecret());
-    // What is typed now may be one; only the plugin's words are shown.
+    // This input may be a password, so only the plugin's words are shown.
     const int secret = conversation.say(QStringLiteral("help"));
     QVERIFY(idle.wait());
     qunsetenv("TESTPLUGIN_REPLIES");
     QCOMPARE(conversation.turn(secret).display, QStringLiteral("请输入密码:"));
 }
 
-/// It was taken as semantic JSON, and so kept and saved as it was.
+/// Such a password used to be taken for semantic JSON, and kept and saved in clear text.
 void TestPluginHost::passwordMayBeginLikeASemanticText()
 {
     const QString password = QStringLiteral("{2468}");
@@ -271,14 +271,14 @@ void TestPluginHost::passwordMayBeginLikeASemanticText()
     QSignalSpy idle(&conversation, &Conversation::idle);
     qputenv("TESTPLUGIN_REPLIES", "ASKPASSWORD");
     conversation.say(QStringLiteral("加入会议880100002"));
-    // One that was typed before the question came, and one after.
+    // One typed before the prompt came, and one after.
     const int early = conversation.say(password);
     QVERIFY(idle.wait());
     QVERIFY(conversation.expectsSecret());
     const int late = conversation.say(password);
     const QString shown = conversation.turn(late).said;
     QVERIFY(idle.wait());
-    // What says itself that it is semantic stays so.
+    // Input explicitly sent as semantic stays semantic.
     const int semanticText = conversation.sendSemantic(semantic("ECHO", QStringLiteral("回声")));
     QVERIFY(idle.wait());
     qunsetenv("TESTPLUGIN_REPLIES");
@@ -287,7 +287,7 @@ void TestPluginHost::passwordMayBeginLikeASemanticText()
         const Turn turn = conversation.turn(id);
         QVERIFY2(turn.said.startsWith(QChar(0x2022)), qUtf8Printable(turn.said));
         QVERIFY2(!turn.semantic.contains(QLatin1String("2468")), qUtf8Printable(turn.semantic));
-        // The question goes on, with what a password may consist of.
+        // The prompt is repeated and says what a password may consist of.
         QVERIFY2(turn.semantic.contains(QStringLiteral("请输入会议密码")), qUtf8Printable(turn.semantic));
     }
     QVERIFY(conversation.turn(semanticText).said.endsWith(QLatin1String("ECHO")));

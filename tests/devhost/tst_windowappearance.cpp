@@ -14,7 +14,7 @@
 
 using namespace devhost;
 
-/// Theme, font size and widths of the window and the cards in it.
+/// Theme, font size and widths of the window and its cards.
 class TestWindowAppearance : public WindowTest
 {
     Q_OBJECT
@@ -86,7 +86,7 @@ void TestWindowAppearance::defaultThemeIsTheToolkitsNearestToTheSystems()
     auto *example = desk.window.findChild<QPushButton *>(QStringLiteral("example"));
     QCOMPARE(example->palette().color(QPalette::Button), light.color(QPalette::Button));
     QCOMPARE(example->palette().color(QPalette::Highlight), light.color(QPalette::Highlight));
-    // The plate of a button is seen, also by itself.
+    // A button's background stands out from the window's.
     const QImage picture = desk.window.grab().toImage();
     const QPoint middle = example->mapTo(&desk.window, QPoint(example->width() / 2, 4));
     const QPoint beside = example->mapTo(&desk.window, QPoint(-4, 4));
@@ -107,7 +107,7 @@ void TestWindowAppearance::fontSizeReachesCardsAndInspector()
     desk.window.view()->addReply(1, QString(), card);
     auto *edit = desk.window.findChild<QPlainTextEdit *>(QStringLiteral("inspectorRequests"));
     const qreal before = edit->font().pointSizeF();
-    // The desktop's own font may already be larger than the one that cards are planned for.
+    // The desktop's font may already be larger than the one cards are designed for.
     const int atFirst = label->font().pixelSize();
     QCOMPARE(atFirst, qRound(20 * desk.appearance.cardScale()));
     QVERIFY(atFirst >= 20);
@@ -116,7 +116,7 @@ void TestWindowAppearance::fontSizeReachesCardsAndInspector()
     QCOMPARE(edit->font().pointSizeF(), before + 2);
     const QFontMetrics metrics(edit->font());
     QCOMPARE(metrics.horizontalAdvance(QLatin1Char('i')), metrics.horizontalAdvance(QLatin1Char('W')));
-    // A row that the card gets later, too.
+    // The same holds for a row added later.
     auto *late = new QLabel(QStringLiteral("后"), card);
     late->setFont(own);
     layout->addWidget(late);
@@ -137,7 +137,7 @@ void TestWindowAppearance::narrowWindowShowsCardsWhole()
     const ConversationView *view = desk.window.view();
     QTRY_VERIFY(view->viewport()->rect().width() >= card->geometry().right() + 1);
     QVERIFY(card->x() >= 0);
-    // Nothing stands on anything else, at any width above.
+    // Nothing overlaps at any larger width.
     for (int width = desk.window.width(); width <= 1600; width += 123) {
         desk.window.resize(width, 600);
         const auto controls = desk.window.centralWidget()->findChildren<QWidget *>();
@@ -188,7 +188,7 @@ void TestWindowAppearance::disabledCardIsVeiledAndEveryCardHasAnEdge()
     QVERIFY(colourAt(inside).lightness() > 100);
     below->setEnabled(true);
     QCOMPARE(colourAt(inside), QColor(Qt::black));
-    // It is the card that is clicked, and both go together.
+    // Clicks reach the card, and its surround is deleted with it.
     const QSignalSpy clicked(card, &QPushButton::clicked);
     QTest::mouseClick(view.viewport()->childAt(card->geometry().center()), Qt::LeftButton);
     QCOMPARE(clicked.size(), 1);

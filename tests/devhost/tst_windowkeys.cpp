@@ -12,7 +12,7 @@ using namespace devhost;
 
 namespace {
 
-/// Gives the window the keyboard and has @p count turns answered with a card each.
+/// Activates the window and has @p count turns answered with one card each.
 bool showsCards(PluginDesk &desk, int count)
 {
     desk.window.activateWindow();
@@ -45,7 +45,7 @@ void TestWindowKeys::keysGoThroughTheHistoryAndClearTheLine()
 {
     PluginDesk desk;
     InputLine *input = desk.window.input();
-    // Sentences, so that they are shown as typed.
+    // Plain sentences: unlike semantic JSON, they are shown as typed.
     desk.type(QStringLiteral("第一句"));
     desk.type(QStringLiteral("第二句"));
     input->setText(QStringLiteral("开始"));
@@ -92,7 +92,7 @@ void TestWindowKeys::tabGoesAsOneReads()
         QTest::keyClick(desk.window.windowHandle(), Qt::Key_Tab);
     } while (visited.size() < 40 && QApplication::focusWidget() != view);
     QCOMPARE(QApplication::focusWidget(), view);
-    // The four cards' buttons from above, the input, the button beside it, the inspector.
+    // The four cards' buttons from the top, the input, the button beside it, then the inspector.
     for (int i = 1; i <= 4; ++i) {
         QCOMPARE(visited.at(i)->parentWidget(), view->entries().at(2 * i - 1).card.data());
     }
@@ -141,14 +141,14 @@ void TestWindowKeys::buttonToTheEndIsOpaqueAndAtTheSide()
     const QRect place(button->mapTo(&desk.window, QPoint()), button->size());
     QCOMPARE(picture.pixelColor(place.center() + QPoint(-12, 0)), plate);
     QCOMPARE(picture.pixelColor(place.center() + QPoint(12, 0)), plate);
-    // Round: its corners show what lies below.
+    // It is round: its corners show what lies below.
     QVERIFY(picture.pixelColor(place.topLeft() + QPoint(1, 1)) != plate);
     QVERIFY(button->x() > view->width() * 3 / 4);
     QTest::mouseClick(button, Qt::LeftButton);
     QVERIFY(view->isAtEnd() && !button->isVisible());
 }
 
-/// The button took the focus and hid itself, whereupon the focus went to the first card and the view with it.
+/// The button used to take the focus and hide, which moved the focus and the view to the first card.
 void TestWindowKeys::buttonToTheEndLeadsThereFromCards()
 {
     PluginDesk desk;
@@ -162,15 +162,15 @@ void TestWindowKeys::buttonToTheEndLeadsThereFromCards()
     };
     QVERIFY(desk.window.input()->hasFocus());
     QVERIFY(goesToTheEnd());
-    // As a click beside the cards would have it.
+    // The view has the focus, as after a click beside the cards.
     QVERIFY(view->hasFocus());
-    // Nor does the button itself, where a screen reader has given it the focus.
+    // The same from the button itself, which a screen reader may have focused.
     view->verticalScrollBar()->setValue(0);
     button->setFocus();
     QVERIFY(button->hasFocus());
     QVERIFY(goesToTheEnd());
     QVERIFY(!view->isAncestorOf(QApplication::focusWidget()));
-    // Nor does the card that had the focus bring the view back when it goes out of sight.
+    // A focused card that scrolls out of sight doesn't pull the view back.
     view->entries().at(1).card->findChild<QPushButton *>()->setFocus();
     QVERIFY(goesToTheEnd());
     QVERIFY(view->hasFocus());

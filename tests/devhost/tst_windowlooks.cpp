@@ -45,7 +45,7 @@ QColor pixel(QWidget &widget, const QPoint &place)
 
 } // namespace
 
-/// Colours, spaces and sides of the window's parts, which nothing else would miss.
+/// Colours, spacing and sides of the window's parts, which no other test covers.
 class TestWindowLooks : public WindowTest
 {
     Q_OBJECT
@@ -76,7 +76,7 @@ void TestWindowLooks::whatIsSaidStandsOnTheRightAndInTheAccentColour()
     QCOMPARE(bubbles.size(), 2);
     Bubble *said = bubbles.at(0);
     Bubble *reply = bubbles.at(1);
-    // Both keep the same distance from their side.
+    // Both keep the same distance from their edge.
     QCOMPARE(view.viewport()->width() - said->geometry().right() - 1, reply->x());
     QVERIFY(said->x() > view.viewport()->width() / 2);
     const QPoint inside(6, said->height() / 2);
@@ -109,7 +109,7 @@ void TestWindowLooks::bubblesStandApart()
     view.addReply(1, QStringLiteral("二"), nullptr);
     const QVector<Bubble *> bubbles = bubblesIn(view);
     QCOMPARE(bubbles.at(1)->y() - bubbles.at(0)->geometry().bottom() - 1, gap);
-    // And their texts from their edges.
+    // The same for the padding around their texts.
     int natural = 0;
     const int oneLine = Bubble::sizeFor(QStringLiteral("一"), view.font(), 1000, natural).height();
     const int twoLines = Bubble::sizeFor(QStringLiteral("一\n二"), view.font(), 1000, natural).height();
@@ -136,7 +136,7 @@ void TestWindowLooks::whatIsReadStaysWhereItIs()
         return -1000;
     };
     const int before = place();
-    // A late answer, far above what is seen.
+    // A late answer far above the visible part.
     view.addReply(1, QString(400, QChar(0x4f1a)), nullptr);
     QCOMPARE(place(), before);
 }

@@ -22,7 +22,7 @@ constexpr QSize WindowSize(900, 600);
 constexpr double LeastTextContrast = 4.5;
 constexpr double LeastEdgeContrast = 3;
 
-/// As if it had been said: the page changes to the conversation with the first turn.
+/// Leaves the welcome page, which the first turn replaces with the conversation.
 void talk(Desk &desk)
 {
     desk.window.submit(QStringLiteral("你好"));
@@ -125,8 +125,8 @@ constexpr State States[] = {{"welcome", welcome},   {"answer", answer},   {"wait
 Q_DECLARE_METATYPE(State)
 
 /**
- * The window in ten states, in both themes: compared with the pictures in docs/pictures/desk, and every text
- * of the desk measured against its ground. With UPDATE_PICTURES set it writes those pictures.
+ * Compares the window in ten states and both themes with the pictures in docs/pictures/desk, and measures the
+ * contrast of the desk's texts and edges. Writes those pictures if UPDATE_PICTURES is set.
  */
 class TestWindowPictures : public QObject
 {
@@ -167,8 +167,7 @@ void TestWindowPictures::everyState()
     desk.appearance.setTheme(isDark ? Appearance::Dark : Appearance::Light);
     desk.window.resize(WindowSize);
     desk.window.show();
-    // Which monospaced font a machine prefers is its own affair; the pictures have the one that every Debian
-    // has.
+    // The preferred monospaced font differs between machines; the pictures use one found on every Debian.
     const auto edits = desk.window.findChildren<QPlainTextEdit *>();
     for (QPlainTextEdit *edit : edits) {
         QFont font = edit->font();
@@ -182,7 +181,7 @@ void TestWindowPictures::everyState()
     const QString difference = DocumentedPictures::differenceFromDocuments(picture, QStringLiteral("desk"),
                                                                            QLatin1String(state.name), isDark);
 
-    // Every text of the desk's own; the cards' colours are the plugin's.
+    // Only the desk's own texts: the cards' colours belong to the plugin.
     const qreal ratio = picture.devicePixelRatio();
     const auto widgets = desk.window.findChildren<QWidget *>();
     for (const QWidget *widget : widgets) {
@@ -223,7 +222,7 @@ void TestWindowPictures::everyState()
                            .arg(contrast)));
     }
 
-    // Fixed texts of a card are never shortened, however large the desktop's text.
+    // Fixed texts of a card are never elided, however large the desktop's font.
     for (const ConversationEntry &entry : desk.view().entries()) {
         const auto labels =
             entry.card == nullptr ? QList<CardLabel *>() : entry.card->findChildren<CardLabel *>();

@@ -14,7 +14,7 @@ using namespace devhost;
 
 namespace {
 
-/// Plays @p script to its end; false when a line of it failed.
+/// Plays @p script to its end. Returns false if a line failed.
 bool plays(const QString &script, Desk &desk)
 {
     std::istringstream input(script.toStdString());
@@ -26,7 +26,7 @@ bool plays(const QString &script, Desk &desk)
 
 } // namespace
 
-/// A conversation that is saved as a script, and the script that is played.
+/// Saving a conversation as a script, and playing it.
 class TestWindowScript : public WindowTest
 {
     Q_OBJECT
@@ -53,7 +53,7 @@ void TestWindowScript::conversationIsSavedAsAScript()
     QVERIFY2(!script.contains(QStringLiteral("432187")), qUtf8Printable(script));
     QVERIFY(lines.at(2).startsWith(QLatin1Char('#')));
 
-    // And it is played: the same turns come again. There is one log recorder at a time.
+    // Playing it repeats the same turns. Only one log recorder may exist at a time.
     desk.reset();
     PluginDesk again;
     QVERIFY(plays(script, again));
@@ -61,7 +61,7 @@ void TestWindowScript::conversationIsSavedAsAScript()
     QCOMPARE(again.conversation.turn(2).display, QStringLiteral("原样"));
 }
 
-/// What waits may turn out to be a password only when its turn comes.
+/// Queued input may yet turn out to be a password.
 void TestWindowScript::scriptHoldsNothingThatWaits()
 {
     PluginDesk desk;
@@ -91,9 +91,9 @@ void TestWindowScript::scriptPlaysSentencesAsSentences()
     QVERIFY2(!script.contains(QStringLiteral("会议室")) && !script.contains(QStringLiteral("按我")),
              qUtf8Printable(script));
 
-    desk.reset(); // there is one log recorder at a time
+    desk.reset(); // only one log recorder may exist at a time
     PluginDesk again;
-    QVERIFY(plays(script, again)); // no button was looked for
+    QVERIFY(plays(script, again)); // nothing was taken for a command to press a button
     QCOMPARE(again.conversation.lastTurn(), 1);
     QCOMPARE(again.conversation.turn(1).said, QStringLiteral("@pressing"));
 }

@@ -17,7 +17,7 @@
 
 #include <algorithm>
 
-/// A window as main() puts it together, by default without a plugin. One at a time: it records the log.
+/// A window assembled as in main(), by default without a plugin. One at a time: it records the log.
 struct Desk
 {
     devhost::LogRecorder logs;
@@ -57,7 +57,7 @@ struct Desk
     }
 };
 
-/// Derive a test of the window from it: the desk's style, and settings of each test function's own.
+/// Base class of window tests: sets the desk's style and gives each test function its own settings.
 class WindowTest : public QObject
 {
     Q_OBJECT
@@ -65,7 +65,7 @@ class WindowTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        // As the program does.
+        // The program's style.
         QApplication::setStyle(new LStyle);
     }
     void init()
@@ -77,7 +77,7 @@ private Q_SLOTS:
     }
 
 protected:
-    /// What every function begins with.
+    /// Runs before each test function.
     virtual void prepare() {}
 
 private:

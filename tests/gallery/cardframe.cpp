@@ -5,7 +5,7 @@
 
 namespace {
 constexpr int Margin = 16;
-constexpr int LeastCardHeight = 24; ///< so that an empty card can be seen
+constexpr int LeastCardHeight = 24; ///< keeps an empty card visible
 constexpr int GroundFactor = 108;
 } // namespace
 
@@ -13,7 +13,7 @@ CardFrame::CardFrame(std::unique_ptr<QWidget> card, int cardWidth)
     : m_card(card.release())
     , m_cardWidth(cardWidth)
 {
-    // Darker than a window, so that the card, which is translucent, can be told from it.
+    // Darker than a window, so that the translucent card stands out.
     QPalette ground = palette();
     ground.setColor(QPalette::Window, ground.color(QPalette::Window).darker(GroundFactor));
     setPalette(ground);

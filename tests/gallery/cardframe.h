@@ -7,7 +7,7 @@
 
 #include <memory>
 
-/// A piece of a conversation view with one card in it, as wide as the host shows it.
+/// A piece of a conversation view holding one card at the width the host gives it.
 class CardFrame : public QWidget
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
     explicit CardFrame(std::unique_ptr<QWidget> card, int cardWidth = DefaultCardWidth);
 
     QWidget &card() const { return *m_card; }
-    /// Gives the card the height that it wants by now.
+    /// Resizes the card to the height it currently wants.
     void fit();
 
 private:

@@ -20,13 +20,13 @@ namespace {
 
 using Card = std::unique_ptr<QWidget>;
 
-/// One dispatcher for all record types: each listener builds a card, and a reply holds only the last one.
+/// Creates the only dispatcher: each listener builds a card, and a reply holds only the last one.
 void listenOnce()
 {
     static ContactReplyWidget dispatcher;
 }
 
-/// The card that the plugin would put into its reply.
+/// Returns the card that the plugin would put into its reply.
 template <typename Record>
 Card announce(int action, const Record &record)
 {
@@ -75,7 +75,7 @@ Card inviteLimit()
     return announce(Invite_ExceedLimit, SceneRecords::exceededLimit(2));
 }
 
-// What a person does to a card.
+// User actions on a card.
 
 void answerRequests(bool successfully)
 {
@@ -152,12 +152,12 @@ void pickTwoAndConfirm(QWidget &card)
 
 void focusCard(QWidget &card)
 {
-    // The window has given it the focus already, but not because of the Tab key.
+    // The window has already given it the focus, but not for the Tab key's reason.
     card.clearFocus();
     card.setFocus(Qt::TabFocusReason);
 }
 
-/// As with the Tab key, for the focus must be seen.
+/// Focuses @p control as the Tab key would, so that the focus ring is painted.
 void focusByKeyboard(QWidget &control)
 {
     control.window()->setAttribute(Qt::WA_KeyboardFocusChange);

@@ -12,16 +12,16 @@ class QWidget;
 QT_END_NAMESPACE
 
 /**
- * Every state that a card can be in, with a name. The cards come through the dispatcher, as in the plugin,
- * and are brought to their state with mouse and keys; the ability library has to be the scripted one.
+ * A named state of a card. The cards come through the dispatcher, as in the plugin, and reach their state by
+ * mouse and keyboard. Requires the scripted ability library.
  */
 struct CardScene
 {
-    const char *name; ///< also the picture's file name
+    const char *name; ///< the stem of the picture's file name, too
 
-    /// Makes the card. It has no parent.
+    /// Creates the card, without a parent.
     std::unique_ptr<QWidget> (*make)();
-    /// Brings the card, which is shown by now, to its state; null when it is in it already.
+    /// Brings the shown card into its state. Null where it starts out in that state.
     void (*act)(QWidget &card);
 };
 

@@ -15,8 +15,8 @@
 
 /**
  * @file
- * Paints every state of the cards into PNG files, so that they can be looked at: one file per scene and
- * theme, in the scale that QT_SCALE_FACTOR gives the process.
+ * Paints every state of the cards for people to look at: one PNG file per scene and theme, at the scale set
+ * by QT_SCALE_FACTOR.
  */
 
 namespace {
@@ -48,7 +48,7 @@ bool paint(const CardScene &scene, const QString &path)
     if (scene.act != nullptr) {
         scene.act(frame.card());
     }
-    // What a button has thrown out of its card goes with the next turn of the event loop.
+    // Widgets that a button removed from its card are deleted later.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
     frame.fit();

@@ -5,22 +5,22 @@
 
 #include "conferencerecords.h"
 
-/// What the cards of the scenes show.
+/// The records shown by the cards of the scenes.
 namespace SceneRecords {
 
-/// @p status 0 not started, 1 in progress, 2 ended.
+/// Returns a conference; @p status is 0 (not started), 1 (in progress) or 2 (ended).
 ContactDetailMsg conference(int status = 0);
-/// A conference of somebody who does not pay, with a duration and a start that the card does not offer.
+/// Returns a free account's conference whose duration and start are not among the card's choices.
 ContactDetailMsg unusualConference();
-/// With a title and names that are longer than any card is wide, and with markup in them.
+/// Returns one whose title and names are wider than any card; the title contains markup.
 ContactDetailMsg longConference();
 ContactDetailMsg crowdedConference(int participants);
 QVector<ContactDetailMsg> conferences(int count);
 
-/// Two names that several people have each, and two people who were found at once.
+/// Returns two ambiguous names and one person who was found at once.
 ContactInviteMemberDetail duplicates();
 ContactInviteMemberDetail longDuplicates();
-/// More people than may still be invited.
+/// Returns more people than the @p canInvite who may still be invited.
 ContactInviteMemberDetail exceededLimit(int canInvite);
 
 } // namespace SceneRecords

@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr int FrameWidth = 392; ///< of a picture in scale 1
-/// An empty card has its ground and the ground around it, blended at the round corners.
+constexpr int FrameWidth = 392; ///< of a picture at scale 1
+/// An empty card shows its background and the frame's, blended at the round corners.
 constexpr int LeastColors = 2;
 constexpr int LeastColorsOfText = 40;
 
@@ -126,7 +126,7 @@ void TestGallery::theDocumentationShowsPicturesOfTheGallery()
     const QDir shown(QStringLiteral(CONTACT_SOURCE_DIR "/docs/pictures"));
     const QStringList known = runGallery({QStringLiteral("--list")}, 1).names;
     QStringList files = shown.entryList(QDir::Files);
-    // The development host and the contacts application are pictured themselves.
+    // Pictures of the development host and the contacts application don't come from the gallery.
     const QStringList windows{QStringLiteral("desk-*.png"), QStringLiteral("contacts-*.png")};
     const auto pictures = shown.entryList(windows, QDir::Files);
     for (const QString &file : pictures) {

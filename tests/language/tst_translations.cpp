@@ -9,15 +9,15 @@ namespace {
 
 struct Program
 {
-    const char *folder; ///< below platform
-    const char *name;   ///< of its translations
+    const char *folder; ///< below platform/
+    const char *name;   ///< base name of the translation files
     int leastTexts;
-    QStringList chinese; ///< the sources with Chinese texts, which are not for the user's language
+    QStringList chinese; ///< sources that may contain Chinese texts, which don't follow the user's language
 };
 
 QVector<Program> programs()
 {
-    // What answers a sentence or is one.
+    // Sentences, and answers to sentences.
     const QStringList assistant{QStringLiteral("core/conversation.cpp"),
                                 QStringLiteral("core/correction.cpp"),
                                 QStringLiteral("core/help.cpp"),
@@ -26,7 +26,7 @@ QVector<Program> programs()
                                 QStringLiteral("window/mainwindow.cpp"),
                                 QStringLiteral("window/warmup.cpp"),
                                 QStringLiteral("window/welcomepage.cpp")};
-    // What the bus is answered with: the name of a conference that nobody has named.
+    // An answer on the bus: the default name of a conference.
     const QStringList answers{QStringLiteral("actions/createconference.cpp")};
     return {{"devhost", "speakmate-devhost", 140, assistant}, {"contacts", "kelvane-contacts", 190, answers}};
 }
@@ -35,7 +35,7 @@ QVector<Program> programs()
 
 Q_DECLARE_METATYPE(Program)
 
-/// The translations in the tree against the sources that they belong to.
+/// Checks the translations in the tree against their sources.
 class TestTranslations : public QObject
 {
     Q_OBJECT
@@ -60,7 +60,7 @@ private:
     {
         QString source;
         QString translation;
-        QString type; ///< empty when it is finished
+        QString type; ///< empty for a finished translation
     };
     QVector<Message> m_messages;
 };
@@ -112,7 +112,7 @@ void TestTranslations::filesHoldTheTextsOfTheSources()
     QVERIFY(lupdate.waitForFinished());
     QCOMPARE(lupdate.exitCode(), 0);
     QVERIFY2(contentOf(copy) == contentOf(m_file),
-             "build the target update-translations and translate what is new");
+             "build the target update-translations and translate the new texts");
 }
 
 void TestTranslations::everyTextIsTranslated()
@@ -134,7 +134,7 @@ void TestTranslations::translationsTakeTheSameArguments()
             QVERIFY2(message.translation.count(mark) == message.source.count(mark),
                      qUtf8Printable(message.source));
         }
-        // A key that opens a menu in one language opens it in the other.
+        // A text with a mnemonic needs one in both languages.
         QVERIFY2(message.translation.count(QLatin1Char('&')) == message.source.count(QLatin1Char('&')),
                  qUtf8Printable(message.source));
     }

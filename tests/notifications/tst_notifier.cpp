@@ -23,7 +23,7 @@ Notification greeting()
             {QStringLiteral("join"), QStringLiteral("加入")}};
 }
 
-/// What a server with @p capabilities gets of the greeting; empty when it gets nothing.
+/// Returns how the greeting reaches a server with @p capabilities; empty if it doesn't.
 NotificationServer::Shown shownBy(const QStringList &capabilities)
 {
     const NotificationServer server(capabilities);
@@ -35,7 +35,7 @@ NotificationServer::Shown shownBy(const QStringList &capabilities)
 
 } // namespace
 
-/// A client of the desktop's notification server, on a bus with nothing else on it.
+/// The client of the desktop's notification server, on a bus with nothing else on it.
 class TestNotifier : public QObject
 {
     Q_OBJECT
@@ -114,7 +114,7 @@ void TestNotifier::onlySignalsOfTheServerThatShowedCount()
                                                      QStringLiteral("ActionInvoked"));
     forged.setArguments({id, QStringLiteral("forged")});
     QVERIFY(QDBusConnection::sessionBus().send(forged));
-    // The bus keeps the order of one sender only: wait until the forged one has come back to its sender.
+    // The bus orders messages per sender only: wait for a round trip, so that the forged signal has arrived.
     QVERIFY(QDBusConnection::sessionBus().interface()->isServiceRegistered(
         QStringLiteral("org.freedesktop.Notifications")));
     QCoreApplication::processEvents();

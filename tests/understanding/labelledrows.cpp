@@ -39,7 +39,7 @@ QJsonArray names(const QJsonArray &slotArray)
     return found;
 }
 
-/// The slot's meaning; null where it was not said.
+/// Returns the slot's meaning; null if it was not said.
 QJsonValue slotNamed(const QString &name, const QJsonArray &slotArray)
 {
     for (const QJsonValue &value : slotArray) {
@@ -51,7 +51,7 @@ QJsonValue slotNamed(const QString &name, const QJsonArray &slotArray)
     return QJsonValue::Null;
 }
 
-/// What was understood, in the words of the labels.
+/// Returns what was understood, in the labels' vocabulary.
 QJsonObject outcomeOf(const QString &semanticJson)
 {
     const QJsonObject result =
@@ -91,7 +91,7 @@ bool acts(const QJsonObject &outcome)
     return outcome.value(QStringLiteral("do")).toString() == QLatin1String("act");
 }
 
-/// Names without their order.
+/// Returns @p value with names sorted, so that their order doesn't count.
 QJsonValue comparable(const QString &key, const QJsonValue &value)
 {
     if (key != QLatin1String("names")) {
@@ -139,7 +139,7 @@ std::vector<LabelledRow> readLabelledRows(const QString &fileName)
 {
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
-        qFatal("%s cannot be read.", qPrintable(fileName));
+        qFatal("cannot read %s", qPrintable(fileName));
     }
     std::vector<LabelledRow> rows;
     while (!file.atEnd()) {

@@ -10,7 +10,7 @@
 
 #include <vector>
 
-/// One turn of a labelled row: a sentence with every outcome that is right, or a reply of the plugin.
+/// One turn of a labelled row: a sentence with all its accepted outcomes, or a reply of the plugin.
 struct LabelledTurn
 {
     QString say;
@@ -18,7 +18,7 @@ struct LabelledTurn
     int reply = 0; ///< the plugin's code; 0 for a sentence
 };
 
-/// A row of a labelled file, whose format docs/understanding.md explains. A sentence is a row of one turn.
+/// A row of a labelled file; docs/understanding.md explains the format. A sentence is a row of one turn.
 struct LabelledRow
 {
     int id = 0;
@@ -28,25 +28,25 @@ struct LabelledRow
     QStringList contacts;
     std::vector<LabelledTurn> turns;
 
-    /// Nothing may be carried out in any turn.
+    /// Returns true for a sentence on which the dialogue must not act.
     bool isNegative() const;
 };
 
-/// What became of a row.
+/// The outcome of running a row.
 struct RowResult
 {
     bool right = false;
-    bool acted = false; ///< something was carried out where no accepted outcome carries anything out
-    QString found;      ///< what was understood, turn by turn, up to the last one looked at
+    bool acted = false; ///< carried something out although no accepted outcome does
+    QString found;      ///< what was understood, turn by turn, up to the last one that ran
 };
 
-/// The rows of the JSON-lines file @p fileName. Ends the program when it cannot be read.
+/// Reads the rows of the JSON Lines file @p fileName. Ends the program if it cannot.
 std::vector<LabelledRow> readLabelledRows(const QString &fileName);
 
-/// Runs @p row in a conversation of its own, up to the first turn that is not right.
+/// Runs @p row in a new conversation, up to the first wrong turn.
 RowResult runRow(const LabelledRow &row);
 
-/// How many of the rows were right.
+/// Counts how many rows were right.
 struct Rates
 {
     int sentences = 0, sentencesRight = 0;
@@ -58,7 +58,7 @@ struct Rates
     QString toString() const;
 };
 
-/// Every third row of a file is kept apart: it is counted and never learned from.
+/// Every third row of a file is held out: counted, but never used for writing rules.
 constexpr bool isKeptApart(std::size_t index)
 {
     return index % 3 == 2;

@@ -44,7 +44,7 @@ std::vector<LabelledSentence> readSentences(const QString &fileName)
 {
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
-        qFatal("%s cannot be read.", qPrintable(fileName));
+        qFatal("cannot read %s", qPrintable(fileName));
     }
     std::vector<LabelledSentence> sentences;
     LabelledSentence current;
@@ -58,7 +58,7 @@ std::vector<LabelledSentence> readSentences(const QString &fileName)
         } else if (!line.isEmpty() && !line.startsWith(QLatin1Char('#'))) {
             const QStringList fields = line.split(QLatin1Char('\t'));
             if (fields.size() != 2 || !current.now.isValid()) {
-                qFatal("%s:%d: not a sentence, a tab and a meaning.", qPrintable(fileName), current.line);
+                qFatal("%s:%d: expected a sentence, a tab and a meaning", qPrintable(fileName), current.line);
             }
             current.sentence = fields.at(0);
             current.meaning = inOrder(fields.at(1));

@@ -9,7 +9,7 @@
 
 #include <vector>
 
-/// One labelled sentence: what is said, when and among whom, and what it means in the files' notation.
+/// One labelled sentence: what is said, when, with which contacts, and its meaning in the files' notation.
 struct LabelledSentence
 {
     QString sentence;
@@ -19,14 +19,13 @@ struct LabelledSentence
     int line = 0;
 };
 
-/// The rows of @p fileName, which docs/understanding.md explains. Ends the program on a row that cannot be
-/// read.
+/// Reads the rows of @p fileName; docs/understanding.md explains the format. Ends the program on a malformed
+/// row.
 std::vector<LabelledSentence> readSentences(const QString &fileName);
 
-/// @p semanticJson in the notation of the files: "CREATE_CONFERENCE open=开 name=张伟
-/// datetime=2026-03-08T15:00", or "? " and the row of answers.tsv. Names keep their order, the other slots
-/// are sorted.
+/// Returns @p semanticJson in the files' notation: "CREATE_CONFERENCE datetime=2026-03-08T15:00 name=张伟
+/// open=开", or "? " and the name of a row of answers.tsv. Slots are sorted by their names, stably.
 QString meaningOf(const QString &semanticJson);
 
-/// @p meaning with its slots in the order of meaningOf().
+/// Returns @p meaning with its slots in the order of meaningOf().
 QString inOrder(const QString &meaning);

@@ -11,7 +11,7 @@
 
 using understanding::Dialogue;
 
-/// Conversations: each row is what is typed (or what the plugin answers) and what comes of it, turn by turn.
+/// Conversations, turn by turn: what the user types or the plugin answers, and the outcome.
 class TestDialogue : public QObject
 {
     Q_OBJECT

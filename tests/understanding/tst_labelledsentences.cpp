@@ -8,7 +8,7 @@
 Q_DECLARE_METATYPE(LabelledRow)
 
 /// Sentences and conversations labelled by people who did not write the rules. A third of each fresh file was
-/// never looked at while rules were written; it is held by its rate alone.
+/// held out while the rules were written; only its rate is checked.
 class TestLabelledSentences : public QObject
 {
     Q_OBJECT
@@ -74,7 +74,7 @@ private Q_SLOTS:
         compare(rates, Apart);
     }
 
-    /// Written by the hand that wrote the rules, for their breadth.
+    /// Written by the author of the rules, for breadth.
     void ownRowsHoldTheirRate()
     {
         Rates rates;
@@ -91,7 +91,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// What a rate may not fall behind.
+    /// The lower bounds of the rates, except where noted.
     struct Bounds
     {
         int sentences;

@@ -13,8 +13,8 @@
 
 #include <random>
 
-/// Commands with a word dropped, doubled or swapped, as a hasty hand types them: what is carried out holds
-/// nothing that was not said, and no piece of a number or a time is left over.
+/// Commands with a piece dropped, doubled or moved, as typed in haste: whatever is carried out contains only
+/// names that were said and leaves over no part of a number or a time.
 class TestMutatedCommands : public QObject
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ private:
                    : QJsonObject();
     }
 
-    /// The sentence with one or two characters dropped, doubled, or swapped with their neighbours.
+    /// Returns the sentence with one or two characters dropped, doubled, or moved to another place.
     static QString mutated(QString sentence, std::mt19937 &random)
     {
         const auto below = [&](int count) {
@@ -51,13 +51,13 @@ private:
         }
     }
 
-    /// A sentence without what the command took from it.
+    /// Returns the sentence with everything that the command used masked out.
     static QString leftOver(QString sentence, const QJsonObject &command)
     {
         const QJsonArray slotArray = command.value(QStringLiteral("slots")).toArray();
         for (const QJsonValue &value : slotArray) {
             const QJsonObject slot = value.toObject();
-            // A time may be said in two places: 明天和张伟三点.
+            // A time may be split over two places: 明天和张伟三点.
             const QString said = slot.value(QStringLiteral("value")).toString();
             int from = 0;
             for (const QChar character : said) {
@@ -89,8 +89,7 @@ private Q_SLOTS:
         const QDateTime now(QDate(2026, 3, 11), QTime(10, 20));
         const QStringList contacts{QStringLiteral("张伟"), QStringLiteral("李娜"), QStringLiteral("王磊")};
         std::mt19937 random(20260311); // NOLINT: the same mutations in every run
-        // One and a pause are said in words that are no numbers (一下); everything else of a number or an
-        // hour counts.
+        // 一 is left out because it also occurs in words that are no numbers (一下).
         static const QRegularExpression numeral(
             QStringLiteral("[0-9零〇二三四五六七八九十两幺半]|点|刻|[上下]午|明天|后天|周"));
         int acted = 0;
@@ -134,7 +133,7 @@ private Q_SLOTS:
                 QVERIFY2(taken.size() == digits.size(), qPrintable(sentence + QLatin1Char(' ') + taken));
             }
         }
-        QVERIFY2(acted > 5, qPrintable(QString::number(acted))); // else nothing was tried
+        QVERIFY2(acted > 5, qPrintable(QString::number(acted))); // otherwise the test proves nothing
     }
 };
 

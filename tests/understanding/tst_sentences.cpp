@@ -11,7 +11,7 @@
 #include <QJsonObject>
 #include <QtTest>
 
-/// Every labelled sentence, and the rate on those that were kept apart while the rules were written.
+/// Every labelled sentence, and the rate on those held out while the rules were written.
 class TestSentences : public QObject
 {
     Q_OBJECT

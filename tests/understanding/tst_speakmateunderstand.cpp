@@ -10,7 +10,7 @@
 #include <QTemporaryFile>
 #include <QtTest>
 
-/// The program, as somebody would run it in a pipe.
+/// The program, as used in a pipe.
 class TestSpeakmateUnderstand : public QObject
 {
     Q_OBJECT
@@ -149,7 +149,7 @@ private Q_SLOTS:
         const ProgramRun result = run(atNoon(), input);
         QCOMPARE(linesOf(result).size(), count);
         qInfo("%lld sentences per second", count * 1000LL / qMax<qint64>(1, timer.elapsed()));
-        // Half a second on an idle machine; much more for one under load or a sanitizer.
+        // Takes half a second on an idle machine, much longer under load or a sanitizer.
         QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
     }
 };

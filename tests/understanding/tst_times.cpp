@@ -9,7 +9,7 @@
 
 using namespace understanding;
 
-/// What times mean, against a Saturday morning unless a row says otherwise.
+/// The meaning of times, relative to a Saturday morning unless a row says otherwise.
 class TestTimes : public QObject
 {
     Q_OBJECT
@@ -208,7 +208,7 @@ private Q_SLOTS:
         QVERIFY(readTime(said, 0).kind != TimeMatch::Kind::Time);
     }
 
-    /// What looks one character ahead may stand at the last one.
+    /// Rules that look one character ahead must not read past the end.
     void noTimeBeginsBehindTheEnd()
     {
         for (const QString &said : {QString(), QStringLiteral("和张明")}) {

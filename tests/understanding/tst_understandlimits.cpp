@@ -14,7 +14,7 @@
 
 #include <random>
 
-/// What nobody would say: hostile lengths, repetitions and random characters.
+/// Input nobody would type: hostile lengths, repetitions and random characters.
 class TestUnderstandLimits : public QObject
 {
     Q_OBJECT
@@ -64,9 +64,8 @@ private Q_SLOTS:
         while (sentence.size() + pattern.size() <= 500) {
             sentence += pattern;
         }
-        // The best of several runs, for a machine under load; ten milliseconds are a hundred times what a
-        // usual sentence of this length takes and a hundredth of what a quadratic reader with backtracking
-        // did.
+        // The best of several runs, to tolerate load. Ten milliseconds are a hundred times what a usual
+        // sentence of this length takes, and a hundredth of what a quadratic, backtracking reader took.
         qint64 best = std::numeric_limits<qint64>::max();
         for (int run = 0; run < 5; ++run) {
             QElapsedTimer timer;
@@ -75,14 +74,14 @@ private Q_SLOTS:
             best = qMin(best, timer.nsecsElapsed());
         }
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-        constexpr qint64 generous = 50 * 1000 * 1000; // a debug build, and a sanitizer's own work
+        constexpr qint64 generous = 50 * 1000 * 1000; // a debug build plus the sanitizer's overhead
 #else
         constexpr qint64 generous = 10 * 1000 * 1000;
 #endif
         QVERIFY2(best < generous, qPrintable(QString::number(best)));
     }
 
-    /// As a launcher asks: while the sentence is typed, so that it may end in the middle of anything.
+    /// Launchers ask while the user types, so a sentence may break off anywhere.
     void everyBeginningGetsOneAnswer()
     {
         const QStringList contacts{QStringLiteral("张伟"), QStringLiteral("a")};
@@ -104,7 +103,7 @@ private Q_SLOTS:
 
     void anythingGetsOneAnswer()
     {
-        // Pieces of real sentences in any order are nearer to trouble than random characters; both are tried.
+        // Shuffled pieces of real sentences find more bugs than random characters; try both.
         QStringList pieces;
         for (const LabelledSentence &row :
              readSentences(QStringLiteral(CONTACT_SOURCE_DIR "/tests/understanding/sentences.tsv"))) {

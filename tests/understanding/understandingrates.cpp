@@ -7,9 +7,9 @@
 
 #include <cstdio>
 
-/// Counts labelled files: understanding-rates [--learned|--apart|--rates] FILE...
-/// --learned looks at the rows to learn from, --apart counts the others, --rates counts all rows; the last
-/// two print no row, so that nobody learns from one by accident.
+/// Prints the rates of labelled files: understanding-rates [--learned|--apart|--rates] FILE...
+/// --learned takes only the rows to learn from, --apart only the held-out ones, --rates all of them. The last
+/// two print no failed rows, so that nobody learns from one by accident.
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);

@@ -33,7 +33,7 @@ Run run(const QStringList &arguments, const Environment &locale, const QByteArra
 
 } // namespace
 
-/// Which language the program speaks, from outside.
+/// The program's language, seen from outside.
 class TestChosenLanguage : public ProgramTest
 {
     Q_OBJECT

@@ -27,7 +27,7 @@ struct ShownText
     QString text;
 };
 
-/// What the plugin says, which the inspector shows as it is.
+/// Returns @p text without the plugin's texts, which the inspector shows untranslated.
 QString withoutPluginsTexts(const QWidget &widget, const QString &text)
 {
     if (widget.objectName() == QLatin1String("inspectorLog")) {
@@ -97,7 +97,7 @@ void markCards(ConversationView &view)
 
 } // namespace
 
-/// The frame of the window is in one language, whatever the assistant says in it.
+/// The window's frame is in one language, whatever the assistant says inside it.
 class TestWindowLanguages : public WindowTest
 {
     Q_OBJECT
@@ -120,7 +120,7 @@ private:
     std::unique_ptr<ProgramLanguage> m_language;
 };
 
-/// Everything is looked at in each language.
+/// Runs every test in each language.
 void TestWindowLanguages::initTestCase_data()
 {
     QTest::addColumn<QString>("code");
@@ -163,7 +163,7 @@ void TestWindowLanguages::frameIsInOneLanguage()
     PluginDesk desk;
     QVERIFY(desk.isLoaded);
     verify(textsIn(desk.window), 60);
-    // In a conference, and with turns of every kind.
+    // In a conference, with turns of every kind.
     desk.window.findChild<StatusLine *>()->show(
         ApplicationState::read(QStringLiteral("{\"user\":{\"name\":\"1\",\"account\":\"2\"},"
                                               "\"conference\":{\"title\":\"3\",\"number\":\"4\"}}")));
@@ -187,7 +187,7 @@ void TestWindowLanguages::frameIsInOneLanguage()
     }
 }
 
-/// Only the cards decide how narrow it gets.
+/// The cards alone determine the minimum width.
 void TestWindowLanguages::windowIsAsNarrowInEveryLanguage()
 {
     PluginDesk desk;
@@ -203,7 +203,7 @@ void TestWindowLanguages::menusAndDialogsAreInOneLanguage()
     const std::unique_ptr<QMenu> turn(
         makeTurnMenu(desk.conversation.turn(1), QStringLiteral("1"), desk.conversation, nullptr));
     verify(textsIn(*turn), 4);
-    // Qt's own.
+    // Qt's own menu.
     const std::unique_ptr<QMenu> edit(desk.window.input()->createStandardContextMenu());
     verify(textsIn(*edit), 6);
     QAction *about = nullptr;
@@ -223,7 +223,7 @@ void TestWindowLanguages::menusAndDialogsAreInOneLanguage()
     save->trigger();
     auto *dialog = desk.window.findChild<QFileDialog *>();
     QVERIFY(dialog != nullptr);
-    // Folders have the names that they have.
+    // Folder names are not translated.
     QVector<ShownText> texts;
     const QVector<ShownText> all = textsIn(*dialog);
     for (const ShownText &shown : all) {

@@ -16,7 +16,7 @@ FakeContacts::FakeContacts(const QStringList &names)
     if (!m_bus.registerObject(QStringLiteral("/com/kelvane/meetlynx"), this,
                               QDBusConnection::ExportScriptableContents) ||
         !m_bus.registerService(QStringLiteral("com.kelvane.meetlynx"))) {
-        qFatal("the test's contacts cannot be put on the bus");
+        qFatal("cannot put the test's contacts on the bus");
     }
 }
 

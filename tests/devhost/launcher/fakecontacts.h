@@ -8,23 +8,23 @@
 #include <QObject>
 #include <QStringList>
 
-/// The contacts application on the test's bus, as far as it hands out names. Counts every question.
+/// A fake of the contacts application's interface that hands out names and counts all calls.
 class FakeContacts : public QObject, protected QDBusContext
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "com.kelvane.meetlynx.Contact1")
 
 public:
-    /// Ends the test run where the name cannot be had.
+    /// Registers on the bus, under the application's name. Ends the test run if it cannot.
     explicit FakeContacts(const QStringList &names);
     ~FakeContacts() override;
 
     int asked() const { return m_asked; }
-    /// Of every request.
+    /// Returns the parameters of all requests.
     QStringList parameters() const { return m_parameters; }
-    /// Also tells everybody.
+    /// Replaces the names and emits ContactNamesChanged().
     void change(const QStringList &names);
-    /// From now on the names are refused, or handed out again.
+    /// Refuse the names from now on, or hand them out again.
     void refuse() { m_refuses = true; }
     void answer() { m_refuses = false; }
 

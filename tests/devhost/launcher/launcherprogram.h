@@ -9,17 +9,17 @@
 #include <QProcess>
 #include <QStringList>
 
-/// "speakmate-devhost --service" with the test plugin, and the launchers that talk to it over the bus.
+/// "speakmate-devhost --service" with the test plugin, and the calls that launchers make over the bus.
 class LauncherProgram
 {
 public:
-    /// Starts it; @p arguments come after the plugin's.
+    /// Starts the program; @p arguments follow the plugin's.
     explicit LauncherProgram(const QStringList &arguments = {});
-    /// Ends it.
+    /// Terminates the program.
     ~LauncherProgram();
 
     QProcess &process() { return m_process; }
-    /// Whether it has its name on the bus.
+    /// Returns true if the program's name is on the bus.
     static bool isThere();
 
     static QDBusMessage call(const QString &path, const QString &interface, const QString &method,

@@ -11,13 +11,13 @@ namespace {
 
 constexpr int StartMsecs = 60000;
 
-/// A program of the machine; empty where it is not installed.
+/// Returns the path of an installed program; empty if it is not installed.
 QString program(const char *name)
 {
     return QStandardPaths::findExecutable(QLatin1String(name));
 }
 
-/// Ends what it has started.
+/// Ends the process on destruction.
 class Process : public QProcess
 {
 public:
@@ -31,7 +31,7 @@ public:
     }
 };
 
-/// An X server without a screen to look at.
+/// A virtual X server.
 class Display
 {
 public:
@@ -56,7 +56,7 @@ private:
 
 } // namespace
 
-/// The real KRunner offers the line and runs it, with the file that the packages install.
+/// The real KRunner offers the line and runs it, using the packages' plugin file.
 class TestKRunner : public QObject
 {
     Q_OBJECT
@@ -73,7 +73,7 @@ void TestKRunner::sentenceIsOfferedAndRun()
                 QStringLiteral("%1 is not installed; the Debian packages are plasma-workspace, "
                                "xvfb and xdotool.")
                     .arg(QLatin1String(name));
-            // The macro wants a second argument from clang++.
+            // QSKIP() needs a second argument with clang++.
             QTest::qSkip(qPrintable(why), __FILE__, __LINE__);
             return;
         }
@@ -111,7 +111,7 @@ void TestKRunner::sentenceIsOfferedAndRun()
     const QDBusMessage shown = bus.call(query, QDBus::Block, StartMsecs);
     QVERIFY2(shown.type() == QDBusMessage::ReplyMessage, qPrintable(shown.errorMessage()));
 
-    // A person waits until the line is there; Return before that chooses nothing.
+    // Return does nothing until the line is there, so press it until it works.
     const auto pressReturn = [&environment] {
         Process key;
         key.setProcessEnvironment(environment);
@@ -127,7 +127,7 @@ void TestKRunner::sentenceIsOfferedAndRun()
     QVERIFY(!notifications.shown.isEmpty());
     QCOMPARE(notifications.shown.first().summary, QStringLiteral("预约 11月22日 15:00 与张伟的视频会议"));
     QCOMPARE(notifications.shown.first().body,
-             QStringLiteral("张伟")); // the test plugin says the first slot
+             QStringLiteral("张伟")); // the test plugin echoes the first slot
 }
 
 QTEST_GUILESS_MAIN(TestKRunner)

@@ -41,7 +41,7 @@ void TestLauncherConference::sentenceBooksTheConferenceAndShowsItsCard()
     QTRY_VERIFY(QApplication::activeWindow() != nullptr);
     QCOMPARE(notifications.shown.size(), 0);
 
-    // The application has it, at the time that the line has named.
+    // The application has it at the time named by the line.
     run(QStringLiteral("查询明天的会议"));
     QCOMPARE(lastTurn().calls.size(), 1);
     const QJsonObject answer = QJsonDocument::fromJson(lastTurn().calls.first().answer.toUtf8()).object();
@@ -53,7 +53,7 @@ void TestLauncherConference::sentenceBooksTheConferenceAndShowsItsCard()
         window->close();
     }
 
-    // A text alone is a notification.
+    // A text without a card becomes a notification.
     run(QStringLiteral("结束会议"));
     QTRY_COMPARE(notifications.shown.size(), 1);
     QCOMPARE(notifications.last().summary, QStringLiteral("退出当前的视频会议"));

@@ -21,7 +21,7 @@ using namespace devhost;
 
 namespace {
 
-/// A desk with the test plugin, whose answer to an intent TESTPLUGIN_REPLIES names.
+/// A desk with the test plugin, whose answers TESTPLUGIN_REPLIES may choose.
 class Desk
 {
 public:
@@ -38,7 +38,7 @@ public:
         QTRY_VERIFY(!m_conversation.isBusy());
     }
 
-    /// The window, as far as there is one to be seen.
+    /// Returns the visible window; null if there is none.
     static MainWindow *window()
     {
         const auto windows = QApplication::topLevelWidgets();
@@ -81,8 +81,7 @@ private:
     LauncherDesk m_desk;
 };
 
-/// A desk that was asked for @p sentence, to which the plugin's answer is @p reply, where notifications are
-/// shown.
+/// A desk that ran @p sentence, to which the plugin answered with @p reply. Notifications are shown.
 struct AskedDesk
 {
     NotificationServer server;
@@ -97,7 +96,7 @@ struct AskedDesk
 
 } // namespace
 
-/// Where a reply to a launcher's act is shown.
+/// Where the reply to a launcher's act is shown.
 class TestLauncherDesk : public QObject
 {
     Q_OBJECT
@@ -125,7 +124,7 @@ void TestLauncherDesk::textIsNotified()
     desk.run(QStringLiteral("加200002为好友"));
     QTRY_COMPARE(server.shown.size(), 1);
     QCOMPARE(server.last().summary, QStringLiteral("向 200002 发送好友申请"));
-    QCOMPARE(server.last().body, QStringLiteral("200002")); // the test plugin says the first slot
+    QCOMPARE(server.last().body, QStringLiteral("200002")); // the test plugin echoes the first slot
     QCOMPARE(server.last().icon, QStringLiteral("speakmate-devhost"));
     QVERIFY(Desk::window() == nullptr);
 }
@@ -148,7 +147,7 @@ void TestLauncherDesk::questionBringsUpTheWindow()
     QTRY_VERIFY(Desk::window() != nullptr);
     QVERIFY(asked.desk.conversation().expectsSecret());
     QCOMPARE(Desk::window()->input()->echoMode(), QLineEdit::Password);
-    // A search is no password.
+    // A launcher's search text is not taken for the password.
     asked.desk->openWith(QStringLiteral("text"));
     QCOMPARE(Desk::window()->input()->text(), QString());
     QCOMPARE(asked.server.shown.size(), 0);
@@ -162,7 +161,7 @@ void TestLauncherDesk::actAnswersNoOpenQuestion()
     Desk::window()->submit(QStringLiteral("下周和张伟开会"));
     QTRY_VERIFY(!desk.conversation().isBusy());
     QVERIFY(desk.conversation().turn(1).semantic.contains(QStringLiteral("请问是哪一天")));
-    // Not the time that was asked for.
+    // The act doesn't answer the open question about the day.
     desk.run(QStringLiteral("明天下午三点和李娜开会"));
     const QString semantic = desk.conversation().turn(desk.conversation().lastTurn()).semantic;
     QVERIFY2(semantic.contains(QStringLiteral("李娜")) && !semantic.contains(QStringLiteral("张伟")),
@@ -204,10 +203,10 @@ void TestLauncherDesk::clickOnANotificationBringsUpTheWindow()
     desk.run(QStringLiteral("加200002为好友"));
     QTRY_COMPARE(server.shown.size(), 1);
     QCOMPARE(server.last().actions.value(0), QStringLiteral("default"));
-    Q_EMIT server.ActionInvoked(77, QStringLiteral("default")); // somebody else's
+    Q_EMIT server.ActionInvoked(77, QStringLiteral("default")); // another program's
     Q_EMIT server.ActionInvoked(1, QStringLiteral("other"));
     Q_EMIT server.NotificationClosed(77, 2);
-    // In order: what came before has not brought it up.
+    // Signals arrive in order, so none of the ones before has brought up the window.
     desk.run(QStringLiteral("加200003为好友"));
     QTRY_COMPARE(server.shown.size(), 2);
     QVERIFY(Desk::window() == nullptr);
@@ -245,7 +244,7 @@ void TestLauncherDesk::searchGoesOnInTheWindow()
     QCOMPARE(desk.conversation().lastTurn(), 0);
 }
 
-/// So that this window gets the focus, and those that a request brings up do not.
+/// Such a window gets the focus; one brought up by a program's request does not.
 void TestLauncherDesk::menuAsksForTheApplicationsWindowInItsUsersName()
 {
     const FakeContacts contacts({});

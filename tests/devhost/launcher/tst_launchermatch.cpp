@@ -19,7 +19,7 @@ const QDateTime &now()
     return time;
 }
 
-/// What this thread has worked, so that other programs do not count.
+/// Returns this thread's CPU time, so that other programs don't count.
 double workedMsecs()
 {
     timespec time{};
@@ -27,8 +27,8 @@ double workedMsecs()
     return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
 }
 
-/// The least of three tries where the first is long: the kernel's work for other programs (interrupts, pages)
-/// is counted to whoever runs, too, but not three times in a row.
+/// Returns the best of up to three tries; a short one is taken at once. The kernel's work for other programs
+/// (interrupts, pages) is charged to the running thread, too, but hardly three times in a row.
 double matchMsecs(LauncherMatcher &matcher, const QString &text, const QDateTime &now)
 {
     constexpr double suspicious = 1;
@@ -41,7 +41,7 @@ double matchMsecs(LauncherMatcher &matcher, const QString &text, const QDateTime
     return least;
 }
 
-/// Everything that the sentence files hold, and every beginning of it: a launcher asks after every key.
+/// Returns every prefix of every sentence in the files: launchers ask after each key.
 QStringList everythingTyped()
 {
     QStringList typed;
@@ -50,7 +50,7 @@ QStringList everythingTyped()
     for (const QString &name : files) {
         QFile file(folder.filePath(name));
         if (!file.open(QIODevice::ReadOnly)) {
-            qFatal("%s cannot be read", qUtf8Printable(name));
+            qFatal("cannot read %s", qUtf8Printable(name));
         }
         const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
         for (const QString &line : lines) {
@@ -66,7 +66,7 @@ QStringList everythingTyped()
 
 } // namespace
 
-/// What a launcher is offered for what is typed, and what is kept of it.
+/// What a launcher is offered for typed text, and what is kept of it.
 class TestLauncherMatch : public QObject
 {
     Q_OBJECT
@@ -186,7 +186,7 @@ void TestLauncherMatch::sameSentenceKeepsItsIdAndTellsNothing()
     QCOMPARE(matcher.match(sentence, now()).id, act.id);
     QVERIFY(matcher.match(QStringLiteral("加200003为好友"), now()).id != act.id);
     QVERIFY(!act.id.contains(QLatin1String("200002")));
-    // Of two runs of the program nobody can tell that they were asked the same.
+    // Ids from two runs of the program don't reveal that they were asked the same.
     QVERIFY(LauncherMatcher().match(sentence, now()).id != act.id);
 }
 
@@ -228,7 +228,7 @@ void TestLauncherMatch::actWhoseMeaningHasChangedIsNotTaken()
 void TestLauncherMatch::matchTakesUnderFiveMsecs()
 {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-    // A sanitizer's own work is measured too.
+    // Includes the sanitizer's overhead.
     constexpr double allowedMsecs = 200;
 #else
     constexpr double allowedMsecs = 5;

@@ -23,7 +23,7 @@ QString meetingLine()
     return QStringLiteral("预约 11月22日 15:00 与张伟的视频会议");
 }
 
-/// A program that looks for the session bus at @p address.
+/// Starts a program that looks for the session bus at @p address.
 std::unique_ptr<LauncherProgram> startedOn(const QByteArray &address)
 {
     const QByteArray ours = qgetenv("DBUS_SESSION_BUS_ADDRESS");
@@ -35,7 +35,7 @@ std::unique_ptr<LauncherProgram> startedOn(const QByteArray &address)
 
 } // namespace
 
-/// The program as KRunner and GNOME Shell talk to it, over a bus of its own, on 21 November 2026.
+/// The program as used by KRunner and GNOME Shell, over a private bus, on 21 November 2026.
 class TestLauncherProgram : public QObject
 {
     Q_OBJECT
@@ -83,7 +83,7 @@ void TestLauncherProgram::krunnerGetsALineAndRunsIt()
              QDBusMessage::ReplyMessage);
     QTRY_COMPARE(notifications.shown.size(), 1);
     QCOMPARE(notifications.last().summary, meetingLine());
-    QCOMPARE(notifications.last().body, QStringLiteral("张伟")); // the test plugin says the first slot
+    QCOMPARE(notifications.last().body, QStringLiteral("张伟")); // the test plugin echoes the first slot
 
     LauncherProgram::krunner(QStringLiteral("Run"), {match.id, QString()});
     QTRY_COMPARE(notifications.shown.size(), 2);
@@ -136,7 +136,7 @@ void TestLauncherProgram::shellGetsNothingForDoubt()
     QTRY_VERIFY(LauncherProgram::isThere());
     QCOMPARE(LauncherProgram::search({QStringLiteral("text"), QStringLiteral("editor")}), QStringList());
     QCOMPARE(LauncherProgram::search({}), QStringList());
-    // What is split at blanks is one sentence.
+    // Terms split at blanks form one sentence.
     QCOMPARE(LauncherProgram::search({QStringLiteral("加入会议"), QStringLiteral("880100004")}).size(), 1);
 }
 
@@ -146,7 +146,7 @@ void TestLauncherProgram::contactsAreFollowedAndNotAskedByMatches()
     const LauncherProgram program;
     QTRY_VERIFY(LauncherProgram::isThere());
     const QString stranger = QStringLiteral("和小白开会");
-    QTRY_VERIFY(LauncherProgram::match(stranger).isEmpty()); // from when the names are there
+    QTRY_VERIFY(LauncherProgram::match(stranger).isEmpty()); // once the names have arrived
     const int asked = contacts.asked();
     QVERIFY(asked > 0);
     for (int i = 0; i < 50; ++i) {
@@ -238,7 +238,7 @@ void TestLauncherProgram::withoutABusItSaysSo()
              QByteArray("speakmate-devhost: There is no session bus.\n"));
 }
 
-/// It answered when it was asked, and was waited for without a bound right after.
+/// A bus that answered a probe and then fell silent used to block the program forever.
 void TestLauncherProgram::busThatFallsSilentKeepsNobody()
 {
     const QTemporaryDir folder;

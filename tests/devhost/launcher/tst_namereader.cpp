@@ -10,7 +10,7 @@ using namespace devhost;
 
 namespace {
 
-/// What a reader, which lives on a thread of its own, has told.
+/// Collects what a reader on another thread has emitted.
 class Told : public QVector<QStringList>
 {
 public:
@@ -26,7 +26,7 @@ private:
 
 } // namespace
 
-/// What is known of the contacts while their application, or the bus, has its troubles.
+/// The known names while the contacts application or the bus is in trouble.
 class TestNameReader : public QObject
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ private Q_SLOTS:
     void busThatComesLaterIsFound();
 };
 
-/// A busy application that once did not answer in time left the launchers without anybody.
+/// A busy application that missed one deadline used to leave the launchers without any names.
 void TestNameReader::refusalLeavesTheNamesThatWereKnown()
 {
     const QStringList names{QStringLiteral("张伟"), QStringLiteral("李娜")};
@@ -53,7 +53,7 @@ void TestNameReader::refusalLeavesTheNamesThatWereKnown()
     QTRY_COMPARE(told.size(), 2);
     QCOMPARE(told.last(), names);
 
-    // An answer without names is one.
+    // An empty answer counts.
     contacts.answer();
     contacts.change({});
     QTRY_COMPARE(told.size(), 3);
@@ -71,7 +71,7 @@ void TestNameReader::busThatComesLaterIsFound()
     const Told told(*reader);
     BusThread thread(reader);
     thread.start();
-    // Whoever waits for the names is told that there are none.
+    // Without a bus, the reader reports that there are no names.
     const bool isTold = QTest::qWaitFor([&told] { return told.size() > 0; });
     qputenv("DBUS_SESSION_BUS_ADDRESS", ours);
     QVERIFY(isTold);

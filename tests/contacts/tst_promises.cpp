@@ -140,8 +140,9 @@ void TestPromises::nothingIsDoneAfterTheTimeOut()
     const QJsonObject that{{QStringLiteral("conferenceId"), confId}};
     QJsonObject moved = that;
     moved.insert(QStringLiteral("startTime"), m_nextStart += HourMsecs);
+    const QJsonObject another = creation(m_nextStart += HourMsecs);
     const int codes[] = {
-        ask(QStringLiteral("Create Conference"), creation(m_nextStart += HourMsecs), 300).code,
+        ask(QStringLiteral("Create Conference"), another, 300).code,
         ask(QStringLiteral("Update Conference"), moved, 300).code,
         ask(QStringLiteral("Delete Conference"), that, 300).code,
         ask(QStringLiteral("Invite Members"), members(), 300).code,
@@ -154,6 +155,7 @@ void TestPromises::nothingIsDoneAfterTheTimeOut()
     QCOMPARE(servicePid(), pid);
     QCOMPARE(snapshot(), before);
     // Given time, the same requests are performed.
+    QCOMPARE(ask(QStringLiteral("Create Conference"), another).ret(), QStringLiteral("OK"));
     QCOMPARE(ask(QStringLiteral("Update Conference"), moved).ret(), QStringLiteral("OK"));
     QCOMPARE(ask(QStringLiteral("Delete Conference"), that).ret(), QStringLiteral("OK"));
     QCOMPARE(ask(QStringLiteral("Invite Members"), members()).ret(), QStringLiteral("OK"));

@@ -36,7 +36,7 @@ endif()
 # Log records name their source relative to the tree, even if ccache passes shortened paths to the compiler.
 file(RELATIVE_PATH source_from_build ${CMAKE_BINARY_DIR} ${CMAKE_SOURCE_DIR})
 add_compile_options(-fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
-string(REGEX REPLACE "/$" "" source_from_build "${source_from_build}") # it has one when it consists of dots alone
+string(REGEX REPLACE "/$" "" source_from_build "${source_from_build}") # a path of dots alone ends in a slash
 if(source_from_build) # empty in a build inside the source folder itself, where shortened names are already right
     add_compile_options(-fmacro-prefix-map=${source_from_build}/=)
 endif()
@@ -44,10 +44,10 @@ endif()
 add_compile_definitions(
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
     QT_NO_KEYWORDS QT_NO_FOREACH QT_STRICT_ITERATORS
-    # Release builds drop the source of log records unless asked to keep it; the host shows it.
+    # Release builds drop the source location of log records by default; the host shows it.
     QT_MESSAGELOGCONTEXT)
 
-# Q_ASSERT and the standard library's checks, even in optimised builds. Never for an installed plugin.
+# Keeps Q_ASSERT and the standard library's checks in optimised builds. Never use it for an installed plugin.
 option(CONTACT_ASSERTIONS "Keep assertions in every build type" OFF)
 if(CONTACT_ASSERTIONS)
     add_compile_definitions(QT_FORCE_ASSERTS _GLIBCXX_ASSERTIONS)
@@ -55,8 +55,8 @@ endif()
 
 add_link_options(-Wl,--no-undefined -Wl,--as-needed)
 
-# Address and thread sanitizers: CONTACT_SANITIZE=address;undefined or thread. An instrumented library leaves the runtime's
-# symbols to the program that loads it.
+# Sanitizers: CONTACT_SANITIZE=address;undefined or thread. With Clang, instrumented libraries leave the
+# runtime's symbols undefined; the program that loads them provides these.
 set(CONTACT_SANITIZE "" CACHE STRING "Sanitizers to build with, separated by semicolons")
 if(CONTACT_SANITIZE)
     list(JOIN CONTACT_SANITIZE "," sanitizers)

@@ -2,12 +2,14 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
 # contact_add_test(NAME SOURCES... LIBRARIES... [NO_TEST] [OWN_LANGUAGE] [SCRIPTED_ABILITY])
-#   A QtTest program. The desk's window and the contacts application speak Chinese in it unless it has its OWN_LANGUAGE. With NO_TEST it is only built; add its runs with contact_add_test_run().
+#   Adds a QtTest program. The desk's window and the contacts application speak Chinese in it, unless
+#   OWN_LANGUAGE is given. With NO_TEST it is only built; add its runs with contact_add_test_run().
 # contact_add_test_run(NAME TARGET t [AT "2026-03-07 10:20:00"] [TZ zone] [ENVIRONMENT var=value...] [COMMAND cmd...]
 #                      [ARGUMENTS ...] [LABELS ...] [TIMEOUT seconds] [SERIAL] [BUS] [EMPTY_BUS] [SCRIPTED_ABILITY])
-#   One run of such a program. AT sets the clock to that local time. BUS provides a private session bus, home and XDG folders,
-#   where only the contacts application can be started; EMPTY_BUS is the same without the application. SERIAL separates runs
-#   that would see each other in the process table. SCRIPTED_ABILITY replaces the ability library by one that the test controls
+#   Adds a run of the program, or of COMMAND. AT starts the clock at that local time. BUS provides a private
+#   session bus, which can start only the contacts application, with a private home and XDG folders; EMPTY_BUS
+#   is the same without the application. SERIAL keeps apart runs that would see each other in the process
+#   table. SCRIPTED_ABILITY replaces the ability library with one that the test controls
 #   (tests/support/scriptedability.h).
 
 find_package(Qt5 REQUIRED COMPONENTS Test)
@@ -25,12 +27,12 @@ endif()
 set(CONTACT_TEST_ENVIRONMENT
     QT_QPA_PLATFORM=offscreen LANG=C.UTF-8 LC_ALL=C.UTF-8 LANGUAGE=
     QT_SCALE_FACTOR=1
-    # faketime is preloaded before the sanitizer's runtime.
+    # faketime's preloaded library comes before the sanitizer's runtime.
     ASAN_OPTIONS=verify_asan_link_order=0:detect_leaks=1:new_delete_type_mismatch=1
     UBSAN_OPTIONS=print_stacktrace=1
     LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0
-    # Qt, libdbus and glib are not instrumented: what the sanitizer's own functions see in calls from there says nothing. Their
-    # locks and events are told to it by tests/support/tsan/qtsynchronisation.cpp.
+    # Qt, libdbus and glib are not instrumented, so the sanitizer's findings in calls from there mean nothing.
+    # tests/support/tsan/qtsynchronisation.cpp tells it about Qt's locks, events and threads.
     TSAN_OPTIONS=ignore_noninstrumented_modules=1)
 
 function(contact_add_test name)
@@ -62,7 +64,8 @@ function(contact_add_test_run name)
     endif()
     set(command)
     if(arg_AT)
-        # Fakes the calendar only; timers and waits keep the real clock. Wraps the bus too, so that services share the clock.
+        # Fakes only the calendar; timers keep the real clock. Wraps the bus, too, so that services share the
+        # clock.
         list(APPEND command ${CONTACT_FAKETIME} --exclude-monotonic -f "@${arg_AT}")
     endif()
     if(arg_BUS)

@@ -2,8 +2,9 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
 # platform_package(NAME TARGET t NAMESPACE n EXPORT_NAME e HEADERS dir DESCRIPTION text QT components... [LIBRARY l])
-#   Installs the development files of a part of the platform: headers, find_package(NAME) with the target n::e, and a
-#   pkg-config file. LIBRARY is the library's name for pkg-config; omit it for header-only parts.
+#   Installs the target and development files of a part of the platform: headers, a CMake package for
+#   find_package(NAME) with the target n::e, and a pkg-config file. LIBRARY is the library's name for
+#   pkg-config; omit it for header-only parts.
 
 include(CMakePackageConfigHelpers)
 
@@ -32,7 +33,8 @@ function(platform_package name)
     set(PC_DESCRIPTION ${arg_DESCRIPTION})
     list(TRANSFORM arg_QT PREPEND Qt5 OUTPUT_VARIABLE pc_requires)
     list(JOIN pc_requires " " PC_REQUIRES)
-    # From the file's own place, so that an installed tree can be moved; not where a folder was given as an absolute path.
+    # Relative to the .pc file, so that an installed tree can be moved, unless a folder was given as an
+    # absolute path.
     set(PC_LIBDIR ${CMAKE_INSTALL_FULL_LIBDIR})
     set(PC_INCLUDEDIR ${CMAKE_INSTALL_FULL_INCLUDEDIR})
     set(PC_PREFIX ${CMAKE_INSTALL_PREFIX})

@@ -1,11 +1,12 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# The installed desktop's platform, under the same target names as the bundled one. Set CMAKE_PREFIX_PATH if it is in an
-# unusual place.
+# Finds the installed desktop's platform, under the target names of the bundled one. Set CMAKE_PREFIX_PATH if
+# it is in an unusual place.
 
-# contact_find_platform(PACKAGE p TARGET t HEADER h [LIBRARY l]): the imported target t of the CMake package p that is installed
-# beside the header h; on a platform without CMake packages, with the headers around h and the library l.
+# contact_find_platform(PACKAGE p TARGET t HEADER h [LIBRARY l] [LINKS targets...]): provides the imported
+# target t from the CMake package p installed beside the header h. Without such a package, creates t from the
+# include folder of h, the library l (omit it for header-only parts) and LINKS.
 function(contact_find_platform)
     cmake_parse_arguments(PARSE_ARGV 0 arg "" "PACKAGE;TARGET;HEADER;LIBRARY" "LINKS")
     string(MAKE_C_IDENTIFIER "CONTACT_${arg_TARGET}" variable)

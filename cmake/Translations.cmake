@@ -2,14 +2,15 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
 # contact_add_translations(TARGET PROGRAM CODES...)
-#   Embeds translations/PROGRAM_CODE.ts of this folder in TARGET as :/translations/PROGRAM_CODE.qm. With a static library,
-#   call Q_INIT_RESOURCE(TARGET_translations) before ProgramLanguage is made.
-#   The target update-translations writes the texts of the sources into the .ts files, with those of platform/language,
-#   which every program shows.
+#   Embeds translations/PROGRAM_CODE.ts of the current source folder in TARGET as
+#   :/translations/PROGRAM_CODE.qm, for each CODE. If TARGET is a static library, call
+#   Q_INIT_RESOURCE(TARGET_translations) before creating ProgramLanguage. The target update-translations
+#   updates the .ts files from the sources in the folder and in platform/language, whose texts every program
+#   shows.
 
 find_package(Qt5 REQUIRED COMPONENTS LinguistTools)
 
-# Also what the test of the translations runs; see tests/language.
+# The test of the translations uses them, too; see tests/language.
 set(CONTACT_LUPDATE_OPTIONS "-silent -no-obsolete -locations none -source-language en")
 
 function(contact_add_translations target program)
@@ -32,7 +33,7 @@ function(contact_add_translations target program)
     file(GENERATE OUTPUT ${collection} CONTENT
         "<RCC>\n    <qresource prefix=\"/translations\">\n${entries}    </qresource>\n</RCC>\n")
     set(resource ${CMAKE_CURRENT_BINARY_DIR}/qrc_${target}_translations.cpp)
-    # Version 1 has no times of files, which differ from build to build.
+    # Format version 1 stores no file times, which would differ between builds.
     add_custom_command(OUTPUT ${resource}
         COMMAND Qt5::rcc --format-version 1 --name ${target}_translations --output ${resource} ${collection}
         DEPENDS ${collection} ${built}

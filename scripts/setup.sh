@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# Shared by ./run, ./test and .ci/run: packages, quiet builds, the configuration file. Source it with $root set.
+# Shared by ./run, ./test, .ci/run and the scripts: packages, quiet builds, the configuration file. Source it
+# with $root set.
 
 export LC_ALL=C.UTF-8
 log=$root/build/setup.log
@@ -19,9 +20,10 @@ packages_test=(
 )
 # Also needed to build the Debian packages.
 packages_package=(abigail-tools binutils build-essential debhelper dpkg-dev lintian xz-utils)
-# Needed by tst_krunner, which is skipped otherwise. Never installed from here: it pulls in 380 packages.
+# Needed by tst_krunner, which is skipped without them. Never installed automatically: they pull in 380
+# packages.
 packages_launcher=(plasma-workspace xdotool xvfb)
-# Also needed by the benchmarks. With libc6-dbg, callgrind can tell what the dynamic linker does.
+# Also needed by the benchmarks. callgrind needs libc6-dbg to resolve the dynamic linker's symbols.
 packages_bench=(libbenchmark-dev libc6-dbg python3 valgrind xvfb)
 # Also needed by .ci/run.
 packages_ci=(clang clang-format-16 clang-tidy clazy libbenchmark-dev libclang-rt-14-dev llvm shellcheck)
@@ -32,7 +34,7 @@ die() {
     exit 1
 }
 
-# step TEXT COMMAND...: runs quietly and shows the output only on failure.
+# step TEXT COMMAND...: runs COMMAND, and shows its output only on failure.
 step() {
     local text=$1
     shift
@@ -64,7 +66,7 @@ as_root() {
 
 may_become_root() { [ "$(id -u)" = 0 ] || command -v sudo >/dev/null; }
 
-# need_packages NAME...: installs the missing ones.
+# need_packages NAME...: installs those that are missing.
 need_packages() {
     if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
         say "This is no Debian system, so nothing is installed. These Debian packages are needed: $*"
@@ -76,7 +78,7 @@ need_packages() {
     may_become_root || die "These packages are missing, and installing them needs root:" \
         "    apt-get install --no-install-recommends $missing"
     say "Installing packages: $missing"
-    # A terminal is kept for sudo's question; apt itself asks nothing.
+    # Ask for sudo's password before output goes to the log; apt itself asks nothing.
     [ "$(id -u)" = 0 ] || sudo -v || die "Installing the packages needs root."
     step "Reading the package lists" as_root apt-get update -qq
     # shellcheck disable=SC2086
@@ -84,7 +86,7 @@ need_packages() {
         apt-get install -y -qq --no-install-recommends $missing
 }
 
-# build PRESET: configures if necessary, then builds.
+# build PRESET: configures PRESET if necessary, then builds it.
 build() {
     local preset=$1
     if [ ! -f "$root/build/$preset/build.ninja" ]; then
@@ -96,7 +98,7 @@ build() {
 
 config_file=/etc/xdg/kelvane-speakmate-plugins/contact-plugin.json
 
-# The plugin reads its configuration from a fixed place. Never replace the user's file.
+# The plugin reads its configuration from a fixed path. Never replace the user's file.
 need_configuration() {
     [ -e "$config_file" ] && return 0
     local install=(install -D -m 644 "$root/data/contact-plugin.json" "$config_file")

@@ -8,7 +8,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-/// The value under @p key; "(untouched)" when there is none.
+/// The value under @p key; "(untouched)" if there is none.
 inline QString valueOf(ConfigManager &config, const char *key)
 {
     QString value = QStringLiteral("(untouched)");
@@ -16,7 +16,7 @@ inline QString valueOf(ConfigManager &config, const char *key)
     return value;
 }
 
-/// A folder with one configuration file, which each call writes anew.
+/// A temporary folder for configuration files.
 class ConfigFolder
 {
 public:

@@ -19,7 +19,7 @@ namespace {
 
 const QString RootMustBeObject = QStringLiteral("config root must be a object.");
 
-/// Takes root's right to read everything from this process while it lives; the others have no such right.
+/// Drops root's privileges while it lives, so that file permissions apply. No effect for other users.
 class NobodysRights
 {
 public:
@@ -29,7 +29,7 @@ public:
             m_taken = true;
             return;
         }
-        // The folder is root's and closed to others.
+        // The folder belongs to root and is closed to others.
         m_taken = ::chmod(QFile::encodeName(folder).constData(), 0755) == 0 && ::seteuid(Nobody) == 0;
         m_changed = m_taken;
     }
@@ -52,7 +52,7 @@ private:
 
 } // namespace
 
-/// Which files are read, and what is reported of the others.
+/// Which files are read, and how the others are reported.
 class TestConfigFiles : public QObject
 {
     Q_OBJECT
@@ -182,8 +182,8 @@ private Q_SLOTS:
             const NobodysRights rights(m_folder.path());
             if (!rights.taken()) {
                 QFile::remove(path);
-                // Not the macro, whose dots clang wants an argument for.
-                QTest::qSkip("root reads every file, and its rights cannot be given up here", __FILE__,
+                // Not QSKIP: clang warns about its empty variadic argument.
+                QTest::qSkip("root can read every file and cannot drop its privileges here", __FILE__,
                              __LINE__);
                 return;
             }
@@ -237,7 +237,7 @@ private Q_SLOTS:
         QVERIFY(first != second);
         QVERIFY(first->isObject());
         QVERIFY(second->isArray());
-        delete first; // nobody else's any more
+        delete first; // the loader no longer owns it
     }
 };
 

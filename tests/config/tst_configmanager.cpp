@@ -24,7 +24,7 @@ QJsonObject objectOf(const char *json)
     return QJsonDocument::fromJson(json).object();
 }
 
-/// Sees the steps that derived classes may replace.
+/// Records calls of the virtual steps.
 class WatchedConfig : public ConfigManager
 {
 public:
@@ -52,7 +52,7 @@ public:
 
 } // namespace
 
-/// The values of a configuration, the steps that derived classes may replace, and the classes' layout.
+/// The values of a configuration, the virtual steps, and the layout of the classes.
 class TestConfigManager : public QObject
 {
     Q_OBJECT

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// A different list for each of the words, to see whether it was read.
+/// A list beside the outcome word, to see whether the analyser reads it.
 constexpr char OneConference[] = R"("list": [{"confId": "7"}])";
 
 QString answerOf(const char *word, const QByteArray &rest = OneConference)
@@ -33,10 +33,10 @@ const char *const AllWords[] = {
     "In Other Conference", "Conference Create Too Frequently", "Exceed Members Limit",
     "Participant Out Limit", "Time Overlap", "Invalid Passcode", "Update Failed", "Is Your Friend",
     "Exceed Friend Limit", "Is Yourself", "User Not Login", "True", "False",
-    // Nearly words.
+    // Near misses.
     "ok", "success", "OK ", "not found", "TRUE", ""};
 
-/// One row for every word; those not in @p table give @p otherwise.
+/// Adds a row for every word; words missing from @p table give @p otherwise.
 template <std::size_t Size>
 void addRows(const Row (&table)[Size], int otherwise)
 {
@@ -52,7 +52,7 @@ void addRows(const Row (&table)[Size], int otherwise)
     }
 }
 
-/// A record in which everything is set, to see what is overwritten.
+/// A record with every member set, to see which are overwritten.
 ContactCreatedConferenceDetail filledDetail()
 {
     ContactCreatedConferenceDetail detail;
@@ -99,7 +99,7 @@ private Q_SLOTS:
                  {"Not Found", -16002},
                  {"Conference Not Start", -16005},
                  {"Exceed Members Limit", -16006},
-                 {"Return", 0}, // nobody is missing among nobody
+                 {"Return", 0}, // no users, so none is missing
                  {"Conference Create Too Frequently", -16019},
                  {"In Other Conference", -16013},
                  {"User Not Login", -16017}},

@@ -17,7 +17,7 @@
 #include <initializer_list>
 #include <limits>
 
-/// True when the members stand in the order of their @p offsets.
+/// Whether @p offsets increase.
 constexpr bool isInOrder(std::initializer_list<std::size_t> offsets)
 {
     std::size_t next = 0;
@@ -48,7 +48,7 @@ static_assert(isInOrder({offsetof(ContactCreatedConferenceDetail, isSchedule),
                          offsetof(ContactCreatedConferenceDetail, conferences),
                          offsetof(ContactCreatedConferenceDetail, inviteDetail)}));
 
-// Sent as int, so the numbers are the interface.
+// Sent as int, so the values are part of the interface.
 static_assert(Create_Success == 0 && Create_Duplicate == 1 && Create_TimeOverlap == 2 &&
               Invite_Duplicate == 3 && Invite_ExceedLimit == 4 && JoinMy_List == 5 && Query_List == 6);
 
@@ -65,7 +65,7 @@ ContactDetailMsg conferenceOf(const QByteArray &members)
     return list.value(0);
 }
 
-/// Of an answer that is read from its text.
+/// The title read from the text of an answer; empty on failure.
 QString titleOfAnAnswer()
 {
     QVector<ContactDetailMsg> conferences;

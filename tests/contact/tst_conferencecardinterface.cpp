@@ -35,7 +35,7 @@ void addOperations()
                             << code;
     };
     using Gateway = ConferenceCardInterface;
-    // Each with a word whose code tells the analysers apart.
+    // Each word's code tells which analyser ran.
     row(
         "create with members",
         [](Gateway &gateway) {
@@ -130,7 +130,7 @@ private:
 
     void showProcesses(int matches)
     {
-        m_table.reset(); // takes its PATH back before the next one sets another
+        m_table.reset(); // restores PATH before the next table changes it
         m_table = std::make_unique<FakeProcessTable>(matches);
     }
 

@@ -23,7 +23,7 @@ void configure(const QString &timeOut, const QString &maxTimeOut)
     ConfigManager::instance()->fromJson(QJsonObject{{QStringLiteral("Contact"), contact}});
 }
 
-/// No file can be opened while it lives.
+/// Lets no file be opened while it lives.
 class NoFiles
 {
 public:
@@ -48,7 +48,7 @@ class TestRequestTimeout : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    /// Comes first: what was once configured cannot be taken back.
+    /// Comes first, since the configuration cannot be reset.
     void nothingConfigured()
     {
         const QString miss = QStringLiteral("debug: Cannot find config:  \"/Contact/TimeOut\"");
@@ -98,7 +98,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir empty;
         const QByteArray path = qgetenv("PATH");
-        qputenv("PATH", empty.path().toLocal8Bit()); // no wc, hence not even a number
+        qputenv("PATH", empty.path().toLocal8Bit()); // without wc there is not even a number
         const bool isRunning = ContactUtils::contactAppIsRunning();
         qputenv("PATH", path);
         QVERIFY(!isRunning);

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// The moment and zone that this run was started with, for example "2026-03-07 09:30:00 Asia/Shanghai".
+/// The start time and zone of this run, for example "2026-03-07 09:30:00 Asia/Shanghai".
 QString clockOfThisRun()
 {
     return QString::fromLocal8Bit(qgetenv("CONTACT_TEST_CLOCK"));
@@ -44,7 +44,7 @@ struct Schedule
     const char *name;
     const char *clock;
     QString slot;
-    const char *startUtc; ///< computed by hand, apart from Qt's zones
+    const char *startUtc; ///< computed by hand, independently of Qt's time zones
     bool isAccepted;
 };
 
@@ -100,7 +100,7 @@ QVector<Schedule> schedules()
         {"no time: after the leap day", LeapDay, none, "2028-02-29T16:00:00Z", true},
         {"today: after the leap day", LeapDay, slotWith("2028-02-29"), "2028-02-29T16:00:00Z", true},
 
-        // 02:00 to 03:00 is missing.
+        // The clock skips 02:00 to 03:00.
         {"no time: after the missing hour", BerlinBeforeTheMissingHour, none, "2026-03-29T01:00:00Z", true},
         {"today: after the missing hour", BerlinBeforeTheMissingHour, slotWith("2026-03-29"),
          "2026-03-29T01:00:00Z", true},
@@ -118,7 +118,7 @@ QVector<Schedule> schedules()
         {"nine o'clock in winter", BerlinBeforeTheRepeatedHour, slotWith("2026-10-26"),
          "2026-10-26T08:00:00Z", true},
 
-        // 00:00 to 01:00 is missing.
+        // The clock skips 00:00 to 01:00.
         {"no time: no midnight", BeirutBeforeTheMissingMidnight, none, "2026-03-28T22:00:00Z", true},
         {"nine o'clock without a midnight", BeirutBeforeTheMissingMidnight, slotWith("2026-03-29"),
          "2026-03-29T06:00:00Z", true},
@@ -133,7 +133,7 @@ struct Query
     qint64 startIn;
     const char *startUtc; ///< empty for no range, "now" for the current time
     const char *endUtc;
-    const char *exactUtc; ///< what the start becomes for the caller; empty when it stays
+    const char *exactUtc; ///< the start handed back to the caller; empty if unchanged
 };
 
 QVector<Query> queries()
@@ -189,7 +189,7 @@ QVector<Query> queries()
 
 } // namespace
 
-/// Runs once per clock; each run takes the rows that belong to its clock.
+/// Runs once per clock; each run tests the rows of its clock.
 class TestRequestTimes : public QObject
 {
     Q_OBJECT
@@ -239,7 +239,7 @@ private Q_SLOTS:
     void startTimeIsLoggedAsDateAndTime()
     {
         if (clockOfThisRun() != QString::fromUtf8(ShanghaiMorning)) {
-            return QTest::qSkip("The texts are those of one clock.", __FILE__, __LINE__);
+            return QTest::qSkip("The expected texts are for another clock.", __FILE__, __LINE__);
         }
         bool isSchedule = true;
         qint64 msecs = 0;
@@ -267,7 +267,7 @@ private Q_SLOTS:
     void fullHourThatComesTwiceIsInTheFuture()
     {
         if (clockOfThisRun() != QString::fromUtf8(BerlinBeforeTheRepeatedHour)) {
-            return QTest::qSkip("The hour comes twice on one clock only.", __FILE__, __LINE__);
+            return QTest::qSkip("This clock does not repeat an hour.", __FILE__, __LINE__);
         }
         bool isSchedule = true;
         qint64 msecs = 0;

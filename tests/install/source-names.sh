@@ -2,14 +2,15 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# source-names.sh SOURCE SCRATCH COMPILER: builds a project of one file with the tree's compiler settings, in build folders at
-# several places, with and without a base directory for ccache, and asks under which name that file goes into log records.
+# source-names.sh SOURCE SCRATCH COMPILER: builds a one-file project with the tree's compiler settings in
+# several build folders, with and without a ccache base directory, and checks the file name that log records
+# would carry.
 set -eu
 source=$1
 scratch=$2
 compiler=$3
 if ! command -v ccache >/dev/null; then
-    echo "SKIPPED: ccache is not installed, and without it the compiler is given whole paths"
+    echo "SKIPPED: ccache is not installed, and without it the compiler gets full paths"
     exit 77
 fi
 rm -rf "$scratch"
@@ -49,7 +50,7 @@ for base in "" "$scratch" /; do
     check "in the tree, base directory '$base'" "$scratch/tree/build/dev-$suffix" "$base"
 done
 check "the tree itself, base directory '$scratch'" "$scratch/tree" "$scratch"
-# Without a use of the cache all of this has shown nothing.
+# If ccache was not used, none of this proved anything.
 CCACHE_DIR="$scratch/cache" ccache --print-stats | grep -qE '^cache_miss[[:space:]]+[1-9]' ||
     { echo "FAIL: ccache was not used"; failed=1; }
 exit $failed

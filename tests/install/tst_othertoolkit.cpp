@@ -22,10 +22,10 @@
 #include <memory>
 
 /**
- * A plugin that was built against one toolkit, on a desktop with another. This program uses no toolkit: the
- * environment says which plugin is loaded (CONTACT_PLUGIN) and from where the toolkit has to come (TOOLKIT),
- * and has every symbol bound at once. Each card is built by the loaded plugin, shown, painted in both themes
- * and used.
+ * A plugin built against one toolkit, on a desktop with another. This program links no toolkit: the
+ * environment names the plugin to load (CONTACT_PLUGIN) and the expected toolkit library (TOOLKIT), and
+ * LD_BIND_NOW binds every symbol at once. The loaded plugin builds each card, which is shown, painted in both
+ * themes and used.
  */
 class TestOtherToolkit : public QObject
 {
@@ -82,7 +82,7 @@ void TestOtherToolkit::initTestCase()
 
 void TestOtherToolkit::init()
 {
-    m_log.reset(); // before the next one begins
+    m_log.reset(); // the old capture ends before the new one begins
     m_log = std::make_unique<LogCapture>(LogCapture::Unexpected::Passes);
     ScriptedAbility::instance().reset();
     for (const char *action : {"Create Conference", "Invite Members", "Update Conference",
@@ -158,7 +158,7 @@ void TestOtherToolkit::everyCardIsShownAndPainted()
     setTheme(true);
     const QImage dark = card->grab().toImage();
     QVERIFY(light != dark);
-    // Narrower than its texts: what is elided is painted in another way.
+    // Narrower than its texts: elided texts take another painting path.
     card->resize(120, card->height());
     QVERIFY(!card->grab().isNull());
     const auto children = card->findChildren<QWidget *>();
@@ -199,7 +199,7 @@ void TestOtherToolkit::everyControlCanBeUsed()
             QTest::mouseClick(row, Qt::LeftButton);
         }
     }
-    // A click may delete the buttons beside it, and the card.
+    // A click may delete other buttons, and the card.
     QVector<QPointer<QPushButton>> buttons;
     const auto shownButtons = CardSamples::shown<QPushButton>(*card);
     for (QPushButton *button : shownButtons) {

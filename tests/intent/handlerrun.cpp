@@ -21,7 +21,7 @@ Expected withCard(int code, const char *text, Expected::CardOrder order, int car
     return expected;
 }
 
-/// Records the cards announced while it lives, and attaches them like the dispatcher.
+/// Records the cards announced while it lives, and attaches them as the dispatcher does.
 class Announcements : public QObject
 {
 public:
@@ -125,7 +125,7 @@ HandlerRun replyOf(IReplyableIntent *handler, int code, const CloudIntent &inten
 QWidget *cardOf()
 {
     static char card = 0;
-    // Never looked into: a handler only carries the pointer.
+    // Never dereferenced: a handler only passes the pointer on.
     return reinterpret_cast<QWidget *>(&card);
 }
 

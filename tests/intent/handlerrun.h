@@ -13,19 +13,19 @@
 
 #include <memory>
 
-/// What the scripted contacts application does with the next requests.
+/// How the scripted contacts application answers the next requests.
 struct Script
 {
-    int callCode = 0; ///< other than 0: the call itself fails
+    int callCode = 0; ///< if not 0, the call itself fails with it
     QStringList answers;
 };
 Q_DECLARE_METATYPE(Script)
 
-/// The answer @p json, which may use single quotes, and @p second to the request after it.
+/// Answers @p json, which may use single quotes, then @p second to the next request.
 Script answers(const char *json, const char *second = nullptr);
 Script callFails(int code);
 
-/// One card that a handler announced, and the reply as it was then.
+/// A card that a handler announced, and the reply at that moment.
 struct Announcement
 {
     int action = -1;
@@ -43,8 +43,8 @@ struct HandlerRun
     int codeOfReply = 0; ///< what handleReply() returned
     Reply reply;
     QVector<Announcement> cards;
-    QVector<AbilityEvent> requests; ///< of the action
-    QStringList actionsOfReply;     ///< that the reply asked of the contacts application
+    QVector<AbilityEvent> requests; ///< made by the action
+    QStringList actionsOfReply;     ///< requested by handleReply()
 };
 
 /// An intent with slots in the JSON form "[{'name':'id','value':'123'}]"; single quotes stand for double
@@ -54,22 +54,22 @@ CloudIntent intentWith(const char *slotArray = "[]");
 /// Gives the slot at @p slot the spoken text @p text.
 void setSlotText(CloudIntent &intent, int slot, const QString &text);
 
-/// @p json with its single quotes made double ones.
+/// Returns @p json with double instead of single quotes.
 QString quoted(const char *json);
 
 /**
- * Lets @p handler act on @p intent with the contacts application scripted, then reply. Cards are attached to
- * the reply the way the dispatcher does it, with cardOf() as the widget.
+ * Lets @p handler act on @p intent with the scripted contacts application, then reply. Attaches cards to the
+ * reply as the dispatcher does, with cardOf() as the widget.
  */
 HandlerRun runHandler(IReplyableIntent *handler, const CloudIntent &intent, const Script &script);
 
-/// Only the reply of @p handler to @p code.
+/// Runs only the reply of @p handler to @p code.
 HandlerRun replyOf(IReplyableIntent *handler, int code, const CloudIntent &intent = intentWith());
 
-/// The widget that stands for an announced card.
+/// A placeholder pointer for an announced card; never dereference it.
 QWidget *cardOf();
 
-/// The expected outcome of one row: what every handler's table checks.
+/// The expected outcome in a row of a handler's table.
 struct Expected
 {
     enum CardOrder { NoCard, CardBeforeText, CardAfterText, CardAddedToTexts };
@@ -79,7 +79,7 @@ struct Expected
     int type = 0;
     CardOrder order = NoCard;
     int card = -1;
-    QString conferences; ///< the ids of those that the card carries, separated by blanks
+    QString conferences; ///< the ids of the card's conferences, separated by blanks
     bool opensList = false;
 };
 Q_DECLARE_METATYPE(Expected)
@@ -88,9 +88,9 @@ Expected texts(int code, const char *text);
 Expected textsThenList(int code, const char *text);
 Expected cardBefore(int code, const char *text, int card, const char *conferences = "");
 Expected cardAfter(int code, const char *text, int card, const char *conferences = "");
-/// After texts that do not announce it.
+/// Expects a card after texts that do not announce it.
 Expected cardAddedToTexts(int code, const char *text, int card, const char *conferences = "");
-/// The reply as the constructor made it.
+/// Expects the reply as constructed.
 Expected untouched();
 
 /// Fails the running test unless @p run ended as @p expected.

@@ -41,7 +41,7 @@ HandlerRun HandlerTest::runWith(const Script &script, const char *slotArray) con
 void HandlerTest::eachOutcomeHasItsReply_data()
 {
     addColumns<QByteArray, Script, Expected>({"slotArray", "script", "expected"});
-    QVERIFY2(!m_subject.outcomes.isEmpty(), "a handler has outcomes");
+    QVERIFY2(!m_subject.outcomes.isEmpty(), "a handler needs a table of outcomes");
     const auto outcomes = allOutcomes();
     for (const Outcome &outcome : outcomes) {
         const char *slotArray = outcome.slotArray == nullptr ? m_subject.usualSlots : outcome.slotArray;
@@ -83,7 +83,7 @@ void HandlerTest::eachOtherCodeLeavesTheReply()
 void HandlerTest::requestHoldsWhatWasSaid_data()
 {
     addColumns<QByteArray, QString>({"slotArray", "parameters"});
-    QVERIFY2(!m_subject.requests.isEmpty(), "a handler sends something");
+    QVERIFY2(!m_subject.requests.isEmpty(), "a handler needs a table of requests");
     for (const Request &request : qAsConst(m_subject.requests)) {
         QTest::newRow(request.name) << QByteArray(request.slotArray) << QString::fromUtf8(request.parameters);
     }
@@ -103,7 +103,7 @@ void HandlerTest::withoutItsSlotNothingIsSent()
 {
     const RequiredSlot &slot = m_subject.requiredSlot;
     if (slot.others == nullptr) {
-        QVERIFY2(!runWith(m_subject.accepted, "[]").requests.isEmpty(), "a request needs no slot");
+        QVERIFY2(!runWith(m_subject.accepted, "[]").requests.isEmpty(), "it must send without slots");
         return;
     }
     const HandlerRun without = runWith(m_subject.accepted, slot.others);

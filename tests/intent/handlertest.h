@@ -12,7 +12,7 @@
 
 #include <memory>
 
-/// Derives OtherWorker from @p Handler: its @p worker returns HandlerTest::OtherCode.
+/// Derives OtherWorker from @p Handler, with a @p worker that returns HandlerTest::OtherCode.
 #define HANDLER_WITH_OTHER_WORKER(Handler, worker)                                                           \
     class OtherWorker : public Handler                                                                       \
     {                                                                                                        \
@@ -24,7 +24,7 @@
         }                                                                                                    \
     };
 
-/// The main function of a test that needs no more than HandlerTest.
+/// Defines main() for a test that only needs HandlerTest.
 #define HANDLER_TEST_MAIN(subject)                                                                           \
     int main(int argc, char *argv[])                                                                         \
     {                                                                                                        \
@@ -34,8 +34,9 @@
     }
 
 /**
- * Tests a handler against its tables of outcomes and requests, and what all handlers have in common; a code
- * without an outcome must leave the reply alone. Derive from HandlerTestOf to add tests of one handler.
+ * Tests a handler against its tables of outcomes and requests, and the behaviour that all handlers share; a
+ * code without an outcome must leave the reply unchanged. To add tests of one handler derive from
+ * HandlerTestOf.
  */
 class HandlerTest : public QObject
 {
@@ -44,16 +45,16 @@ class HandlerTest : public QObject
 public:
     static constexpr int OtherCode = 77;
 
-    /// The reply expected when the application does as @ref script says.
+    /// The reply expected when the application answers with @ref script.
     struct Outcome
     {
         const char *name;
         Script script;
         Expected expected;
-        const char *slotArray = nullptr; ///< null: the usual ones
+        const char *slotArray = nullptr; ///< null for the usual slots
     };
 
-    /// The parameters of the last request made for these slots.
+    /// The parameters expected in the last request for the given slots.
     struct Request
     {
         const char *name;
@@ -64,9 +65,9 @@ public:
     /// The slot without which the handler sends nothing.
     struct RequiredSlot
     {
-        const char *others;   ///< slots that do not make up for it
-        const char *file;     ///< that logs what is missing
-        const char *record;   ///< the text that it logs
+        const char *others;   ///< slots that do not replace it
+        const char *file;     ///< that logs the missing slot
+        const char *record;   ///< the logged text
         const char *function; ///< the whole signature
     };
 
@@ -75,14 +76,14 @@ public:
         IReplyableIntent *(*make)();
         IReplyableIntent *(*makeOtherWorker)();
         const char *action;     ///< of the last request
-        const char *usualSlots; ///< enough for a request, in the form that intentWith() takes
+        const char *usualSlots; ///< enough for a request, as for intentWith()
         QVector<Outcome> outcomes = {};
         QVector<Request> requests = {};
-        RequiredSlot requiredSlot = {};            ///< empty if the handler does without slots
+        RequiredSlot requiredSlot = {};            ///< empty if the handler needs none
         Script accepted = answers("{'ret':'OK'}"); ///< one answer to each request
     };
 
-    /// The tables are still to be filled in. For @p OtherWorker see HANDLER_WITH_OTHER_WORKER.
+    /// Returns a subject with empty tables. For @p OtherWorker see HANDLER_WITH_OTHER_WORKER.
     template <typename Handler, typename OtherWorker>
     static Subject subjectOf(const char *action, const char *usualSlots = "[]")
     {
@@ -92,7 +93,7 @@ public:
     explicit HandlerTest(const Subject &subject) : m_subject(subject) {}
 
 protected:
-    /// Runs the handler; the usual slots stand in for a null @p slotArray.
+    /// Runs the handler, with the usual slots if @p slotArray is null.
     HandlerRun runWith(const Script &script, const char *slotArray = nullptr) const;
 
     LogCapture &log() { return *m_log; }
@@ -111,7 +112,7 @@ private Q_SLOTS:
     void subclassReplacesTheWorker();
 
 private:
-    /// Makes a handler, as the factory does.
+    /// Creates a handler as the factory does.
     template <typename Handler>
     static IReplyableIntent *make()
     {
@@ -124,7 +125,7 @@ private:
     std::unique_ptr<LogCapture> m_log;
 };
 
-/// Derive a test that adds to HandlerTest from it; @p MakeSubject fills in the tables.
+/// Base class of tests that add to HandlerTest; @p MakeSubject fills in the tables.
 template <HandlerTest::Subject (*MakeSubject)()>
 class HandlerTestOf : public HandlerTest
 {

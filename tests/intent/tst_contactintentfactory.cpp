@@ -100,7 +100,7 @@ void TestContactIntentFactory::eachHandlerHasATableOfOutcomes_data()
     }
 }
 
-/// HandlerTest fails without a table of outcomes, and every test in the folder is built and run.
+/// HandlerTest fails without a table of outcomes, and CMake builds and runs every handler's test.
 void TestContactIntentFactory::eachHandlerHasATableOfOutcomes()
 {
     QFETCH(const QString, name);
@@ -112,7 +112,7 @@ void TestContactIntentFactory::eachHandlerHasATableOfOutcomes()
     QVERIFY2(test.open(QIODevice::ReadOnly), qPrintable(test.fileName()));
     const QString source = QString::fromUtf8(test.readAll());
     QVERIFY(source.contains(QStringLiteral("HandlerTest::subjectOf<%1, ").arg(className)));
-    // By the test's main function, or by the base of a test that adds to it.
+    // Passed to the test's main function, or to the base class of a test that adds to it.
     QVERIFY(source.contains(QStringLiteral("(subject())")) ||
             source.contains(QStringLiteral("public HandlerTestOf<subject>")));
 }

@@ -8,7 +8,7 @@
 #include <QDateTime>
 #include <QTest>
 
-/// The clock stands at 1970-01-01 07:00 in Shanghai, an hour before milliseconds begin to be positive.
+/// The clock stands at 1970-01-01 07:00 in Shanghai, one hour before the epoch.
 class TestCreateBeforeTheEpoch : public QObject
 {
     Q_OBJECT

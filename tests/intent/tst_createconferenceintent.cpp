@@ -15,7 +15,7 @@
 
 namespace {
 
-// The clock stands at 2026-03-07 10:20, see the test's CMake line.
+// The clock stands at 2026-03-07 10:20, see CMakeLists.txt.
 const char Scheduled[] =
     "[{'name':'datetime','value':'{\\\"suggestDatetime\\\":\\\"2026-03-08T10:00:00\\\"}'}]";
 const char VerbStart[] = "[{'name':'open','value':'开始'}]";

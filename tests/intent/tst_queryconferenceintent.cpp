@@ -65,7 +65,7 @@ void TestQueryConferenceIntent::withoutATimeItIsSentAllTheSame()
           QStringLiteral("virtual int QueryConferenceIntent::handleQueryConference(const CloudIntent&)")}});
 }
 
-/// The analyser never says so, another worker may.
+/// The analyser never returns this, but another worker may.
 void TestQueryConferenceIntent::successWithoutAnyIsAnsweredAsNotFound()
 {
     compareRun(replyOf(new QueryConferenceIntent(nullptr), 0), texts(0, "抱歉，未查询到视频会议。"));

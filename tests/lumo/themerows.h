@@ -7,7 +7,7 @@
 
 #include <QTest>
 
-/// Gives the current test's table the column "theme" and a row for each theme.
+/// Adds the column "theme" and a row per theme to the current test's table.
 inline void addThemes()
 {
     QTest::addColumn<int>("theme");

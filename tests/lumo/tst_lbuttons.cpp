@@ -14,7 +14,7 @@
 
 namespace {
 
-/// How many pixels of the widget have exactly that colour.
+/// Counts the pixels of @p widget with exactly @p color.
 int countPixels(QWidget &widget, const QColor &color)
 {
     const QImage image = widget.grab().toImage();
@@ -27,7 +27,7 @@ int countPixels(QWidget &widget, const QColor &color)
     return count;
 }
 
-/// Paints a ground of its own, and counts what it is asked.
+/// Paints its own background, and counts tool tip events.
 class DerivedLink : public LCommandLinkButton
 {
 public:
@@ -92,7 +92,7 @@ void TestLButtons::theSuggestedButtonHasTheAccentColour()
     QVERIFY(pixel.hslSaturation() > 100);
     QVERIFY(plain.grab().toImage().pixelColor(12, 15).hslSaturation() < 60);
 
-    // Also in a window that is not the active one.
+    // Also in an inactive window.
     QPalette marked = suggested.palette();
     marked.setColor(QPalette::Inactive, QPalette::Highlight, Qt::magenta);
     suggested.setPalette(marked);
@@ -132,7 +132,7 @@ void TestLButtons::theLinkIsAsWideAsItsText()
     const int difference = wide.sizeHint().width() - narrow.sizeHint().width();
     QCOMPARE(difference, wide.fontMetrics().horizontalAdvance(wide.text()) -
                              narrow.fontMetrics().horizontalAdvance(narrow.text()));
-    // And a little higher.
+    // Slightly taller than the text.
     QCOMPARE(narrow.sizeHint().height(),
              narrow.fontMetrics().size(Qt::TextSingleLine, narrow.text()).height() + 8);
 }
@@ -175,7 +175,7 @@ void TestLButtons::aLinkThatIsTooNarrowIsSmallerBeforeItIsElided()
     QFont font = link.font();
     font.setPixelSize(20);
     link.setFont(font);
-    // What the button shows is the same as it would show with the smaller font, if that has room.
+    // The link looks as it would with the smaller font, if that fits.
     font.setPixelSize(14);
     LCommandLinkButton smaller(text);
     smaller.setFont(font);
@@ -183,7 +183,7 @@ void TestLButtons::aLinkThatIsTooNarrowIsSmallerBeforeItIsElided()
     link.resize(smaller.size());
     QCOMPARE(link.grab().toImage(), smaller.grab().toImage());
 
-    // Never smaller than the smallest class, however narrow it is.
+    // Never smaller than the smallest size class.
     font.setPixelSize(10);
     smaller.setFont(font);
     smaller.resize(60, 20);
@@ -207,7 +207,7 @@ void TestLButtons::aLinkThatIsTooNarrowHasAToolTip()
     }
 }
 
-/// The look is not an override that a derived class would replace.
+/// The look does not depend on an override that a derived class would replace.
 void TestLButtons::whatADerivedLinkPaintsIsUnderTheText()
 {
     DerivedLink link(QStringLiteral("█"));

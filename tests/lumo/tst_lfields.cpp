@@ -9,7 +9,7 @@
 
 namespace {
 
-/// @return whether the widget took the turn of the wheel for itself.
+/// Returns whether @p widget accepted the wheel event.
 bool turnWheelDown(QWidget &widget)
 {
     const QPointF position(5, 5);
@@ -21,7 +21,7 @@ bool turnWheelDown(QWidget &widget)
 
 } // namespace
 
-/// Cards stand in a view that is scrolled with the wheel; nothing may change its value in passing.
+/// Cards are shown in a scrolling view; scrolling past a field must not change its value.
 class TestLFields : public QObject
 {
     Q_OBJECT

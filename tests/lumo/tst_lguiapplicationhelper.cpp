@@ -22,7 +22,7 @@ QPalette paletteOf(const QColor &window, const QColor &text)
     return palette;
 }
 
-/// An application that lives as long as one test function, as the programs do that load a plugin.
+/// An application object for one test function; the toolkit outlives it, as in programs that load plugins.
 class Application
 {
     int m_argc = 1;
@@ -127,7 +127,7 @@ void TestLGuiApplicationHelper::theThemesAreReadable_data()
     addThemes();
 }
 
-/// The contrast that WCAG asks for in texts of normal size: 4.5 to 1.
+/// WCAG asks for a contrast of 4.5:1 in text of normal size.
 void TestLGuiApplicationHelper::theThemesAreReadable()
 {
     QFETCH(int, theme);

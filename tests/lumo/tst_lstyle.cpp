@@ -18,7 +18,7 @@ namespace {
 
 using Helper = LGuiApplicationHelper;
 
-/// Painted on a ground that no theme has, so that what was not painted is known.
+/// A background that no theme uses, so that unpainted pixels are recognised.
 const QColor Ground(1, 200, 3);
 
 QImage paint(QWidget &widget, const QSize &size = QSize(100, 32))
@@ -104,7 +104,7 @@ void TestLStyle::buttonsAreFlatRoundedAndInThePalettesColour()
         QCOMPARE(image.pixelColor(point), button.palette().color(QPalette::Mid));
     }
 
-    // A little darker under the mouse, and more so when it is pressed.
+    // Darker under the mouse, and darker still while pressed.
     button.setAttribute(Qt::WA_UnderMouse);
     const QColor hovered = paint(button).pixelColor(50, 16);
     button.setAttribute(Qt::WA_UnderMouse, false);
@@ -146,7 +146,7 @@ void TestLStyle::fieldsHaveTheBaseColour()
     QCOMPARE(empty.pixelColor(0, 0), Ground);
     QCOMPARE(empty.pixelColor(50, 16), line.palette().color(QPalette::Base));
     QCOMPARE(empty.pixelColor(50, 0), line.palette().color(QPalette::Mid));
-    // The sign that there is a list.
+    // The drop-down arrow.
     const QImage image = paint(combo);
     QVERIFY(count(image.copy(80, 4, 18, 24), combo.palette().color(QPalette::Base)) < 18 * 24);
 }
@@ -172,7 +172,7 @@ void TestLStyle::aStepThatIsNotPossibleIsFaint()
     box.setRange(0, 10);
     box.setValue(10);
     const QImage image = paint(box);
-    // The darkest pixel of each sign.
+    // The darkest pixel tells how faint a sign is.
     const auto darkest = [&image](const QRect &room) {
         int found = 255;
         for (int y = room.top(); y <= room.bottom(); ++y) {

@@ -106,7 +106,7 @@ void TestLSystemPalette::whatWasChosenStays()
     QVERIFY(isOurs(Helper::LightType));
     setDesktop(Qt::yellow, Qt::blue);
     QCOMPARE(QApplication::palette().color(QPalette::Window), QColor(Qt::yellow));
-    // And the desktop's is known again.
+    // From then on the desktop's palette counts again.
     Helper::instance()->setPaletteType(Helper::UnknownType);
     setDesktop(Qt::black, Qt::white);
     palette.follow();

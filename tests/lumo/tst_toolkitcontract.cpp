@@ -9,9 +9,8 @@
 
 #include <QtTest>
 
-// Plugins allocate and derive from these classes as they stand in the headers of the toolkit they were built
-// with, and run with another build of it. So the classes add no data to Qt's, wherever what they remember is
-// kept.
+// Plugins instantiate these classes and derive from them with the headers of one build of the toolkit, and
+// run with another. So the classes add no data members to Qt's and keep their state elsewhere.
 static_assert(sizeof(LComboBox) == sizeof(QComboBox));
 static_assert(sizeof(LCommandLinkButton) == sizeof(QPushButton));
 static_assert(sizeof(LLabel) == sizeof(QLabel));
@@ -20,7 +19,7 @@ static_assert(sizeof(LSuggestButton) == sizeof(QPushButton));
 
 namespace {
 
-/// Gives access to what the classes override.
+/// Makes the functions that the classes might override accessible.
 template <typename Widget>
 struct Opened : Widget
 {
@@ -33,15 +32,15 @@ struct Opened : Widget
     using Widget::wheelEvent;
 };
 
-/// Whether both classes have the same function there, inherited from the same class.
+/// Whether both classes inherit the function from the same class.
 template <typename First, typename Second>
 constexpr bool areTheSame(First, Second)
 {
     return std::is_same_v<First, Second>;
 }
 
-/// A derived class's table of virtual functions names the overrides of the class it was built with. The
-/// type of a pointer to a member tells which class it was declared in.
+/// Whether @p Own overrides none of these functions: a derived class's vtable refers to the overrides in the
+/// headers it was built with. The type of a pointer to member tells the declaring class.
 template <typename Own, typename Base>
 constexpr bool overridesNothing()
 {
@@ -58,7 +57,7 @@ static_assert(overridesNothing<LComboBox, QComboBox>());
 static_assert(overridesNothing<LCommandLinkButton, QPushButton>());
 static_assert(overridesNothing<LLabel, QLabel>());
 static_assert(overridesNothing<LSpinBox, QSpinBox>());
-// That the comparison can tell: nobody derives from this one.
+// Proves that the comparison works; plugins do not derive from this class.
 static_assert(!overridesNothing<LSuggestButton, QPushButton>());
 
 } // namespace
@@ -71,7 +70,7 @@ private Q_SLOTS:
     void everyClassHasItsOwnMetaObject();
 };
 
-/// Derived classes with Q_OBJECT link to it.
+/// Derived classes with Q_OBJECT link to their base's meta object.
 void TestToolkitContract::everyClassHasItsOwnMetaObject()
 {
     QCOMPARE(LComboBox::staticMetaObject.className(), "LComboBox");

@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# check_module.sh PLUGIN: what the plugin's file shows to a loader.
+# check_module.sh PLUGIN: checks what the plugin's file shows to a loader.
 set -eu
 plugin=$1
 failed=0
@@ -24,14 +24,15 @@ check "it needs the two platform libraries, under exactly these names" \
     "$(dynamic | sed -n 's/.*(NEEDED).*\[\(libkelvane.*\|liblumo.*\)\].*/\1/p' | LC_ALL=C sort)" \
     "libkelvane-system-ability.so
 liblumo.so"
-check "of Qt it needs Core, Gui and Widgets, nothing more" \
+check "it needs only Core, Gui and Widgets of Qt" \
     "$(dynamic | sed -n 's/.*(NEEDED).*\[\(libQt5.*\)\.so\.5\].*/\1/p' | LC_ALL=C sort)" \
     "libQt5Core
 libQt5Gui
 libQt5Widgets"
-# Whatever has no version is neither Qt's nor the C library's, so it comes from the desktop. What stands here is what every
-# build of the desktop has; where the plugin derives from a class, its meta object and its table of virtual functions too.
-check "of the desktop it uses exactly what is documented" \
+# Symbols without a version are neither Qt's nor the C library's, so they come from the desktop. Every build
+# of the desktop has those listed here, including the meta object, vtable and typeinfo of each class that the
+# plugin derives from.
+check "it uses exactly the documented symbols of the desktop" \
     "$(nm --dynamic --undefined-only "$plugin" | sed -n 's/^ *U \([^@]*\)$/\1/p' | c++filt | LC_ALL=C sort -u)" \
     "KelvaneAbilityManager::createContact()
 KelvaneAbilityManager::instance()

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Acts but never answers.
+/// A handler that acts but cannot reply.
 class MuteHandler : public IBusinessIntent
 {
 public:
@@ -31,7 +31,7 @@ void ContactServiceTest::cleanup()
     m_service.reset();
     m_log.reset();
     QVERIFY(m_prepared.isEmpty());
-    // The service keeps former handlers on purpose.
+    // The service deliberately leaks former handlers.
     for (const QPointer<ScriptedHandler> &handler : qAsConst(m_all)) {
         delete handler.data();
     }

@@ -30,7 +30,7 @@ inline QString handleIntentSignature()
     return QStringLiteral("virtual int ContactService::handleIntent(const CloudIntent&)");
 }
 
-/// A handler whose doings a test prescribes and observes.
+/// A handler that a test scripts and observes.
 class ScriptedHandler : public QObject, public IReplyableIntent
 {
 public:
@@ -67,8 +67,8 @@ public:
     QString repliedTo;
 };
 
-/// A service with the intents "SCRIPTED", a ScriptedHandler each time, and "MUTE". Derive the test class from
-/// it.
+/// Base class of tests: a service with the intents "SCRIPTED", which takes a new ScriptedHandler each time,
+/// and "MUTE".
 class ContactServiceTest : public QObject
 {
     Q_OBJECT
@@ -78,9 +78,9 @@ private Q_SLOTS:
     void cleanup();
 
 protected:
-    /// Fails unless @p reply has no card and ends the session, beside what is named.
+    /// Fails unless @p reply has these values, no card, and ends the session.
     static void compareReply(const Reply *reply, int code, const char *shown, const char *spoken, int type);
-    /// The next handler that the factory makes; it belongs to the service then.
+    /// Prepares the next handler that the factory hands out; the service owns it from then on.
     ScriptedHandler *prepareHandler();
 
     std::unique_ptr<DynamicRegisterIntentFactory> m_factory;

@@ -25,13 +25,13 @@ inline QString contact()
     return QStringLiteral("contact");
 }
 
-/// JSON that is written with single quotes.
+/// Returns @p json with double instead of single quotes.
 inline QString quoted(const QByteArray &json)
 {
     return QString::fromUtf8(json).replace(QLatin1Char('\''), QLatin1Char('"'));
 }
 
-/// How many cards there are, shown or not.
+/// Counts the existing cards, shown or not.
 inline int cardsAlive()
 {
     int count = 0;
@@ -43,9 +43,9 @@ inline int cardsAlive()
 }
 
 /**
- * A host as it would be written elsewhere: it knows the public headers only, loads the plugin like any other,
- * asks on a worker thread and takes the reply on the GUI thread. The contacts application is scripted, the
- * clock stands at 2026-03-07 10:20. Derive the test class from it.
+ * Base class of tests: a host as others would write it. It knows only the public headers, loads the plugin
+ * like any other, asks on a worker thread and takes the reply on the GUI thread. The contacts application is
+ * scripted; the clock stands at 2026-03-07 10:20.
  */
 class LoadedPluginTest : public QObject
 {
@@ -70,7 +70,7 @@ private Q_SLOTS:
     }
 
 protected:
-    /// service() on a thread of its own.
+    /// Calls service() on a worker thread and waits for it.
     static IRet ask(IService *service, const QString &semantic)
     {
         IRet result = 1;

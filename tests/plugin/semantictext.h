@@ -5,10 +5,10 @@
 
 #include <QString>
 
-/// The understanding service's answers that these tests send.
+/// Answers of the understanding service, as input for the tests.
 namespace SemanticText {
 
-/// One intent with slots in the JSON form "[{'name':'id','value':'1'}]"; single quotes stand for double ones.
+/// An answer with one intent, with slots as in "[{'name':'id','value':'1'}]"; single quotes become double.
 inline QString of(const char *intentName, const char *slotArray = "[]", const char *more = "")
 {
     return QStringLiteral(
@@ -18,7 +18,7 @@ inline QString of(const char *intentName, const char *slotArray = "[]", const ch
              QString::fromUtf8(more).replace(QLatin1Char('\''), QLatin1Char('"')));
 }
 
-/// A turn that keeps the dialogue open and asks @p shown and @p spoken.
+/// An answer that keeps the dialogue open, showing @p shown and saying @p spoken.
 inline QString openDialogue(const char *shown, const char *spoken)
 {
     return QStringLiteral(

@@ -15,8 +15,8 @@
 #include <memory>
 
 /**
- * The plugin with a host and an ability library that were built from the documentation alone: every function
- * is called through the place it has there.
+ * The plugin with a host and an ability library built from the documentation alone: every function is called
+ * through its documented vtable slot.
  */
 class TestBinaryLayout : public QObject
 {
@@ -64,7 +64,7 @@ void TestBinaryLayout::pluginFunctionsStandInOrder()
     const int initialised = m_plugin->init();
     QVERIFY(initialised == 0 || initialised == -3);
 
-    // The members follow the bases in the documented order: the handle is the interface's first and only one.
+    // The members follow the bases in the documented order; the handle is the interface's only member.
     int calls = 0;
     m_plugin->setMessageHandle([&calls](Documented::ServicePlugin *, const Documented::Reply &) { ++calls; });
     QVERIFY(m_plugin->messageHandle != nullptr);

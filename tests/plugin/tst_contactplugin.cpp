@@ -31,7 +31,7 @@ QString contact()
     return QStringLiteral("contact");
 }
 
-/// A stranger's service, which counts its deletions.
+/// A service that the plugin did not create; counts its deletions.
 class ForeignService : public IService
 {
 public:
@@ -48,8 +48,8 @@ private:
     int *m_deletions;
 };
 
-/// A reply with an (empty) card as the dispatchers attach it. Several plugins in one process each attach
-/// theirs.
+/// A reply with an empty card, attached by the dispatcher. With several plugins in the process, each attaches
+/// its own.
 Reply announcedCard()
 {
     Reply reply;
@@ -57,7 +57,7 @@ Reply announcedCard()
     return reply;
 }
 
-/// Emits the card's own signal, as its buttons do.
+/// Emits the card's reply signal, as its buttons do.
 bool emitReply(QObject *card, const Reply &reply)
 {
     return QMetaObject::invokeMethod(card, "signalSendShowMessgae", Qt::DirectConnection,

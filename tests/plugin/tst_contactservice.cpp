@@ -7,7 +7,7 @@
 
 #include <QTest>
 
-/// The service's own answers: its name, texts that it cannot read, open dialogues, intents that nobody knows.
+/// The service's own answers: its name, unreadable texts, open dialogues, unknown intents.
 class TestContactService : public ContactServiceTest
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ private Q_SLOTS:
     void subclassReplacesHandleIntent();
 
 private:
-    /// Fails unless @p semantic is answered, and logged, as an intent called @p loggedName that nobody knows.
+    /// Fails unless @p semantic is answered, and logged, as the unknown intent @p loggedName.
     void compareUnknownIntent(const QString &semantic, const QString &loggedName) const;
 };
 

@@ -18,7 +18,7 @@ const char AConference[] =
 
 } // namespace
 
-/// What a host gets of the plugin: its metadata, each intent from the text to the reply, its configuration.
+/// What a host gets from the plugin: metadata, each intent from text to reply, configuration.
 class TestLoadedPlugin : public LoadedPluginTest
 {
     Q_OBJECT
@@ -42,7 +42,7 @@ void TestLoadedPlugin::metadataNamesInterfaceAndClass()
              QStringLiteral("com.kelvane.sonvaro.speakmate.3"));
     QCOMPARE(metadata.value(QStringLiteral("className")).toString(), QStringLiteral("ContactPlugin"));
     QVERIFY(metadata.value(QStringLiteral("debug")).isBool());
-#ifdef QT_NO_DEBUG // by the build type; the plugin and this test are built alike
+#ifdef QT_NO_DEBUG // set by the build type, which the plugin and this test share
     QVERIFY(!metadata.value(QStringLiteral("debug")).toBool());
 #else
     QVERIFY(metadata.value(QStringLiteral("debug")).toBool());
@@ -148,7 +148,7 @@ void TestLoadedPlugin::eachIntentEndToEnd()
         QCOMPARE(cardsAlive(), 1);
     }
     m_plugin->releaseService(service);
-    // The card is the host's and outlives the service.
+    // The host owns the card, which outlives the service.
     if (hasCard) {
         reply.widget->show();
         QVERIFY(QTest::qWaitForWindowExposed(reply.widget));
@@ -198,7 +198,7 @@ void TestLoadedPlugin::throwingApplicationIsAFailedCall()
 
 void TestLoadedPlugin::configurationDecidesTheTimeout()
 {
-    // Whether the application runs or not, one of the two is the time-out.
+    // One of the two is the time-out, depending on whether the application runs.
     const ConfigurationFile file(R"({"Contact":{"TimeOut":"600","MaxTimeOut":"700"}})");
     const RedirectedFile redirected("/etc/xdg/kelvane-speakmate-plugins/contact-plugin.json", file.path());
     QCOMPARE(m_plugin->init(), 0);

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Two conferences found, which the reply shows.
+/// Asks for conferences with two in the answer; returns the reply, which has a card.
 Reply *askForTwoConferences(IService *service)
 {
     ScriptedAbility::instance().enqueue(
@@ -99,7 +99,7 @@ void TestLoadedPluginLife::servicesComeAndGoOnManyThreads()
     std::vector<std::thread> threads;
     for (int i = 0; i < threadCount; ++i) {
         threads.emplace_back([this, &made, &started] {
-            // All at once: a thread alone would be done before the next one has started.
+            // Start together: otherwise a thread could finish before the next has started.
             ++started;
             while (started.load() < threadCount) {
                 std::this_thread::yield();
@@ -123,7 +123,7 @@ void TestLoadedPluginLife::servicesComeAndGoOnManyThreads()
     QCOMPARE(made.load(), threadCount * rounds);
 }
 
-/// Last, because it takes the plugin that the others use.
+/// Comes last, because it unloads the plugin that the others use.
 void TestLoadedPluginLife::loadsAndUnloadsAHundredTimes()
 {
     for (int round = 0; round < 100; ++round) {
@@ -133,13 +133,13 @@ void TestLoadedPluginLife::loadsAndUnloadsAHundredTimes()
         IService *service = m_plugin->createService(contact());
         const std::unique_ptr<QWidget> card(askForTwoConferences(service)->widget);
         QVERIFY(card != nullptr);
-        // Plugins that are gone build no cards any more.
+        // Unloaded plugins build no more cards.
         QCOMPARE(cardsAlive(), 1);
         m_plugin->releaseService(service);
         m_plugin->uninit();
         QVERIFY(m_loader.unload());
         QVERIFY(instance.isNull());
-        // Its plugin is unloaded, but the host may still show it.
+        // The plugin is unloaded, but the host may still show the card.
         card->show();
         QVERIFY(emitFromCard(card.get(), Reply(0, QString(), 3)));
         ScriptedAbility::instance().reset();

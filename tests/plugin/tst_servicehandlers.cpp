@@ -6,7 +6,7 @@
 #include <QPointer>
 #include <QTest>
 
-/// What the service makes of its handlers: their replies, failures, exceptions and lives.
+/// How the service treats its handlers: replies, failures, exceptions and lifetimes.
 class TestServiceHandlers : public ContactServiceTest
 {
     Q_OBJECT

@@ -6,8 +6,8 @@
 #include <QTest>
 #include <QVariant>
 
-/// Fails the running test unless @p reply is as its constructor made it. The host's type and the documented
-/// one are different types.
+/// Fails the running test unless @p reply is as constructed. A template, since the host's and the documented
+/// Reply are different types.
 template <typename AnyReply>
 void compareUntouched(const AnyReply &reply)
 {

@@ -31,7 +31,7 @@ QString answerWith(const QByteArray &semantic)
     return QStringLiteral(R"({"intent": {"semantic": %1}, "sid": "x"})").arg(QString::fromUtf8(semantic));
 }
 
-/// Whether whoever asks for memory and can do without gets some.
+/// Whether nothrow allocations succeed.
 bool hasMemory = true;
 
 } // namespace

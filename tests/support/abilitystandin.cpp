@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// What stand-ins for the real ability library have in common: they only make abilities of their own in
+// Shared by the stand-ins for the real ability library, which each only define
 // KelvaneAbilityManager::createContact().
 
 #include <kelvane/kelvaneabilitymanager.h>

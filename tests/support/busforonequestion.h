@@ -14,8 +14,8 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-/// Answers the first connection's greeting like a bus, and never says a word to later ones: a bus that is
-/// stopped between two connections.
+/// A bus that is stopped between two connections: answers the first client's greeting, rejecting it, and
+/// stays silent to later ones.
 class BusForOneQuestion
 {
 public:
@@ -31,7 +31,7 @@ public:
     }
     ~BusForOneQuestion()
     {
-        shutdown(m_descriptor, SHUT_RDWR); // ends a wait for somebody who asks
+        shutdown(m_descriptor, SHUT_RDWR); // ends a pending accept()
         m_thread.join();
         close(m_descriptor);
     }

@@ -7,7 +7,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-/// A configuration file that lives as long as the object.
+/// A temporary configuration file.
 class ConfigurationFile
 {
 public:
@@ -15,7 +15,7 @@ public:
     {
         QFile file(m_folder.filePath(QStringLiteral("any.json")));
         if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
-            qFatal("the configuration file cannot be written");
+            qFatal("cannot write the configuration file");
         }
     }
 

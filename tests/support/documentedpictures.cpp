@@ -55,7 +55,7 @@ QImage DocumentedPictures::pictureOf(QWidget &window)
             if (above != &window && above->windowType() == type && above->isVisible()) {
                 const QRect place(window.mapFromGlobal(above->mapToGlobal(QPoint())), above->size());
                 painter.drawPixmap(place, above->grab());
-                painter.setPen(above->palette().color(QPalette::Mid)); // where the desktop has a shadow
+                painter.setPen(above->palette().color(QPalette::Mid)); // in place of the desktop's shadow
                 painter.drawRect(place.adjusted(0, 0, -1, -1));
             }
         }

@@ -8,16 +8,16 @@
 
 class QWidget;
 
-/// Pictures of a window in its states, compared with those in docs/pictures. Link documented_pictures.
+/// Compares pictures of a window's states with those in docs/pictures. Link documented_pictures.
 namespace DocumentedPictures {
 
-/// What @p window shows, with its dialogs and popups above it. They are moved to where they are within the
-/// window; the screen of a test is smaller.
+/// Returns a picture of @p window with the visible dialogs and popups above it, each with a border. They are
+/// grabbed one by one and placed relative to the window, since a test's screen is smaller.
 QImage pictureOf(QWidget &window);
 
-/// Compares @p picture with docs/pictures/FOLDER/STATE-light-x1.png and the like, in cells of ten pixels, so
-/// that another release of a font is no difference. Keeps it in the build folder too; with UPDATE_PICTURES
-/// set it becomes the documented one first. Empty if they agree.
+/// Compares @p picture with docs/pictures/FOLDER/STATE-light-x1.png or the like, in cells of ten pixels, so
+/// that another release of a font makes no difference. Returns the difference, or an empty text. Also saves
+/// the picture in the build folder; if UPDATE_PICTURES is set, first saves it as the documented one.
 QString differenceFromDocuments(const QImage &picture, const QString &folder, const QString &state,
                                 bool isDark);
 

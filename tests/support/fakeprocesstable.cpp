@@ -14,12 +14,12 @@ QByteArray tableWith(int matches)
 {
     QByteArray table = "UID PID PPID C STIME TTY TIME CMD\n"
                        "root 1 0 0 09:00 ? 00:00:01 /sbin/init\n"
-                       // -w: a longer word is another program.
+                       // Not counted: grep -w matches whole words only.
                        "user 70 1 0 09:00 ? 00:00:00 /usr/bin/meetlynxhelper\n";
     for (int index = 0; index < matches; ++index) {
         table += "user 8" + QByteArray::number(index) + " 1 0 09:00 ? 00:00:02 /usr/bin/meetlynx\n";
     }
-    // The pipeline's own search, which it takes out again.
+    // The pipeline's own grep, which the pipeline filters out.
     return table + "user 99 1 0 09:00 ? 00:00:00 grep -w meetlynx\n";
 }
 
@@ -60,10 +60,10 @@ int FakeProcessTable::runs() const
 void FakeProcessTable::writePs(const QByteArray &table)
 {
     QFile ps(m_folder.filePath(QStringLiteral("ps")));
-    // Only the shell itself, no further process: a command line must not show what the table holds.
+    // Shell built-ins only: the command line of another process would show up in the real process table.
     const QByteArray script = "#!/bin/sh\n"
                               "echo \"$*\" >>\"${0%/*}/runs\"\n"
-                              "[ \"$*\" = -ef ] || exit 1\n" // anything else would show another table
+                              "[ \"$*\" = -ef ] || exit 1\n" // other options print another table
                               "while IFS= read -r line; do printf '%s\\n' \"$line\"; done <<'END'\n" +
                               table + "END\n";
     if (!ps.open(QIODevice::WriteOnly) || ps.write(script) != script.size() ||

@@ -7,9 +7,8 @@
 #include <QTemporaryDir>
 
 /**
- * A `ps` of our own, first in this process's PATH for as long as it lives, so that a test decides what the
- * process table shows. Nothing is started under the application's name; the table is a file that the script
- * prints.
+ * Puts a fake `ps` first in this process's PATH while it lives, so that a test decides what the process table
+ * shows. The fake is a script that prints a fixed table; nothing runs under the application's name.
  */
 class FakeProcessTable
 {
@@ -18,14 +17,14 @@ public:
 
     /// A table with @p matches processes of the contacts application among others.
     explicit FakeProcessTable(int matches);
-    /// A PATH in which there is no ps at all, but grep and wc.
+    /// A PATH with grep and wc, but without ps.
     explicit FakeProcessTable(NoPs);
-    /// A table with exactly this text.
+    /// A table with exactly the text @p table.
     explicit FakeProcessTable(const QByteArray &table);
     ~FakeProcessTable();
     Q_DISABLE_COPY(FakeProcessTable)
 
-    /// How often ps was run so far.
+    /// How often ps has run so far.
     int runs() const;
 
 private:

@@ -11,7 +11,7 @@
 
 namespace {
 
-// Guards the pointer: a record may come from another thread while the capture ends.
+// Guards active: another thread may log a record while the capture ends.
 QMutex &activeMutex()
 {
     static QMutex mutex;
@@ -148,7 +148,7 @@ QString LogCapture::levelName(QtMsgType level)
 void LogCapture::handle(QtMsgType level, const QMessageLogContext &context, const QString &text)
 {
     if (level == QtFatalMsg) {
-        std::fprintf(stderr, "%s\n", qPrintable(text)); // the program ends now, and should say why
+        std::fprintf(stderr, "%s\n", qPrintable(text)); // the program aborts after this and should say why
     }
     const QMutexLocker locker(&activeMutex());
     if (active != nullptr) {

@@ -10,21 +10,22 @@
 #include <QVector>
 #include <QtGlobal>
 
-/// One record of the Qt message logger, copied. Source fields are null when the record carried none.
+/// A copied record of Qt's message logger. Source fields are null if the record had none.
 struct LogRecord
 {
     QtMsgType level = QtDebugMsg;
     QString text;
     QByteArray category;
     QByteArray file;
-    QByteArray function; ///< as the compiler writes it, see signatureOf()
+    QByteArray function; ///< as the compiler spells it, see signatureOf()
     int line = 0;
 };
 
 /**
- * Takes all log records while it lives, from any thread, and makes the test fail on warnings and critical
- * records that were not announced with expect(). Put it on the stack of a test function, or make it in init()
- * and destroy it in cleanup(). Captures nest: the innermost takes the records.
+ * Captures all log records while it lives, from any thread. With Unexpected::Fails, its destruction fails the
+ * test if there were warnings or critical records not announced with expect(), or if announced ones did not
+ * come. Create it on the stack of a test function, or in init(), and then destroy it in cleanup(). Captures
+ * nest: the innermost one takes the records.
  */
 class LogCapture
 {
@@ -35,24 +36,23 @@ public:
     ~LogCapture();
     Q_DISABLE_COPY(LogCapture)
 
-    /// Announces one warning or critical record with exactly this text.
+    /// Announces one warning or critical record with exactly the text @p text.
     void expect(QtMsgType level, const QString &text);
 
     /// All records so far, in order.
     QVector<LogRecord> records() const;
     /// The texts of one level, in order.
     QStringList texts(QtMsgType level) const;
-    /// All records as "debug: text", "warning: text" and so on: convenient to compare with a list.
+    /// All records as "debug: text", "warning: text" and so on, for comparing with a list.
     QStringList lines() const;
     bool contains(QtMsgType level, const QString &text) const;
-    /// The first record with this text; a default record when there is none.
+    /// The first record with the text @p text; a default record if there is none.
     LogRecord find(const QString &text) const;
-    /// What the test would fail with if the capture ended now: surprises, and announced records that did not
-    /// come.
+    /// The failures if the capture ended now: unexpected records, and announced ones that did not come.
     QStringList problems() const;
     void clear();
 
-    /// @p function without the blanks that differ between compilers ("const QString &" and "const QString&").
+    /// @p function without the blanks that compilers place differently ("const QString &", "const QString&").
     static QByteArray signatureOf(const QByteArray &function);
     static QString levelName(QtMsgType level);
 
@@ -69,7 +69,7 @@ private:
     const Unexpected m_policy;
     LogCapture *m_outer;
     QtMessageHandler m_previous;
-    mutable QMutex m_mutex; ///< guards what follows
+    mutable QMutex m_mutex; ///< guards the members below
     QVector<LogRecord> m_records;
     QVector<Expectation> m_expected;
     QStringList m_surprises;

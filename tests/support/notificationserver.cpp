@@ -21,7 +21,7 @@ NotificationServer::NotificationServer(const QStringList &capabilities)
                                                      QDBusConnection::ExportScriptableContents) &&
                          m_connection.registerService(Service);
     if (!isThere) {
-        qFatal("The notification server cannot be put on the bus.");
+        qFatal("Cannot put the notification server on the bus.");
     }
 }
 

@@ -10,7 +10,7 @@
 #include <QVariantMap>
 #include <QVector>
 
-/// A notification server on a connection of its own, which remembers what it was sent.
+/// A notification server on its own connection, which records the notifications sent to it.
 class NotificationServer : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -26,28 +26,28 @@ public:
         QString body;
         QStringList actions;
     };
-    /// How it takes what it is sent.
+    /// How the server treats notifications.
     enum class Mood { Shows, Refuses, Silent };
 
     explicit NotificationServer(const QStringList &capabilities = {QStringLiteral("actions"),
                                                                    QStringLiteral("body")});
     ~NotificationServer() override;
 
-    /// From here on only those of @p program are remembered; others may notify on the same bus.
+    /// Records only notifications of @p program from now on; others may use the same bus.
     void listenTo(const QString &program) { m_program = program; }
     Shown last() const { return shown.isEmpty() ? Shown() : shown.last(); }
 
     QStringList summaries() const;
     bool isOnScreen(uint id) const { return m_onScreen.contains(id); }
     void click(uint id, const QString &action);
-    /// As the user does it.
+    /// Dismisses the notification as the user would.
     void dismiss(uint id);
-    /// Waits, without handling any events, until the bus has what was sent.
+    /// Waits until the bus has received everything sent, without processing events.
     void flush();
 
     Mood mood = Mood::Shows;
-    QVector<Shown> shown; ///< all there ever were, also replaced ones
-    int attempts = 0;     ///< also those that it did not take
+    QVector<Shown> shown; ///< all so far, including replaced ones
+    int attempts = 0;     ///< including those not shown
 
 public Q_SLOTS:
     Q_SCRIPTABLE QStringList GetCapabilities() const { return m_capabilities; }
@@ -64,7 +64,7 @@ private:
     QString m_connectionName;
     QDBusConnection m_connection;
     QStringList m_capabilities;
-    QString m_program; ///< everybody's while empty
+    QString m_program; ///< empty for any program
     QVector<uint> m_onScreen;
     uint m_lastId = 0;
 };

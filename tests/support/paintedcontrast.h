@@ -9,7 +9,7 @@
 
 #include <cmath>
 
-/// Contrast as the Web Content Accessibility Guidelines define it, from 1 to 21, of what was really painted.
+/// Contrast of painted pixels, from 1 to 21, as defined by the Web Content Accessibility Guidelines.
 namespace PaintedContrast {
 
 inline double luminance(QRgb color)
@@ -44,7 +44,7 @@ inline QRgb ground(const QImage &image)
     return most;
 }
 
-/// How far the strongest stroke in @p image stands out from its ground.
+/// The highest contrast of any pixel in @p image with its background.
 inline double ofText(const QImage &image)
 {
     const QRgb behind = ground(image);
@@ -57,8 +57,8 @@ inline double ofText(const QImage &image)
     return best;
 }
 
-/// How far the edge of the control that @p image shows at @p place stands out from what is around it: the
-/// weakest of its sides. Sides at the image's own border do not count; without any other it is 1.
+/// The contrast between the edge of the control at @p place in @p image and its surroundings, on the weakest
+/// side. Ignores sides at the image's border; 1 if no side is left.
 inline double ofEdge(const QImage &image, const QRect &place)
 {
     const int depth = qRound(3 * image.devicePixelRatio()); // lines are one to two pixels wide

@@ -8,12 +8,12 @@
 /// How a program ended and what it wrote.
 struct ProgramRun
 {
-    int status = -1; ///< -1 when it crashed or had to be killed
+    int status = -1; ///< -1 if it did not start, crashed or had to be killed
     QByteArray output;
     QByteArray errors;
 };
 
-/// Runs @p program as in a pipe that ends behind @p input. Waits for a minute at most.
+/// Runs @p program with @p input on its standard input. Waits at most one minute.
 inline ProgramRun
 runProgram(const QString &program, const QStringList &arguments, const QByteArray &input = {},
            const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment())

@@ -6,10 +6,10 @@
 #include <QByteArray>
 
 /**
- * Makes this process open another file in one path's place while it lives, so that a file at a fixed place
- * can be tested without touching the machine. Only what this program and the libraries it loads open by name
- * is redirected, one path at a time. Link redirectedfile.cpp into the test program itself: its open() and
- * open64() go before the C library's.
+ * Makes this process open another file in place of one path while it lives, so that a file at a fixed path
+ * can be tested without touching the machine. Redirects calls of open() and open64() by this program and the
+ * libraries it loads, one path at a time. Link redirectedfile.cpp into the test program itself: its
+ * functions take precedence over the C library's.
  */
 class RedirectedFile
 {
@@ -17,7 +17,7 @@ public:
     RedirectedFile(const QByteArray &path, const QByteArray &target);
     ~RedirectedFile();
 
-    /// How often the path was opened.
+    /// How often the path has been opened.
     int opened() const;
 
 private:

@@ -11,8 +11,8 @@ namespace {
 
 ScriptedAbility *resolve()
 {
-    // By name, so that it is the very library that the code under test has loaded or will load, also when
-    // that is a plugin whose libraries are not in the global scope.
+    // By name, so that it is the library that the code under test loads, even if that is a plugin whose
+    // libraries are not in the global scope.
     void *library = dlopen("libkelvane-system-ability.so", RTLD_NOW);
     void *entry = library == nullptr ? nullptr : dlsym(library, "scriptedAbilityControls");
     if (entry == nullptr) {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// Built as a library of its own, under the real library's name.
+// Built as a separate library, under the real library's name.
 
 #include "scriptedability.h"
 
@@ -111,7 +111,7 @@ public:
         return m_alive;
     }
 
-    /// The new ability's number; 0 when none is to be made.
+    /// Returns the new ability's number; 0 if refused.
     int created()
     {
         const QMutexLocker locker(&m_mutex);
@@ -212,7 +212,7 @@ public:
     int request(const QString &action, const QString &parameters, QString &answer) override
     {
         const Answer prepared = Script::instance().requested(m_number, m_timeout, action, parameters);
-        // Also with a failure, so that a test sees whether the code under test reads it then.
+        // Even on failure, so that a test notices if the code under test reads it then.
         answer = prepared.text;
         return prepared.code;
     }

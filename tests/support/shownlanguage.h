@@ -13,14 +13,14 @@
 #include <QTreeWidget>
 #include <QWidget>
 
-/// What is shown in a window, for telling whether it is all in one language.
+/// The texts of a window, for checking that all are in one language.
 namespace ShownLanguage {
 
-/// Every text of @p widget itself, those of its tabs, items and actions too.
+/// All texts of @p widget itself, including its tabs, items and actions.
 inline QStringList textsOf(const QWidget &widget)
 {
     QStringList texts;
-    // By the properties, so that no kind of widget is forgotten.
+    // Read as properties, so that no widget class is forgotten.
     for (const char *name :
          {"windowTitle", "toolTip", "accessibleName", "accessibleDescription", "text", "title",
           "placeholderText", "plainText", "prefix", "suffix", "informativeText"}) {
@@ -36,7 +36,7 @@ inline QStringList textsOf(const QWidget &widget)
             texts << box->itemText(i);
         }
     }
-    // Files and folders, in other views, have the names that they have.
+    // Other views show files and folders, whose names may be in any language.
     const auto *view = qobject_cast<const QAbstractItemView *>(&widget);
     const bool isOfProgram = qobject_cast<const QTableView *>(&widget) != nullptr ||
                              qobject_cast<const QTreeWidget *>(&widget) != nullptr ||
@@ -58,13 +58,13 @@ inline QStringList textsOf(const QWidget &widget)
     return texts;
 }
 
-/// What a text of a program must not contain in the language @p code.
+/// Matches what a program's texts must not contain in the language @p code.
 inline QRegularExpression strangeTo(const QString &code)
 {
     return QRegularExpression(
         code == QLatin1String("en")
             ? QStringLiteral("[\\p{Han}\\x{3000}-\\x{303f}\\x{ff00}-\\x{ffef}]")
-            // Words that are no names: "JSON", "service()" and file names stay as they are.
+            // English words; names such as "JSON" and "service()" and those of files stay untranslated.
             : QStringLiteral("\\b[A-Z]?[a-z]+ [a-z]{2,}\\b|^&?[A-Z][a-z]{2,}…?$"));
 }
 

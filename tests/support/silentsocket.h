@@ -11,7 +11,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-/// Takes connections, and never says a word.
+/// A listening socket that accepts connections and stays silent.
 class SilentSocket
 {
 public:

@@ -7,7 +7,7 @@
 
 #include <QDebug>
 
-/// What a log record must look like that a source file is expected to write.
+/// A log record that a source file is expected to write.
 struct SourceRecord
 {
     QtMsgType level;
@@ -15,11 +15,11 @@ struct SourceRecord
     QString function; ///< the whole signature
 };
 
-/// Fails the running test unless the records that @p log holds of @p file (relative to the tree) are exactly
-/// @p expected, in this order and of category "default".
+/// Fails the running test unless the records in @p log from @p file (relative to the tree) are exactly
+/// @p expected, in this order and in the category "default".
 void compareRecords(const LogCapture &log, const char *file, const QVector<SourceRecord> &expected);
 
-/// What a debug stream makes of @p values.
+/// @p values as QDebug writes them.
 template <typename... Values>
 QString streamed(const Values &...values)
 {

@@ -7,13 +7,13 @@
 
 #include <memory>
 
-/// Lets the program under test speak Chinese, as it does for most of its users, before the first test.
+/// Switches the program under test to Chinese, the language of most users, before the first test.
 static void speakChinese()
 {
     static std::unique_ptr<ProgramLanguage> language;
     language.reset(new ProgramLanguage(SPEAKER_LANGUAGE()));
     if (!language->choose(QStringLiteral("zh_CN"))) {
-        qFatal("The program does not speak Chinese");
+        qFatal("The program has no Chinese translation");
     }
     qAddPostRoutine([] { language.reset(); });
 }

@@ -7,7 +7,7 @@
 
 #include <cstddef>
 
-/// Adds the columns of a test's table: addColumns<QString, int>({"text", "code"}).
+/// Adds columns to the test's table, as in addColumns<QString, int>({"text", "code"}).
 template <typename... Types>
 void addColumns(const char *const (&names)[sizeof...(Types)])
 {
@@ -15,7 +15,7 @@ void addColumns(const char *const (&names)[sizeof...(Types)])
     (QTest::addColumn<Types>(names[column++]), ...);
 }
 
-/// Adds a row to that table: addRow("nothing", "", 0). Texts are for columns of QString.
+/// Adds a row to the table, as in addRow("nothing", "", 0). Pass string literals for QString columns.
 template <typename... Values>
 void addRow(const char *name, Values... values)
 {

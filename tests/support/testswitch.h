@@ -5,7 +5,7 @@
 
 #include <QTest>
 
-/// A table of one column that is false in the row @p whenFalse and true in the row @p whenTrue.
+/// Adds a bool column that is false in the row @p whenFalse and true in the row @p whenTrue.
 inline void addSwitch(const char *column, const char *whenFalse, const char *whenTrue)
 {
     QTest::addColumn<bool>(column);

@@ -10,8 +10,9 @@
 #include <memory>
 #include <string>
 
-/// Sends one request and prints its code; with an argument, another one for each line of input, to the bus at
-/// GOOD_ADDRESS if there is such a variable. ONE_REQUEST_TIMEOUT bounds each.
+/// Sends a request and prints its code; with an argument, sends another for each line of input. Later
+/// requests go to the bus at GOOD_ADDRESS, if that variable is set. ONE_REQUEST_TIMEOUT is each one's
+/// time-out (ms).
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);

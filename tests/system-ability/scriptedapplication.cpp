@@ -10,7 +10,7 @@
 
 #include <cstdio>
 
-/// Stands on the bus in the application's place. Says "ready" when it does.
+/// Takes the application's name on the bus, then prints "ready".
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);

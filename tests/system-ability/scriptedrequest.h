@@ -14,15 +14,15 @@
 
 #include <signal.h>
 
-/// What became of one request.
+/// The result of one request.
 struct Asked
 {
     int code;
-    QString answer; ///< "untouched" unless there was one
+    QString answer; ///< "untouched" if there was none
     qint64 msecs;
 };
 
-/// Asks the application that is on the test's bus, through an ability of the request's own.
+/// Asks the application on the test's bus, through a new ability.
 inline Asked ask(const QString &action, const QString &parameters = {}, int timeoutMsecs = 10000)
 {
     const std::unique_ptr<ContactAbility> ability(KelvaneAbilityManager::instance()->createContact());
@@ -35,7 +35,7 @@ inline Asked ask(const QString &action, const QString &parameters = {}, int time
     return asked;
 }
 
-/// A process that runs until the end of the scope. The constructor waits until it has said something.
+/// Runs a process until the end of the scope. The constructor waits for its first output.
 class Running
 {
 public:
@@ -60,7 +60,7 @@ private:
     bool m_isReady = false;
 };
 
-/// The application that does what its requests say.
+/// The path of the scripted application.
 inline QString scripted()
 {
     return QStringLiteral(SCRIPTED_APPLICATION);

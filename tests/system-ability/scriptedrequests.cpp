@@ -36,7 +36,7 @@ QString ScriptedRequests::Request(const QString &action, const QString &paramete
     const QDBusMessage request = message();
     const QDBusConnection bus = connection();
     if (action == QLatin1String("Malform")) {
-        // One argument for each letter of the signature.
+        // One argument per letter of the signature.
         QVariantList arguments;
         for (const QChar type : parameters) {
             arguments.append(type == QLatin1Char('s') ? QVariant(QStringLiteral("text")) : QVariant(42));

@@ -8,12 +8,11 @@
 #include <QSet>
 #include <QStringList>
 
-/// An application that does with a request what the request's action says, for the ability library's tests:
-/// "Echo" answers with the parameters, "Deadline" with the request's own, "Late" is performed at once and
-/// answers after as many milliseconds as the parameters say, "Never" does not answer, "Fail" does with an
-/// error, "Malform" with arguments of the types that the parameters name, "Die" ends the process at once.
-/// After "Refuse" WasPerformed answers with the error that the parameters name; "Asked" tells how often it
-/// was called.
+/// An application for the ability library's tests. A request's action decides what happens: "Echo" answers
+/// with the parameters, "Deadline" with the request's deadline; "Late" is performed at once and answers after
+/// as many milliseconds as the parameters say; "Never" does not answer, "Fail" answers with an error,
+/// "Malform" with arguments of the types in the parameters; "Die" ends the process at once. After "Refuse"
+/// WasPerformed() answers with the error named in the parameters; "Asked" answers how often it was called.
 class ScriptedRequests : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -33,6 +32,6 @@ Q_SIGNALS:
 
 private:
     QSet<QString> m_performed;
-    QString m_refusal; ///< the error that WasPerformed answers with; empty for none
+    QString m_refusal; ///< the error that WasPerformed() answers with; empty for none
     int m_timesAsked = 0;
 };

@@ -26,7 +26,7 @@ QStringList busArguments(const QString &address)
 
 } // namespace
 
-/// The ability library on a bus that is gone, restarts, or does not answer.
+/// The ability library on a bus that is gone, restarts or does not answer.
 class TestAbilityBus : public QObject
 {
     Q_OBJECT
@@ -42,7 +42,7 @@ private Q_SLOTS:
 
 void TestAbilityBus::aBusThatIsGoneIsToldAtOnce()
 {
-    // A process of its own, because this one has its bus.
+    // In another process, since this one is connected to its bus.
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),

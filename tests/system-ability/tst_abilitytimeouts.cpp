@@ -14,7 +14,7 @@
 #include <ctime>
 #include <limits>
 
-/// How long a request waits, and what is said of one that was carried out after all.
+/// How long a request waits, and what is logged about one performed after its time-out.
 class TestAbilityTimeOuts : public QObject
 {
     Q_OBJECT
@@ -48,7 +48,7 @@ void TestAbilityTimeOuts::theTimeOutIsKept()
     const Running application(scripted());
     QVERIFY(application.isReady());
     const LogCapture log(LogCapture::Unexpected::Passes);
-    // A busy machine may wake anybody late: never early, and at least once within 5 percent and 20 ms.
+    // Never early. A busy machine may wake us late, but at least once within 5 percent plus 20 ms.
     qint64 soonest = std::numeric_limits<qint64>::max();
     for (int attempt = 0; attempt < 5; ++attempt) {
         const Asked asked = ask(QStringLiteral("Never"), {}, timeoutMsecs);
@@ -66,7 +66,7 @@ void TestAbilityTimeOuts::aLateAnswerIsDropped()
     QVERIFY(application.isReady());
     const LogCapture log(LogCapture::Unexpected::Passes);
     QCOMPARE(ask(QStringLiteral("Late"), QStringLiteral("300"), 100).code, int(AbilityCode::TimedOut));
-    // Is under way when the other one's answer comes, and gets its own.
+    // Still waits when the first request's late answer comes, and must get its own.
     const Asked next = ask(QStringLiteral("Late"), QStringLiteral("600"));
     QCOMPARE(next.code, 0);
     QVERIFY2(next.msecs >= 600, qPrintable(QString::number(next.msecs)));
@@ -132,7 +132,7 @@ void TestAbilityTimeOuts::theDeadlineTravelsWithTheRequest()
         const Asked asked = ask(QStringLiteral("Deadline"), {}, timeoutMsecs);
         QCOMPARE(asked.code, 0);
         const qint64 deadline = asked.answer.toLongLong();
-        // Before the caller stops waiting, and not by much.
+        // Shortly before the caller stops waiting.
         QVERIFY(deadline < monotonicMsecs() + timeoutMsecs);
         QVERIFY(deadline >= before + timeoutMsecs - qMin(50, timeoutMsecs / 20) - 1);
     }

@@ -18,7 +18,7 @@
 
 namespace {
 
-/// Closes it at the end of its scope.
+/// A socket that is closed at the end of its scope.
 class Socket
 {
 public:
@@ -30,7 +30,7 @@ public:
     Q_DISABLE_COPY(Socket)
 
     int descriptor() const { return m_descriptor; }
-    /// Whether it has been shut down; nobody writes to any of these.
+    /// Whether it has been shut down. Reads as end of file then; no test writes to a socket.
     bool isShutDown() const
     {
         char byte = 0;
@@ -41,7 +41,7 @@ private:
     int m_descriptor;
 };
 
-/// Takes connections and never says a word.
+/// A listening socket that accepts connections and stays silent.
 class Listener
 {
 public:
@@ -53,7 +53,7 @@ public:
             bind(m_socket.descriptor(), reinterpret_cast<const sockaddr *>(&name), length) == 0 &&
             listen(m_socket.descriptor(), 10) == 0;
         if (!listens) {
-            qFatal("Nobody can listen at %s", m_path.constData());
+            qFatal("Cannot listen at %s", m_path.constData());
         }
     }
     QByteArray address() const { return "unix:path=" + m_path; }
@@ -75,7 +75,7 @@ private:
 
 } // namespace
 
-/// What is shut down when a bus falls silent while somebody connects to it, and what is not.
+/// Which connections are shut down when a bus falls silent while a client connects.
 class TestConnectionGuard : public QObject
 {
     Q_OBJECT
@@ -121,7 +121,7 @@ void TestConnectionGuard::nothingIsShutDownInTime()
 
 void TestConnectionGuard::itsEndIsNotWaitedFor()
 {
-    // The quickest of many: a busy machine may keep some of them waiting, but not all.
+    // The quickest of many: a busy machine may delay some, but not all.
     constexpr int rounds = 20;
     qint64 quickest = std::numeric_limits<qint64>::max();
     for (int round = 0; round < rounds; ++round) {

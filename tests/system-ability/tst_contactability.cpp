@@ -17,7 +17,7 @@
 #include <thread>
 #include <vector>
 
-/// The ability library beside an application that misbehaves, on a bus that cannot start one.
+/// The ability library with a misbehaving application, on a bus that cannot start one.
 class TestContactAbility : public QObject
 {
     Q_OBJECT
@@ -94,7 +94,7 @@ void TestContactAbility::thePasswordIsNotTraced()
     QLoggingCategory::setFilterRules(QStringLiteral("kelvane.ability.debug=true"));
     const LogCapture log;
     const QString text = QStringLiteral(R"({"conferenceId":"880","password":"246810"})");
-    // What it answers is traced as it is; this one does not repeat the question.
+    // Answers are traced unchanged; this one does not repeat the parameters.
     QCOMPARE(ask(QStringLiteral("Late"), text).code, 0);
     QLoggingCategory::setFilterRules(QString());
     const QString traced = log.lines().join(QLatin1Char('\n'));
@@ -166,7 +166,7 @@ void TestContactAbility::aThousandRequestsMayWait()
     for (int i = 0; i < requestCount; ++i) {
         calls.push_back(bus.asyncCall(message, 60000));
     }
-    // Comes after them all on the same connection.
+    // Sent after all of them on the same connection.
     message.setArguments({QStringLiteral("Echo"), QStringLiteral("last"), qint64(0), QString()});
     QCOMPARE(bus.call(message, QDBus::Block, 10000).type(), QDBusMessage::ReplyMessage);
     const auto failed = std::count_if(calls.cbegin(), calls.cend(),

@@ -29,7 +29,7 @@ QString outcome(const QString &answer)
 
 } // namespace
 
-/// The library and the application that it is for, on a bus where the first request starts the application.
+/// The library with the real application, which the first request starts.
 class TestRealApplication : public QObject
 {
     Q_OBJECT

@@ -14,7 +14,7 @@
 
 #include <limits>
 
-/// Whatever number stands in the configuration, a request gets its answer: from the file to the bus and back.
+/// A request gets its answer whatever number the configuration file has, from the file to the bus and back.
 class TestTimeoutSettings : public QObject
 {
     Q_OBJECT
@@ -45,7 +45,7 @@ void TestTimeoutSettings::aRequestIsAnswered()
     const QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("contact.json")));
     QVERIFY(file.open(QIODevice::WriteOnly));
-    // The other one is what is shipped; the map keeps what a former row has set.
+    // The other value is the shipped one; it is written too, since values of earlier rows persist.
     QJsonObject settings{{QStringLiteral("TimeOut"), QStringLiteral("5000")},
                          {QStringLiteral("MaxTimeOut"), QStringLiteral("15000")}};
     settings.insert(key, value);
@@ -53,7 +53,7 @@ void TestTimeoutSettings::aRequestIsAnswered()
     file.close();
     QVERIFY(ConfigManager::instance()->init(file.fileName()));
 
-    // The normal time-out counts when the application runs, the other one when it does not.
+    // TimeOut applies while the application runs, MaxTimeOut while it does not.
     const FakeProcessTable processes(key == QLatin1String("TimeOut") ? 1 : 0);
     const int limit = key == QLatin1String("TimeOut") ? 500 : 5000;
     const int expected = value.toInt() > limit             ? value.toInt()
@@ -63,7 +63,7 @@ void TestTimeoutSettings::aRequestIsAnswered()
     if (expected > 1000) {
         QCOMPARE(ConferenceCardInterface::instance()->openConferenceList(), 0);
     } else {
-        // Half a second may be too short for a busy machine to answer in; it is bounded all the same.
+        // A busy machine may not answer within the short time-out.
         const int code = ConferenceCardInterface::instance()->openConferenceList();
         QVERIFY2(code == 0 || code == -16020, qPrintable(QString::number(code)));
     }

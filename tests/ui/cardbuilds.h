@@ -11,11 +11,11 @@ class ConferenceMsgStaticWidget;
 using Build = void (*)(ConferenceMsgStaticWidget &card);
 Q_DECLARE_METATYPE(Build)
 
-// The cards that ask for something, with the records of CardSamples.
+// The interactive cards, filled with the records of CardSamples.
 
-/// The conference, to be edited.
+/// Shows the conference in the editor.
 void buildEditable(ConferenceMsgStaticWidget &card);
-/// The same, with 7 people instead of 20.
+/// Like buildEditable(), with the head count edited from 20 to 7.
 void buildEdited(ConferenceMsgStaticWidget &card);
 void buildCreate(ConferenceMsgStaticWidget &card);
 void buildInvite(ConferenceMsgStaticWidget &card);

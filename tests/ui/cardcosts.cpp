@@ -98,8 +98,8 @@ double CardCosts::untilPainted(const std::function<void(ConferenceMsgStaticWidge
     host.setWidget(card);
     host.grab();
     const double elapsed = cpuMilliseconds() - start;
-    // In a host the event loop has its turn before a card is deleted. Without it every widget looks for its
-    // own events among those of all others.
+    // A host's event loop runs before a card is deleted. Otherwise each widget would search all posted events
+    // for its own.
     QCoreApplication::sendPostedEvents();
     return elapsed;
 }

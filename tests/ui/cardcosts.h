@@ -10,8 +10,8 @@
 
 class ConferenceMsgStaticWidget;
 
-/// Cards of a hostile or a very large answer, and what they cost until they are on the screen: for the test
-/// that bounds it and the benchmark that prints it.
+/// Cards for hostile or very large answers, and the CPU time until they are painted: bounded by a test and
+/// printed by a benchmark.
 namespace CardCosts {
 
 /// Fills a card that shows @p text somewhere.
@@ -23,19 +23,19 @@ struct LongText
     BuildWithText build;
 };
 
-/// Every place of a card with a text that somebody else wrote.
+/// Every place where a card shows text from outside.
 const std::vector<LongText> &longTexts();
 
-/// Of about as many @p characters, with markup in it.
+/// A text with markup, about @p characters long.
 QString textOfLength(int characters);
 
 ContactInviteMemberDetail people(int count, const QString &name);
 
-/// Milliseconds of this thread until a card filled by @p build is painted in a host's list; its end does not
-/// count, and neither does other work of the machine.
+/// CPU time of this thread (ms) until a card filled by @p build is painted in a host's list, without the
+/// card's destruction.
 double untilPainted(const std::function<void(ConferenceMsgStaticWidget &card)> &build);
 
-/// For the first card of a process, which pays for its fonts.
+/// Paints a first card, which pays for loading the fonts.
 void warmUp();
 
 } // namespace CardCosts

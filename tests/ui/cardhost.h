@@ -16,29 +16,29 @@
 class ConferenceMsgStaticWidget;
 
 /**
- * A window with a card in it, as a host shows it, beside an ability library that says OK to everything. It is
- * a dialog, because that is where buttons are keenest on the Return key. Records what the card answers.
+ * A window that shows a card as a host does, with an ability library that answers OK to everything. It is a
+ * dialog, because auto-default buttons there respond to the Return key. Records the card's replies.
  */
 class CardHost : public QDialog
 {
 public:
-    /// The card is empty without @p build.
+    /// Without @p build the card stays empty.
     explicit CardHost(void (*build)(ConferenceMsgStaticWidget &card) = nullptr);
     ~CardHost() override;
 
     /// Null once the card is deleted.
     ConferenceMsgStaticWidget *card() const { return m_card; }
-    /// Shows the window and waits until the keyboard belongs to it.
+    /// Shows the window and waits until it is active.
     bool activate();
 
-    /// What the card has answered so far.
+    /// The card's replies so far.
     QVector<Reply> replies() const { return m_replies; }
     QStringList replyTexts() const;
 
     LogCapture &log() { return m_log; }
-    /// Every request for @p action is answered with this outcome word from now on.
+    /// Answers every request for @p action with the word @p outcome from now on.
     static void answer(const QString &action, const QString &outcome);
-    /// Every request for @p action fails as a call.
+    /// Makes every call for @p action fail with @p code from now on.
     static void fail(const QString &action, int code);
     static QStringList actions() { return ScriptedAbility::instance().actions(); }
     /// The parameters of the only request so far.

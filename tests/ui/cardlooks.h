@@ -15,7 +15,7 @@
 
 #include <memory>
 
-/// How cards look, for the tests that measure them.
+/// Helpers for tests that measure how cards look.
 namespace CardLooks {
 
 inline std::unique_ptr<ConferenceMsgStaticWidget> singleCard(const ContactDetailMsg &conference)
@@ -41,13 +41,13 @@ inline QColor textColor(const QWidget &widget)
     return widget.palette().color(QPalette::Active, QPalette::WindowText);
 }
 
-/// The widget's own font in the size of that class.
+/// The font of @p widget in the given size class.
 inline QFont sized(const QWidget &widget, LFontSizeManager::SizeType size)
 {
     return LFontSizeManager::instance()->get(size, widget.font());
 }
 
-/// Base of tests in the light theme in which nothing is logged.
+/// Base class of tests that start in the light theme and fail on unexpected warnings.
 class LightTest : public QObject
 {
     Q_OBJECT

@@ -12,27 +12,27 @@ QT_BEGIN_NAMESPACE
 class QPushButton;
 QT_END_NAMESPACE
 
-/// The people and conferences that the tests of the cards show, and how they find their way on a card.
+/// Sample people and conferences for the card tests, and functions that find a card's children.
 namespace CardSamples {
 
 constexpr qint64 Minute = 60000;
 constexpr qint64 Hour = 60 * Minute;
 
-/// 2024-03-07, a Thursday, at that local time.
+/// Thursday, 2024-03-07, at the given local time, in milliseconds since the epoch.
 qint64 thursdayAt(int hour, int minute = 0);
 
-/// A quarter of an hour from 09:00, with 张三 and 李四, at most 20 people, whose owner does not pay.
+/// A conference from 09:00 to 09:15 with 张三 and 李四, for at most 20 people, owned by a free account.
 ContactDetailMsg conference();
 QVector<ContactDetailMsg> conferences(int count);
 
 UserInfo user(const QString &name, const QString &remarkName, const QString &userId, const QString &account);
 
-/// 张三 is one of two people, 王五 is one of three, and 赵六 was found at once.
+/// An invitation with two candidates for 张三, three for 王五, and a single match for 赵六.
 ContactInviteMemberDetail inviteDetail();
-/// The same for a conference that is to be created.
+/// The same people, for a conference about to be created.
 ContactCreatedConferenceDetail createdDetail();
 
-/// All children of that type that stand directly or indirectly on @p parent and are not hidden.
+/// All descendants of @p parent of type @p Widget that are not hidden.
 template <typename Widget>
 QVector<Widget *> shown(const QWidget &parent)
 {
@@ -46,10 +46,10 @@ QVector<Widget *> shown(const QWidget &parent)
     return result;
 }
 
-/// The texts of all labels on @p parent, from top to bottom.
+/// The texts of all shown labels on @p parent, except icons, in tree order.
 QStringList texts(const QWidget &parent);
 
-/// The control on @p parent that assistive technology and people know by @p name; null when there is none.
+/// The shown control on @p parent with the accessible name @p name; null if there is none.
 template <typename Widget>
 Widget *named(const QWidget &parent, const QString &name)
 {
@@ -61,7 +61,7 @@ Widget *named(const QWidget &parent, const QString &name)
     return nullptr;
 }
 
-/// The button with that text; null when there is none.
+/// The shown button with this text; null if there is none.
 QPushButton *button(const QWidget &parent, const QString &text);
 
 } // namespace CardSamples

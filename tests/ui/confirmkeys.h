@@ -5,7 +5,7 @@
 
 #include <QTest>
 
-/// Adds a row with @p value for each of the keys that press what has the focus.
+/// Adds a row with @p value for each key that activates the focused control.
 inline void addConfirmKeys(bool value)
 {
     QTest::newRow("Return") << int(Qt::Key_Return) << value;

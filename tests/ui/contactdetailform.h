@@ -29,12 +29,12 @@ inline ContactDetailMsg conference()
     return conference;
 }
 
-/// The form and its controls, found as a person finds them: by their names.
+/// The form and its controls, found by the names a user sees.
 struct Form
 {
     explicit Form(const QVector<ContactDetailMsg> &list) { widget.gridLayout(list); }
 
-    /// The first child for which @p isWanted says so; null if there is none.
+    /// The first child that satisfies @p isWanted; null if there is none.
     template <typename Widget, typename IsWanted>
     Widget *found(IsWanted isWanted) const
     {
@@ -62,7 +62,7 @@ struct Form
     ContactDetailWidget widget;
 };
 
-/// Answers every change of a conference with success.
+/// Resets the script and lets every update of a conference succeed.
 inline void acceptUpdates()
 {
     ScriptedAbility::instance().reset();

@@ -13,7 +13,7 @@
 
 inline const QDate Thursday(2024, 3, 7);
 
-/// The calendar is a window without parent; a date field makes exactly one.
+/// The calendar, a top-level window; null if there is none. A date field creates exactly one.
 inline QCalendarWidget *calendar()
 {
     QCalendarWidget *found = nullptr;
@@ -27,7 +27,7 @@ inline QCalendarWidget *calendar()
     return found;
 }
 
-/// A date field in a window, without a chosen day. Derive the test class from it.
+/// Base class of tests: a date field in a window, with no day chosen yet.
 class DateFieldTest : public QObject
 {
     Q_OBJECT

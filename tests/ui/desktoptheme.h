@@ -7,20 +7,19 @@
 #include <QPalette>
 #include <QTest>
 
-/// The theme of the desktop that a test runs on, set the way every toolkit sees it: by the application's
-/// palette.
+/// The desktop's theme during a test, set through the application's palette, which every toolkit reads.
 namespace DesktopTheme {
 
 enum Theme { Light, Dark };
 
 inline void set(Theme theme)
 {
-    // A palette made from a button's and a window's colour has texts that can be read on them.
+    // QPalette derives legible text colours from the button's and the window's colour.
     QApplication::setPalette(theme == Dark ? QPalette(QColor(0x2c, 0x2c, 0x2c), QColor(0x19, 0x19, 0x19))
                                            : QPalette(QColor(0xe6, 0xe6, 0xe6), QColor(0xf8, 0xf8, 0xf8)));
 }
 
-/// Gives the current test's table the column "theme" and a row for each theme.
+/// Adds the column "theme" and a row per theme to the current test's table.
 inline void addRows()
 {
     QTest::addColumn<int>("theme");

@@ -20,7 +20,7 @@ inline QCheckBox *mark(const TiTleItem &item)
     return item.findChild<QCheckBox *>();
 }
 
-/// The card, so that a click which reaches it is seen.
+/// A card that counts the mouse and key releases that reach it.
 class CountingCard : public ConferenceMsgStaticWidget
 {
 public:
@@ -32,7 +32,7 @@ protected:
     void keyReleaseEvent(QKeyEvent * /*event*/) override { ++keyReleases; }
 };
 
-/// Base of the tests of a row on a card.
+/// Base class of tests of a candidate row on a card.
 class TitleItemTest : public QObject
 {
     Q_OBJECT

@@ -18,7 +18,7 @@
 
 using namespace CardSamples;
 
-/// What a card tells assistive technology, asked for as that does, and the way through it with the Tab key.
+/// What a card exposes to assistive technology, and the Tab order of its controls.
 class TestCardAccessibility : public QObject
 {
     Q_OBJECT
@@ -53,7 +53,7 @@ QAccessibleInterface *controlNamed(QWidget &parent, const QString &name)
 {
     QAccessibleInterface *found = nullptr;
     forEach(QAccessible::queryAccessibleInterface(&parent), [&](QAccessibleInterface *interface) {
-        // The name of a combo box is its current text on this platform; what it is for is its description.
+        // On this platform a combo box's name is its current text; its description tells what it is for.
         const auto text =
             interface->role() == QAccessible::ComboBox ? QAccessible::Description : QAccessible::Name;
         if (found == nullptr && interface->state().focusable && interface->text(text) == name) {
@@ -91,7 +91,7 @@ void TestCardAccessibility::everyControlHasANameAndATurn()
     CardHost host(build);
     QVERIFY(host.activate());
 
-    // With the keyboard, from the card on until it has its turn again.
+    // Tabs once around, starting at the card.
     host.card()->setFocus(Qt::TabFocusReason);
     QVector<QWidget *> turns;
     QWidget *focused = host.focusWidget();
@@ -106,14 +106,14 @@ void TestCardAccessibility::everyControlHasANameAndATurn()
         QVERIFY2(!interface->text(QAccessible::Name).isEmpty(), turn->metaObject()->className());
         QVERIFY(interface->state().focusable);
     }
-    // In the order in which they stand.
+    // The Tab order is the visual order.
     for (int i = 2; i < turns.size(); ++i) {
         const QPoint before = turns.at(i - 1)->mapTo(&host, QPoint());
         const QPoint here = turns.at(i)->mapTo(&host, QPoint());
         QVERIFY(here.y() > before.y() + 10 || here.x() > before.x());
     }
 
-    // And as assistive technology sees it: nothing that can be used is without a name.
+    // As assistive technology sees it: every control has a name.
     forEach(QAccessible::queryAccessibleInterface(host.card()), [](QAccessibleInterface *interface) {
         const QAccessible::Role role = interface->role();
         if (interface->state().invisible) {
@@ -180,7 +180,7 @@ void TestCardAccessibility::textsAreReadAsTheyAre()
             read.append(interface->text(QAccessible::Name));
         }
     });
-    // Whole, although the label shows dots.
+    // The whole text, although the label is elided.
     QVERIFY(read.contains(one.title));
     QVERIFY(read.contains(QStringLiteral("902 118 34")));
 }
@@ -205,7 +205,7 @@ void TestCardAccessibility::theCardCanBePressed()
     QCOMPARE(actions->actionNames().constFirst(), press);
     actions->doAction(press);
     QCOMPARE(CardHost::actions().size(), 1);
-    // A cancelled one cannot, as it cannot be clicked.
+    // A cancelled card can be neither clicked nor pressed.
     host.card()->setEnabled(false);
     QVERIFY(!actions->actionNames().contains(press));
     actions->doAction(press);

@@ -13,7 +13,7 @@
 
 using namespace CardSamples;
 
-/// Long texts and many people: what a hostile or a very large answer costs until its card is on the screen.
+/// The CPU time that a hostile or very large answer costs until its card is painted.
 class TestCardCosts : public QObject
 {
     Q_OBJECT
@@ -70,7 +70,7 @@ void TestCardCosts::manyCandidatesCostLinearTime()
         });
         return rows == count ? time : std::numeric_limits<double>::infinity();
     };
-    // More than one attempt, against what else happens on the machine.
+    // Several attempts, since other programs disturb the measurement.
     double ratio = 0;
     for (int attempt = 0; attempt < 3; ++attempt) {
         const double few = std::min({elapsed(fewPeople), elapsed(fewPeople), elapsed(fewPeople)});

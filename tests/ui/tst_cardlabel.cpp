@@ -28,7 +28,7 @@ CardLabel *makeLabel(const QString &text, QWidget *parent)
     return CardText::label(text, LFontSizeManager::T6, CardTheme::ValueAlpha, parent);
 }
 
-/// What the tool tip of @p label shows when the mouse rests on it.
+/// The tool tip shown when the mouse rests on @p label.
 QString shownToolTip(QWidget &label)
 {
     QToolTip::hideText();
@@ -50,7 +50,7 @@ QImage painted(QWidget &widget)
 
 } // namespace
 
-/// Texts that somebody else wrote, shown as the characters that they are made of, beside any toolkit.
+/// Texts from outside, shown literally whatever the toolkit.
 class TestCardLabel : public QObject
 {
     Q_OBJECT
@@ -112,7 +112,7 @@ void TestCardLabel::aTextThatDoesNotFitIsElided()
     expected.resize(label->size());
     QCOMPARE(painted(*label), painted(expected));
 
-    // Whatever the alignment of a text that fits, one that does not starts at the left.
+    // An elided text starts at the left, whatever the alignment.
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     QCOMPARE(painted(*label), painted(expected));
 }
@@ -184,7 +184,7 @@ void TestCardLabel::aLongTextStaysWholeButIsNotShownWhole()
     QVERIFY(toolTip.toPlainText().size() < 5000);
     QVERIFY(toolTip.toPlainText().startsWith(text.left(1000)));
 
-    // What can be seen of it is what can be seen of a text that is merely too long for its place.
+    // It looks like any text that is too long for its place.
     CardLabel *shorter = makeLabel(text.left(500), &parent);
     shorter->resize(label->size());
     QCOMPARE(painted(*label), painted(*shorter));
@@ -194,7 +194,7 @@ void TestCardLabel::aLongTextStaysWholeButIsNotShownWhole()
 
 void TestCardLabel::theDotsOfALongTextDoNotSplitACharacter()
 {
-    // Two code units each, from an even and from an odd place on.
+    // Surrogate pairs, starting at an even and at an odd position.
     const QString pairs = QStringLiteral("𠀀").repeated(5000);
     for (const QString &text : {pairs, QLatin1Char('a') + pairs}) {
         const QString beginning = CardText::beginning(text);
@@ -209,7 +209,7 @@ void TestCardLabel::aMegabyteTakesNoTime()
     const QString text = QStringLiteral("周会 <b>").repeated(Megabyte / 6);
     QWidget parent;
     QVERIFY(makeLabel(QStringLiteral("周会 <b>"), &parent)->sizeHint().isValid()); // loads the fonts
-    // The best of three: the clock also counts what other programs take.
+    // The best of three, since the clock includes other programs' time.
     qint64 best = std::numeric_limits<qint64>::max();
     for (int attempt = 0; attempt < 3; ++attempt) {
         QElapsedTimer timer;
@@ -258,7 +258,7 @@ void TestCardLabel::theChipIsRoundAndItsTextLegible()
     const int inset = chip.height() / 2;
     const double contrast = PaintedContrast::ofText(chip.copy(chip.rect().adjusted(inset, 1, -inset, -1)));
     QVERIFY2(contrast >= 4.5, qPrintable(QString::number(contrast)));
-    // The theme may change while the card is shown.
+    // The theme may change while a card is shown.
     DesktopTheme::set(DesktopTheme::Light);
     QCOMPARE(label->contentsMargins(), QMargins());
     QCOMPARE(painted(*label).pixelColor(label->height() / 2, 0).alpha(), 0);

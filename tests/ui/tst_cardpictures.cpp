@@ -19,9 +19,8 @@
 
 using namespace CardSamples;
 
-/// Shows each state of a card the way a host does, in both themes, and saves a picture of it into the build
-/// folder for people to look at. What a program can see is checked: nothing leaves the card, and what must
-/// not be cut off is not.
+/// Shows each state of a card as a host does, in both themes, and saves a picture of it in the build folder
+/// for review. Checks what a program can: the card keeps its width, and fixed texts are not cut off.
 class TestCardPictures : public QObject
 {
     Q_OBJECT
@@ -140,7 +139,7 @@ constexpr State States[] = {
     {"limit", buildLimit},
 };
 
-/// As the hosts do it: below an answer, as wide as the view.
+/// Shows a card the way hosts do: at the top, as wide as the view.
 class Host : public QWidget
 {
 public:
@@ -199,9 +198,9 @@ void TestCardPictures::everyCard()
     QVERIFY(QTest::qWaitForWindowExposed(&host));
     const QImage image = host.grab().toImage();
 
-    // The card keeps to its place, whatever is on it.
+    // No content makes the card wider than its host.
     QVERIFY(host.card()->width() <= state.width);
-    // Fixed texts are never cut off where the card is as wide as planned.
+    // Fixed texts fit a card of the planned width.
     if (state.width >= HostWidth) {
         const auto labels = shown<QLabel>(*host.card());
         for (const QLabel *label : labels) {

@@ -15,8 +15,7 @@
 
 using namespace CardSamples;
 
-/// A button blocks its window until the contacts application has answered. Here is what can be seen
-/// meanwhile.
+/// A button blocks its window until the contacts application has answered: what can be seen meanwhile.
 class TestCardWait : public QObject
 {
     Q_OBJECT
@@ -146,7 +145,7 @@ void TestCardWait::theNewValuesArePaintedBeforeTheAnswer()
     ScriptedAbility::instance().duringNextRequest([&] {
         const auto labels = shown<QLabel>(*host.card());
         for (const QLabel *label : labels) {
-            // A place of its own is what a label gets from a layout that was activated.
+            // Only an activated layout has moved the label to its place.
             if (host.card()->rect().contains(QRect(label->mapTo(host.card(), QPoint()), label->size()))) {
                 painted.append(label->text());
             }

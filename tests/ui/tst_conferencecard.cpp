@@ -20,8 +20,7 @@
 using namespace CardLooks;
 using namespace CardSamples;
 
-/// What a card shows of one conference and of several, and its colours. Nothing here asks the contacts
-/// application.
+/// What a card shows for one conference and for several, and its colours. Sends no requests.
 class TestConferenceCard : public CardLooks::LightTest
 {
     Q_OBJECT
@@ -95,7 +94,7 @@ void TestConferenceCard::anItemOfTheList()
 {
     ConferenceMsgStaticWidget card;
     card.multipleInit(conferences(2));
-    // Lays out what was never shown.
+    // Forces the layout of a card that was never shown.
     card.grab();
     CustomizeItem *item = shown<CustomizeItem>(card).constFirst();
     QCOMPARE(item->focusPolicy(), Qt::NoFocus);
@@ -112,7 +111,7 @@ void TestConferenceCard::anItemOfTheList()
     image.fill(Qt::transparent);
     item->render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
     QCOMPARE(image.pixelColor(image.width() / 2, 3), QColor(0, 0, 0, 7));
-    // A radius of 8 leaves its corner free, and no more.
+    // A radius of 8 leaves only the corner transparent.
     QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
     QCOMPARE(image.pixelColor(8, 1).alpha(), 7);
 }
@@ -220,7 +219,7 @@ void TestConferenceCard::noTextMakesTheCardWider()
     one.conferenceDialNumber = QString(500, QLatin1Char('9'));
     one.participants.fill(user(QStringLiteral("张三"), {}, {}, {}), 100);
 
-    // Without a layout around it the card takes a size of its own.
+    // Outside a layout the card sets its own size.
     QVERIFY(singleCard(one)->width() < 400);
 
     QWidget host;
@@ -258,7 +257,7 @@ void TestConferenceCard::theBackground()
     card.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
     const QColor painted = image.pixelColor(50, 25);
     QCOMPARE(painted.alpha(), color.alpha());
-    // Colours are stored multiplied with their alpha, which costs a digit.
+    // Premultiplied colours lose precision.
     QVERIFY(qAbs(painted.red() - color.red()) <= 1);
     QVERIFY(qAbs(painted.green() - color.green()) <= 1);
     QVERIFY(qAbs(painted.blue() - color.blue()) <= 1);

@@ -18,7 +18,7 @@
 
 using namespace CardSamples;
 
-/// What the buttons of a card ask for and answer, and what becomes of the card.
+/// What a card's buttons request and reply, and what the card shows afterwards.
 class TestConferenceCardActions : public QObject
 {
     Q_OBJECT
@@ -77,7 +77,7 @@ bool isEditable(const CardHost &host)
     return button(*host.card(), QStringLiteral("修 改")) != nullptr;
 }
 
-/// What becomes of a request, and what is logged and said of it.
+/// Adds the outcomes of a request, with what is logged and said in each case.
 void addOutcomes(const QString &done, int refusedCode, int failedCode, const QString &failed)
 {
     addColumns<QString, int, int, QString>({"outcome", "callCode", "loggedCode", "text"});
@@ -86,8 +86,8 @@ void addOutcomes(const QString &done, int refusedCode, int failedCode, const QSt
     addRow("the call fails", "", failedCode, failedCode, failed);
 }
 
-/// Clicks the button called @p text. It has to ask for @p action, which has the row's outcome, to log that as
-/// @p line with the code, and to say it.
+/// Clicks the button @p text. Checks that it requests @p action, which has the row's outcome, logs @p line
+/// with the code, and replies with the row's text.
 void clickAndCheck(CardHost &host, const QString &text, const QString &action, const QString &line)
 {
     QFETCH(QString, outcome);
@@ -134,7 +134,7 @@ void TestConferenceCardActions::modify()
     named<LSpinBox>(*host.card(), QStringLiteral("人数"))->setValue(7);
     clickAndCheck(host, QStringLiteral("修 改"), QStringLiteral("Update Conference"),
                   QStringLiteral("create conference code: %1"));
-    // What was asked for stays, also when it was refused.
+    // The edited values stay, even if the change was refused.
     QVERIFY(!isEditable(host));
     QCOMPARE(texts(*host.card()), staticTexts(QStringLiteral("3月7日    09:00:00"), QStringLiteral("15分钟"),
                                               QStringLiteral("7人")));
@@ -161,7 +161,7 @@ void TestConferenceCardActions::theModifiedValuesAreSentAndShown()
             .arg(start));
     QCOMPARE(texts(card), staticTexts(QStringLiteral("12月31日    23:00:00"), QStringLiteral("120分钟"),
                                       QStringLiteral("100人")));
-    // The caller's list is its own.
+    // The caller's list is untouched.
     QCOMPARE(list.first().participantLimit, 20);
 }
 
@@ -175,7 +175,7 @@ void TestConferenceCardActions::modifyIsShownBeforeTheAnswer()
             [&] { textsAtReply = texts(*host.card()); });
     QTest::mouseClick(button(*host.card(), QStringLiteral("修 改")), Qt::LeftButton);
     QVERIFY(textsAtReply.contains(QStringLiteral("7人")));
-    // At once in its new size, and with all rows in view.
+    // The card takes its new size, with all rows.
     QTRY_COMPARE(host.card()->height(), host.card()->sizeHint().height());
     QTRY_COMPARE(host.card()->layout()->count(), 8);
 }
@@ -269,7 +269,7 @@ void TestConferenceCardActions::aButtonAsksOnce()
         QTest::keyClick(target, Qt::Key_Return);
         QTest::mouseClick(target, Qt::LeftButton);
     };
-    // A library that lets events through while it waits, and a listener that is quick.
+    // Clicks again while the library waits for the answer, and while the reply is delivered.
     ScriptedAbility::instance().duringNextRequest(clickAgain);
     connect(host.card(), &ConferenceMsgStaticWidget::signalSendShowMessgae, &host, clickAgain);
     QTest::mouseClick(target, Qt::LeftButton);

@@ -37,7 +37,7 @@ bool hasBlueFrame(QWidget &card)
 
 Q_DECLARE_METATYPE(Qt::FocusReason)
 
-/// What clicks and keys on the card itself do, driven as people drive it.
+/// What clicks and keys on the card itself do.
 class TestConferenceCardInput : public QObject
 {
     Q_OBJECT
@@ -167,7 +167,7 @@ void TestConferenceCardInput::aClickOnAControlIsNotOneOnTheCard()
     QFETCH(int, mouseButton);
     CardHost host(buildEditable);
     QVERIFY(host.activate());
-    // Disabled: a click on it would otherwise fall through.
+    // This button is disabled; Qt would pass the click on to the card.
     QTest::mouseClick(button(*host.card(), QStringLiteral("修 改")),
                       static_cast<Qt::MouseButton>(mouseButton));
     auto *box = named<LComboBox>(*host.card(), QStringLiteral("时长"));
@@ -224,7 +224,7 @@ void TestConferenceCardInput::theKeyThatPressedAButtonDoesNotOpenTheContacts()
     QVERIFY(host.activate());
     button(*host.card(), QStringLiteral("确 认"))->setFocus(Qt::TabFocusReason);
     QTest::keyPress(host.windowHandle(), Qt::Key_Return);
-    // The button is gone, and the card has taken the focus over: the key is let go there.
+    // The button is gone and the card has the focus, so the card receives the key release.
     QVERIFY(host.card()->hasFocus());
     QTest::keyRelease(host.windowHandle(), Qt::Key_Return);
     QCOMPARE(CardHost::actions(), once("Invite Members"));

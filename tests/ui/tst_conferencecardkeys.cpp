@@ -16,7 +16,7 @@
 
 using namespace CardSamples;
 
-/// What keys do on a card's buttons and boxes.
+/// What keys do on a card's buttons and combo boxes.
 class TestConferenceCardKeys : public QObject
 {
     Q_OBJECT
@@ -98,7 +98,7 @@ void TestConferenceCardKeys::returnClicksAButtonOnce()
         QVERIFY2(CardHost::actions() == QStringList{action},
                  qPrintable(QLatin1String(press.name) + QLatin1String(": ") +
                             CardHost::actions().join(QLatin1Char(','))));
-        // A dialog's default button would have closed it.
+        // No press may close the dialog.
         QVERIFY(host.isVisible());
     }
 }
@@ -151,7 +151,7 @@ void TestConferenceCardKeys::returnOpensTheListOfABox()
     QTest::keyPress(box, static_cast<Qt::Key>(key));
     QVERIFY(box->view()->isVisible());
     box->hidePopup();
-    // Another title is another box.
+    // A box with another window title is not affected.
     box->setWindowTitle(QStringLiteral("other"));
     QTest::keyPress(box, static_cast<Qt::Key>(key));
     QVERIFY(!box->view()->isVisible());

@@ -19,9 +19,8 @@
 
 using namespace CardSamples;
 
-/// A card may be deleted by whoever hears of it, at any moment: inside each of its signals, and while a
-/// request that it started is under way. What is checked is that nothing is touched afterwards; the
-/// sanitizers see the rest.
+/// Any receiver may delete a card at any moment: inside each of its signals, and during a request that it
+/// started. Checks that nothing happens afterwards; the sanitizers catch accesses to deleted objects.
 class TestConferenceCardLifetime : public QObject
 {
     Q_OBJECT
@@ -45,7 +44,7 @@ namespace {
 
 using Go = void (*)(QPushButton *);
 
-/// Everything that makes a card ask and answer, on each way on which a person can get there.
+/// Adds every action of a card, triggered in each way a user can.
 void addActions()
 {
     struct Action
@@ -134,7 +133,7 @@ void TestConferenceCardLifetime::deletedWhileItsRequestIsUnderWay()
     ScriptedAbility::instance().duringNextRequest([&host] { delete host.card(); });
     go(button(*host.card(), text));
     QVERIFY(host.card() == nullptr);
-    // Nobody is left who could answer.
+    // No card is left to reply.
     QVERIFY(host.replies().isEmpty());
     QCOMPARE(CardHost::actions().size(), 1);
 }
@@ -216,7 +215,7 @@ void TestConferenceCardLifetime::deletedBySignalsOfItsControls()
     case 1:
     case 2: {
         LComboBox *box = control == 1 ? hour : duration;
-        // The last of the signals of a change.
+        // The last signal that a change emits.
         connect(box, &QComboBox::currentTextChanged, &host, deleteCard, Qt::QueuedConnection);
         box->setFocus(Qt::TabFocusReason);
         QTest::keyClick(host.windowHandle(), Qt::Key_Up);
@@ -249,7 +248,7 @@ void TestConferenceCardLifetime::deletedWithTheDispatcherListening()
     card->slotInviteMultipleSelectBtn();
     QVERIFY(card.isNull());
     QCOMPARE(heard, QStringList{QStringLiteral("好的，已为您发起和赵六的视频会议。")});
-    // The next result does not mind what became of the former card.
+    // The former card's deletion does not affect the next result.
     dispatcher.slotNoticeAction(3, QVariant::fromValue(inviteDetail()), &reply);
     QVERIFY(reply.widget != nullptr);
     delete reply.widget;

@@ -20,7 +20,7 @@ using namespace CardSamples;
 
 namespace {
 
-/// One for each place in @p layout.
+/// The stretch factor of each item of @p layout.
 QVector<int> stretchesOf(const QBoxLayout &layout)
 {
     QVector<int> stretches;
@@ -32,7 +32,7 @@ QVector<int> stretchesOf(const QBoxLayout &layout)
 
 } // namespace
 
-/// The rows of a card that shows one conference: texts, measures, fonts.
+/// The rows of a card that shows one conference: texts, sizes, fonts.
 class TestConferenceCardRows : public CardLooks::LightTest
 {
     Q_OBJECT
@@ -67,7 +67,7 @@ void TestConferenceCardRows::theRowsOfASingleConference()
                           QStringLiteral("参与人"), QStringLiteral("张三 李四 ")}));
     QCOMPARE(card->layout()->count(), 8);
     QVERIFY(qobject_cast<QPushButton *>(card->layout()->itemAt(2)->widget()) != nullptr);
-    // It took its own size.
+    // The card has its preferred height.
     QCOMPARE(card->height(), card->sizeHint().height());
 }
 

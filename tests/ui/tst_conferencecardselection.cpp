@@ -14,7 +14,7 @@
 
 using namespace CardSamples;
 
-/// The cards on which people are picked and confirmed: what is offered, sent and said.
+/// The cards for picking people: what they offer, send and say.
 class TestConferenceCardSelection : public QObject
 {
     Q_OBJECT
@@ -100,7 +100,7 @@ void TestConferenceCardSelection::theMeasuresOfASelectionCard()
     const auto spaceAt = [layout](int index) {
         return layout->itemAt(index)->spacerItem()->sizeHint().height();
     };
-    // The title, two people with their spaces, and the button with its own.
+    // The title, two people and the button, each with its spacing.
     QCOMPARE(layout->count(), 8);
     QCOMPARE(spaceAt(1), 10);
     QCOMPARE(spaceAt(3), 2);
@@ -142,7 +142,7 @@ void TestConferenceCardSelection::confirm_data()
         return members + QStringLiteral(R"(,"startTime":0})");
     };
 
-    // Who was found at once joins: 赵六 is always the last.
+    // The single match joins without being picked: 赵六 is always the last.
     QTest::newRow("create with nobody picked")
         << Build(buildCreate) << QVector<int>{} << create << 0 << now(one.arg(l1))
         << QStringLiteral("好的，已为您发起和赵六的视频会议。") << false;
@@ -183,7 +183,7 @@ void TestConferenceCardSelection::confirm_data()
     }) << QVector<int>{} << invite << 0 << none
                                           << QStringLiteral("好的，已为您邀请加入会议。") << true;
 
-    // Within the limit who was found at once has to be picked, too: the first row.
+    // Within the limit even the single match must be picked; it is the first row.
     QTest::newRow("within the limit nobody picked")
         << Build(buildLimit) << QVector<int>{} << invite << 0 << none
         << QStringLiteral("好的，已为您邀请加入会议。") << true;
@@ -219,7 +219,7 @@ void TestConferenceCardSelection::confirm()
     QTEST(CardHost::parameters(), "parameters");
     QFETCH(QString, text);
     QCOMPARE(host.replyTexts(), QStringList{text});
-    // It cannot be confirmed again; the people stay to be seen.
+    // The card cannot be confirmed again, but still shows the people.
     QCOMPARE(confirmButton(host), nullptr);
     QVERIFY(!shown<TiTleItem>(*host.card()).isEmpty());
     QTEST(host.card()->isEnabled(), "enabled");
@@ -250,7 +250,7 @@ void TestConferenceCardSelection::theNamesSaid()
     QFETCH(Build, build);
     QFETCH(QString, text);
     CardHost host(build);
-    // Both 张三 and the first 王五.
+    // Picks both 张三 and the first 王五.
     pick(host, {0, 1, 2});
     QTest::mouseClick(confirmButton(host), Qt::LeftButton);
     QCOMPARE(host.replyTexts(), QStringList{text});
@@ -347,7 +347,7 @@ void TestConferenceCardSelection::aPickTakenBackMakesRoom()
     pick(host, {0, 3});
     QVERIFY(!shown<TiTleItem>(*host.card()).at(0)->isSelected());
     QVERIFY(shown<TiTleItem>(*host.card()).at(3)->isSelected());
-    // The other cards have no such limit, whatever the record says.
+    // Other cards ignore the limit in the record.
     CardHost other;
     other.card()->inviteMultiplePerson(detail);
     QCOMPARE(other.card()->selectionBudget().remaining(), 65535);

@@ -123,7 +123,7 @@ void TestConferenceDraft::aStartThatWasNotTouchedKeepsItsMilliseconds_data()
 {
     addColumns<QByteArray, qint64>({"zone", "startTime"});
     QTest::newRow("a half hour") << QByteArray("Asia/Shanghai") << halfPastNine().startTime;
-    // 02:30 local time, which comes twice in that night.
+    // 02:30 local time, which occurs twice that night.
     QTest::newRow("the first of two equal hours") << QByteArray("Europe/Berlin") << Q_INT64_C(1729989000000);
     QTest::newRow("the second of two equal hours") << QByteArray("Europe/Berlin") << Q_INT64_C(1729992600000);
 }

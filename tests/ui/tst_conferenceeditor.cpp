@@ -21,7 +21,7 @@
 
 using namespace CardSamples;
 
-/// The card in which a conference is edited, up to the moment at which the change is sent.
+/// The card that edits a conference, until it sends the change.
 class TestConferenceEditor : public QObject
 {
     Q_OBJECT
@@ -66,7 +66,7 @@ struct Editor
         modify = button(card, QStringLiteral("修 改"));
     }
 
-    /// The modify button and the card must always agree.
+    /// Whether the card has changes; fails the test if the modify button disagrees.
     bool isChanged() const
     {
         if (modify->isEnabled() != host.card()->getConferenceMsgState()) {
@@ -215,7 +215,7 @@ void TestConferenceEditor::theHeadCount()
     one.isPayingUser = isPayingUser;
     one.participantLimit = limit;
     Editor editor(one);
-    // Not every toolkit lets the style be read.
+    // Not every toolkit has this property.
     const QVariant embedded = editor.people->property("enabledEmbedStyle");
     QVERIFY(!embedded.isValid() || embedded.toBool());
     QCOMPARE(editor.people->minimum(), 2);
@@ -223,7 +223,7 @@ void TestConferenceEditor::theHeadCount()
     QTEST(editor.people->value(), "value");
     QVERIFY(!editor.isChanged());
 
-    // It is sent as it came when something else is changed.
+    // Changing something else sends the limit unchanged.
     editor.date->slotSelectionData(QDate(2024, 3, 8));
     QVERIFY(editor.isChanged());
     QTest::mouseClick(editor.modify, Qt::LeftButton);
@@ -339,7 +339,7 @@ void TestConferenceEditor::anOddMinuteStaysUntilAnHourIsPicked()
     QVERIFY(!editor.isChanged());
     editor.hour->setCurrentText(QStringLiteral("10:00"));
     QVERIFY(editor.isChanged());
-    // The half hour is gone: 09:00 is not where it started.
+    // The half hour is lost: 09:00 is not the original time.
     editor.hour->setCurrentText(QStringLiteral("09:00"));
     QVERIFY(editor.isChanged());
 }
@@ -360,7 +360,7 @@ void TestConferenceEditor::aDurationThatIsNotOfferedIsAChange()
     QCOMPARE(editor.duration->currentText(), QStringLiteral("5分钟"));
     QVERIFY(!items(*editor.duration).contains(QString()));
     QVERIFY(editor.host.card()->getConferenceMsgState());
-    // The button is only told by an edit.
+    // Only an edit updates the button.
     QVERIFY(!editor.modify->isEnabled());
     editor.people->stepDown();
     QVERIFY(editor.modify->isEnabled());

@@ -11,7 +11,7 @@
 #include <QJsonObject>
 #include <QtTest>
 
-/// What the form sends when it is confirmed, cancelled, or has nothing to send.
+/// What the form sends when it is confirmed, when it is cancelled, and when it is empty.
 class TestContactDetailRequests : public QObject
 {
     Q_OBJECT

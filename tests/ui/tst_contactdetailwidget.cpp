@@ -32,7 +32,7 @@ QStringList numbers(int first, int last)
 
 } // namespace
 
-/// What the form shows, and what can be chosen in it.
+/// What the form shows and offers.
 class TestContactDetailWidget : public QObject
 {
     Q_OBJECT
@@ -91,7 +91,7 @@ void TestContactDetailWidget::theGrid()
     QCOMPARE(found, captions);
     for (int row = 1; row < lastRow; ++row) {
         if (grid->itemAtPosition(row, 0) == nullptr) {
-            continue; // rows begin behind the one that the grid has of its own
+            continue; // QGridLayout's initial row is empty
         }
         QVERIFY(grid->itemAtPosition(row, 1) != nullptr);
         QVERIFY(grid->itemAtPosition(row, 1)->widget() != grid->itemAtPosition(row, 0)->widget());

@@ -21,7 +21,7 @@ using namespace CardSamples;
 
 namespace {
 
-/// What tells one kind of card from another.
+/// The kinds of card that the dispatcher builds.
 enum class Kind { Empty, Editable, Single, List, Candidates };
 
 Kind kindOf(const ConferenceMsgStaticWidget &card)
@@ -50,7 +50,7 @@ QVariant found(int conferenceCount)
     return QVariant::fromValue(ContactQueryConferenceDetail{conferences(conferenceCount)});
 }
 
-/// The card that a result of that kind gets, as the intent handlers ask for it.
+/// The card for a result of type @p actionType, requested as the intent handlers do.
 std::unique_ptr<ConferenceMsgStaticWidget> cardFor(int actionType, const QVariant &data)
 {
     Reply reply(0, QStringLiteral("文本"), Reply::Texts);
@@ -197,7 +197,7 @@ void TestContactReplyWidget::theSecondCreatedConferenceDoesNotReachTheFirstCard(
     }
     QCOMPARE(kindOf(*first), Kind::Editable);
     QVERIFY(texts(*first).contains(QStringLiteral("会议1")));
-    // Rebuilding the card shows that it has kept its own conference, too.
+    // Cancelling rebuilds the card, which shows that it kept its own conference.
     ScriptedAbility::instance().reset();
     ScriptedAbility::instance().setAnswer(QStringLiteral("Delete Conference"), 0,
                                           QStringLiteral(R"({"ret":"OK"})"));

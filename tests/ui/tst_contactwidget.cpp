@@ -124,7 +124,7 @@ void TestContactWidget::theCardStandsUnderATitle()
     QCOMPARE(int(card->mode()), mode);
     QVERIFY(showsText(*card, QStringLiteral("conference 0")));
     QCOMPARE(showsText(*card, QStringLiteral("conference 1")), count > 1);
-    // Until the layout is at work, the card of a list stands where it was put.
+    // Until the layout is activated, the card of a list stays where it was placed.
     if (count > 1) {
         QCOMPARE(card->pos(), QPoint(0, (500 - 62) / 2));
     }

@@ -10,7 +10,7 @@ namespace {
 
 constexpr QSize PanelSize(60, 40);
 
-/// The panel alone, without what would be behind it.
+/// Paints the panel alone, on a transparent background.
 QImage paint(CustomizeItem &item)
 {
     item.resize(PanelSize);
@@ -45,7 +45,7 @@ void TestCustomizeItem::theColourAtFirst()
     CustomizeItem item;
     const QColor color = paint(item).pixelColor(30, 20);
     QCOMPARE(color.alpha(), 204);
-    // The painter stores colours multiplied with their alpha, which costs a digit.
+    // Premultiplied colours lose precision.
     for (const int channel : {color.red(), color.green(), color.blue()}) {
         QVERIFY2(qAbs(channel - 247) <= 1, qPrintable(color.name()));
     }
@@ -91,10 +91,10 @@ void TestCustomizeItem::theCorners()
     for (const int x : {0, right}) {
         QCOMPARE(alphaAt(image, {x, 0}), upperRound ? 0 : 255);
         QCOMPARE(alphaAt(image, {x, bottom}), lowerRound ? 0 : 255);
-        // Where the arc has run out into the edge.
+        // Here the arc has met the edge.
         QCOMPARE(alphaAt(image, {x, qMax(radius, 1)}), 255);
     }
-    // How far along the edge an arc of this radius goes: its first tenth bends by less than a pixel.
+    // A quarter of the radius along the edge is still outside the arc of a round corner.
     const int insideArc = radius / 4;
     QCOMPARE(alphaAt(image, {insideArc, 0}) == 255, !upperRound);
 }

@@ -11,7 +11,7 @@
 #include <QToolButton>
 #include <QtTest>
 
-/// The calendar of the date field: where it opens, how it looks, and how a day is chosen in it.
+/// The date field's calendar: where it opens, how it looks, and how a day is chosen.
 class TestDateFieldCalendar : public DateFieldTest
 {
     Q_OBJECT
@@ -42,7 +42,7 @@ void TestDateFieldCalendar::theCalendarIsAHiddenWindowWithoutFrame()
 
 void TestDateFieldCalendar::theCalendarsPlaceCountsTheParentsOffsetTwice()
 {
-    // The size before it was ever shown is the one that counts for the first time.
+    // The first time, the size before showing counts.
     const int calendarWidth = calendar()->width();
     QTest::mouseClick(m_field, Qt::LeftButton);
     const QPoint doubled = m_field->mapToGlobal(m_field->pos());
@@ -57,7 +57,7 @@ void TestDateFieldCalendar::theCalendarOpensOnTheChosenDay()
     QCOMPARE(calendar()->selectedDate(), Thursday);
     QCOMPARE(calendar()->yearShown(), 2024);
     QCOMPARE(calendar()->monthShown(), 3);
-    // Also after somebody has looked elsewhere.
+    // Even after the user has browsed to another month.
     calendar()->setCurrentPage(2030, 7);
     calendar()->hide();
     QTest::mouseClick(m_field, Qt::LeftButton);
@@ -112,7 +112,7 @@ void TestDateFieldCalendar::theCalendarHasTheThemesColours()
     m_field->slotSelectionData(Thursday);
     QTest::mouseClick(m_field, Qt::LeftButton);
     QVERIFY(QTest::qWaitForWindowActive(calendar()));
-    // While it is open.
+    // The theme changes while the calendar is open.
     DesktopTheme::set(static_cast<DesktopTheme::Theme>(theme));
     const QPalette colors = calendar()->palette();
     const QColor weekend = calendar()->weekdayTextFormat(Qt::Sunday).foreground().color();

@@ -27,7 +27,7 @@ QStringList shownTexts(const TiTleItem &item)
     return texts;
 }
 
-/// The widths of the spacers and, as -1, the labels between them.
+/// The widths of the spacers, with -1 for each label between them.
 QVector<int> spacings(const TiTleItem &item)
 {
     QVector<int> widths;
@@ -44,7 +44,7 @@ QVector<int> spacings(const TiTleItem &item)
 
 } // namespace
 
-/// How a candidate row looks.
+/// The looks of a candidate row.
 class TestTiTleItem : public TitleItemTest
 {
     Q_OBJECT
@@ -177,7 +177,7 @@ void TestTiTleItem::theColoursFollowTheTheme()
     QCOMPARE(other.palette().color(QPalette::WindowText).alpha(), 33);
     QCOMPARE(other.palette().color(QPalette::WindowText).lightness(), text.lightness());
 
-    // The texts can be told from what is behind them.
+    // The texts stand out from the background.
     const int behind = m_row->grab().toImage().pixelColor(165, 3).lightness();
     QVERIFY2(qAbs(behind - text.lightness()) > 150, qPrintable(QString::number(behind)));
 }
@@ -265,7 +265,7 @@ void TestTiTleItem::theFocusIsSeen()
     for (const QPoint &behind : {QPoint(165, 2), QPoint(2, 20), QPoint(165, 37), QPoint(327, 20)}) {
         QCOMPARE(with.pixelColor(behind), without.pixelColor(behind));
     }
-    // Its corners are round and smooth: between its colour and the ground there are others.
+    // The frame's corners are round and antialiased: there are colours between its own and the background.
     const QImage corner = with.copy(0, 0, 8, 8);
     QSet<QRgb> between;
     for (int y = 0; y < corner.height(); ++y) {

@@ -10,7 +10,7 @@
 #include <QCheckBox>
 #include <QtTest>
 
-/// How a candidate row is selected, with the mouse and the keyboard.
+/// Selecting a candidate row with the mouse and the keyboard.
 class TestTitleItemSelection : public TitleItemTest
 {
     Q_OBJECT
@@ -116,7 +116,7 @@ void TestTitleItemSelection::aRowIsToggledWherever()
     m_card->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_card.get()));
     const auto click = [this, position] {
-        // As the window sends it: to the innermost widget that takes mouse events.
+        // As Qt delivers it: to the innermost widget there that takes mouse events.
         QWidget *target = m_row->childAt(position);
         target = target == nullptr ? m_row : target;
         QTest::mouseClick(target, Qt::LeftButton, Qt::NoModifier, target->mapFrom(m_row, position));

@@ -18,7 +18,7 @@
 
 #include <memory>
 
-/// Uses one thing of everything; 0 when all of it is there.
+/// Uses a bit of every header. Returns 0 if all of it works.
 int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);

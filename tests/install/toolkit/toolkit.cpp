@@ -3,9 +3,9 @@
 
 /**
  * @file
- * A toolkit of exactly the classes and functions that the plugin may take from a desktop, over Qt as it is
- * and with nothing of its own. Never let it share anything with the bundled one: the plugin is built against
- * this one to show that it needs no more.
+ * A toolkit with exactly the classes and functions that the plugin may use, as thin wrappers around Qt. Never
+ * let it share code with the bundled one: building the plugin against it proves that the plugin needs no
+ * more.
  */
 
 #include <lumo/toolkit.h>
@@ -29,7 +29,7 @@ LSpinBox::LSpinBox(QWidget *parent) : QSpinBox(parent) {}
 
 void LSpinBox::setEnabledEmbedStyle(bool enabled)
 {
-    setProperty("enabledEmbedStyle", enabled); // for tests to see
+    setProperty("enabledEmbedStyle", enabled); // so that tests can see it
 }
 
 LComboBox::LComboBox(QWidget *parent) : QComboBox(parent) {}

@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# awk -v out=FOLDER -f extract.awk PAGE: writes each code block of the page into FOLDER, under the name (without its
-# folder, "/" in an "In" line's becoming "_") that the line before the block gives between backquotes.
+# awk -v out=FOLDER -f extract.awk PAGE: writes each code block of the page that follows a line "File `NAME`"
+# or "In `NAME`" to FOLDER: under NAME without its folder, or with "/" replaced by "_", respectively.
 /^(File|In) `/ {
     split($0, parts, "`")
     name = parts[2]

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Registers by the row that the page shows.
+/// Registers the handler with the row shown on the page.
 class PageFactory : public DynamicRegisterIntentFactory
 {
 public:
@@ -22,8 +22,7 @@ public:
 
 } // namespace
 
-/// docs/adding-an-intent.md, carried out: its files are built as they stand there, and its row makes the
-/// handler.
+/// Follows docs/adding-an-intent.md: its files build as shown, and its row creates the handler.
 class TestAddingAnIntent : public QObject
 {
     Q_OBJECT

@@ -40,7 +40,7 @@ bool isListed(const QString &conferenceId)
         [&conferenceId](const ContactDetailMsg &conference) { return conference.confId == conferenceId; });
 }
 
-/// What the page's handler replies to a number.
+/// The page's handler's reply to a conference number.
 Reply replyTo(const QString &number)
 {
     CloudIntent intent;
@@ -55,8 +55,8 @@ Reply replyTo(const QString &number)
 
 } // namespace
 
-/// The handler of docs/adding-an-intent.md on the desk: the real ability library and the real application,
-/// which the bus starts.
+/// The handler of docs/adding-an-intent.md with the real ability library and the real application, which the
+/// bus starts.
 class TestAddingAnIntentDesk : public QObject
 {
     Q_OBJECT

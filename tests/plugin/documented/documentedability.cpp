@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// The ability library once more, written down from its documentation and never from its headers. It answers
-// every request with "OK" and one conference, and keeps a list of what was called, in order.
+// A second ability library, written from its documentation alone, never from its headers. Answers every
+// request with "OK" and one conference, and records the calls in order.
 
 #include <QString>
 #include <QStringList>
@@ -37,7 +37,7 @@ public:
 
     void setTimeout(const int &msecs) override
     {
-        // Whether the application runs is not the question here.
+        // The value depends on whether the application runs.
         calls().append(msecs > 0 ? QStringLiteral("timeout") : QStringLiteral("no timeout"));
     }
 

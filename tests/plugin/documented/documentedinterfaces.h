@@ -10,9 +10,9 @@
 #include <functional>
 
 /**
- * The host's interfaces once more, written down here from their documentation and never from the headers: a
- * plugin whose functions, bases or members stand in another order does not work with a host that is built
- * from these. Never let them share anything with the real headers.
+ * The host's interfaces, written from their documentation alone, never from the headers: a plugin with
+ * functions, bases or members in another order does not work with a host built from these. Never let them
+ * share anything with the real headers.
  */
 namespace Documented {
 
@@ -62,7 +62,7 @@ class Dispatcher : public QObject
 public:
     QObject *interface;
     void *card;
-    // The latest created conference's record.
+    // The record of the last created conference.
     bool isSchedule;
     qint64 scheduleTimeMsecs;
     void *conferences;

@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# with-assistive-bus.sh LAUNCHER COMMAND...: runs COMMAND on a display of its own, beside a bus for assistive technology that
-# LAUNCHER, at-spi-bus-launcher, brings up. To be run on a private session bus (with-private-bus.sh).
+# with-assistive-bus.sh LAUNCHER COMMAND...: runs COMMAND on a private display with an accessibility bus
+# started by LAUNCHER, the path of at-spi-bus-launcher. Run it on a private session bus (with-private-bus.sh).
 set -eu
 launcher=$1
 shift
@@ -16,7 +16,7 @@ cleanup() {
 }
 trap cleanup EXIT
 
-# The server says its number when it listens.
+# The server writes its display number once it listens.
 number=$XDG_RUNTIME_DIR/display
 mkfifo "$number"
 Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp 3>"$number" 2>"$XDG_RUNTIME_DIR/display.log" &
@@ -26,7 +26,8 @@ export DISPLAY=":$shown" QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 
 
 "$launcher" --launch-immediately >"$XDG_RUNTIME_DIR/launcher.log" 2>&1 &
 bus=$!
-# insist COMMAND...: again and again until it succeeds, because the bus's programs may still be starting, or end and start anew.
+# insist COMMAND...: repeats COMMAND until it succeeds: the bus's programs may still be starting, or
+# restarting.
 insist() {
     left=100
     until "$@" >/dev/null 2>&1; do
@@ -44,14 +45,14 @@ until [ -n "$address" ]; do
     [ "$tries" -lt 100 ] || { echo "$launcher does not answer" >&2; exit 1; }
     [ -n "$address" ] || sleep 0.1
 done
-# The registry is there before the first program wants to be known to it: what is said while it starts can get lost.
+# Waits for the registry before any program registers: calls made while it starts can get lost.
 insist dbus-send --bus="$address" --print-reply --dest=org.a11y.atspi.Registry /org/a11y/atspi/accessible/root \
     org.a11y.atspi.Accessible.GetChildren
 insist dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus org.freedesktop.DBus.Properties.Set \
     string:org.a11y.Status string:IsEnabled variant:boolean:true
 export TEST_ASSISTIVE_BUS="$address"
-# Qt 5.15 may want to be known to the registry before it has connected, and never tries again; a program that finds itself
-# unknown ends with 75 before it has tested anything.
+# Qt 5.15 may register before it has connected, and never retries. A program that finds itself unregistered
+# exits with 75 before it has tested anything.
 status=75
 tries=0
 while [ "$status" = 75 ] && [ "$tries" -lt 100 ]; do

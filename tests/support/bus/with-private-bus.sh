@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# with-private-bus.sh CONFIG COMMAND...: runs COMMAND with a session bus, a home and XDG folders of its own, and removes
-# them afterwards. What the bus started ends with it.
+# with-private-bus.sh CONFIG COMMAND...: runs COMMAND with a private session bus, home and XDG folders, and
+# removes them afterwards. Programs started by the bus end with it.
 set -eu
 config=$1
 shift

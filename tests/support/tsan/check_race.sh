@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# check_race.sh reported|silent PROGRAM NAME: whether ThreadSanitizer says what it should about one of the programs in races.cpp.
+# check_race.sh reported|silent PROGRAM NAME: checks ThreadSanitizer's verdict on one of the programs in
+# races.cpp.
 report=$("$2" "$3" 2>&1)
 status=$?
 printf '%s\n' "$report"

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// Tells ThreadSanitizer what Qt's libraries, which it has not instrumented, synchronise: locks, posted
-// events, and the end of a thread. Linked before Qt into everything that a tsan build makes, so that calls
-// from our code come here first; each function passes the call on and marks the edge. Thread starts and
-// standard mutexes need no help: the sanitizer sees those itself.
+// Tells ThreadSanitizer about the synchronisation inside Qt's libraries, which are not instrumented: locks,
+// posted events, and the end of a thread. A tsan build links it before Qt everywhere, so that calls from our
+// code arrive here first; each function forwards the call and annotates the happens-before edge. Thread
+// starts and standard mutexes need no help.
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -23,11 +23,10 @@ void __tsan_release(void *address); // NOLINT(bugprone-reserved-identifier)
 
 namespace {
 
-/// A signal's receivers are unknown here, so emitting one counts for every event that is delivered
-/// afterwards.
+/// A signal's receivers are unknown here, so every emission is ordered before all events delivered later.
 char anySignal = 0;
 
-/// The definition of @p symbol that ours hides; a member function takes its object first.
+/// Qt's definition of @p symbol, hidden by ours; a member function takes its object as the first argument.
 template <typename Function>
 Function *next(const char *symbol)
 {
@@ -41,7 +40,7 @@ bool isDelivered(void **data)
     return false; // not handled: Qt goes on as usual
 }
 
-// Before any event: Qt asks this callback in every thread.
+// Called before each event, in every thread.
 const bool listens = QInternal::registerCallback(QInternal::EventNotifyCallback, isDelivered);
 
 } // namespace
@@ -147,12 +146,12 @@ void QMetaObject::activate(QObject *sender, const QMetaObject *meta, int signal,
     real(sender, meta, signal, arguments);
 }
 
-// Threads. A thread that has ended by the time it is waited for leaves no trace that the sanitizer sees.
+// Threads. The sanitizer sees no edge from a thread that has ended before wait() is called.
 
 void QThread::start(Priority priority)
 {
     static auto *const real = next<void(QThread *, Priority)>("_ZN7QThread5startENS_8PriorityE");
-    // The last of what the thread does, in that thread; who starts again connects again, harmlessly.
+    // Runs in the thread, at its end. Starting again connects once more, which is harmless.
     QObject::connect(
         this, &QThread::finished, this, [this] { __tsan_release(this); }, Qt::DirectConnection);
     real(this, priority);

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// Small programs for ThreadSanitizer, one per argument: some race, and it must say so; their correct twins
-// must pass, and they synchronise through Qt alone.
+// Small programs for ThreadSanitizer, one per argument: it must report those with a race, and pass their
+// correct twins, which synchronise through Qt alone.
 
 #include <QCoreApplication>
 #include <QMutex>
@@ -57,7 +57,7 @@ void underOne()
     });
 }
 
-/// Hands a number to a thread with an event loop, before or after it was set.
+/// Posts an increment to a thread with an event loop, after or before incrementing here.
 void post(bool writesTooLate)
 {
     for (int round = 0; round < 20; ++round) {
@@ -98,7 +98,7 @@ protected:
     void run() override { ++shared; }
 };
 
-/// Counts on after the end of a thread that counted, or beside it.
+/// Increments beside a counting thread or, if @p waits, only after its end.
 void countAfter(bool waits)
 {
     for (int round = 0; round < 20; ++round) {

@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 
-// The whole toolkit; the header of each class only includes this one.
+// The whole toolkit; each class's header includes just this one.
 
 class Q_DECL_EXPORT LLabel : public QLabel
 {
@@ -73,6 +73,6 @@ class Q_DECL_EXPORT LGuiApplicationHelper : public QObject
 public:
     static LGuiApplicationHelper *instance();
 
-    /// 1 is light.
+    /// 1 for light, 2 for dark.
     int themeType() const;
 };

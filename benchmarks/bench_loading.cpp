@@ -25,7 +25,7 @@
 namespace {
 
 const char LoadOption[] = "--load";
-/// Of a desktop where other programs' parts have loaded the platform's libraries already.
+/// Loads as on a desktop where other plugins have already loaded the platform's libraries.
 const char LoadOnDesktopOption[] = "--load-on-desktop";
 
 bool isLoadOption(const char *argument)
@@ -33,14 +33,14 @@ bool isLoadOption(const char *argument)
     return std::strcmp(argument, LoadOption) == 0 || std::strcmp(argument, LoadOnDesktopOption) == 0;
 }
 
-/// A function of its own in the program, too: benchmarks/instructions counts what it takes.
+/// Not inlined: benchmarks/instructions counts what it takes.
 [[gnu::noinline]] bool loadPlugin(QPluginLoader &loader, const QString &file)
 {
     loader.setFileName(file);
     return loader.instance() != nullptr;
 }
 
-/// How often the kernel had to bring in a page of memory, without reading it from the disk.
+/// The minor page faults so far: pages that the kernel mapped without reading the disk.
 long pageFaults()
 {
     rusage usage{};
@@ -48,8 +48,8 @@ long pageFaults()
     return usage.ru_minflt;
 }
 
-/// In a process of its own, because a library is only loaded once: loads and instantiates, and prints
-/// nanoseconds and page faults.
+/// Loads and instantiates the plugin, and prints nanoseconds and page faults. Runs in a separate process,
+/// because a library is only loaded once.
 int loadOnce(int argc, char **argv)
 {
     const QApplication application(argc, argv);
@@ -77,7 +77,7 @@ int loadOnce(int argc, char **argv)
 
 struct Loading
 {
-    qint64 nanoseconds = -1; ///< negative when it failed
+    qint64 nanoseconds = -1; ///< negative if it failed
     qint64 pageFaults = -1;
 };
 
@@ -106,8 +106,8 @@ double median(const std::vector<Loading> &loadings, qint64 Loading::*figure)
     return static_cast<double>(*middle);
 }
 
-/// Both, in a random order, in a host that has Qt Widgets running already. Reports medians: a single start
-/// can take 8 ms for reasons that are not the plugin's.
+/// Loads both plugins in random order, in a host that already runs Qt Widgets. Reports medians: a single
+/// start can take 8 ms for reasons that are not the plugin's.
 void loading(benchmark::State &state, const char *option)
 {
     std::mt19937 random(20260307);

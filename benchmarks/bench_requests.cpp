@@ -23,7 +23,7 @@
 
 namespace {
 
-/// As the understanding service sends it, some 400 bytes; the intent and its slots go into the middle.
+/// A request as the understanding service sends it, some 400 bytes, with the given intent and slots.
 QString request(const char *intentName, const char *slotArray)
 {
     return QStringLiteral(
@@ -58,7 +58,8 @@ QString invited()
     return QStringLiteral("{\"ret\":\"OK\"}");
 }
 
-/// "Join my conference" with @p count conferences to choose from. No card is built: nothing listens here.
+/// The answer to "Join my conference" with @p count conferences to choose from. No card is built: nothing
+/// listens here.
 QString manyConferences(int count)
 {
     QJsonArray list;
@@ -85,7 +86,7 @@ QString manyConferences(int count)
     return QString::fromUtf8(QJsonDocument(answer).toJson(QJsonDocument::Compact));
 }
 
-// Functions of their own in the program, too: benchmarks/instructions counts what each of them takes.
+// Not inlined: benchmarks/instructions counts what each of them takes.
 
 [[gnu::noinline]] void answerOnce(const QString &semantic)
 {
@@ -100,7 +101,7 @@ QString manyConferences(int count)
     benchmark::DoNotOptimize(document.isNull());
 }
 
-/// What this thread has used of the processor: other work of the machine does not count.
+/// CPU time of this thread: other load on the machine does not count.
 double processorMicroseconds()
 {
     timespec used{};
@@ -108,8 +109,8 @@ double processorMicroseconds()
     return static_cast<double>(used.tv_sec) * 1e6 + static_cast<double>(used.tv_nsec) / 1e3;
 }
 
-/// Both, turn about, so that what else the machine does falls on both; reports how many times the parse it
-/// takes.
+/// Alternates between both, so that other load on the machine affects both; reports the time to answer as a
+/// multiple of the parse.
 void measureRatio(benchmark::State &state, const QString &semantic, const QString &answer,
                   const QByteArray &parsed, int runs = 100)
 {
@@ -142,7 +143,7 @@ void requestAgainstItsParse(benchmark::State &state, QString (*text)())
 BENCHMARK_CAPTURE(requestAgainstItsParse, addBuddy, addBuddy)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(requestAgainstItsParse, invite, invite)->Unit(benchmark::kMillisecond);
 
-/// An answer with as many conferences as the argument says.
+/// Measures an answer with range(0) conferences.
 void answerAgainstItsParse(benchmark::State &state)
 {
     const int count = static_cast<int>(state.range(0));
@@ -189,7 +190,7 @@ void roundTripToTheApplication(benchmark::State &state)
         ability->setTimeout(timeout);
         return ability->request(QStringLiteral("Is Conference Host"), QString(), answer);
     };
-    // The first one starts it.
+    // The first request starts the application.
     if (ask() != 0) {
         state.SkipWithError("the contacts application does not answer; run this through benchmarks/run");
         return;
@@ -210,7 +211,7 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     // Writing records out is the host's cost.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    // Once in a process, by its first record: not a turn's cost.
+    // Done once per process, by the first record: not a turn's cost.
     QLoggingCategory::defaultCategory()->isDebugEnabled();
     // As in an installation; without it each request logs two misses.
     ConfigManager::instance()->fromJson(QJsonObject{

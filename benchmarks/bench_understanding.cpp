@@ -11,7 +11,7 @@ namespace {
 
 const QDateTime Now(QDate(2026, 3, 7), QTime(10, 20));
 
-/// People, times and a topic, over and over, up to @p length characters.
+/// A sentence of @p length characters: people, times and a topic, over and over.
 QString sentence(qint64 length)
 {
     const QString begin = QStringLiteral("明天下午三点和张伟、李娜开会讨论");
@@ -23,7 +23,7 @@ QString sentence(qint64 length)
     return text.left(static_cast<int>(length));
 }
 
-/// A sentence of as many characters as the argument says; above 500 it is refused unread.
+/// Reads a sentence of range(0) characters; above 500, it is refused unread.
 void sentenceOfLength(benchmark::State &state)
 {
     understanding::Dialogue dialogue;
@@ -43,7 +43,7 @@ BENCHMARK(sentenceOfLength)
     ->Arg(100000)
     ->Unit(benchmark::kMicrosecond);
 
-/// A sentence of twenty characters with as many known names as the argument says.
+/// Reads a sentence of twenty characters with range(0) known names.
 void sentenceWithKnownNames(benchmark::State &state)
 {
     QStringList names;

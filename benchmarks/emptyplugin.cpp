@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <QtPlugin>
 
-/// The least that a plugin with widgets can be: what loading costs without us.
+/// The smallest plugin with widgets: what loading costs without our code.
 class EmptyPlugin : public QObject
 {
     Q_OBJECT

@@ -13,11 +13,11 @@ import sys
 import tempfile
 from collections import defaultdict
 
-# How often a case runs, so that what only the first one pays counts for little.
+# How often a case runs, so that what only the first run pays counts for little.
 TURNS = 100
 CARDS = 4
 
-# Of every step: all calls that match one of its patterns, "caller > called".
+# For each step, all calls that match one of its patterns, "caller > called".
 SHORT_TURN_STEPS = {
     "reading the sentence's JSON": [r"(ContactService::service|parseOnce)\(.* > QJsonDocument::fromJson"],
     "its text as UTF-8, before that": [r"ContactService::service\(.* > QString::toUtf8"],
@@ -67,7 +67,7 @@ class Count:
                     name = names.setdefault(number, name)
                     caller, called = (name, None) if kind == "fn" else (caller, name)
                 elif re.match(r"[+*\-\d]", line):
-                    # What a call took stands in the line after it; any other line is the function's own.
+                    # The line after a call says what it took; any other line is the function's own.
                     cost = int(line.split()[1])
                     if called is None:
                         self.total += cost

@@ -24,8 +24,8 @@ public:
 
 } // namespace
 
-// The names that the linker gives to contactsApplicationIsRunning() and
-// KelvaneAbilityManager::createContact() when they are wrapped; see the CMake file.
+// The linker's names for contactsApplicationIsRunning() and KelvaneAbilityManager::createContact() when
+// wrapped; see CMakeLists.txt.
 extern "C" {
 
 bool __real__Z28contactsApplicationIsRunningv();

@@ -6,16 +6,16 @@
 #include <QString>
 
 /**
- * What stands around the measured code: an ability that answers at once and a process check that costs
- * nothing. The linker's --wrap puts them in the place of the real ones, which stay within reach.
+ * Stubs around the measured code: an ability that answers at once and a process check that costs nothing. The
+ * linker's --wrap substitutes them for the real ones, which stay available.
  */
 namespace Stubs {
 
-/// Requests are answered with @p answer from now on, without leaving the process.
+/// Answers requests with @p answer from now on, without leaving the process.
 void answerAtOnce(const QString &answer);
-/// Requests go to the application on the session bus from now on.
+/// Sends requests to the application on the session bus from now on.
 void askTheApplication();
-/// The process check as the plugin makes it.
+/// Runs the plugin's real process check.
 bool realProcessCheck();
 
 } // namespace Stubs

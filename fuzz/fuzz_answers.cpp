@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// The contacts application's answers, as hostile as they may be.
+// Fuzzes the reading of the contacts application's answers, however hostile.
 
 #include "answertemplates.h"
 #include "contactutils.h"
@@ -49,7 +49,7 @@ void fuzz(FuzzedDataProvider &bytes)
 
     ContactCreatedConferenceDetail created;
     require(isCode(ContactUtils::analyzeResultContext(answer, {}, true, 5, created)));
-    require(created.isSchedule == isReadable); // written exactly when there was something to read
+    require(created.isSchedule == isReadable); // set exactly if there was something to read
 
     readInvitation(answer);
 

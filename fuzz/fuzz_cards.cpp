@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// Cards made of any answer, and a user who clicks and types at random while the application answers at
-// random. Needs QT_QPA_PLATFORM=offscreen, which it sets itself.
+// Fuzzes cards made of any answer, with a user who clicks and types at random while the application answers
+// at random. Sets QT_QPA_PLATFORM=offscreen itself.
 
 #include "answertemplates.h"
 #include "conferencecardinterface.h"
@@ -69,13 +69,13 @@ QVariant record(FuzzedDataProvider &bytes, int action)
     return QVariant::fromValue(detail);
 }
 
-/// One of the visible widgets in @p card, or the card.
+/// A visible widget in @p card other than a label, or the card itself.
 QWidget *anyWidget(FuzzedDataProvider &bytes, QWidget &card)
 {
     QList<QWidget *> widgets{&card};
     const auto children = card.findChildren<QWidget *>();
     for (QWidget *child : children) {
-        // What is clicked is what reacts to it; labels pass a click on.
+        // Click what reacts to clicks; labels pass them on.
         if (child->isVisible() && qobject_cast<QLabel *>(child) == nullptr) {
             widgets.append(child);
         }
@@ -87,7 +87,7 @@ void touch(FuzzedDataProvider &bytes, QWidget &card)
 {
     static const Qt::Key keys[] = {Qt::Key_Tab,   Qt::Key_Return, Qt::Key_Space, Qt::Key_Down,
                                    Qt::Key_Right, Qt::Key_Up,     Qt::Key_5,     Qt::Key_Backspace};
-    // A button, more often than not: that is where cards change.
+    // Most clicks go to a button: that is where cards change.
     const auto buttons = card.findChildren<QAbstractButton *>();
     QWidget *widget = anyWidget(bytes, card);
     switch (bytes.ConsumeIntegralInRange(0, 6)) {
@@ -125,7 +125,7 @@ void touch(FuzzedDataProvider &bytes, QWidget &card)
     }
 }
 
-/// No label of a card takes what others wrote for markup.
+/// Requires that no label of a card takes what others wrote for markup.
 void requirePlainText(const QWidget &card)
 {
     const auto labels = card.findChildren<QLabel *>();
@@ -136,7 +136,7 @@ void requirePlainText(const QWidget &card)
 
 } // namespace
 
-// In the place of the real ones: no bus, no process table.
+// Replace the real ones: no bus, no process table.
 
 ContactAbility *KelvaneAbilityManager::createContact()
 {
@@ -158,7 +158,7 @@ void prepareToFuzz(int &argc, char **argv)
 void fuzz(FuzzedDataProvider &bytes)
 {
     const int action = bytes.ConsumeIntegralInRange<int>(Create_Success, Query_List + 1);
-    // Once in a while the record is that of another action.
+    // Once in a while, the record belongs to another action.
     const bool fits = bytes.ConsumeIntegralInRange(0, 15) != 15;
     const QVariant payload = record(bytes, fits ? action : bytes.ConsumeIntegralInRange<int>(0, Query_List));
     Reply reply;
@@ -173,7 +173,7 @@ void fuzz(FuzzedDataProvider &bytes)
     abilityAnswer = QString::fromUtf8(TemplateText(bytes).after(AnswerTemplate::Outcome));
     const QObject context;
     if (bytes.ConsumeBool()) {
-        // A host that throws the card away as soon as it answers.
+        // A host that deletes the card as soon as it answers.
         QObject::connect(static_cast<ConferenceMsgStaticWidget *>(card.data()),
                          &ConferenceMsgStaticWidget::signalSendShowMessgae, &context,
                          [&card](const Reply &) { delete card.data(); });

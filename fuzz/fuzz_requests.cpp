@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// What is said, on its way into requests: names, numbers, passcodes and times.
+// Fuzzes what is said on its way into requests: names, numbers, passcodes and times.
 
 #include "contactutils.h"
 #include "request/requesttexts.h"
@@ -23,7 +23,7 @@ constexpr const char *Slot =
     "2027-02-29|9999-12-31T23:59:59|T|2026-03-08T|T10:00:00|0000-00-00|2030-01-01T24:00:00|2030-03-10T02:30:"
     "00|'}";
 
-/// @p text as the application reads it; one text that it can read, whatever was said.
+/// @p text as the application reads it, which must succeed whatever was said.
 QJsonObject read(const QString &text)
 {
     QJsonParseError error;
@@ -32,7 +32,7 @@ QJsonObject read(const QString &text)
     return document.object();
 }
 
-/// @p received is @p text, unless that has broken surrogates, which no UTF-8 holds.
+/// Requires @p received to be @p text, unless that has broken surrogates, which UTF-8 cannot hold.
 void requireSame(const QJsonValue &received, const QString &text)
 {
     require(received.isString());
@@ -57,7 +57,7 @@ void writeTexts(FuzzedDataProvider &bytes)
             expected.append(names.last());
         }
     }
-    // Built as objects first, names that are empty stay: nobody has taken them out yet.
+    // Members that are built as objects keep an empty name; it is only dropped later.
     const int hasEmpty =
         std::any_of(names.cbegin(), names.cend(), [](const QString &name) { return name.isEmpty(); });
     require(RequestText::membersNamed(names).size() == expected.size() + (hasEmpty ? 1 : 0));
@@ -70,7 +70,7 @@ void writeTexts(FuzzedDataProvider &bytes)
     require(ContactUtils::vectorToString(names).count(QChar(u'、')) >= names.size() - 1);
 }
 
-/// As large as a number in JSON may be without being rounded.
+/// Within the range of numbers that JSON holds without rounding.
 qint64 anyMsecs(FuzzedDataProvider &bytes)
 {
     constexpr qint64 largest = 1LL << 53;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// The understanding service's answers.
+// Fuzzes the reading of the understanding service's answers.
 
 #include "contactutils.h"
 #include "semantic/semanticparser.h"
@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Whether whoever asks for memory and can do without gets some.
+/// Whether allocations with std::nothrow succeed.
 bool hasMemory = true;
 
 constexpr const char *Command =
@@ -31,7 +31,7 @@ void readIntents(const QString &text)
     SemanticParser other;
     require(other.parseSemanticDocument(QJsonDocument::fromJson(text.toUtf8())) == isRead);
     require(other.semantic().intents.size() == parser.semantic().intents.size());
-    // Those before a broken one are whole, too.
+    // Intents before a broken one must be complete, too.
     for (const CloudIntent &intent : parser.semantic().intents) {
         for (const CloudSlot &slot : intent.slotList) {
             require(slot.map.value(QStringLiteral("name")).type() == QVariant::String);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// Conversations put together from pieces of sentences and from any characters.
+// Fuzzes conversations put together from pieces of sentences and arbitrary characters.
 
 #include "fuzzsupport.h"
 
@@ -34,7 +34,7 @@ QString sentence(FuzzedDataProvider &bytes)
     return bytes.ConsumeIntegralInRange(0, 31) == 31 ? result.repeated(40) : result;
 }
 
-/// One object: either an intent to carry out, or something to say.
+/// Requires one object: either an intent to carry out, or something to say.
 void requireSemantic(const QString &json)
 {
     QJsonParseError error;

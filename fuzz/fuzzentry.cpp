@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// What the fuzzer calls, the same for every harness.
+// The fuzzer's entry points, the same for every harness.
 
 #include "fuzzsupport.h"
 

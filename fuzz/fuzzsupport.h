@@ -21,8 +21,8 @@ QString anyText(FuzzedDataProvider &bytes, Words words);
 
 /// Called once, before any input.
 void prepareToFuzz(int &argc, char **argv);
-/// Called for each input. Returns with everything as it was.
+/// Called for each input. Must leave no state behind.
 void fuzz(FuzzedDataProvider &bytes);
 
-/// Ends the run as a finding when @p holds is false.
+/// Ends the run as a finding if @p holds is false.
 void require(bool holds);

@@ -14,7 +14,7 @@ constexpr int VeryRareFault = 250;
 constexpr int MostElements = 5;
 constexpr int Deepest = 40;
 
-/// Texts that are trouble anywhere.
+/// Texts that cause trouble anywhere.
 const Words Oddities = {
     "",        "0",           "2",           "-1",         "\\ud800",
     "\\u0000", "\\u202e周会", "<b>周会</b>", "2147483648", "{\\\"suggestDatetime\\\":\\\"2026-03-08\\\"}"};
@@ -32,7 +32,7 @@ QByteArray TemplateText::after(const char *text)
     const QByteArray json = QByteArray(text).replace('\'', '"');
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
-    require(error.error == QJsonParseError::NoError); // a template with a slip in it would test nothing
+    require(error.error == QJsonParseError::NoError); // a broken template would test nothing
     QByteArray result = object(document.object(), 0);
     if (oneIn(RareFault)) {
         result.truncate(m_bytes.ConsumeIntegralInRange(0, result.size()));
@@ -88,7 +88,7 @@ QByteArray TemplateText::object(const QJsonObject &object, int depth)
 QByteArray TemplateText::array(const QJsonArray &array, int depth)
 {
     QByteArray result;
-    // One element when the bytes are used up, and it is the usual case.
+    // One element, the usual case, once the bytes are used up.
     const int count = (m_bytes.ConsumeIntegralInRange(0, MostElements) + 1) % (MostElements + 1);
     for (int element = 0; element < count; ++element) {
         result += (element == 0 ? "" : ",") + written(array.first(), depth + 1);
@@ -107,7 +107,7 @@ QByteArray TemplateText::otherValue(int depth)
         return number();
     case 3:
         return QByteArray("\"") + pick(m_bytes, Oddities) + "\"";
-    case 4: // quotes and broken UTF-8 included
+    case 4: // includes quotes and broken UTF-8
         return "\"" + QByteArray::fromStdString(m_bytes.ConsumeRandomLengthString(32)) + "\"";
     case 5:
         return "{}";

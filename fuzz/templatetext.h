@@ -10,20 +10,19 @@
 #include <QJsonValue>
 
 /**
- * Writes JSON after a template, with a few faults in it. Qt's parser is not instrumented, and keys that are
- * drawn at random hardly ever meet in the right places; a text that starts as a real record gets to the code
- * behind them.
+ * Writes JSON from a template, with a few faults in it. Qt's parser is not instrumented, and random keys
+ * hardly ever end up in the right places; a text that starts as a real record reaches the code behind them.
  *
- * An array of a template holds one element, which is written any number of times, differently each time. A
- * text "a|b|c" stands for one of these. With no bytes left the text is the template itself, first choices
- * taken.
+ * An array in a template holds one element, which is written up to five times, differently each time. A text
+ * "a|b|c" stands for one of the three. With no bytes left, the result is the template itself with the first
+ * choices taken.
  */
 class TemplateText
 {
 public:
     explicit TemplateText(FuzzedDataProvider &bytes) : m_bytes(bytes) {}
 
-    /// @p text is the template, with ' for ".
+    /// Writes JSON from the template @p text, which has ' for ".
     QByteArray after(const char *text);
 
 private:

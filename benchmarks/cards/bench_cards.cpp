@@ -87,7 +87,7 @@ Card candidates(const ContactInviteMemberDetail &detail)
     return card;
 }
 
-/// Of this thread, so that whatever else the machine does is not counted.
+/// CPU time of this thread, so that other load on the machine does not count.
 qint64 cpuNanoseconds()
 {
     timespec now{};
@@ -101,7 +101,7 @@ void paint(QWidget &widget, QImage &image)
     widget.render(&image);
 }
 
-// Functions of their own in the program, too: benchmarks/instructions counts what each of them takes.
+// Not inlined: benchmarks/instructions counts what each of them takes.
 
 [[gnu::noinline]] Card paintedCard(const std::function<Card()> &build, QImage &image)
 {
@@ -117,7 +117,7 @@ void paint(QWidget &widget, QImage &image)
     return widget;
 }
 
-/// Nanoseconds until @p painted has returned what it painted; the end of that does not count.
+/// Nanoseconds until @p painted has returned what it painted; destroying that does not count.
 template <typename Painted>
 qint64 untilPainted(const Painted &painted)
 {
@@ -126,12 +126,12 @@ qint64 untilPainted(const Painted &painted)
     const auto widget = painted(image);
     const qint64 elapsed = cpuNanoseconds() - start;
     benchmark::DoNotOptimize(image.bits());
-    // As in a host, where the event loop has its turn before a card is deleted.
+    // As in a host, where the event loop runs before a card is deleted.
     QCoreApplication::sendPostedEvents();
     return elapsed;
 }
 
-/// The card and, in turn with it, the same from Qt's own widgets; the time is the card's.
+/// Alternates between the card and the same from Qt's own widgets; the reported time is the card's.
 void againstPlainWidgets(benchmark::State &state, const std::function<Card()> &build)
 {
     const auto read = [&build] {
@@ -148,7 +148,7 @@ void againstPlainWidgets(benchmark::State &state, const std::function<Card()> &b
     bool cardFirst = true;
     for ([[maybe_unused]] auto iteration : state) {
         const qint64 before = cardTotal;
-        // In turns also within a pair: whoever is second finds the caches warm.
+        // Alternate within a pair, too: the second finds the caches warm.
         if (cardFirst) {
             timeCard();
         }

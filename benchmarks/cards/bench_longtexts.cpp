@@ -19,7 +19,7 @@ namespace {
 constexpr int Attempts = 3;
 constexpr double MillisecondsPerSecond = 1e3;
 
-/// The best of several attempts, in milliseconds: what disturbs one of them makes it longer.
+/// The best of several attempts, in milliseconds: disturbances only make them longer.
 double bestOf(benchmark::State &state, const std::function<double()> &attempt)
 {
     double best = std::numeric_limits<double>::infinity();
@@ -31,7 +31,7 @@ double bestOf(benchmark::State &state, const std::function<double()> &attempt)
     return best;
 }
 
-/// A card with a text of as many characters as the argument says.
+/// Builds a card with a text of range(0) characters.
 void longText(benchmark::State &state, CardCosts::BuildWithText build)
 {
     const QString text = CardCosts::textOfLength(int(state.range(0)));
@@ -47,7 +47,7 @@ double candidates(int count)
         [&](ConferenceMsgStaticWidget &card) { card.inviteMultiplePerson(detail); });
 }
 
-/// A picker of 20,000 people against one of 1,000; what grows with the square would take 400 times as long.
+/// A picker of 20,000 people against one of 1,000; quadratic growth would take 400 times as long.
 void twentyTimesThePeople(benchmark::State &state)
 {
     constexpr int few = 1000;

@@ -20,7 +20,7 @@
 
 namespace {
 
-/// What a row stands on.
+/// The rounded background of a row or a card.
 class RoundedGround : public QWidget
 {
 public:

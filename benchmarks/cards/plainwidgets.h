@@ -18,9 +18,9 @@ class QWidget;
 QT_END_NAMESPACE
 
 /**
- * A card as somebody would put it together from Qt's own widgets: the same number of the same kinds, with the
- * same texts, fonts, colours, layouts and rounded grounds, and nothing of ours. Read from a card once, and
- * built as often as wanted.
+ * A card as one would build it from Qt's own widgets: the same number of the same kinds, with the same texts,
+ * fonts, colours, layouts and rounded backgrounds, and nothing of ours. Read from a card once, built any
+ * number of times.
  */
 class PlainWidgets
 {
@@ -31,7 +31,7 @@ public:
 
     std::unique_ptr<QWidget> build() const;
 
-    /// How many widgets it is made of.
+    /// The number of widgets in it.
     int count() const;
 
 private:
@@ -57,7 +57,7 @@ private:
     int m_stretch = 0;
     int m_space = 0;
 
-    // Of what has a layout.
+    // Only for kinds that have a layout.
     bool m_isVertical = false;
     bool m_hasLayout = false;
     QMargins m_margins;

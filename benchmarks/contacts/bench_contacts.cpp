@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Makes each book once: the library calls a benchmark several times to find out how often to repeat it.
+/// Makes each book once: Google Benchmark calls a benchmark several times to find out how often to repeat it.
 /// Lives in main(), since a database in static storage would outlive the statics of QtSql and crash at exit.
 class Library
 {
@@ -38,7 +38,7 @@ private:
 };
 Library *Library::current = nullptr;
 
-/// One day's search among as many conferences as the argument says.
+/// Searches one day among range(0) conferences.
 void searchDay(benchmark::State &state)
 {
     FullBook &full = Library::book(state.range(0), 0);
@@ -53,7 +53,7 @@ void searchDay(benchmark::State &state)
 }
 BENCHMARK(searchDay)->RangeMultiplier(10)->Range(1000, 1000000)->Unit(benchmark::kMicrosecond);
 
-/// Finding whom a spoken name means, among as many contacts as the argument says.
+/// Finds whom a spoken name means among range(0) contacts.
 void spokenName(benchmark::State &state)
 {
     FullBook &full = Library::book(0, state.range(0));
@@ -68,7 +68,7 @@ void spokenName(benchmark::State &state)
 }
 BENCHMARK(spokenName)->RangeMultiplier(10)->Range(1000, 1000000)->Unit(benchmark::kMicrosecond);
 
-/// An action that writes, to the point where it is on disk.
+/// Measures a write, up to the point where it is on disk.
 void createScheduled(benchmark::State &state)
 {
     FullBook &full = Library::book(1000, 0);

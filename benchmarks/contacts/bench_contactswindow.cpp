@@ -23,7 +23,7 @@ namespace {
 constexpr int LongestWaitMsecs = 10000;
 constexpr int Writes = 15;
 
-/// Of this thread, so that whatever else the machine does is not counted.
+/// CPU time of this thread, so that other load on the machine does not count.
 double threadMsecs()
 {
     timespec time{};
@@ -37,7 +37,7 @@ double median(std::vector<double> values)
     return values.at(values.size() / 2);
 }
 
-/// Lets the window follow a change and paint itself; false when it does not.
+/// Lets the window follow a change and paint itself; false if no change arrived in time.
 bool follow(ContactsBook &book, ContactsWindow &window)
 {
     bool isTold = false;
@@ -52,9 +52,8 @@ bool follow(ContactsBook &book, ContactsWindow &window)
     return isTold;
 }
 
-/// Scheduling a conference while the window is open over as many conferences and contacts as the first
-/// argument says, on the page that the second one names: what passes before the answer, and what the window
-/// does after it.
+/// Schedules a conference while the window is open with range(0) conferences and as many contacts, on page
+/// range(1). Reports the time before the answer, and what the window takes after it.
 void writeWithTheWindowOpen(benchmark::State &state)
 {
     FullBook full(state.range(0), state.range(0));
@@ -87,7 +86,7 @@ BENCHMARK(writeWithTheWindowOpen)
     ->Iterations(Writes)
     ->Unit(benchmark::kMillisecond);
 
-/// Until the window is there, over as many conferences and contacts as the argument says.
+/// Opens the window with range(0) conferences and as many contacts.
 void openTheWindow(benchmark::State &state)
 {
     FullBook full(state.range(0), state.range(0));

@@ -10,8 +10,8 @@
 #include <QDateTime>
 #include <QTemporaryDir>
 
-/// A database with as many conferences and contacts as wanted: ten conferences a day of the user's own as far
-/// as they reach, the same tomorrow whatever the count.
+/// A database with any number of conferences and contacts. The user has ten conferences a day from tomorrow
+/// on, so that tomorrow is the same whatever the count.
 class FullBook
 {
 public:
@@ -33,7 +33,7 @@ public:
     }
 
     static QString user() { return QStringLiteral("u100001"); }
-    /// One of the contacts that were added, counted from 1.
+    /// The name of an added contact, counted from 1.
     static QString contactName(qint64 number) { return QStringLiteral("person %1").arg(number); }
 
     static QString tomorrow()
@@ -42,7 +42,7 @@ public:
         return QStringLiteral("{\"startTime\":%1,\"endTime\":%2}").arg(midnight).arg(midnight + DayMsecs);
     }
 
-    /// Schedules a conference where no other one is; false when it was refused.
+    /// Schedules a conference at a free time; false if it was refused.
     bool schedule()
     {
         m_lastStart += HourMsecs;
@@ -53,7 +53,7 @@ public:
     }
 
 private:
-    /// Ten a day from tomorrow on, each with two people.
+    /// Adds ten a day from tomorrow on, each with two people.
     void addConferences(qint64 count)
     {
         const qint64 first = QDateTime(QDate(2026, 3, 8), QTime(8, 0)).toMSecsSinceEpoch();
@@ -74,7 +74,7 @@ private:
             .run();
     }
 
-    /// Beside those of the sample.
+    /// Adds contacts to those of the sample.
     void addContacts(qint64 count)
     {
         Statement(book.database().handle(),

@@ -24,7 +24,7 @@ const char EmptyWindowOption[] = "--empty-window";
 constexpr int Starts = 21;
 constexpr int LongestStartMsecs = 30000;
 
-/// What every Qt program with a window of this size pays.
+/// The floor: what every Qt program with a window of this size pays.
 int showEmptyWindow(int argc, char **argv)
 {
     const QApplication application(argc, argv);
@@ -35,7 +35,7 @@ int showEmptyWindow(int argc, char **argv)
     return QApplication::exec();
 }
 
-/// An X server without a screen to look at; ends with this object.
+/// A headless X server that ends with this object.
 class Server
 {
 public:
@@ -71,7 +71,7 @@ qint64 now()
     return time.tv_sec * 1000000000LL + time.tv_nsec;
 }
 
-/// Nanoseconds from the start of @p program to its first frame; negative when there was none.
+/// Nanoseconds from the start of @p program to its first frame; negative if there was none.
 qint64 measure(const QString &display, const QString &folder, const QString &program,
                const QStringList &arguments)
 {
@@ -100,7 +100,7 @@ double medianMsecs(std::vector<qint64> values)
     return static_cast<double>(*middle) / 1e6;
 }
 
-/// Medians, the host and an empty window turn about.
+/// Alternates between the host and an empty window, and reports medians.
 void fromExecToTheFirstFrame(benchmark::State &state)
 {
     const Server server;

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// Preloaded into a program with a window: says on standard output when the first frame has been sent, in
-// nanoseconds of the monotonic clock, and ends the process.
+// Preloaded into a program with a window: prints when the first frame was sent, in nanoseconds of the
+// monotonic clock, and ends the process.
 
 #include <QCoreApplication>
 #include <QEvent>

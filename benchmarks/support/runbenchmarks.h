@@ -5,8 +5,8 @@
 
 #include <benchmark/benchmark.h>
 
-/// What main() does when there is an application object: runs what the command line asks for, and returns the
-/// program's exit status.
+/// Runs the benchmarks that the command line asks for, and returns the program's exit status. Call from
+/// main() when the application object exists.
 inline int runBenchmarks(int argc, char **argv)
 {
     benchmark::Initialize(&argc, argv);

@@ -13,10 +13,10 @@ namespace understanding {
 
 /// One conversation: turns typed sentences into semantic JSON and keeps at most one open question.
 ///
-/// A sentence that lacks something (the number of the conference to join, whom to invite) is answered with a
-/// question, and the next sentence may answer it. A new command, "算了" and the third useless answer close
-/// the question. Nothing is ever logged: a sentence may be a password. Use understand() for sentences that
-/// stand alone. Reentrant; one object belongs to one thread and one conversation.
+/// If a sentence lacks something (the number of the conference to join, whom to invite), the reply asks for
+/// it, and the next sentence may answer. A new command, "算了" or the third useless answer closes the
+/// question. Never logs: a sentence may be a password. Use understand() for standalone sentences. Reentrant;
+/// use one object per conversation, from one thread.
 class Dialogue final
 {
 public:
@@ -24,24 +24,24 @@ public:
     ~Dialogue();
     Q_DISABLE_COPY(Dialogue)
 
-    /// The names that are known, in any order. They are recognised as wholes, whatever words they contain.
+    /// Sets the known names, in any order. Each is recognised as a whole, whatever words it contains.
     void setContactNames(const QStringList &names);
 
-    /// The semantic JSON for @p sentence, with times resolved against @p now (local time).
-    /// Always one JSON object; "shouldEndSession" is false where it only asks or says something ("answer",
-    /// "voice_answer") and true where it holds one intent to carry out.
+    /// Returns the semantic JSON for @p sentence, with times resolved against @p now (local time). Always one
+    /// JSON object; "shouldEndSession" is true if it holds one intent to carry out, false if it only asks or
+    /// says something ("answer", "voice_answer").
     QString turn(const QString &sentence, const QDateTime &now);
 
-    /// Tells what the plugin answered to the last turn. The code that asks for a password (-16014) opens the
-    /// question for it, @p displayText being what the user saw; every other code is of no interest here.
+    /// Takes the plugin's answer to the last turn. The code that asks for a password (-16014) opens the
+    /// question for it if the last command was to join a conference; anything else resets the count of these
+    /// questions. @p displayText is what the user saw.
     void noteReply(int code, const QString &displayText);
 
-    /// True while the open question is the one for a password: what is typed next belongs neither into a
-    /// history nor into a log.
+    /// True while the open question asks for a password: keep the next sentence out of histories and logs.
     bool nextIsSecret() const;
 
-    /// @p sentence as it may be shown and kept: a password in it, said as such or as the answer to the open
-    /// question for one, is replaced by bullets. Ask before turn(), which may close that question.
+    /// Returns @p sentence as it may be shown and kept, with bullets for a password that is said as such or
+    /// answers the open question for one. Call before turn(), which may close that question.
     QString masked(const QString &sentence) const;
 
 private:

@@ -9,7 +9,7 @@
 
 namespace understanding {
 
-/// The semantic JSON for one sentence that stands alone, with times resolved against @p now (local time) and
+/// Returns the semantic JSON for one standalone sentence, with times resolved against @p now (local time) and
 /// @p contactNames recognised as wholes. Always one JSON object on one line. Thread-safe.
 QString understand(const QString &sentence, const QDateTime &now, const QStringList &contactNames = {});
 

@@ -29,7 +29,7 @@ bool isSmallTalkParticle(const Sentence &sentence, const Token &token)
                        [](QChar character) { return particles.contains(character); });
 }
 
-/// True when the sentence holds nothing but what @p answers accepts and words around it.
+/// True if the sentence holds nothing but what @p answers accepts and words around it.
 template <typename Answers>
 bool holdsOnly(const Reading &reading, Answers answers)
 {
@@ -88,7 +88,7 @@ bool takePassword(const Reading &reading, Outcome &outcome)
     return true;
 }
 
-/// The names of an answer, when it consists of names.
+/// The names of an answer that consists of names, otherwise none.
 std::vector<FoundName> answeredNames(const Reading &reading)
 {
     const Sentence &sentence = reading.sentence();
@@ -129,15 +129,14 @@ bool takeNames(const Reading &reading, Outcome &outcome)
     return !names.empty();
 }
 
-/// What may be kept of a time that could not be resolved: its day when the hour was wrong, its hour when the
-/// day was.
+/// What to keep of a time that could not be resolved: its day if the hour was wrong, its hour if the day was.
 TimeExpression usableRest(const QString &question, const TimeExpression &before)
 {
     TimeExpression rest;
     if (question == QLatin1String("either-or") || question == QLatin1String("recurring")) {
         return before;
     }
-    if (question == QLatin1String("other-zone")) { // its hour is another one here
+    if (question == QLatin1String("other-zone")) { // its hour differs here
         rest = before;
         rest.part = -1;
         rest.hasClock = false;
@@ -188,14 +187,14 @@ bool beginsWithGiveUp(const Reading &reading)
     return givesUp;
 }
 
-/// Names beside the time that was asked for: added, or in place of those before (改成跟老顾). False where
-/// they have no place.
+/// Takes names given with the time that was asked for: adds them, or replaces earlier ones (改成跟老顾).
+/// Returns false if they do not fit.
 static bool takeFurtherNames(const Reading &reading, Outcome &outcome)
 {
     if (reading.names().empty()) {
         return true;
     }
-    // 明天三点和李娜开会 is a command of its own.
+    // 明天三点和李娜开会 is a new command.
     const bool full = reading.has(WordClass::Conference) && !reading.openVerb().isEmpty();
     if (outcome.intent != QLatin1String(CreateConference) || reading.hasDoubtfulName() || full) {
         return false;
@@ -218,7 +217,7 @@ static bool takeFurtherNames(const Reading &reading, Outcome &outcome)
     return true;
 }
 
-/// 现在 is no moment of the clock, but it answers when.
+/// True for 现在, which is no clock time but answers "when?".
 static bool isNow(const Reading &reading)
 {
     static const QStringList nows = {QStringLiteral("现在"),  QStringLiteral("马上"), QStringLiteral("立刻"),

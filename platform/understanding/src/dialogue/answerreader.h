@@ -16,10 +16,10 @@ bool isGiveUp(const Reading &reading);
 /// True for a sentence whose first clause ends a question: 算了，我再问问.
 bool beginsWithGiveUp(const Reading &reading);
 
-/// Takes @p reading as the answer to @p question (a row of answers.tsv) and adds the slot to @p outcome. Only
-/// a sentence that holds nothing but an answer is one: chit-chat never fills a slot. @p timeBefore is what
-/// was said of the time so far. Returns false when nothing was answered; a new problem with the answer is set
-/// as the outcome's answer.
+/// Takes @p reading as the answer to @p question (a row of answers.tsv) and adds the slot to @p outcome.
+/// Accepts only a sentence that holds nothing but an answer, so that chit-chat never fills a slot. The time
+/// said so far is @p timeBefore. Returns false if nothing was answered; sets a new problem with the answer as
+/// the outcome's answer.
 bool takeAnswer(const QString &question, const Reading &reading, const QDateTime &now,
                 const TimeExpression &timeBefore, Outcome &outcome);
 

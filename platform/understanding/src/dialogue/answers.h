@@ -7,11 +7,11 @@
 
 namespace understanding {
 
-/// How often the same question is put.
+/// How often a question is put before it is closed.
 constexpr int MostTries = 3;
 
-/// The text of the row @p name of answers.tsv, for the @p tryNumber-th time (from 1); each try is clearer
-/// than the last.
+/// The text of the row @p name of answers.tsv for try @p tryNumber, counted from 1; each try is clearer than
+/// the last.
 QString answerText(const QString &name, int tryNumber = 1);
 
 } // namespace understanding

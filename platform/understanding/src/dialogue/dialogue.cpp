@@ -18,12 +18,12 @@ constexpr int PasswordNeeded = -16014;
 const QLatin1String PasswordQuestion("which-password");
 const QLatin1String TooManyPasswords("passwords-tried");
 
-/// The one question that is open: what it is for and what was asked.
+/// The open question: what it is for and what was asked.
 struct OpenQuestion
 {
     Outcome outcome; ///< the intent with the slots said so far; its answer is the question
     TimeExpression time;
-    int tries = 0; ///< 0: nothing is asked
+    int tries = 0; ///< 0: no question is open
 
     bool isOpen() const { return tries > 0; }
 };
@@ -105,7 +105,7 @@ QString Dialogue::Private::reply(const Outcome &outcome, const TimeExpression &t
     return answerJson(answerText(outcome.answer));
 }
 
-/// A full command, or one that is incomplete but for something else.
+/// True for a full command, or an incomplete one for another intent.
 bool Dialogue::Private::startsSomethingNew(const Outcome &fresh) const
 {
     if (fresh.intent.isEmpty()) {
@@ -154,7 +154,7 @@ QString Dialogue::Private::answerQuestion(const Reading &reading, const Outcome 
         }
         return asked == TooManyPasswords ? close("passwords-tried") : askAgain();
     }
-    if (!answered.answer.isEmpty()) { // the time is still not one
+    if (!answered.answer.isEmpty()) { // still not a usable time
         question.outcome.answer = answered.answer;
         return askAgain();
     }
@@ -168,7 +168,7 @@ void Dialogue::Private::askForPassword()
     passwordRounds = number.normValue == passwordFor ? passwordRounds + 1 : 1;
     passwordFor = number.normValue;
     Outcome outcome;
-    // A password for "my" conference can only be carried with its number, which is asked for next.
+    // A password for "my" conference can only be sent with its number, which is asked for next.
     outcome.intent = QLatin1String(EnterConferenceById);
     if (!number.isEmpty()) {
         outcome.addSlot(IdSlot, number.value, number.normValue);
@@ -176,7 +176,7 @@ void Dialogue::Private::askForPassword()
     outcome.answer = passwordRounds > MostTries ? TooManyPasswords : PasswordQuestion;
     question = OpenQuestion();
     question.outcome = outcome;
-    question.tries = 1; // the plugin has put it
+    question.tries = 1; // the plugin has asked it already
 }
 
 Dialogue::Dialogue(QStringList contactNames) : m_d(std::make_unique<Private>(contactNames)) {}

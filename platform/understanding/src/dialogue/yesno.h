@@ -10,7 +10,7 @@ namespace understanding {
 /// The answer to a question like "要现在发起会议吗？".
 enum class YesNo { Yes, No, Unclear };
 
-/// Takes the whole of @p sentence as an answer; anything beside a plain yes or no is unclear.
+/// Takes the whole of @p sentence as an answer; anything but a plain yes or no is unclear.
 YesNo readYesNo(const Sentence &sentence);
 
 } // namespace understanding

@@ -12,12 +12,12 @@ namespace understanding {
 /// What a row of gate.tsv says about an intent.
 struct AllowedWords
 {
-    WordClasses anchors; ///< make a clause the order's
+    WordClasses anchors; ///< make a clause part of the order
     WordClasses beside;  ///< may stand beside them
     QString light;       ///< characters that change nothing
 };
 
-/// The row of @p intent; empty for one that has none.
+/// The row for @p intent, empty if there is none.
 AllowedWords allowedWordsFor(const QString &intent);
 
 } // namespace understanding

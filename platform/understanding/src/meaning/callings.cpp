@@ -22,7 +22,7 @@ bool isSpeaker(const Reading &reading, const Token &token)
             startsAt(text, token.position, QStringLiteral("本人")));
 }
 
-/// 兄弟, 那谁: somebody, but nobody can tell who.
+/// 兄弟, 那谁: somebody, but unclear who.
 bool standsForName(const Reading &reading, const Token &token)
 {
     static const QString vague = QStringLiteral("那某谁");
@@ -80,7 +80,7 @@ bool isCalledNumber(const Reading &reading, std::size_t at)
            tokens[at].length >= ShortestAccount && !isOfConference(reading, at);
 }
 
-/// Whom the token at @p at pulls in: the last of 我的同事.
+/// The last token of whom the one at @p at pulls in, 同事 in 拉我的同事; null for none.
 const Token *pulledBy(const Reading &reading, std::size_t at)
 {
     const Tokens &tokens = reading.tokens();

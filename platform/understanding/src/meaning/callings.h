@@ -5,7 +5,7 @@
 
 #include "meaning/reading.h"
 
-// Whom a sentence calls without a name: what tells an order about somebody else from one about the speaker.
+// Finds whom a sentence calls without a name, and tells orders about others from orders about the speaker.
 
 namespace understanding {
 
@@ -13,9 +13,9 @@ namespace understanding {
 bool callsByAddressOnly(const Reading &reading);
 /// 和200002开会, 把200002拉进会议: accounts are numbers, too.
 bool callsNumber(const Reading &reading);
-/// 把200002拉进会议, 拉他进会议200002: somebody else is to come in.
+/// 把200002拉进会议, 拉他进会议200002: pulls in somebody else.
 bool pullsOther(const Reading &reading);
-/// 把我拉到会议200002: the speaker is.
+/// 把我拉到会议200002: pulls in the speaker.
 bool pullsSpeaker(const Reading &reading);
 
 } // namespace understanding

@@ -21,7 +21,7 @@ public:
     /// 她还没进会, behind the order that calls her.
     bool tellsWhyCalled() const;
     bool isRequested() const;
-    /// Not only proposed, as 咱们开个会？ is.
+    /// True for a request, but not for a mere proposal like 咱们开个会？.
     bool isPolitelyRequested() const;
     bool callsSomebody() const;
     bool isSupposed() const;
@@ -35,7 +35,7 @@ public:
     bool isTold() const;
     /// 领导要求明天开会: told or wished, whatever follows.
     bool isOnlyReported() const;
-    /// 他们终于开完了
+    /// 他们终于开完了: reports what others have done.
     bool isReport() const;
     /// tmr下午三点: a time beside something strange.
     bool isTimeCutOff() const;
@@ -43,7 +43,7 @@ public:
     bool isAddressing() const;
     /// 会议号你记一下，123456: the number is only told.
     bool tellsNumber() const;
-    /// 不带小王: somebody is named who is not to come.
+    /// 不带小王: somebody is told to stay away.
     bool excludesSomebody() const;
 
     bool isRefused() const;
@@ -56,7 +56,7 @@ private:
     bool any(Holds holds) const;
     bool has(WordClasses classes) const;
     QString textOf(const Token &token) const;
-    /// 不, 别 ... before what would be done, wherever between; 密码不用 negates nothing.
+    /// 不, 别 ... anywhere before what would be done; 密码不用 negates nothing.
     bool isNegated() const;
     /// 王磊离开会议了, 他结束了会议, 谁邀请了张三: somebody else stands before the verb, called by no word.
     bool isSomebodyElses() const;
@@ -65,19 +65,19 @@ private:
     bool isUncalled(const Token &name) const;
     /// 老板, 同事: a person without a name.
     bool isSomebody(const Token &token) const;
-    /// 昨天和张三开会: nobody opens a conference of a day that is past.
+    /// 昨天和张三开会: nobody opens a conference on a past day.
     bool isPast() const;
     /// 昨天 in 加昨天认识的张伟为好友: the past day only tells who or what is meant.
     bool isModifying(std::size_t pastDay) const;
-    /// 我下午三点有个会: there is one, nobody wants a new one.
+    /// 我下午三点有个会: there is one already; no new one is wanted.
     bool isStatement() const;
     /// 会议号是123456, without a word that joins.
     bool isOnlyNumber() const;
-    /// 开会要带什么 asks about something else than which conferences there are.
+    /// 开会要带什么 asks about something other than which conferences there are.
     bool isOtherQuestion() const;
-    /// 会议有多少人, 明天的会重要吗: it is known which conference, something else is asked.
+    /// 会议有多少人, 明天的会重要吗: asks something about a known conference.
     bool asksAboutConference() const;
-    /// 320号上午九点: a conference is joined now, so the number may be a date.
+    /// 320号上午九点: conferences are joined now, so the number may be a date.
     bool isAtOtherTime() const;
     /// 帮我订个会议室: a room is no conference.
     bool isAboutRoom() const;
@@ -85,7 +85,7 @@ private:
     bool isQuestion() const;
     /// 腾出手来帮我...: what leads up to the request does not matter.
     bool isPreamble(std::size_t at) const;
-    /// 下 in 明天下三点, 午 in 开午会: what is left of a time that was not read whole.
+    /// 下 in 明天下三点, 午 in 开午会: the rest of a time that was only partly read.
     bool isPieceOfTime(std::size_t at) const;
     bool isExplained(std::size_t at) const;
     /// 需求 in 开个需求会, 张总的 in 加入张总的会议, 需求 in 对一下需求: what kind of conference it is.

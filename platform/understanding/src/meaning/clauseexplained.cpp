@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-// What of a clause is understood: the part of Clause that looks at single words.
+// The part of Clause that decides which single words are understood.
 
 namespace understanding {
 
@@ -101,7 +101,7 @@ bool Clause::isExplained(std::size_t at) const
                (m_intent == QLatin1String(AddBuddy) && !m_reading.account().isEmpty());
     case Token::Kind::Number: // a date or an hour that was cut
         return m_intent != QLatin1String(CreateConference) || token.inName || isDescription(at);
-    case Token::Kind::Duration: // how long a new one takes, or how long one took
+    case Token::Kind::Duration: // how long a new conference takes
         return m_intent == QLatin1String(CreateConference) ||
                (m_isQuery && m_reading.has(WordClass::Question) &&
                 textOf(token) == QStringLiteral("一天")); // 今天一天有几个会

@@ -9,8 +9,7 @@
 
 #include <algorithm>
 
-// Whether a clause asks for something else or tells what is over: the questions and reports among what Clause
-// knows.
+// The part of Clause that recognises questions about something else and reports of what is over.
 
 namespace understanding {
 

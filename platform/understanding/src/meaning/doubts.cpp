@@ -44,7 +44,7 @@ bool asksHowMany(const Reading &reading)
     });
 }
 
-/// 开个会，请媳妇参加: somebody is to come who was not found.
+/// 开个会，请媳妇参加: somebody is called who was not found.
 bool callsStranger(const Reading &reading)
 {
     const Tokens &tokens = reading.tokens();
@@ -59,7 +59,7 @@ bool callsStranger(const Reading &reading)
     return false;
 }
 
-/// 宋阳那边三点方便，帮我约个会 and 约个蔡小明的会: somebody is spoken of who was not found.
+/// 宋阳那边三点方便，帮我约个会 and 约个蔡小明的会: somebody is mentioned who was not found.
 bool mentionsStranger(const Reading &reading)
 {
     constexpr int shortest = 2;
@@ -285,7 +285,7 @@ bool asksAbility(const Reading &reading)
            reading.timeSaid().isEmpty() && !text.contains(QChar(u'帮')) && !text.contains(QChar(u'给'));
 }
 
-/// 下次开会记得叫我, 有空一起开会啊, 我先开会, 会议三点到五点: sets no time, or gives no order.
+/// 下次开会记得叫我, 有空一起开会啊, 你能开会吗, 我先开会, 会议三点到五点: sets no time, or gives no order.
 bool onlySpeaksOf(const Reading &reading)
 {
     const QString &text = reading.sentence().text();
@@ -303,7 +303,7 @@ bool onlySpeaksOf(const Reading &reading)
            text.contains(QStringLiteral("会别")) || text.startsWith(QStringLiteral("我先"));
 }
 
-/// 帮我把会议室退了: a room is given back.
+/// 帮我把会议室退了: gives a room back.
 bool returnsRoom(const Reading &reading)
 {
     return reading.sentence().text().contains(QStringLiteral("会议室退"));

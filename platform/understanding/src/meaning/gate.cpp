@@ -11,8 +11,8 @@
 
 namespace understanding {
 
-/// Whether something is to end, too; 半小时结束 only says how long it takes. In 四点结束 the hour is no
-/// start, so that is asked about.
+/// True if something is also to end. 半小时结束 only says how long it takes; in 四点结束 the hour is no
+/// start, so the gate asks.
 static bool alsoEnds(const Reading &reading)
 {
     const Tokens &tokens = reading.tokens();
@@ -68,7 +68,7 @@ static std::vector<bool> findAsides(const Reading &reading, const QString &inten
     return asides;
 }
 
-/// True where a clause ends: at a sign, or at the space in 拉一下Momo 她还没进会.
+/// True where a clause ends: at punctuation, or at the space in 拉一下Momo 她还没进会.
 static bool endsClause(const Tokens &tokens, std::size_t at)
 {
     const bool somebodyElse = tokens[at].kind == Token::Kind::Space && at + 1 < tokens.size() &&
@@ -87,7 +87,7 @@ Verdict judge(const Reading &reading, const QString &intent)
     // 约小张和小李，不对，约小王: which of them?
     doubtful = doubtful || isConditional(reading) || reading.has(WordClass::Repair);
     doubtful = doubtful || isAboutSomethingElse(reading, intent);
-    // Nothing that was said is dropped in silence: 需求评审安排到明天十一点，拉上小唐 is no plain invitation.
+    // Nothing that was said is dropped silently: 需求评审安排到明天十一点，拉上小唐 is no plain invitation.
     const bool untimely = intent == QLatin1String(InviteConference) || intent == QLatin1String(AddBuddy);
     doubtful = doubtful || (untimely && reading.clockCount() > 0);
     doubtful = doubtful || (intent == QLatin1String(CreateConference) && reading.callsNobodyKnown());

@@ -14,9 +14,9 @@ enum class Verdict {
     Refuse ///< negated, reported, told of somebody else, or supposed
 };
 
-/// The last word after the rules: lets @p intent pass only where the speaker orders it, now, in a clause that
-/// was understood whole. Looks at the clauses that hold the order; what else was said does not matter, unless
-/// it makes the order a supposition. One pass over the tokens.
+/// Has the last word after the rules: lets @p intent pass only if the speaker orders it, now, in a clause
+/// that was fully understood. Judges the clauses that hold the order; others matter only if they make the
+/// order a supposition or cast doubt on it.
 Verdict judge(const Reading &reading, const QString &intent);
 
 } // namespace understanding

@@ -28,7 +28,7 @@ bool hasClock(const Reading &reading)
     return reading.time().hasClock || reading.time().part >= 0 || reading.time().hasOffset;
 }
 
-/// A time that is not simply "today": what is to be ended then cannot be ended now.
+/// True for a time other than just "today": what ends then cannot be ended now.
 bool isLater(const Reading &reading)
 {
     const TimeExpression &time = reading.time();
@@ -42,12 +42,12 @@ bool isCalled(const Reading &reading)
                        [](const FoundName &name) { return name.behindTrigger; });
 }
 
-/// 李娜不去了，叫上王磊: who stays away is only told, and the order follows in a clause of its own.
+/// 李娜不去了，叫上王磊: only tells who stays away; the order follows in a separate clause.
 bool isOnlyAbsence(const Reading &reading, std::size_t negation, std::size_t next)
 {
     const QString &text = reading.sentence().text();
     const Tokens &tokens = reading.tokens();
-    std::size_t behind = negation;                                   // whoever stays away
+    std::size_t behind = negation;                                   // who stays away
     while (behind > 0 && tokens[behind - 1].is(WordClass::Filler)) { // 也
         --behind;
     }
@@ -90,7 +90,7 @@ bool isNegated(const Reading &reading)
                 tokens[next].is(WordClass::Nobody))) {
             ++next;
         }
-        // 不开会了，结束会议: what is wanted is the end.
+        // 不开会了，结束会议 wants the end.
         const bool endFollows = !tokens[next].is(WordClass::Close) &&
                                 std::any_of(tokens.cbegin() + static_cast<std::ptrdiff_t>(next),
                                             tokens.cend(), [](const Token &token) {
@@ -153,7 +153,7 @@ bool isBare(const Reading &reading)
     });
 }
 
-/// Whether the sentence has what @p Part reads out of it.
+/// True if the sentence contains what @p Part returns.
 template <auto Part>
 bool isSaid(const Reading &reading)
 {

@@ -9,8 +9,8 @@
 
 namespace understanding {
 
-/// What a sentence wants: an intent's name, or with a "?" before it the row of answers.tsv that it is
-/// answered with. Decided by the first row of intents.tsv that fits.
+/// Decides what a sentence wants by the first row of intents.tsv that fits. Returns an intent's name, or "? "
+/// followed by the row of answers.tsv to answer with.
 QString decideIntent(const Reading &reading);
 
 } // namespace understanding

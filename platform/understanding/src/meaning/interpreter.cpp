@@ -76,7 +76,7 @@ void fillConference(Outcome &outcome, const Reading &reading, const QDateTime &n
 {
     fillNames(outcome, reading);
     fillSaidTime(outcome, reading, now);
-    // To look at what comes "soon" is to look at everything to come; to open one soon needs the hour.
+    // A query for "soon" covers everything to come; opening a conference "soon" needs the hour.
     if (outcome.answer.isEmpty() && reading.timeSaid().isEmpty() && reading.has(WordClass::UnclearSoon)) {
         outcome.answer = QStringLiteral("which-time");
     }
@@ -118,7 +118,7 @@ void fillAccount(Outcome &outcome, const Reading &reading, const QDateTime &)
     }
 }
 
-/// Refusals of a time: people and the verb stay, and the next sentence may say another time.
+/// True for the refusal of a time: people and the verb stay, and the next sentence may give another time.
 bool keepsWhatWasSaid(const QString &answer)
 {
     static const QStringList refusals = {QStringLiteral("recurring"), QStringLiteral("either-or"),
@@ -128,7 +128,7 @@ bool keepsWhatWasSaid(const QString &answer)
 
 void fillNothing(Outcome &, const Reading &, const QDateTime &) {}
 
-/// What each intent takes from a sentence, and what it asks for when that is missing.
+/// What each intent takes from a sentence, and what it asks if that is missing.
 constexpr struct
 {
     const char *intent;

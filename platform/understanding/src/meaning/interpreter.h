@@ -12,21 +12,20 @@
 
 namespace understanding {
 
-/// Sentences of more characters are refused unread.
+/// The characters of the longest sentence; longer ones are refused unread.
 constexpr int LongestSentence = 500;
 
-/// What @p sentence, standing alone, comes to at @p now.
+/// Interprets @p sentence by itself, at @p now.
 Outcome interpret(const QString &sentence, const QDateTime &now, const ContactIndex &contacts);
 
-/// Decides what @p reading, standing alone, comes to at @p now.
+/// Interprets @p reading by itself, at @p now.
 Outcome interpret(const Reading &reading, const QDateTime &now);
 
-/// Adds the datetime slot for @p time, which was typed as @p said; sets the answer where the time cannot be
-/// told.
+/// Adds the datetime slot for @p time, which was typed as @p said; if the time cannot be resolved, sets the
+/// answer instead.
 void fillTime(Outcome &outcome, const TimeExpression &time, const QString &said, const QDateTime &now);
 
-/// The slot that @p outcome's intent cannot do without and does not have, as the question to ask; empty for
-/// none.
+/// The question for the slot that the intent of @p outcome requires but lacks, empty for none.
 QString missingSlotQuestion(const Outcome &outcome);
 
 } // namespace understanding

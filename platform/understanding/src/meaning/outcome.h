@@ -8,10 +8,10 @@
 
 namespace understanding {
 
-// The intents, as the handlers are registered.
+// The intents, by the names their handlers are registered under.
 constexpr char CreateConference[] = "CREATE_CONFERENCE";
 constexpr char InviteConference[] = "INVITE_CONFERENCE";
-constexpr char EnterConferenceById[] = "ENETR_ID_CONFERENCE"; // its spelling is the interface
+constexpr char EnterConferenceById[] = "ENETR_ID_CONFERENCE"; // misspelt in the interface
 constexpr char EnterMyConference[] = "ENTER_MY_CONFERENCE";
 constexpr char CloseConference[] = "CLOSE_CONFERENCE";
 constexpr char QueryConference[] = "QUERY_CONFERENCE";
@@ -33,13 +33,13 @@ struct Slot
     QString normValue; ///< as the handlers need it
 };
 
-/// What a sentence comes to: an intent to carry out, or an answer (a row of answers.tsv) that asks or
-/// refuses.
+/// The result of interpreting a sentence: an intent to carry out, or an answer (a row of answers.tsv) that
+/// asks or refuses.
 struct Outcome
 {
-    QString intent; ///< also set for a question: what it is asked for
+    QString intent; ///< also set for a question: what it is about
     QVector<Slot> slotList;
-    bool needsName = false; ///< somebody was called, but by no name
+    bool needsName = false; ///< somebody was called, but without a name
     QString answer;         ///< empty for an intent that can be carried out
 
     bool isCommand() const { return answer.isEmpty(); }

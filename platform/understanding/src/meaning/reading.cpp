@@ -20,7 +20,7 @@ namespace understanding {
 
 namespace {
 
-constexpr int ShortestNumber = 3; // 3号会议室 has no number of a conference
+constexpr int ShortestNumber = 3; // 3号会议室 holds no conference number
 
 } // namespace
 
@@ -227,7 +227,7 @@ bool Reading::takePassword(std::size_t label)
             m_password = digitsOf(token);
             return true;
         }
-        // 密码是一二: too short for a number of its own.
+        // 密码是一二: too short to be a number token.
         const int end = digitStringEnd(m_sentence.text(), token.position);
         if (token.kind == Token::Kind::Other && end > token.position) {
             m_password = part(token.position, end - token.position,

@@ -19,13 +19,13 @@ struct Said
 {
     int position = 0;
     int length = 0;
-    QString value;     ///< as it was typed; empty for nothing
+    QString value;     ///< as typed
     QString normValue; ///< as it is meant
 
     bool isEmpty() const { return normValue.isEmpty(); }
 };
 
-/// Everything that can be found in one sentence before anybody decides what it wants.
+/// Everything found in one sentence, before its intent is decided.
 class Reading final
 {
 public:
@@ -35,7 +35,8 @@ public:
     const Tokens &tokens() const { return m_tokens; }
     const std::vector<FoundName> &names() const { return m_names; }
     const Said &conferenceNumber() const { return m_number; }
-    /// True when the number touches something that was not read: it may be longer than what is known of it.
+    /// True if the number may be incomplete: it touches something that was not read, or digits stand
+    /// elsewhere.
     bool isNumberCutOff() const { return m_numberCutOff; }
     /// How many characters no rule knows.
     int strangeLength() const;
@@ -44,7 +45,7 @@ public:
     const Said &account() const { return m_account; }
     /// The word that opens the conference, as it was said.
     const Said &openVerb() const { return m_openVerb; }
-    /// How the times of the sentence were said, together; empty where there is none.
+    /// The times of the sentence as typed, joined; empty if there are none.
     const QString &timeSaid() const { return m_timeSaid; }
     const TimeExpression &time() const { return m_time; }
     int timeCount() const { return m_timeCount; }
@@ -56,7 +57,7 @@ public:
     bool hasDoubtfulName() const;
     /// Where the clause begins that only says who is meant by a later 她 (沈佳掉线了，拉一下她); -1 for none.
     int introduction() const { return m_introduction; }
-    /// 来我办公室: somebody is to come, but to no conference.
+    /// 来我办公室: somebody is called, but not to a conference.
     bool isElsewhere() const { return !m_elsewhere.isEmpty(); }
     /// 薛宝钗那边也叫上: somebody is called, but nobody was found.
     bool callsNobodyKnown() const;
@@ -64,10 +65,10 @@ public:
     bool namesOtherWeek() const;
     /// 饭后一点, 下班前五点: the hour tells when.
     bool namesOnlyOccasion() const;
-    /// True where a name stands that a word calls (叫上), not only mentions.
+    /// True if the name at @p position is called (叫上), not only mentioned.
     bool isCalledAt(int position) const;
 
-    /// True for a class of word that stands outside of what the conference is about.
+    /// True if a word of @p wordClass stands outside topics and people's descriptions.
     bool has(WordClass wordClass) const { return m_classes.has(wordClass); }
     bool hasAny(WordClasses classes) const { return m_classes.intersects(classes); }
     /// True for a sentence that ends with a question mark.

@@ -9,7 +9,7 @@
 
 namespace understanding {
 
-/// True when the token at @p at says who is meant, unless 的 makes that person's something of it: 张伟的会议.
+/// True if the token at @p at says who is meant, unless 的 makes it a possessive: 张伟的会议.
 static bool isOther(const Reading &reading, std::size_t at)
 {
     const Tokens &tokens = reading.tokens();

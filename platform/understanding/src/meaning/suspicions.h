@@ -7,15 +7,15 @@
 
 namespace understanding {
 
-// What makes it doubtful that something is wanted now, whatever the clauses of the sentence say.
+// Reasons to doubt that something is wanted now, whatever the clauses of the sentence say.
 
-/// 让张伟退出会议, 会议结束的时间, 我可以退会吗: nobody leaves but who orders it.
+/// 让张伟退出会议, 会议结束的时间, 我可以退会吗: the speaker does not order to leave.
 [[nodiscard]] bool isLeftByOther(const Reading &reading);
 
-/// 明天的会我去: who goes, not that it is to be joined now.
+/// 明天的会我去: tells who goes, but does not ask to join now.
 [[nodiscard]] bool onlyGoes(const Reading &reading);
 
-/// 我昨天进的会议是123456, 加一下老同学，号码13711112222: a number, but nobody orders to join it.
+/// 我昨天进的会议是123456, 加一下老同学，号码13711112222: a number, but no order to join it.
 [[nodiscard]] bool isNumberOfOther(const Reading &reading);
 
 /// True for 一三八零，零一三八: one number cut in two, or two of them.

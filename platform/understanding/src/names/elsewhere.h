@@ -7,21 +7,22 @@
 
 namespace understanding {
 
-/// Where a sentence sends somebody who shall not come to a conference; empty for nowhere.
+/// The place, other than a conference, to which a sentence sends somebody; empty for none.
 struct Elsewhere
 {
     int start = 0;
     int length = 0;
 
     [[nodiscard]] bool isEmpty() const { return length == 0; }
-    /// True for a name at @p position that is a piece of the place: 办公室 in 来我办公室.
+    /// True if a name at @p position is part of the place: 办公室 in 来我办公室.
     [[nodiscard]] bool holds(int position) const
     {
         return !isEmpty() && position >= start && position <= start + length;
     }
 };
 
-/// The first place of @p text that somebody is to come to: 来我办公室, 到公司, 去302. A conference is none.
+/// Finds the first place in @p text to which somebody is sent: 来我办公室, 到公司, 去302. A conference does
+/// not count.
 Elsewhere findElsewhere(const QString &text);
 
 } // namespace understanding

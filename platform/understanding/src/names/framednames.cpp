@@ -14,7 +14,7 @@ namespace {
 
 constexpr int LongestFramed = 3;
 
-/// One place between a word that calls and what is done.
+/// The tokens between a word that calls and what is done.
 class Frame final
 {
 public:
@@ -91,7 +91,7 @@ private:
         return !single || (next + 1 < m_tokens.size() && !endsBeforeOther(next + 1));
     }
 
-    /// What is done, or when, begins at @p at, whatever stood before.
+    /// True if what is done, or when, begins at @p at.
     bool endsBeforeOther(std::size_t at) const
     {
         const Token &token = m_tokens[at];
@@ -122,7 +122,7 @@ private:
                charAt(m_text, said().size() + m_tokens[m_begin].position) != middleDot;
     }
 
-    /// 了 in 叫完了开会, 个 in 约个时间: what stands in no name.
+    /// True if a piece belongs to no name: 了 in 叫完了开会, 个 in 约个时间.
     bool holdsOtherThings() const
     {
         static const QString never =
@@ -169,7 +169,7 @@ private:
         return m_tokens[m_begin - 1].isAny(WordClass::StrongOpen | WordClass::WeakOpen);
     }
 
-    /// 国庆, 和平: what else could they be behind 和?
+    /// 国庆, 和平: behind 和 they can only be names.
     bool isWordForName(const Token &token, const QString &text) const
     {
         return token.is(WordClass::Plain) || (token.is(WordClass::Festival) && !isArranging()) ||

@@ -106,7 +106,7 @@ int modifierLength(const QString &text)
     if (titled && isModifier(rest.left(familiar)) && !roles().contains(rest.mid(familiar))) {
         return start + familiar;
     }
-    // 法务海洋, 测试组圆圆: whatever two characters follow a calling.
+    // 法务海洋, 测试组圆圆: any two or three characters behind a calling.
     constexpr int longestCalling = 6;
     for (int length = 2; rest.size() >= shortest && length <= 3; ++length) {
         const int left = rest.size() - length;

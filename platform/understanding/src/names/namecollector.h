@@ -21,19 +21,20 @@ protected:
     void addKnown(const Token &token, bool called);
     void addUnknown(int position, const QString &normal, bool called);
     void addOne(int position, int length, bool called);
-    /// The name between @p start and @p end, without what surrounds it.
-    /// Somebody stands between separators who was not found.
+    /// Marks the last name as doubtful: somebody beside it was not found.
     void doubtLast();
+    /// Adds the name between @p start and @p end, without what surrounds it.
     void addChunk(int start, int end, bool mustLookLikeName, bool called);
 
-    /// 叫上王磊去打球: what follows a name at once has to look like one.
+    /// True if @p token follows the last name directly and so has to look like a name itself: 去打球 in
+    /// 叫上王磊去打球.
     [[nodiscard]] bool followsName(const Token &token) const;
-    /// 一鸣 in 参会人一鸣、芳姐: somebody was named before the separator who was not found.
+    /// True if somebody named before the separator at @p at was not found: 一鸣 in 参会人一鸣、芳姐.
     [[nodiscard]] bool isLostBefore(const Tokens &tokens, std::size_t at) const;
 
     std::vector<FoundName> m_names; // NOLINT(misc-non-private-member-variables-in-classes)
     bool m_listed = false;          ///< beside 、, where anything may stand
-    int m_modifierStart = -1;       ///< of the name that comes next, -1 for none
+    int m_modifierStart = -1;       ///< of the next name, -1 for none
 
 private:
     /// 邓稼先 before a comma, 佟大为 anywhere: the last character belongs to the name.

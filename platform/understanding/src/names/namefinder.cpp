@@ -49,7 +49,7 @@ public:
     }
 
 private:
-    /// Looks at one token; returns the last one that is done with.
+    /// Handles the token at @p at; returns the last token handled.
     std::size_t step(std::size_t at)
     {
         const Token &token = m_tokens[at];
@@ -85,7 +85,7 @@ private:
         return at;
     }
 
-    /// 赵云和...: who stands left of 和.
+    /// Takes the name left of a separator: 赵云 in 赵云和....
     void takeLeft(std::size_t at)
     {
         if (at == 0 || m_tokens[at - 1].inTopic) {
@@ -109,14 +109,14 @@ private:
         }
     }
 
-    /// Somebody whom no word calls: 赵云参加, 赵云也来, 赵云明天三点开会, 发起会议 赵云. Returns the last
-    /// token taken.
+    /// Takes somebody whom no word calls: 赵云参加, 赵云也来, 赵云明天三点开会, 发起会议 赵云. Returns the
+    /// last token taken.
     std::size_t takeSubject(std::size_t at)
     {
         const Token &token = m_tokens[at];
         std::size_t last = token.kind == Token::Kind::Other ? at : m_places.lastOfRun(at, at + LongestName);
         if (last > at && m_tokens[last].kind != Token::Kind::Other) {
-            --last; // 关羽也: the word behind is none of the name's
+            --last; // 关羽也: the word behind is not part of the name
         }
         if (m_tokens[last].kind != Token::Kind::Other) {
             return at;
@@ -163,7 +163,7 @@ private:
         return m_names.size() > before ? last : at;
     }
 
-    /// The names behind the word at @p lead; returns the last token that belongs to them.
+    /// Takes the names behind the word at @p lead; returns the last token that belongs to them.
     std::size_t takeZone(std::size_t lead, bool mustLookLikeName)
     {
         const std::size_t before = m_names.size();
@@ -175,7 +175,7 @@ private:
         mustLookLikeName = mustLookLikeName ||
                            (first > lead + 1 && m_text.at(m_tokens[first - 1].end() - 1) == QChar(u'个'));
         std::size_t end = takeNames(first, mustLookLikeName);
-        // What follows tells that it is somebody, however unlikely the name: 把加藤拉进来.
+        // What follows shows that it is a person, however unlikely the name: 把加藤拉进来.
         WordClasses takesPeople =
             WordClass::Arrive | WordClass::Buddy | WordClass::BuddyNoun | WordClass::InviteNoun;
         if (m_tokens[lead].is(WordClass::Request)) { // 把子轩叫上开会
@@ -199,11 +199,11 @@ private:
             m_tokens[first].kind == Token::Kind::Other) {
             doubtLast(); // 秦院士以及不知道谁
         }
-        // Where nobody stood, nothing is used up: 约 in 约个会.
+        // If nobody was found, consume nothing: 约 in 约个会.
         return m_names.size() > before ? end - 1 : lead;
     }
 
-    /// Takes names from @p at on; returns the first token that is none of theirs.
+    /// Takes names from @p at on; returns the first token behind them.
     std::size_t takeNames(std::size_t at, bool mustLookLikeName)
     {
         constexpr std::size_t farthest = 24; // tokens without a name; keeps long sentences linear
@@ -223,7 +223,7 @@ private:
             const Token &token = m_tokens[at];
             m_lost = m_lost || isLostBefore(m_tokens, at);
             const bool someoneFollows = m_places.isSomebody(at + 1);
-            if (m_places.isOnlyRelative(at)) { // 叫上我姐: asked about, for nobody is called so
+            if (m_places.isOnlyRelative(at)) { // 叫上我姐: ask, for that is nobody's name
                 addOne(token.position, 2, true);
                 m_names.back().doubtful = true;
                 at += 2;

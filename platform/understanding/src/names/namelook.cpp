@@ -114,7 +114,7 @@ bool isTransliterated(const QString &text)
                        [](QChar character) { return spelling.contains(character); });
 }
 
-/// 子涵, 晓峰: a given name alone, of characters that stand in hardly anything else.
+/// 子涵, 晓峰: a given name alone, of characters used in hardly anything else.
 static bool isGivenName(const QString &text)
 {
     static const QString given = QStringLiteral(
@@ -183,8 +183,8 @@ bool isPersonsName(const QString &text)
 
 namespace {
 
-/// The length of the name at @p at when names stand side by side: the next one begins with a family name, the
-/// more common one where both lengths are possible (李雷韩梅梅). 0 for no name.
+/// The length of the name at @p at in a row of names, 0 for none. The next one must begin with a family name;
+/// if both lengths fit, the more common family name decides (李雷韩梅梅).
 int nameLengthAt(const QString &text, int at)
 {
     int length = 0;
@@ -211,7 +211,7 @@ static bool isRoleOrKin(const QString &text)
            Lexicon::instance().classesOf(text).has(WordClass::Title);
 }
 
-/// 小蔡小高, 大乔小乔: each begins as people call one another.
+/// 小蔡小高, 大乔小乔: each begins with a familiar prefix.
 static QStringList splitFamiliarNames(const QString &text)
 {
     if (endsLikeName(text)) { // 老王小组
@@ -237,7 +237,7 @@ QStringList splitNames(const QString &text)
         return familiar;
     }
     static const QString titles = QStringLiteral("总工哥姐");
-    // A name of four characters with a family name of two is one.
+    // With a family name of two characters, four are one name.
     if (text.size() < 4 || text.size() > 12 || startsTwoCharacterSurname(text) || !isSurname(text.at(0)) ||
         isSurnameWithTitle(text)) { // 周工程师
         return {text};
@@ -272,7 +272,7 @@ QString withoutParticles(const QString &text)
                        "还会用里并且吗嘛上下把做成为参加约让呗哈没俩仨哦噢喔啦咯");
     int start = 0;
     int end = text.size();
-    // What is left has two characters at least: 王来 is a name.
+    // Keep at least two characters: 王来 is a name.
     while (end - start > 2 && leading.contains(text.at(start))) {
         ++start;
     }

@@ -14,7 +14,7 @@ bool looksLikeName(const QString &text);
 /// True for 小, 老, 阿 and 大, which make a familiar name: 小李.
 bool isNamePrefix(QChar character);
 
-/// True for what looks like a name and is none: 项目, 方案, 周报.
+/// True for what looks like a name but is none: 项目, 方案, 周报.
 bool isThing(const QString &text);
 
 /// True for 阿布都热合曼 and 克里斯蒂安娜: nothing but characters that spell foreign names.
@@ -27,7 +27,8 @@ bool isSurnameWithTitle(const QString &text);
 /// 小李.
 bool isPersonsName(const QString &text);
 
-/// @p text cut into names where each part begins with a family name (赵云马超), else @p text alone.
+/// Splits @p text where each part begins with a family name (赵云马超) or a prefix (小蔡小高); otherwise
+/// returns it whole.
 QStringList splitNames(const QString &text);
 
 /// True for one person or several in a row: 李娜, 李娜王芳.

@@ -249,7 +249,7 @@ bool NamePlaces::isSmallWordInName(std::size_t at) const
     if (calls) {
         return false;
     }
-    const bool measure = m_text.at(token.position) == QChar(u'个'); // in no name, and in 约个时间
+    const bool measure = m_text.at(token.position) == QChar(u'个'); // in no name: 约个时间
     return token.kind == Token::Kind::Word && token.length == 1 && !token.isAny(hard) && !measure &&
            m_text.at(token.position).isLetter();
 }

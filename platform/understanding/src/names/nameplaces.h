@@ -11,7 +11,7 @@
 
 namespace understanding {
 
-/// What stands around a place of a sentence where somebody may be named. Looks only; NameFinder decides. The
+/// Examines what surrounds a place where a sentence may name somebody. Only looks; NameFinder decides. The
 /// sentence and its tokens must outlive it.
 class NamePlaces final
 {
@@ -21,13 +21,13 @@ public:
     [[nodiscard]] bool standsApartBefore(std::size_t at) const;
     [[nodiscard]] bool standsApartBehind(std::size_t at) const;
     [[nodiscard]] bool hasConference() const;
-    /// The sign from @p at on that ends the clause, @p last where there is none before it.
+    /// The token from @p at on that ends the clause, at most @p last.
     [[nodiscard]] std::size_t endOfClause(std::size_t at, std::size_t last) const;
     /// 居委会 in 居委会的小乔.
     [[nodiscard]] bool isPlainBeforeName(std::size_t at) const;
     /// 兄弟 in 和兄弟王磊开会.
     [[nodiscard]] bool isAddressBeforeName(std::size_t at) const;
-    /// The last token of Anna Maria Schmidt, who is one person.
+    /// The last token of the Latin name that begins with @p first: Schmidt in Anna Maria Schmidt.
     [[nodiscard]] std::size_t lastOfLatinName(std::size_t first) const;
     /// The first token of the Latin name that ends with @p last: Tom in Tom Lee.
     [[nodiscard]] std::size_t firstOfLatinName(std::size_t last) const;
@@ -43,13 +43,13 @@ public:
     [[nodiscard]] std::size_t skipToNames(std::size_t lead) const;
     /// 约 in 请约卢老师: the word that calls follows the one that asks for it.
     [[nodiscard]] bool callsAgain(std::size_t lead, std::size_t next) const;
-    /// 张伟, Tom, 于老板: a name begins there, also one that begins with a word of the rules.
+    /// True where a name begins, even with a word of the rules: 张伟, Tom, 于老板.
     [[nodiscard]] bool isSomebody(std::size_t at) const;
-    /// The length of the name in 三点开会，宋阳必须到 and 宋阳一个人就行; 0 where nobody comes so.
+    /// The length of the name in 三点开会，宋阳必须到 and 宋阳一个人就行; 0 for none.
     [[nodiscard]] int comerLength(std::size_t at) const;
     /// 我的 in 和我的同事李静.
     [[nodiscard]] bool isOwner(std::size_t at) const;
-    /// The token that holds the end of what says who somebody is, 号线的耿浩 in 4号线的耿浩; @p at for none.
+    /// The token in which a person's description ends, 号线的耿浩 in 4号线的耿浩; @p at for none.
     [[nodiscard]] std::size_t endOfModifier(std::size_t at) const;
     /// 安排 in 安排一个安全检查的会: what follows says what the conference is about.
     [[nodiscard]] bool isOpeningOne(std::size_t at) const;

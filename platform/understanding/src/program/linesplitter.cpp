@@ -10,7 +10,7 @@ namespace understanding {
 
 namespace {
 
-constexpr int LongestLine = 4096; // twice the bytes of the longest sentence
+constexpr int LongestLine = 4096; // more than twice the bytes of the longest sentence
 
 } // namespace
 

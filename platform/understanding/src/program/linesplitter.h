@@ -9,16 +9,15 @@
 
 namespace understanding {
 
-/// Cuts a stream of bytes into lines as it arrives. A line keeps no more bytes than any sentence that is read
-/// at all can have, so that endless lines take no memory; what is cut off leaves the line too long to be
-/// read.
+/// Splits a stream of bytes into lines as it arrives. Truncates lines well beyond the longest sentence that
+/// is read: an endless line takes no memory, and a truncated one is still refused as too long.
 class LineSplitter final
 {
 public:
-    /// The lines that @p bytes completes, without their ends.
+    /// Adds @p bytes and returns the lines that they complete, without line ends.
     std::vector<QByteArray> add(const char *bytes, qint64 count);
 
-    /// The last line when the stream has ended without a line break; false when there is none.
+    /// Takes the last line once the stream has ended without a line break; false if there is none.
     bool takeRest(QByteArray &line);
 
 private:

@@ -27,7 +27,7 @@ constexpr int ExitFailed = 1;
 
 struct Options
 {
-    QDateTime now; ///< invalid: the clock's, anew for each line
+    QDateTime now; ///< if invalid, each line's current time
     QStringList contacts;
 };
 
@@ -41,7 +41,7 @@ QByteArray answerTo(const QByteArray &line, const ContactIndex &contacts, const 
 {
     const QString sentence = QString::fromUtf8(line);
     Outcome outcome;
-    // Bytes that are no text would come back as names.
+    // Invalid UTF-8 would come back as names.
     if (sentence.contains(QChar::ReplacementCharacter) && sentence.size() <= LongestSentence) {
         outcome.answer = QStringLiteral("not-understood");
     } else {
@@ -58,7 +58,7 @@ bool writeAll(const QByteArray &bytes)
            std::fflush(stdout) == 0;
 }
 
-/// Answers line by line, as soon as lines arrive, so that the program can be talked to through pipes.
+/// Answers each line as soon as it arrives, so that the program works through pipes.
 int run(const Options &options)
 {
     const ContactIndex contacts(options.contacts);

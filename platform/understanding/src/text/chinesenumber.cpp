@@ -22,7 +22,7 @@ constexpr QChar One(0x5e7a);       // 幺
 constexpr QChar Zero(0x3007);      // 〇
 constexpr QChar Pieces(0x4e2a);    // 个
 constexpr QChar Comma(0xff0c);     // ，
-constexpr int LongestQuantity = 8; // 九百九十九 is five, 2026 four; more is no quantity
+constexpr int LongestQuantity = 8; // characters; 九百九十九 takes five
 
 bool isAsciiDigit(QChar character)
 {
@@ -44,7 +44,7 @@ NumberMatch readAsciiQuantity(const QString &text, int position)
     return match;
 }
 
-/// 二十五, 一百零五, 十: digits are multiplied by what follows them.
+/// Reads 二十五, 一百零五, 十: multiplies each digit by the unit that follows it.
 NumberMatch readMultiplied(const QString &text, int position)
 {
     int total = 0;
@@ -135,9 +135,8 @@ static bool isTwoInString(const QString &text, int at, int end, int start)
     return next < text.size() && digitValue(text.at(next)) >= 0;
 }
 
-/// The end of 三八六，二二幺，七零九: digits read aloud in three groups, as a number of up to eleven digits
-/// is.
-/// @p position where there are no such groups: two groups may be two numbers.
+/// The end of digits read aloud in three groups, up to eleven in all: 三八六，二二幺，七零九. @p position if
+/// there are fewer groups: two may be two numbers.
 static int spokenGroupsEnd(const QString &text, int position)
 {
     constexpr int groups = 3;

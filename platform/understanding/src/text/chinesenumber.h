@@ -7,7 +7,7 @@
 
 namespace understanding {
 
-/// A number found in a text: its value and how many characters it takes; length 0 where there is none.
+/// A number found in a text: its value and its length in characters, 0 for none.
 struct NumberMatch
 {
     int value = 0;
@@ -19,15 +19,15 @@ struct NumberMatch
 int digitValue(QChar character);
 
 /// Reads a quantity at @p position: "25", "二十五", "一百二十", "两", "零五", "三零" (digit by digit). Up to
-/// four digits. "幺" is no quantity: it is said in numbers that name something.
+/// four digits. "幺" is no quantity: it only occurs in numbers that name something.
 NumberMatch readQuantity(const QString &text, int position);
 
-/// Where the string of digits at @p position ends, spaces and dashes between digits and "三个八" included; \a
-/// position where there is none.
+/// The end of the string of digits at @p position, including spaces and dashes between digits and "三个八";
+/// @p position if there is none.
 int digitStringEnd(const QString &text, int position);
 
-/// The digits of a string of digits read aloud: "幺二三 零" is "1230", "三个八" is "888". Letters and signs
-/// stay.
+/// Writes a number that was read aloud as digits: "幺二三 零" is "1230", "三个八" is "888". Drops spaces,
+/// commas and, if only digits remain, dashes; keeps letters and other signs.
 QString digitString(const QString &said);
 
 } // namespace understanding

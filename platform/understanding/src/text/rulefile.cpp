@@ -5,8 +5,8 @@
 
 #include <QFile>
 
-// A static library's resources are left out by the linker unless somebody names them; the macro must stand
-// outside of every namespace.
+// The linker drops a static library's resources unless something refers to them. The macro must stand outside
+// any namespace.
 static void keepRules()
 {
     Q_INIT_RESOURCE(rules);

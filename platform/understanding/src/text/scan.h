@@ -15,7 +15,7 @@ inline bool startsAt(const QString &text, int position, const QString &word)
     return text.midRef(position, word.size()) == word;
 }
 
-/// The length of the first of @p words that stands at @p position, 0 for none. Longer words come first.
+/// The length of the first of @p words that stands at @p position, 0 for none. List longer words first.
 inline int firstOf(const QString &text, int position, std::initializer_list<const char16_t *> words)
 {
     for (const char16_t *word : words) {
@@ -31,7 +31,7 @@ inline int firstOf(const QString &text, int position, std::initializer_list<cons
     return 0;
 }
 
-/// The character at @p position, a null character behind the end.
+/// The character at @p position, a null character outside the text.
 inline QChar charAt(const QString &text, int position)
 {
     return position >= 0 && position < text.size() ? text.at(position) : QChar();

@@ -14,7 +14,7 @@ namespace {
 QHash<QChar, QChar> loadSpellings()
 {
     QHash<QChar, QChar> spellings;
-    // One pair a line: the character as it is typed, and the one the rules use.
+    // One pair per line: the character as typed and as the rules write it.
     const QStringList lines = ruleLines(QStringLiteral("characters.tsv"));
     for (const QString &line : lines) {
         spellings.insert(line.at(0), line.at(line.size() - 1));

@@ -7,9 +7,9 @@
 
 namespace understanding {
 
-/// A sentence in the one spelling that the rules are written in: full-width letters and digits as ASCII,
-/// traditional characters as simplified ones, upper case as it was. Character for character, so that a place
-/// in text() is the same place in raw() and every slot can carry what was really typed.
+/// A sentence in the spelling of the rules: full-width letters, digits and signs become ASCII, traditional
+/// characters simplified ones; case is kept. Maps character by character, so that positions in text() and
+/// raw() agree and every slot can carry what was really typed.
 class Sentence final
 {
 public:

@@ -19,7 +19,7 @@ bool isAsciiDigit(QChar character)
     return character >= QLatin1Char('0') && character <= QLatin1Char('9');
 }
 
-/// 一刻, 三刻: returns the length.
+/// Reads 一刻, 三刻; returns the length.
 int readQuarters(const QString &text, int position, int &minutes)
 {
     if (firstOf(text, position, {u"一刻", u"1刻"}) > 0) {
@@ -34,7 +34,7 @@ int readQuarters(const QString &text, int position, int &minutes)
     return 2;
 }
 
-/// The minutes behind 点: returns the length, 0 where the hour stands alone.
+/// Reads the minutes behind 点; returns the length, 0 if the hour stands alone.
 int readMinutes(const QString &text, int position, int &minutes)
 {
     if (charAt(text, position) == QChar(u'半')) {
@@ -53,7 +53,7 @@ int readMinutes(const QString &text, int position, int &minutes)
     const int after = start + number.length;
     const int unit = firstOf(text, after, {u"分钟", u"分"});
     const bool oneDigit = number.length == 1 && number.value < 10;
-    // 三点五个人 and 三点一起 hold no minutes; 三点五 is said by nobody.
+    // 三点五个人 and 三点一起 hold no minutes; nobody says 三点五.
     if (unit == 0 &&
         (oneDigit || firstOf(text, after, {u"个", u"人", u"位", u"名", u"点", u":", u"月", u"号"}) > 0)) {
         return 0;
@@ -65,7 +65,7 @@ int readMinutes(const QString &text, int position, int &minutes)
     return after + unit - position;
 }
 
-/// 15:30, 15:30:00 and 3:30pm.
+/// Reads 15:30 and 15:30:00; readHalfDay() reads the pm of 3:30pm.
 int readDigitalClock(const QString &text, int position, TimeExpression &expression)
 {
     const NumberMatch hours = readQuantity(text, position);
@@ -90,7 +90,7 @@ int readDigitalClock(const QString &text, int position, TimeExpression &expressi
     return at - position;
 }
 
-/// "pm" and "AM" behind an hour of ASCII digits.
+/// Reads "pm" or "AM" behind an hour of ASCII digits.
 int readHalfDay(const QString &text, int position, TimeExpression &expression)
 {
     const int start = skipSpaces(text, position);
@@ -108,7 +108,7 @@ int readHalfDay(const QString &text, int position, TimeExpression &expression)
     return start + 2 - position;
 }
 
-/// 差一刻, 差五分: what is taken off the hour that follows.
+/// Reads what is taken off an hour: 差一刻, 差五分.
 int readLess(const QString &text, int position, int &minutes)
 {
     if (firstOf(text, position, {u"差", u"欠"}) == 0) {
@@ -154,7 +154,7 @@ int readClock(const QString &text, int position, TimeExpression &expression)
             return at + length - position;
         }
     }
-    // 三到四点: both hours share their 点, the first is meant.
+    // 三到四点: both hours share one 点; the first is meant.
     const int joint = firstOf(text, at, {u"到", u"至", u"-", u"~"});
     const NumberMatch last = joint > 0 ? readQuantity(text, at + joint) : NumberMatch();
     if (last && last.length <= 3 && firstOf(text, at + joint + last.length, {u"点"}) > 0) {

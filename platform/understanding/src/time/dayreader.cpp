@@ -113,7 +113,7 @@ int readWeekday(const QString &text, int position, TimeExpression &expression, b
     return at + 1 - position;
 }
 
-/// The day's number with its 号 or 日: returns the length. Without @p monthSaid the sign is needed.
+/// Reads the day's number with its 号 or 日, which is optional only if @p monthSaid; returns the length.
 int readDayNumber(const QString &text, int position, bool monthSaid, int &day)
 {
     const NumberMatch number = readQuantity(text, position);
@@ -191,7 +191,7 @@ int readMonthAndDay(const QString &text, int position, TimeExpression &expressio
     return afterSign + length - position;
 }
 
-/// 2026年3月20日, 明年3月1号 and 2026-03-20.
+/// Reads the year of 2026年3月20日, 明年3月1号 and 2026-03-20.
 int readYear(const QString &text, int position, TimeExpression &expression)
 {
     constexpr struct

@@ -10,7 +10,7 @@
 namespace understanding {
 
 /// Reads a day (明天, 下周三, 3月20号, 2026-03-20) at @p position into @p expression and returns how many
-/// characters it takes, 0 for none. A day that cannot be told (下周, 三月) sets @p unclear.
+/// characters it takes, 0 for none. Sets @p unclear for an ambiguous day (下周, 三月).
 int readDay(const QString &text, int position, TimeExpression &expression, bool &unclear);
 
 } // namespace understanding

@@ -55,15 +55,14 @@ const Unit *unitAt(const QString &text, int position, int &length)
     return nullptr;
 }
 
-/// A number in halves: 一, 一点五, 1.5, 半. Returns the length; @p halves is twice the number, or tenths in
-/// @p tenths.
+/// Reads an amount (一, 一点五, 1.5, 半) as @p tenths. Returns the length, 0 for none.
 int readAmount(const QString &text, int position, int &tenths)
 {
     if (charAt(text, position) == QChar(u'半')) {
         tenths = 5;
         return 1;
     }
-    // 俩小时, 仨小时: the measure is in the number.
+    // 俩小时, 仨小时: the number includes the measure.
     const QChar contracted = charAt(text, position);
     if (contracted == QChar(u'俩') || contracted == QChar(u'仨')) {
         tenths = contracted == QChar(u'俩') ? 20 : 30;
@@ -86,7 +85,8 @@ int readAmount(const QString &text, int position, int &tenths)
     return whole.length;
 }
 
-/// One amount with its unit: 两个半小时, 半个小时, 二十分钟, 一小时半. Returns the length, 0 for none.
+/// Adds one amount with its unit to @p expression: 两个半小时, 半个小时, 二十分钟, 一小时半. Returns the
+/// length, 0 for none.
 int readPiece(const QString &text, int position, TimeExpression &expression)
 {
     int tenths = 0;
@@ -114,7 +114,7 @@ int readPiece(const QString &text, int position, TimeExpression &expression)
         ++at;
     }
     if (unit->seconds == 0 && tenths % 10 != 0) {
-        return 0; // half a day is no time that one could name
+        return 0; // half a day is no definite time
     }
     expression.offsetSeconds += unit->seconds * tenths / 10;
     expression.offsetDays += unit->days * tenths / 10;
@@ -142,9 +142,9 @@ int readLengthOfTime(const QString &text, int position, TimeExpression &expressi
         return 0;
     }
     const int suffix = firstOf(text, at, {u"以后", u"之后", u"过后", u"后"});
-    const bool nextDay = firstOf(text, at, {u"后天"}) > 0; // 两天后天: 后天 is a word of its own
+    const bool nextDay = firstOf(text, at, {u"后天"}) > 0; // 两天后天: 后天 is a separate word
     isOffset = prefix > 0 || (suffix > 0 && !nextDay);
-    // 三分 and 五日 are no lengths of time unless something is counted from now.
+    // 三分 and 五日 are no lengths of time unless counted from now.
     const QChar last = charAt(text, at - 1);
     if (!isOffset && (last == QChar(u'分') || last == QChar(u'日') || last == QChar(u'年'))) {
         return 0;

@@ -7,7 +7,7 @@
 
 namespace understanding {
 
-/// What a sentence says about a time, part by part and not yet set against any clock.
+/// What a sentence says about a time, part by part, before it is resolved against a clock.
 struct TimeExpression
 {
     enum class Day {
@@ -42,7 +42,7 @@ struct TimeExpression
     int offsetDays = 0;
     int offsetMonths = 0;
 
-    bool impossible = false; ///< a 25 o'clock, a thirteenth month
+    bool impossible = false; ///< such as 25 o'clock
 
     bool isEmpty() const { return day == Day::None && part < 0 && !hasClock && !hasOffset && !impossible; }
     bool isBareWeekday() const { return day == Day::Weekday && !weekNamed && part < 0 && !hasClock; }

@@ -14,7 +14,7 @@ namespace understanding {
 
 namespace {
 
-/// True where no time can begin, which is nearly everywhere: times begin with few characters.
+/// True for the few characters with which a time can begin.
 bool canBegin(QChar character)
 {
     static const QString starts =
@@ -24,7 +24,7 @@ bool canBegin(QChar character)
            (character.unicode() >= 0x80 && starts.contains(character));
 }
 
-/// The parts of one moment in any order, each at most once; returns the end.
+/// Reads the parts of one moment, in any order and each at most once; returns the end.
 int readMoment(const QString &text, int position, TimeExpression &expression, bool &unclear)
 {
     int end = position;
@@ -34,8 +34,8 @@ int readMoment(const QString &text, int position, TimeExpression &expression, bo
         bool noDay = false;
         bool isOffset = false;
         int length = 0;
-        // A second day explains the first (3月20号周五, 周五3月20号), of two different ones the first is
-        // meant.
+        // A second day explains the first (3月20号周五, 周五3月20号). The last one with a month wins,
+        // otherwise the first.
         if (!expression.hasOffset) {
             length = readDay(text, at, next, noDay);
         }
@@ -55,7 +55,7 @@ int readMoment(const QString &text, int position, TimeExpression &expression, bo
                 const DayPart &found = dayParts()[static_cast<std::size_t>(part)];
                 length = found.word.size();
                 next.part = part;
-                // 周五晚一点: later than what?
+                // 晚一点 in 周五晚一点 may only mean "later".
                 TimeExpression hour;
                 const QChar before = charAt(text, at - 1);
                 const bool alone = found.word.size() == 1 && before != QChar(u'今') &&
@@ -92,7 +92,7 @@ int readMoment(const QString &text, int position, TimeExpression &expression, bo
     return end;
 }
 
-/// The rest of a span: 到四点, -15:00. Returns the new end.
+/// Reads the rest of a span: 到四点, -15:00. Returns the new end.
 int readSpanEnd(const QString &text, int end, TimeExpression &expression)
 {
     const int start = skipSpaces(text, end);

@@ -9,13 +9,13 @@
 
 namespace understanding {
 
-/// What reads a time at one place of a text, from left to right and without looking back.
+/// A time found in a text.
 struct TimeMatch
 {
     enum class Kind {
         None,
         Time,      ///< a moment or a day
-        Duration,  ///< 一个小时: how long, which nobody asked for
+        Duration,  ///< 一个小时: how long, which no slot takes
         UnclearDay ///< 下周, 三月: no single day
     };
     Kind kind = Kind::None;

@@ -45,7 +45,7 @@ QDate resolveWeekday(const TimeExpression &expression, QDate today)
     return today.addDays(distance < 0 ? distance + 7 : distance);
 }
 
-/// The day that was said; invalid for one that does not exist, today where none was said.
+/// The day that was said; invalid if it does not exist, today if none was said.
 QDate resolveDay(const TimeExpression &expression, QDate today)
 {
     switch (expression.day) {
@@ -144,7 +144,7 @@ ResolvedTime resolveTime(const TimeExpression &expression, const QDateTime &now)
         day = moment.date(); // 两天后下午三点
         dayNamed = true;
     }
-    // 凌晨三点, said in the evening without a day, is the night that comes.
+    // 凌晨三点, said in the evening without a day, means the coming night.
     constexpr int evening = 18;
     constexpr int nightEnds = 5;
     const DayPart *part =

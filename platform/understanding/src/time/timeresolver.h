@@ -9,14 +9,14 @@
 
 namespace understanding {
 
-/// A said time set against a clock.
+/// A time resolved against a clock.
 struct ResolvedTime
 {
     enum class Problem {
         None,
         NoSuchDate,    ///< 2月30号
         Contradiction, ///< 上午13点, 25点
-        NoHour         ///< 凌晨: too wide to begin a conference
+        NoHour         ///< 凌晨: too vague to begin a conference
     };
     Problem problem = Problem::None;
     QDate date;
@@ -26,7 +26,7 @@ struct ResolvedTime
     QString toString() const;
 };
 
-/// What @p expression means at @p now, in local time. A time that is past stays past.
+/// Resolves @p expression against @p now, in local time. A past time stays past.
 ResolvedTime resolveTime(const TimeExpression &expression, const QDateTime &now);
 
 } // namespace understanding

@@ -10,7 +10,7 @@
 
 namespace understanding {
 
-/// The rows of the rule file @p name, each made by @p parse out of a line. The longest words come first, so
+/// The rows of the rule file @p name, each parsed from a line by @p parse. The longest words come first, so
 /// that the first hit is the longest.
 template <typename Row>
 std::vector<Row> loadWordTable(const QString &name, Row (*parse)(const QString &line))

@@ -60,7 +60,7 @@ void settleConferences(const QString &text, Tokens &tokens)
     }
 }
 
-/// True when a conference follows the verb at @p verb, with nothing but its description between.
+/// True if a conference follows the verb at @p verb, with only its description in between.
 bool governsConference(const QString &text, const Tokens &tokens, std::size_t verb)
 {
     bool described = false;
@@ -89,7 +89,7 @@ bool governsConference(const QString &text, const Tokens &tokens, std::size_t ve
         if (described && companions) { // 开个和张伟的会
             continue;
         }
-        // 约张伟明天的会: the one verb that takes people first.
+        // 约张伟明天的会: the only verb that takes people first.
         const bool meets = charAt(text, tokens[verb].position) == QChar(u'约') && tokens[verb].length == 1;
         if (meets && (companions || token.kind == Token::Kind::Other || token.kind == Token::Kind::Latin)) {
             continue;
@@ -113,7 +113,7 @@ bool isResultative(const QString &text, const Token &verb)
     return verb.length > 1 && results.contains(text.at(verb.end() - 1));
 }
 
-/// 帮我约: what was said before is to be done.
+/// 帮我约: asks for what was said before.
 bool isAskedFor(const QString &text, const Tokens &tokens, std::size_t verb)
 {
     return isResultative(text, tokens[verb]) || (verb > 0 && tokens[verb - 1].is(WordClass::Request));
@@ -147,7 +147,7 @@ bool isFollowedByDe(const QString &text, const Token &token)
     return charAt(text, token.end()) == QChar(u'的');
 }
 
-/// 该开会了，进我的会议: it is time for a conference that exists.
+/// 该开会了，进我的会议: it is time for an existing conference.
 bool isDue(const QString &text, const Tokens &tokens, std::size_t verb)
 {
     static const QString dues = QStringLiteral("该要快");
@@ -173,7 +173,7 @@ void settleOpening(const QString &text, Tokens &tokens)
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         Token &token = tokens[at];
         if (token.is(WordClass::StrongOpen)) {
-            // 会议安排 is a noun, 预约的会议 one that exists already.
+            // 会议安排 is a noun; 预约的会议 exists already.
             const bool noun = isFollowedByDe(text, token) ||
                               (at > 0 && tokens[at - 1].is(WordClass::Conference) &&
                                token.is(WordClass::WeakTrigger) && isAtClauseEnd(tokens, at + 1));
@@ -213,8 +213,8 @@ void settleOpening(const QString &text, Tokens &tokens)
     }
 }
 
-/// 到 in 加张伟到我的会议, 加入 in 把李娜加入我这个会: somebody is called, and a conference follows, whosever
-/// it is.
+/// 到 in 加张伟到我的会议, 加入 in 把李娜加入我这个会: leads into the conference that follows, no matter
+/// whose.
 bool leadsIntoConference(const QString &text, const Tokens &tokens, std::size_t at)
 {
     static const QString into = QStringLiteral("到进入来");

@@ -7,8 +7,8 @@
 
 namespace understanding {
 
-/// Decides what words mean in their place: whether 开 opens a conference, whether 会 is one, how far a topic
-/// reaches. Words that are nothing here become plain characters again.
+/// Decides what words mean in context: whether 开 opens a conference, whether 会 is one, how far a topic
+/// reaches. Words that mean nothing here become plain characters again.
 void settleWords(const QString &text, Tokens &tokens);
 
 } // namespace understanding

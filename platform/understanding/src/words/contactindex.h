@@ -10,14 +10,14 @@
 
 namespace understanding {
 
-/// The known names, ready to be found in a text longest first.
+/// Finds known names in a text, the longest first.
 class ContactIndex final
 {
 public:
     explicit ContactIndex(const QStringList &names = {});
 
-    /// The longest known name at @p position, empty for none. Names of one character are not looked for: they
-    /// are found in too many words. Latin names stand alone and match in any case.
+    /// The longest known name at @p position, empty for none. Ignores names of one character, which occur in
+    /// too many words. Latin names match whole words in any case.
     QString longestAt(const QString &text, int position) const;
 
 private:

@@ -64,7 +64,7 @@ private:
         return true;
     }
 
-    /// 阿布都热合曼, 阿不都拉: names in which words of the rules stand.
+    /// Takes names that contain words of the rules: 阿布都热合曼, 阿不都拉.
     bool takeForeignName()
     {
         int length = 0;
@@ -169,7 +169,7 @@ private:
     {
         switch (time.kind) {
         case TimeMatch::Kind::UnclearDay: {
-            // 下周下午三点: the hour is kept for when the day is known.
+            // 下周下午三点: keep the hour until the day is known.
             Token &token = append(Token::Kind::Word, time.length);
             token.classes = WordClass::UnclearDay;
             token.time = time.expression;
@@ -202,7 +202,7 @@ private:
         return true;
     }
 
-    /// 7.2 in 7.2版本的评审会 is no number of a conference, and its point ends no clause.
+    /// 7.2 in 7.2版本的评审会 is no conference number, and its point ends no clause.
     bool takeDecimal()
     {
         const auto isDigit = [&](int at) {
@@ -228,7 +228,7 @@ private:
         return true;
     }
 
-    /// The end of a string of digits; a group of digits that is a time of its own does not belong to it.
+    /// The end of a string of digits, excluding a group that is a time by itself.
     int numberEnd() const
     {
         const int end = digitStringEnd(m_text, m_at);
@@ -242,8 +242,8 @@ private:
         return end;
     }
 
-    /// The end of an account or a Latin name: letters, digits and the signs of a mail address, digits read
-    /// aloud behind.
+    /// The end of an account or a Latin name: letters, digits and the signs of a mail address, and any digits
+    /// read aloud behind them.
     int latinEnd() const
     {
         if (const int form = firstOf(m_text, m_at, {u"Dr. ", u"Mr. ", u"Mrs. ", u"Ms. ", u"Prof. "})) {

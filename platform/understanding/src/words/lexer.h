@@ -8,8 +8,8 @@
 
 namespace understanding {
 
-/// Cuts @p text into tokens, once from left to right: known names first, then times, numbers and words, the
-/// longest at each place.
+/// Splits @p text into tokens in one pass from left to right: known names first, then the longest time,
+/// number or word at each place.
 Tokens tokenize(const QString &text, const ContactIndex &contacts);
 
 } // namespace understanding

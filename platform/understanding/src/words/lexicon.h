@@ -12,7 +12,7 @@
 
 namespace understanding {
 
-/// The class that the rule files call @p name, WordClass::Count for none.
+/// The class called @p name in the rule files, WordClass::Count for none.
 WordClass wordClassNamed(const QString &name);
 
 /// A word found in a text.
@@ -22,7 +22,7 @@ struct WordMatch
     WordClasses classes;
 };
 
-/// The words of the rule file words.txt, found by their first character and longest first.
+/// The words of the rule file words.txt, indexed by their first character, longest first.
 class Lexicon final
 {
 public:
@@ -31,7 +31,7 @@ public:
     /// The longest word at @p position; length 0 for none.
     WordMatch longestAt(const QString &text, int position) const;
 
-    /// The classes of exactly @p word, none for a word that is not listed.
+    /// The classes that @p word has anywhere, not only at the end of a clause; none if it is not listed.
     WordClasses classesOf(const QString &word) const { return m_words.value(word); }
 
 private:

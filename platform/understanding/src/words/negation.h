@@ -7,7 +7,7 @@
 
 namespace understanding {
 
-/// True for 叫 in 不叫李娜 and for 带 in 别带小王: what stands right before the word at @p at negates it.
+/// True if the word right before the one at @p at negates it: 叫 in 不叫李娜, 带 in 别带小王.
 [[nodiscard]] bool isNegatedBefore(const QString &text, const Tokens &tokens, std::size_t at);
 
 /// True for 不参加了 and 不去.

@@ -30,7 +30,7 @@ bool isNamePart(const Token &token)
            token.is(WordClass::Title) || token.kind == Token::Kind::Latin;
 }
 
-/// The first token behind @p repair that says something: 不对，是四点 and 不对，约小王.
+/// The first token behind @p repair that says something: 四点 in 不对，是四点, 小王 in 不对，约小王.
 std::size_t replacementOf(const Tokens &tokens, std::size_t repair)
 {
     constexpr WordClasses leading = WordClass::Filler | WordClass::LabelLink | WordClass::Trigger |
@@ -70,7 +70,7 @@ void replaceTime(Token &later, const Token &earlier)
     later.time.complete(rest);
 }
 
-/// Where the name that ends right before @p repair begins; None when no name stands there.
+/// The first token of the name that stands right before @p repair, None if there is none.
 std::size_t nameBefore(const Tokens &tokens, std::size_t repair)
 {
     std::size_t end = repair;
@@ -89,8 +89,8 @@ bool callsPeople(const Token &token)
     return token.is(WordClass::Trigger) && !token.is(WordClass::StrongOpen);
 }
 
-/// 约小张开会，不对，约小王: the last call before @p repair with the name behind it, when the replacement
-/// calls, too. Drops them; false where nobody was called.
+/// Drops the name behind the last call before @p repair, and the call too if the replacement calls:
+/// 约小张开会，不对，约小王. Returns false if nobody was called, or several people.
 bool dropCall(Tokens &tokens, std::size_t repair, std::size_t later, std::vector<bool> &dropped)
 {
     bool called = false;
@@ -120,7 +120,7 @@ bool dropCall(Tokens &tokens, std::size_t repair, std::size_t later, std::vector
     return true;
 }
 
-/// Marks what @p repair replaces as dropped; true when it replaced something.
+/// Marks what @p repair replaces as dropped; returns true if it replaced something.
 bool repairAt(Tokens &tokens, std::size_t repair, std::vector<bool> &dropped)
 {
     const std::size_t later = replacementOf(tokens, repair);
@@ -149,7 +149,7 @@ bool repairAt(Tokens &tokens, std::size_t repair, std::vector<bool> &dropped)
     } else {
         return false;
     }
-    // The repair goes with the pauses around it, so that one clause remains.
+    // Drop the pauses around the repair, too, so that one clause remains.
     dropped[repair] = !tokens[repair].is(WordClass::Trigger);
     for (std::size_t at = repair; at > 0 && (isPause(tokens[at - 1]) || dropped[at - 1]); --at) {
         dropped[at - 1] = true;
@@ -161,7 +161,7 @@ bool repairAt(Tokens &tokens, std::size_t repair, std::vector<bool> &dropped)
     return true;
 }
 
-/// Makes 改成 a repair where no conference that exists is spoken of.
+/// Makes 改成 a repair unless it changes an existing conference.
 void settleChanges(const QString &text, Tokens &tokens)
 {
     bool opened = false;

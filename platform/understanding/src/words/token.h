@@ -16,7 +16,7 @@ namespace understanding {
 struct Token
 {
     enum class Kind {
-        Other,    ///< characters that no rule knows: the stuff of names and topics
+        Other,    ///< characters no rule knows: names and topics consist of them
         Word,     ///< a word of the rules
         Name,     ///< a known contact
         Time,     ///< a moment or a day
@@ -32,8 +32,8 @@ struct Token
     QString name; ///< of a known contact
     TimeExpression time;
     bool inTopic = false;    ///< part of what a conference is about
-    bool inName = false;     ///< part of somebody's name, or of what says who it is
-    bool inModifier = false; ///< says who it is: 产品经理 in 产品经理吴迪
+    bool inName = false;     ///< part of a person's name or description
+    bool inModifier = false; ///< part of a person's description: 产品经理 in 产品经理吴迪
 
     int end() const { return position + length; }
     bool is(WordClass wordClass) const { return classes.has(wordClass); }

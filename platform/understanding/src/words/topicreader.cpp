@@ -24,7 +24,7 @@ bool labelsTime(const QString &text, const Token &token)
     return token.is(WordClass::Filler) && firstOf(text, token.position, {u"时间", u"日期"}) > 0;
 }
 
-/// 说说 in 说说我明天的会: it asks what there is, and says nothing about a conference.
+/// 说说 in 说说我明天的会: asks which conferences there are; no topic follows.
 bool asksAtStart(const Tokens &tokens, std::size_t at)
 {
     if (!tokens[at].is(WordClass::Query)) {
@@ -127,7 +127,7 @@ void settleTopics(const QString &text, Tokens &tokens)
         timed = (timed || token.time.hasClock) && !token.is(WordClass::Punctuation);
         joined = (joined || token.is(WordClass::Trigger)) && !token.is(WordClass::Punctuation);
         token.inTopic = inTopic;
-        // 评审 in 邀请评审专家戚教授 tells who is called.
+        // 评审 in 邀请评审专家戚教授 describes who is called.
         if (token.is(WordClass::Topic) && !called && !asksAtStart(tokens, at)) {
             inTopic = true;
         }

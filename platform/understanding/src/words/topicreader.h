@@ -7,7 +7,7 @@
 
 namespace understanding {
 
-/// Marks what a conference is about: it runs to the end of its clause or to the conference, 关于预算的会议.
+/// Marks the topic of a conference, which runs to the end of its clause or to the conference: 关于预算的会议.
 void settleTopics(const QString &text, Tokens &tokens);
 
 } // namespace understanding

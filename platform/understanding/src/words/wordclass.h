@@ -7,8 +7,8 @@
 
 namespace understanding {
 
-/// What a word is; one bit each, a word may be several things. The names in the rule files are the
-/// enumerators' with spaces, in the order of the table in lexicon.cpp.
+/// What a word is, one bit each; a word may be several things. The rule files spell these names in lower case
+/// with spaces; lexicon.cpp has the table.
 enum class WordClass : quint8 {
     Conference,    ///< 会议
     Video,         ///< 视频, 聊一下: a conference when people are named
@@ -73,11 +73,10 @@ enum class WordClass : quint8 {
     Reported, ///< 已经, 刚刚: it has happened, or has not
     Framed,   ///< 听说, 如果: told, wished or supposed, not ordered
     Repair,   ///< 不对: what follows replaces what was said
-    Address,  ///< 兄弟, 管家: how somebody is addressed, no name
+    Address,  ///< 兄弟, 管家: a form of address, no name
     Count
 };
 
-/// A set of word classes.
 class WordClasses final
 {
 public:

@@ -5,9 +5,11 @@
 
 #include <kelvane/kelvaneabilitymanager.h>
 
+#include <QGlobalStatic>
+
 namespace {
 
-QString preparedAnswer;
+Q_GLOBAL_STATIC(QString, preparedAnswer)
 bool answersAtOnce = false;
 
 class InstantAbility final : public ContactAbility
@@ -17,7 +19,7 @@ public:
 
     int request(const QString & /*action*/, const QString & /*parameters*/, QString &answer) override
     {
-        answer = preparedAnswer;
+        answer = *preparedAnswer;
         return 0;
     }
 };
@@ -44,7 +46,7 @@ ContactAbility *__wrap__ZN21KelvaneAbilityManager13createContactEv(KelvaneAbilit
 
 void Stubs::answerAtOnce(const QString &answer)
 {
-    preparedAnswer = answer;
+    *preparedAnswer = answer;
     answersAtOnce = true;
 }
 

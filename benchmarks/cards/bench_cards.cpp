@@ -4,21 +4,21 @@
 #include "conferencemsgstaticwidget.h"
 #include "plainwidgets.h"
 #include "runbenchmarks.h"
+#include "threadtime.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
 #include <QImage>
 
-#include <ctime>
 #include <functional>
 #include <memory>
 
 namespace {
 
 constexpr QSize ViewSize(372, 480);
-constexpr double NanosecondsPerSecond = 1e9;
-constexpr double NanosecondsPerMicrosecond = 1e3;
+constexpr double MillisecondsPerSecond = 1e3;
+constexpr double MicrosecondsPerMillisecond = 1e3;
 
 UserInfo user(int number)
 {
@@ -87,14 +87,6 @@ Card candidates(const ContactInviteMemberDetail &detail)
     return card;
 }
 
-/// CPU time of this thread, so that other load on the machine does not count.
-qint64 cpuNanoseconds()
-{
-    timespec now{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return qint64(now.tv_sec) * 1000000000 + now.tv_nsec;
-}
-
 void paint(QWidget &widget, QImage &image)
 {
     widget.resize(ViewSize);
@@ -117,14 +109,14 @@ void paint(QWidget &widget, QImage &image)
     return widget;
 }
 
-/// Nanoseconds until @p painted has returned what it painted; destroying that does not count.
+/// Milliseconds until @p painted has returned what it painted; destroying that does not count.
 template <typename Painted>
-qint64 untilPainted(const Painted &painted)
+double untilPainted(const Painted &painted)
 {
     QImage image(ViewSize, QImage::Format_ARGB32_Premultiplied);
-    const qint64 start = cpuNanoseconds();
+    const double start = threadMsecs();
     const auto widget = painted(image);
-    const qint64 elapsed = cpuNanoseconds() - start;
+    const double elapsed = threadMsecs() - start;
     benchmark::DoNotOptimize(image.bits());
     // As in a host, where the event loop runs before a card is deleted.
     QCoreApplication::sendPostedEvents();
@@ -140,14 +132,14 @@ void againstPlainWidgets(benchmark::State &state, const std::function<Card()> &b
         return PlainWidgets(*card);
     };
     const PlainWidgets plain = read();
-    qint64 cardTotal = 0;
-    qint64 plainTotal = 0;
+    double cardTotal = 0;
+    double plainTotal = 0;
     const auto timeCard = [&] {
         cardTotal += untilPainted([&build](QImage &image) { return paintedCard(build, image); });
     };
     bool cardFirst = true;
     for ([[maybe_unused]] auto iteration : state) {
-        const qint64 before = cardTotal;
+        const double before = cardTotal;
         // Alternate within a pair, too: the second finds the caches warm.
         if (cardFirst) {
             timeCard();
@@ -157,13 +149,13 @@ void againstPlainWidgets(benchmark::State &state, const std::function<Card()> &b
             timeCard();
         }
         cardFirst = !cardFirst;
-        state.SetIterationTime(double(cardTotal - before) / NanosecondsPerSecond);
+        state.SetIterationTime((cardTotal - before) / MillisecondsPerSecond);
     }
     const auto iterations = double(state.iterations());
     state.counters["widgets"] = plain.count();
-    state.counters["card_us"] = double(cardTotal) / iterations / NanosecondsPerMicrosecond;
-    state.counters["plain_us"] = double(plainTotal) / iterations / NanosecondsPerMicrosecond;
-    state.counters["ratio"] = double(cardTotal) / double(plainTotal);
+    state.counters["card_us"] = cardTotal / iterations * MicrosecondsPerMillisecond;
+    state.counters["plain_us"] = plainTotal / iterations * MicrosecondsPerMillisecond;
+    state.counters["ratio"] = cardTotal / plainTotal;
 }
 
 void oneConference(benchmark::State &state)

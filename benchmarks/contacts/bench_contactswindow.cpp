@@ -3,6 +3,7 @@
 
 #include "fullbook.h"
 #include "runbenchmarks.h"
+#include "threadtime.h"
 
 #include "book/administration.h"
 #include "window/contactswindow.h"
@@ -15,21 +16,12 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <ctime>
 #include <vector>
 
 namespace {
 
 constexpr int LongestWaitMsecs = 10000;
 constexpr int Writes = 15;
-
-/// CPU time of this thread, so that other load on the machine does not count.
-double threadMsecs()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
-}
 
 double median(std::vector<double> values)
 {

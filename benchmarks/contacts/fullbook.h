@@ -15,9 +15,6 @@
 class FullBook
 {
 public:
-    static constexpr qint64 HourMsecs = 60 * 60 * 1000;
-    static constexpr qint64 DayMsecs = 24 * HourMsecs;
-
     FullBook(qint64 conferences, qint64 contacts)
         : m_now(QDateTime(QDate(2026, 3, 7), QTime(10, 20)).toMSecsSinceEpoch())
         , book(m_folder.filePath(QStringLiteral("contacts.db")), [this] { return m_now; })

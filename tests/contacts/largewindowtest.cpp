@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "largewindowtest.h"
+#include "threadtime.h"
 
 #include "core/statement.h"
 
 #include <QTabWidget>
 #include <QtTest>
-
-#include <ctime>
 
 void LargeWindowTest::initTestCase()
 {
@@ -25,13 +24,6 @@ void LargeWindowTest::cleanupTestCase()
 {
     m_window.reset();
     m_world.reset();
-}
-
-double LargeWindowTest::threadMsecs()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
 }
 
 TablePage *LargeWindowTest::page(int index) const

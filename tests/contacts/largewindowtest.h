@@ -27,7 +27,6 @@ private Q_SLOTS:
 
 protected:
     static constexpr int Count = 100000;
-    static constexpr qint64 HourMsecs = 3600000;
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     static constexpr double Slower = 10; // still far below one pass over everything
 #else
@@ -35,9 +34,6 @@ protected:
 #endif
     /// One frame at 60 frames per second.
     static constexpr double MostShownMsecs = 16 * Slower;
-
-    /// Returns this thread's CPU time, which doesn't depend on the machine's load.
-    static double threadMsecs();
 
     TablePage *page(int index) const;
     /// Measures the window's update after a change, including painting. Negative if there is no update.

@@ -13,7 +13,6 @@
 
 #include <memory>
 
-constexpr qint64 HourMsecs = 60 * MinuteMsecs;
 inline const QString User = QStringLiteral("100001");
 inline const QString Friend = QStringLiteral("100003");
 

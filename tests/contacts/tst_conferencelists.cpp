@@ -23,8 +23,6 @@ private Q_SLOTS:
 
 namespace {
 
-constexpr qint64 DayMsecs = 24 * 60 * MinuteMsecs;
-
 QStringList numbers(const QVector<Conference> &conferences)
 {
     QStringList numbers;

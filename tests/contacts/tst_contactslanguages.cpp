@@ -19,8 +19,6 @@
 
 namespace {
 
-constexpr qint64 HourMsecs = 3600 * 1000;
-
 /// Fills @p world with people and conferences whose names are digits, and logs in account 1.
 void nameWithDigits(SampleWorld &world)
 {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "largewindowtest.h"
+#include "threadtime.h"
 
 #include "testcolumns.h"
 #include "window/peoplemodel.h"

@@ -5,22 +5,14 @@
 
 #include "cardsamples.h"
 #include "conferencemsgstaticwidget.h"
+#include "threadtime.h"
 
 #include <QCoreApplication>
 #include <QScrollArea>
 
-#include <ctime>
-
 using namespace CardSamples;
 
 namespace {
-
-double cpuMilliseconds()
-{
-    timespec now{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
-}
 
 template <QString ContactDetailMsg::*Shown>
 void showOne(ConferenceMsgStaticWidget &card, const QString &text)
@@ -92,12 +84,12 @@ double CardCosts::untilPainted(const std::function<void(ConferenceMsgStaticWidge
     QScrollArea host;
     host.setWidgetResizable(true);
     host.resize(372, 480);
-    const double start = cpuMilliseconds();
+    const double start = threadMsecs();
     auto *card = new ConferenceMsgStaticWidget;
     build(*card);
     host.setWidget(card);
     host.grab();
-    const double elapsed = cpuMilliseconds() - start;
+    const double elapsed = threadMsecs() - start;
     // A host's event loop runs before a card is deleted. Otherwise each widget would search all posted events
     // for its own.
     QCoreApplication::sendPostedEvents();

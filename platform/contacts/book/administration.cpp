@@ -18,8 +18,6 @@
 
 namespace {
 
-constexpr qint64 HourMsecs = 60 * 60 * 1000;
-
 std::optional<AccountKind> kindOf(const QString &word)
 {
     if (word == QLatin1String("paying")) {

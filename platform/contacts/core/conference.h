@@ -7,6 +7,8 @@
 #include <QVector>
 
 constexpr qint64 MinuteMsecs = 60 * 1000;
+constexpr qint64 HourMsecs = 60 * MinuteMsecs;
+constexpr qint64 DayMsecs = 24 * HourMsecs;
 
 /// Derived from the clock alone. The numbers are part of the answers.
 enum class ConferenceState { NotStarted = 0, Running = 1, Ended = 2 };

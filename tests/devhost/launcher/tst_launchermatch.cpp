@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "launchermatcher.h"
+#include "threadtime.h"
 
 #include <QtTest>
 
 #include <algorithm>
-#include <ctime>
 #include <limits>
 
 using namespace devhost;
@@ -19,14 +19,6 @@ const QDateTime &now()
     return time;
 }
 
-/// Returns this thread's CPU time, so that other programs don't count.
-double workedMsecs()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
-}
-
 /// Returns the best of up to three tries; a short one is taken at once. The kernel's work for other programs
 /// (interrupts, pages) is charged to the running thread, too, but hardly three times in a row.
 double matchMsecs(LauncherMatcher &matcher, const QString &text, const QDateTime &now)
@@ -34,9 +26,9 @@ double matchMsecs(LauncherMatcher &matcher, const QString &text, const QDateTime
     constexpr double suspicious = 1;
     double least = std::numeric_limits<double>::max();
     for (int tries = 3; tries > 0 && least > suspicious; --tries) {
-        const double before = workedMsecs();
+        const double before = threadMsecs();
         matcher.match(text, now);
-        least = std::min(least, workedMsecs() - before);
+        least = std::min(least, threadMsecs() - before);
     }
     return least;
 }

@@ -86,12 +86,14 @@ Loading measure(const char *option, const char *file)
     QProcess process;
     process.start(QCoreApplication::applicationFilePath(),
                   {QLatin1String(option), QString::fromLocal8Bit(file)});
-    process.waitForFinished();
-    const QByteArrayList printed = process.readAllStandardOutput().trimmed().split(' ');
-    if (process.exitCode() != 0 || printed.size() != 2) {
+    if (!process.waitForFinished() || process.exitCode() != 0) {
         return {};
     }
-    return {printed.first().toLongLong(), printed.last().toLongLong()};
+    const QByteArrayList printed = process.readAllStandardOutput().trimmed().split(' ');
+    bool isTime = false;
+    bool isCount = false;
+    const Loading loading{printed.first().toLongLong(&isTime), printed.last().toLongLong(&isCount)};
+    return isTime && isCount && printed.size() == 2 ? loading : Loading();
 }
 
 double median(const std::vector<Loading> &loadings, qint64 Loading::*figure)

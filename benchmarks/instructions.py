@@ -83,9 +83,11 @@ def count(function, command, bind_now=True):
     """What all calls of FUNCTION took while COMMAND ran. What is called is looked up at the start if BIND_NOW."""
     environment = {**os.environ, "LD_BIND_NOW": "1"} if bind_now else os.environ
     with tempfile.NamedTemporaryFile() as file:
-        subprocess.run(
+        run = subprocess.run(
             ["valgrind", "--tool=callgrind", f"--callgrind-out-file={file.name}", f"--toggle-collect=*{function}*"] + command,
-            env=environment, check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            env=environment, text=True, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
+        if run.returncode != 0:
+            sys.exit(f"{run.stderr}{command[0]} failed under callgrind.")
         return Count(file.name)
 
 

@@ -58,7 +58,7 @@ void writeTexts(FuzzedDataProvider &bytes)
         }
     }
     // Members that are built as objects keep an empty name; it is only dropped later.
-    const int hasEmpty =
+    const bool hasEmpty =
         std::any_of(names.cbegin(), names.cend(), [](const QString &name) { return name.isEmpty(); });
     require(RequestText::membersNamed(names).size() == expected.size() + (hasEmpty ? 1 : 0));
     const QJsonArray members =

@@ -73,7 +73,7 @@ void TiTleItem::insertConferenceMsg(const UserInfo &user)
     }
     m_detailLabel = addLabel(user.account, CardTheme::CaptionAlpha, SpaceBeforeMark);
     m_layout->addWidget(m_checkBox);
-    setAccessibleNames(shownName);
+    setAccessibleName(CardText::beginning(shownName));
     setAccessibleDescription(CardText::beginning(user.account));
 }
 
@@ -82,7 +82,7 @@ void TiTleItem::insertSinglePersonName(const UserInfo &user)
     m_user = user;
     m_nameLabel = addLabel(user.name, CardTheme::ValueAlpha);
     m_layout->addWidget(m_checkBox);
-    setAccessibleNames(user.name);
+    setAccessibleName(CardText::beginning(user.name));
 }
 
 UserInfo TiTleItem::getUserInfo() const
@@ -175,11 +175,6 @@ LLabel *TiTleItem::addLabel(const QString &text, int alpha, int spaceBehind)
     label->setMinimumWidth(qMin(label->sizeHint().width(), LeastTextWidth));
     m_layout->addWidget(label);
     return label;
-}
-
-void TiTleItem::setAccessibleNames(const QString &name)
-{
-    setAccessibleName(CardText::beginning(name));
 }
 
 void TiTleItem::select()

@@ -52,7 +52,6 @@ protected:
 
 private:
     LLabel *addLabel(const QString &text, int alpha, int spaceBehind = 0);
-    void setAccessibleNames(const QString &name);
     void select();
     void deselect();
     void followTheme();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "largewindowtest.h"
+#include "threadtime.h"
 
 #include "window/conferencemodel.h"
 #include "window/peoplemodel.h"
@@ -40,9 +41,7 @@ void TestLargeTables::finishReading()
         goes.append(threadMsecs() - before);
     }
     std::sort(goes.begin(), goes.end());
-    if (goes.size() < 20) {
-        return; // too few for a percentile
-    }
+    QVERIFY2(goes.size() >= 20, "everybody was read in a few goes");
     // The 95th percentile leaves out hiccups of the machine and the last go, which shows the rows.
     const double most = goes.at(goes.size() * 19 / 20);
     qInfo("%d goes, %.2f ms nearly all, %.2f ms the longest", goes.size(), most, goes.constLast());
@@ -106,7 +105,6 @@ void TestLargeTables::anotherOrderIsOfAllPeople()
     finishReading();
     QCOMPARE(table->model()->rowCount(), Count + 23);
     table->sortByColumn(PeopleModel::Account, Qt::AscendingOrder);
-    finishReading();
     QVERIFY(table->model()->rowCount() < Count);
 }
 

@@ -107,6 +107,7 @@ void damaged(WindowFixture &fixture)
         return true;
     });
     fixture.reopen();
+    QVERIFY(QTest::qWaitForWindowActive(fixture.window.get()));
 }
 
 } // namespace

@@ -9,7 +9,7 @@ QT_BEGIN_NAMESPACE
 class QJsonDocument;
 QT_END_NAMESPACE
 
-/// Reads one JSON file at a time and owns what it has read.
+/// Reads one JSON file at a time and owns the document of the last one.
 class JsonConfigLoader : public QObject
 {
     Q_OBJECT
@@ -20,11 +20,11 @@ public:
 
     /**
      * Null when the file cannot be read, is not a regular file or is larger than 1 MB; a null document when
-     * it is not JSON. Owned by the loader; a document loaded before stays valid, since its caller may still
-     * read it.
+     * it is not JSON. Owned by the loader. A document loaded before is never deleted, since its caller may
+     * still read it.
      */
     virtual QJsonDocument *load(const QString &path);
-    /// Nothing: documents live as long as the loader.
+    /// Does nothing: documents live at least as long as the loader.
     virtual void unload();
 
 private:

@@ -152,7 +152,7 @@ QString Dialogue::Private::answerQuestion(const Reading &reading, const Outcome 
         if (startsSomethingNew(fresh)) {
             return reply(fresh, reading.time());
         }
-        return asked == TooManyPasswords ? close("passwords-tried") : askAgain();
+        return asked == TooManyPasswords ? close(TooManyPasswords.data()) : askAgain();
     }
     if (!answered.answer.isEmpty()) { // still not a usable time
         question.outcome.answer = answered.answer;

@@ -78,10 +78,7 @@ bool governsConference(const QString &text, const Tokens &tokens, std::size_t ve
             WordClass::Zone | WordClass::Lunar | WordClass::Festival | WordClass::Question;
         if (token.kind == Token::Kind::Time || token.kind == Token::Kind::Duration ||
             token.isAny(describing)) {
-            described = true;
-            if (token.is(WordClass::Topic)) { // 开个讨论预算的会
-                continue;
-            }
+            described = true; // 开个讨论预算的会
             continue;
         }
         const bool companions =

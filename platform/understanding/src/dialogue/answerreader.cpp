@@ -5,6 +5,7 @@
 
 #include "meaning/interpreter.h"
 #include "text/chinesenumber.h"
+#include "words/lexicon.h"
 
 #include <algorithm>
 
@@ -113,7 +114,10 @@ bool takeAccount(const Reading &reading, Outcome &outcome)
         return true;
     }
     const std::vector<FoundName> names = answeredNames(reading);
-    if (names.empty()) {
+    const auto isNobody = [](const FoundName &name) { // 是我同学
+        return Lexicon::instance().classesOf(name.name).intersects(WordClass::Title | WordClass::Nobody);
+    };
+    if (names.empty() || isNobody(names.front())) {
         return false;
     }
     outcome.addSlot(AccountSlot, names.front().said, names.front().name);

@@ -31,6 +31,31 @@ YesNo readYesNo(const Sentence &sentence)
     QString text;
     std::copy_if(sentence.text().cbegin(), sentence.text().cend(), std::back_inserter(text),
                  [](QChar character) { return character.isLetterOrNumber(); });
+    static const QStringList agreeing = {
+        QStringLiteral("好的"), QStringLiteral("是的"), QStringLiteral("可以"),
+        QStringLiteral("嗯"),   QStringLiteral("好"),   QStringLiteral("对"),
+        QStringLiteral("行"),   QStringLiteral("是"),   QStringLiteral("那就")};
+    static const QStringList doing = {QStringLiteral("进"),   QStringLiteral("加"),   QStringLiteral("约"),
+                                      QStringLiteral("定"),   QStringLiteral("订"),   QStringLiteral("建"),
+                                      QStringLiteral("拉"),   QStringLiteral("开"),   QStringLiteral("发"),
+                                      QStringLiteral("加入"), QStringLiteral("安排"), QStringLiteral("预约"),
+                                      QStringLiteral("邀请"), QStringLiteral("发起")};
+    static const QStringList asking = {QStringLiteral("麻烦帮我"), QStringLiteral("你帮我"),
+                                       QStringLiteral("帮我"),     QStringLiteral("给我"),
+                                       QStringLiteral("你"),       QString()};
+    for (const QString &yes : agreeing) { // 对，帮我约上
+        for (const QString &plea : asking) {
+            if (text.startsWith(yes + plea)) {
+                QString deed = text.mid(yes.size() + plea.size());
+                while (deed.size() > 1 && QStringLiteral("吧上一下好").contains(deed.at(deed.size() - 1))) {
+                    deed.chop(1);
+                }
+                if (doing.contains(deed)) {
+                    return YesNo::Yes;
+                }
+            }
+        }
+    }
     while (!text.isEmpty()) {
         const auto answer = answers.constFind(text);
         if (answer != answers.cend()) {

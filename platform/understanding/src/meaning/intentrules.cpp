@@ -129,7 +129,8 @@ bool asksWhether(const Reading &reading)
     static const QStringList polite = {QStringLiteral("可以"), QStringLiteral("能"),   QStringLiteral("帮"),
                                        QStringLiteral("麻烦"), QStringLiteral("行吗"), QStringLiteral("好吗"),
                                        QStringLiteral("可否"), QStringLiteral("方便"), QStringLiteral("给我"),
-                                       QStringLiteral("成吗")};
+                                       QStringLiteral("成吗"), QStringLiteral("中不"), QStringLiteral("成不"),
+                                       QStringLiteral("行不"), QStringLiteral("好不")};
     return std::none_of(polite.cbegin(), polite.cend(),
                         [&](const QString &word) { return reading.sentence().text().contains(word); });
 }

@@ -80,7 +80,7 @@ bool Reading::callsNobodyKnown() const
 
 bool Reading::namesOnlyOccasion() const
 {
-    static const QString occasions = QStringLiteral("饭班休课线版布觉");
+    static const QString occasions = QStringLiteral("饭班休课线版布觉睡");
     return std::all_of(m_tokens.cbegin(), m_tokens.cend(), [&](const Token &token) {
         const QString text = m_sentence.text().mid(token.position, token.length);
         return !token.is(WordClass::UnclearDay) ||

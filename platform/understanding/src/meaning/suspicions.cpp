@@ -39,6 +39,9 @@ bool isLeftByOther(const Reading &reading)
     const Tokens &tokens = reading.tokens();
     bool served = false;
     bool asked = reading.isAsked();
+    if (text.contains(QStringLiteral("还是再"))) { // 帮我退会好不好，还是再等等
+        return true;
+    }
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         const Token &token = tokens[at];
         const QString word = text.mid(token.position, token.length);

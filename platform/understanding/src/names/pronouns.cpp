@@ -67,11 +67,12 @@ int subjectLength(const QString &text, int position, int end)
         }
         const int behind = position + length;
         if (behind == end ||
-            firstOf(text, behind, {u"说",   u"掉", u"断", u"卡",   u"退",   u"有",  u"没",   u"不",   u"在",
-                                   u"能",   u"还", u"要", u"想",   u"也",   u"来",  u"那边", u"这边", u"呢",
-                                   u"怎么", u"懂", u"熟", u"知道", u"等",   u"已",  u"刚",   u"今",   u"明",
-                                   u"后天", u"下", u"上", u"方便", u"负责", u"是",  u"最",   u"比较", u"忘",
-                                   u"和",   u"跟", u"、", u"空",   u"清楚", u"了解"}) > 0) {
+            firstOf(text, behind,
+                    {u"说",   u"进",   u"了",   u"进", u"了",   u"掉",   u"断", u"卡", u"退",   u"有",
+                     u"没",   u"不",   u"在",   u"能", u"还",   u"要",   u"想", u"也", u"来",   u"那边",
+                     u"这边", u"呢",   u"怎么", u"懂", u"熟",   u"知道", u"等", u"已", u"刚",   u"今",
+                     u"明",   u"后天", u"下",   u"上", u"方便", u"负责", u"是", u"最", u"比较", u"忘",
+                     u"和",   u"跟",   u"、",   u"空", u"清楚", u"了解"}) > 0) {
             return length;
         }
     }
@@ -84,10 +85,11 @@ std::vector<FoundName> introducedBy(const QString &raw, const QString &text, int
     int position = begin;
     for (int length = 1; length > 0; position += length) {
         length = firstOf(text, position,
-                         {u"怎么",   u"好像",   u"会里",   u"会上", u"这个事得", u"这事得", u"这块得",
-                          u"没看到", u"没看见", u"没见到", u"没见", u"忘了叫",   u"忘叫",   u"得问",
-                          u"还",     u"就",     u"只",     u"差",   u"少",       u"缺",     u"漏",
-                          u"了",     u"个",     u"哎",     u"诶",   u"那",       u" "});
+                         {u"你帮我看看", u"帮我看看", u"你看看",   u"看看",   u"看下",   u"怎么",   u"好像",
+                          u"会里",       u"会上",     u"这个事得", u"这事得", u"这块得", u"没看到", u"没看见",
+                          u"没见到",     u"没见",     u"忘了叫",   u"忘叫",   u"得问",   u"还",     u"就",
+                          u"只",         u"差",       u"少",       u"缺",     u"漏",     u"了",     u"个",
+                          u"哎",         u"诶",       u"那",       u" "});
     }
     std::vector<FoundName> introduced;
     while (const int length = subjectLength(text, position, end)) {
@@ -125,7 +127,8 @@ bool callIntroduced(const std::vector<FoundName> &introduced, int introduction, 
             return other.position == name.position;
         });
         called.push_back(name);
-        if (known != names.cend()) { // a contact, perhaps spelled in another way
+        if (known != names.cend() &&
+            known->said.size() == name.said.size()) { // a contact, perhaps spelled in another way
             called.back().name = known->name;
         }
     }

@@ -287,7 +287,12 @@ bool Clause::isStatement() const
                            m_tokens[at + 1].inName; // 跟老柏还有小马碰一下
         return m_tokens[at].is(WordClass::Have) && !m_tokens[at].inName && !lists;
     });
-    return m_intent == QLatin1String(CreateConference) && has && m_reading.openVerb().isEmpty();
+    const bool tells = any([&](std::size_t at) { // 跟我开会的还有小马
+        return at > m_begin + 1 && m_tokens[at].is(WordClass::Have) &&
+               charAt(m_reading.sentence().text(), m_tokens[at].position - 1) == QChar(u'的') &&
+               m_tokens[at - 2].is(WordClass::Conference);
+    });
+    return m_intent == QLatin1String(CreateConference) && (tells || (has && m_reading.openVerb().isEmpty()));
 }
 
 bool Clause::isOnlyNumber() const

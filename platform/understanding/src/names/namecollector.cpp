@@ -54,7 +54,7 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
         name = whole ? name.mid(modifier) : withoutParticles(name.mid(modifier));
     }
     if (name.size() < 2 || name.size() > LongestName ||
-        (mustLookLikeName && !looksLikeName(name) && !isPeople(name))) {
+        (mustLookLikeName && m_modifierStart < 0 && !looksLikeName(name) && !isPeople(name))) {
         return;
     }
     if (Lexicon::instance().classesOf(name).has(WordClass::Nobody) || isThing(name) ||

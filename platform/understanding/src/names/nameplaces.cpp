@@ -331,7 +331,8 @@ bool NamePlaces::callsAgain(std::size_t lead, std::size_t next) const
 bool NamePlaces::isOwner(std::size_t at) const
 {
     return m_tokens[at].is(WordClass::Mine) && at + 1 < m_tokens.size() &&
-           (m_tokens[at + 1].isAny(WordClass::Nobody | WordClass::Filler | WordClass::Title) ||
+           (m_tokens[at + 1].isAny(WordClass::Nobody | WordClass::Filler | WordClass::Title |
+                                   WordClass::Address) ||
             m_tokens[at + 1].kind == Token::Kind::Other || m_tokens[at + 1].kind == Token::Kind::Name);
 }
 

@@ -8,6 +8,7 @@
 #include "text/scan.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace understanding {
 
@@ -73,6 +74,17 @@ public:
     }
 
 private:
+    /// Behind a word that calls, or at the start of what only names somebody: 视频组的史小平.
+    bool isSomebodyExpected()
+    {
+        constexpr WordClasses leading = WordClass::Filler | WordClass::Punctuation | WordClass::LabelLink;
+        if (!m_joined.empty() && isLead(m_joined.back())) {
+            return true;
+        }
+        return onlyNames() && std::all_of(m_joined.cbegin(), m_joined.cend(),
+                                          [](const Token &token) { return token.isAny(leading); });
+    }
+
     bool isBehindLead() const { return !m_joined.empty() && isLead(m_joined.back()); }
 
     Token wordUntil(int end, WordClass wordClass) const
@@ -126,7 +138,7 @@ private:
     /// 渠道部所有人, 研究生们
     bool joinGroup()
     {
-        if (!isBehindLead()) {
+        if (!isSomebodyExpected()) {
             return false;
         }
         constexpr int longestGroup = 10;
@@ -181,7 +193,7 @@ private:
         static const QString owners = QStringLiteral("我咱俺你您他她");
         const bool listed = m_relativeEnd == owner.position; // 咱爸杨树林咱妈吴桂兰
         if (!owner.isAny(WordClass::Nobody | WordClass::Mine) ||
-            !owners.contains(m_text.at(owner.position)) || !(isBehindLead() || listed)) {
+            !owners.contains(m_text.at(owner.position)) || !(listed || isSomebodyExpected())) {
             return false;
         }
         const int length = relativeLength(owner.end());
@@ -209,11 +221,13 @@ private:
         constexpr WordClasses never = WordClass::Punctuation | WordClass::Negation | WordClass::Query |
                                       WordClass::Question | WordClass::Topic | WordClass::Arrive |
                                       WordClass::Request | WordClass::Filler;
+        const bool isPointer =
+            firstOf(m_text, token.position, {u"那个", u"这个", u"那位", u"这位"}) == token.length;
         const bool separates =
             token.isAny(WordClass::Separator | WordClass::Trigger) && !token.is(WordClass::WeakTrigger);
         return (token.kind == Token::Kind::Other || token.kind == Token::Kind::Word ||
                 token.kind == Token::Kind::Latin) &&
-               !token.isAny(never) && !separates;
+               (isPointer || !token.isAny(never)) && !separates;
     }
 
     /// The place of the name that @p at begins with, or that follows what tells of somebody: 那位, 谈判代表.
@@ -239,20 +253,29 @@ private:
         return m_tokens.size();
     }
 
+    /// 介绍 in 李姐介绍的牛经理: who is called is not who introduced them.
+    bool introduces(std::size_t at) const
+    {
+        return charAt(m_text, m_tokens[at].end()) == QChar(u'的') &&
+               firstOf(m_text, m_tokens[at].position,
+                       {u"介绍", u"推荐", u"提到", u"请来", u"找来", u"带来"}) > 0;
+    }
+
     /// 视频组的 in 约视频组的史小平, 上次来的那位 in 跟上次来的那位蒲先生: words of the rules describe
     /// somebody.
     bool joinOwner()
     {
-        constexpr int longest = 10;
+        constexpr int longest = 14;
         constexpr WordClasses speakers = WordClass::Nobody | WordClass::Mine | WordClass::Measure;
         const Token &first = m_tokens[m_at];
         const bool person =
             first.kind == Token::Kind::Other && nameBegins(m_text, m_tokens, m_at, first.position);
-        if (!isBehindLead() || first.isAny(speakers) || person || !meets()) {
+        if (!isSomebodyExpected() || first.isAny(speakers) || !(meets() || onlyNames())) {
             return false;
         }
         bool word = false;
-        for (std::size_t at = m_at; at < m_tokens.size() && describes(at); ++at) {
+        bool introduced = false;
+        for (std::size_t at = m_at; at < m_tokens.size() && (describes(at) || introduces(at)); ++at) {
             const Token &token = m_tokens[at];
             const int of = token.kind == Token::Kind::Other
                                ? m_text.midRef(token.position, token.length).indexOf(QChar(u'的'))
@@ -260,6 +283,7 @@ private:
             if (token.end() - first.position > longest + token.length) {
                 return false;
             }
+            introduced = introduced || introduces(at);
             if (of < 0) {
                 word = word || (token.kind == Token::Kind::Word && token.length > 1);
                 continue;
@@ -272,7 +296,10 @@ private:
                 name = at;
                 position = token.position + of + 1;
             }
-            if (!word || name == m_tokens.size()) {
+            if (name == m_tokens.size()) {
+                continue; // 介绍的那个装修公司的牛经理
+            }
+            if (!word || (person && !introduced)) {
                 return false;
             }
             m_joined.push_back(wordUntil(position, WordClass::Address));
@@ -292,9 +319,10 @@ private:
         const std::size_t next = m_at + 1;
         const bool ofSomething = !m_joined.empty() && m_joined.back().kind == Token::Kind::Other &&
                                  m_text.at(m_joined.back().end() - 1) == QChar(u'的'); // 上海的翻译小阮
-        if (!job.is(WordClass::Unsupported) || !(isBehindLead() || ofSomething) || next >= m_tokens.size() ||
-            m_tokens[next].position != job.end() || !nameBegins(m_text, m_tokens, next, job.end()) ||
-            !isModifier(m_text.mid(job.position, job.length)) || !meets()) {
+        if (!job.is(WordClass::Unsupported) || !(ofSomething || isSomebodyExpected()) ||
+            next >= m_tokens.size() || m_tokens[next].position != job.end() ||
+            !nameBegins(m_text, m_tokens, next, job.end()) ||
+            !isModifier(m_text.mid(job.position, job.length)) || !(meets() || onlyNames())) {
             return false;
         }
         m_joined.push_back(job);
@@ -303,18 +331,33 @@ private:
         return true;
     }
 
+    /// True where nothing is done, as in an answer: 上海的Zoë和翻译小柳.
+    bool onlyNames()
+    {
+        if (!m_onlyNames) {
+            constexpr WordClasses deeds = WordClass::Conference | WordClass::Join | WordClass::Arrive |
+                                          WordClass::ComeMeet | WordClass::Pull | WordClass::Invite |
+                                          WordClass::StrongOpen | WordClass::Query | WordClass::Add |
+                                          WordClass::Close | WordClass::Request;
+            m_onlyNames = std::none_of(m_tokens.cbegin(), m_tokens.cend(), [](const Token &token) {
+                return token.isAny(deeds) || token.kind == Token::Kind::Time ||
+                       (token.is(WordClass::Trigger) && !token.is(WordClass::Separator));
+            });
+        }
+        return *m_onlyNames;
+    }
+
     /// True when people come together somewhere in the sentence.
     bool meets()
     {
-        if (!m_meetsKnown) {
+        if (!m_meets) {
             constexpr WordClasses meeting = WordClass::Conference | WordClass::Join | WordClass::Arrive |
                                             WordClass::ComeMeet | WordClass::Video;
             m_meets = std::any_of(m_tokens.cbegin(), m_tokens.cend(), [](const Token &token) {
                 return token.isAny(meeting) || (token.is(WordClass::Pull) && token.length > 1); // 叫上
             });
-            m_meetsKnown = true;
         }
-        return m_meets;
+        return *m_meets;
     }
 
     const QString &m_text;
@@ -322,8 +365,8 @@ private:
     Tokens m_joined;
     std::size_t m_at = 0;
     int m_relativeEnd = -1; ///< where the name behind the last relative ends
-    bool m_meets = false;
-    bool m_meetsKnown = false;
+    std::optional<bool> m_meets;
+    std::optional<bool> m_onlyNames;
 };
 
 } // namespace

@@ -150,7 +150,12 @@ int resolvePronouns(const QString &raw, const QString &text, const Tokens &token
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         if (tokens[at].is(WordClass::Punctuation)) {
             std::vector<FoundName> fresh = introducedBy(raw, text, begin, tokens[at].position);
-            if (!fresh.empty()) {
+            const bool timed =
+                !fresh.empty() && // 明天下午三点开会，叫上
+                std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
+                    return token.kind == Token::Kind::Time && token.position == fresh.front().position;
+                });
+            if (!fresh.empty() && !timed) {
                 introduced = std::move(fresh);
                 introduction = begin;
             }

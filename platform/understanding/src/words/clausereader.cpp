@@ -259,10 +259,13 @@ void settleArrivals(const QString &text, Tokens &tokens)
 void settleCalls(const QString &text, Tokens &tokens)
 {
     for (std::size_t at = 0; at < tokens.size(); ++at) {
-        const bool somebodyBefore = at > 0 && (tokens[at - 1].kind == Token::Kind::Name ||
-                                               tokens[at - 1].kind == Token::Kind::Other ||
-                                               tokens[at - 1].kind == Token::Kind::Latin ||
-                                               tokens[at - 1].isAny(WordClass::Title | WordClass::NameTail));
+        const bool also = at > 0 && text.at(tokens[at - 1].position) == QChar(u'也'); // 把张伟也请进来
+        const std::size_t end = also ? at - 1 : at;
+        const bool somebodyBefore =
+            end > 0 &&
+            (tokens[end - 1].kind == Token::Kind::Name || tokens[end - 1].kind == Token::Kind::Other ||
+             tokens[end - 1].kind == Token::Kind::Latin ||
+             tokens[end - 1].isAny(WordClass::Title | WordClass::NameTail));
         if (tokens[at].is(WordClass::Arrive) && text.at(tokens[at].position) == QChar(u'请') &&
             !somebodyBefore) {
             tokens[at].classes.remove(WordClass::Arrive);

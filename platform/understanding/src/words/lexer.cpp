@@ -75,6 +75,13 @@ private:
         case u'加':
             length = firstOf(m_text, m_at, {u"加拉提"});
             break;
+        case u'建': // 建国 in 两位客户贺建国
+            if (!m_tokens.empty() && m_tokens.back().kind == Token::Kind::Other) {
+                length = firstOf(m_text, m_at,
+                                 {u"建国", u"建军", u"建华", u"建平", u"建明", u"建新", u"建伟", u"建文",
+                                  u"建民", u"建英", u"建林", u"建波", u"建强", u"建东", u"建成"});
+            }
+            break;
         case u'明': // 居委会的董明晨, but not 王总明晨
             length = isBehindFamilyName(m_text, m_tokens) ? firstOf(m_text, m_at, {u"明晨"}) : 0;
             break;

@@ -314,30 +314,26 @@ bool comesLater(const Reading &reading)
     return reading.has(WordClass::UnclearSoon); // 等会儿再加入123456789
 }
 
+bool tellsOnlyEnd(const Reading &reading)
+{
+    return reading.tellsOnlyEnd();
+}
+
 constexpr struct
 {
     const char *intent;
     bool (*isDoubtful)(const Reading &);
 } Doubts[] = {
-    {CreateConference, asksWho},
-    {CreateConference, tellsBeginning},
-    {CreateConference, tellsWhen},
-    {QueryConference, tellsWhen},
-    {CreateConference, onlyTalks},
-    {CreateConference, isHeldInRoom},
-    {CreateConference, sendsSomebody},
-    {CreateConference, reminds},
-    {CreateConference, callsStranger},
-    {CreateConference, mentionsStranger},
-    {CreateConference, onlySpeaksOf},
-    {CreateConference, asksAbility},
-    {InviteConference, sendsSomebody},
-    {InviteConference, callsForNothing},
-    {EnterConferenceById, tellsWhoseNumber},
-    {EnterConferenceById, comesLater},
-    {EnterMyConference, asksWho},
-    {EnterMyConference, asksHowMany},
-    {CloseConference, returnsRoom},
+    {CreateConference, asksWho},         {CreateConference, tellsBeginning},
+    {CreateConference, tellsWhen},       {QueryConference, tellsWhen},
+    {CreateConference, onlyTalks},       {CreateConference, isHeldInRoom},
+    {CreateConference, sendsSomebody},   {CreateConference, reminds},
+    {CreateConference, callsStranger},   {CreateConference, mentionsStranger},
+    {CreateConference, onlySpeaksOf},    {CreateConference, tellsOnlyEnd},
+    {CreateConference, asksAbility},     {InviteConference, sendsSomebody},
+    {InviteConference, callsForNothing}, {EnterConferenceById, tellsWhoseNumber},
+    {EnterConferenceById, comesLater},   {EnterMyConference, asksWho},
+    {EnterMyConference, asksHowMany},    {CloseConference, returnsRoom},
     {AddBuddy, onlyMentionsFriend},
 };
 

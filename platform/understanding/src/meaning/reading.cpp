@@ -111,15 +111,22 @@ void Reading::collectClasses()
     }
 }
 
+/// 五点 in 三点开会，开到五点 and in 三点开会到五点.
+bool Reading::isEnd(const Token &token) const
+{
+    const QStringRef before = m_sentence.text().midRef(0, token.position);
+    return before.endsWith(QStringLiteral("开到")) || before.endsWith(QStringLiteral("会到"));
+}
+
 void Reading::collectTimes()
 {
     for (const Token &token : m_tokens) {
         if ((token.kind != Token::Kind::Time && token.time.isEmpty()) || token.inTopic || token.inName) {
             continue;
         }
-        const bool ends = m_time.hasClock && token.time.hasClock && // 三点开会，开到五点
-                          m_sentence.text().midRef(0, token.position).endsWith(QStringLiteral("开到"));
-        if (ends) {
+        const bool ends = token.time.hasClock && isEnd(token);
+        m_endsOnly = m_endsOnly || (ends && !m_time.hasClock);
+        if (ends && m_time.hasClock) {
             continue;
         }
         const bool again = m_time.hasClock && token.time.hasClock && m_time.hour == token.time.hour &&

@@ -52,6 +52,8 @@ public:
     /// How many of the times name an hour.
     int clockCount() const { return m_clockCount; }
 
+    /// 明天开会到五点: it is said when the conference ends, but not when it begins.
+    bool tellsOnlyEnd() const { return m_endsOnly; }
     /// 今天 and 明天 in one sentence.
     bool namesTwoDays() const { return m_daysDiffer; }
     bool hasDoubtfulName() const;
@@ -79,6 +81,7 @@ private:
     Said digitsOf(const Token &token) const;
     void markNames();
     void collectClasses();
+    bool isEnd(const Token &token) const;
     void collectTimes();
     void collectNumbers();
     bool isLabelled(std::size_t number) const;
@@ -103,6 +106,7 @@ private:
     int m_introduction = -1;
     bool m_numberCutOff = false;
     bool m_daysDiffer = false;
+    bool m_endsOnly = false;
 };
 
 } // namespace understanding

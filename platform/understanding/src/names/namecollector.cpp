@@ -45,7 +45,9 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
     const bool familiar = said == 2 && isNamePrefix(chunk.at(chunk.size() - 2)) &&
                           chunk.endsWith(QChar(u'于')); // 老于 in 采购的老于
     const bool whole = familiar || isWholeName(chunk, end) || (said == 3 && isWholeName(chunk.right(3), end));
-    QString name = whole ? chunk : withoutParticles(chunk);
+    const bool known = // 对 in 对接人李娜 is no particle
+        Lexicon::instance().classesOf(chunk.left(chunk.size() - said)).has(WordClass::Plain);
+    QString name = whole || known ? chunk : withoutParticles(chunk);
     if (name.endsWith(QStringLiteral("的人"))) { // 市场部的人
         name.chop(2);
     }

@@ -67,6 +67,12 @@ std::size_t NameRunReader::takeRun(std::size_t at, bool mustLookLikeName)
     }
     const std::size_t before = m_names.size();
     addChunk(start, end, mustLookLikeName, true);
+    const bool ofGroup = m_names.size() > before && next < m_tokens.size() && // 北京团队 is not 北京
+                         m_tokens[next].is(WordClass::Nobody) && !isPersonsName(m_names.back().name) &&
+                         firstOf(m_text, end, {u"团队", u"成员", u"人员", u"同事"}) > 0;
+    if (ofGroup) {
+        doubtLast();
+    }
     const bool listed = at > 0 && m_tokens[at - 1].is(WordClass::Separator);
     if (m_names.size() == before && mustLookLikeName && listed && !m_names.empty()) { // 阿辉和思思
         addChunk(start, end, false, true);

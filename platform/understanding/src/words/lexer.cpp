@@ -122,11 +122,19 @@ private:
             const WordMatch title = Lexicon::instance().longestAt(m_text, m_at + 1);
             word = title.length >= shortestTitle && title.classes.has(WordClass::Title) ? WordMatch() : word;
         }
-        if (word.length == 0) {
+        if (word.length == 0 || isOffice(word)) {
             return false;
         }
         append(Token::Kind::Word, word.length).classes = word.classes;
         return true;
+    }
+
+    /// True for 联络 in 联络员李娜, which calls nobody; 通知员工 does.
+    bool isOffice(const WordMatch &word) const
+    {
+        const int end = m_at + word.length;
+        return word.length == 2 && word.classes.has(WordClass::Trigger) &&
+               firstOf(m_text, end, {u"员", u"者", u"官"}) > 0 && firstOf(m_text, end, {u"员工"}) == 0;
     }
 
     /// True if the last character of @p word begins what follows: 约下 in 约下午三点 and 约下周三, but not
@@ -142,6 +150,13 @@ private:
         if (firstOf(m_text, last,
                     {u"后天", u"上官", u"时间", u"明天", u"明早", u"明晚", u"明儿", u"约翰", u"约瑟", u"上午",
                      u"好友", u"意见", u"年度", u"别忘", u"女士"}) > 0) {
+            return true;
+        }
+        const bool behindSurname = !m_tokens.empty() && m_tokens.back().kind == Token::Kind::Other;
+        if (behindSurname && word.length == 2 && // 工会 in 和李工会议, 周周 in 和老周周一开会
+            (firstOf(m_text, m_at, {u"工会议", u"工会诊", u"工会面"}) > 0 ||
+             (firstOf(m_text, m_at, {u"周周"}) > 0 &&
+              readTime(m_text, last).kind != TimeMatch::Kind::None))) {
             return true;
         }
         const bool descendant = firstOf(m_text, m_at, {u"孙子", u"孙女"}) == word.length; // 孙 in 孙子涵

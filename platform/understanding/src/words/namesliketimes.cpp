@@ -76,6 +76,12 @@ bool isInUnknownName(const QString &text, const Tokens &tokens, int at, const Ti
     if (before.kind != Token::Kind::Other) {
         return false;
     }
+    static const QString prefixes = QStringLiteral("小老大阿"); // 老周一起三点开会
+    if (match.expression.isBareWeekday() && tailLength(text, before) == 1 &&
+        prefixes.contains(text.at(before.end() - 1)) &&
+        firstOf(text, at + 1, {u"一起", u"一块", u"一同", u"一道"}) > 0) {
+        return true;
+    }
     const TimeMatch later = readTime(text, at + 1);
     // 陶渊明下午三点: hardly anybody says 明下午.
     if (tailLength(text, before) <= 2 && !isWholeBefore(text, before) &&

@@ -17,8 +17,10 @@ constexpr int ShortestCompound = 3; // 评审会, unlike 会 and 会议, is what
 /// What an order means only outside the name of a conference.
 constexpr WordClasses Misleading =
     WordClass::Change | WordClass::Cancel | WordClass::Unsupported | WordClass::Framed | WordClass::Reported |
-    WordClass::Close | WordClass::Join | WordClass::Query | WordClass::Have | WordClass::Actor |
-    WordClass::Lunar | WordClass::HowTo | WordClass::Schedule | WordClass::Plain;
+    WordClass::Close | WordClass::Join | WordClass::WeakJoin | WordClass::Query | WordClass::Have |
+    WordClass::Actor | WordClass::Lunar | WordClass::HowTo | WordClass::Schedule | WordClass::Plain |
+    WordClass::AccountLabel | WordClass::PasswordLabel | WordClass::IdLabel | WordClass::Buddy |
+    WordClass::Nobody | WordClass::NameLabel;
 
 /// True for 开 and 约个, behind which the kind of a conference may stand.
 bool opensKind(const QString &text, const Tokens &tokens, std::size_t at)
@@ -41,18 +43,20 @@ bool counts(const QString &text, const Token &token)
 /// True if the token at @p at may be a part of the name of a conference.
 bool mayBeInKind(const QString &text, const Tokens &tokens, std::size_t at)
 {
-    constexpr WordClasses never = WordClass::Punctuation | WordClass::Nobody | WordClass::NameLabel |
-                                  WordClass::Negation | WordClass::Recurring | WordClass::EitherOr |
-                                  WordClass::Zone | WordClass::CloseAlone | WordClass::Measure |
-                                  WordClass::Mine | WordClass::Request | WordClass::Repair;
-    constexpr WordClasses verbs = WordClass::WeakOpen | WordClass::WeakJoin | WordClass::Query;
+    constexpr WordClasses never = WordClass::Punctuation | WordClass::Negation | WordClass::Recurring |
+                                  WordClass::EitherOr | WordClass::Zone | WordClass::CloseAlone |
+                                  WordClass::Measure | WordClass::Mine | WordClass::Request |
+                                  WordClass::Repair;
+    constexpr WordClasses verbs = WordClass::WeakOpen | WordClass::Query;
     const Token &token = tokens[at];
     const bool written = token.kind == Token::Kind::Other || token.kind == Token::Kind::Word ||
                          token.kind == Token::Kind::Latin;
     const bool calls =
         token.isAny(WordClass::Trigger | WordClass::Separator) && !token.is(WordClass::StrongOpen);
     const bool clock = firstOf(text, token.position, {u"时间", u"日期"}) > 0;
-    if (!written || calls || clock || token.isAny(never)) {
+    const bool people = token.isAny(WordClass::Nobody | WordClass::NameLabel) &&
+                        firstOf(text, token.position, {u"成员", u"人员", u"员工", u"好友"}) == 0;
+    if (!written || calls || clock || people || token.isAny(never)) {
         return false;
     }
     if (token.length > 1 || !token.isAny(Misleading | verbs)) {
@@ -81,6 +85,42 @@ bool isOfKind(const QString &text, const Token &last, const Token &conference)
     return noun || (conference.length == 1 && last.is(WordClass::Change));
 }
 
+/// The conference whose kind begins at @p begin; @p begin for none.
+std::size_t conferenceOfKind(const QString &text, const Tokens &tokens, std::size_t begin)
+{
+    std::size_t end = begin;
+    while (end < tokens.size() && !tokens[end].is(WordClass::Conference) &&
+           tokens[end].end() - tokens[begin].position <= LongestKind && mayBeInKind(text, tokens, end)) {
+        ++end;
+    }
+    const bool found = end > begin && end < tokens.size() && isOfKind(text, tokens[end - 1], tokens[end]);
+    return found ? end : begin;
+}
+
+/// 登录功能评审会明天三点开: the clause ends with the verb that opens the conference at @p conference.
+bool isOpenedBehind(const QString &text, const Tokens &tokens, std::size_t conference)
+{
+    bool timed = false;
+    std::size_t at = conference + 1;
+    while (at < tokens.size() && (tokens[at].kind == Token::Kind::Time || tokens[at].is(WordClass::Filler))) {
+        timed = timed || tokens[at].kind == Token::Kind::Time;
+        ++at;
+    }
+    return timed && at < tokens.size() && tokens[at].length == 1 &&
+           text.at(tokens[at].position) == QChar(u'开') && isAtClauseEnd(tokens, at + 1);
+}
+
+void markKind(Tokens &tokens, std::size_t begin, std::size_t end, bool dated)
+{
+    const bool misleads = std::any_of(tokens.cbegin() + static_cast<std::ptrdiff_t>(begin),
+                                      tokens.cbegin() + static_cast<std::ptrdiff_t>(end),
+                                      [](const Token &token) { return token.isAny(Misleading); });
+    for (std::size_t at = begin; misleads && at < end; ++at) {
+        // 中秋活动筹备会 tells when only if nothing else does.
+        tokens[at].inTopic = tokens[at].inTopic || dated || !tokens[at].is(WordClass::Lunar);
+    }
+}
+
 } // namespace
 
 void settleKinds(const QString &text, Tokens &tokens)
@@ -89,32 +129,30 @@ void settleKinds(const QString &text, Tokens &tokens)
         return token.kind == Token::Kind::Time && !token.inTopic;
     };
     const bool dated = std::any_of(tokens.cbegin(), tokens.cend(), timed);
-    for (std::size_t verb = 0; verb + 2 < tokens.size(); ++verb) {
-        if (!opensKind(text, tokens, verb)) {
+    constexpr WordClasses ordering =
+        WordClass::StrongOpen | WordClass::WeakOpen | WordClass::Cancel | WordClass::Change;
+    for (std::size_t at = 0; at + 2 < tokens.size(); ++at) {
+        const bool starts = at == 0 || isAtClauseEnd(tokens, at - 1);
+        if (starts && !tokens[at].isAny(ordering)) {
+            const std::size_t conference = conferenceOfKind(text, tokens, at);
+            if (conference > at && isOpenedBehind(text, tokens, conference)) {
+                markKind(tokens, at, conference, dated);
+                at = conference;
+                continue;
+            }
+        }
+        if (!opensKind(text, tokens, at)) {
             continue;
         }
-        std::size_t begin = verb + 1;
+        std::size_t begin = at + 1;
         while (begin < tokens.size() &&
                (counts(text, tokens[begin]) || timed(tokens[begin]) ||
                 (tokens[begin].length == 1 && text.at(tokens[begin].position) == QChar(u'的')))) {
             ++begin;
         }
-        std::size_t end = begin;
-        while (end < tokens.size() && !tokens[end].is(WordClass::Conference) &&
-               tokens[end].end() - tokens[begin].position <= LongestKind && mayBeInKind(text, tokens, end)) {
-            ++end;
-        }
-        if (end == begin || end == tokens.size() || !isOfKind(text, tokens[end - 1], tokens[end])) {
-            continue;
-        }
-        const bool misleads = std::any_of(tokens.cbegin() + static_cast<std::ptrdiff_t>(begin),
-                                          tokens.cbegin() + static_cast<std::ptrdiff_t>(end),
-                                          [](const Token &token) { return token.isAny(Misleading); });
-        for (std::size_t at = begin; misleads && at < end; ++at) {
-            // 中秋活动筹备会 tells when only if nothing else does.
-            tokens[at].inTopic = tokens[at].inTopic || dated || !tokens[at].is(WordClass::Lunar);
-        }
-        verb = end;
+        const std::size_t conference = conferenceOfKind(text, tokens, begin);
+        markKind(tokens, begin, conference, dated);
+        at = qMax(at, conference > begin ? conference : at);
     }
 }
 

@@ -223,18 +223,21 @@ bool callsForNothing(const Reading &reading)
     return !clear || furtherDeed || toldBehindPronoun || (told && adjacent);
 }
 
-/// 找小王聊聊离职的事: people talk about something, and no word says that they meet.
+/// 找小王聊聊离职的事, 跟小王对一下合同: people talk about something, and no word says that they meet.
 bool onlyTalks(const Reading &reading)
 {
-    const bool talks =
-        std::any_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
-            return token.is(WordClass::Video) && textOf(reading, token).startsWith(QChar(u'聊'));
-        });
-    const bool meets =
-        std::any_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
-            return token.is(WordClass::Conference) ||
-                   (token.is(WordClass::Video) && !textOf(reading, token).startsWith(QChar(u'聊')));
-        });
+    const Tokens &tokens = reading.tokens();
+    bool talks = false;
+    bool meets = false;
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        const Token &token = tokens[at];
+        const bool about = token.is(WordClass::Topic) && at + 1 < tokens.size() && tokens[at + 1].inTopic &&
+                           !tokens[at + 1].is(WordClass::Filler);
+        const bool talk =
+            token.is(WordClass::Video) && (about || textOf(reading, token).startsWith(QChar(u'聊')));
+        talks = talks || talk;
+        meets = meets || token.is(WordClass::Conference) || (token.is(WordClass::Video) && !talk);
+    }
     return talks && !meets && reading.timeSaid().isEmpty() && !reading.has(WordClass::Request);
 }
 

@@ -173,6 +173,9 @@ bool isLikelyName(const QString &name)
     if (name.contains(QChar(u'俩')) || name.contains(QChar(u'仨'))) { // 法务那俩律师
         return false;
     }
+    if (name.size() > 2 && isNamePrefix(name.at(0)) && name.endsWith(QChar(u'点'))) { // 小声点
+        return false;
+    }
     const bool latin =
         std::any_of(name.cbegin(), name.cend(), [](QChar character) { return character.unicode() < 0x250; });
     if (latin || name.contains(QChar(u'·')) || isPersonsName(name) || endsWithRole(name)) {

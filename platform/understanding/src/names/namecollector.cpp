@@ -50,6 +50,9 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
     QString name = whole || known ? chunk : withoutParticles(chunk);
     if (name.endsWith(QStringLiteral("的人"))) { // 市场部的人
         name.chop(2);
+        if (name.endsWith(QStringLiteral("那边")) || name.endsWith(QStringLiteral("这边"))) { // 王总那边的人
+            return;
+        }
     }
     const int modifier = modifierLength(name);
     if (modifier > 0) {

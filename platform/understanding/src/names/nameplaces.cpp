@@ -174,14 +174,33 @@ bool NamePlaces::startsCapital(std::size_t at) const
     return m_tokens[at].kind == Token::Kind::Latin && m_text.at(m_tokens[at].position).isUpper();
 }
 
+bool NamePlaces::isNobiliary(std::size_t at) const
+{
+    return m_tokens[at].kind == Token::Kind::Latin &&
+           firstOf(m_text, m_tokens[at].position,
+                   {u"van", u"von", u"der", u"den", u"de", u"da", u"di", u"del", u"la", u"le", u"bin",
+                    u"al"}) == m_tokens[at].length;
+}
+
 std::size_t NamePlaces::lastOfLatinName(std::size_t first) const
 {
+    const auto parts = [&](std::size_t at) {
+        return at + 1 < m_tokens.size() && (m_tokens[at].kind == Token::Kind::Space || isMiddleDot(at));
+    };
     std::size_t last = first;
-    while (last + 2 < m_tokens.size() && startsCapital(last) && startsCapital(last + 2) &&
-           (m_tokens[last + 1].kind == Token::Kind::Space || isMiddleDot(last + 1))) {
-        last += 2;
+    for (;;) {
+        constexpr std::size_t mostParticles = 2; // Kevin van der Berg
+        std::size_t next = last;
+        std::size_t particles = isNobiliary(first) && last == first ? 1 : 0;
+        while (parts(next + 1) && particles < mostParticles && isNobiliary(next + 2)) {
+            next += 2;
+            ++particles;
+        }
+        if (!parts(next + 1) || !startsCapital(next + 2) || !(startsCapital(last) || particles > 0)) {
+            return last;
+        }
+        last = next + 2;
     }
-    return last;
 }
 
 std::size_t NamePlaces::firstOfLatinName(std::size_t last) const

@@ -66,6 +66,8 @@ public:
 
 private:
     [[nodiscard]] bool startsCapital(std::size_t at) const;
+    /// van in Ludwig van Beethoven.
+    [[nodiscard]] bool isNobiliary(std::size_t at) const;
     const QString &m_text;
     const Tokens &m_tokens;
 };

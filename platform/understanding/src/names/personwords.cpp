@@ -127,12 +127,24 @@ private:
         const int start = m_tokens[m_at].position;
         const int end = m_tokens[at].position;
         const QString said = m_text.mid(start, end - start);
-        static const QString offices = QStringLiteral("部门组处科室班队院校厂店社局所站司心团系级届");
+        static const QString offices = QStringLiteral("部门组处科室班队院校厂店社局所站司心团系级届区");
         static const QString others = QStringLiteral("他她几");
         if (said.size() > 1 && offices.contains(said.at(said.size() - 1))) {
             return true;
         }
         return !others.contains(m_text.at(end)) && !m_tokens[at - 1].is(WordClass::Title) && isModifier(said);
+    }
+
+    /// The last token of the group that the collective word at @p at begins: 同学 in 全班同学.
+    std::size_t lastOfGroup(std::size_t at) const
+    {
+        const std::size_t next = at + 1;
+        const std::size_t behind = at + 2;
+        const bool kind = next < m_tokens.size() && m_tokens[next].is(WordClass::Title) &&
+                          m_tokens[next].length > 1 && m_tokens[next].position == m_tokens[at].end();
+        const bool named =
+            behind < m_tokens.size() && nameBegins(m_text, m_tokens, behind, m_tokens[behind].position);
+        return kind && !named ? next : at;
     }
 
     /// 渠道部所有人, 研究生们
@@ -150,9 +162,10 @@ private:
                 return false;
             }
             const bool many = token.length == 1 && m_text.at(token.position) == QChar(u'们');
-            if (at > m_at && isCollective(at) && (many || describesGroup(at))) {
-                m_joined.push_back(wordUntil(token.end(), WordClass::Nobody));
-                m_at = at + 1;
+            const std::size_t last = lastOfGroup(at);
+            if (isCollective(at) && (at == m_at ? last > at : many || describesGroup(at))) {
+                m_joined.push_back(wordUntil(m_tokens[last].end(), WordClass::Nobody));
+                m_at = last + 1;
                 return true;
             }
             constexpr WordClasses never = WordClass::Separator | WordClass::Trigger | WordClass::Punctuation |

@@ -322,6 +322,27 @@ bool tellsOnlyEnd(const Reading &reading)
     return reading.tellsOnlyEnd();
 }
 
+/// 三点散会, 明天散会: not now.
+bool endsLater(const Reading &reading)
+{
+    const Tokens &tokens = reading.tokens();
+    for (std::size_t at = 1; at < tokens.size(); ++at) {
+        if (!tokens[at].is(WordClass::CloseAlone) || tokens[at].inTopic) {
+            continue;
+        }
+        std::size_t before = at;
+        while (before > 0 && tokens[before - 1].is(WordClass::Filler)) {
+            --before;
+        }
+        const bool later = before > 0 && tokens[before - 1].kind == Token::Kind::Time &&
+                           (tokens[before - 1].time.hasClock || tokens[before - 1].time.dayOffset > 0);
+        if (later) {
+            return true;
+        }
+    }
+    return false;
+}
+
 constexpr struct
 {
     const char *intent;
@@ -337,6 +358,7 @@ constexpr struct
     {InviteConference, callsForNothing}, {EnterConferenceById, tellsWhoseNumber},
     {EnterConferenceById, comesLater},   {EnterMyConference, asksWho},
     {EnterMyConference, asksHowMany},    {CloseConference, returnsRoom},
+    {InviteConference, comesLater},      {CloseConference, endsLater},
     {AddBuddy, onlyMentionsFriend},
 };
 

@@ -76,6 +76,20 @@ static bool endsClause(const Tokens &tokens, std::size_t at)
     return !tokens[at].inName && (tokens[at].is(WordClass::Punctuation) || somebodyElse);
 }
 
+/// 约小张和小李，不对，约小王. In 不对，约小王 nothing was said that the order might leave.
+static bool repairsSomething(const Reading &reading)
+{
+    constexpr WordClasses empty = WordClass::Filler | WordClass::Punctuation | WordClass::OpenParticle;
+    bool said = false;
+    for (const Token &token : reading.tokens()) {
+        if (said && token.is(WordClass::Repair) && !token.inTopic) {
+            return true;
+        }
+        said = said || !(token.isAny(empty | WordClass::Repair) || token.kind == Token::Kind::Space);
+    }
+    return false;
+}
+
 Verdict judge(const Reading &reading, const QString &intent)
 {
     const Tokens &tokens = reading.tokens();
@@ -85,7 +99,7 @@ Verdict judge(const Reading &reading, const QString &intent)
     bool supposed = false;
     bool doubtful = reading.hasDoubtfulName() && intent != QLatin1String(QueryConference);
     // 约小张和小李，不对，约小王: which of them?
-    doubtful = doubtful || isConditional(reading) || reading.has(WordClass::Repair);
+    doubtful = doubtful || isConditional(reading) || repairsSomething(reading);
     doubtful = doubtful || isAboutSomethingElse(reading, intent);
     // Nothing that was said is dropped silently: 需求评审安排到明天十一点，拉上小唐 is no plain invitation.
     const bool untimely = intent == QLatin1String(InviteConference) || intent == QLatin1String(AddBuddy);

@@ -182,7 +182,7 @@ int readClock(const QString &text, int position, TimeExpression &expression)
     expression.minute = 0;
     expression.minutesLess = less;
     expression.impossible = hours.value > LastHour;
-    at += firstOf(text, at, {u"钟", u"整"});
+    at += firstOf(text, at, {u"整个"}) > 0 ? 0 : firstOf(text, at, {u"钟", u"整"}); // 三点整个会
     if (!hasLess) {
         const int afterLess = at + readLess(text, at, expression.minutesLess);
         at = afterLess > at ? afterLess : at + readMinutes(text, at, expression.minute);
@@ -191,7 +191,7 @@ int readClock(const QString &text, int position, TimeExpression &expression)
         expression.minute = 0;
         expression.minutesLess = less;
     }
-    at += firstOf(text, at, {u"钟", u"整"});
+    at += firstOf(text, at, {u"整个"}) > 0 ? 0 : firstOf(text, at, {u"钟", u"整"}); // 三点整个会
     return at - position;
 }
 

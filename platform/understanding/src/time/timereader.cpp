@@ -19,7 +19,7 @@ bool canBegin(QChar character)
 {
     static const QString starts =
         QStringLiteral("零〇一二两三四五六七八九十百廿卅半今明后昨前去大当上下中正晌这本周星礼早清晨"
-                       "凌午傍黄晚夜深差过再隔等俩仨");
+                       "凌午傍黄晚夜深差过再隔等俩仨赶听外翌黑头擦");
     return (character >= QLatin1Char('0') && character <= QLatin1Char('9')) ||
            (character.unicode() >= 0x80 && starts.contains(character));
 }

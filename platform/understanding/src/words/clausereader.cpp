@@ -188,6 +188,17 @@ void settleOpening(const QString &text, Tokens &tokens)
         if (disposed) {
             token.classes = WordClass::WeakOpen;
         }
+        // 开 in 明天十点跟戴总开, which answers a question, is not part of the name.
+        const bool meets =
+            at > 1 && token.is(WordClass::WeakOpen) && token.length == 1 &&
+            text.at(token.position) == QChar(u'开') && isAtClauseEnd(tokens, at + 1) &&
+            (tokens[at - 1].length > 1 || tokens[at - 1].is(WordClass::Title)) &&
+            (tokens[at - 1].kind == Token::Kind::Other || tokens[at - 1].kind == Token::Kind::Name ||
+             tokens[at - 1].is(WordClass::Title)) &&
+            !followsConference(text, tokens, at);
+        if (meets) {
+            token.classes = WordClass::NameTail;
+        }
         if (!token.is(WordClass::WeakOpen) || disposed) {
             continue;
         }

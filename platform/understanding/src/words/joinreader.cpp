@@ -59,6 +59,12 @@ void settleInvitations(const QString &text, Tokens &tokens)
             tellsOfInvitation(text, token.end())) {
             token.classes = WordClass::Framed;
         }
+        const bool english = startsAt(text, token.position, QStringLiteral("call")) ||
+                             startsAt(text, token.position, QStringLiteral("Call"));
+        if (english && token.length == 4 && text.mid(token.end(), 1) == QStringLiteral(" ") &&
+            charAt(text, token.end() + 1).isUpper()) { // call Nick
+            token.classes = WordClass::Trigger | WordClass::Pull;
+        }
     }
 }
 

@@ -7,7 +7,8 @@
 
 namespace understanding {
 
-/// Turns 邀请 into a report where it calls nobody: 会议邀请我收到了. Before names are looked for.
+/// Turns 邀请 into a report where it calls nobody (会议邀请我收到了), and call into a word that calls
+/// somebody before a name (call Nick). Before names are looked for.
 void settleInvitations(const QString &text, Tokens &tokens);
 
 /// Turns 连上 into a word that joins where one's own conference follows: 连上我三点那个会.

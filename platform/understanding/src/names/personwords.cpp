@@ -4,182 +4,29 @@
 #include "names/personwords.h"
 
 #include "names/headreader.h"
-#include "names/namelook.h"
+#include "names/tokenjoiner.h"
 #include "text/scan.h"
-
-#include <algorithm>
-#include <optional>
 
 namespace understanding {
 
 namespace {
 
-bool isLead(const Token &token)
-{
-    constexpr WordClasses leads = WordClass::Trigger | WordClass::Separator | WordClass::NameLabel |
-                                  WordClass::Invite | WordClass::Pull;
-    return token.isAny(leads) && !token.inTopic;
-}
-
-/// True when a name begins at @p position, in @p token or with it.
-bool nameBegins(const QString &text, const Tokens &tokens, std::size_t at, int position)
-{
-    const Token &token = tokens[at];
-    if (token.kind == Token::Kind::Name || token.kind == Token::Kind::Latin) {
-        return token.position == position;
-    }
-    int end = token.end();
-    const bool smallWord = token.kind == Token::Kind::Word && token.length == 1 && at + 1 < tokens.size() &&
-                           tokens[at + 1].kind == Token::Kind::Other && !isLead(token); // 关丽
-    const bool titled = token.kind == Token::Kind::Other && end - position == 1 && at + 1 < tokens.size() &&
-                        tokens[at + 1].is(WordClass::Title); // 蒲先生
-    if (smallWord || titled) {
-        end = tokens[at + 1].end();
-    } else if (token.kind != Token::Kind::Other) {
-        return false;
-    }
-    const std::size_t next = at + 1;
-    constexpr WordClasses never = WordClass::Separator | WordClass::Trigger | WordClass::Punctuation |
-                                  WordClass::Conference | WordClass::WeakOpen;
-    if (!smallWord && end - position == 1 && next < tokens.size() && tokens[next].length == 1 &&
-        tokens[next].position == end && !tokens[next].isAny(never)) { // 丁一
-        ++end;
-    }
-    constexpr int longestName = 4;
-    for (int length = 2; length <= qMin(longestName, end - position); ++length) {
-        const QString name = text.mid(position, length);
-        const bool doubled = length == 2 && name.at(0) == name.at(1); // 晓晓
-        if ((doubled || isPersonsName(name)) && !isThing(name) && !isRelative(name)) {
-            return true;
-        }
-    }
-    return false;
-}
-
-/// Builds the tokens anew while it goes over them.
-class PersonWords final
+class PersonWords final : private TokenJoiner
 {
 public:
-    PersonWords(const QString &text, Tokens &tokens) : m_text(text), m_tokens(tokens) {}
+    PersonWords(const QString &text, Tokens &tokens) : TokenJoiner(text, tokens) {}
 
     void run()
     {
-        m_joined.reserve(m_tokens.size());
         while (m_at < m_tokens.size()) {
-            if (!joinGroup() && !joinRelative() && !joinOwner() && !takeJob()) {
-                m_joined.push_back(m_tokens[m_at++]);
+            if (!joinRelative() && !joinOwner() && !takeJob()) {
+                keep();
             }
         }
         m_tokens = std::move(m_joined);
     }
 
 private:
-    /// Behind a word that calls, or at the start of what only names somebody: 视频组的史小平.
-    bool isSomebodyExpected()
-    {
-        constexpr WordClasses leading = WordClass::Filler | WordClass::Punctuation | WordClass::LabelLink;
-        if (!m_joined.empty() && isLead(m_joined.back())) {
-            return true;
-        }
-        return onlyNames() && std::all_of(m_joined.cbegin(), m_joined.cend(),
-                                          [](const Token &token) { return token.isAny(leading); });
-    }
-
-    bool isBehindLead() const { return !m_joined.empty() && isLead(m_joined.back()); }
-
-    Token wordUntil(int end, WordClass wordClass) const
-    {
-        Token word;
-        word.kind = Token::Kind::Word;
-        word.position = m_tokens[m_at].position;
-        word.length = end - word.position;
-        word.classes = wordClass;
-        return word;
-    }
-
-    /// 所有人, 同事们, 一帮人: all of those whom the words before describe.
-    bool isCollective(std::size_t at) const
-    {
-        const Token &token = m_tokens[at];
-        if (m_text.at(token.end() - 1) == QChar(u'们')) {
-            static const QString speakers = QStringLiteral("我咱俺你");
-            return !speakers.contains(m_text.at(token.position));
-        }
-        if (!token.isAny(WordClass::Nobody | WordClass::NameTail) || token.length < 2) {
-            return false;
-        }
-        static const QString beginnings = QStringLiteral("所全各大一那这每几");
-        static const QString counts = QStringLiteral("两三四五俩仨"); // 产品的两个人
-        const QChar first = m_text.at(token.position);
-        const bool some = token.is(WordClass::NameTail) && counts.contains(first) &&
-                          charAt(m_text, token.position - 1) == QChar(u'的');
-        const bool all = some || beginnings.contains(first);
-        const std::size_t next = at + 1;
-        const bool somebodyNext =
-            next < m_tokens.size() && nameBegins(m_text, m_tokens, next, m_tokens[next].position);
-        return all && !somebodyNext;
-    }
-
-    /// 渠道部, 研发中心的, 三班: what the collective word at @p at may follow. 王师傅 in 王师傅他们 is called
-    /// by name.
-    bool describesGroup(std::size_t at) const
-    {
-        const int start = m_tokens[m_at].position;
-        const int end = m_tokens[at].position;
-        const QString said = m_text.mid(start, end - start);
-        static const QString offices = QStringLiteral("部门组处科室班队院校厂店社局所站司心团系级届区");
-        static const QString others = QStringLiteral("他她几");
-        if (said.size() > 1 && offices.contains(said.at(said.size() - 1))) {
-            return true;
-        }
-        return !others.contains(m_text.at(end)) && !m_tokens[at - 1].is(WordClass::Title) && isModifier(said);
-    }
-
-    /// The last token of the group that the collective word at @p at begins: 同学 in 全班同学.
-    std::size_t lastOfGroup(std::size_t at) const
-    {
-        const std::size_t next = at + 1;
-        const std::size_t behind = at + 2;
-        const bool kind = next < m_tokens.size() && m_tokens[next].is(WordClass::Title) &&
-                          m_tokens[next].length > 1 && m_tokens[next].position == m_tokens[at].end();
-        const bool named =
-            behind < m_tokens.size() && nameBegins(m_text, m_tokens, behind, m_tokens[behind].position);
-        return kind && !named ? next : at;
-    }
-
-    /// 渠道部所有人, 研究生们
-    bool joinGroup()
-    {
-        if (!isSomebodyExpected()) {
-            return false;
-        }
-        constexpr int longestGroup = 10;
-        constexpr WordClasses describing =
-            WordClass::Plain | WordClass::Title | WordClass::Nobody | WordClass::Mine | WordClass::NameTail;
-        for (std::size_t at = m_at; at < m_tokens.size(); ++at) {
-            const Token &token = m_tokens[at];
-            if (token.position - m_tokens[m_at].position > longestGroup) {
-                return false;
-            }
-            const bool many = token.length == 1 && m_text.at(token.position) == QChar(u'们');
-            const std::size_t last = lastOfGroup(at);
-            if (isCollective(at) && (at == m_at ? last > at : many || describesGroup(at))) {
-                m_joined.push_back(wordUntil(m_tokens[last].end(), WordClass::Nobody));
-                m_at = last + 1;
-                return true;
-            }
-            constexpr WordClasses never = WordClass::Separator | WordClass::Trigger | WordClass::Punctuation |
-                                          WordClass::Conference | WordClass::Address; // 兄弟们
-            const bool describes = token.kind == Token::Kind::Other || token.kind == Token::Kind::Latin ||
-                                   token.kind == Token::Kind::Number || token.isAny(describing) ||
-                                   (token.kind == Token::Kind::Word && token.length == 1); // 场 in 市场部
-            if (!describes || token.isAny(never)) {
-                return false;
-            }
-        }
-        return false;
-    }
-
     /// The length of the word for a relative at @p position: 弟 in 我弟陈麒.
     int relativeLength(int position) const
     {
@@ -218,12 +65,10 @@ private:
         if (length == 0 || last == m_tokens.size() || !nameBegins(m_text, m_tokens, last, end)) {
             return false;
         }
-        m_joined.push_back(wordUntil(end, WordClass::Address));
-        m_joined.back().inModifier = true;
+        join(end, WordClass::Address, last).inModifier = true;
         m_relativeEnd = m_tokens[last].end();
         m_tokens[last].length = m_tokens[last].end() - end;
         m_tokens[last].position = end;
-        m_at = last;
         return true;
     }
 
@@ -315,11 +160,9 @@ private:
             if (!word || (person && !introduced)) {
                 return false;
             }
-            m_joined.push_back(wordUntil(position, WordClass::Address));
-            m_joined.back().inModifier = true;
+            join(position, WordClass::Address, name).inModifier = true;
             m_tokens[name].length = m_tokens[name].end() - position;
             m_tokens[name].position = position;
-            m_at = name;
             return true;
         }
         return false;
@@ -338,48 +181,11 @@ private:
             !isModifier(m_text.mid(job.position, job.length)) || !(meets() || onlyNames())) {
             return false;
         }
-        m_joined.push_back(job);
-        m_joined.back().classes = WordClass::Title;
-        m_at = next;
+        join(job.end(), WordClass::Title, next);
         return true;
     }
 
-    /// True where nothing is done, as in an answer: 上海的Zoë和翻译小柳.
-    bool onlyNames()
-    {
-        if (!m_onlyNames) {
-            constexpr WordClasses deeds = WordClass::Conference | WordClass::Join | WordClass::Arrive |
-                                          WordClass::ComeMeet | WordClass::Pull | WordClass::Invite |
-                                          WordClass::StrongOpen | WordClass::Query | WordClass::Add |
-                                          WordClass::Close | WordClass::Request;
-            m_onlyNames = std::none_of(m_tokens.cbegin(), m_tokens.cend(), [](const Token &token) {
-                return token.isAny(deeds) || token.kind == Token::Kind::Time ||
-                       (token.is(WordClass::Trigger) && !token.is(WordClass::Separator));
-            });
-        }
-        return *m_onlyNames;
-    }
-
-    /// True when people come together somewhere in the sentence.
-    bool meets()
-    {
-        if (!m_meets) {
-            constexpr WordClasses meeting = WordClass::Conference | WordClass::Join | WordClass::Arrive |
-                                            WordClass::ComeMeet | WordClass::Video;
-            m_meets = std::any_of(m_tokens.cbegin(), m_tokens.cend(), [](const Token &token) {
-                return token.isAny(meeting) || (token.is(WordClass::Pull) && token.length > 1); // 叫上
-            });
-        }
-        return *m_meets;
-    }
-
-    const QString &m_text;
-    Tokens &m_tokens;
-    Tokens m_joined;
-    std::size_t m_at = 0;
     int m_relativeEnd = -1; ///< where the name behind the last relative ends
-    std::optional<bool> m_meets;
-    std::optional<bool> m_onlyNames;
 };
 
 } // namespace

@@ -7,9 +7,9 @@
 
 namespace understanding {
 
-/// Joins the tokens that say who somebody is behind a word that calls people. A group becomes one word for
-/// nobody in particular (渠道部所有人, 研究生们); a relative (我弟 in 跟我弟陈麒) and a job that is also a
-/// request (翻译 in 和翻译小阮) become titles of the name behind them. One pass.
+/// Joins the words that say who the person behind them is, where somebody is called: 我弟 in 跟我弟陈麒,
+/// 视频组的 in 约视频组的史小平. A job that is also a request describes whoever is named behind it: 翻译 in
+/// 和翻译小阮. One pass.
 void joinPersonWords(const QString &text, Tokens &tokens);
 
 } // namespace understanding

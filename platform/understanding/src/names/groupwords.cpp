@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "names/groupwords.h"
+
+#include "names/headreader.h"
+#include "names/tokenjoiner.h"
+#include "text/scan.h"
+
+namespace understanding {
+
+namespace {
+
+class GroupWords final : private TokenJoiner
+{
+public:
+    GroupWords(const QString &text, Tokens &tokens) : TokenJoiner(text, tokens) {}
+
+    void run()
+    {
+        while (m_at < m_tokens.size()) {
+            if (!joinGroup()) {
+                keep();
+            }
+        }
+        m_tokens = std::move(m_joined);
+    }
+
+private:
+    /// 所有人, 同事们, 一帮人: all of those whom the words before describe.
+    bool isCollective(std::size_t at) const
+    {
+        const Token &token = m_tokens[at];
+        if (m_text.at(token.end() - 1) == QChar(u'们')) {
+            static const QString speakers = QStringLiteral("我咱俺你");
+            return !speakers.contains(m_text.at(token.position));
+        }
+        if (!token.isAny(WordClass::Nobody | WordClass::NameTail) || token.length < 2) {
+            return false;
+        }
+        static const QString beginnings = QStringLiteral("所全各大一那这每几");
+        static const QString counts = QStringLiteral("两三四五俩仨"); // 产品的两个人
+        const QChar first = m_text.at(token.position);
+        const bool some = token.is(WordClass::NameTail) && counts.contains(first) &&
+                          charAt(m_text, token.position - 1) == QChar(u'的');
+        const bool all = some || beginnings.contains(first);
+        const std::size_t next = at + 1;
+        const bool somebodyNext =
+            next < m_tokens.size() && nameBegins(m_text, m_tokens, next, m_tokens[next].position);
+        return all && !somebodyNext;
+    }
+
+    /// 渠道部, 研发中心的, 三班: what the collective word at @p at may follow. 王师傅 in 王师傅他们 is called
+    /// by name.
+    bool describesGroup(std::size_t at) const
+    {
+        const int start = m_tokens[m_at].position;
+        const int end = m_tokens[at].position;
+        const QString said = m_text.mid(start, end - start);
+        static const QString offices = QStringLiteral("部门组处科室班队院校厂店社局所站司心团系级届区");
+        static const QString others = QStringLiteral("他她几");
+        if (said.size() > 1 && offices.contains(said.at(said.size() - 1))) {
+            return true;
+        }
+        return !others.contains(m_text.at(end)) && !m_tokens[at - 1].is(WordClass::Title) && isModifier(said);
+    }
+
+    /// The last token of the group that the collective word at @p at begins: 同学 in 全班同学.
+    std::size_t lastOfGroup(std::size_t at) const
+    {
+        const std::size_t next = at + 1;
+        const std::size_t behind = at + 2;
+        const bool kind = next < m_tokens.size() && m_tokens[next].is(WordClass::Title) &&
+                          m_tokens[next].length > 1 && m_tokens[next].position == m_tokens[at].end();
+        const bool named =
+            behind < m_tokens.size() && nameBegins(m_text, m_tokens, behind, m_tokens[behind].position);
+        return kind && !named ? next : at;
+    }
+
+    /// 渠道部所有人, 研究生们
+    bool joinGroup()
+    {
+        if (!isSomebodyExpected()) {
+            return false;
+        }
+        constexpr int longestGroup = 10;
+        constexpr WordClasses describing =
+            WordClass::Plain | WordClass::Title | WordClass::Nobody | WordClass::Mine | WordClass::NameTail;
+        for (std::size_t at = m_at; at < m_tokens.size(); ++at) {
+            const Token &token = m_tokens[at];
+            if (token.position - m_tokens[m_at].position > longestGroup) {
+                return false;
+            }
+            const bool many = token.length == 1 && m_text.at(token.position) == QChar(u'们');
+            const std::size_t last = lastOfGroup(at);
+            if (isCollective(at) && (at == m_at ? last > at : many || describesGroup(at))) {
+                join(m_tokens[last].end(), WordClass::Nobody, last + 1);
+                return true;
+            }
+            constexpr WordClasses never = WordClass::Separator | WordClass::Trigger | WordClass::Punctuation |
+                                          WordClass::Conference | WordClass::Address; // 兄弟们
+            const bool describes = token.kind == Token::Kind::Other || token.kind == Token::Kind::Latin ||
+                                   token.kind == Token::Kind::Number || token.isAny(describing) ||
+                                   (token.kind == Token::Kind::Word && token.length == 1); // 场 in 市场部
+            if (!describes || token.isAny(never)) {
+                return false;
+            }
+        }
+        return false;
+    }
+};
+
+} // namespace
+
+void joinGroups(const QString &text, Tokens &tokens)
+{
+    GroupWords(text, tokens).run();
+}
+
+} // namespace understanding

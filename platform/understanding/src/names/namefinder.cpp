@@ -172,7 +172,7 @@ private:
             return lead;
         }
         // 拉个表格给我
-        mustLookLikeName = mustLookLikeName ||
+        mustLookLikeName = mustLookLikeName || m_places.isOfKind(lead) ||
                            (first > lead + 1 && m_text.at(m_tokens[first - 1].end() - 1) == QChar(u'个'));
         std::size_t end = takeNames(first, mustLookLikeName);
         // What follows shows that it is a person, however unlikely the name: 把加藤拉进来.

@@ -139,6 +139,12 @@ bool NamePlaces::isOpeningOne(std::size_t at) const
            m_text.at(m_tokens[next].end() - 1) != QChar(u'下');
 }
 
+bool NamePlaces::isOfKind(std::size_t at) const
+{
+    return at > 1 && !m_tokens[at].is(WordClass::Separator) && m_tokens[at - 1].is(WordClass::Measure) &&
+           m_tokens[at - 2].isAny(WordClass::StrongOpen | WordClass::WeakOpen);
+}
+
 bool NamePlaces::isOnlyRelative(std::size_t at) const
 {
     static const QString speakers = QStringLiteral("我咱俺");

@@ -53,6 +53,8 @@ public:
     [[nodiscard]] std::size_t endOfModifier(std::size_t at) const;
     /// 安排 in 安排一个安全检查的会: what follows says what the conference is about.
     [[nodiscard]] bool isOpeningOne(std::size_t at) const;
+    /// 拉 in 开个拉新活动会: what follows may say what kind of conference is opened.
+    [[nodiscard]] bool isOfKind(std::size_t at) const;
     /// 我姐, but not 我姐夫.
     [[nodiscard]] bool isOnlyRelative(std::size_t at) const;
     /// 阿 in 阿Ken, 林 in 林Sir.

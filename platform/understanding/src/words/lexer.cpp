@@ -153,8 +153,9 @@ private:
             return true;
         }
         const bool behindSurname = !m_tokens.empty() && m_tokens.back().kind == Token::Kind::Other;
-        if (behindSurname && word.length == 2 && // 工会 in 和李工会议, 周周 in 和老周周一开会
-            (firstOf(m_text, m_at, {u"工会议", u"工会诊", u"工会面"}) > 0 ||
+        if (behindSurname &&
+            word.length == 2 && // 工会 in 和李工会议, 学会 in 数学会议, 周周 in 和老周周一开会
+            (firstOf(m_text, m_at, {u"工会议", u"工会诊", u"工会面", u"学会议"}) > 0 ||
              (firstOf(m_text, m_at, {u"周周"}) > 0 &&
               readTime(m_text, last).kind != TimeMatch::Kind::None))) {
             return true;

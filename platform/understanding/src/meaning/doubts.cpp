@@ -89,13 +89,16 @@ bool mentionsStranger(const Reading &reading)
 /// 记得三点开会, 别忘了三点开会: somebody is reminded.
 bool reminds(const Reading &reading)
 {
+    static const QStringList reminders = {QStringLiteral("记得"), QStringLiteral("别忘"),
+                                          QStringLiteral("不要忘")};
     const Tokens &tokens = reading.tokens();
     std::size_t at = 0;
     while (at < tokens.size() && tokens[at].length == 1 && tokens[at].is(WordClass::Filler)) { // 那
         ++at;
     }
     return at < tokens.size() && !reading.has(WordClass::Request) && reading.names().empty() &&
-           firstOf(reading.sentence().text(), tokens[at].position, {u"记得", u"别忘"}) > 0;
+           std::any_of(reminders.cbegin(), reminders.cend(),
+                       [&](const QString &word) { return textOf(reading, tokens[at]).contains(word); });
 }
 
 /// 会议三点开始 tells, 开个会，三点开始 orders.

@@ -120,7 +120,11 @@ private:
         const bool surname = word.length == 1 && m_text.at(m_at) == QChar(u'莫') && m_at + 1 < m_text.size();
         if (surname) { // 莫教授
             const WordMatch title = Lexicon::instance().longestAt(m_text, m_at + 1);
-            word = title.length >= shortestTitle && title.classes.has(WordClass::Title) ? WordMatch() : word;
+            const bool called = !m_tokens.empty() && // 约莫小北
+                                m_tokens.back().isAny(WordClass::Trigger | WordClass::Separator) &&
+                                m_text.at(m_tokens.back().position).isLetter();
+            const bool titled = title.length >= shortestTitle && title.classes.has(WordClass::Title);
+            word = called || titled ? WordMatch() : word;
         }
         if (word.length == 0 || isOffice(word)) {
             return false;

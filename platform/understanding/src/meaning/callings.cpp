@@ -147,7 +147,9 @@ bool pullsOther(const Reading &reading)
         const bool people = tokens[at].is(WordClass::Invite) &&
                             reading.sentence().text().at(tokens[at].end() - 1) == QChar(u'人'); // 拉人
         const Token *pulled = pulledBy(reading, at);
-        return people || (pulled != nullptr && !isSpeaker(reading, *pulled));
+        static const QString assistants = QStringLiteral("你您"); // 号给你，123456
+        return people || (pulled != nullptr && !isSpeaker(reading, *pulled) &&
+                          !assistants.contains(reading.sentence().text().at(pulled->position)));
     });
 }
 

@@ -241,7 +241,13 @@ bool onlyTalks(const Reading &reading)
         talks = talks || talk;
         meets = meets || token.is(WordClass::Conference) || (token.is(WordClass::Video) && !talk);
     }
-    return talks && !meets && reading.timeSaid().isEmpty() && !reading.has(WordClass::Request);
+    bool playing = false; // 和张伟视频吃鸡
+    for (std::size_t at = 0; at + 1 < reading.tokens().size(); ++at) {
+        playing = playing || (reading.tokens()[at].is(WordClass::Video) &&
+                              reading.tokens()[at + 1].kind == Token::Kind::Other &&
+                              reading.tokens()[at + 1].length > 1 && !reading.has(WordClass::Conference));
+    }
+    return (playing || (talks && !meets)) && reading.timeSaid().isEmpty() && !reading.has(WordClass::Request);
 }
 
 /// 和好友开黑: no word adds anybody.

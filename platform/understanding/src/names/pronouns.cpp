@@ -68,11 +68,11 @@ int subjectLength(const QString &text, int position, int end)
         const int behind = position + length;
         if (behind == end ||
             firstOf(text, behind,
-                    {u"说",   u"进",   u"了",   u"进", u"了",   u"掉",   u"断", u"卡", u"退",   u"有",
-                     u"没",   u"不",   u"在",   u"能", u"还",   u"要",   u"想", u"也", u"来",   u"那边",
-                     u"这边", u"呢",   u"怎么", u"懂", u"熟",   u"知道", u"等", u"已", u"刚",   u"今",
-                     u"明",   u"后天", u"下",   u"上", u"方便", u"负责", u"是", u"最", u"比较", u"忘",
-                     u"和",   u"跟",   u"、",   u"空", u"清楚", u"了解"}) > 0) {
+                    {u"过来", u"说",   u"进", u"了",   u"掉", u"断", u"卡",   u"退",   u"有",
+                     u"没",   u"不",   u"在", u"能",   u"还", u"要", u"想",   u"也",   u"来",
+                     u"那边", u"这边", u"呢", u"怎么", u"懂", u"熟", u"知道", u"等",   u"已",
+                     u"刚",   u"今",   u"明", u"后天", u"下", u"上", u"方便", u"负责", u"是",
+                     u"最",   u"比较", u"忘", u"和",   u"跟", u"、", u"空",   u"清楚", u"了解"}) > 0) {
             return length;
         }
     }
@@ -146,10 +146,11 @@ int resolvePronouns(const QString &raw, const QString &text, const Tokens &token
 {
     std::vector<FoundName> introduced; // by the clause before
     int begin = 0;                     // of this clause
+    int said = -1;                     // where it says more than when
     int introduction = -1;
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         if (tokens[at].is(WordClass::Punctuation)) {
-            std::vector<FoundName> fresh = introducedBy(raw, text, begin, tokens[at].position);
+            std::vector<FoundName> fresh = introducedBy(raw, text, qMax(said, begin), tokens[at].position);
             const bool timed =
                 !fresh.empty() && // 明天下午三点开会，叫上
                 std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
@@ -160,7 +161,15 @@ int resolvePronouns(const QString &raw, const QString &text, const Tokens &token
                 introduction = begin;
             }
             begin = tokens[at].end();
-        } else if (!introduced.empty() && callsNamedBefore(text, tokens, at)) {
+            said = -1;
+        } else if (said < 0 && tokens[at].kind != Token::Kind::Time &&
+                   tokens[at].kind != Token::Kind::Space) {
+            said = tokens[at].position;
+        }
+        if (tokens[at].is(WordClass::Punctuation)) {
+            continue;
+        }
+        if (!introduced.empty() && callsNamedBefore(text, tokens, at)) {
             return callIntroduced(introduced, introduction, names) ? introduction : -1;
         }
     }

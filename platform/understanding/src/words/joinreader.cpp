@@ -54,10 +54,20 @@ bool tellsOfInvitation(const QString &text, int at)
 
 void settleInvitations(const QString &text, Tokens &tokens)
 {
-    for (Token &token : tokens) {
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        Token &token = tokens[at];
         if (token.is(WordClass::Invite) && text.at(token.end() - 1) == QChar(u'请') &&
             tellsOfInvitation(text, token.end())) {
             token.classes = WordClass::Framed;
+        }
+        const bool named =
+            at > 0 && at + 1 < tokens.size() && token.is(WordClass::Negation) &&
+            text.at(token.position) == QChar(u'莫') && token.length == 1 &&
+            tokens[at + 1].kind == Token::Kind::Other &&
+            tokens[at - 1].isAny(WordClass::Trigger | WordClass::Invite | WordClass::Separator);
+        if (named) { // 邀请莫言
+            token.kind = Token::Kind::Other;
+            token.classes = WordClasses();
         }
         const bool english = startsAt(text, token.position, QStringLiteral("call")) ||
                              startsAt(text, token.position, QStringLiteral("Call"));

@@ -83,7 +83,8 @@ bool isUnknownPurpose(const QString &text, const Tokens &tokens, std::size_t at)
     constexpr int longest = 8;
     const int begin = tokens[at].position;
     std::size_t end = at;
-    if (tokens[end].length == 1 && text.at(begin) == QChar(u'对')) { // usually calls: 对张伟
+    while (!isAtClauseEnd(tokens, end) && tokens[end].length == 1 &&
+           text.at(tokens[end].position) == QChar(u'对')) { // 对对账; it usually calls, 对张伟
         ++end;
     }
     while (

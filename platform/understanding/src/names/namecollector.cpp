@@ -54,6 +54,10 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
             return;
         }
     }
+    const int dash = name.indexOf(QLatin1Char('-'));
+    if (dash > 1 && isPersonsName(name.left(dash)) && isModifier(name.mid(dash + 1))) { // 韩梅梅-市场部
+        name.truncate(dash);
+    }
     const int modifier = modifierLength(name);
     if (modifier > 0) {
         name = whole ? name.mid(modifier) : withoutParticles(name.mid(modifier));

@@ -255,6 +255,8 @@ private:
                 if (follows && m_names.size() == before && m_modifierStart < 0) { // 跟Jerry过方案
                     return at + 1;
                 }
+            } else if (m_text.at(token.position) == QLatin1Char('(') && followsName(token)) {
+                at = m_places.endOfBrackets(at); // 李总(远航集团)
             } else if (token.is(WordClass::Punctuation) && m_text.at(token.position) == QLatin1Char(',')) {
                 afterComma = true;
             } else if (!token.isAny(WordClass::Separator | WordClass::Nobody) && !m_places.isOwner(at) &&

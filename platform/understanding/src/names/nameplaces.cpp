@@ -166,6 +166,17 @@ bool NamePlaces::isPrefixOfLatin(std::size_t at) const
            m_tokens[at + 1].kind == Token::Kind::Latin && m_tokens[at + 1].position == m_tokens[at].end();
 }
 
+std::size_t NamePlaces::endOfBrackets(std::size_t at) const
+{
+    constexpr std::size_t farthest = 6;
+    for (std::size_t next = at + 1; next < qMin(m_tokens.size(), at + farthest); ++next) {
+        if (m_text.at(m_tokens[next].position) == QLatin1Char(')')) {
+            return next;
+        }
+    }
+    return at;
+}
+
 bool NamePlaces::isSurnameBehind(std::size_t latin) const
 {
     const std::size_t next = latin + 1;

@@ -59,6 +59,8 @@ public:
     [[nodiscard]] bool isOnlyRelative(std::size_t at) const;
     /// 阿 in 阿Ken, 林 in 林Sir.
     [[nodiscard]] bool isPrefixOfLatin(std::size_t at) const;
+    /// The bracket that closes the one at @p at; @p at where none is near.
+    [[nodiscard]] std::size_t endOfBrackets(std::size_t at) const;
     /// 李 in Miss李.
     [[nodiscard]] bool isSurnameBehind(std::size_t latin) const;
     [[nodiscard]] bool isMiddleDot(std::size_t at) const;

@@ -19,7 +19,7 @@ public:
     void run()
     {
         while (m_at < m_tokens.size()) {
-            if (!joinRelative() && !joinOwner() && !takeJob()) {
+            if (!joinRelative() && !joinKnownOwner() && !joinOwner() && !takeJob()) {
                 keep();
             }
         }
@@ -166,6 +166,34 @@ private:
             return true;
         }
         return false;
+    }
+
+    /// 张伟的徒弟 in 拉张伟的徒弟阿伟进来, where 张伟 is known.
+    bool joinKnownOwner()
+    {
+        const std::size_t of = m_at + 1;
+        const std::size_t next = m_at + 2;
+        if (m_tokens[m_at].kind != Token::Kind::Name || next > m_tokens.size() || !isSomebodyExpected() ||
+            of >= m_tokens.size() || m_tokens[of].kind != Token::Kind::Other ||
+            m_text.at(m_tokens[of].position) != QChar(u'的')) {
+            return false;
+        }
+        const QString rest = m_text.mid(m_tokens[of].position + 1, m_tokens[of].length - 1);
+        const int modifier = modifierLength(rest);
+        int position = m_tokens[of].position + 1 + modifier;
+        std::size_t name = of;
+        if (modifier == 0 && next < m_tokens.size()) {
+            position = m_tokens[next].position;
+            const bool told = isModifier(rest) && m_tokens[next].kind == Token::Kind::Name;
+            name = told ? next : rest.isEmpty() ? nameFrom(next, position) : m_tokens.size();
+        }
+        if ((modifier == 0 && name == of) || name == m_tokens.size()) {
+            return false;
+        }
+        join(position, WordClass::Address, name).inModifier = true;
+        m_tokens[name].length = m_tokens[name].end() - position;
+        m_tokens[name].position = position;
+        return true;
     }
 
     /// 翻译 in 让翻译小阮进会 describes somebody, in 翻译一下 it is a request.

@@ -82,6 +82,10 @@ private:
                                   u"建民", u"建英", u"建林", u"建波", u"建强", u"建东", u"建成"});
             }
             break;
+        case u'开': // 李开来
+            length =
+                isBehindFamilyName(m_text, m_tokens) ? firstOf(m_text, m_at, {u"开来", u"开慧", u"开泰"}) : 0;
+            break;
         case u'明': // 居委会的董明晨, but not 王总明晨
             length = isBehindFamilyName(m_text, m_tokens) ? firstOf(m_text, m_at, {u"明晨"}) : 0;
             break;

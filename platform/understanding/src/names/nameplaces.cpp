@@ -300,10 +300,14 @@ std::size_t NamePlaces::skipToNames(std::size_t lead) const
         const bool linked =
             label && (token.isAny(WordClass::LabelLink | WordClass::Have | WordClass::NameLabel) ||
                       token.is(WordClass::Punctuation));
+        // 一 in 约一组和二组, but not in 约一组人
+        const bool group = token.length == 1 && m_text.at(token.position) == QChar(u'一') &&
+                           firstOf(m_text, token.end(), {u"组", u"部", u"班", u"队", u"科", u"院"}) > 0 &&
+                           charAt(m_text, token.end() + 1) != QChar(u'人');
         // 次 in 约次仁旺姆
         const bool inName = token.length == 1 && m_text.at(token.position) == QChar(u'次') &&
                             at + 1 < m_tokens.size() && m_tokens[at + 1].kind == Token::Kind::Other;
-        if (inName || (!token.isAny(between) && token.kind != Token::Kind::Space && !linked)) {
+        if (inName || group || (!token.isAny(between) && token.kind != Token::Kind::Space && !linked)) {
             break;
         }
         ++at;

@@ -32,7 +32,7 @@ WordClasses classesNamed(const QString &names)
 
 } // namespace
 
-AllowedWords allowedWordsFor(const QString &intent)
+const AllowedWords &allowedWordsFor(const QString &intent)
 {
     static const QHash<QString, AllowedWords> rows = [] {
         QHash<QString, AllowedWords> loaded;
@@ -50,7 +50,9 @@ AllowedWords allowedWordsFor(const QString &intent)
         }
         return loaded;
     }();
-    return rows.value(intent);
+    static const AllowedWords none;
+    const auto row = rows.constFind(intent);
+    return row == rows.cend() ? none : *row;
 }
 
 } // namespace understanding

@@ -18,6 +18,6 @@ struct AllowedWords
 };
 
 /// The row for @p intent, empty if there is none.
-AllowedWords allowedWordsFor(const QString &intent);
+const AllowedWords &allowedWordsFor(const QString &intent);
 
 } // namespace understanding

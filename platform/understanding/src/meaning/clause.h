@@ -106,7 +106,7 @@ private:
     const Reading &m_reading;
     const Tokens &m_tokens;
     const QString &m_intent;
-    const AllowedWords m_allowed;
+    const AllowedWords &m_allowed;
     const std::size_t m_begin;
     const std::size_t m_end;
     const bool m_isQuery;

@@ -127,6 +127,9 @@ bool tellsWhen(const Reading &reading)
 {
     constexpr WordClasses wanting =
         WordClass::Query | WordClass::Schedule | WordClass::Have | WordClass::AskedTime | WordClass::Question;
+    if (!reading.openVerb().isEmpty()) {
+        return false;
+    }
     const Tokens &tokens = reading.tokens();
     const QString &text = reading.sentence().text();
     const bool served = std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
@@ -135,7 +138,7 @@ bool tellsWhen(const Reading &reading)
     const bool asks = std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
         return token.isAny(wanting) && textOf(reading, token) != QStringLiteral("是不是");
     });
-    if (!reading.openVerb().isEmpty() || served || asks) {
+    if (served || asks) {
         return false;
     }
     for (std::size_t at = 0; at + 2 < tokens.size(); ++at) {

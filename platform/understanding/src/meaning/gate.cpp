@@ -9,6 +9,8 @@
 #include "meaning/outcome.h"
 #include "meaning/suspicions.h"
 
+#include <algorithm>
+
 namespace understanding {
 
 /// True if something is also to end. 半小时结束 only says how long it takes; in 四点结束 the hour is no
@@ -41,6 +43,13 @@ static std::vector<bool> findAsides(const Reading &reading, const QString &inten
                                    WordClass::Negation | WordClass::Repair | WordClass::NameLabel |
                                    WordClass::PasswordLabel | WordClass::IdLabel | WordClass::GiveUp |
                                    WordClass::Close | WordClass::CloseAlone;
+    const Tokens &tokens = reading.tokens();
+    std::vector<bool> asides(tokens.size() + 1, false);
+    const bool spaced = std::any_of(tokens.cbegin(), tokens.cend(),
+                                    [](const Token &token) { return token.kind == Token::Kind::Space; });
+    if (!spaced && intent != QLatin1String(QueryConference)) {
+        return asides;
+    }
     WordClasses weighty = adding;
     if (intent != QLatin1String(QueryConference)) { // which does no harm
         weighty.add(allowedWordsFor(intent).anchors);
@@ -48,8 +57,6 @@ static std::vector<bool> findAsides(const Reading &reading, const QString &inten
                     WordClass::Actor | WordClass::Reported | WordClass::Trigger | WordClass::Pull |
                     WordClass::Invite | WordClass::Arrive);
     }
-    const Tokens &tokens = reading.tokens();
-    std::vector<bool> asides(tokens.size() + 1, false);
     bool harmless = true;
     bool strange = false;
     for (std::size_t at = tokens.size(); at-- > 0;) {
@@ -80,6 +87,9 @@ static bool endsClause(const Tokens &tokens, std::size_t at)
 static bool repairsSomething(const Reading &reading)
 {
     constexpr WordClasses empty = WordClass::Filler | WordClass::Punctuation | WordClass::OpenParticle;
+    if (!reading.has(WordClass::Repair)) {
+        return false;
+    }
     bool said = false;
     for (const Token &token : reading.tokens()) {
         if (said && token.is(WordClass::Repair) && !token.inTopic) {

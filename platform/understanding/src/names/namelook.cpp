@@ -64,7 +64,7 @@ bool endsLikeName(const QString &text)
 
 bool startsTwoCharacterSurname(const QString &text)
 {
-    static const QStringList surnames = {
+    static const QSet<QString> surnames = {
         QStringLiteral("欧阳"), QStringLiteral("司马"), QStringLiteral("诸葛"), QStringLiteral("上官"),
         QStringLiteral("司徒"), QStringLiteral("东方"), QStringLiteral("夏侯"), QStringLiteral("皇甫"),
         QStringLiteral("令狐"), QStringLiteral("尉迟"), QStringLiteral("公孙"), QStringLiteral("慕容"),
@@ -76,8 +76,7 @@ bool startsTwoCharacterSurname(const QString &text)
         QStringLiteral("佐藤"), QStringLiteral("铃木"), QStringLiteral("渡边"), QStringLiteral("伊藤"),
         QStringLiteral("中村"), QStringLiteral("吉田"), QStringLiteral("山田"), QStringLiteral("松本"),
         QStringLiteral("斋藤"), QStringLiteral("藤田")};
-    return std::any_of(surnames.cbegin(), surnames.cend(),
-                       [&](const QString &name) { return text.startsWith(name); });
+    return text.size() > 1 && surnames.contains(text.left(2));
 }
 
 } // namespace

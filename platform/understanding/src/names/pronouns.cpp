@@ -139,38 +139,53 @@ bool callIntroduced(const std::vector<FoundName> &introduced, int introduction, 
     return true;
 }
 
+/// A clause, from where it says more than when up to its sign.
+struct Span
+{
+    int clause = 0; ///< where the clause itself begins
+    int begin = -1;
+    int end = 0;
+};
+
+/// The clauses before the token at @p until.
+std::vector<Span> clausesBefore(const Tokens &tokens, std::size_t until)
+{
+    std::vector<Span> clauses;
+    Span span;
+    for (std::size_t at = 0; at < until; ++at) {
+        const Token &token = tokens[at];
+        if (token.is(WordClass::Punctuation)) {
+            span.end = token.position;
+            if (span.begin >= 0) {
+                clauses.push_back(span);
+            }
+            span = {token.end(), -1, 0};
+        } else if (span.begin < 0 && token.kind != Token::Kind::Time && token.kind != Token::Kind::Space) {
+            span.begin = token.position;
+        }
+    }
+    return clauses;
+}
+
 } // namespace
 
 int resolvePronouns(const QString &raw, const QString &text, const Tokens &tokens,
                     std::vector<FoundName> &names)
 {
-    std::vector<FoundName> introduced; // by the clause before
-    int begin = 0;                     // of this clause
-    int said = -1;                     // where it says more than when
-    int introduction = -1;
-    for (std::size_t at = 0; at < tokens.size(); ++at) {
-        if (tokens[at].is(WordClass::Punctuation)) {
-            std::vector<FoundName> fresh = introducedBy(raw, text, qMax(said, begin), tokens[at].position);
-            const bool timed =
-                !fresh.empty() && // 明天下午三点开会，叫上
-                std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
-                    return token.kind == Token::Kind::Time && token.position == fresh.front().position;
-                });
-            if (!fresh.empty() && !timed) {
-                introduced = std::move(fresh);
-                introduction = begin;
-            }
-            begin = tokens[at].end();
-            said = -1;
-        } else if (said < 0 && tokens[at].kind != Token::Kind::Time &&
-                   tokens[at].kind != Token::Kind::Space) {
-            said = tokens[at].position;
-        }
-        if (tokens[at].is(WordClass::Punctuation)) {
-            continue;
-        }
-        if (!introduced.empty() && callsNamedBefore(text, tokens, at)) {
-            return callIntroduced(introduced, introduction, names) ? introduction : -1;
+    bool clauseBefore = false;
+    std::size_t call = 0; // the first word that calls somebody who was named before
+    while (call < tokens.size() && !(clauseBefore && callsNamedBefore(text, tokens, call))) {
+        clauseBefore = clauseBefore || tokens[call].is(WordClass::Punctuation);
+        ++call;
+    }
+    if (call == tokens.size()) {
+        return -1;
+    }
+    const std::vector<Span> clauses = clausesBefore(tokens, call);
+    for (auto clause = clauses.crbegin(); clause != clauses.crend(); ++clause) {
+        const std::vector<FoundName> introduced = introducedBy(raw, text, clause->begin, clause->end);
+        if (!introduced.empty()) {
+            return callIntroduced(introduced, clause->clause, names) ? clause->clause : -1;
         }
     }
     return -1;

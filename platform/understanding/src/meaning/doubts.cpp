@@ -4,6 +4,7 @@
 #include "meaning/doubts.h"
 
 #include "meaning/outcome.h"
+#include "meaning/reports.h"
 #include "names/headreader.h"
 #include "names/namelook.h"
 #include "text/scan.h"
@@ -81,81 +82,6 @@ bool mentionsStranger(const Reading &reading)
             if ((there || (ofConference && length == longest)) && isPersonsName(said) && !isThing(said)) {
                 return true;
             }
-        }
-    }
-    return false;
-}
-
-/// 记得三点开会, 别忘了三点开会: somebody is reminded.
-bool reminds(const Reading &reading)
-{
-    static const QStringList reminders = {QStringLiteral("记得"), QStringLiteral("别忘"),
-                                          QStringLiteral("不要忘")};
-    const Tokens &tokens = reading.tokens();
-    std::size_t at = 0;
-    while (at < tokens.size() && tokens[at].length == 1 && tokens[at].is(WordClass::Filler)) { // 那
-        ++at;
-    }
-    return at < tokens.size() && !reading.has(WordClass::Request) && reading.names().empty() &&
-           std::any_of(reminders.cbegin(), reminders.cend(),
-                       [&](const QString &word) { return textOf(reading, tokens[at]).contains(word); });
-}
-
-/// 会议三点开始 tells, 开个会，三点开始 orders.
-bool tellsBeginning(const Reading &reading)
-{
-    const QString begins = QStringLiteral("开始");
-    const bool opened = !reading.openVerb().isEmpty() && reading.openVerb().normValue != begins;
-    if (opened || reading.has(WordClass::Request)) {
-        return false;
-    }
-    const Tokens &tokens = reading.tokens();
-    bool conference = false; // in the same clause
-    for (std::size_t at = 0; at < tokens.size(); ++at) {
-        conference =
-            (conference || tokens[at].is(WordClass::Conference)) && !tokens[at].is(WordClass::Punctuation);
-        if (conference && tokens[at].length == begins.size() && textOf(reading, tokens[at]) == begins &&
-            isAtClauseEnd(tokens, at + 1)) {
-            return true;
-        }
-    }
-    return false;
-}
-
-/// 家长会是周四晚上七点, 班会在周五下午: it is known when the conference is, and nobody opens one.
-bool tellsWhen(const Reading &reading)
-{
-    constexpr WordClasses wanting =
-        WordClass::Query | WordClass::Schedule | WordClass::Have | WordClass::AskedTime | WordClass::Question;
-    if (!reading.openVerb().isEmpty()) {
-        return false;
-    }
-    const Tokens &tokens = reading.tokens();
-    const QString &text = reading.sentence().text();
-    const bool served = std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
-        return token.is(WordClass::Request) && textOf(reading, token) != QStringLiteral("吧");
-    });
-    const bool asks = std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
-        return token.isAny(wanting) && textOf(reading, token) != QStringLiteral("是不是");
-    });
-    if (served || asks) {
-        return false;
-    }
-    for (std::size_t at = 0; at + 2 < tokens.size(); ++at) {
-        if (!tokens[at].is(WordClass::Conference) || tokens[at].inTopic) {
-            continue;
-        }
-        int end = tokens[at].end();
-        end += firstOf(text, end, {u"应该", u"好像", u"可能", u"大概"});
-        const int link =
-            firstOf(text, end, {u"是不是在", u"是不是", u"就是在", u"就是", u"是在", u"就在", u"是", u"在"});
-        std::size_t next = at + 1;
-        while (next < tokens.size() && tokens[next].position < end + link) {
-            ++next;
-        }
-        const bool timed = next < tokens.size() && tokens[next].kind == Token::Kind::Time;
-        if (link > 0 && timed) {
-            return true;
         }
     }
     return false;
@@ -282,15 +208,6 @@ bool isHeldInRoom(const Reading &reading)
            text.indexOf(QStringLiteral("开会"), room) > room;
 }
 
-/// 123456789是张伟的会议号 tells whose it is.
-bool tellsWhoseNumber(const Reading &reading)
-{
-    const int end = reading.conferenceNumber().position + reading.conferenceNumber().length;
-    return !reading.conferenceNumber().isEmpty() && reading.has(WordClass::IdLabel) &&
-           !reading.hasAny(WordClass::Join | WordClass::WeakJoin | WordClass::Request) &&
-           charAt(reading.sentence().text(), end) == QChar(u'是');
-}
-
 /// 你能开会吗 asks what the assistant can do; 你能帮我开会吗 asks for a conference.
 bool asksAbility(const Reading &reading)
 {
@@ -298,24 +215,6 @@ bool asksAbility(const Reading &reading)
     return firstOf(text, 0, {u"你能", u"你会", u"你可以"}) > 0 && reading.has(WordClass::Request) &&
            reading.has(WordClass::QuestionParticle) && reading.names().empty() &&
            reading.timeSaid().isEmpty() && !text.contains(QChar(u'帮')) && !text.contains(QChar(u'给'));
-}
-
-/// 下次开会记得叫我, 有空一起开会啊, 你能开会吗, 我先开会, 会议三点到五点: sets no time, or gives no order.
-bool onlySpeaksOf(const Reading &reading)
-{
-    const QString &text = reading.sentence().text();
-    const bool nextTime = text.startsWith(QStringLiteral("下次")) || text.startsWith(QStringLiteral("下回"));
-    if (reading.has(WordClass::Request) ||
-        (!reading.names().empty() && !(nextTime && reading.timeSaid().isEmpty()))) {
-        return false;
-    }
-    const bool bare = reading.openVerb().isEmpty() && text.startsWith(QStringLiteral("会议")) &&
-                      !text.startsWith(QStringLiteral("会议预"));
-    if (!reading.timeSaid().isEmpty()) {
-        return bare && reading.tokens().size() <= 3;
-    }
-    return text.contains(QStringLiteral("下次")) || text.contains(QStringLiteral("有空")) ||
-           text.contains(QStringLiteral("会别")) || text.startsWith(QStringLiteral("我先"));
 }
 
 /// 帮我把会议室退了: gives a room back.
@@ -332,27 +231,6 @@ bool comesLater(const Reading &reading)
 bool tellsOnlyEnd(const Reading &reading)
 {
     return reading.tellsOnlyEnd();
-}
-
-/// 三点散会, 明天散会: not now.
-bool endsLater(const Reading &reading)
-{
-    const Tokens &tokens = reading.tokens();
-    for (std::size_t at = 1; at < tokens.size(); ++at) {
-        if (!tokens[at].is(WordClass::CloseAlone) || tokens[at].inTopic) {
-            continue;
-        }
-        std::size_t before = at;
-        while (before > 0 && tokens[before - 1].is(WordClass::Filler)) {
-            --before;
-        }
-        const bool later = before > 0 && tokens[before - 1].kind == Token::Kind::Time &&
-                           (tokens[before - 1].time.hasClock || tokens[before - 1].time.dayOffset > 0);
-        if (later) {
-            return true;
-        }
-    }
-    return false;
 }
 
 constexpr struct

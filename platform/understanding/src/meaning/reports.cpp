@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "meaning/reports.h"
+
+#include "text/scan.h"
+
+#include <algorithm>
+
+namespace understanding {
+
+namespace {
+
+QString textOf(const Reading &reading, const Token &token)
+{
+    return reading.sentence().text().mid(token.position, token.length);
+}
+
+} // namespace
+
+bool tellsBeginning(const Reading &reading)
+{
+    const QString begins = QStringLiteral("开始");
+    const bool opened = !reading.openVerb().isEmpty() && reading.openVerb().normValue != begins;
+    if (opened || reading.has(WordClass::Request)) {
+        return false;
+    }
+    const Tokens &tokens = reading.tokens();
+    bool conference = false; // in the same clause
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        conference =
+            (conference || tokens[at].is(WordClass::Conference)) && !tokens[at].is(WordClass::Punctuation);
+        if (conference && tokens[at].length == begins.size() && textOf(reading, tokens[at]) == begins &&
+            isAtClauseEnd(tokens, at + 1)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool tellsWhen(const Reading &reading)
+{
+    constexpr WordClasses wanting =
+        WordClass::Query | WordClass::Schedule | WordClass::Have | WordClass::AskedTime | WordClass::Question;
+    if (!reading.openVerb().isEmpty()) {
+        return false;
+    }
+    const Tokens &tokens = reading.tokens();
+    const QString &text = reading.sentence().text();
+    const bool served = std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
+        return token.is(WordClass::Request) && textOf(reading, token) != QStringLiteral("吧");
+    });
+    const bool asks = std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
+        return token.isAny(wanting) && textOf(reading, token) != QStringLiteral("是不是");
+    });
+    if (served || asks) {
+        return false;
+    }
+    for (std::size_t at = 0; at + 2 < tokens.size(); ++at) {
+        if (!tokens[at].is(WordClass::Conference) || tokens[at].inTopic) {
+            continue;
+        }
+        int end = tokens[at].end();
+        end += firstOf(text, end, {u"应该", u"好像", u"可能", u"大概"});
+        const int link =
+            firstOf(text, end, {u"是不是在", u"是不是", u"就是在", u"就是", u"是在", u"就在", u"是", u"在"});
+        std::size_t next = at + 1;
+        while (next < tokens.size() && tokens[next].position < end + link) {
+            ++next;
+        }
+        const bool timed = next < tokens.size() && tokens[next].kind == Token::Kind::Time;
+        if (link > 0 && timed) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool tellsWhoseNumber(const Reading &reading)
+{
+    const int end = reading.conferenceNumber().position + reading.conferenceNumber().length;
+    return !reading.conferenceNumber().isEmpty() && reading.has(WordClass::IdLabel) &&
+           !reading.hasAny(WordClass::Join | WordClass::WeakJoin | WordClass::Request) &&
+           charAt(reading.sentence().text(), end) == QChar(u'是');
+}
+
+bool reminds(const Reading &reading)
+{
+    static const QStringList reminders = {QStringLiteral("记得"), QStringLiteral("别忘"),
+                                          QStringLiteral("不要忘")};
+    const Tokens &tokens = reading.tokens();
+    std::size_t at = 0;
+    while (at < tokens.size() && tokens[at].length == 1 && tokens[at].is(WordClass::Filler)) { // 那
+        ++at;
+    }
+    return at < tokens.size() && !reading.has(WordClass::Request) && reading.names().empty() &&
+           std::any_of(reminders.cbegin(), reminders.cend(),
+                       [&](const QString &word) { return textOf(reading, tokens[at]).contains(word); });
+}
+
+bool onlySpeaksOf(const Reading &reading)
+{
+    const QString &text = reading.sentence().text();
+    const bool nextTime = text.startsWith(QStringLiteral("下次")) || text.startsWith(QStringLiteral("下回"));
+    if (reading.has(WordClass::Request) ||
+        (!reading.names().empty() && !(nextTime && reading.timeSaid().isEmpty()))) {
+        return false;
+    }
+    const bool bare = reading.openVerb().isEmpty() && text.startsWith(QStringLiteral("会议")) &&
+                      !text.startsWith(QStringLiteral("会议预"));
+    if (!reading.timeSaid().isEmpty()) {
+        return bare && reading.tokens().size() <= 3;
+    }
+    return text.contains(QStringLiteral("下次")) || text.contains(QStringLiteral("有空")) ||
+           text.contains(QStringLiteral("会别")) || text.startsWith(QStringLiteral("我先"));
+}
+
+bool endsLater(const Reading &reading)
+{
+    const Tokens &tokens = reading.tokens();
+    for (std::size_t at = 1; at < tokens.size(); ++at) {
+        if (!tokens[at].is(WordClass::CloseAlone) || tokens[at].inTopic) {
+            continue;
+        }
+        std::size_t before = at;
+        while (before > 0 && tokens[before - 1].is(WordClass::Filler)) {
+            --before;
+        }
+        const bool later = before > 0 && tokens[before - 1].kind == Token::Kind::Time &&
+                           (tokens[before - 1].time.hasClock || tokens[before - 1].time.dayOffset > 0);
+        if (later) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace understanding

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "meaning/reading.h"
+
+namespace understanding {
+
+// Sentences that tell of a conference and order nothing.
+
+/// 会议三点开始 tells, 开个会，三点开始 orders.
+[[nodiscard]] bool tellsBeginning(const Reading &reading);
+
+/// 家长会是周四晚上七点, 班会在周五下午: it is known when the conference is, and nobody opens one.
+[[nodiscard]] bool tellsWhen(const Reading &reading);
+
+/// 123456789是张伟的会议号 tells whose it is.
+[[nodiscard]] bool tellsWhoseNumber(const Reading &reading);
+
+/// 记得三点开会, 别忘了三点开会: somebody is reminded.
+[[nodiscard]] bool reminds(const Reading &reading);
+
+/// 下次开会记得叫我, 有空一起开会啊, 你能开会吗, 我先开会, 会议三点到五点: sets no time, or gives no order.
+[[nodiscard]] bool onlySpeaksOf(const Reading &reading);
+
+/// 三点散会, 明天散会: not now.
+[[nodiscard]] bool endsLater(const Reading &reading);
+
+} // namespace understanding

@@ -83,7 +83,7 @@ bool TokenJoiner::onlyNames()
                                       WordClass::ComeMeet | WordClass::Pull | WordClass::Invite |
                                       WordClass::StrongOpen | WordClass::Query | WordClass::Add |
                                       WordClass::Close | WordClass::Request;
-        m_onlyNames = std::none_of(m_tokens.cbegin(), m_tokens.cend(), [](const Token &token) {
+        m_onlyNames = std::none_of(m_tokens.cbegin(), m_tokens.cend(), [&](const Token &token) {
             return token.isAny(deeds) || token.kind == Token::Kind::Time ||
                    (token.is(WordClass::Trigger) && !token.is(WordClass::Separator));
         });
@@ -96,7 +96,7 @@ bool TokenJoiner::meets()
     if (!m_meets) {
         constexpr WordClasses meeting = WordClass::Conference | WordClass::Join | WordClass::Arrive |
                                         WordClass::ComeMeet | WordClass::Video;
-        m_meets = std::any_of(m_tokens.cbegin(), m_tokens.cend(), [](const Token &token) {
+        m_meets = std::any_of(m_tokens.cbegin(), m_tokens.cend(), [&](const Token &token) {
             return token.isAny(meeting) || (token.is(WordClass::Pull) && token.length > 1); // 叫上
         });
     }

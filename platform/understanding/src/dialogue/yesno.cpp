@@ -28,6 +28,9 @@ YesNo readYesNo(const Sentence &sentence)
         return loaded;
     }();
     static const QString particles = QStringLiteral("吧啊呀呢哦啦哈嘞呗会议");
+    if (sentence.text().endsWith(QLatin1Char('?'))) { // 嗯？
+        return YesNo::Unclear;
+    }
     QString text;
     std::copy_if(sentence.text().cbegin(), sentence.text().cend(), std::back_inserter(text),
                  [](QChar character) { return character.isLetterOrNumber(); });

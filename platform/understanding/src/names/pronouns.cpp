@@ -25,12 +25,17 @@ bool onlyMeets(const QString &text, const Tokens &tokens, std::size_t at)
                                     WordClass::Conference | WordClass::ComeMeet | WordClass::Video |
                                     WordClass::WeakOpen | WordClass::StrongOpen | WordClass::Measure |
                                     WordClass::OpenParticle | WordClass::NameTail | WordClass::Filler;
-    while (!endsClause(tokens, at) && text.at(tokens[at].position) != QChar(u'等') && // 叫他等等
-           (tokens[at].isAny(meeting) || tokens[at].kind == Token::Kind::Time ||
-            tokens[at].kind == Token::Kind::Space || tokens[at].inTopic)) {
-        ++at;
+    for (; !endsClause(tokens, at); ++at) {
+        const Token &token = tokens[at];
+        const bool room = token.is(WordClass::Conference) && text.at(token.end() - 1) == QChar(u'室');
+        const bool waits = text.at(token.position) == QChar(u'等'); // 叫他等等
+        const bool meets = token.isAny(meeting) || token.kind == Token::Kind::Time ||
+                           token.kind == Token::Kind::Space || token.inTopic;
+        if (room || waits || !meets) {
+            return false;
+        }
     }
-    return endsClause(tokens, at);
+    return true;
 }
 
 /// True for 拉她, 把他俩拉进来, 帮我拉一下: the token at @p at calls somebody who was named before.

@@ -97,7 +97,8 @@ bool isUnknownPurpose(const QString &text, const Tokens &tokens, std::size_t at)
     if (!isAtClauseEnd(tokens, end) || tokens[at].is(WordClass::Filler) || length < 2 || length > longest) {
         return false;
     }
-    static const QString telling = QStringLiteral("了完得太真很好吗么呢吧啊没不又还都已着去来累烦困笑哭骂吵");
+    static const QString telling =
+        QStringLiteral("了完得太真也在很好吗么呢吧啊没不又还都已着去来累烦困笑哭骂吵");
     const QString said = text.mid(begin, length);
     return std::none_of(said.cbegin(), said.cend(),
                         [](QChar character) { return telling.contains(character); }) &&

@@ -3,6 +3,7 @@
 
 #include "meaning/callings.h"
 
+#include "names/headreader.h"
 #include "text/scan.h"
 
 #include <algorithm>
@@ -27,7 +28,8 @@ bool standsForName(const Reading &reading, const Token &token)
 {
     static const QString vague = QStringLiteral("那某谁");
     static const QString referring = QStringLiteral("他她"); // to somebody who was never named
-    const bool unnamed = token.length == 1 && reading.names().empty() &&
+    const std::vector<FoundName> &names = reading.names();
+    const bool unnamed = token.length == 1 && (names.empty() || names.front().position > token.position) &&
                          referring.contains(reading.sentence().text().at(token.position));
     return unnamed || token.is(WordClass::Address) ||
            (token.isAny(WordClass::Filler | WordClass::Nobody | WordClass::Actor) &&
@@ -116,8 +118,10 @@ bool callsByAddressOnly(const Reading &reading)
         while (next < tokens.size() && isSpeaker(reading, tokens[next])) { // 和我兄弟
             ++next;
         }
-        if (next + 1 < tokens.size() && tokens[next + 1].inName) { // 和那个王磊
-            return false;
+        if (next + 1 < tokens.size() && tokens[next + 1].inName) { // 和那个王磊, but not 约他弟弟
+            const QString named =
+                reading.sentence().text().mid(tokens[next + 1].position, tokens[next + 1].length);
+            return isRelative(named) && standsForName(reading, tokens[next]);
         }
         // 请管家帮我开个会 talks to the assistant.
         return next < tokens.size() && standsForName(reading, tokens[next]) && !tokens[next].inName &&

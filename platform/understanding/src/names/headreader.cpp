@@ -84,9 +84,13 @@ int modifierLength(const QString &text)
         }
     }
     // 蓝海李工: what stands before somebody's title is where they work.
-    for (int length = 2; length <= 4 && rest.size() - length >= 2; ++length) {
+    for (int length = 2; length <= 4 && rest.size() - length >= 1; ++length) {
         const int cut = rest.size() - length;
         const QString left = rest.left(cut);
+        static const QString offices = QStringLiteral("处部室组科"); // 处冉秘书 of 秘书处冉秘书
+        if (cut == 1 && !offices.contains(left.at(0))) {
+            continue;
+        }
         const bool ofSomebody = isNamePrefix(left.at(0)) || isPersonsName(left.left(2)) || cut > 4;
         if (!ofSomebody && isSurnameWithTitle(rest.mid(cut))) {
             return start + cut;
@@ -138,7 +142,7 @@ QString dottedName(const QString &text)
     for (int character = 0; text.at(character) != QChar(u'·'); ++character) {
         cut = leads.contains(text.at(character)) ? character + 1 : cut;
     }
-    const QString name = withoutParticles(text.mid(cut));
+    QString name = withoutParticles(text.mid(cut));
     for (int length = name.indexOf(QChar(u'·')) - 2; length >= 2; --length) { // 人事部安娜·卡列尼娜
         if (isModifier(name.left(length))) {
             return name.mid(length);

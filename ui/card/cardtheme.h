@@ -64,18 +64,23 @@ inline QColor itemGround()
 }
 
 // The same in both themes.
+/// The cards' one accent.
+inline QColor blue(int alpha = 255)
+{
+    return {0, 129, 255, alpha};
+}
 inline QColor focus()
 {
-    return {0, 129, 255};
+    return blue();
 }
 /// Over the ground of a row that was picked.
 inline QColor pickedGround()
 {
-    return {0, 129, 255, 36};
+    return blue(36);
 }
 inline QColor notStarted()
 {
-    return {0, 129, 255};
+    return blue();
 }
 inline QColor inProgress()
 {

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
-"""Prints what benchmarks/compare measured: the folder holds PROGRAM.SIDE.ROUND, as Google Benchmark writes JSON."""
+"""Prints what benchmarks/compare measured, from a folder of Google Benchmark's JSON files named PROGRAM.SIDE.ROUND."""
 
 import collections
 import json
@@ -10,7 +10,7 @@ import sys
 
 
 def times(folder):
-    """Times in nanoseconds of processor, or of the clock where a benchmark measures itself, by name and side."""
+    """Returns times by name and side: CPU time in nanoseconds, or wall-clock time for benchmarks with manual timing."""
     units = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
     found = collections.defaultdict(lambda: collections.defaultdict(list))
     for path in sorted(pathlib.Path(folder).glob("*.*.*")):
@@ -25,7 +25,7 @@ def times(folder):
 
 
 def spread(values):
-    """How far the values lie apart, in percent of their median."""
+    """Returns the range of the values in percent of their median."""
     return 100 * (max(values) - min(values)) / statistics.median(values)
 
 

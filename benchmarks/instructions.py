@@ -1,9 +1,9 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
-"""Counts the instructions of turns, of cards and of loading, and of the floor that each is measured against.
+"""Counts the instructions of turns, cards and loading, and of the floor that each is measured against.
 
-instructions.py BUILD_FOLDER, which benchmarks/instructions builds first. Callgrind counts; other work of the machine does
-not change what it says. Below each pair of figures stand the steps that most of both, or of their difference, consists of.
+instructions.py BUILD_FOLDER, which benchmarks/instructions builds first. Callgrind's counts don't depend on the machine's
+load. Below each pair of figures are the steps that account for most of both, or of their difference.
 """
 
 import os
@@ -52,7 +52,7 @@ LOADING_STEPS = {
 
 
 class Count:
-    """What callgrind counted while one function ran: in all, and what each call from one function to another took."""
+    """What callgrind counted while one function ran: the total, and the cost of each call from one function to another."""
 
     def __init__(self, path):
         self.total = 0
@@ -80,7 +80,7 @@ class Count:
 
 
 def count(function, command, bind_now=True):
-    """What all calls of FUNCTION took while COMMAND ran. What is called is looked up at the start if BIND_NOW."""
+    """Counts all calls of FUNCTION while COMMAND runs. With BIND_NOW, symbols are resolved at the start."""
     environment = {**os.environ, "LD_BIND_NOW": "1"} if bind_now else os.environ
     with tempfile.NamedTemporaryFile() as file:
         run = subprocess.run(

@@ -1,9 +1,9 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
-"""Prints what each program holds in memory at rest, and the desk's memory and time over many turns.
+"""Prints each program's memory at rest, and the desk's memory and time over many turns.
 
 memory.py BUILD_FOLDER, on a session bus that starts the contacts application. "own" is what the program has allocated
-and written (anonymous pages, wherever they are), "share" its part of everything that it has in memory, libraries too (Pss).
+and written (anonymous pages, swapped out or not), "share" its proportional share of all its pages, libraries included (Pss).
 """
 
 import os
@@ -20,7 +20,7 @@ SENTENCE = "查询今天的会议\n"
 
 
 def megabytes(pid):
-    """What a process owns, and its share of all, in megabytes; None once it has ended."""
+    """Returns a process's own memory and its share in megabytes, or None once it has ended."""
     try:
         lines = pathlib.Path(f"/proc/{pid}/smaps_rollup").read_text(encoding="ascii").splitlines()
     except OSError:
@@ -32,7 +32,7 @@ def megabytes(pid):
 
 
 def pid_of(program):
-    """The process that the bus has started from @p program."""
+    """Returns the id of the process that the bus has started from PROGRAM."""
     for entry in pathlib.Path("/proc").glob("[0-9]*"):
         try:
             if os.readlink(entry / "exe") == str(program):
@@ -57,7 +57,7 @@ def print_at_rest(name, pid):
 
 
 def play(devhost, plugin, turns):
-    """Seconds, and the most memory, of the desk that plays so many turns and ends."""
+    """Lets the desk play so many turns; returns the seconds it took and its peak memory."""
     with tempfile.NamedTemporaryFile("w", encoding="utf-8", suffix=".txt") as script:
         script.write(SENTENCE * turns)
         script.flush()

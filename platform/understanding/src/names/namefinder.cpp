@@ -97,7 +97,7 @@ private:
         if (left.kind != Token::Kind::Other && left.kind != Token::Kind::Latin && !titled) {
             return;
         }
-        const int start = m_tokens[titled ? at - 2 : m_places.firstOfLatinName(at - 1)].position;
+        const int start = m_tokens[titled ? at - 2 : m_latin.firstOf(at - 1)].position;
         const bool taken = std::any_of(m_names.cbegin(), m_names.cend(),
                                        [&](const FoundName &name) { return name.position >= start; });
         if (!taken && left.end() == m_tokens[at].position) {
@@ -244,7 +244,7 @@ private:
             } else if (token.is(WordClass::Title) && token.length > 1 &&
                        !token.is(WordClass::Nobody)) { // 跟老板开会
                 addOne(token.position, token.length, true);
-            } else if (m_places.isPrefixOfLatin(at)) {
+            } else if (m_latin.isPrefix(at)) {
                 addOne(token.position, m_tokens[at + 1].end() - token.position, true);
                 ++at;
             } else if (token.kind == Token::Kind::Latin) {

@@ -27,12 +27,6 @@ public:
     [[nodiscard]] bool isPlainBeforeName(std::size_t at) const;
     /// 兄弟 in 和兄弟王磊开会.
     [[nodiscard]] bool isAddressBeforeName(std::size_t at) const;
-    /// The last token of the Latin name that begins with @p first: Schmidt in Anna Maria Schmidt.
-    [[nodiscard]] std::size_t lastOfLatinName(std::size_t first) const;
-    /// The first token of the Latin name that ends with @p last: Tom in Tom Lee.
-    [[nodiscard]] std::size_t firstOfLatinName(std::size_t last) const;
-    /// PMO in PMO的Grace, QA in QA组Sara.
-    [[nodiscard]] bool isGroupOfNext(std::size_t at) const;
     /// 3 in 3床家属魏淑芬.
     [[nodiscard]] bool isNumberBeforeName(std::size_t at) const;
     /// The last token of the run of characters that begins at @p at: 关羽 is a word and a character.
@@ -57,21 +51,13 @@ public:
     [[nodiscard]] bool isOfKind(std::size_t at) const;
     /// 我姐, but not 我姐夫.
     [[nodiscard]] bool isOnlyRelative(std::size_t at) const;
-    /// 阿 in 阿Ken, 林 in 林Sir.
-    [[nodiscard]] bool isPrefixOfLatin(std::size_t at) const;
     /// The bracket that closes the one at @p at; @p at where none is near.
     [[nodiscard]] std::size_t endOfBrackets(std::size_t at) const;
-    /// 李 in Miss李.
-    [[nodiscard]] bool isSurnameBehind(std::size_t latin) const;
-    [[nodiscard]] bool isMiddleDot(std::size_t at) const;
     /// 那个 in 外包那个Sergey, 人 in 鉴定人贾博文.
     [[nodiscard]] bool isPointer(std::size_t at) const;
     [[nodiscard]] std::size_t skipTitle(std::size_t at) const;
 
 private:
-    [[nodiscard]] bool startsCapital(std::size_t at) const;
-    /// van in Ludwig van Beethoven.
-    [[nodiscard]] bool isNobiliary(std::size_t at) const;
     const QString &m_text;
     const Tokens &m_tokens;
 };

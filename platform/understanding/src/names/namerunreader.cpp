@@ -18,7 +18,7 @@ std::size_t NameRunReader::takeRun(std::size_t at, bool mustLookLikeName)
     std::size_t last = m_places.lastOfRun(at, m_tokens.size());
     bool dotted = false;
     while (last + 1 < m_tokens.size()) {
-        if (m_places.isMiddleDot(last + 1) && last + 2 < m_tokens.size()) { // 买买提·艾力
+        if (m_latin.isMiddleDot(last + 1) && last + 2 < m_tokens.size()) { // 买买提·艾力
             dotted = true;
             const std::size_t first = last + 2;
             const std::size_t longest = m_places.lastOfRun(first, m_tokens.size());
@@ -88,7 +88,7 @@ std::size_t NameRunReader::takeRun(std::size_t at, bool mustLookLikeName)
 
 std::size_t NameRunReader::takeLatinName(std::size_t at)
 {
-    std::size_t last = m_places.lastOfLatinName(at);
+    std::size_t last = m_latin.lastOf(at);
     const QString first = m_text.mid(m_tokens[at].position, m_tokens[at].length);
     if (last > at && isModifier(first)) { // CFO Linda
         at += 2;
@@ -98,7 +98,7 @@ std::size_t NameRunReader::takeLatinName(std::size_t at)
         return at;
     }
     const QString name = m_text.mid(start, m_tokens[last].end() - start);
-    if (m_places.isSurnameBehind(last)) { // Miss李, C罗
+    if (m_latin.isSurnameBehind(last)) { // Miss李, C罗
         addOne(start, name.size() + 1, true);
         m_names.back().start = m_modifierStart >= 0 ? m_modifierStart : start;
         m_modifierStart = -1;
@@ -106,7 +106,7 @@ std::size_t NameRunReader::takeLatinName(std::size_t at)
     }
     const bool nameFollows = last + 1 < m_tokens.size() && (m_tokens[last + 1].kind == Token::Kind::Name ||
                                                             m_tokens[last + 1].kind == Token::Kind::Other);
-    if ((nameFollows && isModifier(name)) || m_places.isGroupOfNext(last)) {
+    if ((nameFollows && isModifier(name)) || m_latin.isGroupOfNext(last)) {
         m_modifierStart = m_modifierStart < 0 ? start : m_modifierStart;
         return last;
     }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "names/latinnames.h"
 #include "names/namecollector.h"
 #include "names/nameplaces.h"
 
@@ -18,6 +19,7 @@ protected:
         , m_text(text)
         , m_tokens(tokens)
         , m_places(text, tokens)
+        , m_latin(text, tokens)
     {
     }
     ~NameRunReader() = default;
@@ -34,6 +36,7 @@ protected:
     const QString &m_text;     // NOLINT(misc-non-private-member-variables-in-classes)
     const Tokens &m_tokens;    // NOLINT(misc-non-private-member-variables-in-classes)
     const NamePlaces m_places; // NOLINT(misc-non-private-member-variables-in-classes)
+    const LatinNames m_latin;  // NOLINT(misc-non-private-member-variables-in-classes)
 };
 
 } // namespace understanding

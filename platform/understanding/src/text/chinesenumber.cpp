@@ -7,19 +7,12 @@ namespace understanding {
 
 namespace {
 
-const QString &digitCharacters()
-{
-    static const QString characters = QStringLiteral("零一二三四五六七八九");
-    return characters;
-}
-
 constexpr QChar Ten(0x5341);       // 十
 constexpr QChar Hundred(0x767e);   // 百
 constexpr QChar Twenty(0x5eff);    // 廿
 constexpr QChar Thirty(0x5345);    // 卅
 constexpr QChar Two(0x4e24);       // 两
 constexpr QChar One(0x5e7a);       // 幺
-constexpr QChar Zero(0x3007);      // 〇
 constexpr QChar Pieces(0x4e2a);    // 个
 constexpr QChar Comma(0xff0c);     // ，
 constexpr int LongestQuantity = 8; // characters; 九百九十九 takes five
@@ -86,13 +79,32 @@ int digitValue(QChar character)
     if (isAsciiDigit(character)) {
         return character.digitValue();
     }
-    if (character == One) {
-        return 1;
-    }
-    if (character == Zero) {
+    switch (character.unicode()) {
+    case u'零':
+    case u'〇':
         return 0;
+    case u'一':
+    case u'幺':
+        return 1;
+    case u'二':
+        return 2;
+    case u'三':
+        return 3;
+    case u'四':
+        return 4;
+    case u'五':
+        return 5;
+    case u'六':
+        return 6;
+    case u'七':
+        return 7;
+    case u'八':
+        return 8;
+    case u'九':
+        return 9;
+    default:
+        return -1;
     }
-    return digitCharacters().indexOf(character);
 }
 
 NumberMatch readQuantity(const QString &text, int position)

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <initializer_list>
 
 namespace understanding {
@@ -12,7 +13,8 @@ namespace understanding {
 /// True when @p word stands at @p position.
 inline bool startsAt(const QString &text, int position, const QString &word)
 {
-    return text.midRef(position, word.size()) == word;
+    return position >= 0 && word.size() <= text.size() - position &&
+           std::equal(word.cbegin(), word.cend(), text.cbegin() + position);
 }
 
 /// The length of the first of @p words that stands at @p position, 0 for none. List longer words first.

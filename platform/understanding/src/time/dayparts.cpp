@@ -3,6 +3,7 @@
 
 #include "time/dayparts.h"
 
+#include "text/scan.h"
 #include "time/wordtable.h"
 
 namespace understanding {
@@ -51,7 +52,7 @@ int dayPartAt(const QString &text, int position, bool shortForms)
     const std::vector<DayPart> &parts = dayParts();
     for (std::size_t row = 0; row < parts.size(); ++row) {
         const QString &word = parts[row].word;
-        if ((shortForms || word.size() > 1) && text.midRef(position, word.size()) == word) {
+        if ((shortForms || word.size() > 1) && startsAt(text, position, word)) {
             return static_cast<int>(row);
         }
     }

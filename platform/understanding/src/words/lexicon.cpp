@@ -139,11 +139,13 @@ Lexicon::Lexicon() : m_byFirst(1), m_bucket(0x10000)
             bucket = static_cast<quint16>(m_byFirst.size());
             m_byFirst.emplace_back();
         }
-        m_byFirst[bucket].push_back({word, m_words.value(word), m_wordsAtClauseEnd.value(word)});
+        const QChar second = word.size() > 1 ? word.at(1) : QChar();
+        m_byFirst[bucket].push_back(
+            {word, word.size(), second, m_words.value(word), m_wordsAtClauseEnd.value(word)});
     }
     for (std::vector<Entry> &entries : m_byFirst) {
         std::sort(entries.begin(), entries.end(),
-                  [](const Entry &a, const Entry &b) { return a.word.size() > b.word.size(); });
+                  [](const Entry &a, const Entry &b) { return a.length > b.length; });
     }
 }
 
@@ -175,10 +177,9 @@ WordMatch Lexicon::longestAt(const QString &text, int position) const
     const QChar *const here = text.constData() + position;
     const int left = text.size() - position;
     for (const Entry &entry : m_byFirst[m_bucket[here->unicode()]]) {
-        const int length = entry.word.size();
-        const QChar *const word = entry.word.constData();
-        // The first characters are the same; the second tells most words apart.
-        if (length > left || (length > 1 && here[1] != word[1]) || !std::equal(word, word + length, here)) {
+        const int length = entry.length;
+        if (length > left || (length > 1 && here[1] != entry.second) ||
+            !std::equal(entry.word.cbegin(), entry.word.cend(), here)) {
             continue;
         }
         WordClasses classes = entry.classes;

@@ -42,6 +42,8 @@ private:
     struct Entry
     {
         QString word;
+        int length = 0;
+        QChar second; ///< of the word's characters, which tells most words in a bucket apart
         WordClasses classes;
         WordClasses classesAtClauseEnd; ///< those marked with "$"
     };

@@ -65,6 +65,14 @@ private:
         return !others.contains(m_text.at(end)) && !m_tokens[at - 1].is(WordClass::Title) && isModifier(said);
     }
 
+    /// 和 in 三组和四组的同事们
+    bool joinsGroups(std::size_t at) const
+    {
+        static const QString offices = QStringLiteral("部组处科室班队");
+        return at > m_at && m_tokens[at].is(WordClass::Separator) && m_tokens[at].length == 1 &&
+               offices.contains(m_text.at(m_tokens[at].position - 1));
+    }
+
     /// The last token of the group that the collective word at @p at begins: 同学 in 全班同学.
     std::size_t lastOfGroup(std::size_t at) const
     {
@@ -99,6 +107,9 @@ private:
             }
             constexpr WordClasses never = WordClass::Separator | WordClass::Trigger | WordClass::Punctuation |
                                           WordClass::Conference | WordClass::Address; // 兄弟们
+            if (joinsGroups(at)) {
+                continue;
+            }
             const bool describes = token.kind == Token::Kind::Other || token.kind == Token::Kind::Latin ||
                                    token.kind == Token::Kind::Number || token.isAny(describing) ||
                                    (token.kind == Token::Kind::Word && token.length == 1); // 场 in 市场部

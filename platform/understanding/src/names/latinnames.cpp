@@ -84,6 +84,15 @@ bool LatinNames::isGroupOfNext(std::size_t at) const
     return link == QChar(u'的') || (group && somebody);
 }
 
+bool LatinNames::isOfficeBehind(std::size_t at) const
+{
+    const std::size_t next = at + 1;
+    static const QString offices = QStringLiteral("部组处科室");
+    return m_text.at(m_tokens[at].position) == QLatin1Char('@') && at > 0 && next < m_tokens.size() &&
+           m_tokens[at - 1].kind == Token::Kind::Latin && m_tokens[at - 1].end() == m_tokens[at].position &&
+           m_tokens[next].kind == Token::Kind::Other && offices.contains(m_text.at(m_tokens[next].end() - 1));
+}
+
 bool LatinNames::isMiddleDot(std::size_t at) const
 {
     return at < m_tokens.size() && m_tokens[at].length == 1 &&

@@ -28,6 +28,8 @@ public:
     [[nodiscard]] bool isSurnameBehind(std::size_t latin) const;
     /// PMO in PMO的Grace, QA in QA组Sara.
     [[nodiscard]] bool isGroupOfNext(std::size_t at) const;
+    /// @ in Amy@市场部: where she works, not somebody else.
+    [[nodiscard]] bool isOfficeBehind(std::size_t at) const;
     [[nodiscard]] bool isMiddleDot(std::size_t at) const;
 
 private:

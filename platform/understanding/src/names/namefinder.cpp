@@ -57,6 +57,9 @@ private:
             return at;
         }
         constexpr WordClasses leads = WordClass::Trigger | WordClass::NameLabel | WordClass::Separator;
+        if (token.isAny(leads) && m_latin.isOfficeBehind(at)) { // Amy@市场部
+            return at + 1;
+        }
         if (token.isAny(leads) && !m_places.isOpeningOne(at)) {
             m_listed = m_text.at(token.position) == QChar(u'、');
             if (token.is(WordClass::Separator)) {

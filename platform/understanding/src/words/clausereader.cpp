@@ -252,7 +252,11 @@ void settleArrivals(const QString &text, Tokens &tokens)
     bool calling = false;
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         Token &token = tokens[at];
-        if (called && leadsIntoConference(text, tokens, at)) {
+        const bool added = at == 1 && tokens[0].is(WordClass::Conference) && token.is(WordClass::Add) &&
+                           token.is(WordClass::Trigger) && tokens.size() > 2 && // 会议加李雷
+                           (tokens[2].kind == Token::Kind::Name || tokens[2].kind == Token::Kind::Latin ||
+                            tokens[2].kind == Token::Kind::Other);
+        if (added || (called && leadsIntoConference(text, tokens, at))) {
             token.classes.add(WordClass::Arrive);
         }
         const bool somebody = token.kind == Token::Kind::Name || token.kind == Token::Kind::Other ||
@@ -270,7 +274,9 @@ void settleArrivals(const QString &text, Tokens &tokens)
 void settleCalls(const QString &text, Tokens &tokens)
 {
     for (std::size_t at = 0; at < tokens.size(); ++at) {
-        const bool also = at > 0 && text.at(tokens[at - 1].position) == QChar(u'也'); // 把张伟也请进来
+        static const QString between = QStringLiteral("也给都"); // 把张伟也请进来, 把张伟给请进来
+        const bool also =
+            at > 0 && tokens[at - 1].length == 1 && between.contains(text.at(tokens[at - 1].position));
         const std::size_t end = also ? at - 1 : at;
         const bool somebodyBefore =
             end > 0 &&

@@ -221,7 +221,7 @@ bool Clause::hasOtherSubject() const
         led = led || (!token.inName && (token.isAny(leads) || token.isAny(deeds)));
         if (subject == m_end && !led &&
             ((token.inName && isUncalled(token)) || isSomebody(token) ||
-             (at == m_begin && isStranger(token)))) {
+             (at == m_begin && isStranger(token) && !isGroupTitle(at)))) {
             subject = at;
         }
         static const QString joining = QStringLiteral("和跟与同约叫让喊");

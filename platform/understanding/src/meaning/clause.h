@@ -92,6 +92,12 @@ private:
     bool isDescription(std::size_t at) const;
     /// 护理部 in 护理部培训会帮我建一个: which conference it is, before the verb that is asked for.
     bool isTitleBeforeVerb(std::size_t at) const;
+    /// 车间 in 明天三点车间开会，叫上老魏: a group that meets, and somebody else is called.
+    bool isGroupBeforeOpening(std::size_t at) const;
+    /// 小区 in 小区业主会给我建一个: whose conference it is, and nobody's name.
+    bool isGroupTitle(std::size_t at) const;
+    /// 项目 in 明天三点，李娜张伟，项目总结会.
+    bool isOnlyTitle(std::size_t at) const;
     /// team in team meeting.
     bool isBeforeConference(std::size_t at) const;
     /// 赵院长发来 in 赵院长发来的会议号.

@@ -97,7 +97,7 @@ bool Clause::isExplained(std::size_t at) const
                isAddress(at);
     case Token::Kind::Other:
         return token.inName || isNothing(token) || isDescription(at) || isTitleBeforeVerb(at) ||
-               isPreamble(at) || isOfNumber(at) ||
+               isGroupBeforeOpening(at) || isOnlyTitle(at) || isPreamble(at) || isOfNumber(at) ||
                (m_intent == QLatin1String(AddBuddy) && !m_reading.account().isEmpty());
     case Token::Kind::Number: // a date or an hour that was cut
         return m_intent != QLatin1String(CreateConference) || token.inName || isDescription(at);
@@ -151,6 +151,51 @@ bool Clause::isTitleBeforeVerb(std::size_t at) const
         requested = requested || m_tokens[next].is(WordClass::Request);
     }
     return requested && next < m_end && m_tokens[next].isAny(WordClass::StrongOpen | WordClass::WeakOpen);
+}
+
+/// 小组, 车间, 党支部, 高三.
+static bool isGroup(const QString &said)
+{
+    static const QString offices = QStringLiteral("部门组处科室班委队院校厂店社团局所站司心系级区间舍");
+    static const QString schools = QStringLiteral("高初");
+    const bool form = said.size() == 2 && schools.contains(said.at(0)) && digitValue(said.at(1)) > 0;
+    return form || (said.size() > 1 && offices.contains(said.at(said.size() - 1)));
+}
+
+bool Clause::isGroupTitle(std::size_t at) const
+{
+    return isGroup(textOf(m_tokens[at])) && isTitleBeforeVerb(at);
+}
+
+bool Clause::isGroupBeforeOpening(std::size_t at) const
+{
+    constexpr int longest = 6;
+    const std::vector<FoundName> &names = m_reading.names();
+    const QString &text = m_reading.sentence().text();
+    if (m_intent != QLatin1String(CreateConference) || at == m_begin || !m_tokens[at - 1].time.hasClock ||
+        names.empty() || names.front().position < m_tokens[at].position ||
+        !m_reading.isCalledAt(names.front().position) || text.endsWith(QChar(u'了'))) {
+        return false;
+    }
+    const int start = m_tokens[at].position;
+    std::size_t verb = at + 1;
+    while (verb < m_end && m_tokens[verb].position - start <= longest && !m_tokens[verb].inName &&
+           (m_tokens[verb].kind == Token::Kind::Other || isNothing(m_tokens[verb]))) {
+        ++verb;
+    }
+    return verb + 1 < m_end && m_tokens[verb].is(WordClass::WeakOpen) &&
+           m_tokens[verb + 1].is(WordClass::Conference) &&
+           isGroup(text.mid(start, m_tokens[verb].position - start));
+}
+
+bool Clause::isOnlyTitle(std::size_t at) const
+{
+    return m_intent == QLatin1String(CreateConference) && at == m_begin && at + 2 == m_end && at > 0 &&
+           m_tokens[at].kind == Token::Kind::Other && m_tokens[at + 1].is(WordClass::Conference) &&
+           !m_tokens[at + 1].is(WordClass::Join) && !m_reading.names().empty() &&
+           m_reading.clockCount() > 0 &&
+           std::none_of(m_tokens.cbegin(), m_tokens.cend(),
+                        [](const Token &token) { return token.time.isPastDay(); });
 }
 
 bool Clause::isBeforeConference(std::size_t at) const

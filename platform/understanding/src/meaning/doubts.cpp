@@ -223,6 +223,20 @@ bool returnsRoom(const Reading &reading)
     return reading.sentence().text().contains(QStringLiteral("会议室退"));
 }
 
+/// 结束 in 开个结束会, 查询 in 开个查询会议: only the kind of a conference that is to be opened.
+bool opensOfKind(const Reading &reading)
+{
+    static const QString opening = QStringLiteral("开建约办");
+    const Tokens &tokens = reading.tokens();
+    for (std::size_t at = 2; at < tokens.size(); ++at) {
+        if (tokens[at].isAny(WordClass::Close | WordClass::Query) && tokens[at - 1].is(WordClass::Measure) &&
+            tokens[at - 2].length == 1 && opening.contains(textOf(reading, tokens[at - 2]))) {
+            return true;
+        }
+    }
+    return false;
+}
+
 bool comesLater(const Reading &reading)
 {
     return reading.has(WordClass::UnclearSoon); // 等会儿再加入123456789
@@ -258,7 +272,10 @@ constexpr struct
     {EnterConferenceById, comesLater},
     {EnterMyConference, asksWho},
     {EnterMyConference, asksHowMany},
+    {CloseConference, asksWho},
     {CloseConference, returnsRoom},
+    {CloseConference, opensOfKind},
+    {QueryConference, opensOfKind},
     {InviteConference, comesLater},
     {CloseConference, endsLater},
     {AddBuddy, onlyMentionsFriend},

@@ -132,8 +132,10 @@ bool NameCollector::isLostBefore(const Tokens &tokens, std::size_t at) const
     const bool strange =
         (before.kind == Token::Kind::Other && !light.contains(m_text.at(before.end() - 1))) ||
         before.is(WordClass::Plain);
-    const bool listed =
-        m_text.at(tokens[at].position) == QChar(u'、') && before.kind == Token::Kind::Word &&
+    static const QString speakers = QStringLiteral("我们咱");
+    const bool speaker = before.is(WordClass::Request) && speakers.contains(m_text.at(before.end() - 1));
+    const bool listed = // but not 给我、周舟
+        m_text.at(tokens[at].position) == QChar(u'、') && !speaker && before.kind == Token::Kind::Word &&
         !before.isAny(WordClass::Nobody | WordClass::Conference | WordClass::NameTail | WordClass::Title);
     return !found && (strange || listed);
 }

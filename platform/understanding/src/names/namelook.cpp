@@ -108,7 +108,7 @@ bool isTransliterated(const QString &text)
     static const QString spelling = QStringLiteral(
         "阿不布卜都杜拉热合曼买提艾力尔江古丽娜扎努兰汗木依巴哈里克迪米尼斯特夫维奇马丁亚历山大伯纳德"
         "罗伊莎贝玛莉雅乔治约翰查理安托托蒂彼得保尔森逊姆格萨穆罕默帕沙吾吐买孜帕其旺次仁扎西顿珠卓嘎央金"
-        "多吉洛桑达娃才让加措桑图雅乌云萨日朗苏和巴特尔吉勒本田中藤佐木村松岛川");
+        "多吉洛桑达娃才让加措桑图雅乌云萨日朗苏和巴特尔吉勒本田中藤佐木村松岛川海");
     return std::all_of(text.cbegin(), text.cend(),
                        [](QChar character) { return spelling.contains(character); });
 }

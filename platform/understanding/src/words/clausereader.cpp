@@ -4,6 +4,7 @@
 #include "words/clausereader.h"
 
 #include "text/scan.h"
+#include "words/framereader.h"
 #include "words/joinreader.h"
 #include "words/kindreader.h"
 #include "words/questionreader.h"
@@ -95,6 +96,12 @@ bool governsConference(const QString &text, const Tokens &tokens, std::size_t ve
                               token.kind == Token::Kind::Latin ||
                               (token.is(WordClass::Plain) && !token.is(WordClass::Join))) &&
                              token.length <= LongestConferenceName;
+        // 组 in 开个数学组的短会
+        const bool office = described && token.length == 1 && text.at(token.position) == QChar(u'组') &&
+                            tokens[at - 1].kind == Token::Kind::Other;
+        if (office) {
+            continue;
+        }
         if (ownName && (described || (at == verb + 1 && text.at(token.position) != QChar(u'的')))) {
             continue;
         }
@@ -362,6 +369,7 @@ void settleWords(const QString &text, Tokens &tokens)
     settleDelays(text, tokens);
     settleJoins(text, tokens);
     settleConferences(text, tokens);
+    settleFrames(text, tokens);
     settleTopics(text, tokens);
     settleKinds(text, tokens);
     settleOpening(text, tokens);

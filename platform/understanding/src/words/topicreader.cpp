@@ -128,7 +128,7 @@ void settleTopics(const QString &text, Tokens &tokens)
             inTopic || isPurpose(text, tokens, at) || (timed && joined && isUnknownPurpose(text, tokens, at));
         timed = (timed || token.time.hasClock) && !token.is(WordClass::Punctuation);
         joined = (joined || token.is(WordClass::Trigger)) && !token.is(WordClass::Punctuation);
-        token.inTopic = inTopic;
+        token.inTopic = token.inTopic || inTopic;
         // 评审 in 邀请评审专家戚教授 describes who is called.
         if (token.is(WordClass::Topic) && !called && !asksAtStart(tokens, at)) {
             inTopic = true;

@@ -3,6 +3,7 @@
 
 #include "meaning/reading.h"
 
+#include "names/addressed.h"
 #include "names/framednames.h"
 #include "names/groupwords.h"
 #include "names/personwords.h"
@@ -30,6 +31,7 @@ Reading::Reading(const QString &sentence, const ContactIndex &contacts) : m_sent
     m_tokens = tokenize(m_sentence.text(), contacts);
     applyRepairs(m_sentence.text(), m_tokens);
     settleInvitations(m_sentence.text(), m_tokens);
+    settleAddress(m_sentence.text(), m_tokens);
     joinGroups(m_sentence.text(), m_tokens);
     joinPersonWords(m_sentence.text(), m_tokens);
     joinFramedNames(m_sentence.raw(), m_sentence.text(), m_tokens);

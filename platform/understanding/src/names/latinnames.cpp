@@ -84,13 +84,23 @@ bool LatinNames::isGroupOfNext(std::size_t at) const
     return link == QChar(u'的') || (group && somebody);
 }
 
-bool LatinNames::isOfficeBehind(std::size_t at) const
+std::size_t LatinNames::endOfOffice(std::size_t at) const
 {
-    const std::size_t next = at + 1;
+    if (m_text.at(m_tokens[at].position) != QLatin1Char('@') || at == 0 ||
+        m_tokens[at - 1].kind != Token::Kind::Latin || m_tokens[at - 1].end() != m_tokens[at].position) {
+        return at;
+    }
+    constexpr std::size_t longest = 4;
     static const QString offices = QStringLiteral("部组处科室");
-    return m_text.at(m_tokens[at].position) == QLatin1Char('@') && at > 0 && next < m_tokens.size() &&
-           m_tokens[at - 1].kind == Token::Kind::Latin && m_tokens[at - 1].end() == m_tokens[at].position &&
-           m_tokens[next].kind == Token::Kind::Other && offices.contains(m_text.at(m_tokens[next].end() - 1));
+    for (std::size_t next = at + 1; next < qMin(m_tokens.size(), at + longest); ++next) {
+        if (m_tokens[next].kind != Token::Kind::Other && m_tokens[next].kind != Token::Kind::Word) {
+            break;
+        }
+        if (offices.contains(m_text.at(m_tokens[next].end() - 1))) {
+            return next;
+        }
+    }
+    return at;
 }
 
 bool LatinNames::isMiddleDot(std::size_t at) const

@@ -28,8 +28,9 @@ public:
     [[nodiscard]] bool isSurnameBehind(std::size_t latin) const;
     /// PMO in PMO的Grace, QA in QA组Sara.
     [[nodiscard]] bool isGroupOfNext(std::size_t at) const;
-    /// @ in Amy@市场部: where she works, not somebody else.
-    [[nodiscard]] bool isOfficeBehind(std::size_t at) const;
+    /// The last token of where somebody works, behind the sign at @p at: 市场部 in Amy@市场部; @p at for
+    /// none.
+    [[nodiscard]] std::size_t endOfOffice(std::size_t at) const;
     [[nodiscard]] bool isMiddleDot(std::size_t at) const;
 
 private:

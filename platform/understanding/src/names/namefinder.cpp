@@ -57,8 +57,8 @@ private:
             return at;
         }
         constexpr WordClasses leads = WordClass::Trigger | WordClass::NameLabel | WordClass::Separator;
-        if (token.isAny(leads) && m_latin.isOfficeBehind(at)) { // Amy@市场部
-            return at + 1;
+        if (const std::size_t office = m_latin.endOfOffice(at); office > at) { // Amy@市场部
+            return office;
         }
         if (token.isAny(leads) && !m_places.isOpeningOne(at)) {
             m_listed = m_text.at(token.position) == QChar(u'、');

@@ -119,6 +119,27 @@ private:
                        {u"介绍", u"推荐", u"提到", u"请来", u"找来", u"带来"}) > 0;
     }
 
+    /// 在 in 约在上海出差的周扬, 谈 in 约负责谈判的仇律师, 别 in 约别克的王总, 下午 in 约下午班的李娜: behind
+    /// a word that calls they can only describe.
+    bool onlyDescribes(std::size_t at) const
+    {
+        const Token &token = m_tokens[at];
+        const std::size_t next = at + 1;
+        if (next == m_tokens.size() || m_tokens[next].kind != Token::Kind::Other || token.inTopic ||
+            m_tokens[next].position != token.end()) {
+            return false;
+        }
+        if (token.kind == Token::Kind::Time) {
+            return at == m_at && m_text.at(token.end()) == QChar(u'班');
+        }
+        if (token.length != 1 || m_text.midRef(token.end(), m_tokens[next].length).startsWith(QChar(u'的'))) {
+            return false;
+        }
+        const QChar character = m_text.at(token.position);
+        return token.is(WordClass::Topic) ||
+               (at == m_at && (character == QChar(u'在') || character == QChar(u'别')));
+    }
+
     /// 视频组的 in 约视频组的史小平, 上次来的那位 in 跟上次来的那位蒲先生: words of the rules describe
     /// somebody.
     bool joinOwner()
@@ -133,7 +154,8 @@ private:
         }
         bool word = false;
         bool introduced = false;
-        for (std::size_t at = m_at; at < m_tokens.size() && (describes(at) || introduces(at)); ++at) {
+        for (std::size_t at = m_at;
+             at < m_tokens.size() && (describes(at) || introduces(at) || onlyDescribes(at)); ++at) {
             const Token &token = m_tokens[at];
             const int of = token.kind == Token::Kind::Other
                                ? m_text.midRef(token.position, token.length).indexOf(QChar(u'的'))
@@ -143,7 +165,7 @@ private:
             }
             introduced = introduced || introduces(at);
             if (of < 0) {
-                word = word || (token.kind == Token::Kind::Word && token.length > 1);
+                word = word || onlyDescribes(at) || (token.kind == Token::Kind::Word && token.length > 1);
                 continue;
             }
             int position = token.position + of + 1;

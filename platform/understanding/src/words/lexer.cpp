@@ -160,6 +160,10 @@ private:
                      u"好友", u"意见", u"年度", u"别忘", u"女士"}) > 0) {
             return true;
         }
+        if (m_text.at(last) == QChar(u'我') && charAt(m_text, last + 1) == QChar(u'的') &&
+            word.classes.intersects(WordClass::Request | WordClass::Filler)) { // 让我的客户进会议
+            return true;
+        }
         const bool behindSurname = !m_tokens.empty() && m_tokens.back().kind == Token::Kind::Other;
         if (behindSurname &&
             word.length == 2 && // 工会 in 和李工会议, 学会 in 数学会议, 周周 in 和老周周一开会

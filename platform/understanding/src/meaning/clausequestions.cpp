@@ -71,7 +71,7 @@ bool Clause::asksAboutConference() const
                const Token &token = m_tokens[at];
                const bool whoCame = token.is(WordClass::Join) && token.is(WordClass::Conference) &&
                                     charAt(text, token.end()) == QChar(u'了'); // 张伟进会了没
-               if (whoCame || startsAt(text, token.position, QStringLiteral("几个人"))) {
+               if (whoCame || firstOf(text, token.position, {u"几个人", u"开没开"}) > 0) {
                    return true;
                }
                if (!token.is(WordClass::Question) || token.is(WordClass::AskedTime) ||

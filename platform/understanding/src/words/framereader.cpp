@@ -45,6 +45,11 @@ std::size_t endOfOccasion(const QString &text, const Tokens &tokens, std::size_t
     static const QString sides = QStringLiteral("前后");
     for (std::size_t at = begin; at < qMin(tokens.size(), begin + FarthestVerb); ++at) {
         const Token &token = tokens[at];
+        const bool then =
+            at > begin && token.length == 2 && startsAt(text, token.position, QStringLiteral("后再"));
+        if (then) { // 复查后再开个会
+            return meetsFrom(tokens, at + 1) ? at + 1 : begin;
+        }
         const bool plain =
             token.kind == Token::Kind::Other || (token.kind == Token::Kind::Word && token.isAny(harmless));
         if (!plain || token.isAny(never)) {

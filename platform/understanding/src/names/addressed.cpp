@@ -14,11 +14,15 @@ void settleAddress(const QString &text, Tokens &tokens)
         ++at;
     }
     std::size_t next = at + 1;
+    const bool unnamed = at > 0 && next < tokens.size() && text.at(tokens[at].position) == QChar(u'谁') &&
+                         text.at(tokens[at - 1].position) == QChar(u'那'); // 那个谁，帮我开个会
     constexpr int shortest = 2;
     constexpr int longest = 4;
-    if (next + 1 >= tokens.size() || tokens[at].kind != Token::Kind::Other || tokens[at].length < shortest ||
-        tokens[at].length > longest || text.at(tokens[at].position) != QChar(u'小') ||
-        !tokens[next].is(WordClass::Punctuation) || text.at(tokens[next].position) == QChar(u'、')) {
+    const bool named = next < tokens.size() && tokens[at].kind == Token::Kind::Other &&
+                       tokens[at].length >= shortest && tokens[at].length <= longest &&
+                       text.at(tokens[at].position) == QChar(u'小');
+    if (next + 1 >= tokens.size() || (!named && !unnamed) || !tokens[next].is(WordClass::Punctuation) ||
+        text.at(tokens[next].position) == QChar(u'、')) {
         return;
     }
     while (next + 1 < tokens.size() &&
@@ -31,7 +35,7 @@ void settleAddress(const QString &text, Tokens &tokens)
                           orders.contains(text.at(tokens[next].position)));
     if (ordered) {
         tokens[at].kind = Token::Kind::Word;
-        tokens[at].classes = WordClass::Address;
+        tokens[at].classes = unnamed ? WordClass::Filler : WordClass::Address;
     }
 }
 

@@ -91,10 +91,24 @@ private:
         return !single || (next + 1 < m_tokens.size() && !endsBeforeOther(next + 1));
     }
 
+    /// 安逸 in 跟安逸三点开会: a filler behind 跟 that begins like a name and has a time behind it.
+    bool isFillerForName(std::size_t at) const
+    {
+        static const QString joins = QStringLiteral("和跟与");
+        const Token &token = m_tokens[at];
+        return at == m_begin && token.is(WordClass::Filler) && token.length == 2 && at > 0 &&
+               m_tokens[at - 1].length == 1 && joins.contains(characterOf(at - 1)) &&
+               at + 1 < m_tokens.size() && m_tokens[at + 1].kind == Token::Kind::Time &&
+               firstOf(m_text, token.position, {u"安逸", u"于是", u"安静", u"明明"}) > 0;
+    }
+
     /// True if what is done, or when, begins at @p at.
     bool endsBeforeOther(std::size_t at) const
     {
         const Token &token = m_tokens[at];
+        if (isFillerForName(at)) {
+            return false;
+        }
         static const QString adverbs = QStringLiteral("也都就先再还到");
         const bool adverb = token.kind == Token::Kind::Word && token.length == 1 &&
                             adverbs.contains(characterOf(at)) &&
@@ -172,7 +186,8 @@ private:
     /// 国庆, 和平: behind 和 they can only be names.
     bool isWordForName(const Token &token, const QString &text) const
     {
-        return token.is(WordClass::Plain) || (token.is(WordClass::Festival) && !isArranging()) ||
+        return token.is(WordClass::Plain) || isFillerForName(m_begin) ||
+               (token.is(WordClass::Festival) && !isArranging()) ||
                (token.is(WordClass::Framed) && isPersonsName(text));
     }
 

@@ -35,6 +35,9 @@ private:
             static const QString speakers = QStringLiteral("我咱俺你");
             return !speakers.contains(m_text.at(token.position));
         }
+        if (isMembers(at)) {
+            return true;
+        }
         if (!token.isAny(WordClass::Nobody | WordClass::NameTail) || token.length < 2) {
             return false;
         }
@@ -48,6 +51,23 @@ private:
         const bool somebodyNext =
             next < m_tokens.size() && nameBegins(m_text, m_tokens, next, m_tokens[next].position);
         return all && !somebodyNext;
+    }
+
+    /// 成员 in 小组成员, but not in 小组成员李娜 and 小组成员：李娜
+    bool isMembers(std::size_t at) const
+    {
+        const Token &token = m_tokens[at];
+        const std::size_t next = at + 1;
+        const int start = m_tokens[m_at].position; // 项目组 in 项目组成员 is a name
+        const int group = firstOf(m_text, start, {u"小组", u"团队", u"本组", u"全组", u"班级"});
+        if (group == 0 || start + group != token.position ||
+            firstOf(m_text, token.position, {u"成员"}) != token.length) {
+            return false;
+        }
+        constexpr WordClasses naming = WordClass::Punctuation | WordClass::LabelLink | WordClass::Have;
+        return next == m_tokens.size() ||
+               (!m_tokens[next].isAny(naming) && m_tokens[next].kind != Token::Kind::Space &&
+                !nameBegins(m_text, m_tokens, next, m_tokens[next].position));
     }
 
     /// 渠道部, 研发中心的, 三班: what the collective word at @p at may follow. 王师傅 in 王师傅他们 is called

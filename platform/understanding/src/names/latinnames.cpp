@@ -93,7 +93,8 @@ std::size_t LatinNames::endOfOffice(std::size_t at) const
     constexpr std::size_t longest = 4;
     static const QString offices = QStringLiteral("部组处科室");
     for (std::size_t next = at + 1; next < qMin(m_tokens.size(), at + longest); ++next) {
-        if (m_tokens[next].kind != Token::Kind::Other && m_tokens[next].kind != Token::Kind::Word) {
+        const Token::Kind kind = m_tokens[next].kind;
+        if (kind != Token::Kind::Other && kind != Token::Kind::Word && kind != Token::Kind::Name) {
             break;
         }
         if (offices.contains(m_text.at(m_tokens[next].end() - 1))) {

@@ -125,8 +125,13 @@ private:
     {
         const Token &token = m_tokens[at];
         const std::size_t next = at + 1;
-        if (next == m_tokens.size() || m_tokens[next].kind != Token::Kind::Other || token.inTopic ||
-            m_tokens[next].position != token.end()) {
+        if (next == m_tokens.size() || token.inTopic || m_tokens[next].position != token.end()) {
+            return false;
+        }
+        if (at == m_at && token.length == 1 && m_text.at(token.position) == QChar(u'在')) {
+            return m_tokens[next].kind != Token::Kind::Time;
+        }
+        if (m_tokens[next].kind != Token::Kind::Other) {
             return false;
         }
         if (token.kind == Token::Kind::Time) {
@@ -135,9 +140,7 @@ private:
         if (token.length != 1 || m_text.midRef(token.end(), m_tokens[next].length).startsWith(QChar(u'的'))) {
             return false;
         }
-        const QChar character = m_text.at(token.position);
-        return token.is(WordClass::Topic) ||
-               (at == m_at && (character == QChar(u'在') || character == QChar(u'别')));
+        return token.is(WordClass::Topic) || (at == m_at && m_text.at(token.position) == QChar(u'别'));
     }
 
     /// 视频组的 in 约视频组的史小平, 上次来的那位 in 跟上次来的那位蒲先生: words of the rules describe

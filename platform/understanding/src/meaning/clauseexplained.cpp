@@ -66,8 +66,8 @@ bool Clause::isPieceOfTime(std::size_t at) const
         return false;
     }
     static const QString pieces = QStringLiteral("午点刻半");
-    const QString text = m_reading.sentence().text().mid(token.position, token.length);
     if (token.kind == Token::Kind::Other) {
+        const QString text = textOf(token);
         return !text.contains(QLatin1Char('.')) &&
                std::any_of(text.cbegin(), text.cend(), [&](QChar character) {
                    return pieces.contains(character) || digitValue(character) >= 0;
@@ -76,7 +76,7 @@ bool Clause::isPieceOfTime(std::size_t at) const
     const bool behindTime = at == m_begin || m_tokens[at - 1].kind == Token::Kind::Time;
     const bool beforeTime = behindTime && at + 1 < m_end && m_tokens[at + 1].kind == Token::Kind::Time &&
                             m_tokens[at + 1].position == token.end();
-    return beforeTime && (text == QStringLiteral("下") || text == QStringLiteral("上"));
+    return beforeTime && firstOf(m_reading.sentence().text(), token.position, {u"下", u"上"}) == token.length;
 }
 
 bool Clause::isExplained(std::size_t at) const
@@ -251,8 +251,8 @@ bool Clause::isNothing(const Token &token) const
     if (token.kind == Token::Kind::Word && token.classes.isEmpty()) {
         return true; // 创建 in 我创建的会议, settled to be no verb
     }
-    const QString text = m_reading.sentence().text().mid(token.position, token.length);
-    return std::all_of(text.cbegin(), text.cend(),
+    const auto first = m_reading.sentence().text().cbegin() + token.position;
+    return std::all_of(first, first + token.length,
                        [&](QChar character) { return m_allowed.light.contains(character); });
 }
 

@@ -86,9 +86,9 @@ bool Reading::namesOnlyOccasion() const
 {
     static const QString occasions = QStringLiteral("饭班休课线版布觉睡");
     return std::all_of(m_tokens.cbegin(), m_tokens.cend(), [&](const Token &token) {
-        const QString text = m_sentence.text().mid(token.position, token.length);
+        const auto first = m_sentence.text().cbegin() + token.position;
         return !token.is(WordClass::UnclearDay) ||
-               std::any_of(text.cbegin(), text.cend(),
+               std::any_of(first, first + token.length,
                            [&](QChar character) { return occasions.contains(character); });
     });
 }
@@ -162,9 +162,9 @@ bool Reading::hasStrayDigits() const
         if (token.kind == Token::Kind::Number) {
             return true;
         }
-        const QString text = m_sentence.text().mid(token.position, token.length);
+        const auto first = m_sentence.text().cbegin() + token.position;
         return token.kind == Token::Kind::Other &&
-               std::any_of(text.cbegin(), text.cend(),
+               std::any_of(first, first + token.length,
                            [](QChar character) { return digitValue(character) >= 0; });
     });
 }

@@ -5,10 +5,16 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace understanding {
 
 Elsewhere findElsewhere(const QString &text)
 {
+    static const QString goings = QStringLiteral("来去到回上下"); // with which each way of saying so begins
+    if (std::find_first_of(text.cbegin(), text.cend(), goings.cbegin(), goings.cend()) == text.cend()) {
+        return {};
+    }
     // 我的会议 is no such place, 我办公室开会 is one.
     static const QString noConference = QStringLiteral("(?!.{0,4}(?<!开)会)");
     static const QString owned = QStringLiteral("[我你您他她咱俺]们?的?");

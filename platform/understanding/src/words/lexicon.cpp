@@ -4,6 +4,7 @@
 #include "words/lexicon.h"
 
 #include "text/rulefile.h"
+#include "text/scan.h"
 
 #include <QSet>
 
@@ -144,8 +145,9 @@ Lexicon::Lexicon() : m_byFirst(1), m_bucket(0x10000)
             {word, word.size(), second, m_words.value(word), m_wordsAtClauseEnd.value(word)});
     }
     for (std::vector<Entry> &entries : m_byFirst) {
-        std::sort(entries.begin(), entries.end(),
-                  [](const Entry &a, const Entry &b) { return a.length > b.length; });
+        std::sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) {
+            return a.second != b.second ? a.second < b.second : a.length > b.length;
+        });
     }
 }
 
@@ -172,25 +174,33 @@ void Lexicon::addWord(const QString &word, WordClass wordClass)
     }
 }
 
+WordMatch Lexicon::matchOf(const Entry &entry, const QString &text, int position)
+{
+    if (!startsAt(text, position, entry.word)) {
+        return {};
+    }
+    WordClasses classes = entry.classes;
+    if (!entry.classesAtClauseEnd.isEmpty() && isClauseEnd(text, position + entry.length)) {
+        classes.add(entry.classesAtClauseEnd);
+    }
+    return classes.isEmpty() ? WordMatch() : WordMatch{entry.length, classes};
+}
+
 WordMatch Lexicon::longestAt(const QString &text, int position) const
 {
-    const QChar *const here = text.constData() + position;
-    const int left = text.size() - position;
-    for (const Entry &entry : m_byFirst[m_bucket[here->unicode()]]) {
-        const int length = entry.length;
-        if (length > left || (length > 1 && here[1] != entry.second) ||
-            !std::equal(entry.word.cbegin(), entry.word.cend(), here)) {
-            continue;
-        }
-        WordClasses classes = entry.classes;
-        if (!entry.classesAtClauseEnd.isEmpty() && isClauseEnd(text, position + length)) {
-            classes.add(entry.classesAtClauseEnd);
-        }
-        if (!classes.isEmpty()) {
-            return {length, classes};
+    const std::vector<Entry> &entries = m_byFirst[m_bucket[charAt(text, position).unicode()]];
+    const QChar second = charAt(text, position + 1);
+    auto entry = std::lower_bound(entries.cbegin(), entries.cend(), second,
+                                  [](const Entry &a, QChar character) { return a.second < character; });
+    for (; entry != entries.cend() && entry->second == second; ++entry) {
+        const WordMatch match = matchOf(*entry, text, position);
+        if (match.length > 0) {
+            return match;
         }
     }
-    return {};
+    // The word of one character stands before all others.
+    const bool alone = !entries.empty() && entries.front().length == 1;
+    return alone ? matchOf(entries.front(), text, position) : WordMatch();
 }
 
 } // namespace understanding

@@ -22,7 +22,7 @@ struct WordMatch
     WordClasses classes;
 };
 
-/// The words of the rule file words.txt, indexed by their first character, longest first.
+/// The words of the rule file words.txt, indexed by their first two characters, longest first.
 class Lexicon final
 {
 public:
@@ -43,10 +43,13 @@ private:
     {
         QString word;
         int length = 0;
-        QChar second; ///< of the word's characters, which tells most words in a bucket apart
+        QChar second; ///< of the word's characters, a null character if there is none
         WordClasses classes;
         WordClasses classesAtClauseEnd; ///< those marked with "$"
     };
+    /// @p entry with the classes that it has at @p position; length 0 if it does not stand there.
+    static WordMatch matchOf(const Entry &entry, const QString &text, int position);
+
     QHash<QString, WordClasses> m_words;
     QHash<QString, WordClasses> m_wordsAtClauseEnd;
     std::vector<std::vector<Entry>> m_byFirst;

@@ -155,7 +155,7 @@ int headLength(const QString &name)
 {
     static const QString verbs =
         QStringLiteral("也都没薅整下出回去来说吃喝玩打看做写买送聊谈拉约让叫喊呗请找搞问想要进入");
-    if (isSurnameWithTitle(name) || isTransliterated(name)) { // 张顾问
+    if (isSurnameWithTitle(name) || isTransliterated(name) || isGivenWord(name)) { // 张顾问
         return name.size();
     }
     for (int at = 2; at < name.size(); ++at) {

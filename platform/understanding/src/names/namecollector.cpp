@@ -5,7 +5,6 @@
 
 #include "names/headreader.h"
 #include "names/namelook.h"
-#include "text/scan.h"
 #include "words/lexicon.h"
 
 namespace understanding {
@@ -111,10 +110,9 @@ bool NameCollector::isWholeName(const QString &chunk, int end) const
     static const QString enclosing = QStringLiteral("、,。;/和跟与及 ");
     static const QString never = QStringLiteral("没俩仨也都全等哈吧呢啊呀了的吗嘛呗参加");
     static const QString always = QStringLiteral("为可成能做");
-    const bool oneWord = firstOf(chunk, 1, {u"开来", u"梦想", u"理想"}) == 2; // 夏梦想
     const bool closed = end == m_text.size() || enclosing.contains(m_text.at(end));
     return chunk.size() == 3 && isPersonsName(chunk) &&
-           ((closed && !never.contains(chunk.at(2))) || always.contains(chunk.at(2)) || oneWord);
+           ((closed && !never.contains(chunk.at(2))) || always.contains(chunk.at(2)) || isGivenWord(chunk));
 }
 
 bool NameCollector::followsName(const Token &token) const

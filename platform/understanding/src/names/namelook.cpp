@@ -292,6 +292,13 @@ QString withoutParticles(const QString &text)
     return onlyParticles ? QString() : rest;
 }
 
+bool isGivenWord(const QString &text)
+{
+    static const QSet<QString> words = {QStringLiteral("开来"), QStringLiteral("梦想"),
+                                        QStringLiteral("理想")};
+    return text.size() == 3 && isSurname(text.at(0)) && words.contains(text.right(2));
+}
+
 bool isParticle(QChar character)
 {
     return withoutParticles(QString(character) + character).isEmpty();

@@ -40,4 +40,7 @@ QString withoutParticles(const QString &text);
 /// True for a character that withoutParticles() takes away: 也, 来.
 bool isParticle(QChar character);
 
+/// True for a family name before a given name that is a word ending in a verb: 夏梦想, 李开来.
+bool isGivenWord(const QString &text);
+
 } // namespace understanding

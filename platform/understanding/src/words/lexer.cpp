@@ -164,6 +164,11 @@ private:
             word.classes.intersects(WordClass::Request | WordClass::Filler)) { // 让我的客户进会议
             return true;
         }
+        if (word.length == 2 && firstOf(m_text, m_at, {u"约在"}) > 0) { // 约在上海的周扬, but not 约在三点
+            const int of = m_text.indexOf(QChar(u'的'), last);
+            constexpr int farthest = 8;
+            return of > 0 && of - last < farthest && readTime(m_text, last + 1).kind == TimeMatch::Kind::None;
+        }
         const bool behindSurname = !m_tokens.empty() && m_tokens.back().kind == Token::Kind::Other;
         if (behindSurname &&
             word.length == 2 && // 工会 in 和李工会议, 学会 in 数学会议, 周周 in 和老周周一开会

@@ -86,7 +86,7 @@ private Q_SLOTS:
             }
         }
         qInfo("%s", qPrintable(rates.toString()));
-        QCOMPARE(rates.sentences, 5575);
+        QCOMPARE(rates.sentences, 5658);
         QCOMPARE(rates.dialogues, 1011);
         compare(rates, Own);
     }
@@ -107,7 +107,7 @@ private:
         QVERIFY(rates.negativesActedOn <= bounds.negatives);
     }
 
-    static constexpr Bounds Own = {5463, 1005, 0};
+    static constexpr Bounds Own = {5543, 1005, 0};
     static constexpr Bounds Learned = {1249, 149, 0};
     static constexpr Bounds Apart = {594, 70, 2};
 };

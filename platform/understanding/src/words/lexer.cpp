@@ -160,8 +160,7 @@ private:
                      u"好友", u"意见", u"年度", u"别忘", u"女士"}) > 0) {
             return true;
         }
-        if (m_text.at(last) == QChar(u'我') && charAt(m_text, last + 1) == QChar(u'的') &&
-            word.classes.intersects(WordClass::Request | WordClass::Filler)) { // 让我的客户进会议
+        if (word.length == 2 && firstOf(m_text, m_at, {u"让我的"}) > 0) { // 让我的客户进会议
             return true;
         }
         if (word.length == 2 && firstOf(m_text, m_at, {u"约在"}) > 0) { // 约在上海的周扬, but not 约在三点

@@ -86,7 +86,7 @@ private Q_SLOTS:
             }
         }
         qInfo("%s", qPrintable(rates.toString()));
-        QCOMPARE(rates.sentences, 5658);
+        QCOMPARE(rates.sentences, 5579);
         QCOMPARE(rates.dialogues, 1011);
         compare(rates, Own);
     }

@@ -94,7 +94,7 @@ bool Clause::isExplained(std::size_t at) const
                (m_isQuery && token.is(WordClass::Plain) &&
                 m_reading.hasAny(WordClass::QuestionParticle | WordClass::Query)) ||
                token.inName || token.isAny(m_allowed.beside) || isNothing(token) || isDescription(at) ||
-               isAddress(at);
+               isAddress(at) || (token.is(WordClass::Plain) && isGroupBeforeOpening(at));
     case Token::Kind::Other:
         return token.inName || isNothing(token) || isDescription(at) || isTitleBeforeVerb(at) ||
                isGroupBeforeOpening(at) || isOnlyTitle(at) || isPreamble(at) || isOfNumber(at) ||
@@ -153,13 +153,17 @@ bool Clause::isTitleBeforeVerb(std::size_t at) const
     return requested && next < m_end && m_tokens[next].isAny(WordClass::StrongOpen | WordClass::WeakOpen);
 }
 
-/// 小组, 车间, 党支部, 高三.
+/// 小组, 车间, 党支部, 学生会, 高三.
 static bool isGroup(const QString &said)
 {
     static const QString offices = QStringLiteral("部门组处科室班委队院校厂店社团局所站司心系级区间舍");
     static const QString schools = QStringLiteral("高初");
     const bool form = said.size() == 2 && schools.contains(said.at(0)) && digitValue(said.at(1)) > 0;
-    return form || (said.size() > 1 && offices.contains(said.at(said.size() - 1)));
+    static const QStringList unions = {QStringLiteral("委会"), QStringLiteral("员会"),
+                                       QStringLiteral("学生会"), QStringLiteral("工会")}; // but not 不会
+    const bool united =
+        std::any_of(unions.cbegin(), unions.cend(), [&](const QString &end) { return said.endsWith(end); });
+    return form || united || (said.size() > 1 && offices.contains(said.at(said.size() - 1)));
 }
 
 bool Clause::isGroupTitle(std::size_t at) const
@@ -180,7 +184,8 @@ bool Clause::isGroupBeforeOpening(std::size_t at) const
     const int start = m_tokens[at].position;
     std::size_t verb = at + 1;
     while (verb < m_end && m_tokens[verb].position - start <= longest && !m_tokens[verb].inName &&
-           (m_tokens[verb].kind == Token::Kind::Other || isNothing(m_tokens[verb]))) {
+           (m_tokens[verb].kind == Token::Kind::Other || m_tokens[verb].is(WordClass::Plain) ||
+            isNothing(m_tokens[verb]))) {
         ++verb;
     }
     return verb + 1 < m_end && m_tokens[verb].is(WordClass::WeakOpen) &&

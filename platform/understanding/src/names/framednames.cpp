@@ -14,6 +14,13 @@ namespace {
 
 constexpr int LongestFramed = 3;
 
+bool isNameWithOne(const QString &name)
+{
+    return firstOf(name, 0,
+                   {u"一凡", u"一诺", u"一鸣", u"一帆", u"一航", u"一涵", u"一菲", u"一博", u"一休哥"}) ==
+           name.size();
+}
+
 /// The tokens between a word that calls and what is done.
 class Frame final
 {
@@ -146,7 +153,7 @@ private:
         const bool strange = std::any_of(name.cbegin(), name.cend(), [](QChar character) {
             return never.contains(character) || !character.isLetter() || character.unicode() < 0x250;
         });
-        if (strange || (neverFirst.contains(name.at(0)) && name != QStringLiteral("一诺"))) {
+        if (strange || (neverFirst.contains(name.at(0)) && !isNameWithOne(name))) {
             return true;
         }
         static const QString speakers = QStringLiteral("我咱俺");

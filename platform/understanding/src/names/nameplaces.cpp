@@ -231,7 +231,12 @@ std::size_t NamePlaces::skipToNames(std::size_t lead) const
         // 次 in 约次仁旺姆
         const bool inName = token.length == 1 && m_text.at(token.position) == QChar(u'次') &&
                             at + 1 < m_tokens.size() && m_tokens[at + 1].kind == Token::Kind::Other;
-        if (inName || group || (!token.isAny(between) && token.kind != Token::Kind::Space && !linked)) {
+        // 一凡 in 约一凡开会
+        const bool given =
+            token.length == 1 && firstOf(m_text, token.position,
+                                         {u"一凡", u"一诺", u"一鸣", u"一帆", u"一涵", u"一菲", u"一休"}) > 0;
+        if (inName || group || given ||
+            (!token.isAny(between) && token.kind != Token::Kind::Space && !linked)) {
             break;
         }
         ++at;

@@ -27,7 +27,7 @@ private:
               "sentences-fresh-d.jsonl", "sentences-fresh-e.jsonl", "sentences-fresh-f.jsonl",
               "sentences-fresh-g.jsonl", "sentences-fresh-h.jsonl", "sentences-fresh-i.jsonl",
               "sentences-fresh-j.jsonl", "sentences-fresh-k.jsonl", "sentences-fresh-l.jsonl",
-              "sentences-fresh-m.jsonl", "sentences-fresh-n.jsonl"}) {
+              "sentences-fresh-m.jsonl", "sentences-fresh-n.jsonl", "sentences-fresh-o.jsonl"}) {
             const std::vector<LabelledRow> rows = readLabelledRows(file(QString::fromLatin1(name)));
             for (std::size_t at = 0; at < rows.size(); ++at) {
                 if (isKeptApart(at) == keptApart) {
@@ -61,8 +61,8 @@ private Q_SLOTS:
         for (const QString &failure : rates.failures) {
             qInfo("%s", failure.toUtf8().constData());
         }
-        QCOMPARE(rates.sentences, 1251);
-        QCOMPARE(rates.dialogues, 149);
+        QCOMPARE(rates.sentences, 1341);
+        QCOMPARE(rates.dialogues, 159);
         compare(rates, Learned);
     }
 
@@ -70,8 +70,8 @@ private Q_SLOTS:
     {
         const Rates rates = ratesOf(true);
         qInfo("%s", qPrintable(rates.toString()));
-        QCOMPARE(rates.sentences, 624);
-        QCOMPARE(rates.dialogues, 76);
+        QCOMPARE(rates.sentences, 669);
+        QCOMPARE(rates.dialogues, 81);
         compare(rates, Apart);
     }
 
@@ -86,7 +86,7 @@ private Q_SLOTS:
             }
         }
         qInfo("%s", qPrintable(rates.toString()));
-        QCOMPARE(rates.sentences, 5662);
+        QCOMPARE(rates.sentences, 5693);
         QCOMPARE(rates.dialogues, 1011);
         compare(rates, Own);
     }
@@ -107,9 +107,9 @@ private:
         QVERIFY(rates.negativesActedOn <= bounds.negatives);
     }
 
-    static constexpr Bounds Own = {5550, 1005, 0};
-    static constexpr Bounds Learned = {1250, 149, 0};
-    static constexpr Bounds Apart = {595, 70, 2};
+    static constexpr Bounds Own = {5581, 1005, 0};
+    static constexpr Bounds Learned = {1339, 159, 0};
+    static constexpr Bounds Apart = {639, 75, 2};
 };
 
 QTEST_APPLESS_MAIN(TestLabelledSentences)

@@ -163,7 +163,9 @@ static bool isGroup(const QString &said)
                                        QStringLiteral("学生会"), QStringLiteral("工会")}; // but not 不会
     const bool united =
         std::any_of(unions.cbegin(), unions.cend(), [&](const QString &end) { return said.endsWith(end); });
-    return form || united || (said.size() > 1 && offices.contains(said.at(said.size() - 1)));
+    const bool inside = said.size() > 1 && said.endsWith(QChar(u'里')); // 科里
+    const int last = said.size() - (inside ? 2 : 1);
+    return form || united || (said.size() > 1 && offices.contains(said.at(last)));
 }
 
 bool Clause::isGroupTitle(std::size_t at) const
@@ -188,8 +190,14 @@ bool Clause::isGroupBeforeOpening(std::size_t at) const
             isNothing(m_tokens[verb]))) {
         ++verb;
     }
-    return verb + 1 < m_end && m_tokens[verb].is(WordClass::WeakOpen) &&
-           m_tokens[verb + 1].is(WordClass::Conference) &&
+    std::size_t conference = verb + 1;
+    while (conference < m_end &&
+           (m_tokens[conference].is(WordClass::Measure) || m_tokens[conference].inTopic ||
+            m_tokens[conference].kind == Token::Kind::Other)) { // 开个病例讨论会
+        ++conference;
+    }
+    return conference < m_end && m_tokens[verb].is(WordClass::WeakOpen) &&
+           m_tokens[conference].is(WordClass::Conference) &&
            isGroup(text.mid(start, m_tokens[verb].position - start));
 }
 

@@ -12,6 +12,7 @@
 #include "text/scan.h"
 #include "words/clausereader.h"
 #include "words/joinreader.h"
+#include "words/kindreader.h"
 #include "words/lexer.h"
 #include "words/repairs.h"
 
@@ -34,6 +35,7 @@ Reading::Reading(const QString &sentence, const ContactIndex &contacts) : m_sent
     settleAddress(m_sentence.text(), m_tokens);
     joinGroups(m_sentence.text(), m_tokens);
     joinPersonWords(m_sentence.text(), m_tokens);
+    splitKinds(m_sentence.text(), m_tokens);
     joinFramedNames(m_sentence.raw(), m_sentence.text(), m_tokens);
     settleWords(m_sentence.text(), m_tokens);
     m_names = findNames(m_sentence.raw(), m_sentence.text(), m_tokens);

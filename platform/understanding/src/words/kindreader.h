@@ -11,4 +11,8 @@ namespace understanding {
 /// it: 登录功能 in 开个登录功能评审会 joins nothing. Makes one pass over the tokens.
 void settleKinds(const QString &text, Tokens &tokens);
 
+/// Takes the kinds of conferences apart that a word of the rules reaches into: 招商会 with its 商会, and 订
+/// in 开订单会. Call before names are looked for. One pass.
+void splitKinds(const QString &text, Tokens &tokens);
+
 } // namespace understanding

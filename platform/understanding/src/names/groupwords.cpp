@@ -18,12 +18,7 @@ public:
 
     void run()
     {
-        while (m_at < m_tokens.size()) {
-            if (!joinGroup()) {
-                keep();
-            }
-        }
-        m_tokens = std::move(m_joined);
+        joinAll([this] { return joinGroup(); });
     }
 
 private:

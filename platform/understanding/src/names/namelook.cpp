@@ -49,14 +49,10 @@ bool isLatinName(const QString &text)
 
 bool endsLikeName(const QString &text)
 {
-    static const QStringList endings = {
-        QStringLiteral("部"),     QStringLiteral("部门"), QStringLiteral("组"),     QStringLiteral("团队"),
-        QStringLiteral("中心"),   QStringLiteral("总"),   QStringLiteral("工"),     QStringLiteral("老师"),
-        QStringLiteral("经理"),   QStringLiteral("主任"), QStringLiteral("哥"),     QStringLiteral("姐"),
-        QStringLiteral("博士"),   QStringLiteral("教授"), QStringLiteral("科"),     QStringLiteral("处"),
-        QStringLiteral("同学"),   QStringLiteral("先生"), QStringLiteral("女士"),   QStringLiteral("总监"),
-        QStringLiteral("公司"),   QStringLiteral("总部"), QStringLiteral("办公室"), QStringLiteral("集团"),
-        QStringLiteral("事业部"), QStringLiteral("学院"), QStringLiteral("小组")};
+    static const QStringList endings =
+        QStringLiteral("部 部门 组 团队 中心 总 工 老师 经理 主任 哥 姐 博士 教授 科 处 "
+                       "同学 先生 女士 总监 公司 总部 办公室 集团 事业部 学院 小组")
+            .split(QLatin1Char(' '));
     return std::any_of(endings.cbegin(), endings.cend(), [&](const QString &ending) {
         return text.size() > ending.size() && text.endsWith(ending);
     });
@@ -64,18 +60,12 @@ bool endsLikeName(const QString &text)
 
 bool startsTwoCharacterSurname(const QString &text)
 {
-    static const QSet<QString> surnames = {
-        QStringLiteral("欧阳"), QStringLiteral("司马"), QStringLiteral("诸葛"), QStringLiteral("上官"),
-        QStringLiteral("司徒"), QStringLiteral("东方"), QStringLiteral("夏侯"), QStringLiteral("皇甫"),
-        QStringLiteral("令狐"), QStringLiteral("尉迟"), QStringLiteral("公孙"), QStringLiteral("慕容"),
-        QStringLiteral("端木"), QStringLiteral("南宫"), QStringLiteral("独孤"), QStringLiteral("百里"),
-        QStringLiteral("宇文"), QStringLiteral("长孙"), QStringLiteral("呼延"), QStringLiteral("万俟"),
-        QStringLiteral("澹台"), QStringLiteral("钟离"), QStringLiteral("闻人"), QStringLiteral("赫连"),
-        QStringLiteral("轩辕"), QStringLiteral("淳于"), QStringLiteral("拓跋"), QStringLiteral("完颜"),
-        QStringLiteral("纳兰"), QStringLiteral("西门"), QStringLiteral("田中"), QStringLiteral("山本"),
-        QStringLiteral("佐藤"), QStringLiteral("铃木"), QStringLiteral("渡边"), QStringLiteral("伊藤"),
-        QStringLiteral("中村"), QStringLiteral("吉田"), QStringLiteral("山田"), QStringLiteral("松本"),
-        QStringLiteral("斋藤"), QStringLiteral("藤田")};
+    static const QStringList surnames =
+        QStringLiteral("欧阳 司马 诸葛 上官 司徒 东方 夏侯 皇甫 令狐 尉迟 公孙 慕容 端木 "
+                       "南宫 独孤 百里 宇文 长孙 呼延 万俟 澹台 钟离 闻人 赫连 轩辕 淳于 "
+                       "拓跋 完颜 纳兰 西门 田中 山本 佐藤 铃木 渡边 伊藤 中村 吉田 山田 "
+                       "松本 斋藤 藤田")
+            .split(QLatin1Char(' '));
     return text.size() > 1 && surnames.contains(text.left(2));
 }
 

@@ -18,12 +18,7 @@ public:
 
     void run()
     {
-        while (m_at < m_tokens.size()) {
-            if (!joinRelative() && !joinKnownOwner() && !joinOwner() && !takeJob()) {
-                keep();
-            }
-        }
-        m_tokens = std::move(m_joined);
+        joinAll([this] { return joinRelative() || joinKnownOwner() || joinOwner() || takeJob(); });
     }
 
 private:

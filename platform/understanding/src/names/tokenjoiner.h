@@ -34,8 +34,18 @@ protected:
     /// True when people come together somewhere in the sentence.
     [[nodiscard]] bool meets();
 
-    /// Takes the token at the current place as it is.
-    void keep();
+    /// Goes over all tokens and takes those as they are at which @p joinHere joins nothing and returns false.
+    template <typename JoinHere>
+    void joinAll(const JoinHere &joinHere)
+    {
+        while (m_at < m_tokens.size()) {
+            if (!joinHere()) {
+                keep();
+            }
+        }
+        m_tokens = std::move(m_joined);
+    }
+
     /// Joins what stands between the current place and @p end; goes on at @p next.
     Token &join(int end, WordClass wordClass, std::size_t next);
 
@@ -47,6 +57,9 @@ protected:
     // NOLINTEND(misc-non-private-member-variables-in-classes)
 
 private:
+    /// Takes the token at the current place as it is.
+    void keep();
+
     bool m_started = false; ///< something was said already
     std::optional<bool> m_meets;
     std::optional<bool> m_onlyNames;

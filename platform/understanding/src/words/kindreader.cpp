@@ -135,7 +135,7 @@ void markKind(Tokens &tokens, std::size_t begin, std::size_t end, bool dated)
         begin < end && (tokens[begin].isAny(people) ||
                         std::any_of(tokens.cbegin() + static_cast<std::ptrdiff_t>(begin),
                                     tokens.cbegin() + static_cast<std::ptrdiff_t>(end),
-                                    [](const Token &token) { return token.isAny(misleading); }));
+                                    [&](const Token &token) { return token.isAny(misleading); }));
     for (std::size_t at = begin; misleads && at < end; ++at) {
         // 中秋活动筹备会 tells when only if nothing else does.
         tokens[at].inTopic = tokens[at].inTopic || dated || !tokens[at].is(WordClass::Lunar);

@@ -3,6 +3,7 @@
 
 #include "words/namesliketimes.h"
 
+#include "names/namelook.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
 
@@ -54,6 +55,18 @@ bool isBehindFamilyName(const QString &text, const Tokens &tokens)
     const bool titled = tokens.size() > 1 && tokens[tokens.size() - 2].kind == Token::Kind::Other &&
                         text.at(before.position - 1) != QChar(u'的');
     return before.kind == Token::Kind::Other || (before.is(WordClass::Title) && !titled);
+}
+
+bool isEndOfGivenName(const QString &text, const Tokens &tokens)
+{
+    if (tokens.size() < 2 || tokens.back().kind != Token::Kind::Other) {
+        return false;
+    }
+    constexpr WordClasses leads = WordClass::Trigger | WordClass::Separator | WordClass::NameLabel |
+                                  WordClass::Invite | WordClass::Pull;
+    const Token &before = tokens.back();
+    return before.length <= 2 && tokens[tokens.size() - 2].isAny(leads) &&
+           isPersonsName(text.mid(before.position, before.length + 1));
 }
 
 bool isInUnknownName(const QString &text, const Tokens &tokens, int at, const TimeMatch &match)

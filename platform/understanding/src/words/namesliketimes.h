@@ -15,6 +15,10 @@ bool isSingleStranger(const QString &text, int at);
 /// it is a title.
 bool isBehindFamilyName(const QString &text, const Tokens &tokens);
 
+/// True right behind the last of @p tokens where one more character makes it the name of somebody who is
+/// called: 刚 in 和张刚开会, 新 in 邀请朱立新加入会议.
+bool isEndOfGivenName(const QString &text, const Tokens &tokens);
+
 /// True where @p match, found at @p at behind @p tokens, is part of an unknown name: 和周一鸣, 和高明早上.
 bool isInUnknownName(const QString &text, const Tokens &tokens, int at, const TimeMatch &match);
 

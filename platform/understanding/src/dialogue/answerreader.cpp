@@ -262,10 +262,20 @@ bool takeAnswer(const QString &question, const Reading &reading, const QDateTime
         })) {
         return false;
     }
+    TimeExpression time = reading.time();
+    if (question == QLatin1String("which-day")) {
+        if (time.day == TimeExpression::Day::None && !time.hasOffset) { // an hour alone would be today's
+            return false;
+        }
+        if (time.day == TimeExpression::Day::Weekday && !time.weekNamed &&
+            timeBefore.weekNamed) { // 下周 … 周三
+            time.weekNamed = true;
+            time.weekOffset = timeBefore.weekOffset;
+        }
+    }
     if (!takeFurtherNames(reading, outcome)) {
         return false;
     }
-    TimeExpression time = reading.time();
     time.complete(usableRest(question, timeBefore));
     outcome.answer.clear();
     fillTime(outcome, time, reading.timeSaid(), now);

@@ -63,10 +63,13 @@ void fillSaidTime(Outcome &outcome, const Reading &reading, const QDateTime &now
 {
     // 周末，周六上午十点 is clear.
     const bool dayNamed = reading.time().day != TimeExpression::Day::None;
-    const bool clear =
-        reading.clockCount() > 0 && ((dayNamed && !reading.namesOtherWeek()) || reading.namesOnlyOccasion());
+    const bool clear = reading.clockCount() > 0 && ((dayNamed && !reading.namesOtherWeek()) ||
+                                                    reading.namesOnlyOccasion(Reading::Occasions::All));
     if ((reading.has(WordClass::UnclearDay) && !clear) || (reading.has(WordClass::Festival) && !dayNamed)) {
-        outcome.answer = QStringLiteral("which-day");
+        // 下班后开会 lacks the hour only.
+        const bool onlyHour =
+            !reading.has(WordClass::Festival) && reading.namesOnlyOccasion(Reading::Occasions::Daily);
+        outcome.answer = onlyHour ? QStringLiteral("which-time") : QStringLiteral("which-day");
     } else if (!reading.timeSaid().isEmpty()) {
         fillTime(outcome, reading.time(), reading.timeSaid(), now);
     }

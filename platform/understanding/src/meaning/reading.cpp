@@ -84,9 +84,11 @@ bool Reading::callsNobodyKnown() const
            });
 }
 
-bool Reading::namesOnlyOccasion() const
+bool Reading::namesOnlyOccasion(Occasions which) const
 {
-    static const QString occasions = QStringLiteral("饭班休课线版布觉睡");
+    static const QString daily = QStringLiteral("饭班休课觉睡");
+    static const QString all = daily + QStringLiteral("线版布"); // 上线前, 发版后
+    const QString &occasions = which == Occasions::Daily ? daily : all;
     return std::all_of(m_tokens.cbegin(), m_tokens.cend(), [&](const Token &token) {
         const auto first = m_sentence.text().cbegin() + token.position;
         return !token.is(WordClass::UnclearDay) ||
@@ -149,6 +151,28 @@ void Reading::collectTimes()
         }
         ++m_timeCount;
         m_clockCount += token.time.hasClock && !again ? 1 : 0;
+    }
+    if (m_time.day == TimeExpression::Day::None) {
+        collectWeek();
+    }
+}
+
+/// 下周 in 下周和张伟开会: a weekday that is said later is in this week.
+void Reading::collectWeek()
+{
+    const QString &text = m_sentence.text();
+    for (const Token &token : m_tokens) {
+        if (!token.is(WordClass::UnclearDay)) {
+            continue;
+        }
+        const int at = token.position;
+        const int next =
+            firstOf(text, at, {u"下周", u"下个周", u"下星期", u"下个星期", u"下礼拜", u"下个礼拜"});
+        const int second = firstOf(text, at, {u"下下周", u"下下星期", u"下下礼拜", u"下下个"});
+        if (next > 0 || second > 0) {
+            m_time.weekNamed = true;
+            m_time.weekOffset = second > 0 ? 2 : 1;
+        }
     }
 }
 

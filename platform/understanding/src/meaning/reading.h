@@ -65,8 +65,9 @@ public:
     bool callsNobodyKnown() const;
     /// 下周的今天: a day beside a week or a month that was not read with it.
     bool namesOtherWeek() const;
-    /// 饭后一点, 下班前五点: the hour tells when.
-    bool namesOnlyOccasion() const;
+    enum class Occasions { All, Daily };
+    /// 饭后一点, 下班前五点: the hour tells when. The day is known, too, where the occasion comes every day.
+    bool namesOnlyOccasion(Occasions which) const;
     /// True if the name at @p position is called (叫上), not only mentioned.
     bool isCalledAt(int position) const;
 
@@ -83,6 +84,7 @@ private:
     void collectClasses();
     bool isEnd(const Token &token) const;
     void collectTimes();
+    void collectWeek();
     void collectNumbers();
     bool isLabelled(std::size_t number) const;
     bool isCutOff(std::size_t number) const;

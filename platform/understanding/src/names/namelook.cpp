@@ -66,7 +66,14 @@ bool startsTwoCharacterSurname(const QString &text)
                        "拓跋 完颜 纳兰 西门 田中 山本 佐藤 铃木 渡边 伊藤 中村 吉田 山田 "
                        "松本 斋藤 藤田")
             .split(QLatin1Char(' '));
-    return text.size() > 1 && surnames.contains(text.left(2));
+    static const QString beginnings = [] {
+        QString all;
+        for (const QString &surname : surnames) {
+            all += surname.at(0);
+        }
+        return all;
+    }();
+    return text.size() > 1 && beginnings.contains(text.at(0)) && surnames.contains(text.left(2));
 }
 
 } // namespace

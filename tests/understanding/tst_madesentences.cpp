@@ -3,9 +3,12 @@
 
 #include "filecontent.h"
 #include "labelledrows.h"
+#include "testcolumns.h"
 
 #include <QJsonObject>
 #include <QtTest>
+
+#include <functional>
 
 /// Many kinds of conferences and many names, each put into the same orders and remarks: a word of the rules
 /// that reaches into one of them shows here.
@@ -49,6 +52,18 @@ private:
         return outcome;
     }
 
+    /// Puts each word of @p fileName into the sentence that the data row is called after.
+    static Rates ratesOf(const QString &fileName, const std::function<QJsonArray(const QString &)> &accepted)
+    {
+        const QString sentence = QString::fromUtf8(QTest::currentDataTag());
+        const QStringList words = wordsOf(fileName);
+        Rates rates;
+        for (const QString &word : words) {
+            rates.add(rowOf(sentence.arg(word), accepted(word)));
+        }
+        return rates;
+    }
+
     /// Fails when more than @p most sentences are not understood as they should be.
     static void verify(const Rates &rates, int most)
     {
@@ -60,17 +75,17 @@ private:
 
 private Q_SLOTS:
     void kindsAreOpened_data();
-    void kindsAreOpened();
     void remarksAboutKindsAreNotActedOn_data();
-    void remarksAboutKindsAreNotActedOn();
     void peopleAreCalledByTheirNames_data();
+
+    void kindsAreOpened();
+    void remarksAboutKindsAreNotActedOn();
     void peopleAreCalledByTheirNames();
 };
 
 void TestMadeSentences::kindsAreOpened_data()
 {
-    QTest::addColumn<QString>("start");
-    QTest::addColumn<QStringList>("names");
+    addColumns<QString, QStringList>({"start", "names"});
     const QStringList nobody;
     const QStringList somebody{QStringLiteral("张伟")};
     QTest::newRow("后天上午十点召开%1会") << "2026-11-24T10:00:00" << nobody;
@@ -86,13 +101,10 @@ void TestMadeSentences::kindsAreOpened()
 {
     QFETCH(QString, start);
     QFETCH(QStringList, names);
-    Rates rates;
-    const QStringList kinds = wordsOf(QStringLiteral("conferencekinds.txt"));
-    for (const QString &kind : kinds) {
-        rates.add(rowOf(QString::fromUtf8(QTest::currentDataTag()).arg(kind),
-                        {act("create_conference", names, start)}));
-    }
-    verify(rates, names.isEmpty() ? 4 : 12);
+    const QJsonObject created = act("create_conference", names, start);
+    verify(
+        ratesOf(QStringLiteral("conferencekinds.txt"), [&](const QString &) { return QJsonArray{created}; }),
+        names.isEmpty() ? 4 : 12);
 }
 
 void TestMadeSentences::remarksAboutKindsAreNotActedOn_data()
@@ -112,23 +124,17 @@ void TestMadeSentences::remarksAboutKindsAreNotActedOn_data()
 
 void TestMadeSentences::remarksAboutKindsAreNotActedOn()
 {
-    QFETCH(QString, remark);
     const QJsonArray nothing{QJsonObject{{QStringLiteral("do"), QStringLiteral("none")}},
                              QJsonObject{{QStringLiteral("do"), QStringLiteral("ask")}}};
-    Rates rates;
-    const QStringList kinds = wordsOf(QStringLiteral("conferencekinds.txt"));
-    for (const QString &kind : kinds) {
-        rates.add(rowOf(remark.arg(kind), nothing));
-    }
+    const Rates rates =
+        ratesOf(QStringLiteral("conferencekinds.txt"), [&](const QString &) { return nothing; });
     QVERIFY(rates.negatives > 200);
     QVERIFY2(rates.negativesActedOn == 0, qPrintable(rates.failures.join(QStringLiteral("; "))));
 }
 
 void TestMadeSentences::peopleAreCalledByTheirNames_data()
 {
-    QTest::addColumn<QString>("intent");
-    QTest::addColumn<QString>("start");
-    QTest::addColumn<QStringList>("others");
+    addColumns<QString, QString, QStringList>({"intent", "start", "others"});
     const QString create = QStringLiteral("create_conference");
     const QString invite = QStringLiteral("invite_to_conference");
     const QString tomorrow = QStringLiteral("2026-11-23T15:00:00");
@@ -147,13 +153,10 @@ void TestMadeSentences::peopleAreCalledByTheirNames()
     QFETCH(QString, intent);
     QFETCH(QString, start);
     QFETCH(QStringList, others);
-    Rates rates;
-    const QStringList names = wordsOf(QStringLiteral("peoplenames.txt"));
-    for (const QString &name : names) {
-        rates.add(rowOf(QString::fromUtf8(QTest::currentDataTag()).arg(name),
-                        {act(intent.toLatin1().constData(), QStringList{name} + others, start)}));
-    }
-    verify(rates, 12);
+    const auto called = [&](const QString &name) {
+        return QJsonArray{act(intent.toLatin1().constData(), QStringList{name} + others, start)};
+    };
+    verify(ratesOf(QStringLiteral("peoplenames.txt"), called), 12);
 }
 
 QTEST_APPLESS_MAIN(TestMadeSentences)

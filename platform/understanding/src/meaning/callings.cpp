@@ -4,6 +4,7 @@
 #include "meaning/callings.h"
 
 #include "names/headreader.h"
+#include "names/namecharacters.h"
 #include "text/scan.h"
 
 #include <algorithm>
@@ -16,10 +17,9 @@ constexpr int ShortestAccount = 3;
 
 bool isSpeaker(const Reading &reading, const Token &token)
 {
-    static const QString speakers = QStringLiteral("我咱俺");
     const QString &text = reading.sentence().text();
     return token.isAny(WordClass::Nobody | WordClass::Mine) &&
-           (speakers.contains(text.at(token.position)) ||
+           (understanding::isSpeaker(text.at(token.position)) ||
             startsAt(text, token.position, QStringLiteral("本人")));
 }
 

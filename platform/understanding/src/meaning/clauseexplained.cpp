@@ -4,6 +4,7 @@
 #include "meaning/clause.h"
 
 #include "meaning/outcome.h"
+#include "names/namecharacters.h"
 #include "names/namelook.h"
 #include "text/chinesenumber.h"
 #include "text/scan.h"
@@ -156,7 +157,6 @@ bool Clause::isTitleBeforeVerb(std::size_t at) const
 /// 小组, 车间, 党支部, 学生会, 高三.
 static bool isGroup(const QString &said)
 {
-    static const QString offices = QStringLiteral("部门组处科室班委队院校厂店社团局所站司心系级区间舍");
     static const QString schools = QStringLiteral("高初");
     const bool form = said.size() == 2 && schools.contains(said.at(0)) && digitValue(said.at(1)) > 0;
     static const QStringList unions = {QStringLiteral("委会"), QStringLiteral("员会"),
@@ -165,7 +165,7 @@ static bool isGroup(const QString &said)
         std::any_of(unions.cbegin(), unions.cend(), [&](const QString &end) { return said.endsWith(end); });
     const bool inside = said.size() > 1 && said.endsWith(QChar(u'里')); // 科里
     const int last = said.size() - (inside ? 2 : 1);
-    return form || united || (said.size() > 1 && offices.contains(said.at(last)));
+    return form || united || (said.size() > 1 && endsGroup(said.at(last)));
 }
 
 bool Clause::isGroupTitle(std::size_t at) const

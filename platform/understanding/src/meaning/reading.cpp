@@ -168,7 +168,8 @@ void Reading::collectWeek()
         const int at = token.position;
         const int next =
             firstOf(text, at, {u"下周", u"下个周", u"下星期", u"下个星期", u"下礼拜", u"下个礼拜"});
-        const int second = firstOf(text, at, {u"下下周", u"下下星期", u"下下礼拜", u"下下个"});
+        const int second = firstOf(
+            text, at, {u"下下周", u"下下星期", u"下下礼拜", u"下下个周", u"下下个星期", u"下下个礼拜"});
         if (next > 0 || second > 0) {
             m_time.weekNamed = true;
             m_time.weekOffset = second > 0 ? 2 : 1;

@@ -3,6 +3,7 @@
 
 #include "names/framednames.h"
 
+#include "names/namecharacters.h"
 #include "names/namelook.h"
 #include "text/scan.h"
 
@@ -13,13 +14,6 @@ namespace understanding {
 namespace {
 
 constexpr int LongestFramed = 3;
-
-bool isNameWithOne(const QString &name)
-{
-    return firstOf(name, 0,
-                   {u"一凡", u"一诺", u"一鸣", u"一帆", u"一航", u"一涵", u"一菲", u"一博", u"一休哥"}) ==
-           name.size();
-}
 
 /// The tokens between a word that calls and what is done.
 class Frame final
@@ -153,12 +147,10 @@ private:
         const bool strange = std::any_of(name.cbegin(), name.cend(), [](QChar character) {
             return never.contains(character) || !character.isLetter() || character.unicode() < 0x250;
         });
-        if (strange || (neverFirst.contains(name.at(0)) && !isNameWithOne(name))) {
+        if (strange || (neverFirst.contains(name.at(0)) && givenNameWithOne(name, 0) != name.size())) {
             return true;
         }
-        static const QString speakers = QStringLiteral("我咱俺");
-        static const QString relatives = QStringLiteral("妈爸娘爹姐哥弟妹爷奶姨舅叔伯姑婶嫂");
-        if (speakers.contains(name.at(0)) && !relatives.contains(name.at(1))) { // 邀请我收到了
+        if (isSpeaker(name.at(0)) && !isKin(name.at(1))) { // 邀请我收到了
             return true;
         }
         constexpr WordClasses ordinary =

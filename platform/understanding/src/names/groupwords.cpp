@@ -4,6 +4,7 @@
 #include "names/groupwords.h"
 
 #include "names/headreader.h"
+#include "names/namecharacters.h"
 #include "names/tokenjoiner.h"
 #include "text/scan.h"
 
@@ -27,8 +28,8 @@ private:
     {
         const Token &token = m_tokens[at];
         if (m_text.at(token.end() - 1) == QChar(u'们')) {
-            static const QString speakers = QStringLiteral("我咱俺你");
-            return !speakers.contains(m_text.at(token.position));
+            const QChar first = m_text.at(token.position);
+            return !isSpeaker(first) && first != QChar(u'你');
         }
         if (isMembers(at)) {
             return true;
@@ -72,9 +73,8 @@ private:
         const int start = m_tokens[m_at].position;
         const int end = m_tokens[at].position;
         const QString said = m_text.mid(start, end - start);
-        static const QString offices = QStringLiteral("部门组处科室班队院校厂店社局所站司心团系级届区");
         static const QString others = QStringLiteral("他她几");
-        if (said.size() > 1 && offices.contains(said.at(said.size() - 1))) {
+        if (said.size() > 1 && endsGroup(said.at(said.size() - 1))) {
             return true;
         }
         return !others.contains(m_text.at(end)) && !m_tokens[at - 1].is(WordClass::Title) && isModifier(said);
@@ -83,9 +83,8 @@ private:
     /// 和 in 三组和四组的同事们
     bool joinsGroups(std::size_t at) const
     {
-        static const QString offices = QStringLiteral("部组处科室班队");
         return at > m_at && m_tokens[at].is(WordClass::Separator) && m_tokens[at].length == 1 &&
-               offices.contains(m_text.at(m_tokens[at].position - 1));
+               endsGroup(m_text.at(m_tokens[at].position - 1));
     }
 
     /// The last token of the group that the collective word at @p at begins: 同学 in 全班同学.

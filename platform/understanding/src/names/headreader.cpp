@@ -45,6 +45,19 @@ bool endsWithRole(const QString &text)
     return false;
 }
 
+/// 部 in 安全部千寻: somebody follows. 司 and 院 begin names, too.
+bool isOffice(QChar character)
+{
+    static const QString offices = QStringLiteral("部组处科室");
+    return offices.contains(character);
+}
+
+/// 小, 老 and 阿: 大 makes a title as often as a name (一灯大师).
+bool isFamiliar(QChar character)
+{
+    return isNamePrefix(character) && character != QChar(u'大');
+}
+
 } // namespace
 
 bool isModifier(const QString &text)
@@ -87,8 +100,7 @@ int modifierLength(const QString &text)
     for (int length = 2; length <= 4 && rest.size() - length >= 1; ++length) {
         const int cut = rest.size() - length;
         const QString left = rest.left(cut);
-        static const QString offices = QStringLiteral("处部室组科"); // 处冉秘书 of 秘书处冉秘书
-        if (cut == 1 && !offices.contains(left.at(0))) {
+        if (cut == 1 && !isOffice(left.at(0))) { // 处冉秘书 of 秘书处冉秘书
             continue;
         }
         const bool ofSomebody = isNamePrefix(left.at(0)) || isPersonsName(left.left(2)) || cut > 4;
@@ -98,15 +110,14 @@ int modifierLength(const QString &text)
     }
     // 中介小李: nobody else begins so.
     constexpr int shortest = 4;
-    static const QString prefixes = QStringLiteral("小老阿");
     const int familiar = rest.size() - 2;
-    if (rest.size() >= shortest && prefixes.contains(rest.at(familiar)) && !looksLikeName(rest.left(3))) {
+    if (rest.size() >= shortest && isFamiliar(rest.at(familiar)) && !looksLikeName(rest.left(3))) {
         return start + familiar;
     }
     // 实习生芳姐
     static const QString familiars = QStringLiteral("姐哥叔嫂");
-    const bool titled = familiar >= 2 && familiars.contains(rest.at(rest.size() - 1)) &&
-                        !prefixes.contains(rest.at(familiar));
+    const bool titled =
+        familiar >= 2 && familiars.contains(rest.at(rest.size() - 1)) && !isFamiliar(rest.at(familiar));
     if (titled && isModifier(rest.left(familiar)) && !roles().contains(rest.mid(familiar))) {
         return start + familiar;
     }
@@ -115,8 +126,7 @@ int modifierLength(const QString &text)
     for (int length = 2; rest.size() >= shortest && length <= 3; ++length) {
         const int left = rest.size() - length;
         const bool called = left >= 2 && left <= longestCalling && endsWithRole(rest.left(left));
-        static const QString offices = QStringLiteral("部组处科室"); // 安全部千寻
-        const bool office = offices.contains(rest.at(left - 1));
+        const bool office = isOffice(rest.at(left - 1)); // 安全部千寻
         if (called && !endsWithRole(rest) && (office || !looksLikeName(rest)) &&
             (office || !isPersonsName(rest.left(left)))) {
             return start + left;

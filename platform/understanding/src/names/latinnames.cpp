@@ -3,6 +3,7 @@
 
 #include "names/latinnames.h"
 
+#include "names/namecharacters.h"
 #include "names/namelook.h"
 #include "text/scan.h"
 
@@ -91,13 +92,12 @@ std::size_t LatinNames::endOfOffice(std::size_t at) const
         return at;
     }
     constexpr std::size_t longest = 4;
-    static const QString offices = QStringLiteral("部组处科室");
     for (std::size_t next = at + 1; next < qMin(m_tokens.size(), at + longest); ++next) {
         const Token::Kind kind = m_tokens[next].kind;
         if (kind != Token::Kind::Other && kind != Token::Kind::Word && kind != Token::Kind::Name) {
             break;
         }
-        if (offices.contains(m_text.at(m_tokens[next].end() - 1))) {
+        if (endsGroup(m_text.at(m_tokens[next].end() - 1))) {
             return next;
         }
     }

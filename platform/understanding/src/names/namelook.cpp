@@ -3,6 +3,7 @@
 
 #include "names/namelook.h"
 
+#include "names/namecharacters.h"
 #include "text/rulefile.h"
 #include "words/lexicon.h"
 
@@ -202,9 +203,9 @@ int nameLengthAt(const QString &text, int at)
 /// 老婆 in 小李老婆, 大师 in 小赵大师: whose or what somebody is, not somebody else.
 static bool isRoleOrKin(const QString &text)
 {
-    static const QString kin = QStringLiteral("妈爸娘爹姐哥弟妹爷奶姨舅叔伯姑婶嫂婆公伴师板");
-    return kin.contains(text.at(text.size() - 1)) ||
-           Lexicon::instance().classesOf(text).has(WordClass::Title);
+    static const QString others = QStringLiteral("婆公伴师板");
+    const QChar last = text.at(text.size() - 1);
+    return isKin(last) || others.contains(last) || Lexicon::instance().classesOf(text).has(WordClass::Title);
 }
 
 /// 小蔡小高, 大乔小乔: each begins with a familiar prefix.

@@ -4,6 +4,7 @@
 #include "names/nameplaces.h"
 
 #include "names/headreader.h"
+#include "names/namecharacters.h"
 #include "names/namelook.h"
 #include "text/scan.h"
 
@@ -147,16 +148,13 @@ bool NamePlaces::isOfKind(std::size_t at) const
 
 bool NamePlaces::isOnlyRelative(std::size_t at) const
 {
-    static const QString speakers = QStringLiteral("我咱俺");
-    static const QString relatives = QStringLiteral("妈爸娘爹姐哥弟妹爷奶姨舅叔伯姑婶嫂");
     const std::size_t next = at + 1;
-    if (m_tokens[at].length != 1 || !speakers.contains(m_text.at(m_tokens[at].position)) ||
-        next >= m_tokens.size() || m_tokens[next].length != 1 ||
-        m_tokens[next].position != m_tokens[at].end()) {
+    if (m_tokens[at].length != 1 || !isSpeaker(m_text.at(m_tokens[at].position)) || next >= m_tokens.size() ||
+        m_tokens[next].length != 1 || m_tokens[next].position != m_tokens[at].end()) {
         return false;
     }
     const bool ends = next + 1 == m_tokens.size() || m_tokens[next + 1].kind != Token::Kind::Other;
-    return ends && relatives.contains(m_text.at(m_tokens[next].position));
+    return ends && isKin(m_text.at(m_tokens[next].position));
 }
 
 std::size_t NamePlaces::endOfBrackets(std::size_t at) const
@@ -232,9 +230,7 @@ std::size_t NamePlaces::skipToNames(std::size_t lead) const
         const bool inName = token.length == 1 && m_text.at(token.position) == QChar(u'次') &&
                             at + 1 < m_tokens.size() && m_tokens[at + 1].kind == Token::Kind::Other;
         // 一凡 in 约一凡开会
-        const bool given =
-            token.length == 1 && firstOf(m_text, token.position,
-                                         {u"一凡", u"一诺", u"一鸣", u"一帆", u"一涵", u"一菲", u"一休"}) > 0;
+        const bool given = token.length == 1 && givenNameWithOne(m_text, token.position) > 0;
         if (inName || group || given ||
             (!token.isAny(between) && token.kind != Token::Kind::Space && !linked)) {
             break;

@@ -4,6 +4,7 @@
 #include "names/personwords.h"
 
 #include "names/headreader.h"
+#include "names/namecharacters.h"
 #include "names/tokenjoiner.h"
 #include "text/scan.h"
 
@@ -37,8 +38,7 @@ private:
                 return length;
             }
         }
-        static const QString relatives = QStringLiteral("妈爸娘爹姐哥弟妹爷奶姨舅叔伯姑婶嫂");
-        return position < m_text.size() && relatives.contains(m_text.at(position)) ? 1 : 0;
+        return isKin(charAt(m_text, position)) ? 1 : 0;
     }
 
     /// 我弟 in 跟我弟陈麒, 我家老二 in 叫上我家老二丁一
@@ -168,9 +168,8 @@ private:
             }
             int position = token.position + of + 1;
             std::size_t name = nameFrom(position < token.end() ? at : at + 1, position);
-            static const QString offices = QStringLiteral("部门组处科室班队院校");
             const int left = token.end() - position;
-            if (offices.contains(charAt(m_text, position - 2)) && (left == 2 || left == 3)) { // 开发组的凯文
+            if (endsGroup(charAt(m_text, position - 2)) && (left == 2 || left == 3)) { // 开发组的凯文
                 name = at;
                 position = token.position + of + 1;
             }

@@ -22,7 +22,7 @@ struct TimeExpression
     int dayOffset = 0;
     int weekday = 0; ///< 1 is Monday
     bool weekNamed = false;
-    int weekOffset = 0;
+    int weekOffset = 0; ///< also without a day: 下周
     int dayOfMonth = 0;
     int month = 0;
     int year = 0;

@@ -3,6 +3,7 @@
 
 #include "words/joinreader.h"
 
+#include "names/namecharacters.h"
 #include "text/scan.h"
 
 namespace understanding {
@@ -12,9 +13,8 @@ namespace {
 /// 我下午三点那个会: one's own conference, by its time or only pointed at, begins at @p at.
 bool isOwnConference(const QString &text, const Tokens &tokens, std::size_t at)
 {
-    static const QString speakers = QStringLiteral("我咱");
     if (at >= tokens.size() || !tokens[at].isAny(WordClass::Nobody | WordClass::Mine | WordClass::Filler) ||
-        !speakers.contains(text.at(tokens[at].position))) {
+        !isSpeaker(text.at(tokens[at].position))) {
         return false;
     }
     constexpr std::size_t farthest = 7;

@@ -25,11 +25,10 @@ int tailLength(const QString &text, const Token &token)
 /// True for 小王 and 李娜, behind which 明 begins 明下午; 黄晓明 and 陶渊明 are whole names.
 bool isWholeBefore(const QString &text, const Token &before)
 {
-    static const QString prefixes = QStringLiteral("小老阿");
     static const QString seldomInside =
         QStringLiteral("娜娟芳燕霞玲凤珍艳敏静洁颖倩莉雯佳婷怡琳雪欣瑶琪薇蕾蓉菲妍媛茜莲蓓丹萍磊强涛鹏");
     return tailLength(text, before) == 2 &&
-           (prefixes.contains(text.at(before.end() - 2)) || seldomInside.contains(text.at(before.end() - 1)));
+           (isNamePrefix(text.at(before.end() - 2)) || seldomInside.contains(text.at(before.end() - 1)));
 }
 
 } // namespace
@@ -89,9 +88,8 @@ bool isInUnknownName(const QString &text, const Tokens &tokens, int at, const Ti
     if (before.kind != Token::Kind::Other) {
         return false;
     }
-    static const QString prefixes = QStringLiteral("小老大阿"); // 老周一起三点开会
     if (match.expression.isBareWeekday() && tailLength(text, before) == 1 &&
-        prefixes.contains(text.at(before.end() - 1)) &&
+        isNamePrefix(text.at(before.end() - 1)) && // 老周一起三点开会
         firstOf(text, at + 1, {u"一起", u"一块", u"一同", u"一道"}) > 0) {
         return true;
     }

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "names/namecharacters.h"
+
+#include "text/scan.h"
+
+namespace understanding {
+
+bool isSpeaker(QChar character)
+{
+    static const QString speakers = QStringLiteral("我咱俺");
+    return speakers.contains(character);
+}
+
+bool isKin(QChar character)
+{
+    static const QString kin = QStringLiteral("妈爸娘爹姐哥弟妹爷奶姨舅叔伯姑婶嫂");
+    return kin.contains(character);
+}
+
+bool endsGroup(QChar character)
+{
+    static const QString groups = QStringLiteral("部门组处科室班委队院校厂店社团局所站司心系级届区间舍");
+    return groups.contains(character);
+}
+
+int givenNameWithOne(const QString &text, int position)
+{
+    return firstOf(
+        text, position,
+        {u"一凡", u"一诺", u"一鸣", u"一帆", u"一航", u"一涵", u"一菲", u"一博", u"一休哥", u"一休"});
+}
+
+} // namespace understanding

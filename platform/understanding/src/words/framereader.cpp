@@ -88,23 +88,6 @@ bool opensForSpeaker(const QString &text, const Tokens &tokens, std::size_t at)
            firstOf(text, tokens[at].position, {u"替我开一个", u"替我开个"}) > 0;
 }
 
-/// 发布会 in 开个新闻发布会: others are news or something to watch.
-bool isLaunch(const QString &text, const Tokens &tokens, std::size_t at)
-{
-    constexpr std::size_t farthest = 4;
-    constexpr WordClasses describing = WordClass::Plain | WordClass::Framed | WordClass::Topic;
-    if (!tokens[at].is(WordClass::Plain) || firstOf(text, tokens[at].position, {u"发布会"}) == 0) {
-        return false;
-    }
-    std::size_t before = at;
-    while (before > 0 && at - before < farthest &&
-           (tokens[before - 1].kind == Token::Kind::Other || tokens[before - 1].isAny(describing))) {
-        --before;
-    }
-    return before > 1 && tokens[before - 1].is(WordClass::Measure) &&
-           tokens[before - 2].isAny(WordClass::WeakOpen | WordClass::StrongOpen);
-}
-
 } // namespace
 
 void settleFrames(const QString &text, Tokens &tokens)
@@ -131,9 +114,6 @@ void settleFrames(const QString &text, Tokens &tokens)
             tokens[at].classes = WordClass::Request | WordClass::Filler;
             verb.position = tokens[at].end();
             tokens.insert(tokens.begin() + static_cast<std::ptrdiff_t>(at) + 1, verb);
-        }
-        if (isLaunch(text, tokens, at)) {
-            tokens[at].classes = WordClass::Conference;
         }
         const bool begins = at == 0 || tokens[at - 1].is(WordClass::Punctuation);
         if (!begins) {

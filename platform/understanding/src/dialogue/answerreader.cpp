@@ -235,6 +235,32 @@ static bool isNow(const Reading &reading)
            holdsOnly(reading, [](const Token &) { return false; });
 }
 
+/// True if the answer to @p question has to name the day: an hour alone would be today's, which was not
+/// meant.
+static bool lacksDay(const QString &question, const TimeExpression &before)
+{
+    return question == QLatin1String("which-day") || question == QLatin1String("no-such-date") ||
+           question == QLatin1String("lunar") ||
+           (question == QLatin1String("recurring") && before.day == TimeExpression::Day::None);
+}
+
+/// Puts the day of @p time into the week or the month that was named before: 下周 ... 周三, 下个月 ... 5号.
+/// Returns false if it names no day there.
+static bool nameDay(TimeExpression &time, const TimeExpression &before)
+{
+    using Day = TimeExpression::Day;
+    if (time.day == Day::Weekday && !time.weekNamed) {
+        time.weekNamed = before.weekNamed;
+        time.weekOffset = before.weekOffset;
+        return !before.monthNamed; // 下个月 ... 周三: which one?
+    }
+    if (time.day == Day::DayOfMonth && !time.monthNamed) {
+        time.monthNamed = before.monthNamed;
+        time.monthOffset = before.monthOffset;
+    }
+    return time.day != Day::None || time.hasOffset;
+}
+
 bool takeAnswer(const QString &question, const Reading &reading, const QDateTime &now,
                 const TimeExpression &timeBefore, Outcome &outcome)
 {
@@ -263,15 +289,8 @@ bool takeAnswer(const QString &question, const Reading &reading, const QDateTime
         return false;
     }
     TimeExpression time = reading.time();
-    if (question == QLatin1String("which-day")) {
-        if (time.day == TimeExpression::Day::None && !time.hasOffset) { // an hour alone would be today's
-            return false;
-        }
-        if (time.day == TimeExpression::Day::Weekday && !time.weekNamed &&
-            timeBefore.weekNamed) { // 下周 … 周三
-            time.weekNamed = true;
-            time.weekOffset = timeBefore.weekOffset;
-        }
+    if (lacksDay(question, timeBefore) && !nameDay(time, timeBefore)) {
+        return false;
     }
     if (!takeFurtherNames(reading, outcome)) {
         return false;

@@ -153,26 +153,27 @@ void Reading::collectTimes()
         m_clockCount += token.time.hasClock && !again ? 1 : 0;
     }
     if (m_time.day == TimeExpression::Day::None) {
-        collectWeek();
+        collectSpan();
     }
 }
 
-/// 下周 in 下周和张伟开会: a weekday that is said later is in this week.
-void Reading::collectWeek()
+/// 下周 in 下周和张伟开会, 下个月 in 下个月开会: a day that is said later is in this week or month.
+void Reading::collectSpan()
 {
     const QString &text = m_sentence.text();
     for (const Token &token : m_tokens) {
-        if (!token.is(WordClass::UnclearDay)) {
+        if (!token.is(WordClass::UnclearDay) || text.at(token.position) != QChar(u'下')) {
             continue;
         }
-        const int at = token.position;
-        const int next =
-            firstOf(text, at, {u"下周", u"下个周", u"下星期", u"下个星期", u"下礼拜", u"下个礼拜"});
-        const int second = firstOf(
-            text, at, {u"下下周", u"下下星期", u"下下礼拜", u"下下个周", u"下下个星期", u"下下个礼拜"});
-        if (next > 0 || second > 0) {
+        const int following = startsAt(text, token.position, QStringLiteral("下下")) ? 2 : 1;
+        const int measure = token.position + following;
+        const int span = charAt(text, measure) == QChar(u'个') ? measure + 1 : measure;
+        if (firstOf(text, span, {u"周", u"星期", u"礼拜"}) > 0) {
             m_time.weekNamed = true;
-            m_time.weekOffset = second > 0 ? 2 : 1;
+            m_time.weekOffset = following;
+        } else if (charAt(text, span) == QChar(u'月')) {
+            m_time.monthNamed = true;
+            m_time.monthOffset = following;
         }
     }
 }

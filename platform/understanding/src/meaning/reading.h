@@ -84,7 +84,7 @@ private:
     void collectClasses();
     bool isEnd(const Token &token) const;
     void collectTimes();
-    void collectWeek();
+    void collectSpan();
     void collectNumbers();
     bool isLabelled(std::size_t number) const;
     bool isCutOff(std::size_t number) const;

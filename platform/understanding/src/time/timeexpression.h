@@ -28,7 +28,7 @@ struct TimeExpression
     int year = 0;
     bool yearIsOffset = false; ///< year counts from this one (明年)
     bool monthNamed = false;
-    int monthOffset = 0;
+    int monthOffset = 0; ///< also without a day: 下个月
 
     int part = -1; ///< row of the parts of the day, -1 for none
 

@@ -86,10 +86,18 @@ need_packages() {
         apt-get install -y -qq --no-install-recommends $missing
 }
 
+# need_space MEGABYTES: a compiler on a full disk fails in the middle, with an error that may not name the disk.
+need_space() {
+    local free
+    free=$(df --output=avail -BM "$root" | tail -n 1 | tr -dc 0-9)
+    [ "$free" -ge "$1" ] || die "Building needs about $1 MB on the disk of $root, but only $free MB are free."
+}
+
 # build PRESET: configures PRESET if necessary, then builds it.
 build() {
     local preset=$1
     if [ ! -f "$root/build/$preset/build.ninja" ]; then
+        need_space 2000
         [ -t 2 ] || say "Building (the first time takes some minutes) …"
         step "Configuring" cmake -S "$root" --preset "$preset"
     fi

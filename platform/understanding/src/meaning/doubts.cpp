@@ -242,6 +242,14 @@ bool comesLater(const Reading &reading)
     return reading.has(WordClass::UnclearSoon); // 等会儿再加入123456789
 }
 
+/// 明天三点安排个评审, 和张伟讨论方案, 约张伟明天三点: people may well meet in one room.
+bool namesNoConference(const Reading &reading)
+{
+    constexpr WordClasses meeting =
+        WordClass::Conference | WordClass::Video | WordClass::ComeMeet | WordClass::Schedule;
+    return !reading.hasAny(meeting);
+}
+
 bool tellsOnlyEnd(const Reading &reading)
 {
     return reading.tellsOnlyEnd();
@@ -252,7 +260,7 @@ constexpr struct
     const char *intent;
     bool (*isDoubtful)(const Reading &);
 } Doubts[] = {
-    {CreateConference, asksWho},
+    {CreateConference, asksWho}, // 明天开会谁主持
     {CreateConference, tellsBeginning},
     {CreateConference, tellsWhen},
     {QueryConference, tellsWhen},
@@ -265,6 +273,7 @@ constexpr struct
     {CreateConference, onlySpeaksOf},
     {CreateConference, tellsOnlyEnd},
     {CreateConference, asksAbility},
+    {CreateConference, namesNoConference},
     {InviteConference, sendsSomebody},
     {InviteConference, callsForNothing},
     {InviteConference, asksWho},

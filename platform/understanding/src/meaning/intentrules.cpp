@@ -154,6 +154,19 @@ bool isBare(const Reading &reading)
     });
 }
 
+/// 帮我约张伟明天三点: for what, is not said.
+bool meetsSomebody(const Reading &reading)
+{
+    const bool meets =
+        std::any_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+            return token.is(WordClass::Trigger) && !token.inName &&
+                   reading.sentence().text().at(token.position) == QChar(u'约');
+        });
+    return meets && isCalled(reading) &&
+           std::all_of(reading.tokens().cbegin(), reading.tokens().cend(),
+                       [](const Token &token) { return token.inName || token.kind != Token::Kind::Other; });
+}
+
 /// True if the sentence contains what @p Part returns.
 template <auto Part>
 bool isSaid(const Reading &reading)
@@ -189,6 +202,7 @@ constexpr Finding Findings[] = {
     {"whether", asksWhether},
     {"of", isOfConference},
     {"bare", isBare},
+    {"meeting-somebody", meetsSomebody},
     {"pulls-other", pullsOther},
     {"pulls-speaker", pullsSpeaker},
 };

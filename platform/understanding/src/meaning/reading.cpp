@@ -117,6 +117,12 @@ void Reading::collectClasses()
             m_classes.add(token.classes);
         }
     }
+    if (m_classes.intersects(WordClass::Conference | WordClass::Video)) {
+        for (Token &token : m_tokens) { // 手术前讨论，下午一点半开会: only what it is about
+            token.classes.remove(WordClass::Talk);
+        }
+        m_classes.remove(WordClass::Talk);
+    }
 }
 
 /// 五点 in 三点开会，开到五点 and in 三点开会到五点.

@@ -97,8 +97,9 @@ bool isOfKind(const QString &text, const Tokens &tokens, std::size_t begin, std:
     }
     // 建议收集会, 架构调整会, but neither 提前结束会议 nor 没意思的会
     const bool noun = last.kind == Token::Kind::Other && text.at(last.end() - 1) != QChar(u'的');
-    const bool people = last.is(WordClass::Title) && last.length > 1 && at == begin + 1;       // 店长会
-    return noun || people || isEndOfWord(text, tokens, at - 1) || last.is(WordClass::Topic) || // 方案部署会
+    const bool people = last.is(WordClass::Title) && last.length > 1 && at == begin + 1; // 店长会
+    return noun || people || isEndOfWord(text, tokens, at - 1) ||
+           last.isAny(WordClass::Topic | WordClass::Talk) || // 方案部署会, 技术座谈会
            (conference.length == 1 && last.is(WordClass::Change));
 }
 

@@ -21,6 +21,7 @@ constexpr struct
 } ClassNames[] = {
     {"conference", WordClass::Conference},
     {"video", WordClass::Video},
+    {"talk", WordClass::Talk},
     {"strong open", WordClass::StrongOpen},
     {"governing open", WordClass::GoverningOpen},
     {"weak open", WordClass::WeakOpen},

@@ -12,6 +12,7 @@ namespace understanding {
 enum class WordClass : quint8 {
     Conference,    ///< 会议
     Video,         ///< 视频, 聊一下: a conference when people are named
+    Talk,          ///< 评审, 讨论: people do it together, in a conference or in a room
     StrongOpen,    ///< 发起: opens one by itself
     GoverningOpen, ///< 打开: only right before the conference
     WeakOpen,      ///< 开: needs 会 or 个 behind it

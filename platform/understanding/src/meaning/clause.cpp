@@ -134,6 +134,15 @@ bool Clause::isReport() const
     return has(WordClass::Reported) && has(WordClass::Actor);
 }
 
+bool Clause::isObjection() const
+{
+    return any([&](std::size_t at) {
+        return m_tokens[at].is(WordClass::Negation) && !m_tokens[at].inName &&
+               firstOf(m_reading.sentence().text(), m_tokens[at].position,
+                       {u"不同意", u"不让", u"不准", u"不许", u"不肯", u"不是我"}) > 0;
+    });
+}
+
 bool Clause::isTimeCutOff() const
 {
     const bool timed = any([&](std::size_t at) { return m_tokens[at].kind == Token::Kind::Time; });

@@ -37,6 +37,8 @@ public:
     bool isOnlyReported() const;
     /// 他们终于开完了: reports what others have done.
     bool isReport() const;
+    /// 老板不同意, 不是我说的: takes back the order beside it.
+    bool isObjection() const;
     /// tmr下午三点: a time beside something strange.
     bool isTimeCutOff() const;
     /// 阿姐 in 阿姐，帮我开个会.

@@ -189,7 +189,7 @@ Verdict judge(const Reading &reading, const QString &intent)
         } else if (clause.isReport() && intent == QLatin1String(CloseConference) &&
                    !reading.has(WordClass::Request)) {
             doubtful = true; // 散会啦，他们终于开完了
-        } else if (clause.isTimeCutOff() || clause.tellsNumber() ||
+        } else if (clause.isTimeCutOff() || clause.isObjection() || clause.tellsNumber() ||
                    (clause.isOnlySomebody() && (intent == QLatin1String(CreateConference) ||
                                                 intent == QLatin1String(QueryConference)))) {
             doubtful = true;

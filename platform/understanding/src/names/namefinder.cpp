@@ -212,10 +212,14 @@ private:
     {
         constexpr std::size_t farthest = 24; // tokens without a name; keeps long sentences linear
         bool afterComma = false;
+        bool passedOver = false; // something in the list that is no name
         std::size_t limit = at + farthest;
         std::size_t count = m_names.size();
         while (at < qMin(limit, m_tokens.size()) && !m_tokens[at].inTopic) {
             if (m_names.size() > count) {
+                if (passedOver) { // 叫上小凯，某某，还有果果
+                    doubtLast();
+                }
                 count = m_names.size();
                 limit = at + farthest;
             }
@@ -258,6 +262,8 @@ private:
                 const bool follows = followsName(m_tokens[at]);
                 const std::size_t before = m_names.size();
                 at = takeRun(at, mustLookLikeName || afterComma || follows);
+                passedOver = passedOver || (afterComma && m_names.size() == before && token.length > 1 &&
+                                            token.kind == Token::Kind::Other);
                 if (follows && m_names.size() == before && m_modifierStart < 0) { // 跟Jerry过方案
                     return at + 1;
                 }

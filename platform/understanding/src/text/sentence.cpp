@@ -38,12 +38,34 @@ QChar plainSpelling(QChar character)
     return spellings.value(character, character);
 }
 
+bool isChineseWord(QChar character)
+{
+    constexpr ushort firstIdeograph = 0x3400;
+    static const QString digits = QStringLiteral("零〇一二两三四五六七八九十百幺");
+    return character.unicode() >= firstIdeograph && character.isLetter() && !digits.contains(character);
+}
+
+/// True for a space that separates as a comma does, 我得撤了 退出会议, but not 八八零 一零零, and neither
+/// 邀请 萧峰 nor 负责人 马腾, where it only stands before a name.
+bool separates(const QString &text, int space)
+{
+    static const QString introducing = QStringLiteral("请叫约和跟与同及让把将拉喊带上加给找人理师长管员任总的号码是为");
+    const QChar before = text.at(space - 1);
+    return text.at(space) == QLatin1Char(' ') && isChineseWord(before) && isChineseWord(text.at(space + 1)) &&
+           !introducing.contains(before);
+}
+
 } // namespace
 
 Sentence::Sentence(const QString &raw) : m_raw(raw), m_text(raw)
 {
     for (QChar &character : m_text) {
         character = plainSpelling(character);
+    }
+    for (int at = 1; at + 1 < m_text.size(); ++at) {
+        if (separates(m_text, at)) {
+            m_text[at] = QLatin1Char(',');
+        }
     }
 }
 

@@ -193,8 +193,9 @@ QString Dialogue::turn(const QString &sentence, const QDateTime &now)
     if (sentence.size() > LongestSentence) {
         return answerJson(answerText(QStringLiteral("too-long")));
     }
-    const Reading reading(sentence, m_d->contacts);
-    const Outcome fresh = interpret(reading, now);
+    const Interpretation interpreted = interpret(sentence, now, m_d->contacts);
+    const Reading &reading = interpreted.reading;
+    const Outcome &fresh = interpreted.outcome;
     if (!m_d->question.isOpen()) {
         return m_d->reply(fresh, reading.time());
     }

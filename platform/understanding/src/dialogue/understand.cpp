@@ -12,7 +12,7 @@ namespace understanding {
 
 QString understand(const QString &sentence, const QDateTime &now, const QStringList &contactNames)
 {
-    const Outcome outcome = interpret(sentence, now, ContactIndex(contactNames));
+    const Outcome outcome = interpret(sentence, now, ContactIndex(contactNames)).outcome;
     return outcome.isCommand() ? commandJson(outcome) : answerJson(answerText(outcome.answer));
 }
 

@@ -88,7 +88,10 @@ bool Clause::isOnlySomebody() const
     const QString text = m_reading.sentence().text().mid(start, m_tokens[m_end - 1].end() - start);
     const bool known = Lexicon::instance().longestAt(text, 0).length == text.size(); // 那个, 小艾
     const QString head = text.mid(modifierLength(text));                             // 对象李准基
-    return !known && (isPeople(text) || isPersonsName(head)) && !isAddressing();
+    const bool address = m_tokens[m_begin].is(WordClass::Address);                   // 大哥
+    const bool somebody =
+        (isRelative(text) && !address) || (!known && (isPeople(text) || isPersonsName(head)));
+    return somebody && !isAddressing();
 }
 
 bool Clause::tellsNumber() const
@@ -100,9 +103,15 @@ bool Clause::tellsNumber() const
 
 bool Clause::isAddressing() const
 {
-    static const QString serving = QStringLiteral("帮麻请给劳替你您");
-    return m_end + 1 < m_tokens.size() && m_tokens[m_end].is(WordClass::Punctuation) &&
-           serving.contains(m_reading.sentence().text().at(m_tokens[m_end + 1].position));
+    static const QString serving = QStringLiteral("帮麻请给劳替");
+    static const QString addressing = QStringLiteral("你您"); // 小李，你先退会吧 is said to somebody else
+    const QString &text = m_reading.sentence().text();
+    if (m_end + 1 >= m_tokens.size() || !m_tokens[m_end].is(WordClass::Punctuation)) {
+        return false;
+    }
+    const int next = m_tokens[m_end + 1].position;
+    return serving.contains(
+        text.at(addressing.contains(text.at(next)) && next + 1 < text.size() ? next + 1 : next));
 }
 
 bool Clause::excludesSomebody() const
@@ -137,10 +146,14 @@ bool Clause::isReport() const
 bool Clause::isObjection() const
 {
     return any([&](std::size_t at) {
-        return m_tokens[at].is(WordClass::Negation) && !m_tokens[at].inName &&
-               firstOf(m_reading.sentence().text(), m_tokens[at].position,
-                       {u"不同意", u"不让", u"不准", u"不许", u"不肯", u"不是我"}) > 0;
-    });
+               return m_tokens[at].is(WordClass::Negation) && !m_tokens[at].inName &&
+                      firstOf(m_reading.sentence().text(), m_tokens[at].position,
+                              {u"不同意", u"不让", u"不准", u"不许", u"不肯", u"不是我"}) > 0;
+           }) ||
+           any([&](std::size_t at) { // 人也到不齐
+               return m_tokens[at].kind == Token::Kind::Other && !m_tokens[at].inName &&
+                      textOf(m_tokens[at]).contains(QStringLiteral("不齐"));
+           });
 }
 
 bool Clause::isTimeCutOff() const

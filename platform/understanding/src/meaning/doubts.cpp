@@ -217,6 +217,21 @@ bool asksAbility(const Reading &reading)
            reading.timeSaid().isEmpty() && !text.contains(QChar(u'帮')) && !text.contains(QChar(u'给'));
 }
 
+/// A座会议室，帮忙预定: a room is no conference.
+bool onlyNamesRoom(const Reading &reading)
+{
+    const QString &text = reading.sentence().text();
+    bool room = false;
+    bool conference = reading.hasAny(WordClass::Video | WordClass::ComeMeet);
+    for (const Token &token : reading.tokens()) {
+        const bool inRoom =
+            charAt(text, token.end() - 1) == QChar(u'室') || charAt(text, token.end()) == QChar(u'室');
+        room = room || (token.is(WordClass::Conference) && inRoom);
+        conference = conference || (token.is(WordClass::Conference) && !inRoom);
+    }
+    return room && !conference;
+}
+
 /// 帮我把会议室退了: gives a room back.
 bool returnsRoom(const Reading &reading)
 {
@@ -261,33 +276,20 @@ constexpr struct
     bool (*isDoubtful)(const Reading &);
 } Doubts[] = {
     {CreateConference, asksWho}, // 明天开会谁主持
-    {CreateConference, tellsBeginning},
-    {CreateConference, tellsWhen},
-    {QueryConference, tellsWhen},
-    {CreateConference, onlyTalks},
-    {CreateConference, isHeldInRoom},
-    {CreateConference, sendsSomebody},
-    {CreateConference, reminds},
-    {CreateConference, callsStranger},
-    {CreateConference, mentionsStranger},
-    {CreateConference, onlySpeaksOf},
-    {CreateConference, tellsOnlyEnd},
-    {CreateConference, asksAbility},
-    {CreateConference, namesNoConference},
-    {InviteConference, sendsSomebody},
-    {InviteConference, callsForNothing},
-    {InviteConference, asksWho},
-    {EnterConferenceById, tellsWhoseNumber},
-    {EnterConferenceById, comesLater},
-    {EnterMyConference, asksWho},
-    {EnterMyConference, asksHowMany},
-    {CloseConference, asksWho},
-    {CloseConference, returnsRoom},
-    {CloseConference, opensOfKind},
-    {QueryConference, opensOfKind},
-    {InviteConference, comesLater},
-    {CloseConference, endsLater},
-    {AddBuddy, onlyMentionsFriend},
+    {CreateConference, tellsBeginning},    {CreateConference, tellsWhen},
+    {QueryConference, tellsWhen},          {CreateConference, onlyTalks},
+    {CreateConference, isHeldInRoom},      {CreateConference, sendsSomebody},
+    {CreateConference, reminds},           {CreateConference, callsStranger},
+    {CreateConference, mentionsStranger},  {CreateConference, onlySpeaksOf},
+    {CreateConference, tellsOnlyEnd},      {CreateConference, asksAbility},
+    {CreateConference, namesNoConference}, {CreateConference, onlyNamesRoom},
+    {InviteConference, sendsSomebody},     {InviteConference, callsForNothing},
+    {InviteConference, asksWho},           {EnterConferenceById, tellsWhoseNumber},
+    {EnterConferenceById, comesLater},     {EnterMyConference, asksWho},
+    {EnterMyConference, asksHowMany},      {CloseConference, asksWho},
+    {CloseConference, returnsRoom},        {CloseConference, opensOfKind},
+    {QueryConference, opensOfKind},        {InviteConference, comesLater},
+    {CloseConference, endsLater},          {AddBuddy, onlyMentionsFriend},
 };
 
 } // namespace

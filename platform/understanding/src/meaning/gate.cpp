@@ -146,6 +146,8 @@ Verdict judge(const Reading &reading, const QString &intent)
             anchored = anchored || tokens[end].isAny(anchors);
             ++end;
         }
+        doubtful = doubtful || (begin < end && end < tokens.size() &&
+                                introducesQuote(reading.sentence().text(), tokens, begin, end));
         const bool spaced = begin > 0 && tokens[begin - 1].kind == Token::Kind::Space;
         if (ordered && asides[begin] && (spaced || intent == QLatin1String(QueryConference))) {
             begin = end + 1;
@@ -190,8 +192,9 @@ Verdict judge(const Reading &reading, const QString &intent)
                    !reading.has(WordClass::Request)) {
             doubtful = true; // 散会啦，他们终于开完了
         } else if (clause.isTimeCutOff() || clause.isObjection() || clause.tellsNumber() ||
-                   (clause.isOnlySomebody() && (intent == QLatin1String(CreateConference) ||
-                                                intent == QLatin1String(QueryConference)))) {
+                   (clause.isOnlySomebody() &&
+                    (intent == QLatin1String(CreateConference) || intent == QLatin1String(CloseConference) ||
+                     intent == QLatin1String(QueryConference)))) {
             doubtful = true;
         } else if (clause.callsSomebody()) { // 要开会了，拉上王磊
             ordered = true;

@@ -3,6 +3,7 @@
 
 #include "meaning/interpreter.h"
 
+#include "meaning/background.h"
 #include "meaning/callings.h"
 #include "meaning/gate.h"
 #include "meaning/intentrules.h"
@@ -187,14 +188,41 @@ QString missingSlotQuestion(const Outcome &outcome)
     return {};
 }
 
-Outcome interpret(const QString &sentence, const QDateTime &now, const ContactIndex &contacts)
+/// True if @p ordered, which was read from @p rest, says more clearly what is wanted than @p outcome, which
+/// was read from @p whole.
+static bool isBetter(const Outcome &ordered, const Outcome &outcome, const Reading &whole,
+                     const Reading &rest)
 {
-    Outcome outcome;
-    if (sentence.size() > LongestSentence) {
-        outcome.answer = QStringLiteral("too-long");
-        return outcome;
+    if (!outcome.isCommand()) {
+        return true;
     }
-    return interpret(Reading(sentence, contacts), now);
+    // 路让雨水冲坏了，请张伟开会 names one person; 昨天的不用管，查一下今天的会议 means one day.
+    const bool fewer = whole.names().size() > rest.names().size() && !rest.names().empty();
+    return ordered.intent == outcome.intent && (fewer || whole.namesTwoDays());
+}
+
+Interpretation interpret(const QString &sentence, const QDateTime &now, const ContactIndex &contacts)
+{
+    if (sentence.size() > LongestSentence) {
+        Outcome refused;
+        refused.answer = QStringLiteral("too-long");
+        return {Reading(QString(), contacts), std::move(refused)};
+    }
+    Reading whole(sentence, contacts);
+    Outcome outcome = interpret(whole, now);
+    for (const OrderStart &start : startsOfOrder(whole)) {
+        if (outcome.isCommand() && !start.onlyToldBefore) {
+            continue;
+        }
+        Reading rest(sentence.mid(start.position), contacts);
+        Outcome ordered = interpret(rest, now);
+        if (ordered.isCommand() && isBetter(ordered, outcome, whole, rest) &&
+            (ordered.intent == QLatin1String(QueryConference) ||
+             !dropsSomething(whole, rest, start.position))) {
+            return {std::move(rest), std::move(ordered)};
+        }
+    }
+    return {std::move(whole), std::move(outcome)};
 }
 
 Outcome interpret(const Reading &reading, const QDateTime &now)

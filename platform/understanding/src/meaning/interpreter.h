@@ -15,10 +15,18 @@ namespace understanding {
 /// The characters of the longest sentence; longer ones are refused unread.
 constexpr int LongestSentence = 500;
 
-/// Interprets @p sentence by itself, at @p now.
-Outcome interpret(const QString &sentence, const QDateTime &now, const ContactIndex &contacts);
+/// What was found in a sentence, and what it means.
+struct Interpretation
+{
+    Reading reading;
+    Outcome outcome;
+};
 
-/// Interprets @p reading by itself, at @p now.
+/// Interprets @p sentence by itself, at @p now. If it only tells something before the order, the reading is
+/// that of the order: 刚掉线了，重新进一下我的会议.
+Interpretation interpret(const QString &sentence, const QDateTime &now, const ContactIndex &contacts);
+
+/// Interprets the whole of @p reading by itself, at @p now.
 Outcome interpret(const Reading &reading, const QDateTime &now);
 
 /// Adds the datetime slot for @p time, which was typed as @p said; if the time cannot be resolved, sets the

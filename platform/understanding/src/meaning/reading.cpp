@@ -25,6 +25,23 @@ namespace {
 
 constexpr int ShortestNumber = 3; // 3号会议室 holds no conference number
 
+/// 今天 and 明天, 周五 and 下周一. 周三 and 25号 may be one day.
+bool namesAnotherDay(const TimeExpression &one, const TimeExpression &other)
+{
+    if (one.day != other.day) {
+        return false;
+    }
+    switch (one.day) {
+    case TimeExpression::Day::Relative:
+        return one.dayOffset != other.dayOffset;
+    case TimeExpression::Day::Weekday:
+        return one.weekday != other.weekday ||
+               (one.weekNamed && other.weekNamed && one.weekOffset != other.weekOffset);
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 Reading::Reading(const QString &sentence, const ContactIndex &contacts) : m_sentence(sentence)
@@ -146,9 +163,8 @@ void Reading::collectTimes()
         const bool again = m_time.hasClock && token.time.hasClock && m_time.hour == token.time.hour &&
                            m_time.minute == token.time.minute; // 明天三点，对，三点
         // 昨天的会没开完，明天三点接着开
-        m_daysDiffer = m_daysDiffer || (m_time.day == TimeExpression::Day::Relative &&
-                                        token.time.day == TimeExpression::Day::Relative &&
-                                        m_time.dayOffset != token.time.dayOffset);
+        m_daysDiffer = m_daysDiffer || namesAnotherDay(m_time, token.time) ||
+                       (token.time.hasOffset && (m_time.hasClock || m_time.part >= 0)); // 今早 ... 十五分钟后
         m_timeSaid += m_sentence.rawPart(token.position, token.length);
         if (m_timeCount == 0) {
             m_time = token.time;

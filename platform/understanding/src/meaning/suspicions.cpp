@@ -147,13 +147,33 @@ static bool isTimedLater(const Tokens &tokens, std::size_t at)
                        });
 }
 
-bool isConditional(const Reading &reading)
+bool isCondition(const QString &word)
 {
     static const QStringList conditions = {
         QStringLiteral("如果"), QStringLiteral("要是"), QStringLiteral("假如"), QStringLiteral("假设"),
         QStringLiteral("只要"), QStringLiteral("除非"), QStringLiteral("一旦"), QStringLiteral("万一"),
         QStringLiteral("倘若"), QStringLiteral("倘使"), QStringLiteral("假使"), QStringLiteral("假若"),
         QStringLiteral("若是")};
+    return conditions.contains(word);
+}
+
+bool introducesQuote(const QString &text, const Tokens &tokens, std::size_t begin, std::size_t end)
+{
+    static const QString saying = QStringLiteral("说讲写念喊道话");
+    static const QString particles = QStringLiteral("的了着是");
+    static const QString never = QStringLiteral("我咱俺不别没要想来知"); // 我说, 不说了, 有事要说, 知道
+    const int first = tokens[begin].position;
+    int last = tokens[end - 1].end() - 1;
+    while (last > first && particles.contains(text.at(last))) {
+        --last;
+    }
+    const bool doubled = text.at(last) == charAt(text, last - 1); // 随便说说
+    return last > first && saying.contains(text.at(last)) && !doubled &&
+           !tokens[end - 1].is(WordClass::Filler) && !never.contains(text.at(last - 1));
+}
+
+bool isConditional(const Reading &reading)
+{
     const QString &text = reading.sentence().text();
     const Tokens &tokens = reading.tokens();
     std::size_t begin = 0; // of the clause
@@ -165,8 +185,7 @@ bool isConditional(const Reading &reading)
                            at + 1 < tokens.size() && !tokens[at + 1].is(WordClass::Punctuation) &&
                            tokens[at + 1].kind != Token::Kind::Space;
         const bool told = !token.inName && !token.inTopic;
-        if (told && token.is(WordClass::Framed) &&
-            conditions.contains(text.mid(token.position, token.length))) {
+        if (told && token.is(WordClass::Framed) && isCondition(text.mid(token.position, token.length))) {
             return true;
         }
         if (told && ((begins && isWhether(text, token)) || endsCondition(reading, begin, at))) {

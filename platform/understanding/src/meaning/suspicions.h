@@ -24,4 +24,12 @@ namespace understanding {
 /// 如果明天下雨，帮我开会: what depends on something is not wanted now.
 [[nodiscard]] bool isConditional(const Reading &reading);
 
+/// True for 如果, 只要 and their like.
+[[nodiscard]] bool isCondition(const QString &word);
+
+/// 标题就写, 通知上说: what follows the clause between the tokens @p begin and @p end is not the speaker's
+/// own.
+[[nodiscard]] bool introducesQuote(const QString &text, const Tokens &tokens, std::size_t begin,
+                                   std::size_t end);
+
 } // namespace understanding

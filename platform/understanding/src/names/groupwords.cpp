@@ -19,7 +19,7 @@ public:
 
     void run()
     {
-        joinAll([this] { return joinGroup(); });
+        joinAll([this] { return joinOurs() || joinGroup(); });
     }
 
 private:
@@ -97,6 +97,40 @@ private:
         const bool named =
             behind < m_tokens.size() && nameBegins(m_text, m_tokens, behind, m_tokens[behind].position);
         return kind && !named ? next : at;
+    }
+
+    /// 备课组 in 给我们备课组开个会, 办公室的老师 in 帮我们办公室的老师召集会议.
+    bool joinOurs()
+    {
+        if (m_joined.empty() || m_text.at(m_joined.back().end() - 1) != QChar(u'们') ||
+            !m_joined.back().isAny(WordClass::Request | WordClass::Nobody)) {
+            return false;
+        }
+        constexpr int longest = 8;
+        constexpr WordClasses opening = WordClass::WeakOpen | WordClass::StrongOpen;
+        const int start = m_tokens[m_at].position;
+        std::size_t last = m_at;
+        for (std::size_t at = m_at; at + 1 < m_tokens.size() && m_tokens[at].end() - start <= longest; ++at) {
+            const Token &next = m_tokens[at + 1];
+            const QString said = m_text.mid(start, m_tokens[at].end() - start);
+            const bool group =
+                said.size() > 1 && (endsGroup(said.back()) || said.endsWith(QStringLiteral("委员会")) ||
+                                    said.endsWith(QStringLiteral("家委会")));
+            const bool members = last > m_at && m_tokens[at].is(WordClass::Title);
+            if (group || members) {
+                last = at + 1;
+            }
+            if (last == at + 1 && next.isAny(opening) && !next.is(WordClass::Measure)) {
+                join(m_tokens[at].end(), WordClass::Nobody, at + 1);
+                return true;
+            }
+            const bool describes = m_tokens[at].kind == Token::Kind::Other || m_tokens[at].length == 1 ||
+                                   m_tokens[at].isAny(WordClass::Plain | WordClass::Title);
+            if (!describes || m_tokens[at].isAny(WordClass::Punctuation | WordClass::Separator)) {
+                return false;
+            }
+        }
+        return false;
     }
 
     /// 渠道部所有人, 研究生们

@@ -207,6 +207,13 @@ bool NamePlaces::isSmallWordInName(std::size_t at) const
     if (calls) {
         return false;
     }
+    static const QString done = QStringLiteral("完了过");
+    const int behind = token.end() + 1; // 刚碰完会
+    const bool justDone = m_text.at(token.position) == QChar(u'刚') && behind < m_text.size() &&
+                          done.contains(m_text.at(behind));
+    if (justDone) {
+        return false;
+    }
     const bool measure = m_text.at(token.position) == QChar(u'个'); // in no name: 约个时间
     return token.kind == Token::Kind::Word && token.length == 1 && !token.isAny(hard) && !measure &&
            m_text.at(token.position).isLetter();

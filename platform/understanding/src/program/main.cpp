@@ -45,7 +45,7 @@ QByteArray answerTo(const QByteArray &line, const ContactIndex &contacts, const 
     if (sentence.contains(QChar::ReplacementCharacter) && sentence.size() <= LongestSentence) {
         outcome.answer = QStringLiteral("not-understood");
     } else {
-        outcome = interpret(sentence, now, contacts);
+        outcome = interpret(sentence, now, contacts).outcome;
     }
     const QString json = outcome.isCommand() ? commandJson(outcome) : answerJson(answerText(outcome.answer));
     return json.toUtf8() + '\n';

@@ -49,10 +49,13 @@ bool isChineseWord(QChar character)
 /// 邀请 萧峰 nor 负责人 马腾, where it only stands before a name.
 bool separates(const QString &text, int space)
 {
-    static const QString introducing = QStringLiteral("请叫约和跟与同及让把将拉喊带上加给找人理师长管员任总的号码是为");
+    static const QString introducing =
+        QStringLiteral("请叫约和跟与同及让把将拉喊带上加给找人理师长管员任总的号码是为");
+    static const QString ending = QStringLiteral("了过呢啊吧吗嘛哈呀啦"); // 还没过 1月4号开会
     const QChar before = text.at(space - 1);
-    return text.at(space) == QLatin1Char(' ') && isChineseWord(before) && isChineseWord(text.at(space + 1)) &&
-           !introducing.contains(before);
+    const QChar behind = text.at(space + 1);
+    return text.at(space) == QLatin1Char(' ') && isChineseWord(before) && !introducing.contains(before) &&
+           (isChineseWord(behind) || (ending.contains(before) && behind.isLetterOrNumber()));
 }
 
 } // namespace

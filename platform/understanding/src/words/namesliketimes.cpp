@@ -107,8 +107,9 @@ bool isInUnknownName(const QString &text, const Tokens &tokens, int at, const Ti
         return laterIsTime;
     }
     // One character is no name: 和高明早上 is 高明, 和王五十分钟后 is 王五.
-    const bool alone =
-        before.length == 1 && tokens.size() > 1 && tokens[tokens.size() - 2].isAny(leadsToNames);
+    const bool alone = before.length == 1 && tokens.size() > 1 &&
+                       tokens[tokens.size() - 2].isAny(leadsToNames) &&
+                       isPersonsName(text.mid(before.position, 2)); // but not 说二 in 通知说二十号开学
     static const QString givenNames = QStringLiteral("明晨一二三四五六七八九");
     return alone && laterIsTime && givenNames.contains(text.at(at));
 }

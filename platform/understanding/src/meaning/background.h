@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "meaning/reading.h"
+
+#include <vector>
+
+namespace understanding {
+
+/// Where an order may begin.
+struct OrderStart
+{
+    int position;
+    bool onlyToldBefore; ///< every clause before tells something, and orders nothing
+};
+
+/// Where the order may begin behind clauses that only tell how it came about: 重新 in
+/// 刚掉线了，重新进一下我的会议, 麻烦 in 老板找我，麻烦退出会议. In the order in which they should be tried;
+/// empty for none.
+std::vector<OrderStart> startsOfOrder(const Reading &reading);
+
+/// True if the order read from @p start on, as @p rest, lacks people, a time or digits that @p whole holds:
+/// 跟宋阳没聊完，接着开会.
+bool dropsSomething(const Reading &whole, const Reading &rest, int start);
+
+} // namespace understanding

@@ -5,6 +5,7 @@
 
 #include "meaning/interpreter.h"
 #include "text/chinesenumber.h"
+#include "text/scan.h"
 #include "words/lexicon.h"
 
 #include <algorithm>
@@ -38,11 +39,16 @@ bool holdsOnly(const Reading &reading, Answers answers)
     const auto first = std::find_if(tokens.cbegin(), tokens.cend(), answers);
     // 问着了，9901: what comes before the clause of the answer is an aside, unless it refuses or asks.
     auto begin = first;
-    while (begin != tokens.cbegin() && !(begin - 1)->is(WordClass::Punctuation)) {
+    const auto ends = [&](const Token &token) { // 领导说是 880100001, 就群里发的那个 880100001
+        return token.is(WordClass::Punctuation) || token.kind == Token::Kind::Space ||
+               reading.sentence().text().at(token.end() - 1) == QChar(u'是');
+    };
+    while (begin != tokens.cbegin() && !ends(*(begin - 1))) {
         --begin;
     }
-    constexpr WordClasses weighty = WordClass::Negation | WordClass::Question | WordClass::HowTo |
-                                    WordClass::GiveUp | WordClass::Query | WordClass::Unsupported;
+    constexpr WordClasses weighty = WordClass::Negation | WordClass::Repair | WordClass::Question |
+                                    WordClass::HowTo | WordClass::GiveUp | WordClass::Query |
+                                    WordClass::Unsupported;
     const bool aside =
         first != tokens.cend() &&
         std::none_of(tokens.cbegin(), begin, [&](const Token &token) { return token.isAny(weighty); });
@@ -117,7 +123,8 @@ bool takeAccount(const Reading &reading, Outcome &outcome)
     const auto isNobody = [](const FoundName &name) { // 是我同学
         return Lexicon::instance().classesOf(name.name).intersects(WordClass::Title | WordClass::Nobody);
     };
-    if (names.empty() || isNobody(names.front())) {
+    constexpr WordClasses inviting = WordClass::Arrive | WordClass::Join | WordClass::Invite;
+    if (names.empty() || isNobody(names.front()) || reading.hasAny(inviting)) { // 先帮我邀请马克进会
         return false;
     }
     outcome.addSlot(AccountSlot, names.front().said, names.front().name);

@@ -3,6 +3,7 @@
 
 #include "understanding/dialogue.h"
 
+#include "dialogue/answerclauses.h"
 #include "dialogue/answerreader.h"
 #include "dialogue/answers.h"
 #include "dialogue/semanticwriter.h"
@@ -118,7 +119,12 @@ bool Dialogue::Private::startsSomethingNew(const Outcome &fresh) const
 QString Dialogue::Private::answerConfirmation(const Reading &reading, const Outcome &fresh,
                                               const QDateTime &now)
 {
-    switch (readYesNo(reading.sentence())) {
+    YesNo meaning = readYesNo(reading.sentence());
+    const bool otherCommand = fresh.isCommand() && fresh.intent != question.outcome.intent;
+    if (meaning == YesNo::Unclear && !otherCommand) {
+        meaning = readYesNoBeforeReason(reading, question.outcome.intent, contacts);
+    }
+    switch (meaning) {
     case YesNo::Yes:
         question.outcome.answer.clear();
         return carryOut(Outcome(question.outcome));
@@ -126,6 +132,14 @@ QString Dialogue::Private::answerConfirmation(const Reading &reading, const Outc
         return close("cancelled");
     case YesNo::Unclear:
         break;
+    }
+    const bool alsoInvites = fresh.intent == QLatin1String(InviteConference) && fresh.isCommand() &&
+                             question.outcome.intent == QLatin1String(CreateConference);
+    if (alsoInvites && beginsWithYes(reading)) {
+        Outcome together = question.outcome;
+        together.answer.clear();
+        together.slotList += fresh.slotList;
+        return carryOut(together);
     }
     if (!fresh.intent.isEmpty()) {
         return reply(fresh, reading.time());
@@ -147,7 +161,11 @@ QString Dialogue::Private::answerQuestion(const Reading &reading, const Outcome 
     if (asked.startsWith(QLatin1String("confirm-"))) {
         return answerConfirmation(reading, fresh, now);
     }
-    const bool taken = asked != TooManyPasswords && takeAnswer(asked, reading, now, question.time, answered);
+    const bool otherCommand = fresh.isCommand() && fresh.intent != answered.intent;
+    const bool taken = asked != TooManyPasswords &&
+                       (takeAnswer(asked, reading, now, question.time, answered) ||
+                        (!otherCommand && asked != PasswordQuestion &&
+                         takeAnsweringClause(asked, reading, now, question.time, contacts, answered)));
     if (!taken) {
         if (startsSomethingNew(fresh)) {
             return reply(fresh, reading.time());

@@ -4,6 +4,7 @@
 #include "meaning/clause.h"
 
 #include "meaning/outcome.h"
+#include "meaning/suspicions.h"
 #include "names/namelook.h"
 #include "text/scan.h"
 
@@ -106,7 +107,9 @@ bool Clause::isQuestion() const
 {
     constexpr WordClasses asking =
         WordClass::Question | WordClass::QuestionParticle | WordClass::AskedTime | WordClass::HowTo;
-    return !m_isQuery && has(asking) && !has(WordClass::Request);
+    const bool proposes = (m_intent == QLatin1String(CreateConference) && proposesOpening(m_reading)) ||
+                          (m_intent == QLatin1String(CloseConference) && wonders(m_reading)); // asked about
+    return !m_isQuery && has(asking) && !has(WordClass::Request) && !proposes;
 }
 
 bool Clause::tellsWhyCalled() const

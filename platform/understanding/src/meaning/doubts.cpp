@@ -217,6 +217,17 @@ bool asksAbility(const Reading &reading)
            reading.timeSaid().isEmpty() && !text.contains(QChar(u'帮')) && !text.contains(QChar(u'给'));
 }
 
+/// 和杜鹃的视频会议: a conference is named, and nothing is to be done with it.
+bool onlyNamesConference(const Reading &reading)
+{
+    const QString &text = reading.sentence().text();
+    return reading.openVerb().isEmpty() && reading.timeSaid().isEmpty() && !reading.has(WordClass::Request) &&
+           std::any_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+               return token.is(WordClass::Conference) && charAt(text, token.position - 1) == QChar(u'的') &&
+                      token.end() == text.size();
+           });
+}
+
 /// A座会议室，帮忙预定: a room is no conference.
 bool onlyNamesRoom(const Reading &reading)
 {
@@ -276,20 +287,35 @@ constexpr struct
     bool (*isDoubtful)(const Reading &);
 } Doubts[] = {
     {CreateConference, asksWho}, // 明天开会谁主持
-    {CreateConference, tellsBeginning},    {CreateConference, tellsWhen},
-    {QueryConference, tellsWhen},          {CreateConference, onlyTalks},
-    {CreateConference, isHeldInRoom},      {CreateConference, sendsSomebody},
-    {CreateConference, reminds},           {CreateConference, callsStranger},
-    {CreateConference, mentionsStranger},  {CreateConference, onlySpeaksOf},
-    {CreateConference, tellsOnlyEnd},      {CreateConference, asksAbility},
-    {CreateConference, namesNoConference}, {CreateConference, onlyNamesRoom},
-    {InviteConference, sendsSomebody},     {InviteConference, callsForNothing},
-    {InviteConference, asksWho},           {EnterConferenceById, tellsWhoseNumber},
-    {EnterConferenceById, comesLater},     {EnterMyConference, asksWho},
-    {EnterMyConference, asksHowMany},      {CloseConference, asksWho},
-    {CloseConference, returnsRoom},        {CloseConference, opensOfKind},
-    {QueryConference, opensOfKind},        {InviteConference, comesLater},
-    {CloseConference, endsLater},          {AddBuddy, onlyMentionsFriend},
+    {CreateConference, tellsBeginning},
+    {CreateConference, tellsWhen},
+    {QueryConference, tellsWhen},
+    {CreateConference, onlyTalks},
+    {CreateConference, isHeldInRoom},
+    {CreateConference, sendsSomebody},
+    {CreateConference, reminds},
+    {CreateConference, callsStranger},
+    {CreateConference, mentionsStranger},
+    {CreateConference, onlySpeaksOf},
+    {CreateConference, tellsOnlyEnd},
+    {CreateConference, asksAbility},
+    {CreateConference, namesNoConference},
+    {CreateConference, onlyNamesRoom},
+    {CreateConference, onlyNamesConference},
+    {InviteConference, sendsSomebody},
+    {InviteConference, callsForNothing},
+    {InviteConference, asksWho},
+    {EnterConferenceById, tellsWhoseNumber},
+    {EnterConferenceById, comesLater},
+    {EnterMyConference, asksWho},
+    {EnterMyConference, asksHowMany},
+    {CloseConference, asksWho},
+    {CloseConference, returnsRoom},
+    {CloseConference, opensOfKind},
+    {QueryConference, opensOfKind},
+    {InviteConference, comesLater},
+    {CloseConference, endsLater},
+    {AddBuddy, onlyMentionsFriend},
 };
 
 } // namespace

@@ -122,6 +122,8 @@ Verdict judge(const Reading &reading, const QString &intent)
     doubtful = doubtful || (intent == QLatin1String(InviteConference) && pullsOther(reading) &&
                             !reading.conferenceNumber().isEmpty());
     doubtful = doubtful || (intent == QLatin1String(CloseConference) && isLeftByOther(reading));
+    doubtful = doubtful || (intent == QLatin1String(CloseConference) && wonders(reading));
+    doubtful = doubtful || (intent == QLatin1String(CreateConference) && proposesOpening(reading));
     doubtful = doubtful || (intent == QLatin1String(EnterMyConference) && onlyGoes(reading));
     doubtful = doubtful || (intent == QLatin1String(EnterConferenceById) && isNumberOfOther(reading));
     // 从这个会退出，加入123456: two things at once.

@@ -4,6 +4,7 @@
 #include "meaning/intentrules.h"
 
 #include "meaning/callings.h"
+#include "meaning/suspicions.h"
 #include "names/namelook.h"
 #include "text/rulefile.h"
 #include "text/scan.h"
@@ -201,6 +202,7 @@ constexpr Finding Findings[] = {
     {"my-own", isMyOwn},
     {"whether", asksWhether},
     {"of", isOfConference},
+    {"proposed", proposesOpening},
     {"bare", isBare},
     {"meeting-somebody", meetsSomebody},
     {"pulls-other", pullsOther},

@@ -204,4 +204,25 @@ bool isConditional(const Reading &reading)
     return false;
 }
 
+bool wonders(const Reading &reading)
+{
+    const Tokens &tokens = reading.tokens();
+    return std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
+        return !token.inName && firstOf(reading.sentence().text(), token.position,
+                                        {u"是不是", u"要不要", u"该不该", u"需不需要", u"用不用"}) > 0;
+    });
+}
+
+bool proposesOpening(const Reading &reading)
+{
+    const Tokens &tokens = reading.tokens();
+    for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
+        if (tokens[at].is(WordClass::WeakOpen) && !tokens[at].inName &&
+            tokens[at + 1].is(WordClass::Measure)) {
+            return wonders(reading);
+        }
+    }
+    return false;
+}
+
 } // namespace understanding

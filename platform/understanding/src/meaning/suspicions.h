@@ -32,4 +32,10 @@ namespace understanding {
 [[nodiscard]] bool introducesQuote(const QString &text, const Tokens &tokens, std::size_t begin,
                                    std::size_t end);
 
+/// 要不要退会, 是不是该开个会了: asks the assistant, or oneself.
+[[nodiscard]] bool wonders(const Reading &reading);
+
+/// 是不是该开个会了, unlike 明天是不是要开会, which asks what there is.
+[[nodiscard]] bool proposesOpening(const Reading &reading);
+
 } // namespace understanding

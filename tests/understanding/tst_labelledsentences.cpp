@@ -77,19 +77,19 @@ private Q_SLOTS:
         compare(rates, Apart);
     }
 
-    /// Written by the author of the rules, for breadth.
+    /// Written for breadth, most of them by the author of the rules.
     void ownRowsHoldTheirRate()
     {
         Rates rates;
-        for (const char *name : {"sentences-own.jsonl", "sentences-own-2.jsonl"}) {
+        for (const char *name : {"sentences-own.jsonl", "sentences-own-2.jsonl", "sentences-own-3.jsonl"}) {
             const std::vector<LabelledRow> rows = readLabelledRows(file(QString::fromLatin1(name)));
             for (const LabelledRow &row : rows) {
                 rates.add(row);
             }
         }
         qInfo("%s", qPrintable(rates.toString()));
-        QCOMPARE(rates.sentences, 5701);
-        QCOMPARE(rates.dialogues, 1031);
+        QCOMPARE(rates.sentences, 6201);
+        QCOMPARE(rates.dialogues, 1151);
         compare(rates, Own);
     }
 
@@ -109,9 +109,9 @@ private:
         QVERIFY(rates.negativesActedOn <= bounds.negatives);
     }
 
-    static constexpr Bounds Own = {5589, 1025, 0};
-    static constexpr Bounds Learned = {1683, 197, 1};
-    static constexpr Bounds Apart = {814, 92, 2};
+    static constexpr Bounds Own = {6050, 1142, 0};
+    static constexpr Bounds Learned = {1699, 199, 0};
+    static constexpr Bounds Apart = {819, 96, 2};
 };
 
 QTEST_APPLESS_MAIN(TestLabelledSentences)

@@ -50,8 +50,12 @@ bool holdsOnly(const Reading &reading, Answers answers)
                                     WordClass::HowTo | WordClass::GiveUp | WordClass::Query |
                                     WordClass::Unsupported;
     const bool aside =
-        first != tokens.cend() &&
-        std::none_of(tokens.cbegin(), begin, [&](const Token &token) { return token.isAny(weighty); });
+        first != tokens.cend() && std::none_of(tokens.cbegin(), begin, [&](const Token &token) {
+            // 我看看挂历啊
+            const bool looks = token.is(WordClass::Query) &&
+                               charAt(reading.sentence().text(), token.position - 1) == QChar(u'我');
+            return token.isAny(weighty) && !looks;
+        });
     return std::all_of(aside ? begin : tokens.cbegin(), tokens.cend(), [&](const Token &token) {
         return token.kind == Token::Kind::Space || answers(token) || token.isAny(SurroundingWords) ||
                ((token.kind == Token::Kind::Other || token.classes.isEmpty()) &&

@@ -3,6 +3,7 @@
 
 #include "meaning/background.h"
 
+#include "meaning/outcome.h"
 #include "meaning/suspicions.h"
 #include "names/namelook.h"
 
@@ -34,6 +35,7 @@ public:
         std::vector<OrderStart> found;
         int behindTold = 0; // the last clause behind one that is told
         int plea = 0;
+        int last = 0;
         bool onlyTold = true;
         bool elsewhere = false; // 拉个微信群，把赵云加进来
         for (Range clause = {0, endOfClause(0)}; clause.end < m_tokens.size();) {
@@ -47,20 +49,21 @@ public:
                             return token.is(WordClass::Unsupported) && !token.inName;
                         }));
             if (told && onlyTold) {
-                found.assign(1, {start, true});
+                found.assign(1, {start, true, false});
             } else if (told) {
                 behindTold = start;
             }
+            last = start;
             onlyTold = onlyTold && told;
             const bool others = elsewhere || isOnlySomebody(clause) || introducesQuote(clause);
             plea = plea == 0 && !others && isPlea(next.begin) ? start : plea;
             clause = next;
         }
-        for (const int start : {behindTold, plea}) {
+        for (const int start : {behindTold, plea, last}) {
             const bool known = std::any_of(found.cbegin(), found.cend(),
                                            [&](const OrderStart &other) { return other.position == start; });
             if (start > 0 && !known) {
-                found.push_back({start, false});
+                found.push_back({start, false, start == last});
             }
         }
         return found;
@@ -105,15 +108,17 @@ private:
     bool isPlea(std::size_t at) const
     {
         static const QString leading = QStringLiteral("你您那就还是先快去再赶紧");
+        const auto leads = [&](const Token &token) { // 那就 also asks for something
+            const bool plea = token.is(WordClass::Request) && m_text.at(token.position) != QChar(u'那');
+            return token.length <= 2 && !plea && leading.contains(m_text.at(token.position));
+        };
         static const QString addressed = QStringLiteral("你您");
         constexpr WordClasses deeds = WordClass::Pull | WordClass::Trigger | WordClass::Invite |
                                       WordClass::Join | WordClass::WeakJoin | WordClass::Add |
                                       WordClass::StrongOpen | WordClass::WeakOpen | WordClass::Close |
                                       WordClass::Query;
         bool toAssistant = false;
-        while (at < m_tokens.size() && m_tokens[at].length <= 2 && !m_tokens[at].is(WordClass::Request) &&
-               leading.contains(m_text.at(m_tokens[at].position)) &&
-               !(toAssistant && m_tokens[at].isAny(deeds))) {
+        while (at < m_tokens.size() && leads(m_tokens[at]) && !(toAssistant && m_tokens[at].isAny(deeds))) {
             toAssistant = toAssistant ||
                           (m_tokens[at].length == 1 && addressed.contains(m_text.at(m_tokens[at].position)));
             ++at;
@@ -202,19 +207,27 @@ std::vector<OrderStart> startsOfOrder(const Reading &reading)
     return isConditional(reading) ? std::vector<OrderStart>() : Background(reading).starts();
 }
 
-bool dropsSomething(const Reading &whole, const Reading &rest, int start)
+bool dropsSomething(const Reading &whole, const Reading &rest, const QString &intent, int start)
 {
-    const auto lost = [](const Said &before, const Said &behind) {
-        return !before.isEmpty() && before.normValue != behind.normValue;
+    constexpr int shortest = 4;
+    const auto lost = [&](const Said &said, const Said &kept) {
+        return said.position < start && said.normValue.size() >= shortest && said.normValue != kept.normValue;
     };
-    const bool named = rest.names().empty() && !whole.names().empty();
-    const bool timed =
-        rest.timeSaid().isEmpty() &&
-        std::any_of(whole.tokens().cbegin(), whole.tokens().cend(), [&](const Token &token) {
-            return token.position < start && token.kind == Token::Kind::Time && !token.time.isPastDay();
+    const bool opens = intent == QLatin1String(CreateConference);
+    const bool invites = intent == QLatin1String(InviteConference);
+    if (opens || invites || intent == QLatin1String(QueryConference)) {
+        const Tokens &tokens = whole.tokens();
+        const bool timed = std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
+            return token.position < start && token.kind == Token::Kind::Time && !token.time.isPastDay() &&
+                   (!invites || token.time.hasClock);
         });
-    return named || timed || lost(whole.conferenceNumber(), rest.conferenceNumber()) ||
-           lost(whole.password(), rest.password()) || lost(whole.account(), rest.account());
+        return (timed && rest.timeSaid().isEmpty()) ||
+               ((opens || invites) && rest.names().empty() && !whole.names().empty());
+    }
+    return (intent == QLatin1String(EnterConferenceById) &&
+            (lost(whole.conferenceNumber(), rest.conferenceNumber()) ||
+             lost(whole.password(), rest.password()))) ||
+           (intent == QLatin1String(AddBuddy) && lost(whole.account(), rest.account()));
 }
 
 } // namespace understanding

@@ -14,6 +14,8 @@ struct OrderStart
 {
     int position;
     bool onlyToldBefore; ///< every clause before tells something, and orders nothing
+    bool
+        onlyQuery; ///< only a question about one's conferences may begin here: 孩子要打疫苗，我后天都有什么会
 };
 
 /// Where the order may begin behind clauses that only tell how it came about: 重新 in
@@ -21,8 +23,8 @@ struct OrderStart
 /// empty for none.
 std::vector<OrderStart> startsOfOrder(const Reading &reading);
 
-/// True if the order read from @p start on, as @p rest, lacks people, a time or digits that @p whole holds:
-/// 跟宋阳没聊完，接着开会.
-bool dropsSomething(const Reading &whole, const Reading &rest, int start);
+/// True if the order for @p intent read from @p start on, as @p rest, lacks people, a time or digits that @p
+/// whole holds: 跟宋阳没聊完，接着开会.
+bool dropsSomething(const Reading &whole, const Reading &rest, const QString &intent, int start);
 
 } // namespace understanding

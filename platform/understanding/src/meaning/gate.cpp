@@ -109,7 +109,8 @@ Verdict judge(const Reading &reading, const QString &intent)
     bool supposed = false;
     bool doubtful = reading.hasDoubtfulName() && intent != QLatin1String(QueryConference);
     // 约小张和小李，不对，约小王: which of them?
-    doubtful = doubtful || isConditional(reading) || repairsSomething(reading);
+    const bool asksFirst = intent == QLatin1String(QueryConference) && asksBeforeCondition(reading);
+    doubtful = doubtful || (isConditional(reading) && !asksFirst) || repairsSomething(reading);
     doubtful = doubtful || isAboutSomethingElse(reading, intent);
     // Nothing that was said is dropped silently: 需求评审安排到明天十一点，拉上小唐 is no plain invitation.
     const bool untimely = intent == QLatin1String(InviteConference) || intent == QLatin1String(AddBuddy);
@@ -163,7 +164,7 @@ Verdict judge(const Reading &reading, const QString &intent)
             continue;
         }
         const Clause clause(reading, intent, begin, end);
-        supposed = supposed || clause.isSupposed();
+        supposed = supposed || (clause.isSupposed() && !(asksFirst && ordered));
         const bool calledAway = intent == QLatin1String(InviteConference) && clause.isCalledAway();
         if (takesPeople && clause.isOrder() && (clause.excludesSomebody() || calledAway)) {
             return Verdict::Refuse;

@@ -211,14 +211,16 @@ Interpretation interpret(const QString &sentence, const QDateTime &now, const Co
     Reading whole(sentence, contacts);
     Outcome outcome = interpret(whole, now);
     for (const OrderStart &start : startsOfOrder(whole)) {
-        if (outcome.isCommand() && !start.onlyToldBefore) {
+        // 早上好，昨晚睡得不错，跟我说说今天有哪些会
+        const bool dated = outcome.intent == QLatin1String(QueryConference) && whole.namesTwoDays();
+        if (outcome.isCommand() && !start.onlyToldBefore && !dated) {
             continue;
         }
         Reading rest(sentence.mid(start.position), contacts);
         Outcome ordered = interpret(rest, now);
-        if (ordered.isCommand() && isBetter(ordered, outcome, whole, rest) &&
-            (ordered.intent == QLatin1String(QueryConference) ||
-             !dropsSomething(whole, rest, start.position))) {
+        const bool fits = !start.onlyQuery || ordered.intent == QLatin1String(QueryConference);
+        if (ordered.isCommand() && fits && isBetter(ordered, outcome, whole, rest) &&
+            !dropsSomething(whole, rest, ordered.intent, start.position)) {
             return {std::move(rest), std::move(ordered)};
         }
     }

@@ -147,6 +147,22 @@ static bool isTimedLater(const Tokens &tokens, std::size_t at)
                        });
 }
 
+bool asksBeforeCondition(const Reading &reading)
+{
+    constexpr WordClasses asking = WordClass::Query | WordClass::Question | WordClass::QuestionParticle;
+    bool asks = false;
+    bool asked = false; // in an earlier clause
+    for (const Token &token : reading.tokens()) {
+        if (token.is(WordClass::Framed) &&
+            isCondition(reading.sentence().text().mid(token.position, token.length))) {
+            return asked;
+        }
+        asked = asked || (asks && token.is(WordClass::Punctuation));
+        asks = asks || token.isAny(asking);
+    }
+    return false;
+}
+
 bool isCondition(const QString &word)
 {
     static const QStringList conditions = {
@@ -159,9 +175,21 @@ bool isCondition(const QString &word)
 
 bool introducesQuote(const QString &text, const Tokens &tokens, std::size_t begin, std::size_t end)
 {
-    static const QString saying = QStringLiteral("说讲写念喊道话");
+    static const QString saying = QStringLiteral("说讲写念喊道");
     static const QString particles = QStringLiteral("的了着是");
     static const QString never = QStringLiteral("我咱俺不别没要想来知"); // 我说, 不说了, 有事要说, 知道
+    const bool labelled =
+        end > begin + 1 && tokens[end - 2].isAny(WordClass::IdLabel | WordClass::PasswordLabel |
+                                                 WordClass::AccountLabel | WordClass::Filler);
+    const Token &link = tokens[end - 1]; // 他原话是, but not 会议号是
+    if (end > begin + 1 && !labelled && link.length == 1 && text.at(link.position) == QChar(u'是')) {
+        return true;
+    }
+    for (std::size_t at = begin; at < end; ++at) {
+        if (firstOf(text, tokens[at].position, {u"原话", u"台词", u"剧本"}) > 0) {
+            return true;
+        }
+    }
     const int first = tokens[begin].position;
     int last = tokens[end - 1].end() - 1;
     while (last > first && particles.contains(text.at(last))) {
@@ -179,6 +207,7 @@ bool isConditional(const Reading &reading)
     std::size_t begin = 0; // of the clause
     bool begins = true;
     bool timed = false; // 今晚九点等孩子睡了: the hour was said
+    bool onlyTime = true;
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         const Token &token = tokens[at];
         const bool waits = begins && token.length == 1 && text.at(token.position) == QChar(u'等') &&
@@ -196,7 +225,10 @@ bool isConditional(const Reading &reading)
             std::any_of(tokens.cbegin() + static_cast<std::ptrdiff_t>(at), tokens.cend(), isDeed)) {
             return true;
         }
-        timed = (timed || token.time.hasClock) && !token.is(WordClass::Punctuation);
+        // 九点半吧，等孩子睡了: a clause that says nothing but the hour
+        const bool sign = token.is(WordClass::Punctuation);
+        timed = (timed || token.time.hasClock) && (!sign || onlyTime);
+        onlyTime = sign || (onlyTime && (token.kind == Token::Kind::Time || token.is(WordClass::Filler)));
         begin = token.is(WordClass::Punctuation) ? at + 1 : begin;
         begins = tokens[at].is(WordClass::Punctuation) ||
                  (begins && (tokens[at].is(WordClass::Filler) || tokens[at].kind == Token::Kind::Time));

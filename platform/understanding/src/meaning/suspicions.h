@@ -24,6 +24,9 @@ namespace understanding {
 /// 如果明天下雨，帮我开会: what depends on something is not wanted now.
 [[nodiscard]] bool isConditional(const Reading &reading);
 
+/// 明天有会吗，要是没有我就去钓鱼: what depends on the answer does not make the question doubtful.
+[[nodiscard]] bool asksBeforeCondition(const Reading &reading);
+
 /// True for 如果, 只要 and their like.
 [[nodiscard]] bool isCondition(const QString &word);
 

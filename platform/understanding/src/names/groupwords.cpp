@@ -112,7 +112,8 @@ private:
         std::size_t last = m_at;
         for (std::size_t at = m_at; at + 1 < m_tokens.size() && m_tokens[at].end() - start <= longest; ++at) {
             const Token &next = m_tokens[at + 1];
-            const QString said = m_text.mid(start, m_tokens[at].end() - start);
+            QString said = m_text.mid(start, m_tokens[at].end() - start);
+            said.chop(said.endsWith(QChar(u'的')) ? 1 : 0); // 办公室的老师
             const bool group =
                 said.size() > 1 && (endsGroup(said.back()) || said.endsWith(QStringLiteral("委员会")) ||
                                     said.endsWith(QStringLiteral("家委会")));

@@ -140,10 +140,13 @@ static bool isTwoInString(const QString &text, int at, int end, int start)
     if (text.at(at) != Two) {
         return false;
     }
-    if (at > start) {
-        return end == at;
+    if (at > start && end == at) {
+        return true;
     }
-    const int next = at + 1 < text.size() && text.at(at + 1) == Two ? at + 2 : at + 1; // 两两三三
+    int next = at + 1; // 两两三三, 幺八六 两两两零
+    while (next < text.size() && text.at(next) == Two) {
+        ++next;
+    }
     return next < text.size() && digitValue(text.at(next)) >= 0;
 }
 

@@ -50,7 +50,7 @@ bool isChineseWord(QChar character)
 bool separates(const QString &text, int space)
 {
     static const QString introducing =
-        QStringLiteral("请叫约和跟与同及让把将拉喊带上加给找人理师长管员任总的号码是为");
+        QStringLiteral("请叫约和跟与同及让把将拉喊带上加给找人理师长管员任总号码为");
     static const QString ending = QStringLiteral("了过呢啊吧吗嘛哈呀啦"); // 还没过 1月4号开会
     const QChar before = text.at(space - 1);
     const QChar behind = text.at(space + 1);

@@ -108,10 +108,32 @@ bool isUnknownPurpose(const QString &text, const Tokens &tokens, std::size_t at)
                                  u"前",   u"后",   u"中",   u"期间",   u"要",   u"会"}) == 0;
 }
 
+/// 一家人吃饭的时候 in 中午十二点一家人吃饭的时候开会: the hour is said, so that it only tells what goes on
+/// then.
+void settleOccasions(const QString &text, Tokens &tokens)
+{
+    constexpr WordClasses deeds = WordClass::Conference | WordClass::Join | WordClass::Close |
+                                  WordClass::Arrive | WordClass::Punctuation;
+    std::size_t begin = tokens.size(); // behind the hour
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        if (tokens[at].time.hasClock) {
+            begin = at + 1;
+        } else if (tokens[at].isAny(deeds)) {
+            begin = tokens.size();
+        } else if (begin < at &&
+                   text.midRef(tokens[at].position, tokens[at].length).endsWith(QStringLiteral("的时候"))) {
+            std::for_each(tokens.begin() + static_cast<std::ptrdiff_t>(begin),
+                          tokens.begin() + static_cast<std::ptrdiff_t>(at) + 1,
+                          [](Token &token) { token.inTopic = true; });
+        }
+    }
+}
+
 } // namespace
 
 void settleTopics(const QString &text, Tokens &tokens)
 {
+    settleOccasions(text, tokens);
     bool inTopic = false;
     bool called = false; // right before
     bool timed = false;  // in this clause

@@ -192,7 +192,10 @@ bool beginsWithGiveUp(const Reading &reading)
     bool givesUp = false;
     for (const Token &token : reading.tokens()) {
         if (token.is(WordClass::Punctuation)) {
-            break;
+            if (givesUp) {
+                break;
+            }
+            continue; // 哎，不弄了
         }
         if (!token.isAny(harmless)) {
             return false;

@@ -143,8 +143,8 @@ private:
 
     bool tells(const Range &clause) const
     {
-        constexpr WordClasses telling =
-            WordClass::Reported | WordClass::Actor | WordClass::Negation | WordClass::Framed;
+        constexpr WordClasses telling = WordClass::Reported | WordClass::Actor | WordClass::Negation |
+                                        WordClass::Framed | WordClass::Lunar | WordClass::Festival;
         static const QString ends = QStringLiteral("了过呢的着");
         return ends.contains(lastOf(clause)) || any(clause, [&](const Token &token) {
                    return token.isAny(telling) || token.time.isPastDay() || isNegated(token) ||

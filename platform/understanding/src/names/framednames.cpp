@@ -121,7 +121,10 @@ private:
                                        WordClass::Buddy;
         return adverb || token.kind == Token::Kind::Time || token.kind == Token::Kind::Duration ||
                token.kind == Token::Kind::Space || token.kind == Token::Kind::Name || token.isAny(done) ||
-               (token.length > 1 && token.isAny(longer)) || isOpeningVerb(at) ||
+               (token.length > 1 && token.isAny(longer)) ||
+               (token.is(WordClass::Title) && at > m_begin &&
+                m_tokens[at - 1].is(WordClass::Festival)) || // 段国庆老师
+               isOpeningVerb(at) ||
                (token.is(WordClass::Separator) && !m_text.at(token.position).isLetter());
     }
 

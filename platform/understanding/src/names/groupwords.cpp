@@ -99,11 +99,12 @@ private:
         return kind && !named ? next : at;
     }
 
-    /// 备课组 in 给我们备课组开个会, 办公室的老师 in 帮我们办公室的老师召集会议.
+    /// 备课组 in 给我们备课组开个会, 摄影社 in 帮摄影社定个会, 办公室的老师 in 帮我们办公室的老师召集会议.
     bool joinOurs()
     {
-        if (m_joined.empty() || m_text.at(m_joined.back().end() - 1) != QChar(u'们') ||
-            !m_joined.back().isAny(WordClass::Request | WordClass::Nobody)) {
+        static const QString leading = QStringLiteral("们帮给替");
+        if (m_joined.empty() || !leading.contains(m_text.at(m_joined.back().end() - 1)) ||
+            !m_joined.back().isAny(WordClass::Request | WordClass::Nobody | WordClass::Trigger)) {
             return false;
         }
         constexpr int longest = 8;

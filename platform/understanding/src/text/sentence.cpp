@@ -51,10 +51,16 @@ bool separates(const QString &text, int space)
 {
     static const QString introducing =
         QStringLiteral("请叫约和跟与同及让把将拉喊带上加给找人理师长管员任总号码为");
+    static const QString starting = QStringLiteral("咱大一开");           // 都叫上 咱们开会
     static const QString ending = QStringLiteral("了过呢啊吧吗嘛哈呀啦"); // 还没过 1月4号开会
+    static const QString pleading = QStringLiteral("帮请麻劳快");
     const QChar before = text.at(space - 1);
     const QChar behind = text.at(space + 1);
-    return text.at(space) == QLatin1Char(' ') && isChineseWord(before) && !introducing.contains(before) &&
+    if (text.at(space) == QLatin1Char(' ') && before.isDigit() && pleading.contains(behind)) {
+        return true; // 会议号是 802461357 帮我加入
+    }
+    return text.at(space) == QLatin1Char(' ') && isChineseWord(before) &&
+           (!introducing.contains(before) || starting.contains(behind)) &&
            (isChineseWord(behind) || (ending.contains(before) && behind.isLetterOrNumber()));
 }
 

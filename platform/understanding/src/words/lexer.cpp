@@ -3,6 +3,7 @@
 
 #include "words/lexer.h"
 
+#include "names/namelook.h"
 #include "text/chinesenumber.h"
 #include "text/scan.h"
 #include "time/timereader.h"
@@ -137,7 +138,10 @@ private:
                                 m_tokens.back().isAny(WordClass::Trigger | WordClass::Separator) &&
                                 m_text.at(m_tokens.back().position).isLetter();
             const bool titled = title.length >= shortestTitle && title.classes.has(WordClass::Title);
-            word = called || titled ? WordMatch() : word;
+            const bool familiar = !m_tokens.empty() &&
+                                  m_tokens.back().kind == Token::Kind::Other && // 采购的老莫
+                                  isNamePrefix(m_text.at(m_at - 1));
+            word = called || titled || familiar ? WordMatch() : word;
         }
         if (word.length == 0 || isOffice(word)) {
             return false;
@@ -166,10 +170,14 @@ private:
         // 新年 in 新年度, 也别 in 也别忘了, 孙女 in 孙女士
         if (firstOf(m_text, last,
                     {u"后天", u"上官", u"时间", u"明天", u"明早", u"明晚", u"明儿", u"约翰", u"约瑟", u"上午",
-                     u"好友", u"意见", u"年度", u"别忘", u"女士"}) > 0) {
+                     u"好友", u"意见", u"年度", u"别忘", u"女士", u"会计"}) > 0) {
             return true;
         }
-        if (word.length == 2 && firstOf(m_text, m_at, {u"让我的"}) > 0) { // 让我的客户进会议
+        if (word.length == 2 &&
+            firstOf(m_text, m_at,
+                    {u"让我的", u"让我老公", u"让我老婆", u"让我媳妇", u"让我妈", u"让我爸", u"让我哥",
+                     u"让我姐", u"让我弟", u"让我妹", u"让我儿", u"让我女", u"让我闺女", u"让我家",
+                     u"让我同"}) > 0) { // 让我的客户进会议
             return true;
         }
         if (word.length == 2 && firstOf(m_text, m_at, {u"约在"}) > 0) { // 约在上海的周扬, but not 约在三点

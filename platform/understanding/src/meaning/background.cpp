@@ -38,6 +38,7 @@ public:
         int last = 0;
         bool onlyTold = true;
         bool elsewhere = false; // 拉个微信群，把赵云加进来
+        bool twofold = false;   // 退出会议，帮我加入123456: which of the two?
         for (Range clause = {0, endOfClause(0)}; clause.end < m_tokens.size();) {
             const Range next = {clause.end + 1, endOfClause(clause.end + 1)};
             if (next.begin == m_tokens.size()) {
@@ -55,11 +56,12 @@ public:
             }
             last = start;
             onlyTold = onlyTold && told;
-            const bool others = elsewhere || isOnlySomebody(clause) || introducesQuote(clause);
+            twofold = twofold || (!told && beginsWithDeed(clause));
+            const bool others = elsewhere || twofold || isOnlySomebody(clause) || introducesQuote(clause);
             plea = plea == 0 && !others && isPlea(next.begin) ? start : plea;
             clause = next;
         }
-        for (const int start : {behindTold, plea, last}) {
+        for (const int start : {behindTold, plea, twofold ? 0 : last}) {
             const bool known = std::any_of(found.cbegin(), found.cend(),
                                            [&](const OrderStart &other) { return other.position == start; });
             if (start > 0 && !known) {
@@ -94,6 +96,21 @@ private:
         const bool numberFollows = clause.end + 1 < m_tokens.size() && m_tokens[clause.end + 1].isAny(Labels);
         return clause.begin < clause.end && !numberFollows &&
                understanding::introducesQuote(m_text, m_tokens, clause.begin, clause.end);
+    }
+
+    /// 退出会议, 先把会退了, 查一下明天的会.
+    bool beginsWithDeed(const Range &clause) const
+    {
+        constexpr WordClasses deeds = WordClass::Close | WordClass::CloseAlone | WordClass::Join |
+                                      WordClass::Add | WordClass::StrongOpen | WordClass::Invite |
+                                      WordClass::Query | WordClass::Pull | WordClass::Request;
+        std::size_t at = clause.begin;
+        while (at < clause.end && m_tokens[at].is(WordClass::Filler) && !m_tokens[at].isAny(deeds)) {
+            ++at;
+        }
+        const bool calls = at < clause.end && m_tokens[at].is(WordClass::Trigger) &&
+                           !m_tokens[at].is(WordClass::Separator); // 约, but not 和
+        return at < clause.end && !m_tokens[at].inName && (calls || m_tokens[at].isAny(deeds));
     }
 
     /// 儿子，去把门关上 is said to somebody else.

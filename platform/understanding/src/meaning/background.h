@@ -14,8 +14,7 @@ struct OrderStart
 {
     int position;
     bool onlyToldBefore; ///< every clause before tells something, and orders nothing
-    bool
-        onlyQuery; ///< only a question about one's conferences may begin here: 孩子要打疫苗，我后天都有什么会
+    bool onlyQuery; ///< fits a question about one's conferences only: 孩子要打疫苗，我后天有什么会
 };
 
 /// Where the order may begin behind clauses that only tell how it came about: 重新 in

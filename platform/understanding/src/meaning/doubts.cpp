@@ -217,6 +217,12 @@ bool asksAbility(const Reading &reading)
            reading.timeSaid().isEmpty() && !text.contains(QChar(u'帮')) && !text.contains(QChar(u'给'));
 }
 
+/// 加李娜好友，帮我约张伟开会: two things at once.
+bool alsoAddsFriend(const Reading &reading)
+{
+    return reading.has(WordClass::Add) && reading.has(WordClass::Buddy);
+}
+
 /// 和杜鹃的视频会议: a conference is named, and nothing is to be done with it.
 bool onlyNamesConference(const Reading &reading)
 {
@@ -302,6 +308,7 @@ constexpr struct
     {CreateConference, namesNoConference},
     {CreateConference, onlyNamesRoom},
     {CreateConference, onlyNamesConference},
+    {CreateConference, alsoAddsFriend},
     {InviteConference, sendsSomebody},
     {InviteConference, callsForNothing},
     {InviteConference, asksWho},

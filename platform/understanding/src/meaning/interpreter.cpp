@@ -188,17 +188,23 @@ QString missingSlotQuestion(const Outcome &outcome)
     return {};
 }
 
-/// True if @p ordered, which was read from @p rest, says more clearly what is wanted than @p outcome, which
-/// was read from @p whole.
+/// True if the order that may begin at @p start was read from @p rest as @p ordered, and says more clearly
+/// what is wanted than @p whole, which was read as @p outcome.
 static bool isBetter(const Outcome &ordered, const Outcome &outcome, const Reading &whole,
-                     const Reading &rest)
+                     const Reading &rest, const OrderStart &start)
 {
+    const bool asks = ordered.intent == QLatin1String(QueryConference);
+    if (!ordered.isCommand() || (start.onlyQuery && !asks) ||
+        dropsSomething(whole, rest, ordered.intent, start.position)) {
+        return false;
+    }
     if (!outcome.isCommand()) {
         return true;
     }
     // 路让雨水冲坏了，请张伟开会 names one person; 昨天的不用管，查一下今天的会议 means one day.
     const bool fewer = whole.names().size() > rest.names().size() && !rest.names().empty();
-    return ordered.intent == outcome.intent && (fewer || whole.namesTwoDays());
+    return ordered.intent == outcome.intent && (start.onlyToldBefore || asks) &&
+           (fewer || whole.namesTwoDays());
 }
 
 Interpretation interpret(const QString &sentence, const QDateTime &now, const ContactIndex &contacts)
@@ -210,17 +216,11 @@ Interpretation interpret(const QString &sentence, const QDateTime &now, const Co
     }
     Reading whole(sentence, contacts);
     Outcome outcome = interpret(whole, now);
-    for (const OrderStart &start : startsOfOrder(whole)) {
-        // 早上好，昨晚睡得不错，跟我说说今天有哪些会
-        const bool dated = outcome.intent == QLatin1String(QueryConference) && whole.namesTwoDays();
-        if (outcome.isCommand() && !start.onlyToldBefore && !dated) {
-            continue;
-        }
+    const bool clear = outcome.isCommand() && whole.names().size() < 2 && !whole.namesTwoDays();
+    for (const OrderStart &start : clear ? std::vector<OrderStart>() : startsOfOrder(whole)) {
         Reading rest(sentence.mid(start.position), contacts);
         Outcome ordered = interpret(rest, now);
-        const bool fits = !start.onlyQuery || ordered.intent == QLatin1String(QueryConference);
-        if (ordered.isCommand() && fits && isBetter(ordered, outcome, whole, rest) &&
-            !dropsSomething(whole, rest, ordered.intent, start.position)) {
+        if (isBetter(ordered, outcome, whole, rest, start)) {
             return {std::move(rest), std::move(ordered)};
         }
     }

@@ -143,6 +143,26 @@ bool Clause::isReport() const
     return has(WordClass::Reported) && has(WordClass::Actor);
 }
 
+bool Clause::leavesOutSomebody() const
+{
+    std::size_t at = m_begin;
+    while (at < m_end && (m_tokens[at].is(WordClass::Filler) || m_tokens[at].is(WordClass::Nobody))) {
+        ++at;
+    }
+    if (at == m_end || m_tokens[at].kind != Token::Kind::Other || m_tokens[at].inName ||
+        m_tokens[at].inTopic) {
+        return false;
+    }
+    const QString said = textOf(m_tokens[at]);
+    for (const int length : {2, 3}) {
+        const QString name = said.left(length);
+        if (said.size() >= length && isPersonsName(name) && !isThing(name) && !isThing(name.left(2))) {
+            return true;
+        }
+    }
+    return false;
+}
+
 bool Clause::isObjection() const
 {
     return any([&](std::size_t at) {

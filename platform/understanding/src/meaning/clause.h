@@ -37,6 +37,8 @@ public:
     bool isOnlyReported() const;
     /// 他们终于开完了: reports what others have done.
     bool isReport() const;
+    /// 张伟李娜必须到场, 张伟主持: who comes was said, and not found.
+    bool leavesOutSomebody() const;
     /// 老板不同意, 不是我说的: takes back the order beside it.
     bool isObjection() const;
     /// tmr下午三点: a time beside something strange.

@@ -126,7 +126,7 @@ private:
             return at;
         }
         if (const int comer = m_places.comerLength(at)) { // 宋阳必须到
-            addOne(token.position, comer, true);
+            addChunk(token.position, token.position + comer, false, true);
             return at;
         }
         if (token.length == 1 && last == at && last + 1 < m_tokens.size() &&

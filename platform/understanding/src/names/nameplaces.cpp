@@ -269,18 +269,22 @@ int NamePlaces::comerLength(std::size_t at) const
         !hasConference()) {
         return 0;
     }
-    for (const int length : {2, 3}) {
+    constexpr int longest = 9; // three people
+    for (int length = 2; length <= qMin(longest, m_tokens[at].length); ++length) {
         const int start = m_tokens[at].position;
         int next = start + length;
         const QString said = m_text.mid(start, length);
-        if (next > m_text.size() || !isPersonsName(said) || isThing(said.left(2))) {
+        if (next > m_text.size() || !(length <= 3 ? isPersonsName(said) : isPeople(said)) ||
+            isThing(said.left(2))) {
             continue;
         }
-        const int must = firstOf(m_text, next,
-                                 {u"也必须", u"也得", u"也要", u"必须", u"务必", u"一定得", u"一定要",
-                                  u"一定", u"得", u"要", u"也", u"需要"});
+        const int all = firstOf(m_text, next, {u"都", u"也", u"全"});
+        const int must =
+            all + firstOf(m_text, next + all,
+                          {u"必须", u"务必", u"一定得", u"一定要", u"一定", u"得", u"要", u"需要"});
         const int comes = firstOf(m_text, next + must, {u"来", u"到场", u"到", u"参加", u"出席", u"在"});
-        const int alone = firstOf(m_text, next, {u"一个人就", u"一个就", u"一人就"});
+        const int alone =
+            firstOf(m_text, next, {u"一个人就", u"一个就", u"一人就", u"一个都不能少", u"算一个"});
         next += must + comes;
         const QChar behind = m_text.size() > next ? m_text.at(next) : QChar(u',');
         static const QString ends = QStringLiteral(",.!。;吧哦啊的");

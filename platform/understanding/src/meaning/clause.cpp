@@ -154,6 +154,9 @@ bool Clause::leavesOutSomebody() const
         return false;
     }
     const QString said = textOf(m_tokens[at]);
+    if (has(WordClass::GiveUp | WordClass::Negation)) { // 王磊就算了
+        return false;
+    }
     for (const int length : {2, 3}) {
         const QString name = said.left(length);
         if (said.size() >= length && isPersonsName(name) && !isThing(name) && !isThing(name.left(2))) {

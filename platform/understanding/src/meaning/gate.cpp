@@ -194,7 +194,7 @@ Verdict judge(const Reading &reading, const QString &intent)
         } else if (clause.isReport() && intent == QLatin1String(CloseConference) &&
                    !reading.has(WordClass::Request)) {
             doubtful = true; // 散会啦，他们终于开完了
-        } else if (intent == QLatin1String(CreateConference) && ordered && clause.leavesOutSomebody()) {
+        } else if (takesPeople && ordered && clause.leavesOutSomebody()) {
             doubtful = true;
         } else if (clause.isTimeCutOff() || clause.isObjection() || clause.tellsNumber() ||
                    (clause.isOnlySomebody() &&

@@ -229,6 +229,9 @@ private:
             }
             at = behind;
             const Token &token = m_tokens[at];
+            if (afterComma && isAbsent(m_text, m_tokens, at)) { // 邀请张伟，王磊就算了
+                return at;
+            }
             m_lost = m_lost || isLostBefore(m_tokens, at);
             const bool someoneFollows =
                 m_places.isSomebody(at + 1) && // 妹夫 in 我妹妹妹夫

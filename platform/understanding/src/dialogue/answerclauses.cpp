@@ -95,8 +95,9 @@ bool takeAnsweringClause(const QString &question, const Reading &reading, const 
                 clear.push_back(answered);
             }
             answers.push_back(std::move(answered));
-        } else if (!isReason(clause)) {
-            return false;
+        } else if (!isReason(clause) ||
+                   (question == QLatin1String("whom-to-invite") && clause.has(WordClass::Negation))) {
+            return false; // 彭宇和傅佳，傅佳就别叫了
         }
     }
     // 四点吧，三点有课 and 周五，周四她请假 are clear; 三点，四点 is not.

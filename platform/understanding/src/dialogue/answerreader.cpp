@@ -8,6 +8,8 @@
 #include "text/scan.h"
 #include "words/lexicon.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace understanding {
@@ -46,9 +48,9 @@ bool holdsOnly(const Reading &reading, Answers answers)
     while (begin != tokens.cbegin() && !ends(*(begin - 1))) {
         --begin;
     }
-    constexpr WordClasses weighty = WordClass::Negation | WordClass::Repair | WordClass::Question |
-                                    WordClass::HowTo | WordClass::GiveUp | WordClass::Query |
-                                    WordClass::Unsupported;
+    constexpr WordClasses weighty =
+        WordClass::Negation | WordClass::Repair | WordClass::Question | WordClass::HowTo | WordClass::GiveUp |
+        WordClass::Query | WordClass::Unsupported | WordClass::Add | WordClass::Buddy | WordClass::BuddyNoun;
     const bool aside =
         first != tokens.cend() && std::none_of(tokens.cbegin(), begin, [&](const Token &token) {
             // 我看看挂历啊
@@ -76,7 +78,11 @@ bool takeNumber(const Reading &reading, Outcome &outcome)
         outcome.answer = QStringLiteral("whole-number");
         return true;
     }
-    if (reading.conferenceNumber().isEmpty() || !holdsOnly(reading, isCode)) {
+    // 前面三位是九六四
+    static const QRegularExpression part(
+        QStringLiteral("[前后]面?[几一二两三四五六0-9]位|开头|打头|尾号|末尾"));
+    if (reading.conferenceNumber().isEmpty() || !holdsOnly(reading, isCode) ||
+        reading.sentence().text().contains(part)) {
         return false;
     }
     const QString number = reading.conferenceNumber().normValue;
@@ -92,7 +98,9 @@ bool takePassword(const Reading &reading, Outcome &outcome)
 {
     // Said with its label or alone.
     const Said &said = reading.password().isEmpty() ? reading.account() : reading.password();
-    if (said.isEmpty() || !holdsOnly(reading, isCode)) {
+    const bool other = !reading.conferenceNumber().isEmpty() && !reading.password().isEmpty() &&
+                       reading.hasAny(WordClass::Join | WordClass::WeakJoin); // 加入会议 390174862 密码 1357
+    if (other || said.isEmpty() || !holdsOnly(reading, isCode)) {
         return false;
     }
     outcome.addSlot(PasswordSlot, said.value, said.normValue);
@@ -113,7 +121,8 @@ std::vector<FoundName> answeredNames(const Reading &reading)
                    return name.start < token.end() && token.position < name.position + name.said.size();
                });
     });
-    return onlyNames ? names : std::vector<FoundName>();
+    const bool sparesSomebody = reading.has(WordClass::Negation); // 彭宇和傅佳，不要傅佳
+    return onlyNames && !sparesSomebody ? names : std::vector<FoundName>();
 }
 
 bool takeAccount(const Reading &reading, Outcome &outcome)
@@ -128,7 +137,11 @@ bool takeAccount(const Reading &reading, Outcome &outcome)
         return Lexicon::instance().classesOf(name.name).intersects(WordClass::Title | WordClass::Nobody);
     };
     constexpr WordClasses inviting = WordClass::Arrive | WordClass::Join | WordClass::Invite;
-    if (names.empty() || isNobody(names.front()) || reading.hasAny(inviting)) { // 先帮我邀请马克进会
+    const auto describes = [&](const FoundName &name) { // 戴眼镜的
+        return charAt(reading.sentence().text(), name.position + name.said.size()) == QChar(u'的');
+    };
+    if (names.empty() || isNobody(names.front()) || describes(names.front()) ||
+        reading.hasAny(inviting)) { // 先帮我邀请马克进会
         return false;
     }
     outcome.addSlot(AccountSlot, names.front().said, names.front().name);
@@ -297,8 +310,9 @@ bool takeAnswer(const QString &question, const Reading &reading, const QDateTime
         outcome.answer.clear();
         return true;
     }
-    if (reading.timeSaid().isEmpty() || !holdsOnly(reading, [](const Token &token) {
-            return token.kind == Token::Kind::Time || token.inName;
+    if (reading.timeSaid().isEmpty() || !holdsOnly(reading, [&](const Token &token) {
+            const bool calls = token.is(WordClass::Arrive) && !reading.names().empty(); // 把唐薇也叫上
+            return token.kind == Token::Kind::Time || token.inName || calls;
         })) {
         return false;
     }

@@ -212,10 +212,10 @@ QString Dialogue::turn(const QString &sentence, const QDateTime &now)
         return answerJson(answerText(QStringLiteral("too-long")));
     }
     const Interpretation interpreted = interpret(sentence, now, m_d->contacts);
-    const Reading &reading = interpreted.reading;
+    const Reading &reading = interpreted.whole;
     const Outcome &fresh = interpreted.outcome;
     if (!m_d->question.isOpen()) {
-        return m_d->reply(fresh, reading.time());
+        return m_d->reply(fresh, interpreted.reading().time());
     }
     const bool toConfirm = m_d->question.outcome.answer.startsWith(QLatin1String("confirm-"));
     const bool givesUp = isGiveUp(reading) || (beginsWithGiveUp(reading) && fresh.intent.isEmpty());

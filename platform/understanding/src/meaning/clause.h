@@ -98,6 +98,8 @@ private:
     bool isTitleBeforeVerb(std::size_t at) const;
     /// 车间 in 明天三点车间开会，叫上老魏: a group that meets, and somebody else is called.
     bool isGroupBeforeOpening(std::size_t at) const;
+    /// 球队 in 球队那边有会不, 修车厂 in 修车厂今天三点开个会: those whom the speaker belongs to.
+    bool isOwnGroup(std::size_t at) const;
     /// 小区 in 小区业主会给我建一个: whose conference it is, and nobody's name.
     bool isGroupTitle(std::size_t at) const;
     /// 项目 in 明天三点，李娜张伟，项目总结会.

@@ -99,7 +99,7 @@ bool Clause::isExplained(std::size_t at) const
     case Token::Kind::Other:
         return token.inName || isNothing(token) || isDescription(at) || isTitleBeforeVerb(at) ||
                isGroupBeforeOpening(at) || isOnlyTitle(at) || isPreamble(at) || isOfNumber(at) ||
-               (m_intent == QLatin1String(AddBuddy) && !m_reading.account().isEmpty());
+               isOwnGroup(at) || (m_intent == QLatin1String(AddBuddy) && !m_reading.account().isEmpty());
     case Token::Kind::Number: // a date or an hour that was cut
         return m_intent != QLatin1String(CreateConference) || token.inName || isDescription(at);
     case Token::Kind::Duration: // how long a new conference takes
@@ -151,7 +151,11 @@ bool Clause::isTitleBeforeVerb(std::size_t at) const
     for (++next; next < m_end && m_tokens[next].isAny(WordClass::Filler | WordClass::Request); ++next) {
         requested = requested || m_tokens[next].is(WordClass::Request);
     }
-    return requested && next < m_end && m_tokens[next].isAny(WordClass::StrongOpen | WordClass::WeakOpen);
+    // 赛前准备会给我定在周日
+    const bool settled = next < m_end && firstOf(m_reading.sentence().text(), m_tokens[next - 1].position,
+                                                 {u"定在", u"定到", u"定于", u"约在", u"放在"}) > 0;
+    return requested && next < m_end &&
+           (settled || m_tokens[next].isAny(WordClass::StrongOpen | WordClass::WeakOpen));
 }
 
 /// 小组, 车间, 党支部, 学生会, 高三.
@@ -165,12 +169,33 @@ static bool isGroup(const QString &said)
         std::any_of(unions.cbegin(), unions.cend(), [&](const QString &end) { return said.endsWith(end); });
     const bool inside = said.size() > 1 && said.endsWith(QChar(u'里')); // 科里
     const int last = said.size() - (inside ? 2 : 1);
-    return form || united || (said.size() > 1 && endsGroup(said.at(last)));
+    static const QString places = QStringLiteral("场馆铺行村镇庭"); // 农场, 茶馆
+    return form || united ||
+           (said.size() > 1 && (endsGroup(said.at(last)) || places.contains(said.at(last))));
 }
 
 bool Clause::isGroupTitle(std::size_t at) const
 {
     return isGroup(textOf(m_tokens[at])) && isTitleBeforeVerb(at);
+}
+
+bool Clause::isOwnGroup(std::size_t at) const
+{
+    const QString &text = m_reading.sentence().text();
+    const Token &token = m_tokens[at];
+    const QString said = textOf(token);
+    const bool there = firstOf(text, token.end(), {u"那边", u"这边"}) > 0;
+    if (m_isQuery) { // 今天车间还剩啥会没开, 大后天球队那边有会不
+        return there || (isGroup(said) && said != QStringLiteral("公司")); // 公司年会什么时候
+    }
+    const bool begins = at == m_begin || m_tokens[at - 1].is(WordClass::Nobody) || // 咱农场
+                        m_tokens[at - 1].isAny(WordClass::Filler | WordClass::Address);
+    return m_intent == QLatin1String(CreateConference) && begins && isGroup(said) && at + 1 < m_end &&
+           m_tokens[at + 1].kind == Token::Kind::Time && charAt(text, text.size() - 1) != QChar(u'了') &&
+           any([&](std::size_t later) {
+               return later > at && m_tokens[later].is(WordClass::WeakOpen) && later + 1 < m_end &&
+                      m_tokens[later + 1].is(WordClass::Measure);
+           });
 }
 
 bool Clause::isGroupBeforeOpening(std::size_t at) const

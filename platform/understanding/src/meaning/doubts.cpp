@@ -217,6 +217,22 @@ bool asksAbility(const Reading &reading)
            reading.timeSaid().isEmpty() && !text.contains(QChar(u'帮')) && !text.contains(QChar(u'给'));
 }
 
+/// 这个会可以散了吧: asks whether one may.
+bool asksToLeave(const Reading &reading)
+{
+    const QString &text = reading.sentence().text();
+    return text.endsWith(QChar(u'吧')) &&
+           (text.contains(QStringLiteral("可以")) || text.contains(QStringLiteral("差不多")));
+}
+
+/// 有空跟张伟开个会: some day.
+bool comesSomeDay(const Reading &reading)
+{
+    const QString &text = reading.sentence().text();
+    return reading.timeSaid().isEmpty() && !reading.has(WordClass::Request) &&
+           firstOf(text, 0, {u"有空", u"得空", u"抽空", u"有时间", u"得闲"}) > 0;
+}
+
 /// 加李娜好友，帮我约张伟开会: two things at once.
 bool alsoAddsFriend(const Reading &reading)
 {
@@ -309,6 +325,8 @@ constexpr struct
     {CreateConference, onlyNamesRoom},
     {CreateConference, onlyNamesConference},
     {CreateConference, alsoAddsFriend},
+    {CreateConference, comesSomeDay},
+    {CloseConference, asksToLeave},
     {InviteConference, sendsSomebody},
     {InviteConference, callsForNothing},
     {InviteConference, asksWho},

@@ -212,7 +212,7 @@ Interpretation interpret(const QString &sentence, const QDateTime &now, const Co
     if (sentence.size() > LongestSentence) {
         Outcome refused;
         refused.answer = QStringLiteral("too-long");
-        return {Reading(QString(), contacts), std::move(refused)};
+        return {Reading(QString(), contacts), {}, std::move(refused)};
     }
     Reading whole(sentence, contacts);
     Outcome outcome = interpret(whole, now);
@@ -221,10 +221,10 @@ Interpretation interpret(const QString &sentence, const QDateTime &now, const Co
         Reading rest(sentence.mid(start.position), contacts);
         Outcome ordered = interpret(rest, now);
         if (isBetter(ordered, outcome, whole, rest, start)) {
-            return {std::move(rest), std::move(ordered)};
+            return {std::move(whole), std::move(rest), std::move(ordered)};
         }
     }
-    return {std::move(whole), std::move(outcome)};
+    return {std::move(whole), {}, std::move(outcome)};
 }
 
 Outcome interpret(const Reading &reading, const QDateTime &now)

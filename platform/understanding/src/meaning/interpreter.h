@@ -10,20 +10,25 @@
 #include <QDateTime>
 #include <QString>
 
+#include <optional>
+
 namespace understanding {
 
 /// The characters of the longest sentence; longer ones are refused unread.
 constexpr int LongestSentence = 500;
 
-/// What was found in a sentence, and what it means.
+/// What a sentence means, and what it was read from.
 struct Interpretation
 {
-    Reading reading;
+    Reading whole;
+    std::optional<Reading> order; ///< the order alone, if it means nothing together with what was told before
     Outcome outcome;
+
+    const Reading &reading() const { return order ? *order : whole; }
 };
 
-/// Interprets @p sentence by itself, at @p now. If it only tells something before the order, the reading is
-/// that of the order: 刚掉线了，重新进一下我的会议.
+/// Interprets @p sentence by itself, at @p now; if it only tells something before the order, that order:
+/// 刚掉线了，重新进一下我的会议.
 Interpretation interpret(const QString &sentence, const QDateTime &now, const ContactIndex &contacts);
 
 /// Interprets the whole of @p reading by itself, at @p now.

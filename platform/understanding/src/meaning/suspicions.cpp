@@ -249,8 +249,9 @@ bool proposesOpening(const Reading &reading)
 {
     const Tokens &tokens = reading.tokens();
     for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
+        const bool due = reading.sentence().text().contains(QChar(u'该')); // 是不是该开会了
         if (tokens[at].is(WordClass::WeakOpen) && !tokens[at].inName &&
-            tokens[at + 1].is(WordClass::Measure)) {
+            (due || tokens[at + 1].is(WordClass::Measure))) {
             return wonders(reading);
         }
     }

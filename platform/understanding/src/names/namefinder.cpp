@@ -229,7 +229,9 @@ private:
             }
             at = behind;
             const Token &token = m_tokens[at];
-            if (afterComma && isAbsent(m_text, m_tokens, at)) { // 邀请张伟，王磊就算了
+            // 邀请张伟，王磊就算了; 拉上小胖，他在宿舍
+            if (afterComma && (isAbsent(m_text, m_tokens, at) ||
+                               (token.is(WordClass::Actor) && m_tokens[at - 1].is(WordClass::Punctuation)))) {
                 return at;
             }
             m_lost = m_lost || isLostBefore(m_tokens, at);

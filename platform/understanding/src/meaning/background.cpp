@@ -224,6 +224,20 @@ std::vector<OrderStart> startsOfOrder(const Reading &reading)
     return isConditional(reading) ? std::vector<OrderStart>() : Background(reading).starts();
 }
 
+int endOfQuestion(const Reading &reading)
+{
+    constexpr WordClasses weighty = WordClass::Repair | WordClass::Conference | WordClass::Query |
+                                    WordClass::Question | WordClass::GiveUp | WordClass::Join |
+                                    WordClass::Close | WordClass::CloseAlone;
+    const Tokens &tokens = reading.tokens();
+    const auto end = std::find_if(tokens.cbegin(), tokens.cend(),
+                                  [](const Token &token) { return token.is(WordClass::Punctuation); });
+    const bool trails = std::none_of(end, tokens.cend(), [&](const Token &token) {
+        return token.isAny(weighty) || token.kind == Token::Kind::Time;
+    });
+    return trails && end != tokens.cend() ? end->position : 0;
+}
+
 bool dropsSomething(const Reading &whole, const Reading &rest, const QString &intent, int start)
 {
     constexpr int shortest = 4;

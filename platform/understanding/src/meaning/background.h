@@ -22,6 +22,10 @@ struct OrderStart
 /// empty for none.
 std::vector<OrderStart> startsOfOrder(const Reading &reading);
 
+/// Where a question about one's conferences ends before what has nothing to do with it:
+/// 下午有会吗，我要带狗去洗澡. 0 if there is no such place.
+int endOfQuestion(const Reading &reading);
+
 /// True if the order for @p intent read from @p start on, as @p rest, lacks people, a time or digits that @p
 /// whole holds: 跟宋阳没聊完，接着开会.
 bool dropsSomething(const Reading &whole, const Reading &rest, const QString &intent, int start);

@@ -124,7 +124,16 @@ bool Clause::isAddress(std::size_t at) const
 
 bool Clause::isOfNumber(std::size_t at) const
 {
-    return m_intent == QLatin1String(EnterConferenceById) && at < m_numberOwned;
+    if (m_intent != QLatin1String(EnterConferenceById)) {
+        return false;
+    }
+    // 跨年会议号202712310: which conference it is
+    const QString said = textOf(m_tokens[at]);
+    const bool titled = at + 1 < m_end &&
+                        m_tokens[at + 1].isAny(WordClass::Conference | WordClass::IdLabel) &&
+                        !said.endsWith(QChar(u'的')) && !isPersonsName(said) &&
+                        m_reading.hasAny(WordClass::Join | WordClass::WeakJoin | WordClass::Arrive);
+    return titled || at < m_numberOwned;
 }
 
 bool Clause::isTitleBeforeVerb(std::size_t at) const

@@ -233,6 +233,12 @@ bool comesSomeDay(const Reading &reading)
            firstOf(text, 0, {u"有空", u"得空", u"抽空", u"有时间", u"得闲"}) > 0;
 }
 
+/// 邀请邻居家的小龙，进咱们会议: somebody else is to come.
+bool alsoInvites(const Reading &reading)
+{
+    return reading.has(WordClass::Invite);
+}
+
 /// 加李娜好友，帮我约张伟开会: two things at once.
 bool alsoAddsFriend(const Reading &reading)
 {
@@ -334,6 +340,7 @@ constexpr struct
     {EnterConferenceById, comesLater},
     {EnterMyConference, asksWho},
     {EnterMyConference, asksHowMany},
+    {EnterMyConference, alsoInvites},
     {CloseConference, asksWho},
     {CloseConference, returnsRoom},
     {CloseConference, opensOfKind},

@@ -224,6 +224,16 @@ Interpretation interpret(const QString &sentence, const QDateTime &now, const Co
             return {std::move(whole), std::move(rest), std::move(ordered)};
         }
     }
+    const int question = outcome.isCommand() ? 0 : endOfQuestion(whole);
+    if (question > 0) {
+        Reading asked(sentence.left(question), contacts);
+        Outcome answered = interpret(asked, now);
+        constexpr WordClasses asking = WordClass::Query | WordClass::Question | WordClass::QuestionParticle;
+        if (answered.isCommand() && answered.intent == QLatin1String(QueryConference) &&
+            asked.hasAny(asking)) {
+            return {std::move(whole), std::move(asked), std::move(answered)};
+        }
+    }
     return {std::move(whole), {}, std::move(outcome)};
 }
 

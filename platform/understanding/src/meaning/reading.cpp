@@ -6,6 +6,7 @@
 #include "names/addressed.h"
 #include "names/framednames.h"
 #include "names/groupwords.h"
+#include "names/namecharacters.h"
 #include "names/personwords.h"
 #include "names/pronouns.h"
 #include "text/chinesenumber.h"
@@ -213,9 +214,11 @@ bool Reading::hasStrayDigits() const
             return true;
         }
         const auto first = m_sentence.text().cbegin() + token.position;
-        return token.kind == Token::Kind::Other &&
-               std::any_of(first, first + token.length,
-                           [](QChar character) { return digitValue(character) >= 0; });
+        return token.kind == Token::Kind::Other && // but not 二姨
+               std::any_of(first, first + token.length, [&](const QChar &character) {
+                   const int next = static_cast<int>(&character - m_sentence.text().cbegin()) + 1;
+                   return digitValue(character) >= 0 && !isKin(charAt(m_sentence.text(), next));
+               });
     });
 }
 

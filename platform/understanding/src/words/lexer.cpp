@@ -180,6 +180,10 @@ private:
                      u"让我同"}) > 0) { // 让我的客户进会议
             return true;
         }
+        if (word.length == 2 && // 开学 in 开学术委员会会议
+            firstOf(m_text, m_at, {u"开学术", u"开学习", u"开学科", u"开发布", u"开发版"}) > 0) {
+            return true;
+        }
         if (word.length == 2 && firstOf(m_text, m_at, {u"约在"}) > 0) { // 约在上海的周扬, but not 约在三点
             const int of = m_text.indexOf(QChar(u'的'), last);
             constexpr int farthest = 8;

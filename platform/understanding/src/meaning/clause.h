@@ -71,6 +71,9 @@ private:
     bool isSomebody(const Token &token) const;
     /// 昨天和张三开会: nobody opens a conference on a past day.
     bool isPast() const;
+    /// 球队 in 球队那边有会不, 修车厂 in 修车厂今天三点开个会: the people among whom the speaker is, not
+    /// somebody else who meets.
+    bool isOwnGroup(std::size_t at) const;
     /// 昨天 in 加昨天认识的张伟为好友: the past day only tells who or what is meant.
     bool isModifying(std::size_t pastDay) const;
     /// 我下午三点有个会: there is one already; no new one is wanted.
@@ -98,15 +101,14 @@ private:
     bool isTitleBeforeVerb(std::size_t at) const;
     /// 车间 in 明天三点车间开会，叫上老魏: a group that meets, and somebody else is called.
     bool isGroupBeforeOpening(std::size_t at) const;
-    /// 球队 in 球队那边有会不, 修车厂 in 修车厂今天三点开个会: those whom the speaker belongs to.
-    bool isOwnGroup(std::size_t at) const;
     /// 小区 in 小区业主会给我建一个: whose conference it is, and nobody's name.
     bool isGroupTitle(std::size_t at) const;
     /// 项目 in 明天三点，李娜张伟，项目总结会.
     bool isOnlyTitle(std::size_t at) const;
     /// team in team meeting.
     bool isBeforeConference(std::size_t at) const;
-    /// 赵院长发来 in 赵院长发来的会议号.
+    /// 赵院长发来 in 赵院长发来的会议号, 跨年 in 跨年会议号202712310: whose number it is, or of which
+    /// conference.
     bool isOfNumber(std::size_t at) const;
     /// 兄弟 in 兄弟，开会 and 开会吧兄弟, 同志 in 王磊同志.
     bool isAddress(std::size_t at) const;

@@ -152,7 +152,9 @@ QString dottedName(const QString &text)
     for (int character = 0; text.at(character) != QChar(u'·'); ++character) {
         cut = leads.contains(text.at(character)) ? character + 1 : cut;
     }
-    QString name = withoutParticles(text.mid(cut));
+    const QString said = text.mid(cut);
+    const bool whole = said.endsWith(QStringLiteral("阿不都")) || said.endsWith(QStringLiteral("阿布都"));
+    QString name = whole ? said : withoutParticles(said);
     for (int length = name.indexOf(QChar(u'·')) - 2; length >= 2; --length) { // 人事部安娜·卡列尼娜
         if (isModifier(name.left(length))) {
             return name.mid(length);

@@ -80,7 +80,7 @@ bool takeNumber(const Reading &reading, Outcome &outcome)
     }
     // 前面三位是九六四
     static const QRegularExpression part(
-        QStringLiteral("[前后]面?[几一二两三四五六0-9]位|开头|打头|尾号|末尾"));
+        QStringLiteral("[前后]面?[几一二两三四五六0-9]位|开头|打头|尾号|末尾|不确定|不一定|说不准"));
     if (reading.conferenceNumber().isEmpty() || !holdsOnly(reading, isCode) ||
         reading.sentence().text().contains(part)) {
         return false;

@@ -115,6 +115,16 @@ bool Dialogue::Private::startsSomethingNew(const Outcome &fresh) const
     return fresh.isCommand() || fresh.intent != question.outcome.intent;
 }
 
+/// 好啊，再叫上小葛: a yes, and who else is to come. Whoever is spared or replaced makes it unclear.
+static bool invitesMore(const Reading &reading, const Outcome &fresh)
+{
+    constexpr WordClasses unclear =
+        WordClass::Negation | WordClass::GiveUp | WordClass::Repair | WordClass::Change | WordClass::Nobody;
+    const QString &text = reading.sentence().text();
+    return fresh.intent == QLatin1String(InviteConference) && fresh.isCommand() && beginsWithYes(reading) &&
+           !reading.hasAny(unclear) && !text.contains(QChar(u'只')) && !text.contains(QChar(u'换'));
+}
+
 /// Only a plain yes carries out what was in doubt.
 QString Dialogue::Private::answerConfirmation(const Reading &reading, const Outcome &fresh,
                                               const QDateTime &now)
@@ -133,12 +143,10 @@ QString Dialogue::Private::answerConfirmation(const Reading &reading, const Outc
     case YesNo::Unclear:
         break;
     }
-    const bool alsoInvites = fresh.intent == QLatin1String(InviteConference) && fresh.isCommand() &&
-                             question.outcome.intent == QLatin1String(CreateConference);
-    if (alsoInvites && beginsWithYes(reading)) {
+    if (question.outcome.intent == QLatin1String(CreateConference) && invitesMore(reading, fresh)) {
         Outcome together = question.outcome;
         together.answer.clear();
-        together.slotList += fresh.slotList;
+        together.addSlotsOf(fresh);
         return carryOut(together);
     }
     if (!fresh.intent.isEmpty()) {

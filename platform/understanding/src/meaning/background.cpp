@@ -226,16 +226,32 @@ std::vector<OrderStart> startsOfOrder(const Reading &reading)
 
 int endOfQuestion(const Reading &reading)
 {
-    constexpr WordClasses weighty = WordClass::Repair | WordClass::Conference | WordClass::Query |
-                                    WordClass::Question | WordClass::GiveUp | WordClass::Join |
-                                    WordClass::Close | WordClass::CloseAlone;
+    constexpr WordClasses weighty =
+        WordClass::Repair | WordClass::Conference | WordClass::Query | WordClass::Question |
+        WordClass::GiveUp | WordClass::Join | WordClass::Close | WordClass::CloseAlone | WordClass::Pull |
+        WordClass::Invite | WordClass::Add | WordClass::StrongOpen | WordClass::WeakOpen | WordClass::Video;
     const Tokens &tokens = reading.tokens();
     const auto end = std::find_if(tokens.cbegin(), tokens.cend(),
                                   [](const Token &token) { return token.is(WordClass::Punctuation); });
-    const bool trails = std::none_of(end, tokens.cend(), [&](const Token &token) {
-        return token.isAny(weighty) || token.kind == Token::Kind::Time;
-    });
+    const bool trails = reading.names().empty() && std::none_of(end, tokens.cend(), [&](const Token &token) {
+                            return token.isAny(weighty) || token.kind == Token::Kind::Time ||
+                                   reading.sentence().text().at(token.position) == QChar(u'帮');
+                        });
     return trails && end != tokens.cend() ? end->position : 0;
+}
+
+bool tellsWhatOthersWant(const QString &told)
+{
+    static const QStringList others = {
+        QStringLiteral("问我"),   QStringLiteral("问你"),   QStringLiteral("转告"),
+        QStringLiteral("告诉"),   QStringLiteral("回复"),   QStringLiteral("一句"),
+        QStringLiteral("发来"),   QStringLiteral("发给"),   QStringLiteral("说的"),
+        QStringLiteral("跟你说"), QStringLiteral("不知道"), QStringLiteral("犹豫"),
+        QStringLiteral("差点"),   QStringLiteral("不让"),   QStringLiteral("不肯"),
+        QStringLiteral("不准"),   QStringLiteral("不同意"), QStringLiteral("要不要"),
+        QStringLiteral("英语"),   QStringLiteral("怎么读")};
+    return std::any_of(others.cbegin(), others.cend(),
+                       [&](const QString &word) { return told.contains(word); });
 }
 
 bool dropsSomething(const Reading &whole, const Reading &rest, const QString &intent, int start)

@@ -26,6 +26,10 @@ std::vector<OrderStart> startsOfOrder(const Reading &reading);
 /// 下午有会吗，我要带狗去洗澡. 0 if there is no such place.
 int endOfQuestion(const Reading &reading);
 
+/// 他跟我说的, 昨天王磊问我, 帮我转告他, 他们不让: an order behind @p told may be somebody else's, or
+/// unwanted.
+bool tellsWhatOthersWant(const QString &told);
+
 /// True if the order for @p intent read from @p start on, as @p rest, lacks people, a time or digits that @p
 /// whole holds: 跟宋阳没聊完，接着开会.
 bool dropsSomething(const Reading &whole, const Reading &rest, const QString &intent, int start);

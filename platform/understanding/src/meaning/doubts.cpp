@@ -5,6 +5,7 @@
 
 #include "meaning/outcome.h"
 #include "meaning/reports.h"
+#include "meaning/vagueness.h"
 #include "names/headreader.h"
 #include "names/namelook.h"
 #include "text/scan.h"
@@ -217,60 +218,6 @@ bool asksAbility(const Reading &reading)
            reading.timeSaid().isEmpty() && !text.contains(QChar(u'帮')) && !text.contains(QChar(u'给'));
 }
 
-/// 这个会可以散了吧: asks whether one may.
-bool asksToLeave(const Reading &reading)
-{
-    const QString &text = reading.sentence().text();
-    return text.endsWith(QChar(u'吧')) &&
-           (text.contains(QStringLiteral("可以")) || text.contains(QStringLiteral("差不多")));
-}
-
-/// 有空跟张伟开个会: some day.
-bool comesSomeDay(const Reading &reading)
-{
-    const QString &text = reading.sentence().text();
-    return reading.timeSaid().isEmpty() && !reading.has(WordClass::Request) &&
-           firstOf(text, 0, {u"有空", u"得空", u"抽空", u"有时间", u"得闲"}) > 0;
-}
-
-/// 邀请邻居家的小龙，进咱们会议: somebody else is to come.
-bool alsoInvites(const Reading &reading)
-{
-    return reading.has(WordClass::Invite);
-}
-
-/// 加李娜好友，帮我约张伟开会: two things at once.
-bool alsoAddsFriend(const Reading &reading)
-{
-    return reading.has(WordClass::Add) && reading.has(WordClass::Buddy);
-}
-
-/// 和杜鹃的视频会议: a conference is named, and nothing is to be done with it.
-bool onlyNamesConference(const Reading &reading)
-{
-    const QString &text = reading.sentence().text();
-    return reading.openVerb().isEmpty() && reading.timeSaid().isEmpty() && !reading.has(WordClass::Request) &&
-           std::any_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
-               return token.is(WordClass::Conference) && charAt(text, token.position - 1) == QChar(u'的') &&
-                      token.end() == text.size();
-           });
-}
-
-/// A座会议室，帮忙预定: a room is no conference.
-bool onlyNamesRoom(const Reading &reading)
-{
-    const QString &text = reading.sentence().text();
-    bool room = false;
-    bool conference = reading.hasAny(WordClass::Video | WordClass::ComeMeet);
-    for (const Token &token : reading.tokens()) {
-        const bool inRoom =
-            charAt(text, token.end() - 1) == QChar(u'室') || charAt(text, token.end()) == QChar(u'室');
-        room = room || (token.is(WordClass::Conference) && inRoom);
-        conference = conference || (token.is(WordClass::Conference) && !inRoom);
-    }
-    return room && !conference;
-}
-
 /// 帮我把会议室退了: gives a room back.
 bool returnsRoom(const Reading &reading)
 {
@@ -294,14 +241,6 @@ bool opensOfKind(const Reading &reading)
 bool comesLater(const Reading &reading)
 {
     return reading.has(WordClass::UnclearSoon); // 等会儿再加入123456789
-}
-
-/// 明天三点安排个评审, 和张伟讨论方案, 约张伟明天三点: people may well meet in one room.
-bool namesNoConference(const Reading &reading)
-{
-    constexpr WordClasses meeting =
-        WordClass::Conference | WordClass::Video | WordClass::ComeMeet | WordClass::Schedule;
-    return !reading.hasAny(meeting);
 }
 
 bool tellsOnlyEnd(const Reading &reading)
@@ -333,6 +272,10 @@ constexpr struct
     {CreateConference, alsoAddsFriend},
     {CreateConference, comesSomeDay},
     {CloseConference, asksToLeave},
+    {CreateConference, isBusyThen},
+    {EnterConferenceById, passesOn},
+    {CloseConference, passesOn},
+    {CloseConference, alsoCalls},
     {InviteConference, sendsSomebody},
     {InviteConference, callsForNothing},
     {InviteConference, asksWho},

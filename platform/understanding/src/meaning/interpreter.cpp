@@ -71,6 +71,8 @@ void fillSaidTime(Outcome &outcome, const Reading &reading, const QDateTime &now
         const bool onlyHour =
             !reading.has(WordClass::Festival) && reading.namesOnlyOccasion(Reading::Occasions::Daily);
         outcome.answer = onlyHour ? QStringLiteral("which-time") : QStringLiteral("which-day");
+    } else if (reading.namesTwoDays() && outcome.intent == QLatin1String(CreateConference)) {
+        outcome.answer = QStringLiteral("which-day"); // 明天要出差，后天三点开个会
     } else if (!reading.timeSaid().isEmpty()) {
         fillTime(outcome, reading.time(), reading.timeSaid(), now);
     }
@@ -194,7 +196,8 @@ static bool isBetter(const Outcome &ordered, const Outcome &outcome, const Readi
                      const Reading &rest, const OrderStart &start)
 {
     const bool asks = ordered.intent == QLatin1String(QueryConference);
-    if (!ordered.isCommand() || (start.onlyQuery && !asks) ||
+    const QString told = whole.sentence().text().left(start.position);
+    if (!ordered.isCommand() || (start.onlyQuery && !asks) || (!asks && tellsWhatOthersWant(told)) ||
         dropsSomething(whole, rest, ordered.intent, start.position)) {
         return false;
     }

@@ -18,4 +18,16 @@ void Outcome::addSlot(const char *name, const QString &value, const QString &nor
     slotList.append({QLatin1String(name), value, normValue});
 }
 
+void Outcome::addSlotsOf(const Outcome &other)
+{
+    for (const Slot &slot : other.slotList) {
+        const bool known = std::any_of(slotList.cbegin(), slotList.cend(), [&](const Slot &one) {
+            return one.name == slot.name && one.normValue == slot.normValue;
+        });
+        if (!known) {
+            slotList.append(slot);
+        }
+    }
+}
+
 } // namespace understanding

@@ -37,7 +37,7 @@ bool namesAnotherDay(const TimeExpression &one, const TimeExpression &other)
         return one.dayOffset != other.dayOffset;
     case TimeExpression::Day::Weekday:
         return one.weekday != other.weekday ||
-               (one.weekNamed && other.weekNamed && one.weekOffset != other.weekOffset);
+               (one.weekNamed ? one.weekOffset : 0) != (other.weekNamed ? other.weekOffset : 0);
     default:
         return false;
     }

@@ -247,6 +247,10 @@ bool wonders(const Reading &reading)
 
 bool proposesOpening(const Reading &reading)
 {
+    if (reading.has(WordClass::GiveUp) ||
+        reading.sentence().text().contains(QChar(u'问'))) { // 老板问要不要开个会
+        return false;
+    }
     const Tokens &tokens = reading.tokens();
     for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
         const bool due = reading.sentence().text().contains(QChar(u'该')); // 是不是该开会了

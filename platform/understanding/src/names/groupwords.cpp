@@ -5,6 +5,7 @@
 
 #include "names/headreader.h"
 #include "names/namecharacters.h"
+#include "names/namelook.h"
 #include "names/tokenjoiner.h"
 #include "text/scan.h"
 
@@ -118,8 +119,10 @@ private:
             const bool group =
                 said.size() > 1 && (endsGroup(said.back()) || said.endsWith(QStringLiteral("委员会")) ||
                                     said.endsWith(QStringLiteral("家委会")));
+            // 帮王组开个会 and 帮张伟李娜组个会 mean people
+            const bool somebody = m_text.at(start - 1) != QChar(u'们') && isPersonsName(said.left(2));
             const bool members = last > m_at && m_tokens[at].is(WordClass::Title);
-            if (group || members) {
+            if ((group && !somebody) || members) {
                 last = at + 1;
             }
             if (last == at + 1 && next.isAny(opening) && !next.is(WordClass::Measure)) {

@@ -207,6 +207,13 @@ private:
         return m_names.size() > before ? end - 1 : lead;
     }
 
+    /// 他在宿舍 behind the names, but not 他老婆李娜.
+    bool startsRemark(std::size_t at) const
+    {
+        return m_tokens[at].is(WordClass::Actor) && m_tokens[at - 1].is(WordClass::Punctuation) &&
+               !(at + 1 < m_tokens.size() && m_tokens[at + 1].is(WordClass::Title));
+    }
+
     /// Takes names from @p at on; returns the first token behind them.
     std::size_t takeNames(std::size_t at, bool mustLookLikeName)
     {
@@ -230,8 +237,7 @@ private:
             at = behind;
             const Token &token = m_tokens[at];
             // 邀请张伟，王磊就算了; 拉上小胖，他在宿舍
-            if (afterComma && (isAbsent(m_text, m_tokens, at) ||
-                               (token.is(WordClass::Actor) && m_tokens[at - 1].is(WordClass::Punctuation)))) {
+            if (afterComma && (isAbsent(m_text, m_tokens, at) || startsRemark(at))) {
                 return at;
             }
             m_lost = m_lost || isLostBefore(m_tokens, at);

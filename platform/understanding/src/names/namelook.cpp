@@ -118,7 +118,8 @@ static bool isGivenName(const QString &text)
         "涵轩梓浩然宇欣怡婷雪琳娜娟芳燕霞英华兰玲秀丽凤桂珍梅艳敏静洁慧颖倩莉雯佳俊杰强伟军磊涛勇峰鹏"
         "辉斌亮志国建晓淑瑞凯晨阳旭睿博嘉思雨诗彤萱瑶琪璐薇蕾蓉菲妍媛茜翠莲蓓丹萍玉香子");
     const bool spelled = text.size() == 2 && given.contains(text.at(0)) && given.contains(text.at(1));
-    const bool doubled = text.size() == 2 && text.at(0) == text.at(1) && text.at(0).isLetter();
+    const bool doubled =
+        text.size() == 2 && text.at(0) == text.at(1) && text.at(0).isLetter() && text.at(0) != QChar(u'某');
     return (spelled || doubled) && !isThing(text);
 }
 

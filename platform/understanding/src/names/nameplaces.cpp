@@ -282,7 +282,8 @@ int NamePlaces::comerLength(std::size_t at) const
         const int must =
             all + firstOf(m_text, next + all,
                           {u"必须", u"务必", u"一定得", u"一定要", u"一定", u"得", u"要", u"需要"});
-        const int comes = firstOf(m_text, next + must, {u"来", u"到场", u"到", u"参加", u"出席", u"在"});
+        const int comes =
+            firstOf(m_text, next + must, {u"来", u"到场", u"到", u"参加", u"出席", u"在", u"一起", u"一块"});
         const int alone =
             firstOf(m_text, next, {u"一个人就", u"一个就", u"一人就", u"一个都不能少", u"算一个"});
         next += must + comes;

@@ -113,7 +113,8 @@ bool isUnknownPurpose(const QString &text, const Tokens &tokens, std::size_t at)
 void settleOccasions(const QString &text, Tokens &tokens)
 {
     constexpr WordClasses deeds = WordClass::Conference | WordClass::Join | WordClass::Close |
-                                  WordClass::Arrive | WordClass::Punctuation;
+                                  WordClass::Arrive | WordClass::Punctuation | WordClass::Trigger |
+                                  WordClass::Pull;
     std::size_t begin = tokens.size(); // behind the hour
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         if (tokens[at].time.hasClock) {

@@ -98,7 +98,7 @@ bool takePassword(const Reading &reading, Outcome &outcome)
 {
     // Said with its label or alone.
     const Said &said = reading.password().isEmpty() ? reading.account() : reading.password();
-    const bool other = !reading.conferenceNumber().isEmpty() && !reading.password().isEmpty() &&
+    const bool other = !reading.conferenceNumber().isEmpty() &&
                        reading.hasAny(WordClass::Join | WordClass::WeakJoin); // 加入会议 390174862 密码 1357
     if (other || said.isEmpty() || !holdsOnly(reading, isCode)) {
         return false;

@@ -20,17 +20,17 @@ struct Range
     std::size_t end;
 };
 
-class Background final
+class OrderStartFinder final
 {
 public:
-    explicit Background(const Reading &reading)
+    explicit OrderStartFinder(const Reading &reading)
         : m_text(reading.sentence().text())
         , m_tokens(reading.tokens())
     {
     }
 
     /// Where the order may begin, the likeliest place first.
-    std::vector<OrderStart> starts() const
+    std::vector<OrderStart> find() const
     {
         std::vector<OrderStart> found;
         int behindTold = 0; // the last clause behind one that is told
@@ -221,7 +221,7 @@ private:
 
 std::vector<OrderStart> startsOfOrder(const Reading &reading)
 {
-    return isConditional(reading) ? std::vector<OrderStart>() : Background(reading).starts();
+    return isConditional(reading) ? std::vector<OrderStart>() : OrderStartFinder(reading).find();
 }
 
 int endOfQuestion(const Reading &reading)

@@ -13,8 +13,8 @@ namespace understanding {
 struct OrderStart
 {
     int position;
-    bool onlyToldBefore; ///< every clause before tells something, and orders nothing
-    bool onlyQuery; ///< fits a question about one's conferences only: 孩子要打疫苗，我后天有什么会
+    bool onlyToldBefore; ///< all earlier clauses are background
+    bool queryOnly;      ///< valid only for a query: 孩子要打疫苗，我后天有什么会
 };
 
 /// Where the order may begin behind clauses that only tell how it came about: 重新 in
@@ -30,8 +30,8 @@ int endOfQuestion(const Reading &reading);
 /// unwanted.
 bool tellsWhatOthersWant(const QString &told);
 
-/// True if the order for @p intent read from @p start on, as @p rest, lacks people, a time or digits that @p
-/// whole holds: 跟宋阳没聊完，接着开会.
+/// True if the order for @p intent read from @p start on, as @p rest, lacks all people, the time or the
+/// digits that @p whole holds: 跟宋阳没聊完，接着开会.
 bool dropsSomething(const Reading &whole, const Reading &rest, const QString &intent, int start);
 
 } // namespace understanding

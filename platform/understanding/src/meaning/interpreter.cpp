@@ -197,7 +197,7 @@ static bool isBetter(const Outcome &ordered, const Outcome &outcome, const Readi
 {
     const bool asks = ordered.intent == QLatin1String(QueryConference);
     const QString told = whole.sentence().text().left(start.position);
-    if (!ordered.isCommand() || (start.onlyQuery && !asks) || (!asks && tellsWhatOthersWant(told)) ||
+    if (!ordered.isCommand() || (start.queryOnly && !asks) || (!asks && tellsWhatOthersWant(told)) ||
         dropsSomething(whole, rest, ordered.intent, start.position)) {
         return false;
     }
@@ -219,12 +219,14 @@ Interpretation interpret(const QString &sentence, const QDateTime &now, const Co
     }
     Reading whole(sentence, contacts);
     Outcome outcome = interpret(whole, now);
-    const bool clear = outcome.isCommand() && whole.names().size() < 2 && !whole.namesTwoDays();
-    for (const OrderStart &start : clear ? std::vector<OrderStart>() : startsOfOrder(whole)) {
-        Reading rest(sentence.mid(start.position), contacts);
-        Outcome ordered = interpret(rest, now);
-        if (isBetter(ordered, outcome, whole, rest, start)) {
-            return {std::move(whole), std::move(rest), std::move(ordered)};
+    const bool unambiguous = outcome.isCommand() && whole.names().size() < 2 && !whole.namesTwoDays();
+    if (!unambiguous) {
+        for (const OrderStart &start : startsOfOrder(whole)) {
+            Reading rest(sentence.mid(start.position), contacts);
+            Outcome ordered = interpret(rest, now);
+            if (isBetter(ordered, outcome, whole, rest, start)) {
+                return {std::move(whole), std::move(rest), std::move(ordered)};
+            }
         }
     }
     const int question = outcome.isCommand() ? 0 : endOfQuestion(whole);

@@ -64,6 +64,7 @@ Reading::Reading(const QString &sentence, const ContactIndex &contacts) : m_sent
     m_introduction = resolvePronouns(m_sentence.raw(), m_sentence.text(), m_tokens, m_names);
     markNames();
     collectClasses();
+    dropTalkBesideConference();
     collectTimes();
     collectNumbers();
     collectOpenVerb();
@@ -135,8 +136,13 @@ void Reading::collectClasses()
             m_classes.add(token.classes);
         }
     }
+}
+
+/// 讨论 in 手术前讨论，下午一点半开会 only tells what the conference is about.
+void Reading::dropTalkBesideConference()
+{
     if (m_classes.intersects(WordClass::Conference | WordClass::Video)) {
-        for (Token &token : m_tokens) { // 手术前讨论，下午一点半开会: only what it is about
+        for (Token &token : m_tokens) {
             token.classes.remove(WordClass::Talk);
         }
         m_classes.remove(WordClass::Talk);
@@ -213,12 +219,13 @@ bool Reading::hasStrayDigits() const
         if (token.kind == Token::Kind::Number) {
             return true;
         }
-        const auto first = m_sentence.text().cbegin() + token.position;
-        return token.kind == Token::Kind::Other && // but not 二姨
-               std::any_of(first, first + token.length, [&](const QChar &character) {
-                   const int next = static_cast<int>(&character - m_sentence.text().cbegin()) + 1;
-                   return digitValue(character) >= 0 && !isKin(charAt(m_sentence.text(), next));
-               });
+        for (int at = token.position; token.kind == Token::Kind::Other && at < token.end(); ++at) {
+            if (digitValue(m_sentence.text().at(at)) >= 0 &&
+                !isKin(charAt(m_sentence.text(), at + 1))) { // 二姨
+                return true;
+            }
+        }
+        return false;
     });
 }
 

@@ -82,6 +82,7 @@ private:
     Said digitsOf(const Token &token) const;
     void markNames();
     void collectClasses();
+    void dropTalkBesideConference();
     bool isEnd(const Token &token) const;
     void collectTimes();
     void collectSpan();

@@ -241,7 +241,8 @@ bool wonders(const Reading &reading)
     const Tokens &tokens = reading.tokens();
     return std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
         return !token.inName && firstOf(reading.sentence().text(), token.position,
-                                        {u"是不是", u"要不要", u"该不该", u"需不需要", u"用不用"}) > 0;
+                                        {u"是不是", u"要不要", u"该不该", u"需不需要", u"用不用", u"我能不能",
+                                         u"我可不可以", u"我能先", u"我可以先"}) > 0;
     });
 }
 

@@ -24,7 +24,7 @@ namespace understanding {
 /// 如果明天下雨，帮我开会: what depends on something is not wanted now.
 [[nodiscard]] bool isConditional(const Reading &reading);
 
-/// 明天有会吗，要是没有我就去钓鱼: what depends on the answer does not make the question doubtful.
+/// 明天有会吗，要是没有我就去钓鱼: true if a question stands in a clause before the condition.
 [[nodiscard]] bool asksBeforeCondition(const Reading &reading);
 
 /// True for 如果, 只要 and their like.
@@ -35,7 +35,7 @@ namespace understanding {
 [[nodiscard]] bool introducesQuote(const QString &text, const Tokens &tokens, std::size_t begin,
                                    std::size_t end);
 
-/// 要不要退会, 是不是该开个会了: asks the assistant, or oneself.
+/// 要不要退会, 是不是该开个会了: asks whether to do it.
 [[nodiscard]] bool wonders(const Reading &reading);
 
 /// 是不是该开个会了, unlike 明天是不是要开会, which asks what there is.

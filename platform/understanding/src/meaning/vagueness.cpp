@@ -18,7 +18,7 @@ bool namesNoConference(const Reading &reading)
     return !reading.hasAny(meeting);
 }
 
-bool asksToLeave(const Reading &reading)
+bool asksWhetherMay(const Reading &reading)
 {
     const QString &text = reading.sentence().text();
     return text.endsWith(QChar(u'吧')) &&

@@ -12,8 +12,8 @@ namespace understanding {
 /// 明天三点安排个评审, 和张伟讨论方案, 约张伟明天三点: people may well meet in one room.
 [[nodiscard]] bool namesNoConference(const Reading &reading);
 
-/// 这个会可以散了吧: asks whether one may.
-[[nodiscard]] bool asksToLeave(const Reading &reading);
+/// 这个会可以散了吧, 可以开会了吧: asks whether one may.
+[[nodiscard]] bool asksWhetherMay(const Reading &reading);
 
 /// 有空跟张伟开个会: some day.
 [[nodiscard]] bool comesSomeDay(const Reading &reading);

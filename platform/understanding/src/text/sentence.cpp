@@ -45,22 +45,24 @@ bool isChineseWord(QChar character)
     return character.unicode() >= firstIdeograph && character.isLetter() && !digits.contains(character);
 }
 
-/// True for a space that separates as a comma does, 我得撤了 退出会议, but not 八八零 一零零, and neither
-/// 邀请 萧峰 nor 负责人 马腾, where it only stands before a name.
+/// True for a space that separates as a comma does, 我得撤了 退出会议, but not in 八八零 一零零 or before a
+/// name (邀请 萧峰, 负责人 马腾).
 bool separates(const QString &text, int space)
 {
+    if (text.at(space) != QLatin1Char(' ')) {
+        return false;
+    }
     static const QString introducing =
         QStringLiteral("请叫约和跟与同及让把将拉喊带上加给找人理师长管员任总号码为");
-    static const QString starting = QStringLiteral("咱大一开");           // 都叫上 咱们开会
+    static const QString starting = QStringLiteral("咱大开");             // 都叫上 咱们开会
     static const QString ending = QStringLiteral("了过呢啊吧吗嘛哈呀啦"); // 还没过 1月4号开会
-    static const QString pleading = QStringLiteral("帮请麻劳快");
+    static const QString pleading = QStringLiteral("帮请麻劳快"); // 会议号是 802461357 帮我加入
     const QChar before = text.at(space - 1);
     const QChar behind = text.at(space + 1);
-    if (text.at(space) == QLatin1Char(' ') && before.isDigit() && pleading.contains(behind)) {
-        return true; // 会议号是 802461357 帮我加入
+    if (before.isDigit()) {
+        return pleading.contains(behind);
     }
-    return text.at(space) == QLatin1Char(' ') && isChineseWord(before) &&
-           (!introducing.contains(before) || starting.contains(behind)) &&
+    return isChineseWord(before) && (!introducing.contains(before) || starting.contains(behind)) &&
            (isChineseWord(behind) || (ending.contains(before) && behind.isLetterOrNumber()));
 }
 

@@ -8,8 +8,8 @@
 namespace understanding {
 
 /// A sentence in the spelling of the rules: full-width letters, digits and signs become ASCII, traditional
-/// characters simplified ones; case is kept. Maps character by character, so that positions in text() and
-/// raw() agree and every slot can carry what was really typed.
+/// characters simplified ones, a space between two clauses a comma; case is kept. Maps character by
+/// character, so that positions in text() and raw() agree and every slot can carry what was really typed.
 class Sentence final
 {
 public:

@@ -3,6 +3,7 @@
 
 #include "words/lexer.h"
 
+#include "names/namecharacters.h"
 #include "names/namelook.h"
 #include "text/chinesenumber.h"
 #include "text/scan.h"
@@ -173,12 +174,11 @@ private:
                      u"好友", u"意见", u"年度", u"别忘", u"女士", u"会计"}) > 0) {
             return true;
         }
-        if (word.length == 2 &&
-            firstOf(m_text, m_at,
-                    {u"让我的", u"让我老公", u"让我老婆", u"让我媳妇", u"让我妈", u"让我爸", u"让我哥",
-                     u"让我姐", u"让我弟", u"让我妹", u"让我儿", u"让我女", u"让我闺女", u"让我家",
-                     u"让我同"}) > 0) { // 让我的客户进会议
-            return true;
+        if (word.length == 2 && firstOf(m_text, m_at, {u"让我"}) > 0 &&
+            (isKin(charAt(m_text, m_at + 2)) || firstOf(m_text, m_at + 2,
+                                                        {u"的", u"老公", u"老婆", u"媳妇", u"儿", u"女",
+                                                         u"闺女", u"家", u"同事", u"同学"}) > 0)) {
+            return true; // 让我的客户进会议, 让我老公进会
         }
         if (word.length == 2 && // 开学 in 开学术委员会会议
             firstOf(m_text, m_at, {u"开学术", u"开学习", u"开学科", u"开发布", u"开发版"}) > 0) {

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# contact_add_test(NAME SOURCES... LIBRARIES... [NO_TEST] [OWN_LANGUAGE] [SCRIPTED_ABILITY])
+# contact_add_test(NAME SOURCES... LIBRARIES... [NO_TEST] [OWN_LANGUAGE] [SCRIPTED_ABILITY] [SERIAL])
 #   Adds a QtTest program. The desk's window and the contacts application speak Chinese in it, unless
 #   OWN_LANGUAGE is given. With NO_TEST it is only built; add its runs with contact_add_test_run().
 # contact_add_test_run(NAME TARGET t [AT "2026-03-07 10:20:00"] [TZ zone] [ENVIRONMENT var=value...] [COMMAND cmd...]
@@ -9,7 +9,7 @@
 #   Adds a run of the program, or of COMMAND. AT starts the clock at that local time. BUS provides a private
 #   session bus, which can start only the contacts application, with a private home and XDG folders; EMPTY_BUS
 #   is the same without the application. SERIAL keeps apart runs that would see each other in the process
-#   table. SCRIPTED_ABILITY replaces the ability library with one that the test controls
+#   table or distort what they measure. SCRIPTED_ABILITY replaces the ability library with one that the test controls
 #   (tests/support/scriptedability.h).
 
 find_package(Qt5 REQUIRED COMPONENTS Test)
@@ -36,7 +36,7 @@ set(CONTACT_TEST_ENVIRONMENT
     TSAN_OPTIONS=ignore_noninstrumented_modules=1)
 
 function(contact_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "NO_TEST;OWN_LANGUAGE;SCRIPTED_ABILITY" "" "SOURCES;LIBRARIES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "NO_TEST;OWN_LANGUAGE;SCRIPTED_ABILITY;SERIAL" "" "SOURCES;LIBRARIES")
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE Qt5::Test ${arg_LIBRARIES})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests/support)
@@ -47,10 +47,13 @@ function(contact_add_test name)
         target_sources(${name} PRIVATE $<TARGET_OBJECTS:chinese-contacts>)
     endif()
     if(NOT arg_NO_TEST)
-        if(arg_SCRIPTED_ABILITY)
-            set(ability SCRIPTED_ABILITY)
-        endif()
-        contact_add_test_run(${name} TARGET ${name} ${ability})
+        set(options)
+        foreach(option SCRIPTED_ABILITY SERIAL)
+            if(arg_${option})
+                list(APPEND options ${option})
+            endif()
+        endforeach()
+        contact_add_test_run(${name} TARGET ${name} ${options})
     endif()
 endfunction()
 

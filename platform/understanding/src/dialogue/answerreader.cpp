@@ -4,6 +4,7 @@
 #include "dialogue/answerreader.h"
 
 #include "meaning/interpreter.h"
+#include "names/namelook.h"
 #include "text/chinesenumber.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
@@ -140,7 +141,13 @@ bool takeAccount(const Reading &reading, Outcome &outcome)
     const auto describes = [&](const FoundName &name) { // 戴眼镜的
         return charAt(reading.sentence().text(), name.position + name.said.size()) == QChar(u'的');
     };
-    if (names.empty() || isNobody(names.front()) || describes(names.front()) ||
+    const auto isKnown = [&](const FoundName &name) { // but not 的号 in 是我妹妹的号
+        return isPersonsName(name.name) || name.name.at(0).unicode() < 0x250 ||
+               std::any_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+                   return token.kind == Token::Kind::Name && token.position == name.position;
+               });
+    };
+    if (names.empty() || !isKnown(names.front()) || isNobody(names.front()) || describes(names.front()) ||
         reading.hasAny(inviting)) { // 先帮我邀请马克进会
         return false;
     }
@@ -186,6 +193,14 @@ TimeExpression usableRest(const QString &question, const TimeExpression &before)
     return rest;
 }
 
+void removeNames(Outcome &outcome)
+{
+    outcome.slotList.erase(
+        std::remove_if(outcome.slotList.begin(), outcome.slotList.end(),
+                       [](const Slot &slot) { return slot.name == QLatin1String(NameSlot); }),
+        outcome.slotList.end());
+}
+
 } // namespace
 
 bool isGiveUp(const Reading &reading)
@@ -218,6 +233,38 @@ bool beginsWithGiveUp(const Reading &reading)
     return givesUp;
 }
 
+bool endsWithGiveUp(const Reading &reading)
+{
+    constexpr WordClasses harmless = WordClass::GiveUp | WordClass::Filler | WordClass::Address;
+    const Tokens &tokens = reading.tokens();
+    bool givesUp = false;
+    for (auto token = tokens.crbegin(); token != tokens.crend() && !token->is(WordClass::Punctuation);
+         ++token) {
+        if (!token->isAny(harmless)) {
+            return false;
+        }
+        givesUp = givesUp || token->is(WordClass::GiveUp);
+    }
+    return givesUp;
+}
+
+bool replaceNames(const Reading &reading, Outcome &outcome)
+{
+    if (outcome.intent != QLatin1String(CreateConference) || !reading.has(WordClass::Repair) ||
+        !reading.timeSaid().isEmpty()) {
+        return false;
+    }
+    const std::vector<FoundName> names = answeredNames(reading);
+    if (names.empty()) {
+        return false;
+    }
+    removeNames(outcome);
+    for (const FoundName &name : names) {
+        outcome.addSlot(NameSlot, name.said, name.name);
+    }
+    return true;
+}
+
 /// Takes names given with the time that was asked for: adds them, or replaces earlier ones (改成跟老顾).
 /// Returns false if they do not fit.
 static bool takeFurtherNames(const Reading &reading, Outcome &outcome)
@@ -231,10 +278,7 @@ static bool takeFurtherNames(const Reading &reading, Outcome &outcome)
         return false;
     }
     if (reading.hasAny(WordClass::Repair | WordClass::Change)) {
-        outcome.slotList.erase(
-            std::remove_if(outcome.slotList.begin(), outcome.slotList.end(),
-                           [](const Slot &slot) { return slot.name == QLatin1String(NameSlot); }),
-            outcome.slotList.end());
+        removeNames(outcome);
     }
     for (const FoundName &name : reading.names()) {
         const bool known =

@@ -175,6 +175,9 @@ QString Dialogue::Private::answerQuestion(const Reading &reading, const Outcome 
                         (!otherCommand && asked != PasswordQuestion &&
                          takeAnsweringClause(asked, reading, now, question.time, contacts, answered)));
     if (!taken) {
+        if (replaceNames(reading, question.outcome)) {
+            return askAgain();
+        }
         if (startsSomethingNew(fresh)) {
             return reply(fresh, reading.time());
         }
@@ -226,7 +229,8 @@ QString Dialogue::turn(const QString &sentence, const QDateTime &now)
         return m_d->reply(fresh, interpreted.reading().time());
     }
     const bool toConfirm = m_d->question.outcome.answer.startsWith(QLatin1String("confirm-"));
-    const bool givesUp = isGiveUp(reading) || (beginsWithGiveUp(reading) && fresh.intent.isEmpty());
+    const bool givesUp = isGiveUp(reading) ||
+                         ((beginsWithGiveUp(reading) || endsWithGiveUp(reading)) && fresh.intent.isEmpty());
     if (givesUp && !(toConfirm && readYesNo(reading.sentence()) == YesNo::Yes)) {
         return m_d->close("cancelled");
     }

@@ -39,8 +39,8 @@ public:
 
     std::vector<FoundName> runFromStart()
     {
-        constexpr WordClasses leading =
-            WordClass::Filler | WordClass::LabelLink | WordClass::Punctuation | WordClass::Request;
+        constexpr WordClasses leading = WordClass::Filler | WordClass::LabelLink | WordClass::Punctuation |
+                                        WordClass::Request | WordClass::Repair;
         std::size_t at = 0;
         while (at < m_tokens.size() && m_tokens[at].isAny(leading)) { // 嗯，张伟 and 那就张伟吧
             ++at;

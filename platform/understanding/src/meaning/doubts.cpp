@@ -5,7 +5,7 @@
 
 #include "meaning/outcome.h"
 #include "meaning/reports.h"
-#include "meaning/vagueness.h"
+#include "meaning/suspicions.h"
 #include "names/headreader.h"
 #include "names/namelook.h"
 #include "text/scan.h"

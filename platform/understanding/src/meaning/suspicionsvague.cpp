@@ -1,13 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "meaning/vagueness.h"
+#include "meaning/suspicions.h"
 
 #include "text/scan.h"
 
 #include <QStringList>
 
 #include <algorithm>
+
+// The part of suspicions.h about what is left open.
 
 namespace understanding {
 

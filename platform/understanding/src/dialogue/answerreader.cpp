@@ -219,6 +219,11 @@ bool beginsWithGiveUp(const Reading &reading)
     constexpr WordClasses harmless = WordClass::GiveUp | WordClass::Filler | WordClass::Address;
     bool givesUp = false;
     for (const Token &token : reading.tokens()) {
+        const bool remark = givesUp && token.is(WordClass::Actor); // 算了他在上课
+        if (remark && reading.names().empty() && reading.timeSaid().isEmpty() &&
+            reading.account().isEmpty()) {
+            return true;
+        }
         if (token.is(WordClass::Punctuation)) {
             if (givesUp) {
                 break;

@@ -139,9 +139,10 @@ private:
                                 m_tokens.back().isAny(WordClass::Trigger | WordClass::Separator) &&
                                 m_text.at(m_tokens.back().position).isLetter();
             const bool titled = title.length >= shortestTitle && title.classes.has(WordClass::Title);
-            const bool familiar = !m_tokens.empty() &&
-                                  m_tokens.back().kind == Token::Kind::Other && // 采购的老莫
-                                  isNamePrefix(m_text.at(m_at - 1));
+            const bool familiar =
+                !m_tokens.empty() && // 采购的老莫, 主任莫凡
+                (m_tokens.back().is(WordClass::Title) ||
+                 (m_tokens.back().kind == Token::Kind::Other && isNamePrefix(m_text.at(m_at - 1))));
             word = called || titled || familiar ? WordMatch() : word;
         }
         if (word.length == 0 || isOffice(word)) {

@@ -9,6 +9,8 @@
 #include <QTabWidget>
 #include <QtTest>
 
+#include <utility>
+
 void LargeWindowTest::initTestCase()
 {
     m_world = std::make_unique<SampleWorld>();
@@ -18,6 +20,7 @@ void LargeWindowTest::initTestCase()
     m_window = std::make_unique<ContactsWindow>(m_world->book, m_world->admin);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    slowness();
 }
 
 void LargeWindowTest::cleanupTestCase()
@@ -73,4 +76,13 @@ void LargeWindowTest::fill()
         return true;
     }));
     QCOMPARE(book.people().contacts(QStringLiteral("u100001")).size(), Count + 23);
+}
+
+double LargeWindowTest::slowness()
+{
+    constexpr double quietMsecs = 150 * Slower; // for reading all people
+    const double before = threadMsecs();
+    const int count = m_world->book.people().contacts(QStringLiteral("u100001")).size();
+    const double now = count < Count ? 1 : qMax(1., (threadMsecs() - before) / quietMsecs);
+    return qMax(now, std::exchange(m_lastSlowness, now));
 }

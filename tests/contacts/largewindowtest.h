@@ -32,8 +32,11 @@ protected:
 #else
     static constexpr double Slower = 1;
 #endif
-    /// One frame at 60 frames per second.
-    static constexpr double MostShownMsecs = 16 * Slower;
+    /// How much slower the machine is than one that does nothing else, at least 1: the larger of what this
+    /// call and the one before measured. On a shared machine, other work slows down even processor time.
+    double slowness();
+    /// One frame at 60 frames per second, on a machine that does nothing else.
+    double mostShownMsecs() { return 16 * Slower * slowness(); }
 
     TablePage *page(int index) const;
     /// Measures the window's update after a change, including painting. Negative if there is no update.
@@ -44,4 +47,6 @@ protected:
 
 private:
     void fill();
+
+    double m_lastSlowness = 1;
 };

@@ -243,15 +243,14 @@ int endOfQuestion(const Reading &reading)
 bool tellsWhatOthersWant(const QString &told)
 {
     static const QStringList others = {
-        QStringLiteral("问我"),   QStringLiteral("问你"),   QStringLiteral("转告"),
-        QStringLiteral("告诉"),   QStringLiteral("回复"),   QStringLiteral("一句"),
-        QStringLiteral("发来"),   QStringLiteral("发给"),   QStringLiteral("说的"),
-        QStringLiteral("跟你说"), QStringLiteral("不知道"), QStringLiteral("犹豫"),
-        QStringLiteral("差点"),   QStringLiteral("不让"),   QStringLiteral("不肯"),
-        QStringLiteral("不准"),   QStringLiteral("不同意"), QStringLiteral("要不要"),
-        QStringLiteral("英语"),   QStringLiteral("怎么读")};
-    return std::any_of(others.cbegin(), others.cend(),
-                       [&](const QString &word) { return told.contains(word); });
+        QStringLiteral("问我"),   QStringLiteral("问你"),   QStringLiteral("一句"),
+        QStringLiteral("发来"),   QStringLiteral("说的"),   QStringLiteral("跟你说"),
+        QStringLiteral("不知道"), QStringLiteral("犹豫"),   QStringLiteral("差点"),
+        QStringLiteral("不让"),   QStringLiteral("不肯"),   QStringLiteral("不准"),
+        QStringLiteral("不同意"), QStringLiteral("要不要"), QStringLiteral("英语"),
+        QStringLiteral("怎么读")};
+    return passesOn(told) || std::any_of(others.cbegin(), others.cend(),
+                                         [&](const QString &word) { return told.contains(word); });
 }
 
 bool dropsSomething(const Reading &whole, const Reading &rest, const QString &intent, int start)

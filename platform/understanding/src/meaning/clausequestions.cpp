@@ -16,8 +16,8 @@ namespace understanding {
 
 namespace {
 
-constexpr WordClasses AskingWords = WordClass::Query | WordClass::Question | WordClass::QuestionParticle |
-                                    WordClass::AskedTime | WordClass::Schedule | WordClass::Next;
+constexpr WordClasses ListingWords =
+    AskingWords | WordClass::AskedTime | WordClass::Schedule | WordClass::Next;
 
 } // namespace
 
@@ -40,14 +40,14 @@ bool Clause::isOtherQuestion() const
     const bool proposed = !m_reading.openVerb().isEmpty() &&
                           !m_reading.hasAny(WordClass::Query | WordClass::AskedTime) &&
                           (!m_reading.names().empty() || m_reading.timeCount() == 0);
-    constexpr WordClasses asking = WordClass::Query | WordClass::Question | WordClass::QuestionParticle;
-    const bool reported = !m_reading.hasAny(asking) && any([&](std::size_t at) { // 昨天的会没开完, not 没会
-        const bool none = at + 1 < m_end && m_tokens[at + 1].is(WordClass::Conference) &&
-                          m_end == m_tokens.size(); // 没会，可以睡懒觉
-        return m_tokens[at].is(WordClass::Reported) && !none;
-    });
+    const bool reported =
+        !m_reading.hasAny(AskingWords) && any([&](std::size_t at) { // 昨天的会没开完, not 没会
+            const bool none = at + 1 < m_end && m_tokens[at + 1].is(WordClass::Conference) &&
+                              m_end == m_tokens.size(); // 没会，可以睡懒觉
+            return m_tokens[at].is(WordClass::Reported) && !none;
+        });
     return uncalled || others || settled || proposed || reported || asksAboutConference() ||
-           (has(WordClass::Have) && !m_reading.hasAny(AskingWords) && !m_reading.isAsked());
+           (has(WordClass::Have) && !m_reading.hasAny(ListingWords) && !m_reading.isAsked());
 }
 
 bool Clause::asksAboutConference() const
@@ -170,7 +170,7 @@ bool Clause::isFinished() const
     if (judged) {
         return true;
     }
-    if (m_isQuery && has(AskingWords)) { // 我查过会议了
+    if (m_isQuery && has(ListingWords)) { // 我查过会议了
         return any([&](std::size_t at) {
             const Token &token = m_tokens[at];
             static const QString looked = QStringLiteral("了过");

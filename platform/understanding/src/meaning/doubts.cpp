@@ -243,6 +243,11 @@ bool comesLater(const Reading &reading)
     return reading.has(WordClass::UnclearSoon); // 等会儿再加入123456789
 }
 
+bool isPassedOn(const Reading &reading)
+{
+    return passesOn(reading.sentence().text());
+}
+
 bool tellsOnlyEnd(const Reading &reading)
 {
     return reading.tellsOnlyEnd();
@@ -274,8 +279,8 @@ constexpr struct
     {CloseConference, asksWhetherMay},
     {CreateConference, asksWhetherMay},
     {CreateConference, isBusyThen},
-    {EnterConferenceById, passesOn},
-    {CloseConference, passesOn},
+    {EnterConferenceById, isPassedOn},
+    {CloseConference, isPassedOn},
     {CloseConference, alsoCalls},
     {InviteConference, sendsSomebody},
     {InviteConference, callsForNothing},

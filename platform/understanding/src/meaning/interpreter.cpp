@@ -233,9 +233,8 @@ Interpretation interpret(const QString &sentence, const QDateTime &now, const Co
     if (question > 0) {
         Reading asked(sentence.left(question), contacts);
         Outcome answered = interpret(asked, now);
-        constexpr WordClasses asking = WordClass::Query | WordClass::Question | WordClass::QuestionParticle;
         if (answered.isCommand() && answered.intent == QLatin1String(QueryConference) &&
-            asked.hasAny(asking)) {
+            asked.hasAny(AskingWords)) {
             return {std::move(whole), std::move(asked), std::move(answered)};
         }
     }

@@ -149,7 +149,6 @@ static bool isTimedLater(const Tokens &tokens, std::size_t at)
 
 bool asksBeforeCondition(const Reading &reading)
 {
-    constexpr WordClasses asking = WordClass::Query | WordClass::Question | WordClass::QuestionParticle;
     bool asks = false;
     bool asked = false; // in an earlier clause
     for (const Token &token : reading.tokens()) {
@@ -158,7 +157,7 @@ bool asksBeforeCondition(const Reading &reading)
             return asked;
         }
         asked = asked || (asks && token.is(WordClass::Punctuation));
-        asks = asks || token.isAny(asking);
+        asks = asks || token.isAny(AskingWords);
     }
     return false;
 }

@@ -65,7 +65,7 @@ namespace understanding {
 [[nodiscard]] bool isBusyThen(const Reading &reading);
 
 /// 帮我回复他，加入123456; 告诉张伟，退出会议: somebody else is to read it.
-[[nodiscard]] bool passesOn(const Reading &reading);
+[[nodiscard]] bool passesOn(const QString &text);
 
 /// 这个会就到这儿，叫上张伟: to leave, and to call somebody?
 [[nodiscard]] bool alsoCalls(const Reading &reading);

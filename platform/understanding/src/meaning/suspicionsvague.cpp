@@ -89,9 +89,8 @@ bool isBusyThen(const Reading &reading)
     return found && reading.timeCount() == 1;
 }
 
-bool passesOn(const Reading &reading)
+bool passesOn(const QString &text)
 {
-    const QString &text = reading.sentence().text();
     return text.contains(QStringLiteral("转告")) || text.contains(QStringLiteral("回复")) ||
            text.contains(QStringLiteral("发给")) ||
            (text.contains(QStringLiteral("告诉")) && !text.contains(QStringLiteral("告诉我")));

@@ -125,4 +125,7 @@ constexpr WordClasses operator|(WordClass a, WordClass b)
     return WordClasses(a) | WordClasses(b);
 }
 
+/// Words that ask what there is: 查一下, 什么, 吗.
+constexpr WordClasses AskingWords = WordClass::Query | WordClass::Question | WordClass::QuestionParticle;
+
 } // namespace understanding

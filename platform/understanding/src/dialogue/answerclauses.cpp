@@ -7,6 +7,7 @@
 #include "meaning/intentrules.h"
 #include "meaning/suspicions.h"
 
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -111,6 +112,17 @@ bool isChosen(const QString &clause)
            clause.startsWith(QChar(u'那'));
 }
 
+/// 乐乐不来, who is among those to be invited: asking again is better than inviting her.
+bool saysWhoStaysAway(const QString &clause, const Outcome &outcome)
+{
+    static const QRegularExpression away(
+        QStringLiteral("(不|没法|不能|没空)(来|去|参加|到|进)|(来|去|参加|赶)不(了|成|上)"));
+    return away.match(clause).hasMatch() &&
+           std::any_of(outcome.slotList.cbegin(), outcome.slotList.cend(), [&](const Slot &slot) {
+               return slot.name == QLatin1String(NameSlot) && clause.contains(slot.value);
+           });
+}
+
 /// 周四她请假: says something about somebody.
 bool tellsSomething(const Reading &clause)
 {
@@ -140,7 +152,8 @@ bool takeAnsweringClause(const QString &question, const Reading &reading, const 
                 plain.push_back(answered);
             }
             answers.push_back(std::move(answered));
-        } else if (!isReason(clause) || (whom && clause.has(WordClass::Negation))) {
+        } else if (!isReason(clause) || (whom && clause.has(WordClass::Negation)) ||
+                   saysWhoStaysAway(text, outcome)) {
             return false; // 彭宇和傅佳，傅佳就别叫了
         }
     }

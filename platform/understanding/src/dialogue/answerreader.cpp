@@ -79,9 +79,10 @@ bool takeNumber(const Reading &reading, Outcome &outcome)
         outcome.answer = QStringLiteral("whole-number");
         return true;
     }
-    // 前面三位是九六四
+    // 前面三位是九六四, 中间那个是零 214870536
     static const QRegularExpression part(
-        QStringLiteral("[前后]面?[几一二两三四五六0-9]位|开头|打头|尾号|末尾|不确定|不一定|说不准"));
+        QStringLiteral("[前后]面?[几一二两三四五六0-9]位|开头|打头|尾号|末尾|不确定|不一定|说不准"
+                       "|(^|[^零一二两三四五六七八九幺])[零一二两三四五六七八九幺] +[0-9]{6}"));
     if (reading.conferenceNumber().isEmpty() || !holdsOnly(reading, isCode) ||
         reading.sentence().text().contains(part)) {
         return false;
@@ -126,6 +127,12 @@ std::vector<FoundName> answeredNames(const Reading &reading)
     return onlyNames && !sparesSomebody ? names : std::vector<FoundName>();
 }
 
+/// True for 明天三点和李娜开会, a command of its own.
+bool opensConference(const Reading &reading)
+{
+    return reading.has(WordClass::Conference) && !reading.openVerb().isEmpty();
+}
+
 bool takeAccount(const Reading &reading, Outcome &outcome)
 {
     const Said &account = reading.account();
@@ -148,7 +155,8 @@ bool takeAccount(const Reading &reading, Outcome &outcome)
                });
     };
     if (names.empty() || !isKnown(names.front()) || isNobody(names.front()) || describes(names.front()) ||
-        reading.hasAny(inviting)) { // 先帮我邀请马克进会
+        reading.hasAny(inviting) || opensConference(reading) ||
+        !reading.timeSaid().isEmpty()) { // 先帮我邀请马克进会, 先约个会 明天两点
         return false;
     }
     outcome.addSlot(AccountSlot, names.front().said, names.front().name);
@@ -203,56 +211,6 @@ void removeNames(Outcome &outcome)
 
 } // namespace
 
-bool isGiveUp(const Reading &reading)
-{
-    constexpr WordClasses harmless =
-        WordClass::GiveUp | WordClass::Filler | WordClass::Address | WordClass::Punctuation;
-    return reading.has(WordClass::GiveUp) &&
-           std::all_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
-               return token.isAny(harmless) || token.kind == Token::Kind::Space ||
-                      (token.kind == Token::Kind::Other && token.length == 1);
-           });
-}
-
-bool beginsWithGiveUp(const Reading &reading)
-{
-    constexpr WordClasses harmless = WordClass::GiveUp | WordClass::Filler | WordClass::Address;
-    bool givesUp = false;
-    for (const Token &token : reading.tokens()) {
-        const bool remark = givesUp && token.is(WordClass::Actor); // 算了他在上课
-        if (remark && reading.names().empty() && reading.timeSaid().isEmpty() &&
-            reading.account().isEmpty()) {
-            return true;
-        }
-        if (token.is(WordClass::Punctuation)) {
-            if (givesUp) {
-                break;
-            }
-            continue; // 哎，不弄了
-        }
-        if (!token.isAny(harmless)) {
-            return false;
-        }
-        givesUp = givesUp || token.is(WordClass::GiveUp);
-    }
-    return givesUp;
-}
-
-bool endsWithGiveUp(const Reading &reading)
-{
-    constexpr WordClasses harmless = WordClass::GiveUp | WordClass::Filler | WordClass::Address;
-    const Tokens &tokens = reading.tokens();
-    bool givesUp = false;
-    for (auto token = tokens.crbegin(); token != tokens.crend() && !token->is(WordClass::Punctuation);
-         ++token) {
-        if (!token->isAny(harmless)) {
-            return false;
-        }
-        givesUp = givesUp || token->is(WordClass::GiveUp);
-    }
-    return givesUp;
-}
-
 bool replaceNames(const Reading &reading, Outcome &outcome)
 {
     if (outcome.intent != QLatin1String(CreateConference) || !reading.has(WordClass::Repair) ||
@@ -277,9 +235,8 @@ static bool takeFurtherNames(const Reading &reading, Outcome &outcome)
     if (reading.names().empty()) {
         return true;
     }
-    // 明天三点和李娜开会 is a new command.
-    const bool full = reading.has(WordClass::Conference) && !reading.openVerb().isEmpty();
-    if (outcome.intent != QLatin1String(CreateConference) || reading.hasDoubtfulName() || full) {
+    if (outcome.intent != QLatin1String(CreateConference) || reading.hasDoubtfulName() ||
+        opensConference(reading)) {
         return false;
     }
     if (reading.hasAny(WordClass::Repair | WordClass::Change)) {

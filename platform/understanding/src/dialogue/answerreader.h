@@ -10,18 +10,8 @@
 
 namespace understanding {
 
-/// True for a sentence that only ends a question: 算了, 取消吧.
-bool isGiveUp(const Reading &reading);
-
-/// True for a sentence whose first clause ends a question: 算了，我再问问.
-bool beginsWithGiveUp(const Reading &reading);
-
-/// True for a sentence whose last clause does nothing but end a question: 妈妈叫我了，先这样.
-bool endsWithGiveUp(const Reading &reading);
-
-/// 不对，应该是小芳, while a time is asked for: puts other people in place of those said before. Returns
-/// false if
-/// @p reading says nothing of the kind.
+/// 不对，应该是小芳, while a time is asked for: puts other people in place of those said before.
+/// Returns false if @p reading says nothing of the kind.
 bool replaceNames(const Reading &reading, Outcome &outcome);
 
 /// Takes @p reading as the answer to @p question (a row of answers.tsv) and adds the slot to @p outcome.

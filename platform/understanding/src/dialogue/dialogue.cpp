@@ -6,6 +6,7 @@
 #include "dialogue/answerclauses.h"
 #include "dialogue/answerreader.h"
 #include "dialogue/answers.h"
+#include "dialogue/giveup.h"
 #include "dialogue/semanticwriter.h"
 #include "dialogue/yesno.h"
 #include "meaning/interpreter.h"
@@ -51,7 +52,7 @@ public:
     QString askAgain();
     QString close(const char *answer);
     QString reply(const Outcome &outcome, const TimeExpression &time);
-    bool startsSomethingNew(const Outcome &fresh) const;
+    bool startsSomethingNew(const Reading &reading, const Outcome &fresh) const;
     QString answerConfirmation(const Reading &reading, const Outcome &fresh, const QDateTime &now);
     QString answerQuestion(const Reading &reading, const Outcome &fresh, const QDateTime &now);
     void askForPassword();
@@ -106,13 +107,22 @@ QString Dialogue::Private::reply(const Outcome &outcome, const TimeExpression &t
     return answerJson(answerText(outcome.answer));
 }
 
-/// True for a full command, or an incomplete one for another intent.
-bool Dialogue::Private::startsSomethingNew(const Outcome &fresh) const
+/// True if @p fresh, read from @p reading, is a full command, or an incomplete one for another intent or,
+/// instead of a password, another number.
+bool Dialogue::Private::startsSomethingNew(const Reading &reading, const Outcome &fresh) const
 {
-    if (fresh.intent.isEmpty()) {
+    // 不是她，加小凯, while an account is asked for, brings nobody into a conference.
+    const bool adds = question.outcome.intent == QLatin1String(AddBuddy) &&
+                      fresh.intent == QLatin1String(InviteConference) &&
+                      !reading.hasAny(WordClass::Conference | WordClass::Join | WordClass::Arrive);
+    // 今天不开了 is not said of the conference that one is in.
+    const bool drops = fresh.intent == QLatin1String(CloseConference) &&
+                       reading.sentence().text().contains(QStringLiteral("不开"));
+    if (fresh.intent.isEmpty() || adds || drops) {
         return false;
     }
-    return fresh.isCommand() || fresh.intent != question.outcome.intent;
+    return fresh.isCommand() || fresh.intent != question.outcome.intent ||
+           (question.outcome.answer == PasswordQuestion && fresh.hasSlot(IdSlot));
 }
 
 /// 好啊，再叫上小葛: a yes, and who else is to come. Whoever is spared or replaced makes it unclear.
@@ -178,7 +188,7 @@ QString Dialogue::Private::answerQuestion(const Reading &reading, const Outcome 
         if (replaceNames(reading, question.outcome)) {
             return askAgain();
         }
-        if (startsSomethingNew(fresh)) {
+        if (startsSomethingNew(reading, fresh)) {
             return reply(fresh, reading.time());
         }
         return asked == TooManyPasswords ? close(TooManyPasswords.data()) : askAgain();
@@ -229,9 +239,9 @@ QString Dialogue::turn(const QString &sentence, const QDateTime &now)
         return m_d->reply(fresh, interpreted.reading().time());
     }
     const bool toConfirm = m_d->question.outcome.answer.startsWith(QLatin1String("confirm-"));
-    const bool givesUp = isGiveUp(reading) ||
-                         ((beginsWithGiveUp(reading) || endsWithGiveUp(reading)) && fresh.intent.isEmpty());
-    if (givesUp && !(toConfirm && readYesNo(reading.sentence()) == YesNo::Yes)) {
+    const bool leaving = m_d->question.outcome.intent == QLatin1String(CloseConference);
+    const bool ended = givesUp(reading, fresh) || (!leaving && dropsPlan(reading, fresh));
+    if (ended && !(toConfirm && readYesNo(reading.sentence()) == YesNo::Yes)) {
         return m_d->close("cancelled");
     }
     return m_d->answerQuestion(reading, fresh, now);

@@ -194,6 +194,15 @@ private:
                });
     }
 
+    /// 号错了, 刚才密码说错了: tells what was wrong; the order behind it says what is right.
+    bool isWrongLabel(const Range &clause) const
+    {
+        const int begin = m_tokens[clause.begin].position;
+        const QStringRef said = m_text.midRef(begin, m_tokens[clause.end - 1].end() - begin);
+        return said.endsWith(QStringLiteral("错了")) &&
+               (said.contains(QChar(u'号')) || said.contains(QStringLiteral("密码")));
+    }
+
     bool orders(const Range &clause) const
     {
         constexpr WordClasses unlessDone = WordClass::Cancel | WordClass::Change; // 会取消了
@@ -206,10 +215,11 @@ private:
                                  }) &&
                              any(clause, [](const Token &token) { return token.is(WordClass::Conference); });
         const bool givesUp = m_tokens[clause.begin].is(WordClass::GiveUp); // 昨天的不用管 gives nothing up
+        const bool misheard = isWrongLabel(clause);
         return givesUp || (planned && !(cancelled && done)) || (cancelled && !done) ||
                any(clause, [&](const Token &token) {
-                   return !token.inName &&
-                          (token.is(WordClass::Repair) || (token.is(WordClass::Request) && !subject));
+                   return !token.inName && ((token.is(WordClass::Repair) && !misheard) ||
+                                            (token.is(WordClass::Request) && !subject));
                });
     }
 

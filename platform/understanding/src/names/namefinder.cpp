@@ -214,6 +214,15 @@ private:
                !(at + 1 < m_tokens.size() && m_tokens[at + 1].is(WordClass::Title));
     }
 
+    /// 别 in 小凯和乐乐，别叫阿强, 不 in 邀请小凯，不请阿强.
+    bool sparesNext(std::size_t at) const
+    {
+        constexpr WordClasses calls = WordClass::Trigger | WordClass::Pull | WordClass::Invite;
+        const bool negation = m_tokens[at].length == 1 || m_tokens[at].is(WordClass::Negation);
+        return negation && at + 1 < m_tokens.size() && m_tokens[at + 1].isAny(calls) &&
+               isNegatedBefore(m_text, m_tokens, at + 1);
+    }
+
     /// Takes names from @p at on; returns the first token behind them.
     std::size_t takeNames(std::size_t at, bool mustLookLikeName)
     {
@@ -229,6 +238,9 @@ private:
                 }
                 count = m_names.size();
                 limit = at + farthest;
+            }
+            if (sparesNext(at)) {
+                return at;
             }
             const std::size_t behind = m_places.endOfModifier(at);
             if (behind > at && m_modifierStart < 0) {

@@ -98,6 +98,9 @@ std::size_t NameRunReader::takeLatinName(std::size_t at)
         return at;
     }
     const QString name = m_text.mid(start, m_tokens[last].end() - start);
+    if (isThing(name)) { // 把PPT带上
+        return last;
+    }
     if (m_latin.isSurnameBehind(last)) { // Miss李, C罗
         addOne(start, name.size() + 1, true);
         m_names.back().start = m_modifierStart >= 0 ? m_modifierStart : start;

@@ -142,6 +142,9 @@ int readLengthOfTime(const QString &text, int position, TimeExpression &expressi
         return 0;
     }
     const int suffix = firstOf(text, at, {u"以后", u"之后", u"过后", u"后"});
+    if (suffix == 0 && text.midRef(position, at - position) == QStringLiteral("过两天")) {
+        return 0; // some day soon
+    }
     const bool nextDay = firstOf(text, at, {u"后天"}) > 0; // 两天后天: 后天 is a separate word
     isOffset = prefix > 0 || (suffix > 0 && !nextDay);
     // 三分 and 五日 are no lengths of time unless counted from now.

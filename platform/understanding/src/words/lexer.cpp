@@ -91,8 +91,6 @@ private:
         case u'刚': // 刚开 in 和张刚开会, 新加 in 邀请朱立新加入会议
         case u'新':
             length = isEndOfGivenName(m_text, m_tokens) &&
-                             // 我和张伟刚开会 tells of one
-                             (m_text.at(m_at) != QChar(u'刚') || m_tokens.back().length == 1) &&
                              firstOf(m_text, m_at + 1, {u"开会", u"开个", u"开视频", u"加入"}) > 0
                          ? 1
                          : 0;

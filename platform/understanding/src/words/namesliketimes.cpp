@@ -63,9 +63,15 @@ bool isEndOfGivenName(const QString &text, const Tokens &tokens)
     }
     constexpr WordClasses leads = WordClass::Trigger | WordClass::Separator | WordClass::NameLabel |
                                   WordClass::Invite | WordClass::Pull;
+    static const QString middles = QStringLiteral("小晓志");
     const Token &before = tokens.back();
-    return before.length <= 2 && tokens[tokens.size() - 2].isAny(leads) &&
-           isPersonsName(text.mid(before.position, before.length + 1));
+    const std::size_t titled = tokens[tokens.size() - 2].is(WordClass::Title) ? 3 : 2; // 跟护士罗刚开会
+    const int said = tailLength(text, before);
+    const bool isWhole = said == 2 && !middles.contains(text.at(before.end() - 1));
+    // 我和张伟刚开会 tells of a conference.
+    return said <= 2 && !(isWhole && text.at(before.end()) == QChar(u'刚')) && tokens.size() >= titled &&
+           tokens[tokens.size() - titled].isAny(leads) &&
+           isPersonsName(text.mid(before.end() - said, said + 1));
 }
 
 bool isInUnknownName(const QString &text, const Tokens &tokens, int at, const TimeMatch &match)

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "dialogue/giveup.h"
+
+#include <QRegularExpression>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace understanding {
+
+bool isGiveUp(const Reading &reading)
+{
+    constexpr WordClasses harmless =
+        WordClass::GiveUp | WordClass::Filler | WordClass::Address | WordClass::Punctuation;
+    return reading.has(WordClass::GiveUp) &&
+           std::all_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+               return token.isAny(harmless) || token.kind == Token::Kind::Space ||
+                      (token.kind == Token::Kind::Other && token.length == 1);
+           });
+}
+
+static bool beginsWithGiveUp(const Reading &reading)
+{
+    constexpr WordClasses harmless = WordClass::GiveUp | WordClass::Filler | WordClass::Address;
+    bool givesUp = false;
+    for (const Token &token : reading.tokens()) {
+        const bool remark = givesUp && token.is(WordClass::Actor); // 算了他在上课
+        if (remark && reading.names().empty() && reading.timeSaid().isEmpty() &&
+            reading.account().isEmpty()) {
+            return true;
+        }
+        if (token.is(WordClass::Punctuation)) {
+            if (givesUp) {
+                break;
+            }
+            continue; // 哎，不弄了
+        }
+        if (!token.isAny(harmless)) {
+            return false;
+        }
+        givesUp = givesUp || token.is(WordClass::GiveUp);
+    }
+    return givesUp;
+}
+
+static bool endsWithGiveUp(const Reading &reading)
+{
+    constexpr WordClasses harmless = WordClass::GiveUp | WordClass::Filler | WordClass::Address;
+    const Tokens &tokens = reading.tokens();
+    bool givesUp = false;
+    for (auto token = tokens.crbegin(); token != tokens.crend() && !token->is(WordClass::Punctuation);
+         ++token) {
+        if (!token->isAny(harmless)) {
+            return false;
+        }
+        givesUp = givesUp || token->is(WordClass::GiveUp);
+    }
+    return givesUp;
+}
+
+/// 那就不开了, 算了不碰了, 人齐了不叫了, 那算了: says in its last clause that nothing is to be done,
+/// or in its first one.
+static bool refusesToGoOn(const Reading &reading)
+{
+    static const QRegularExpression separators(QStringLiteral("[\\s,.!?;，。！？；、…]+"));
+    static const QString verbs = QStringLiteral(
+        "(?:开|约|弄|搞|办|碰|聊|见|谈|加|进|入|去|建|组|凑|叫|拉|喊|请|邀|邀请|预约|发起|安排|添加|"
+        "参加|讨论|商量|找|打|订|定|麻烦|打扰|折腾)");
+    static const QString whom = QStringLiteral("(?:会议|会|人|(?:他|她|它)们?|大家)?");
+    static const QString refusal =
+        QStringLiteral("(?:不%1%2了|(?:[先就]不|暂时不|[先也]?不用|先?别|甭)%1%2了?)").arg(verbs, whom);
+    static const QRegularExpression refusing(
+        QStringLiteral("^(?:.{1,6}了|[那就还是哦嗯哎唉啊呃我们咱先都也]|今天|这次|干脆|反正|罢了)*"
+                       "(?:%1|(?:[那就]|还是|不支持|不行)算了)[吧啊呀啦哈呗嘛]*$")
+            .arg(refusal));
+    const QStringList clauses = reading.sentence().raw().split(separators, Qt::SkipEmptyParts);
+    const bool numbered = !reading.conferenceNumber().isEmpty() || !reading.account().isEmpty();
+    if (clauses.isEmpty() || numbered || (!reading.timeSaid().isEmpty() && clauses.size() > 1)) {
+        return false; // 三点，不叫他了
+    }
+    // 不开了，太晚了 tells why, 不约她了，约小凯 wants something else.
+    const bool tellsWhy = reading.names().empty() && !reading.hasAny(WordClass::Request | WordClass::Repair);
+    return refusing.match(clauses.last()).hasMatch() ||
+           (tellsWhy && refusing.match(clauses.first()).hasMatch());
+}
+
+bool givesUp(const Reading &reading, const Outcome &fresh)
+{
+    return isGiveUp(reading) ||
+           (fresh.intent.isEmpty() && (beginsWithGiveUp(reading) || endsWithGiveUp(reading)));
+}
+
+bool dropsPlan(const Reading &reading, const Outcome &fresh)
+{
+    const bool leaves = fresh.intent == QLatin1String(CloseConference);
+    const bool only =
+        !leaves || reading.sentence().text().contains(QStringLiteral("不开")); // 不加了，退出会议
+    return only && (leaves || !fresh.isCommand()) && refusesToGoOn(reading);
+}
+
+} // namespace understanding

@@ -4,10 +4,10 @@
 #include "dialogue/answerclauses.h"
 
 #include "dialogue/answerreader.h"
+#include "dialogue/peoplechange.h"
 #include "meaning/intentrules.h"
 #include "meaning/suspicions.h"
 
-#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -27,30 +27,6 @@ bool isClauseBreak(const Tokens &tokens, std::size_t at)
     };
     return tokens[at].kind == Token::Kind::Space && at > 0 && at + 1 < tokens.size() &&
            !(isCode(tokens[at - 1]) && isCode(tokens[at + 1]));
-}
-
-/// The clauses of @p reading as typed; empty if there is only one, or too many.
-QStringList clausesOf(const Reading &reading)
-{
-    QStringList clauses;
-    int begin = 0;
-    const auto add = [&](int end) {
-        const QString clause = reading.sentence().raw().mid(begin, end - begin).trimmed();
-        if (!clause.isEmpty()) {
-            clauses.append(clause);
-        }
-    };
-    const Tokens &tokens = reading.tokens();
-    for (std::size_t at = 0; at < tokens.size(); ++at) {
-        const bool ends = tokens[at].is(WordClass::Punctuation) || isClauseBreak(tokens, at);
-        if (ends && !tokens[at].inName) {
-            add(tokens[at].position);
-            begin = tokens[at].end();
-        }
-    }
-    add(reading.sentence().raw().size());
-    const bool usable = clauses.size() > 1 && clauses.size() <= MaxClauses;
-    return usable ? clauses : QStringList();
 }
 
 bool containsAny(const QString &text, const QStringList &words)
@@ -115,12 +91,9 @@ bool isChosen(const QString &clause)
 /// 乐乐不来, who is among those to be invited: asking again is better than inviting her.
 bool saysWhoStaysAway(const QString &clause, const Outcome &outcome)
 {
-    static const QRegularExpression away(
-        QStringLiteral("(不|没法|不能|没空)(来|去|参加|到|进)|(来|去|参加|赶)不(了|成|上)"));
-    return away.match(clause).hasMatch() &&
-           std::any_of(outcome.slotList.cbegin(), outcome.slotList.cend(), [&](const Slot &slot) {
-               return slot.name == QLatin1String(NameSlot) && clause.contains(slot.value);
-           });
+    return std::any_of(outcome.slotList.cbegin(), outcome.slotList.cend(), [&](const Slot &slot) {
+        return slot.name == QLatin1String(NameSlot) && isSpared(clause, slot.value);
+    });
 }
 
 /// 周四她请假: says something about somebody.
@@ -132,6 +105,29 @@ bool tellsSomething(const Reading &clause)
 }
 
 } // namespace
+
+QStringList clausesOf(const Reading &reading)
+{
+    QStringList clauses;
+    int begin = 0;
+    const auto add = [&](int end) {
+        const QString clause = reading.sentence().raw().mid(begin, end - begin).trimmed();
+        if (!clause.isEmpty()) {
+            clauses.append(clause);
+        }
+    };
+    const Tokens &tokens = reading.tokens();
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        const bool ends = tokens[at].is(WordClass::Punctuation) || isClauseBreak(tokens, at);
+        if (ends && !tokens[at].inName) {
+            add(tokens[at].position);
+            begin = tokens[at].end();
+        }
+    }
+    add(reading.sentence().raw().size());
+    const bool usable = clauses.size() > 1 && clauses.size() <= MaxClauses;
+    return usable ? clauses : QStringList();
+}
 
 bool takeAnsweringClause(const QString &question, const Reading &reading, const QDateTime &now,
                          const TimeExpression &timeBefore, const ContactIndex &contacts, Outcome &outcome)

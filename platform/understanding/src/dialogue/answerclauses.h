@@ -9,8 +9,12 @@
 #include "words/contactindex.h"
 
 #include <QDateTime>
+#include <QStringList>
 
 namespace understanding {
+
+/// The clauses of @p reading as typed; empty if there is only one, or too many.
+QStringList clausesOf(const Reading &reading);
 
 /// Takes one clause of @p reading as the answer to @p question if the others only say why: 周五，周四她请假.
 /// Otherwise like takeAnswer().

@@ -109,24 +109,6 @@ bool takePassword(const Reading &reading, Outcome &outcome)
     return true;
 }
 
-/// The names of an answer that consists of names, otherwise none.
-std::vector<FoundName> answeredNames(const Reading &reading)
-{
-    const Sentence &sentence = reading.sentence();
-    std::vector<FoundName> names = findAnsweredNames(sentence.raw(), sentence.text(), reading.tokens());
-    if (names.size() < reading.names().size()) {
-        names = reading.names();
-    }
-    const bool onlyNames = holdsOnly(reading, [&](const Token &token) {
-        return token.kind == Token::Kind::Name ||
-               std::any_of(names.cbegin(), names.cend(), [&](const FoundName &name) {
-                   return name.start < token.end() && token.position < name.position + name.said.size();
-               });
-    });
-    const bool sparesSomebody = reading.has(WordClass::Negation); // 彭宇和傅佳，不要傅佳
-    return onlyNames && !sparesSomebody ? names : std::vector<FoundName>();
-}
-
 /// True for 明天三点和李娜开会, a command of its own.
 bool opensConference(const Reading &reading)
 {
@@ -210,6 +192,23 @@ void removeNames(Outcome &outcome)
 }
 
 } // namespace
+
+std::vector<FoundName> answeredNames(const Reading &reading)
+{
+    const Sentence &sentence = reading.sentence();
+    std::vector<FoundName> names = findAnsweredNames(sentence.raw(), sentence.text(), reading.tokens());
+    if (names.size() < reading.names().size()) {
+        names = reading.names();
+    }
+    const bool onlyNames = holdsOnly(reading, [&](const Token &token) {
+        return token.kind == Token::Kind::Name ||
+               std::any_of(names.cbegin(), names.cend(), [&](const FoundName &name) {
+                   return name.start < token.end() && token.position < name.position + name.said.size();
+               });
+    });
+    const bool sparesSomebody = reading.has(WordClass::Negation); // 彭宇和傅佳，不要傅佳
+    return onlyNames && !sparesSomebody ? names : std::vector<FoundName>();
+}
 
 bool replaceNames(const Reading &reading, Outcome &outcome)
 {
@@ -320,6 +319,9 @@ bool takeAnswer(const QString &question, const Reading &reading, const QDateTime
             const bool calls = token.is(WordClass::Arrive) && !reading.names().empty(); // 把唐薇也叫上
             return token.kind == Token::Kind::Time || token.inName || calls;
         })) {
+        return false;
+    }
+    if (reading.sentence().text().endsWith(QChar(u'用'))) { // 下午三点用: a room
         return false;
     }
     TimeExpression time = reading.time();

@@ -8,7 +8,12 @@
 
 #include <QDateTime>
 
+#include <vector>
+
 namespace understanding {
+
+/// The names of an answer that consists of names, otherwise none.
+std::vector<FoundName> answeredNames(const Reading &reading);
 
 /// 不对，应该是小芳, while a time is asked for: puts other people in place of those said before.
 /// Returns false if @p reading says nothing of the kind.

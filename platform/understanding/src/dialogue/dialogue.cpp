@@ -7,6 +7,7 @@
 #include "dialogue/answerreader.h"
 #include "dialogue/answers.h"
 #include "dialogue/giveup.h"
+#include "dialogue/peoplechange.h"
 #include "dialogue/semanticwriter.h"
 #include "dialogue/yesno.h"
 #include "meaning/interpreter.h"
@@ -243,6 +244,13 @@ QString Dialogue::turn(const QString &sentence, const QDateTime &now)
     const bool ended = givesUp(reading, fresh) || (!leaving && dropsPlan(reading, fresh));
     if (ended && !(toConfirm && readYesNo(reading.sentence()) == YesNo::Yes)) {
         return m_d->close("cancelled");
+    }
+    if (QString rest; changePeople(reading, m_d->contacts, m_d->question.outcome, rest)) {
+        if (rest.isEmpty()) {
+            return m_d->askAgain();
+        }
+        const Interpretation remaining = interpret(rest, now, m_d->contacts);
+        return m_d->answerQuestion(remaining.whole, remaining.outcome, now);
     }
     return m_d->answerQuestion(reading, fresh, now);
 }

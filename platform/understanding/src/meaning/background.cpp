@@ -7,6 +7,8 @@
 #include "meaning/suspicions.h"
 #include "names/namelook.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace understanding {
@@ -155,7 +157,7 @@ private:
     bool isTold(const Range &clause) const
     {
         return clause.begin < clause.end && !introducesQuote(clause) && !orders(clause) &&
-               (tells(clause) || isStrange(clause));
+               (tells(clause) || isStrange(clause) || isWrongLabel(clause));
     }
 
     bool tells(const Range &clause) const
@@ -194,13 +196,12 @@ private:
                });
     }
 
-    /// 号错了, 刚才密码说错了: tells what was wrong; the order behind it says what is right.
+    /// 号错了, 刚才密码说错了, 号不对吧: tells what was wrong; the order behind it says what is right.
     bool isWrongLabel(const Range &clause) const
     {
+        static const QRegularExpression wrong(QStringLiteral("(?:号|密码).*(?:错了?|不对)[吧啊呀了]*$"));
         const int begin = m_tokens[clause.begin].position;
-        const QStringRef said = m_text.midRef(begin, m_tokens[clause.end - 1].end() - begin);
-        return said.endsWith(QStringLiteral("错了")) &&
-               (said.contains(QChar(u'号')) || said.contains(QStringLiteral("密码")));
+        return wrong.match(m_text.mid(begin, m_tokens[clause.end - 1].end() - begin)).hasMatch();
     }
 
     bool orders(const Range &clause) const
@@ -218,8 +219,8 @@ private:
         const bool misheard = isWrongLabel(clause);
         return givesUp || (planned && !(cancelled && done)) || (cancelled && !done) ||
                any(clause, [&](const Token &token) {
-                   return !token.inName && ((token.is(WordClass::Repair) && !misheard) ||
-                                            (token.is(WordClass::Request) && !subject));
+                   return !token.inName && !misheard &&
+                          (token.is(WordClass::Repair) || (token.is(WordClass::Request) && !subject));
                });
     }
 

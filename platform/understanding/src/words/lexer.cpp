@@ -88,7 +88,8 @@ private:
             length =
                 isBehindFamilyName(m_text, m_tokens) ? firstOf(m_text, m_at, {u"开来", u"开慧", u"开泰"}) : 0;
             break;
-        case u'刚': // 刚开 in 和张刚开会, 新加 in 邀请朱立新加入会议
+        case u'刚': // 刚开 in 和张刚开会, 来开 in 跟魏来开会, 新加 in 邀请朱立新加入会议
+        case u'来':
         case u'新':
             length = isEndOfGivenName(m_text, m_tokens) &&
                              firstOf(m_text, m_at + 1, {u"开会", u"开个", u"开视频", u"加入"}) > 0

@@ -68,8 +68,9 @@ bool isEndOfGivenName(const QString &text, const Tokens &tokens)
     const std::size_t titled = tokens[tokens.size() - 2].is(WordClass::Title) ? 3 : 2; // 跟护士罗刚开会
     const int said = tailLength(text, before);
     const bool isWhole = said == 2 && !middles.contains(text.at(before.end() - 1));
-    // 我和张伟刚开会 tells of a conference.
-    return said <= 2 && !(isWhole && text.at(before.end()) == QChar(u'刚')) && tokens.size() >= titled &&
+    // 我和张伟刚开会 tells of a conference, 叫张伟来开会 calls him.
+    static const QString apart = QStringLiteral("刚来");
+    return said <= 2 && !(isWhole && apart.contains(text.at(before.end()))) && tokens.size() >= titled &&
            tokens[tokens.size() - titled].isAny(leads) &&
            isPersonsName(text.mid(before.end() - said, said + 1));
 }

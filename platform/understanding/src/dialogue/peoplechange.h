@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "meaning/outcome.h"
+#include "meaning/reading.h"
+#include "words/contactindex.h"
+
+namespace understanding {
+
+/// True if @p clause says that @p name is not to come: 李娜不来了, 别叫李娜.
+bool isSpared(const QString &clause, const QString &name);
+
+/// Changes who is to come to the conference that @p outcome still asks about: 换小凯吧; 李娜就算了;
+/// 不是李娜， 是李楠. Puts what else @p reading says into @p rest. Returns false, and changes nothing, if
+/// nobody is changed or nobody would be left.
+bool changePeople(const Reading &reading, const ContactIndex &contacts, Outcome &outcome, QString &rest);
+
+} // namespace understanding

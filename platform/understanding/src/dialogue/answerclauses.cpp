@@ -8,6 +8,7 @@
 #include "meaning/intentrules.h"
 #include "meaning/suspicions.h"
 
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -92,7 +93,7 @@ bool isChosen(const QString &clause)
 bool saysWhoStaysAway(const QString &clause, const Outcome &outcome)
 {
     return std::any_of(outcome.slotList.cbegin(), outcome.slotList.cend(), [&](const Slot &slot) {
-        return slot.name == QLatin1String(NameSlot) && isSpared(clause, slot.value);
+        return slot.name == QLatin1String(NameSlot) && isExcluded(clause, slot.value);
     });
 }
 
@@ -134,6 +135,9 @@ bool takeAnsweringClause(const QString &question, const Reading &reading, const 
 {
     const QStringList clauses = clausesOf(reading);
     const bool whom = question == QLatin1String("whom-to-invite") || question == QLatin1String("whom-to-add");
+    static const QStringList absent = {QStringLiteral("不来"), QStringLiteral("来不了"),
+                                       QStringLiteral("不叫"), QStringLiteral("不约"),
+                                       QStringLiteral("算了")};
     std::vector<Outcome> answers;
     std::vector<Outcome> plain;
     std::vector<Outcome> chosen;
@@ -148,7 +152,8 @@ bool takeAnsweringClause(const QString &question, const Reading &reading, const 
                 plain.push_back(answered);
             }
             answers.push_back(std::move(answered));
-        } else if (!isReason(clause) || (whom && clause.has(WordClass::Negation)) ||
+        } else if (!isReason(clause) ||
+                   (whom && (clause.has(WordClass::Negation) || containsAny(text, absent))) ||
                    saysWhoStaysAway(text, outcome)) {
             return false; // 彭宇和傅佳，傅佳就别叫了
         }
@@ -167,6 +172,22 @@ bool takeAnsweringClause(const QString &question, const Reading &reading, const 
         }
     }
     return false;
+}
+
+bool takeOtherNumber(const Reading &reading, const ContactIndex &contacts, Outcome &outcome)
+{
+    static const QRegularExpression wrong(QStringLiteral("号.{0,2}(?:错|不对)|(?:错|不是这个|不对).{0,3}号"));
+    const QStringList clauses = clausesOf(reading);
+    if (clauses.size() < 2 || !clauses.first().contains(wrong)) {
+        return false;
+    }
+    Outcome other;
+    other.intent = QLatin1String(EnterConferenceById);
+    const bool taken = takeAnswer(QStringLiteral("which-conference"), Reading(clauses.last(), contacts),
+                                  QDateTime(), TimeExpression(), other) &&
+                       other.isCommand();
+    outcome = taken ? other : outcome;
+    return taken;
 }
 
 YesNo readYesNoBeforeReason(const Reading &reading, const QString &intent, const ContactIndex &contacts)

@@ -21,6 +21,10 @@ QStringList clausesOf(const Reading &reading);
 bool takeAnsweringClause(const QString &question, const Reading &reading, const QDateTime &now,
                          const TimeExpression &timeBefore, const ContactIndex &contacts, Outcome &outcome);
 
+/// 会议号错了 应该是778899001, instead of the password that was asked for: puts the number into @p outcome.
+/// Returns false if @p reading says nothing of the kind.
+bool takeOtherNumber(const Reading &reading, const ContactIndex &contacts, Outcome &outcome);
+
 /// Like readYesNo() for the first clause, if what follows only says why, or the same as what was asked about:
 /// 好，她正好在; 对，散了吧. The question was about @p intent.
 YesNo readYesNoBeforeReason(const Reading &reading, const QString &intent, const ContactIndex &contacts);

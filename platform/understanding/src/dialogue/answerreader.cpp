@@ -183,14 +183,6 @@ TimeExpression usableRest(const QString &question, const TimeExpression &before)
     return rest;
 }
 
-void removeNames(Outcome &outcome)
-{
-    outcome.slotList.erase(
-        std::remove_if(outcome.slotList.begin(), outcome.slotList.end(),
-                       [](const Slot &slot) { return slot.name == QLatin1String(NameSlot); }),
-        outcome.slotList.end());
-}
-
 } // namespace
 
 std::vector<FoundName> answeredNames(const Reading &reading)
@@ -206,8 +198,10 @@ std::vector<FoundName> answeredNames(const Reading &reading)
                    return name.start < token.end() && token.position < name.position + name.said.size();
                });
     });
-    const bool sparesSomebody = reading.has(WordClass::Negation); // 彭宇和傅佳，不要傅佳
-    return onlyNames && !sparesSomebody ? names : std::vector<FoundName>();
+    // 彭宇和傅佳，不要傅佳; 乐乐不来了; 叫谁好呢
+    static const QRegularExpression doubts(QStringLiteral("谁|啥|什么|不来|来不了|不叫|不约|不请|算了"));
+    const bool unsure = reading.has(WordClass::Negation) || reading.sentence().text().contains(doubts);
+    return onlyNames && !unsure ? names : std::vector<FoundName>();
 }
 
 bool replaceNames(const Reading &reading, Outcome &outcome)
@@ -220,7 +214,7 @@ bool replaceNames(const Reading &reading, Outcome &outcome)
     if (names.empty()) {
         return false;
     }
-    removeNames(outcome);
+    outcome.removeSlots(NameSlot);
     for (const FoundName &name : names) {
         outcome.addSlot(NameSlot, name.said, name.name);
     }
@@ -239,7 +233,7 @@ static bool takeFurtherNames(const Reading &reading, Outcome &outcome)
         return false;
     }
     if (reading.hasAny(WordClass::Repair | WordClass::Change)) {
-        removeNames(outcome);
+        outcome.removeSlots(NameSlot);
     }
     for (const FoundName &name : reading.names()) {
         const bool known =
@@ -321,7 +315,8 @@ bool takeAnswer(const QString &question, const Reading &reading, const QDateTime
         })) {
         return false;
     }
-    if (reading.sentence().text().endsWith(QChar(u'用'))) { // 下午三点用: a room
+    const bool forRoom = reading.sentence().text().endsWith(QChar(u'用')); // 下午三点用
+    if (forRoom || (reading.has(WordClass::Repair) && reading.clockCount() > 1)) {
         return false;
     }
     TimeExpression time = reading.time();

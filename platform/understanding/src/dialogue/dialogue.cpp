@@ -51,9 +51,11 @@ public:
     QString carryOut(const Outcome &outcome);
     QString ask(const Outcome &outcome, const TimeExpression &time);
     QString askAgain();
+    QString askStill();
     QString close(const char *answer);
     QString reply(const Outcome &outcome, const TimeExpression &time);
     bool startsSomethingNew(const Reading &reading, const Outcome &fresh) const;
+    bool addsPeople(const Reading &reading, const Outcome &fresh) const;
     QString answerConfirmation(const Reading &reading, const Outcome &fresh, const QDateTime &now);
     QString answerQuestion(const Reading &reading, const Outcome &fresh, const QDateTime &now);
     void askForPassword();
@@ -89,6 +91,12 @@ QString Dialogue::Private::askAgain()
     return answerJson(answerText(question.outcome.answer, question.tries));
 }
 
+/// Asks the same again after an answer that was understood but did not answer it.
+QString Dialogue::Private::askStill()
+{
+    return answerJson(answerText(question.outcome.answer));
+}
+
 QString Dialogue::Private::close(const char *answer)
 {
     question = OpenQuestion();
@@ -116,14 +124,20 @@ bool Dialogue::Private::startsSomethingNew(const Reading &reading, const Outcome
     const bool adds = question.outcome.intent == QLatin1String(AddBuddy) &&
                       fresh.intent == QLatin1String(InviteConference) &&
                       !reading.hasAny(WordClass::Conference | WordClass::Join | WordClass::Arrive);
-    // 今天不开了 is not said of the conference that one is in.
-    const bool drops = fresh.intent == QLatin1String(CloseConference) &&
-                       reading.sentence().text().contains(QStringLiteral("不开"));
+    const bool drops = fresh.intent == QLatin1String(CloseConference) && callsOff(reading);
     if (fresh.intent.isEmpty() || adds || drops) {
         return false;
     }
     return fresh.isCommand() || fresh.intent != question.outcome.intent ||
            (question.outcome.answer == PasswordQuestion && fresh.hasSlot(IdSlot));
+}
+
+/// 叫上小凯, while the time of a conference is asked for: nobody is to be brought into another one.
+bool Dialogue::Private::addsPeople(const Reading &reading, const Outcome &fresh) const
+{
+    return question.outcome.intent == QLatin1String(CreateConference) && fresh.isCommand() &&
+           fresh.intent == QLatin1String(InviteConference) &&
+           !reading.hasAny(WordClass::Conference | WordClass::Join | WordClass::Repair);
 }
 
 /// 好啊，再叫上小葛: a yes, and who else is to come. Whoever is spared or replaced makes it unclear.
@@ -163,10 +177,13 @@ QString Dialogue::Private::answerConfirmation(const Reading &reading, const Outc
     if (!fresh.intent.isEmpty()) {
         return reply(fresh, reading.time());
     }
-    // 要现在发起会议吗？ 明天三点。
+    // 要现在发起会议吗？ 明天三点。 要预约这个会议吗？ 四点吧。
     Outcome later = question.outcome;
-    if (later.intent == QLatin1String(CreateConference) && !later.hasSlot(DatetimeSlot) &&
-        takeAnswer(QStringLiteral("which-time"), reading, now, question.time, later)) {
+    later.removeSlots(DatetimeSlot);
+    const bool dayOnly = !reading.time().hasClock && !reading.time().hasOffset && question.time.hasClock;
+    const QString missing = dayOnly ? QStringLiteral("which-day") : QStringLiteral("which-time");
+    if (later.intent == QLatin1String(CreateConference) &&
+        takeAnswer(missing, reading, now, question.time, later)) {
         return reply(later, reading.time());
     }
     return askAgain();
@@ -180,6 +197,9 @@ QString Dialogue::Private::answerQuestion(const Reading &reading, const Outcome 
     if (asked.startsWith(QLatin1String("confirm-"))) {
         return answerConfirmation(reading, fresh, now);
     }
+    if (asked == PasswordQuestion && takeOtherNumber(reading, contacts, answered)) {
+        return carryOut(answered);
+    }
     const bool otherCommand = fresh.isCommand() && fresh.intent != answered.intent;
     const bool taken = asked != TooManyPasswords &&
                        (takeAnswer(asked, reading, now, question.time, answered) ||
@@ -188,6 +208,10 @@ QString Dialogue::Private::answerQuestion(const Reading &reading, const Outcome 
     if (!taken) {
         if (replaceNames(reading, question.outcome)) {
             return askAgain();
+        }
+        if (addsPeople(reading, fresh)) {
+            question.outcome.addSlotsOf(fresh);
+            return askStill();
         }
         if (startsSomethingNew(reading, fresh)) {
             return reply(fresh, reading.time());
@@ -240,14 +264,19 @@ QString Dialogue::turn(const QString &sentence, const QDateTime &now)
         return m_d->reply(fresh, interpreted.reading().time());
     }
     const bool toConfirm = m_d->question.outcome.answer.startsWith(QLatin1String("confirm-"));
-    const bool leaving = m_d->question.outcome.intent == QLatin1String(CloseConference);
-    const bool ended = givesUp(reading, fresh) || (!leaving && dropsPlan(reading, fresh));
+    const bool ended = givesUp(reading, fresh) || dropsPlan(reading, fresh);
     if (ended && !(toConfirm && readYesNo(reading.sentence()) == YesNo::Yes)) {
         return m_d->close("cancelled");
     }
-    if (QString rest; changePeople(reading, m_d->contacts, m_d->question.outcome, rest)) {
+    QString rest;
+    switch (changePeople(reading, m_d->contacts, m_d->question.outcome, rest)) {
+    case PeopleChange::None:
+        break;
+    case PeopleChange::Unclear:
+        return m_d->askAgain();
+    case PeopleChange::Done:
         if (rest.isEmpty()) {
-            return m_d->askAgain();
+            return m_d->askStill();
         }
         const Interpretation remaining = interpret(rest, now, m_d->contacts);
         return m_d->answerQuestion(remaining.whole, remaining.outcome, now);

@@ -60,30 +60,36 @@ static bool endsWithGiveUp(const Reading &reading)
     return givesUp;
 }
 
-/// 那就不开了, 算了不碰了, 人齐了不叫了, 那算了: says in its last clause that nothing is to be done,
-/// or in its first one.
-static bool refusesToGoOn(const Reading &reading)
+/// 那就不开了, 算了不碰了, 人齐了不叫了, 李娜没空那算了.
+static bool isRefusal(const QString &clause)
 {
-    static const QRegularExpression separators(QStringLiteral("[\\s,.!?;，。！？；、…]+"));
     static const QString verbs = QStringLiteral(
-        "(?:开|约|弄|搞|办|碰|聊|见|谈|加|进|入|去|建|组|凑|叫|拉|喊|请|邀|邀请|预约|发起|安排|添加|"
+        "(?:开|约|弄|搞|办|碰|聊|见|谈|加入?|进|入|去|建|组|凑|叫|拉|喊|请|邀请?|预约|发起|安排|添加|"
         "参加|讨论|商量|找|打|订|定|麻烦|打扰|折腾)");
     static const QString whom = QStringLiteral("(?:会议|会|人|(?:他|她|它)们?|大家)?");
     static const QString refusal =
-        QStringLiteral("(?:不%1%2了|(?:[先就]不|暂时不|[先也]?不用|先?别|甭)%1%2了?)").arg(verbs, whom);
+        QStringLiteral("(?:不想?%1%2[了啦]|(?:[先就]不|暂时不|[先也]?不用|先?别|甭|懒得)%1%2[了啦]?|"
+                       "(?:那|就|还是|不支持|不行)算了|免了|打住|撤销|用不着了?|(?:改天|以后|下次)再%1)")
+            .arg(verbs, whom);
     static const QRegularExpression refusing(
-        QStringLiteral("^(?:.{1,6}了|[那就还是哦嗯哎唉啊呃我们咱先都也]|今天|这次|干脆|反正|罢了)*"
-                       "(?:%1|(?:[那就]|还是|不支持|不行)算了)[吧啊呀啦哈呗嘛]*$")
+        QStringLiteral(
+            "^(?:.{1,8}[了那])?(?:[那就还是哦嗯哎唉啊呃我们咱先都也]|[今明后][天儿]|会议?|这次|干脆|反正|"
+            "罢了|算了)*%1[吧啊呀啦哈呗嘛]*$")
             .arg(refusal));
+    return refusing.match(clause).hasMatch();
+}
+
+/// True if nothing is to be done according to the last clause, or the first one and the rest tells why.
+static bool refuses(const Reading &reading)
+{
+    static const QRegularExpression separators(QStringLiteral("[\\s,.!?;，。！？；、…]+"));
     const QStringList clauses = reading.sentence().raw().split(separators, Qt::SkipEmptyParts);
     const bool numbered = !reading.conferenceNumber().isEmpty() || !reading.account().isEmpty();
     if (clauses.isEmpty() || numbered || (!reading.timeSaid().isEmpty() && clauses.size() > 1)) {
         return false; // 三点，不叫他了
     }
-    // 不开了，太晚了 tells why, 不约她了，约小凯 wants something else.
     const bool tellsWhy = reading.names().empty() && !reading.hasAny(WordClass::Request | WordClass::Repair);
-    return refusing.match(clauses.last()).hasMatch() ||
-           (tellsWhy && refusing.match(clauses.first()).hasMatch());
+    return isRefusal(clauses.last()) || (tellsWhy && isRefusal(clauses.first()));
 }
 
 bool givesUp(const Reading &reading, const Outcome &fresh)
@@ -92,12 +98,19 @@ bool givesUp(const Reading &reading, const Outcome &fresh)
            (fresh.intent.isEmpty() && (beginsWithGiveUp(reading) || endsWithGiveUp(reading)));
 }
 
+bool callsOff(const Reading &reading)
+{
+    static const QString leaving = QStringLiteral("退离散结束挂关");
+    const QString &text = reading.sentence().text();
+    return text.contains(QStringLiteral("不开")) &&
+           std::none_of(text.cbegin(), text.cend(),
+                        [&](QChar character) { return leaving.contains(character); });
+}
+
 bool dropsPlan(const Reading &reading, const Outcome &fresh)
 {
     const bool leaves = fresh.intent == QLatin1String(CloseConference);
-    const bool only =
-        !leaves || reading.sentence().text().contains(QStringLiteral("不开")); // 不加了，退出会议
-    return only && (leaves || !fresh.isCommand()) && refusesToGoOn(reading);
+    return (leaves ? callsOff(reading) : !fresh.isCommand()) && refuses(reading);
 }
 
 } // namespace understanding

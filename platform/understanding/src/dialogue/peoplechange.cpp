@@ -4,7 +4,8 @@
 #include "dialogue/peoplechange.h"
 
 #include "dialogue/answerclauses.h"
-#include "dialogue/answerreader.h"
+#include "meaning/suspicions.h"
+#include "names/namelook.h"
 
 #include <QRegularExpression>
 #include <QStringList>
@@ -15,116 +16,202 @@ namespace understanding {
 
 namespace {
 
-constexpr char16_t Leads[] = u"^(?:[那就还是哦嗯哎啊呃都也]|帮我|今天|干脆)*";
+constexpr char16_t Leads[] = u"^(?:[那就还是哦嗯哎啊呃先]|帮我|今天|干脆)*";
 constexpr char16_t Ends[] = u"[了吧啊呀的啦]*$";
 constexpr char16_t Calls[] = u"(?:约|叫|跟|和|找|请|带|喊|拉|邀请)";
 
+QRegularExpressionMatch match(const QString &clause, const QString &pattern)
+{
+    return QRegularExpression(QString::fromUtf16(Leads) + pattern + QString::fromUtf16(Ends)).match(clause);
+}
+
 bool matches(const QString &clause, const QString &pattern)
 {
-    return QRegularExpression(QString::fromUtf16(Leads) + pattern + QString::fromUtf16(Ends))
-        .match(clause)
-        .hasMatch();
+    return match(clause, pattern).hasMatch();
+}
+
+bool isName(const QString &text, const ContactIndex &contacts)
+{
+    static const QRegularExpression latin(QStringLiteral("^[A-Z][A-Za-z]+( [A-Z][A-Za-z]+)*$"));
+    static const QString verbs = QStringLiteral("说叫讲问要给让家批订定办"); // 老板叫, 小凯说
+    constexpr int titled = 2;                                                // 王总 begins 王总批
+    constexpr int longest = 3;
+    const bool more = text.size() > titled && isSurnameWithTitle(text.left(titled));
+    if (text.isEmpty()) {
+        return false;
+    }
+    return contacts.longestAt(text, 0) == text || isSurnameWithTitle(text) || latin.match(text).hasMatch() ||
+           (!more && !isThing(text) && text.size() <= longest && !verbs.contains(text.back()) &&
+            (isPersonsName(text) || looksLikeName(text)));
+}
+
+/// The names that @p text consists of; empty if it says anything else: 小凯和李楠, but not 老公逛街.
+QStringList namesOf(const QString &text, const ContactIndex &contacts)
+{
+    static const QRegularExpression links(QStringLiteral("[和与跟及、]|还有"));
+    const QStringList names = text.split(links);
+    const bool only = std::all_of(names.cbegin(), names.cend(),
+                                  [&](const QString &name) { return isName(name, contacts); });
+    return only ? names : QStringList();
 }
 
 /// 李娜没空: a reason to call somebody else, or only to meet at another time.
 bool isBusy(const QString &clause, const QString &name)
 {
-    return matches(
-        clause,
-        QStringLiteral("%1(?:[他她又也]|今天|临时|正好|刚好)*(?:没空|没时间|有事儿?|请假|出差|在外地|不在|"
-                       "走不开|在忙|很忙)")
-            .arg(QRegularExpression::escape(name)));
+    return matches(clause, QStringLiteral("%1(?:[他她又也]|今天|临时|正好|刚好)*(?:没空|没时间|有事儿?|请假|"
+                                          "出差|在外地|不在|走不开|在忙|很忙)")
+                               .arg(QRegularExpression::escape(name)));
 }
 
-/// 换个人: everybody; 不对, 叫错了: the only one.
-bool sparesAll(const QString &clause, int people)
+/// 换个人: everybody; 叫错了, or 不对 where no time is meant: the only one.
+bool excludesAll(const QString &clause, int people, bool timed)
 {
-    static const QString anybody = QStringLiteral("换(?:个|一个|一下)?(?:人|别人)?");
-    static const QString mistaken = QStringLiteral("(?:不|不对|不是|(?:叫|说|弄|搞|喊)?错|不是[他她])");
-    return matches(clause, anybody) || (people == 1 && matches(clause, mistaken));
+    static const QString anybody =
+        QStringLiteral("(?:(?:两|三|几)个|全|全部)?都?换(?:个|一个|一下|掉)?(?:人|别人)?");
+    static const QString mistaken = QStringLiteral("(?:[叫喊]错|不是[他她])");
+    static const QString mistakenSomehow = QStringLiteral("(?:不|不对|不是|[说弄搞]?错)");
+    return matches(clause, anybody) ||
+           (people == 1 && (matches(clause, mistaken) || (!timed && matches(clause, mistakenSomehow))));
 }
 
-/// Whom @p clause calls instead: 换小凯吧, 是李楠, 就小凯.
-std::vector<FoundName> calledInstead(const QString &clause, const ContactIndex &contacts)
+/// What the clauses of one answer say about people.
+class Changes final
 {
-    static const QRegularExpression calling(
-        QString::fromUtf16(Leads) +
-        QStringLiteral("(?:应该是|是|就|[换改]?%1上?|[换改][成作为]?)").arg(QString::fromUtf16(Calls)));
-    const QRegularExpressionMatch match = calling.match(clause);
-    if (!match.hasMatch()) {
-        return {};
-    }
-    const Reading called(clause.mid(match.capturedEnd()), contacts);
-    return called.timeSaid().isEmpty() ? answeredNames(called) : std::vector<FoundName>();
-}
-
-/// What the clauses of one sentence say about people.
-struct Changes
-{
-    QStringList spared;
-    QStringList busy;
-    QStringList busyClauses;
-    std::vector<FoundName> called;
-    QStringList others; ///< clauses about something else
-    bool replaces = false;
-
-    void add(const QString &clause, const QStringList &people, const ContactIndex &contacts)
+public:
+    Changes(const QStringList &people, const ContactIndex &contacts, bool timed)
+        : m_people(people)
+        , m_contacts(contacts)
+        , m_timed(timed)
     {
-        const int before = spared.size() + busy.size();
-        for (const QString &name : people) {
-            if (isSpared(clause, name)) {
-                spared.append(name);
+    }
+
+    void add(const QString &clause)
+    {
+        const int before = m_excluded.size() + m_busy.size();
+        for (const QString &name : m_people) {
+            if (!clause.contains(name)) {
+                continue;
+            }
+            if (exchanges(clause, name)) {
+                return;
+            }
+            if (isExcluded(clause, name)) {
+                m_excluded.append(name);
             } else if (isBusy(clause, name)) {
-                busy.append(name);
-                busyClauses.append(clause);
+                m_busy.append(name);
+                m_busyClauses.append(clause);
             }
         }
-        if (spared.size() + busy.size() > before) {
-            return;
+        const bool handled = m_excluded.size() + m_busy.size() > before || keepsOnly(clause);
+        if (!handled && excludesAll(clause, m_people.size(), m_timed)) {
+            m_excluded = m_people;
+        } else if (!handled && !calls(clause)) {
+            m_others.append(clause);
         }
-        if (sparesAll(clause, people.size())) {
-            spared = people;
-            return;
-        }
-        // 换人，小凯
-        const std::vector<FoundName> instead =
-            spared == people ? answeredNames(Reading(clause, contacts)) : calledInstead(clause, contacts);
-        if (instead.empty()) {
-            others.append(clause);
-        }
-        replaces =
-            replaces || (!instead.empty() && clause.contains(QRegularExpression(QStringLiteral("[换改]"))));
-        called.insert(called.end(), instead.cbegin(), instead.cend());
     }
 
-    /// Decides who is spared; returns false if nobody is, or if nobody would be left.
-    bool settle(const QStringList &people)
+    PeopleChange settle()
     {
-        if (called.empty()) { // 李娜没空 alone is a reason
-            others += busyClauses;
-            return !spared.isEmpty() && spared.size() < people.size();
+        if (m_unclear) {
+            return PeopleChange::Unclear;
         }
-        spared += busy;
-        if (spared.isEmpty() && replaces && people.size() == 1) { // 换小凯吧
-            spared = people;
+        if (m_called.isEmpty()) {
+            m_others += m_busyClauses; // 李娜没空 alone is a reason
+        } else {
+            m_excluded += m_busy;
         }
-        return !spared.isEmpty();
+        if (m_excluded.isEmpty() && m_replaces) { // 换小凯吧: whom, if there are several?
+            if (m_people.size() > 1) {
+                return PeopleChange::Unclear;
+            }
+            m_excluded = m_people;
+        }
+        if (m_excluded.isEmpty()) {
+            return PeopleChange::None;
+        }
+        const bool somebody = !m_called.isEmpty() || m_excluded.size() < m_people.size();
+        const bool again = std::any_of(m_others.cbegin(), m_others.cend(), [&](const QString &clause) {
+            return std::any_of(m_excluded.cbegin(), m_excluded.cend(),
+                               [&](const QString &name) { return clause.contains(name); });
+        });
+        return somebody && !again ? PeopleChange::Done : PeopleChange::Unclear;
     }
-};
 
-/// 不是李娜是李楠, 是李楠不是李娜 and 把李娜换成李楠 as two clauses.
-QString apart(QString sentence, const QString &name)
-{
-    const QString escaped = QRegularExpression::escape(name);
-    const auto replace = [&](const char16_t *pattern, const char16_t *parted) {
-        sentence.replace(QRegularExpression(QString::fromUtf16(pattern).arg(escaped)),
-                         QString::fromUtf16(parted).arg(name));
-    };
-    replace(u"不是%1是", u"不是%1，是");
-    replace(u"把?%1(?:换成|换作|换为|改成)", u"不要%1，是");
-    replace(u"(?<=[^，,不 ])不是%1", u"，不是%1");
-    return sentence;
-}
+    void applyTo(Outcome &outcome) const
+    {
+        for (const QString &name : m_excluded) {
+            outcome.removeSlots(NameSlot, name);
+        }
+        for (const QString &name : m_called) {
+            if (m_excluded.contains(name) || !m_people.contains(name)) {
+                outcome.addSlot(NameSlot, name, name);
+            }
+        }
+    }
+
+    QString rest() const { return m_others.join(QChar(u'，')); }
+
+private:
+    /// 把李娜换成李楠, 不是李娜是李楠, 是李楠不是李娜.
+    bool exchanges(const QString &clause, const QString &name)
+    {
+        static const char16_t *const patterns[] = {u"把?%1(?:换成|换作|换为|改成)(.+?)", u"不是%1而?是(.+?)",
+                                                   u"(?:应该是)?(.+?)不是%1"};
+        for (const char16_t *pattern : patterns) {
+            const QRegularExpressionMatch said =
+                match(clause, QString::fromUtf16(pattern).arg(QRegularExpression::escape(name)));
+            const QStringList names = said.hasMatch() ? namesOf(said.captured(1), m_contacts) : QStringList();
+            m_unclear = m_unclear || (pattern == patterns[0] && said.hasMatch() && names.isEmpty());
+            if (!names.isEmpty()) {
+                m_excluded.append(name);
+                m_called += names;
+                return true;
+            }
+        }
+        return false;
+    }
+
+    /// 只叫李娜: nobody else of those said before.
+    bool keepsOnly(const QString &clause)
+    {
+        const QRegularExpressionMatch said =
+            match(clause, QStringLiteral("只%1?(.+?)(?:就行|就好|就可以)?").arg(QString::fromUtf16(Calls)));
+        const QStringList kept = said.hasMatch() ? namesOf(said.captured(1), m_contacts) : QStringList();
+        if (kept.isEmpty() || !std::all_of(kept.cbegin(), kept.cend(),
+                                           [&](const QString &name) { return m_people.contains(name); })) {
+            return false;
+        }
+        std::copy_if(m_people.cbegin(), m_people.cend(), std::back_inserter(m_excluded),
+                     [&](const QString &name) { return !kept.contains(name); });
+        return true;
+    }
+
+    /// Takes whom @p clause calls instead: 换小凯吧, 是李楠, 就小凯, and 小凯 behind 换人.
+    bool calls(const QString &clause)
+    {
+        const bool anybody = m_excluded == m_people;
+        const QRegularExpressionMatch said = match(
+            clause,
+            QStringLiteral("(换[成作为个]?[跟和]?|改[成约叫找请][跟和]?|约|叫上?|跟|请|应该是|是|就)%1(.+?)")
+                .arg(anybody ? QStringLiteral("?") : QString()));
+        const QStringList names = said.hasMatch() ? namesOf(said.captured(2), m_contacts) : QStringList();
+        m_called += names;
+        m_replaces = m_replaces || (!names.isEmpty() && (said.captured(1).startsWith(QChar(u'换')) ||
+                                                         said.captured(1).startsWith(QChar(u'改'))));
+        return !names.isEmpty();
+    }
+
+    const QStringList &m_people;
+    const ContactIndex &m_contacts;
+    const bool m_timed;
+    QStringList m_excluded;
+    QStringList m_busy;
+    QStringList m_busyClauses;
+    QStringList m_called;
+    QStringList m_others; ///< clauses about something else
+    bool m_replaces = false;
+    bool m_unclear = false; ///< 把李娜换成线上
+};
 
 QStringList peopleOf(const Outcome &outcome)
 {
@@ -137,19 +224,16 @@ QStringList peopleOf(const Outcome &outcome)
     return people;
 }
 
-void removePeople(Outcome &outcome, const QStringList &people)
+/// 李娜不来？, 万一李娜不来，叫张伟.
+bool isUnsure(const Reading &reading)
 {
-    outcome.slotList.erase(std::remove_if(outcome.slotList.begin(), outcome.slotList.end(),
-                                          [&](const Slot &slot) {
-                                              return slot.name == QLatin1String(NameSlot) &&
-                                                     people.contains(slot.value);
-                                          }),
-                           outcome.slotList.end());
+    static const QRegularExpression doubts(QStringLiteral("[?？]|是不是|要不是|万一|如果|要是|的话"));
+    return isConditional(reading) || reading.sentence().raw().contains(doubts);
 }
 
 } // namespace
 
-bool isSpared(const QString &clause, const QString &name)
+bool isExcluded(const QString &clause, const QString &name)
 {
     static const QString calls = QString::fromUtf16(Calls);
     const QString escaped = QRegularExpression::escape(name);
@@ -162,34 +246,33 @@ bool isSpared(const QString &clause, const QString &name)
                        .arg(escaped, calls));
 }
 
-bool changePeople(const Reading &reading, const ContactIndex &contacts, Outcome &outcome, QString &rest)
+PeopleChange changePeople(const Reading &reading, const ContactIndex &contacts, Outcome &outcome,
+                          QString &rest)
 {
     const QStringList people = peopleOf(outcome);
-    if (people.isEmpty()) {
-        return false;
+    QStringList clauses = clausesOf(reading);
+    if (clauses.isEmpty() && !reading.has(WordClass::Punctuation)) {
+        clauses.append(reading.sentence().raw().trimmed());
     }
-    QString sentence = reading.sentence().raw();
-    for (const QString &name : people) {
-        sentence = apart(sentence, name);
+    if (people.isEmpty() || clauses.isEmpty()) {
+        return PeopleChange::None;
     }
-    const Reading parted(sentence, contacts);
-    QStringList clauses = clausesOf(parted);
-    if (clauses.isEmpty()) {
-        clauses.append(sentence.trimmed());
-    }
-    Changes changes;
+    const bool timed = std::any_of(reading.tokens().cbegin(), reading.tokens().cend(),
+                                   [](const Token &token) { return token.kind == Token::Kind::Time; });
+    Changes changes(people, contacts, timed);
     for (const QString &clause : qAsConst(clauses)) {
-        changes.add(clause, people, contacts);
+        changes.add(clause);
     }
-    if (!changes.settle(people)) {
-        return false;
+    const PeopleChange change = changes.settle();
+    static const QRegularExpression absent(QStringLiteral("不来|来不了|没空"));
+    if (isUnsure(reading) && (change != PeopleChange::None || reading.sentence().raw().contains(absent))) {
+        return PeopleChange::Unclear;
     }
-    removePeople(outcome, changes.spared);
-    for (const FoundName &name : changes.called) {
-        outcome.addSlot(NameSlot, name.said, name.name);
+    if (change == PeopleChange::Done) {
+        changes.applyTo(outcome);
+        rest = changes.rest();
     }
-    rest = changes.others.join(QChar(u'，'));
-    return true;
+    return change;
 }
 
 } // namespace understanding

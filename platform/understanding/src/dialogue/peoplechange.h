@@ -10,11 +10,18 @@
 namespace understanding {
 
 /// True if @p clause says that @p name is not to come: 李娜不来了, 别叫李娜.
-bool isSpared(const QString &clause, const QString &name);
+bool isExcluded(const QString &clause, const QString &name);
+
+enum class PeopleChange {
+    None,
+    Unclear, ///< somebody is to be left out, but who is to come remains open
+    Done
+};
 
 /// Changes who is to come to the conference that @p outcome still asks about: 换小凯吧; 李娜就算了;
-/// 不是李娜， 是李楠. Puts what else @p reading says into @p rest. Returns false, and changes nothing, if
-/// nobody is changed or nobody would be left.
-bool changePeople(const Reading &reading, const ContactIndex &contacts, Outcome &outcome, QString &rest);
+/// 不是李娜， 是李楠. Puts what else @p reading says into @p rest. Changes nothing unless it returns
+/// PeopleChange::Done.
+PeopleChange changePeople(const Reading &reading, const ContactIndex &contacts, Outcome &outcome,
+                          QString &rest);
 
 } // namespace understanding

@@ -18,6 +18,14 @@ void Outcome::addSlot(const char *name, const QString &value, const QString &nor
     slotList.append({QLatin1String(name), value, normValue});
 }
 
+void Outcome::removeSlots(const char *name, const QString &value)
+{
+    const auto isMeant = [&](const Slot &slot) {
+        return slot.name == QLatin1String(name) && (value.isEmpty() || slot.value == value);
+    };
+    slotList.erase(std::remove_if(slotList.begin(), slotList.end(), isMeant), slotList.end());
+}
+
 void Outcome::addSlotsOf(const Outcome &other)
 {
     for (const Slot &slot : other.slotList) {

@@ -215,7 +215,7 @@ private:
     }
 
     /// 别 in 小凯和乐乐，别叫阿强, 不 in 邀请小凯，不请阿强.
-    bool sparesNext(std::size_t at) const
+    bool excludesNext(std::size_t at) const
     {
         constexpr WordClasses calls = WordClass::Trigger | WordClass::Pull | WordClass::Invite;
         const bool negation = m_tokens[at].length == 1 || m_tokens[at].is(WordClass::Negation);
@@ -239,7 +239,7 @@ private:
                 count = m_names.size();
                 limit = at + farthest;
             }
-            if (sparesNext(at)) {
+            if (excludesNext(at)) {
                 return at;
             }
             const std::size_t behind = m_places.endOfModifier(at);

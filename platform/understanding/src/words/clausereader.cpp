@@ -31,7 +31,7 @@ void makePlain(Token &token)
 }
 
 /// The first token from @p at on that is neither a filler nor asks, otherwise the last one.
-std::size_t nextWeighty(const Tokens &tokens, std::size_t at)
+std::size_t skipFillers(const Tokens &tokens, std::size_t at)
 {
     while (at + 1 < tokens.size() && tokens[at].isAny(WordClass::Filler | WordClass::Question)) {
         ++at;
@@ -44,7 +44,7 @@ void settleConferences(const QString &text, Tokens &tokens)
 {
     for (std::size_t at = 0; at + 1 < tokens.size(); ++at) { // 把这会停了, 这会差不多可以散了吧
         if (tokens[at].length == 2 && startsAt(text, tokens[at].position, QStringLiteral("这会")) &&
-            tokens[nextWeighty(tokens, at + 1)].isAny(WordClass::Close | WordClass::CloseAlone)) {
+            tokens[skipFillers(tokens, at + 1)].isAny(WordClass::Close | WordClass::CloseAlone)) {
             tokens[at].classes.add(WordClass::Conference);
         }
     }

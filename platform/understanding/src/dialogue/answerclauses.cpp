@@ -45,9 +45,9 @@ bool isReason(const Reading &clause)
         WordClass::Close | WordClass::CloseAlone | WordClass::Join | WordClass::Pull | WordClass::Invite |
         WordClass::InviteNoun | WordClass::Arrive | WordClass::Add | WordClass::Buddy | WordClass::Recurring;
     static const QStringList hedges = {
-        QStringLiteral("但"),     QStringLiteral("不过"), QStringLiteral("问"),
-        QStringLiteral("换"),     QStringLiteral("改"),   QStringLiteral("考虑"),
-        QStringLiteral("不确定"), QStringLiteral("别"),   QStringLiteral("告诉")};
+        QStringLiteral("但"),   QStringLiteral("不过"), QStringLiteral("问"),     QStringLiteral("换"),
+        QStringLiteral("改"),   QStringLiteral("考虑"), QStringLiteral("不确定"), QStringLiteral("别"),
+        QStringLiteral("告诉"), QStringLiteral("再进")};
     const QString &text = clause.sentence().text();
     const bool waits = text.contains(QChar(u'等')) && !text.contains(QStringLiteral("等着"));
     const bool somebodyElse = !clause.names().empty() && clause.timeSaid().isEmpty(); // 张伟也来

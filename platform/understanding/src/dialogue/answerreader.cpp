@@ -80,9 +80,9 @@ bool takeNumber(const Reading &reading, Outcome &outcome)
         return true;
     }
     // 前面三位是九六四, 中间那个是零 214870536
-    static const QRegularExpression part(
-        QStringLiteral("[前后]面?[几一二两三四五六0-9]位|开头|打头|尾号|末尾|不确定|不一定|说不准"
-                       "|(^|[^零一二两三四五六七八九幺])[零一二两三四五六七八九幺] +[0-9]{6}"));
+    static const QRegularExpression part(QStringLiteral(
+        "[前后]面?[几一二两三四五六0-9]位|开头|打头|尾号|末尾|不确定|不一定|说不准"
+        "|再[进加]|对不对|(^|[^零一二两三四五六七八九幺])[零一二两三四五六七八九幺] +[0-9]{6}"));
     if (reading.conferenceNumber().isEmpty() || !holdsOnly(reading, isCode) ||
         reading.sentence().text().contains(part)) {
         return false;
@@ -199,7 +199,7 @@ std::vector<FoundName> answeredNames(const Reading &reading)
                });
     });
     // 彭宇和傅佳，不要傅佳; 乐乐不来了; 叫谁好呢
-    static const QRegularExpression doubts(QStringLiteral("谁|啥|什么|不来|来不了|不叫|不约|不请|算了"));
+    static const QRegularExpression doubts(QStringLiteral("谁|啥|什么|还是|不来|来不了|不叫|不约|不请|算了"));
     const bool unsure = reading.has(WordClass::Negation) || reading.sentence().text().contains(doubts);
     return onlyNames && !unsure ? names : std::vector<FoundName>();
 }
@@ -316,7 +316,10 @@ bool takeAnswer(const QString &question, const Reading &reading, const QDateTime
         return false;
     }
     const bool forRoom = reading.sentence().text().endsWith(QChar(u'用')); // 下午三点用
-    if (forRoom || (reading.has(WordClass::Repair) && reading.clockCount() > 1)) {
+    // 我四点有事，五点吧; 三点，还是四点吧
+    const bool several =
+        reading.has(WordClass::Punctuation) && (reading.clockCount() > 1 || reading.namesTwoDays());
+    if (forRoom || several) {
         return false;
     }
     TimeExpression time = reading.time();

@@ -124,8 +124,7 @@ bool Dialogue::Private::startsSomethingNew(const Reading &reading, const Outcome
     const bool adds = question.outcome.intent == QLatin1String(AddBuddy) &&
                       fresh.intent == QLatin1String(InviteConference) &&
                       !reading.hasAny(WordClass::Conference | WordClass::Join | WordClass::Arrive);
-    const bool drops = fresh.intent == QLatin1String(CloseConference) && callsOff(reading);
-    if (fresh.intent.isEmpty() || adds || drops) {
+    if (fresh.intent.isEmpty() || adds) {
         return false;
     }
     return fresh.isCommand() || fresh.intent != question.outcome.intent ||
@@ -281,7 +280,9 @@ QString Dialogue::turn(const QString &sentence, const QDateTime &now)
         const Interpretation remaining = interpret(rest, now, m_d->contacts);
         return m_d->answerQuestion(remaining.whole, remaining.outcome, now);
     }
-    return m_d->answerQuestion(reading, fresh, now);
+    const bool leaves = fresh.intent == QLatin1String(CloseConference) && !callsOff(reading);
+    const bool other = leaves || fresh.intent != QLatin1String(CloseConference);
+    return m_d->answerQuestion(reading, other ? fresh : Outcome(), now);
 }
 
 void Dialogue::noteReply(int code, const QString &)

@@ -16,7 +16,7 @@ namespace understanding {
 
 namespace {
 
-constexpr char16_t Leads[] = u"^(?:[那就还是哦嗯哎啊呃先]|帮我|今天|干脆)*";
+constexpr char16_t Leads[] = u"^(?:[那就还是哦嗯哎啊呃先]|要不|帮我|今天|干脆)*";
 constexpr char16_t Ends[] = u"[了吧啊呀的啦]*$";
 constexpr char16_t Calls[] = u"(?:约|叫|跟|和|找|请|带|喊|拉|邀请)";
 
@@ -55,57 +55,71 @@ QStringList namesOf(const QString &text, const ContactIndex &contacts)
     return only ? names : QStringList();
 }
 
-/// 李娜没空: a reason to call somebody else, or only to meet at another time.
-bool isBusy(const QString &clause, const QString &name)
+/// Matches one or several of @p names: 李娜和小凯.
+QString patternOf(const QStringList &names)
 {
-    return matches(clause, QStringLiteral("%1(?:[他她又也]|今天|临时|正好|刚好)*(?:没空|没时间|有事儿?|请假|"
-                                          "出差|在外地|不在|走不开|在忙|很忙)")
-                               .arg(QRegularExpression::escape(name)));
+    QStringList escaped;
+    for (const QString &name : names) {
+        escaped.append(QRegularExpression::escape(name));
+    }
+    return QStringLiteral("(?:%1)(?:(?:[和跟与、]|还有)(?:%1))*").arg(escaped.join(QLatin1Char('|')));
 }
 
-/// 换个人: everybody; 叫错了, or 不对 where no time is meant: the only one.
-bool excludesAll(const QString &clause, int people, bool timed)
+/// 李娜没空, for the pattern of a name: a reason to call somebody else, or to meet at another time.
+bool isBusy(const QString &clause, const QString &name)
+{
+    return matches(clause, QStringLiteral("%1(?:[他她又也都]|今天|临时|正好|刚好)*(?:没空|没时间|有事儿?|"
+                                          "请假|出差|在外地|不在|走不开|在忙|很忙)")
+                               .arg(name));
+}
+
+/// True if @p clause says that whom the pattern @p name means is not to come.
+bool excludes(const QString &clause, const QString &name)
+{
+    const QString calls = QString::fromUtf16(Calls);
+    return matches(clause, QStringLiteral("(?:不是|不要|不用%2?|[不别甭]%2|去掉|删掉|换掉|除了|除去)%1")
+                               .arg(name, calls)) ||
+           matches(clause, QStringLiteral("把?%1(?:[他她就先也又说都]|今天|临时|这次)*"
+                                          "(?:算|[不别甭]%2|不[来去要用]|不参加|不用%2|换掉?|去掉|"
+                                          "(?:来|去|到|参加|赶)不[了成上])")
+                               .arg(name, calls));
+}
+
+/// 换个人: everybody; 叫错了, or 不对 unless that is ambiguous: the only one.
+bool excludesAll(const QString &clause, int people, bool ambiguous)
 {
     static const QString anybody =
         QStringLiteral("(?:(?:两|三|几)个|全|全部)?都?换(?:个|一个|一下|掉)?(?:人|别人)?");
     static const QString mistaken = QStringLiteral("(?:[叫喊]错|不是[他她])");
     static const QString mistakenSomehow = QStringLiteral("(?:不|不对|不是|[说弄搞]?错)");
     return matches(clause, anybody) ||
-           (people == 1 && (matches(clause, mistaken) || (!timed && matches(clause, mistakenSomehow))));
+           (people == 1 && (matches(clause, mistaken) || (!ambiguous && matches(clause, mistakenSomehow))));
 }
 
 /// What the clauses of one answer say about people.
 class Changes final
 {
 public:
-    Changes(const QStringList &people, const ContactIndex &contacts, bool timed)
+    Changes(const QStringList &people, const ContactIndex &contacts, bool timed, bool alone)
         : m_people(people)
         , m_contacts(contacts)
         , m_timed(timed)
+        , m_alone(alone)
     {
     }
 
     void add(const QString &clause)
     {
-        const int before = m_excluded.size() + m_busy.size();
-        for (const QString &name : m_people) {
-            if (!clause.contains(name)) {
-                continue;
-            }
-            if (exchanges(clause, name)) {
-                return;
-            }
-            if (isExcluded(clause, name)) {
-                m_excluded.append(name);
-            } else if (isBusy(clause, name)) {
-                m_busy.append(name);
-                m_busyClauses.append(clause);
-            }
+        QStringList mentioned;
+        std::copy_if(m_people.cbegin(), m_people.cend(), std::back_inserter(mentioned),
+                     [&](const QString &name) { return clause.contains(name); });
+        if (!mentioned.isEmpty() && judges(clause, mentioned)) {
+            return;
         }
-        const bool handled = m_excluded.size() + m_busy.size() > before || keepsOnly(clause);
-        if (!handled && excludesAll(clause, m_people.size(), m_timed)) {
+        // 不 alone is a no, and 不对 beside a time may repair that.
+        if (excludesAll(clause, m_people.size(), m_timed || m_alone)) {
             m_excluded = m_people;
-        } else if (!handled && !calls(clause)) {
+        } else if (!keepsOnly(clause) && !comes(clause) && !calls(clause)) {
             m_others.append(clause);
         }
     }
@@ -115,11 +129,15 @@ public:
         if (m_unclear) {
             return PeopleChange::Unclear;
         }
-        if (m_called.isEmpty()) {
-            m_others += m_busyClauses; // 李娜没空 alone is a reason
+        const bool settled = std::any_of(m_busy.cbegin(), m_busy.cend(), [&](const QString &name) {
+            return m_excluded.contains(name); // 李娜没空，就张伟
+        });
+        if (m_called.isEmpty() && m_timed && !settled) {
+            m_others += m_busyClauses; // the reason for a time: 李娜没空，四点吧
         } else {
             m_excluded += m_busy;
         }
+        m_excluded.removeDuplicates();
         if (m_excluded.isEmpty() && m_replaces) { // 换小凯吧: whom, if there are several?
             if (m_people.size() > 1) {
                 return PeopleChange::Unclear;
@@ -127,8 +145,9 @@ public:
             m_excluded = m_people;
         }
         if (m_excluded.isEmpty()) {
-            return PeopleChange::None;
+            return m_added.isEmpty() ? PeopleChange::None : PeopleChange::Done;
         }
+        m_called += m_added;
         const bool somebody = !m_called.isEmpty() || m_excluded.size() < m_people.size();
         const bool again = std::any_of(m_others.cbegin(), m_others.cend(), [&](const QString &clause) {
             return std::any_of(m_excluded.cbegin(), m_excluded.cend(),
@@ -142,7 +161,7 @@ public:
         for (const QString &name : m_excluded) {
             outcome.removeSlots(NameSlot, name);
         }
-        for (const QString &name : m_called) {
+        for (const QString &name : m_called.isEmpty() ? m_added : m_called) {
             if (m_excluded.contains(name) || !m_people.contains(name)) {
                 outcome.addSlot(NameSlot, name, name);
             }
@@ -152,19 +171,38 @@ public:
     QString rest() const { return m_others.join(QChar(u'，')); }
 
 private:
-    /// 把李娜换成李楠, 不是李娜是李楠, 是李楠不是李娜.
-    bool exchanges(const QString &clause, const QString &name)
+    /// True if @p clause says something about those of the people whom it mentions.
+    bool judges(const QString &clause, const QStringList &mentioned)
     {
-        static const char16_t *const patterns[] = {u"把?%1(?:换成|换作|换为|改成)(.+?)", u"不是%1而?是(.+?)",
-                                                   u"(?:应该是)?(.+?)不是%1"};
-        for (const char16_t *pattern : patterns) {
-            const QRegularExpressionMatch said =
-                match(clause, QString::fromUtf16(pattern).arg(QRegularExpression::escape(name)));
+        const QString names = patternOf(mentioned);
+        if (exchanges(clause, names, mentioned)) {
+            return true;
+        }
+        if (excludes(clause, names)) {
+            m_excluded += mentioned;
+            return true;
+        }
+        if (isBusy(clause, names)) {
+            m_busy += mentioned;
+            m_busyClauses.append(clause);
+            return true;
+        }
+        return false;
+    }
+
+    /// 把李娜换成李楠, 不是李娜是李楠, 是李楠不是李娜.
+    bool exchanges(const QString &clause, const QString &pattern, const QStringList &mentioned)
+    {
+        static const char16_t *const patterns[] = {u"把?%1都?(?:换成|换作|换为|改成)(.+?)",
+                                                   u"不是%1而?是(.+?)", u"(?:应该是)?(.+?)不是%1"};
+        for (const char16_t *exchange : patterns) {
+            const QRegularExpressionMatch said = match(clause, QString::fromUtf16(exchange).arg(pattern));
             const QStringList names = said.hasMatch() ? namesOf(said.captured(1), m_contacts) : QStringList();
-            m_unclear = m_unclear || (pattern == patterns[0] && said.hasMatch() && names.isEmpty());
+            m_unclear = m_unclear || (exchange == patterns[0] && said.hasMatch() && names.isEmpty());
             if (!names.isEmpty()) {
-                m_excluded.append(name);
                 m_called += names;
+                std::copy_if(mentioned.cbegin(), mentioned.cend(), std::back_inserter(m_excluded),
+                             [&](const QString &name) { return !names.contains(name); });
                 return true;
             }
         }
@@ -175,7 +213,8 @@ private:
     bool keepsOnly(const QString &clause)
     {
         const QRegularExpressionMatch said =
-            match(clause, QStringLiteral("只%1?(.+?)(?:就行|就好|就可以)?").arg(QString::fromUtf16(Calls)));
+            match(clause, QStringLiteral("[只就光][要留]?%1?(.+?)(?:(?:一|两|三)个人?)?(?:就行|就好|就可以)?")
+                              .arg(QString::fromUtf16(Calls)));
         const QStringList kept = said.hasMatch() ? namesOf(said.captured(1), m_contacts) : QStringList();
         if (kept.isEmpty() || !std::all_of(kept.cbegin(), kept.cend(),
                                            [&](const QString &name) { return m_people.contains(name); })) {
@@ -186,28 +225,41 @@ private:
         return true;
     }
 
+    /// 王磊也来, 小凯来. Unclear if it is not a name that comes: 她老公也来.
+    bool comes(const QString &clause)
+    {
+        const QRegularExpressionMatch said =
+            match(clause, QStringLiteral("(.+?)(也?[要会得]?(?:来|参加|一起来|一起))"));
+        const QStringList names = said.hasMatch() ? namesOf(said.captured(1), m_contacts) : QStringList();
+        m_added += names;
+        m_unclear = m_unclear || (names.isEmpty() && said.captured(2).startsWith(QChar(u'也')));
+        return !names.isEmpty();
+    }
+
     /// Takes whom @p clause calls instead: 换小凯吧, 是李楠, 就小凯, and 小凯 behind 换人.
     bool calls(const QString &clause)
     {
         const bool anybody = m_excluded == m_people;
-        const QRegularExpressionMatch said = match(
-            clause,
-            QStringLiteral("(换[成作为个]?[跟和]?|改[成约叫找请][跟和]?|约|叫上?|跟|请|应该是|是|就)%1(.+?)")
-                .arg(anybody ? QStringLiteral("?") : QString()));
+        const QRegularExpressionMatch said =
+            match(clause, QStringLiteral("(换[成作为个]?[跟和]?|改[成约叫找请][跟和]?|约|叫上?|跟|请|应该是|"
+                                         "我说的是|是|就)%1(.+?)(?:来|参加|开会?)?")
+                              .arg(anybody ? QStringLiteral("?") : QString()));
         const QStringList names = said.hasMatch() ? namesOf(said.captured(2), m_contacts) : QStringList();
         m_called += names;
-        m_replaces = m_replaces || (!names.isEmpty() && (said.captured(1).startsWith(QChar(u'换')) ||
-                                                         said.captured(1).startsWith(QChar(u'改'))));
+        static const QRegularExpression instead(QStringLiteral("^[那嗯哦]*(?:[换改]|还是|要不|我说的是)"));
+        m_replaces = m_replaces || (!names.isEmpty() && clause.contains(instead));
         return !names.isEmpty();
     }
 
     const QStringList &m_people;
     const ContactIndex &m_contacts;
     const bool m_timed;
+    const bool m_alone;
     QStringList m_excluded;
     QStringList m_busy;
     QStringList m_busyClauses;
     QStringList m_called;
+    QStringList m_added;
     QStringList m_others; ///< clauses about something else
     bool m_replaces = false;
     bool m_unclear = false; ///< 把李娜换成线上
@@ -235,15 +287,7 @@ bool isUnsure(const Reading &reading)
 
 bool isExcluded(const QString &clause, const QString &name)
 {
-    static const QString calls = QString::fromUtf16(Calls);
-    const QString escaped = QRegularExpression::escape(name);
-    return matches(clause, QStringLiteral("(?:不是|不要|不用%2?|[不别甭]%2|去掉|删掉|换掉|除了|除去)%1")
-                               .arg(escaped, calls)) ||
-           matches(clause,
-                   QStringLiteral(
-                       "%1(?:[他她就先也又说]|今天|临时|这次)*(?:算|[不别甭]%2|不[来去要用]|不参加|不用%2|"
-                       "(?:来|去|到|参加|赶)不[了成上])")
-                       .arg(escaped, calls));
+    return clause.contains(name) && excludes(clause, QRegularExpression::escape(name));
 }
 
 PeopleChange changePeople(const Reading &reading, const ContactIndex &contacts, Outcome &outcome,
@@ -259,7 +303,7 @@ PeopleChange changePeople(const Reading &reading, const ContactIndex &contacts, 
     }
     const bool timed = std::any_of(reading.tokens().cbegin(), reading.tokens().cend(),
                                    [](const Token &token) { return token.kind == Token::Kind::Time; });
-    Changes changes(people, contacts, timed);
+    Changes changes(people, contacts, timed, clauses.size() == 1);
     for (const QString &clause : qAsConst(clauses)) {
         changes.add(clause);
     }

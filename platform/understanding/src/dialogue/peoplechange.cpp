@@ -19,15 +19,39 @@ namespace {
 constexpr char16_t Leads[] = u"^(?:[那就还是哦嗯哎啊呃先]|要不|帮我|今天|干脆)*";
 constexpr char16_t Ends[] = u"[了吧啊呀的啦]*$";
 constexpr char16_t Calls[] = u"(?:约|叫|跟|和|找|请|带|喊|拉|邀请)";
+// The people said before stand for themselves as these, so that every pattern is compiled once.
+constexpr ushort FirstPerson = 0xE000;
+constexpr char16_t Person[] = u"[\uE000-\uEFFF](?:(?:[和跟与、]|还有)[\uE000-\uEFFF])*";
 
-QRegularExpressionMatch match(const QString &clause, const QString &pattern)
+/// @p pattern for a whole clause: %1 is a verb that calls somebody, %2 one or several of the people.
+QRegularExpression whole(const QString &pattern)
 {
-    return QRegularExpression(QString::fromUtf16(Leads) + pattern + QString::fromUtf16(Ends)).match(clause);
+    return QRegularExpression(QString::fromUtf16(Leads) +
+                              QString(pattern)
+                                  .replace(QLatin1String("%1"), QString::fromUtf16(Calls))
+                                  .replace(QLatin1String("%2"), QString::fromUtf16(Person)) +
+                              QString::fromUtf16(Ends));
 }
 
-bool matches(const QString &clause, const QString &pattern)
+bool matches(const QString &clause, const QRegularExpression &pattern)
 {
-    return match(clause, pattern).hasMatch();
+    return pattern.match(clause).hasMatch();
+}
+
+QString withPlaceholders(QString clause, const QStringList &people)
+{
+    for (int at = 0; at < people.size(); ++at) {
+        clause.replace(people.at(at), QString(QChar(static_cast<ushort>(FirstPerson + at))));
+    }
+    return clause;
+}
+
+QString withNames(QString clause, const QStringList &people)
+{
+    for (int at = 0; at < people.size(); ++at) {
+        clause.replace(QChar(static_cast<ushort>(FirstPerson + at)), people.at(at));
+    }
+    return clause;
 }
 
 bool isName(const QString &text, const ContactIndex &contacts)
@@ -55,43 +79,34 @@ QStringList namesOf(const QString &text, const ContactIndex &contacts)
     return only ? names : QStringList();
 }
 
-/// Matches one or several of @p names: 李娜和小凯.
-QString patternOf(const QStringList &names)
+/// 李娜没空: a reason to call somebody else, or to meet at another time.
+bool isBusy(const QString &clause)
 {
-    QStringList escaped;
-    for (const QString &name : names) {
-        escaped.append(QRegularExpression::escape(name));
-    }
-    return QStringLiteral("(?:%1)(?:(?:[和跟与、]|还有)(?:%1))*").arg(escaped.join(QLatin1Char('|')));
+    static const QRegularExpression busy =
+        whole(QStringLiteral("%2(?:[他她又也都]|今天|临时|正好|刚好)*(?:没空|没时间|有事儿?|请假|出差|在外地|"
+                             "不在|走不开|在忙|很忙)"));
+    return matches(clause, busy);
 }
 
-/// 李娜没空, for the pattern of a name: a reason to call somebody else, or to meet at another time.
-bool isBusy(const QString &clause, const QString &name)
+/// 别叫李娜, 李娜不来了.
+bool excludes(const QString &clause)
 {
-    return matches(clause, QStringLiteral("%1(?:[他她又也都]|今天|临时|正好|刚好)*(?:没空|没时间|有事儿?|"
-                                          "请假|出差|在外地|不在|走不开|在忙|很忙)")
-                               .arg(name));
-}
-
-/// True if @p clause says that whom the pattern @p name means is not to come.
-bool excludes(const QString &clause, const QString &name)
-{
-    const QString calls = QString::fromUtf16(Calls);
-    return matches(clause, QStringLiteral("(?:不是|不要|不用%2?|[不别甭]%2|去掉|删掉|换掉|除了|除去)%1")
-                               .arg(name, calls)) ||
-           matches(clause, QStringLiteral("把?%1(?:[他她就先也又说都]|今天|临时|这次)*"
-                                          "(?:算|[不别甭]%2|不[来去要用]|不参加|不用%2|换掉?|去掉|"
-                                          "(?:来|去|到|参加|赶)不[了成上])")
-                               .arg(name, calls));
+    static const QRegularExpression before =
+        whole(QStringLiteral("(?:不是|不要|不用%1?|[不别甭]%1|去掉|删掉|换掉|除了|除去)%2"));
+    static const QRegularExpression behind =
+        whole(QStringLiteral("把?%2(?:[他她就先也又说都]|今天|临时|这次)*"
+                             "(?:算|[不别甭]%1|不[来去要用]|不参加|不用%1|换掉?|去掉|"
+                             "(?:来|去|到|参加|赶)不[了成上])"));
+    return matches(clause, before) || matches(clause, behind);
 }
 
 /// 换个人: everybody; 叫错了, or 不对 unless that is ambiguous: the only one.
 bool excludesAll(const QString &clause, int people, bool ambiguous)
 {
-    static const QString anybody =
-        QStringLiteral("(?:(?:两|三|几)个|全|全部)?都?换(?:个|一个|一下|掉)?(?:人|别人)?");
-    static const QString mistaken = QStringLiteral("(?:[叫喊]错|不是[他她])");
-    static const QString mistakenSomehow = QStringLiteral("(?:不|不对|不是|[说弄搞]?错)");
+    static const QRegularExpression anybody =
+        whole(QStringLiteral("(?:(?:两|三|几)个|全|全部)?都?换(?:个|一个|一下|掉)?(?:人|别人)?"));
+    static const QRegularExpression mistaken = whole(QStringLiteral("(?:[叫喊]错|不是[他她])"));
+    static const QRegularExpression mistakenSomehow = whole(QStringLiteral("(?:不|不对|不是|[说弄搞]?错)"));
     return matches(clause, anybody) ||
            (people == 1 && (matches(clause, mistaken) || (!ambiguous && matches(clause, mistakenSomehow))));
 }
@@ -174,15 +189,15 @@ private:
     /// True if @p clause says something about those of the people whom it mentions.
     bool judges(const QString &clause, const QStringList &mentioned)
     {
-        const QString names = patternOf(mentioned);
-        if (exchanges(clause, names, mentioned)) {
+        const QString marked = withPlaceholders(clause, m_people);
+        if (exchanges(marked, mentioned)) {
             return true;
         }
-        if (excludes(clause, names)) {
+        if (excludes(marked)) {
             m_excluded += mentioned;
             return true;
         }
-        if (isBusy(clause, names)) {
+        if (isBusy(marked)) {
             m_busy += mentioned;
             m_busyClauses.append(clause);
             return true;
@@ -191,14 +206,16 @@ private:
     }
 
     /// 把李娜换成李楠, 不是李娜是李楠, 是李楠不是李娜.
-    bool exchanges(const QString &clause, const QString &pattern, const QStringList &mentioned)
+    bool exchanges(const QString &marked, const QStringList &mentioned)
     {
-        static const char16_t *const patterns[] = {u"把?%1都?(?:换成|换作|换为|改成)(.+?)",
-                                                   u"不是%1而?是(.+?)", u"(?:应该是)?(.+?)不是%1"};
-        for (const char16_t *exchange : patterns) {
-            const QRegularExpressionMatch said = match(clause, QString::fromUtf16(exchange).arg(pattern));
-            const QStringList names = said.hasMatch() ? namesOf(said.captured(1), m_contacts) : QStringList();
-            m_unclear = m_unclear || (exchange == patterns[0] && said.hasMatch() && names.isEmpty());
+        static const QRegularExpression patterns[] = {
+            whole(QStringLiteral("把?%2都?(?:换成|换作|换为|改成)(.+?)")),
+            whole(QStringLiteral("不是%2而?是(.+?)")), whole(QStringLiteral("(?:应该是)?(.+?)不是%2"))};
+        for (const QRegularExpression &pattern : patterns) {
+            const QRegularExpressionMatch said = pattern.match(marked);
+            const QStringList names =
+                said.hasMatch() ? namesOf(withNames(said.captured(1), m_people), m_contacts) : QStringList();
+            m_unclear = m_unclear || (&pattern == &patterns[0] && said.hasMatch() && names.isEmpty());
             if (!names.isEmpty()) {
                 m_called += names;
                 std::copy_if(mentioned.cbegin(), mentioned.cend(), std::back_inserter(m_excluded),
@@ -212,9 +229,9 @@ private:
     /// 只叫李娜: nobody else of those said before.
     bool keepsOnly(const QString &clause)
     {
-        const QRegularExpressionMatch said =
-            match(clause, QStringLiteral("[只就光][要留]?%1?(.+?)(?:(?:一|两|三)个人?)?(?:就行|就好|就可以)?")
-                              .arg(QString::fromUtf16(Calls)));
+        static const QRegularExpression only =
+            whole(QStringLiteral("[只就光][要留]?%1?(.+?)(?:(?:一|两|三)个人?)?(?:就行|就好|就可以)?"));
+        const QRegularExpressionMatch said = only.match(clause);
         const QStringList kept = said.hasMatch() ? namesOf(said.captured(1), m_contacts) : QStringList();
         if (kept.isEmpty() || !std::all_of(kept.cbegin(), kept.cend(),
                                            [&](const QString &name) { return m_people.contains(name); })) {
@@ -228,8 +245,9 @@ private:
     /// 王磊也来, 小凯来. Unclear if it is not a name that comes: 她老公也来.
     bool comes(const QString &clause)
     {
-        const QRegularExpressionMatch said =
-            match(clause, QStringLiteral("(.+?)(也?[要会得]?(?:来|参加|一起来|一起))"));
+        static const QRegularExpression coming =
+            whole(QStringLiteral("(.+?)(也?[要会得]?(?:来|参加|一起来|一起))"));
+        const QRegularExpressionMatch said = coming.match(clause);
         const QStringList names = said.hasMatch() ? namesOf(said.captured(1), m_contacts) : QStringList();
         m_added += names;
         m_unclear = m_unclear || (names.isEmpty() && said.captured(2).startsWith(QChar(u'也')));
@@ -239,11 +257,13 @@ private:
     /// Takes whom @p clause calls instead: 换小凯吧, 是李楠, 就小凯, and 小凯 behind 换人.
     bool calls(const QString &clause)
     {
-        const bool anybody = m_excluded == m_people;
-        const QRegularExpressionMatch said =
-            match(clause, QStringLiteral("(换[成作为个]?[跟和]?|改[成约叫找请][跟和]?|约|叫上?|跟|请|应该是|"
-                                         "我说的是|是|就)%1(.+?)(?:来|参加|开会?)?")
-                              .arg(anybody ? QStringLiteral("?") : QString()));
+        static const QString verbs =
+            QStringLiteral("(换[成作为个]?[跟和]?|改[成约叫找请][跟和]?|约|叫上?|跟|请|应该是|"
+                           "我说的是|是|就)");
+        static const QString who = QStringLiteral("(.+?)(?:来|参加|开会?)?");
+        static const QRegularExpression calling = whole(verbs + who);
+        static const QRegularExpression named = whole(verbs + QLatin1Char('?') + who);
+        const QRegularExpressionMatch said = (m_excluded == m_people ? named : calling).match(clause);
         const QStringList names = said.hasMatch() ? namesOf(said.captured(2), m_contacts) : QStringList();
         m_called += names;
         static const QRegularExpression instead(QStringLiteral("^[那嗯哦]*(?:[换改]|还是|要不|我说的是)"));
@@ -287,7 +307,7 @@ bool isUnsure(const Reading &reading)
 
 bool isExcluded(const QString &clause, const QString &name)
 {
-    return clause.contains(name) && excludes(clause, QRegularExpression::escape(name));
+    return clause.contains(name) && excludes(withPlaceholders(clause, {name}));
 }
 
 PeopleChange changePeople(const Reading &reading, const ContactIndex &contacts, Outcome &outcome,

@@ -11,6 +11,7 @@
 #include "dialogue/semanticwriter.h"
 #include "dialogue/yesno.h"
 #include "meaning/interpreter.h"
+#include "meaning/suspicions.h"
 #include "words/contactindex.h"
 
 namespace understanding {
@@ -263,7 +264,7 @@ QString Dialogue::turn(const QString &sentence, const QDateTime &now)
         return m_d->reply(fresh, interpreted.reading().time());
     }
     const bool toConfirm = m_d->question.outcome.answer.startsWith(QLatin1String("confirm-"));
-    const bool ended = givesUp(reading, fresh) || dropsPlan(reading, fresh);
+    const bool ended = givesUp(reading, fresh) || dropsPlan(reading, fresh) || isTakenBack(reading);
     if (ended && !(toConfirm && readYesNo(reading.sentence()) == YesNo::Yes)) {
         return m_d->close("cancelled");
     }

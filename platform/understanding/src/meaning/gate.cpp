@@ -102,6 +102,9 @@ static bool repairsSomething(const Reading &reading)
 
 Verdict judge(const Reading &reading, const QString &intent)
 {
+    if (isTakenBack(reading)) {
+        return Verdict::Refuse;
+    }
     const Tokens &tokens = reading.tokens();
     bool ordered = false;
     bool requested = false;

@@ -5,6 +5,8 @@
 
 #include "text/scan.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace understanding {
@@ -260,6 +262,14 @@ bool proposesOpening(const Reading &reading)
         }
     }
     return false;
+}
+
+bool isTakenBack(const Reading &reading)
+{
+    static const QRegularExpression end(QStringLiteral(
+        "[，。！？,.!?… ](?:[哎唉哦嗯那就呃还是]|哎呀)*(?:算了|罢了|当我没说|不用了)[吧啊呀哈]*"
+        "(?:[，, ]*(?:还是)?(?:先?[不别甭].{1,4}))?[。！.!]*$"));
+    return reading.sentence().raw().contains(end);
 }
 
 } // namespace understanding

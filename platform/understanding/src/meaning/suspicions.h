@@ -73,4 +73,7 @@ namespace understanding {
 /// 邀请邻居家的小龙，进咱们会议: somebody else is to come.
 [[nodiscard]] bool alsoInvites(const Reading &reading);
 
+/// 明天下午三点和李娜开会，算了; 加入880100002，算了，先不进: nothing is wanted after all.
+[[nodiscard]] bool isTakenBack(const Reading &reading);
+
 } // namespace understanding

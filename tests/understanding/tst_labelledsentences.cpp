@@ -85,7 +85,7 @@ private Q_SLOTS:
         }
         qInfo("%s", qPrintable(rates.toString()));
         QCOMPARE(rates.sentences, 6703);
-        QCOMPARE(rates.dialogues, 1673);
+        QCOMPARE(rates.dialogues, 1674);
         compare(rates, Own);
     }
 
@@ -105,7 +105,7 @@ private:
         QVERIFY(rates.negativesActedOn <= bounds.negatives);
     }
 
-    static constexpr Bounds Own = {6472, 1658, 0};
+    static constexpr Bounds Own = {6472, 1659, 0};
     static constexpr Bounds Learned = {2505, 789, 0};
     static constexpr Bounds Apart = {1215, 383, 2};
 };

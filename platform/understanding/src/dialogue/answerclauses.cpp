@@ -8,7 +8,6 @@
 #include "meaning/intentrules.h"
 #include "meaning/suspicions.h"
 
-#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -89,14 +88,6 @@ bool isChosen(const QString &clause)
            clause.startsWith(QChar(u'那'));
 }
 
-/// 乐乐不来, who is among those to be invited: asking again is better than inviting her.
-bool saysWhoStaysAway(const QString &clause, const Outcome &outcome)
-{
-    return std::any_of(outcome.slotList.cbegin(), outcome.slotList.cend(), [&](const Slot &slot) {
-        return slot.name == QLatin1String(NameSlot) && isExcluded(clause, slot.value);
-    });
-}
-
 /// 周四她请假: says something about somebody.
 bool tellsSomething(const Reading &clause)
 {
@@ -135,9 +126,6 @@ bool takeAnsweringClause(const QString &question, const Reading &reading, const 
 {
     const QStringList clauses = clausesOf(reading);
     const bool whom = question == QLatin1String("whom-to-invite") || question == QLatin1String("whom-to-add");
-    static const QStringList absent = {QStringLiteral("不来"), QStringLiteral("来不了"),
-                                       QStringLiteral("不叫"), QStringLiteral("不约"),
-                                       QStringLiteral("算了")};
     std::vector<Outcome> answers;
     std::vector<Outcome> plain;
     std::vector<Outcome> chosen;
@@ -152,9 +140,7 @@ bool takeAnsweringClause(const QString &question, const Reading &reading, const 
                 plain.push_back(answered);
             }
             answers.push_back(std::move(answered));
-        } else if (!isReason(clause) ||
-                   (whom && (clause.has(WordClass::Negation) || containsAny(text, absent))) ||
-                   saysWhoStaysAway(text, outcome)) {
+        } else if (!isReason(clause) || (whom && (clause.has(WordClass::Negation) || tellsAbsence(text)))) {
             return false; // 彭宇和傅佳，傅佳就别叫了
         }
     }
@@ -176,9 +162,8 @@ bool takeAnsweringClause(const QString &question, const Reading &reading, const 
 
 bool takeOtherNumber(const Reading &reading, const ContactIndex &contacts, Outcome &outcome)
 {
-    static const QRegularExpression wrong(QStringLiteral("号.{0,2}(?:错|不对)|(?:错|不是这个|不对).{0,3}号"));
     const QStringList clauses = clausesOf(reading);
-    if (clauses.size() < 2 || !clauses.first().contains(wrong)) {
+    if (clauses.size() < 2 || !tellsWrongNumber(clauses.first())) {
         return false;
     }
     Outcome other;

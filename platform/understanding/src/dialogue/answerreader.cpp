@@ -3,6 +3,7 @@
 
 #include "dialogue/answerreader.h"
 
+#include "dialogue/peoplechange.h"
 #include "meaning/interpreter.h"
 #include "names/namelook.h"
 #include "text/chinesenumber.h"
@@ -199,26 +200,10 @@ std::vector<FoundName> answeredNames(const Reading &reading)
                });
     });
     // 彭宇和傅佳，不要傅佳; 乐乐不来了; 叫谁好呢
-    static const QRegularExpression doubts(QStringLiteral("谁|啥|什么|还是|不来|来不了|不叫|不约|不请|算了"));
-    const bool unsure = reading.has(WordClass::Negation) || reading.sentence().text().contains(doubts);
+    static const QRegularExpression asking(QStringLiteral("谁|啥|什么|还是"));
+    const QString &text = reading.sentence().text();
+    const bool unsure = reading.has(WordClass::Negation) || text.contains(asking) || tellsAbsence(text);
     return onlyNames && !unsure ? names : std::vector<FoundName>();
-}
-
-bool replaceNames(const Reading &reading, Outcome &outcome)
-{
-    if (outcome.intent != QLatin1String(CreateConference) || !reading.has(WordClass::Repair) ||
-        !reading.timeSaid().isEmpty()) {
-        return false;
-    }
-    const std::vector<FoundName> names = answeredNames(reading);
-    if (names.empty()) {
-        return false;
-    }
-    outcome.removeSlots(NameSlot);
-    for (const FoundName &name : names) {
-        outcome.addSlot(NameSlot, name.said, name.name);
-    }
-    return true;
 }
 
 /// Takes names given with the time that was asked for: adds them, or replaces earlier ones (改成跟老顾).

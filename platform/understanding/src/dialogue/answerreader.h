@@ -15,10 +15,6 @@ namespace understanding {
 /// The names of an answer that consists of names, otherwise none.
 std::vector<FoundName> answeredNames(const Reading &reading);
 
-/// 不对，应该是小芳, while a time is asked for: puts other people in place of those said before.
-/// Returns false if @p reading says nothing of the kind.
-bool replaceNames(const Reading &reading, Outcome &outcome);
-
 /// Takes @p reading as the answer to @p question (a row of answers.tsv) and adds the slot to @p outcome.
 /// Accepts only a sentence that holds nothing but an answer, so that chit-chat never fills a slot. The time
 /// said so far is @p timeBefore. Returns false if nothing was answered; sets a new problem with the answer as

@@ -140,7 +140,7 @@ bool Dialogue::Private::addsPeople(const Reading &reading, const Outcome &fresh)
            !reading.hasAny(WordClass::Conference | WordClass::Join | WordClass::Repair);
 }
 
-/// 好啊，再叫上小葛: a yes, and who else is to come. Whoever is spared or replaced makes it unclear.
+/// 好啊，再叫上小葛: a yes, and who else is to come. Whoever is left out or replaced makes it unclear.
 static bool invitesMore(const Reading &reading, const Outcome &fresh)
 {
     constexpr WordClasses unclear =
@@ -206,9 +206,6 @@ QString Dialogue::Private::answerQuestion(const Reading &reading, const Outcome 
                         (!otherCommand && asked != PasswordQuestion &&
                          takeAnsweringClause(asked, reading, now, question.time, contacts, answered)));
     if (!taken) {
-        if (replaceNames(reading, question.outcome)) {
-            return askAgain();
-        }
         if (addsPeople(reading, fresh)) {
             question.outcome.addSlotsOf(fresh);
             return askStill();
@@ -281,9 +278,8 @@ QString Dialogue::turn(const QString &sentence, const QDateTime &now)
         const Interpretation remaining = interpret(rest, now, m_d->contacts);
         return m_d->answerQuestion(remaining.whole, remaining.outcome, now);
     }
-    const bool leaves = fresh.intent == QLatin1String(CloseConference) && !callsOff(reading);
-    const bool other = leaves || fresh.intent != QLatin1String(CloseConference);
-    return m_d->answerQuestion(reading, other ? fresh : Outcome(), now);
+    const bool nothing = fresh.intent == QLatin1String(CloseConference) && callsOff(reading);
+    return m_d->answerQuestion(reading, nothing ? Outcome() : fresh, now);
 }
 
 void Dialogue::noteReply(int code, const QString &)

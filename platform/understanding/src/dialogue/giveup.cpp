@@ -10,20 +10,20 @@
 
 namespace understanding {
 
+/// What may stand where nothing else is said.
+static constexpr WordClasses Harmless = WordClass::GiveUp | WordClass::Filler | WordClass::Address;
+
 bool isGiveUp(const Reading &reading)
 {
-    constexpr WordClasses harmless =
-        WordClass::GiveUp | WordClass::Filler | WordClass::Address | WordClass::Punctuation;
     return reading.has(WordClass::GiveUp) &&
            std::all_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
-               return token.isAny(harmless) || token.kind == Token::Kind::Space ||
+               return token.isAny(Harmless | WordClass::Punctuation) || token.kind == Token::Kind::Space ||
                       (token.kind == Token::Kind::Other && token.length == 1);
            });
 }
 
 static bool beginsWithGiveUp(const Reading &reading)
 {
-    constexpr WordClasses harmless = WordClass::GiveUp | WordClass::Filler | WordClass::Address;
     bool givesUp = false;
     for (const Token &token : reading.tokens()) {
         const bool remark = givesUp && token.is(WordClass::Actor); // 算了他在上课
@@ -37,7 +37,7 @@ static bool beginsWithGiveUp(const Reading &reading)
             }
             continue; // 哎，不弄了
         }
-        if (!token.isAny(harmless)) {
+        if (!token.isAny(Harmless)) {
             return false;
         }
         givesUp = givesUp || token.is(WordClass::GiveUp);
@@ -47,12 +47,11 @@ static bool beginsWithGiveUp(const Reading &reading)
 
 static bool endsWithGiveUp(const Reading &reading)
 {
-    constexpr WordClasses harmless = WordClass::GiveUp | WordClass::Filler | WordClass::Address;
     const Tokens &tokens = reading.tokens();
     bool givesUp = false;
     for (auto token = tokens.crbegin(); token != tokens.crend() && !token->is(WordClass::Punctuation);
          ++token) {
-        if (!token->isAny(harmless)) {
+        if (!token->isAny(Harmless)) {
             return false;
         }
         givesUp = givesUp || token->is(WordClass::GiveUp);

@@ -11,6 +11,8 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <numeric>
+#include <vector>
 
 namespace understanding {
 
@@ -33,15 +35,25 @@ QRegularExpression whole(const QString &pattern)
                               QString::fromUtf16(Ends));
 }
 
+QString placeholder(int person)
+{
+    return {QChar(static_cast<ushort>(FirstPerson + person))};
+}
+
 bool matches(const QString &clause, const QRegularExpression &pattern)
 {
     return pattern.match(clause).hasMatch();
 }
 
+/// @p clause with a placeholder for each of @p people, the longest names first: 李娜 is in 李娜娜.
 QString withPlaceholders(QString clause, const QStringList &people)
 {
-    for (int at = 0; at < people.size(); ++at) {
-        clause.replace(people.at(at), QString(QChar(static_cast<ushort>(FirstPerson + at))));
+    std::vector<int> order(static_cast<std::size_t>(people.size()));
+    std::iota(order.begin(), order.end(), 0);
+    std::sort(order.begin(), order.end(),
+              [&](int left, int right) { return people.at(left).size() > people.at(right).size(); });
+    for (const int at : order) {
+        clause.replace(people.at(at), placeholder(at));
     }
     return clause;
 }
@@ -49,7 +61,7 @@ QString withPlaceholders(QString clause, const QStringList &people)
 QString withNames(QString clause, const QStringList &people)
 {
     for (int at = 0; at < people.size(); ++at) {
-        clause.replace(QChar(static_cast<ushort>(FirstPerson + at)), people.at(at));
+        clause.replace(placeholder(at), people.at(at));
     }
     return clause;
 }
@@ -125,10 +137,7 @@ public:
 
     void add(const QString &clause)
     {
-        QStringList mentioned;
-        std::copy_if(m_people.cbegin(), m_people.cend(), std::back_inserter(mentioned),
-                     [&](const QString &name) { return clause.contains(name); });
-        if (!mentioned.isEmpty() && judges(clause, mentioned)) {
+        if (judges(clause)) {
             return;
         }
         // 不 alone is a no, and 不对 beside a time may repair that.
@@ -159,10 +168,10 @@ public:
             }
             m_excluded = m_people;
         }
+        m_called += m_added;
         if (m_excluded.isEmpty()) {
             return m_added.isEmpty() ? PeopleChange::None : PeopleChange::Done;
         }
-        m_called += m_added;
         const bool somebody = !m_called.isEmpty() || m_excluded.size() < m_people.size();
         const bool again = std::any_of(m_others.cbegin(), m_others.cend(), [&](const QString &clause) {
             return std::any_of(m_excluded.cbegin(), m_excluded.cend(),
@@ -176,7 +185,7 @@ public:
         for (const QString &name : m_excluded) {
             outcome.removeSlots(NameSlot, name);
         }
-        for (const QString &name : m_called.isEmpty() ? m_added : m_called) {
+        for (const QString &name : m_called) {
             if (m_excluded.contains(name) || !m_people.contains(name)) {
                 outcome.addSlot(NameSlot, name, name);
             }
@@ -187,9 +196,18 @@ public:
 
 private:
     /// True if @p clause says something about those of the people whom it mentions.
-    bool judges(const QString &clause, const QStringList &mentioned)
+    bool judges(const QString &clause)
     {
         const QString marked = withPlaceholders(clause, m_people);
+        QStringList mentioned;
+        for (int at = 0; at < m_people.size(); ++at) {
+            if (marked.contains(placeholder(at))) {
+                mentioned.append(m_people.at(at));
+            }
+        }
+        if (mentioned.isEmpty()) {
+            return false;
+        }
         if (exchanges(marked, mentioned)) {
             return true;
         }
@@ -213,8 +231,7 @@ private:
             whole(QStringLiteral("不是%2而?是(.+?)")), whole(QStringLiteral("(?:应该是)?(.+?)不是%2"))};
         for (const QRegularExpression &pattern : patterns) {
             const QRegularExpressionMatch said = pattern.match(marked);
-            const QStringList names =
-                said.hasMatch() ? namesOf(withNames(said.captured(1), m_people), m_contacts) : QStringList();
+            const QStringList names = namesOf(withNames(said.captured(1), m_people), m_contacts);
             m_unclear = m_unclear || (&pattern == &patterns[0] && said.hasMatch() && names.isEmpty());
             if (!names.isEmpty()) {
                 m_called += names;
@@ -232,7 +249,7 @@ private:
         static const QRegularExpression only =
             whole(QStringLiteral("[只就光][要留]?%1?(.+?)(?:(?:一|两|三)个人?)?(?:就行|就好|就可以)?"));
         const QRegularExpressionMatch said = only.match(clause);
-        const QStringList kept = said.hasMatch() ? namesOf(said.captured(1), m_contacts) : QStringList();
+        const QStringList kept = namesOf(said.captured(1), m_contacts);
         if (kept.isEmpty() || !std::all_of(kept.cbegin(), kept.cend(),
                                            [&](const QString &name) { return m_people.contains(name); })) {
             return false;
@@ -248,7 +265,7 @@ private:
         static const QRegularExpression coming =
             whole(QStringLiteral("(.+?)(也?[要会得]?(?:来|参加|一起来|一起))"));
         const QRegularExpressionMatch said = coming.match(clause);
-        const QStringList names = said.hasMatch() ? namesOf(said.captured(1), m_contacts) : QStringList();
+        const QStringList names = namesOf(said.captured(1), m_contacts);
         m_added += names;
         m_unclear = m_unclear || (names.isEmpty() && said.captured(2).startsWith(QChar(u'也')));
         return !names.isEmpty();
@@ -264,7 +281,7 @@ private:
         static const QRegularExpression calling = whole(verbs + who);
         static const QRegularExpression named = whole(verbs + QLatin1Char('?') + who);
         const QRegularExpressionMatch said = (m_excluded == m_people ? named : calling).match(clause);
-        const QStringList names = said.hasMatch() ? namesOf(said.captured(2), m_contacts) : QStringList();
+        const QStringList names = namesOf(said.captured(2), m_contacts);
         m_called += names;
         static const QRegularExpression instead(QStringLiteral("^[那嗯哦]*(?:[换改]|还是|要不|我说的是)"));
         m_replaces = m_replaces || (!names.isEmpty() && clause.contains(instead));
@@ -305,9 +322,10 @@ bool isUnsure(const Reading &reading)
 
 } // namespace
 
-bool isExcluded(const QString &clause, const QString &name)
+bool tellsAbsence(const QString &text)
 {
-    return clause.contains(name) && excludes(withPlaceholders(clause, {name}));
+    static const QRegularExpression absent(QStringLiteral("不来|来不了|没空|不叫|不约|不请|算了"));
+    return text.contains(absent);
 }
 
 PeopleChange changePeople(const Reading &reading, const ContactIndex &contacts, Outcome &outcome,
@@ -328,8 +346,7 @@ PeopleChange changePeople(const Reading &reading, const ContactIndex &contacts, 
         changes.add(clause);
     }
     const PeopleChange change = changes.settle();
-    static const QRegularExpression absent(QStringLiteral("不来|来不了|没空"));
-    if (isUnsure(reading) && (change != PeopleChange::None || reading.sentence().raw().contains(absent))) {
+    if (isUnsure(reading) && (change != PeopleChange::None || tellsAbsence(reading.sentence().raw()))) {
         return PeopleChange::Unclear;
     }
     if (change == PeopleChange::Done) {

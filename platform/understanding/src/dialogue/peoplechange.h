@@ -9,8 +9,8 @@
 
 namespace understanding {
 
-/// True if @p clause says that @p name is not to come: 李娜不来了, 别叫李娜.
-bool isExcluded(const QString &clause, const QString &name);
+/// True if @p text says of anybody that they are not to come, or cannot: 乐乐不来了.
+bool tellsAbsence(const QString &text);
 
 enum class PeopleChange {
     None,

@@ -7,8 +7,6 @@
 #include "meaning/suspicions.h"
 #include "names/namelook.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 
 namespace understanding {
@@ -199,9 +197,8 @@ private:
     /// 号错了, 刚才密码说错了, 号不对吧: tells what was wrong; the order behind it says what is right.
     bool isWrongLabel(const Range &clause) const
     {
-        static const QRegularExpression wrong(QStringLiteral("(?:号|密码).*(?:错了?|不对)[吧啊呀了]*$"));
         const int begin = m_tokens[clause.begin].position;
-        return wrong.match(m_text.mid(begin, m_tokens[clause.end - 1].end() - begin)).hasMatch();
+        return tellsWrongNumber(m_text.mid(begin, m_tokens[clause.end - 1].end() - begin));
     }
 
     bool orders(const Range &clause) const

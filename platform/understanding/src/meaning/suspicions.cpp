@@ -264,6 +264,12 @@ bool proposesOpening(const Reading &reading)
     return false;
 }
 
+bool tellsWrongNumber(const QString &clause)
+{
+    static const QRegularExpression wrong(QStringLiteral("(?:号|密码).{0,3}(?:错|不对)|(?:错|不对).{0,3}号"));
+    return clause.contains(wrong);
+}
+
 bool isTakenBack(const Reading &reading)
 {
     static const QRegularExpression end(QStringLiteral(

@@ -73,6 +73,9 @@ namespace understanding {
 /// 邀请邻居家的小龙，进咱们会议: somebody else is to come.
 [[nodiscard]] bool alsoInvites(const Reading &reading);
 
+/// 号错了, 刚才密码说错了, 说错号了: another one follows.
+[[nodiscard]] bool tellsWrongNumber(const QString &clause);
+
 /// 明天下午三点和李娜开会，算了; 加入880100002，算了，先不进: nothing is wanted after all.
 [[nodiscard]] bool isTakenBack(const Reading &reading);
 

@@ -20,7 +20,12 @@ QString answerName(const QString &text)
     const QStringList lines = understanding::ruleLines(QStringLiteral("answers.tsv"));
     for (const QString &line : lines) {
         const QStringList fields = line.split(QLatin1Char('\t'));
-        if (fields.mid(1).contains(text)) {
+        const bool said = std::any_of(fields.cbegin() + 1, fields.cend(), [&](const QString &field) {
+            const QStringList around = field.split(QLatin1String("%1")); // whom and what it is about
+            return around.size() == 1 ? text == field
+                                      : text.startsWith(around.first()) && text.endsWith(around.last());
+        });
+        if (said) {
             return fields.at(0);
         }
     }

@@ -238,6 +238,37 @@ private Q_SLOTS:
         }
     }
 
+    void aQuestionNamesWhatItIsAbout_data()
+    {
+        addColumns<QString, QString>({"sentence", "question"});
+        const auto row = [](const char *sentence, const char *question) {
+            QTest::newRow(sentence) << QString::fromUtf8(sentence) << QString::fromUtf8(question);
+        };
+        row("该开会了", "要现在发起会议吗？");
+        row("这个家长会里加上小宇妈妈", "要现在发起与小宇妈妈的会议吗？");
+        row("约张伟和李娜明天三点开会，她没空", "要预约 3月8日 15:00 与张伟、李娜的会议吗？");
+        row("明年1月2号上午十点给爷爷的寿宴开个筹备会", "要预约 2027年1月2日 10:00 的会议吗？");
+        row("叫张伟、李娜、王磊、孙丽、李楠、小凯还是阿强",
+            "要邀请张伟、李娜、王磊、孙丽、李楠等6人加入会议吗？");
+        row("叫李娜还是叫李楠", "要邀请李娜、李楠加入会议吗？");
+        row("要进的会议是667788", "要加入会议 667788 吗？");
+        row("修车师傅的好友我要加，账号 garage_wu", "要向garage_wu发送好友申请吗？");
+    }
+    void aQuestionNamesWhatItIsAbout()
+    {
+        QFETCH(QString, sentence);
+        QFETCH(QString, question);
+        Dialogue dialogue;
+        const QJsonObject answer = QJsonDocument::fromJson(dialogue.turn(sentence, m_now).toUtf8()).object();
+        QCOMPARE(answer.value(QStringLiteral("intent"))
+                     .toObject()
+                     .value(QStringLiteral("answer"))
+                     .toObject()
+                     .value(QStringLiteral("text"))
+                     .toString(),
+                 question);
+    }
+
     void aPasswordIsMasked_data()
     {
         addColumns<bool, QString, QString>({"asked", "sentence", "shown"});

@@ -30,9 +30,12 @@ constexpr WordClasses SurroundingWords =
 bool isSmallTalkParticle(const Sentence &sentence, const Token &token)
 {
     static const QString particles = QStringLiteral("的号是呢哦啊呀吧就定在先只这一次那呗要从改开约了选见");
+    static const QStringList objections = {QStringLiteral("不过"), QStringLiteral("但是"),
+                                           QStringLiteral("但")}; // 好，不过四点
     const QString text = sentence.text().mid(token.position, token.length);
-    return std::all_of(text.cbegin(), text.cend(),
-                       [](QChar character) { return particles.contains(character); });
+    return objections.contains(text) || std::all_of(text.cbegin(), text.cend(), [](QChar character) {
+               return particles.contains(character);
+           });
 }
 
 /// True if the sentence holds nothing but what @p answers accepts and words around it.
@@ -301,10 +304,12 @@ bool takeAnswer(const QString &question, const Reading &reading, const QDateTime
         return false;
     }
     const bool forRoom = reading.sentence().text().endsWith(QChar(u'用')); // 下午三点用
+    static const QRegularExpression engaged(QStringLiteral("有(?:事|[个场]?会)"));
+    const bool busy = reading.sentence().text().contains(engaged); // 我四点有事
     // 我四点有事，五点吧; 三点，还是四点吧
     const bool several =
         reading.has(WordClass::Punctuation) && (reading.clockCount() > 1 || reading.namesTwoDays());
-    if (forRoom || several) {
+    if (forRoom || busy || several) {
         return false;
     }
     TimeExpression time = reading.time();

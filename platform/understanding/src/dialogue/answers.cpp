@@ -5,10 +5,68 @@
 
 #include "text/rulefile.h"
 
+#include <QDateTime>
 #include <QHash>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QStringList>
 
 namespace understanding {
+
+namespace {
+
+QStringList valuesOf(const Outcome &outcome, const char *name)
+{
+    QStringList values;
+    for (const Slot &slot : outcome.slotList) {
+        if (slot.name == QLatin1String(name)) {
+            values.append(slot.normValue);
+        }
+    }
+    return values;
+}
+
+QString people(const QStringList &names)
+{
+    constexpr int mostShown = 5;
+    const QString shown = names.mid(0, mostShown).join(QChar(u'、'));
+    return names.size() <= mostShown ? shown : QStringLiteral("%1等%2人").arg(shown).arg(names.size());
+}
+
+/// 11月23日 15:00 from {"suggestDatetime":"2026-11-23T15:00:00"}.
+QString timeOf(const Outcome &outcome, const QDate &today)
+{
+    const QString said = QJsonDocument::fromJson(valuesOf(outcome, DatetimeSlot).value(0).toUtf8())
+                             .object()
+                             .value(QLatin1String("suggestDatetime"))
+                             .toString();
+    const QDateTime start = QDateTime::fromString(said, Qt::ISODate);
+    const QString day =
+        start.date().year() == today.year() ? QStringLiteral("M月d日") : QStringLiteral("yyyy年M月d日");
+    return start.toString(said.contains(QLatin1Char('T')) ? day + QStringLiteral(" HH:mm") : day);
+}
+
+/// What the question of @p outcome is about.
+QString subjectOf(const Outcome &outcome, const QDate &today)
+{
+    const QString whom = people(valuesOf(outcome, NameSlot));
+    if (outcome.intent == QLatin1String(CreateConference)) {
+        const QString with = whom.isEmpty() ? QString() : QChar(u'与') + whom;
+        if (outcome.hasSlot(DatetimeSlot)) {
+            return timeOf(outcome, today) + QLatin1Char(' ') + with;
+        }
+        return with.isEmpty() ? QString() : with + QChar(u'的');
+    }
+    if (outcome.intent == QLatin1String(EnterConferenceById)) {
+        return valuesOf(outcome, IdSlot).value(0);
+    }
+    if (outcome.intent == QLatin1String(AddBuddy)) {
+        return valuesOf(outcome, AccountSlot).value(0);
+    }
+    return whom.isEmpty() ? QStringLiteral("他们") : whom;
+}
+
+} // namespace
 
 QString answerText(const QString &name, int tryNumber)
 {
@@ -25,6 +83,12 @@ QString answerText(const QString &name, int tryNumber)
     const QStringList texts = answers.value(name);
     Q_ASSERT_X(!texts.isEmpty(), "answerText", qPrintable(name));
     return texts.value(qBound(1, tryNumber, texts.size()) - 1);
+}
+
+QString answerText(const Outcome &outcome, const QDate &today, int tryNumber)
+{
+    const QString text = answerText(outcome.answer, tryNumber);
+    return text.contains(QLatin1String("%1")) ? text.arg(subjectOf(outcome, today)) : text;
 }
 
 } // namespace understanding

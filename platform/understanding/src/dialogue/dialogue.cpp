@@ -63,6 +63,7 @@ public:
 
     ContactIndex contacts;
     OpenQuestion question;
+    QDate today;
     Outcome lastCommand;
     QString passwordFor; ///< the number whose password was asked for last
     int passwordRounds = 0;
@@ -80,7 +81,7 @@ QString Dialogue::Private::ask(const Outcome &outcome, const TimeExpression &tim
     question.outcome = outcome;
     question.time = time;
     question.tries = 1;
-    return answerJson(answerText(outcome.answer));
+    return answerJson(answerText(outcome, today));
 }
 
 QString Dialogue::Private::askAgain()
@@ -89,13 +90,13 @@ QString Dialogue::Private::askAgain()
         return close("given-up");
     }
     ++question.tries;
-    return answerJson(answerText(question.outcome.answer, question.tries));
+    return answerJson(answerText(question.outcome, today, question.tries));
 }
 
 /// Asks the same again after an answer that was understood but did not answer it.
 QString Dialogue::Private::askStill()
 {
-    return answerJson(answerText(question.outcome.answer));
+    return answerJson(answerText(question.outcome, today));
 }
 
 QString Dialogue::Private::close(const char *answer)
@@ -114,7 +115,7 @@ QString Dialogue::Private::reply(const Outcome &outcome, const TimeExpression &t
         return ask(outcome, time);
     }
     question = OpenQuestion();
-    return answerJson(answerText(outcome.answer));
+    return answerJson(answerText(outcome, today));
 }
 
 /// True if @p fresh, read from @p reading, is a full command, or an incomplete one for another intent or,
@@ -173,6 +174,10 @@ QString Dialogue::Private::answerConfirmation(const Reading &reading, const Outc
         together.answer.clear();
         together.addSlotsOf(fresh);
         return carryOut(together);
+    }
+    if (addsPeople(reading, fresh)) {
+        question.outcome.addSlotsOf(fresh);
+        return askStill();
     }
     if (!fresh.intent.isEmpty()) {
         return reply(fresh, reading.time());
@@ -254,6 +259,7 @@ QString Dialogue::turn(const QString &sentence, const QDateTime &now)
     if (sentence.size() > LongestSentence) {
         return answerJson(answerText(QStringLiteral("too-long")));
     }
+    m_d->today = now.date();
     const Interpretation interpreted = interpret(sentence, now, m_d->contacts);
     const Reading &reading = interpreted.whole;
     const Outcome &fresh = interpreted.outcome;

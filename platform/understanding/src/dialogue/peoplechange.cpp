@@ -5,7 +5,7 @@
 
 #include "dialogue/answerclauses.h"
 #include "meaning/suspicions.h"
-#include "names/namelook.h"
+#include "names/absences.h"
 
 #include <QRegularExpression>
 #include <QStringList>
@@ -18,9 +18,7 @@ namespace understanding {
 
 namespace {
 
-constexpr char16_t Leads[] = u"^(?:[那就还是哦嗯哎啊呃先]|要不|帮我|今天|干脆)*";
 constexpr char16_t Ends[] = u"[了吧啊呀的啦]*$";
-constexpr char16_t Calls[] = u"(?:约|叫|跟|和|找|请|带|喊|拉|邀请)";
 // The people said before stand for themselves as these, so that every pattern is compiled once.
 constexpr ushort FirstPerson = 0xE000;
 constexpr char16_t Person[] = u"[\uE000-\uEFFF](?:(?:[和跟与、]|还有)[\uE000-\uEFFF])*";
@@ -28,9 +26,9 @@ constexpr char16_t Person[] = u"[\uE000-\uEFFF](?:(?:[和跟与、]|还有)[\uE0
 /// @p pattern for a whole clause: %1 is a verb that calls somebody, %2 one or several of the people.
 QRegularExpression whole(const QString &pattern)
 {
-    return QRegularExpression(QString::fromUtf16(Leads) +
+    return QRegularExpression(QLatin1Char('^') + leadPattern() +
                               QString(pattern)
-                                  .replace(QLatin1String("%1"), QString::fromUtf16(Calls))
+                                  .replace(QLatin1String("%1"), callPattern())
                                   .replace(QLatin1String("%2"), QString::fromUtf16(Person)) +
                               QString::fromUtf16(Ends));
 }
@@ -66,49 +64,20 @@ QString withNames(QString clause, const QStringList &people)
     return clause;
 }
 
-bool isName(const QString &text, const ContactIndex &contacts)
-{
-    static const QRegularExpression latin(QStringLiteral("^[A-Z][A-Za-z]+( [A-Z][A-Za-z]+)*$"));
-    static const QString verbs = QStringLiteral("说叫讲问要给让家批订定办"); // 老板叫, 小凯说
-    constexpr int titled = 2;                                                // 王总 begins 王总批
-    constexpr int longest = 3;
-    const bool more = text.size() > titled && isSurnameWithTitle(text.left(titled));
-    if (text.isEmpty()) {
-        return false;
-    }
-    return contacts.longestAt(text, 0) == text || isSurnameWithTitle(text) || latin.match(text).hasMatch() ||
-           (!more && !isThing(text) && text.size() <= longest && !verbs.contains(text.back()) &&
-            (isPersonsName(text) || looksLikeName(text)));
-}
-
-/// The names that @p text consists of; empty if it says anything else: 小凯和李楠, but not 老公逛街.
-QStringList namesOf(const QString &text, const ContactIndex &contacts)
-{
-    static const QRegularExpression links(QStringLiteral("[和与跟及、]|还有"));
-    const QStringList names = text.split(links);
-    const bool only = std::all_of(names.cbegin(), names.cend(),
-                                  [&](const QString &name) { return isName(name, contacts); });
-    return only ? names : QStringList();
-}
-
 /// 李娜没空: a reason to call somebody else, or to meet at another time.
 bool isBusy(const QString &clause)
 {
     static const QRegularExpression busy =
-        whole(QStringLiteral("%2(?:[他她又也都]|今天|临时|正好|刚好)*(?:没空|没时间|有事儿?|请假|出差|在外地|"
-                             "不在|走不开|在忙|很忙)"));
+        whole(QStringLiteral("%2(?:[他她又也都]|今天|临时|正好|刚好)*") + busyPattern());
     return matches(clause, busy);
 }
 
 /// 别叫李娜, 李娜不来了.
 bool excludes(const QString &clause)
 {
-    static const QRegularExpression before =
-        whole(QStringLiteral("(?:不是|不要|不用%1?|[不别甭]%1|去掉|删掉|换掉|除了|除去)%2"));
+    static const QRegularExpression before = whole(leavingOutPattern() + QLatin1String("%2"));
     static const QRegularExpression behind =
-        whole(QStringLiteral("把?%2(?:[他她就先也又说都]|今天|临时|这次)*"
-                             "(?:算|[不别甭]%1|不[来去要用]|不参加|不用%1|换掉?|去掉|"
-                             "(?:来|去|到|参加|赶)不[了成上])"));
+        whole(QStringLiteral("把?%2(?:[他她就先也又说都]|今天|临时|这次)*") + leftOutPattern());
     return matches(clause, before) || matches(clause, behind);
 }
 
@@ -332,7 +301,13 @@ PeopleChange changePeople(const Reading &reading, const ContactIndex &contacts, 
                           QString &rest)
 {
     const QStringList people = peopleOf(outcome);
-    QStringList clauses = clausesOf(reading);
+    // Not those of the reading, in which a repair has already taken away what it replaced.
+    static const QRegularExpression signs(QStringLiteral("[,.;!，。；！]+"));
+    constexpr int mostClauses = 4;
+    QStringList clauses = reading.sentence().raw().split(signs, Qt::SkipEmptyParts);
+    if (clauses.size() < 2 || clauses.size() > mostClauses) {
+        clauses = clausesOf(reading);
+    }
     if (clauses.isEmpty() && !reading.has(WordClass::Punctuation)) {
         clauses.append(reading.sentence().raw().trimmed());
     }

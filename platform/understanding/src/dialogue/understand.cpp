@@ -13,7 +13,7 @@ namespace understanding {
 QString understand(const QString &sentence, const QDateTime &now, const QStringList &contactNames)
 {
     const Outcome outcome = interpret(sentence, now, ContactIndex(contactNames)).outcome;
-    return outcome.isCommand() ? commandJson(outcome) : answerJson(answerText(outcome.answer));
+    return outcome.isCommand() ? commandJson(outcome) : answerJson(answerText(outcome, now.date()));
 }
 
 } // namespace understanding

@@ -279,6 +279,8 @@ constexpr struct
     {CloseConference, asksWhetherMay},
     {CreateConference, asksWhetherMay},
     {CreateConference, isBusyThen},
+    {CreateConference, leavesOpenWhoComes},
+    {InviteConference, leavesOpenWhoComes},
     {EnterConferenceById, isPassedOn},
     {CloseConference, isPassedOn},
     {CloseConference, alsoCalls},

@@ -3,8 +3,10 @@
 
 #include "meaning/suspicions.h"
 
+#include "names/absences.h"
 #include "text/scan.h"
 
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -94,6 +96,29 @@ bool passesOn(const QString &text)
     return text.contains(QStringLiteral("转告")) || text.contains(QStringLiteral("回复")) ||
            text.contains(QStringLiteral("发给")) ||
            (text.contains(QStringLiteral("告诉")) && !text.contains(QStringLiteral("告诉我")));
+}
+
+bool leavesOpenWhoComes(const Reading &reading)
+{
+    static const QRegularExpression choosing(QStringLiteral(
+        "[^,.;:](?:还是|或者|或是)|代替|[^你您请能]替(?![我咱你])|而不是|不[光仅止]|不但|除了"));
+    // What is said before the order is told for another reason: 李工不在，加他进来.
+    static const QRegularExpression absence(
+        QStringLiteral("[^,.;:](?:%1|%2)[了吧啊呀的啦呢]*\\p{P}*$").arg(leftOutPattern(), busyPattern()));
+    const QString &text = reading.sentence().text();
+    const auto tells = [&](const QRegularExpression &pattern) {
+        const QRegularExpressionMatch match = pattern.match(text);
+        const int end = match.capturedEnd();
+        return match.hasMatch() &&
+               std::none_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+                   return token.inTopic && token.position < end && end <= token.end();
+               });
+    };
+    static const QString chosen = QStringLiteral("还或替而光仅止但除"); // found faster
+    const bool mayChoose =
+        std::find_first_of(text.cbegin(), text.cend(), chosen.cbegin(), chosen.cend()) != text.cend();
+    return !reading.names().empty() &&
+           ((mayChoose && tells(choosing)) || (mayTellAbsence(text) && tells(absence)));
 }
 
 bool alsoCalls(const Reading &reading)

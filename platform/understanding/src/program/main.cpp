@@ -47,7 +47,8 @@ QByteArray answerTo(const QByteArray &line, const ContactIndex &contacts, const 
     } else {
         outcome = interpret(sentence, now, contacts).outcome;
     }
-    const QString json = outcome.isCommand() ? commandJson(outcome) : answerJson(answerText(outcome.answer));
+    const QString json =
+        outcome.isCommand() ? commandJson(outcome) : answerJson(answerText(outcome, now.date()));
     return json.toUtf8() + '\n';
 }
 

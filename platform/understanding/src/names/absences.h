@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "words/contactindex.h"
+
+#include <QRegularExpression>
+#include <QString>
+#include <QStringList>
+
+namespace understanding {
+
+// Regular expressions, without groups that capture.
+
+/// What calls somebody: 约, 叫.
+QString callPattern();
+/// What stands before a clause without changing it: 那, 不过.
+QString leadPattern();
+/// What follows a name where somebody is not to come: 不叫, 就算, 来不了.
+QString leftOutPattern();
+/// What stands before a name then: 别叫, 不包括.
+QString leavingOutPattern();
+/// What follows a name where somebody cannot come: 没空, 请假. It may as well be a reason for another time.
+QString busyPattern();
+
+/// True if @p text may say that somebody does not come, whoever it is.
+bool mayTellAbsence(const QString &text);
+
+/// The names that @p text consists of; empty if it says anything else: 小凯和李楠, but not 老公逛街.
+QStringList namesOf(const QString &text, const ContactIndex &contacts);
+
+} // namespace understanding

@@ -304,7 +304,7 @@ bool takeAnswer(const QString &question, const Reading &reading, const QDateTime
         return false;
     }
     const bool forRoom = reading.sentence().text().endsWith(QChar(u'用')); // 下午三点用
-    static const QRegularExpression engaged(QStringLiteral("有(?:事|[个场]?会)"));
+    static const QRegularExpression engaged(QStringLiteral("(?<!没)有(?:事|[个场]?会(?!议))"));
     const bool busy = reading.sentence().text().contains(engaged); // 我四点有事
     // 我四点有事，五点吧; 三点，还是四点吧
     const bool several =

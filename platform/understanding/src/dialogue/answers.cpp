@@ -30,7 +30,8 @@ QString people(const QStringList &names)
 {
     constexpr int mostShown = 5;
     const QString shown = names.mid(0, mostShown).join(QChar(u'、'));
-    return names.size() <= mostShown ? shown : QStringLiteral("%1等%2人").arg(shown).arg(names.size());
+    return names.size() <= mostShown ? shown
+                                     : QStringLiteral("%1等%2人").arg(shown, QString::number(names.size()));
 }
 
 /// 11月23日 15:00 from {"suggestDatetime":"2026-11-23T15:00:00"}.

@@ -57,8 +57,8 @@ public:
     QString reply(const Outcome &outcome, const TimeExpression &time);
     bool startsSomethingNew(const Reading &reading, const Outcome &fresh) const;
     bool addsPeople(const Reading &reading, const Outcome &fresh) const;
-    QString answerConfirmation(const Reading &reading, const Outcome &fresh, const QDateTime &now);
-    QString answerQuestion(const Reading &reading, const Outcome &fresh, const QDateTime &now);
+    QString answerConfirmation(const Interpretation &said, const QDateTime &now);
+    QString answerQuestion(const Interpretation &said, const QDateTime &now);
     void askForPassword();
 
     ContactIndex contacts;
@@ -152,9 +152,10 @@ static bool invitesMore(const Reading &reading, const Outcome &fresh)
 }
 
 /// Only a plain yes carries out what was in doubt.
-QString Dialogue::Private::answerConfirmation(const Reading &reading, const Outcome &fresh,
-                                              const QDateTime &now)
+QString Dialogue::Private::answerConfirmation(const Interpretation &said, const QDateTime &now)
 {
+    const Reading &reading = said.whole;
+    const Outcome &fresh = said.outcome;
     YesNo meaning = readYesNo(reading.sentence());
     const bool otherCommand = fresh.isCommand() && fresh.intent != question.outcome.intent;
     if (meaning == YesNo::Unclear && !otherCommand) {
@@ -180,7 +181,7 @@ QString Dialogue::Private::answerConfirmation(const Reading &reading, const Outc
         return askStill();
     }
     if (!fresh.intent.isEmpty()) {
-        return reply(fresh, reading.time());
+        return reply(fresh, said.reading().time());
     }
     // 要现在发起会议吗？ 明天三点。 要预约这个会议吗？ 四点吧。
     Outcome later = question.outcome;
@@ -194,13 +195,15 @@ QString Dialogue::Private::answerConfirmation(const Reading &reading, const Outc
     return askAgain();
 }
 
-QString Dialogue::Private::answerQuestion(const Reading &reading, const Outcome &fresh, const QDateTime &now)
+QString Dialogue::Private::answerQuestion(const Interpretation &said, const QDateTime &now)
 {
+    const Reading &reading = said.whole;
+    const Outcome &fresh = said.outcome;
     Outcome answered = question.outcome;
     const QString asked = answered.answer;
     answered.answer.clear();
     if (asked.startsWith(QLatin1String("confirm-"))) {
-        return answerConfirmation(reading, fresh, now);
+        return answerConfirmation(said, now);
     }
     if (asked == PasswordQuestion && takeOtherNumber(reading, contacts, answered)) {
         return carryOut(answered);
@@ -216,7 +219,7 @@ QString Dialogue::Private::answerQuestion(const Reading &reading, const Outcome 
             return askStill();
         }
         if (startsSomethingNew(reading, fresh)) {
-            return reply(fresh, reading.time());
+            return reply(fresh, said.reading().time());
         }
         return asked == TooManyPasswords ? close(TooManyPasswords.data()) : askAgain();
     }
@@ -260,7 +263,7 @@ QString Dialogue::turn(const QString &sentence, const QDateTime &now)
         return answerJson(answerText(QStringLiteral("too-long")));
     }
     m_d->today = now.date();
-    const Interpretation interpreted = interpret(sentence, now, m_d->contacts);
+    Interpretation interpreted = interpret(sentence, now, m_d->contacts);
     const Reading &reading = interpreted.whole;
     const Outcome &fresh = interpreted.outcome;
     if (!m_d->question.isOpen()) {
@@ -281,11 +284,12 @@ QString Dialogue::turn(const QString &sentence, const QDateTime &now)
         if (rest.isEmpty()) {
             return m_d->askStill();
         }
-        const Interpretation remaining = interpret(rest, now, m_d->contacts);
-        return m_d->answerQuestion(remaining.whole, remaining.outcome, now);
+        return m_d->answerQuestion(interpret(rest, now, m_d->contacts), now);
     }
-    const bool nothing = fresh.intent == QLatin1String(CloseConference) && callsOff(reading);
-    return m_d->answerQuestion(reading, nothing ? Outcome() : fresh, now);
+    if (fresh.intent == QLatin1String(CloseConference) && callsOff(reading)) {
+        interpreted.outcome = Outcome();
+    }
+    return m_d->answerQuestion(interpreted, now);
 }
 
 void Dialogue::noteReply(int code, const QString &)

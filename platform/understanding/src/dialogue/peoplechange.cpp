@@ -180,6 +180,9 @@ private:
         if (exchanges(marked, mentioned)) {
             return true;
         }
+        if (!hasWordOfAbsence(marked)) {
+            return false;
+        }
         if (excludes(marked)) {
             m_excluded += mentioned;
             return true;
@@ -302,9 +305,9 @@ PeopleChange changePeople(const Reading &reading, const ContactIndex &contacts, 
 {
     const QStringList people = peopleOf(outcome);
     // Not those of the reading, in which a repair has already taken away what it replaced.
-    static const QRegularExpression signs(QStringLiteral("[,.;!，。；！]+"));
+    static const QRegularExpression signs(QStringLiteral("\\s*[,;!，。；！]\\s*"));
     constexpr int mostClauses = 4;
-    QStringList clauses = reading.sentence().raw().split(signs, Qt::SkipEmptyParts);
+    QStringList clauses = reading.sentence().raw().trimmed().split(signs, Qt::SkipEmptyParts);
     if (clauses.size() < 2 || clauses.size() > mostClauses) {
         clauses = clausesOf(reading);
     }

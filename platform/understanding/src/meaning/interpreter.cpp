@@ -8,10 +8,9 @@
 #include "meaning/gate.h"
 #include "meaning/intentrules.h"
 #include "meaning/remarks.h"
+#include "meaning/remarksapplied.h"
 #include "meaning/suspicions.h"
 #include "time/timeresolver.h"
-
-#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -45,7 +44,7 @@ void fillNames(Outcome &outcome, const Reading &reading)
     int end = 0; // of the name before
     for (const FoundName &name : reading.names()) {
         // 张伟、张伟 are two people, 曹总后天有空，帮我跟曹总约个会 names one.
-        const QString between = reading.sentence().text().mid(end, name.position - end);
+        const QString between = reading.sentence().text().mid(end, qMax(0, name.position - end));
         const bool again = outcome.hasSlot(NameSlot) &&
                            (between.size() > 2 || between.contains(QLatin1Char(','))) &&
                            std::any_of(outcome.slotList.cbegin(), outcome.slotList.cend(),
@@ -157,6 +156,8 @@ constexpr struct
     {AddBuddy, fillAccount, AccountSlot, "whom-to-add", "confirm-add"},
 };
 
+} // namespace
+
 QString confirmation(const Outcome &outcome)
 {
     for (const auto &row : IntentTable) {
@@ -168,8 +169,6 @@ QString confirmation(const Outcome &outcome)
     }
     return {};
 }
-
-} // namespace
 
 void fillTime(Outcome &outcome, const TimeExpression &time, const QString &said, const QDateTime &now)
 {
@@ -215,96 +214,20 @@ static bool isBetter(const Outcome &ordered, const Outcome &outcome, const Readi
            (fewer || whole.namesTwoDays());
 }
 
-/// True if @p remark names the hour or the day at which @p outcome is to take place.
-static bool isSameTime(const QString &remark, const Reading &order, const QDateTime &now,
-                       const ContactIndex &contacts)
+/// Reads a sentence without remarks, or takes those it has for part of the order.
+static Interpretation interpretOrder(const QString &sentence, Reading whole, const QDateTime &now,
+                                     const ContactIndex &contacts)
 {
-    static const QRegularExpression bound(QStringLiteral("[前后]$")); // 三点之前没空
-    if (remark.contains(bound)) {
-        return false;
-    }
-    const Reading said(remark, contacts);
-    const ResolvedTime busy = resolveTime(said.time(), now);
-    const ResolvedTime meeting = resolveTime(order.time(), now);
-    const bool dayNamed = said.time().day != TimeExpression::Day::None;
-    const bool sameHour = !busy.time.isValid() || busy.time == meeting.time;
-    return sameHour && (!dayNamed || busy.date == meeting.date);
-}
-
-/// Takes from @p outcome, the meaning of @p order, who does not come according to @p remarks. Asks where it
-/// stays open who is to come, or when.
-static void applyRemarks(const Remarks &remarks, const Reading &order, const QDateTime &now,
-                         const ContactIndex &contacts, Outcome &outcome)
-{
-    if (outcome.intent != QLatin1String(CreateConference) &&
-        outcome.intent != QLatin1String(InviteConference)) {
-        return;
-    }
-    bool unclear = false;
-    for (const QString &time : remarks.timed) {
-        unclear = unclear || (outcome.intent == QLatin1String(CreateConference) &&
-                              (order.clockCount() == 0 || isSameTime(time, order, now, contacts)));
-    }
-    Outcome left = outcome;
-    for (const Remarks::Person &person : remarks.absent) {
-        QStringList people(person.name);
-        if (person.name.isEmpty()) {
-            people.clear();
-            for (const FoundName &found : order.names()) {
-                if (found.position < person.position) {
-                    people.append(found.said);
-                }
-            }
-            if (people.size() != 1 && !person.all) { // 她: who?
-                unclear = true;
-                people.clear();
-            }
-        }
-        for (const QString &name : qAsConst(people)) {
-            left.removeSlots(NameSlot, name);
-        }
-    }
-    if (left.hasSlot(NameSlot)) {
-        outcome = left;
-    } else if (outcome.hasSlot(NameSlot)) {
-        const bool leftOut = std::all_of(remarks.absent.cbegin(), remarks.absent.cend(),
-                                         [](const Remarks::Person &person) { return person.leftOut; });
-        if (leftOut && outcome.isCommand()) { // 约李娜开会，李娜不来了: whom, then?
-            outcome = left;
-            outcome.needsName = true;
-            outcome.answer = missingSlotQuestion(outcome);
-        }
-        unclear = true; // 约李娜开会，她没空
-    }
-    if (unclear && outcome.isCommand()) {
-        outcome.answer = confirmation(outcome);
-    }
-}
-
-Interpretation interpret(const QString &sentence, const QDateTime &now, const ContactIndex &contacts)
-{
-    if (sentence.size() > LongestSentence) {
-        Outcome refused;
-        refused.answer = QStringLiteral("too-long");
-        return {Reading(QString(), contacts), {}, std::move(refused)};
-    }
-    Reading whole(sentence, contacts);
-    const Remarks remarks = findRemarks(sentence, whole.sentence().text(), contacts);
-    if (!remarks.isEmpty()) {
-        Interpretation order = interpret(remarks.order, now, contacts);
-        // 李娜走了，散会吧 may be about her.
-        if (!order.outcome.intent.isEmpty() && order.outcome.intent != QLatin1String(CloseConference)) {
-            applyRemarks(remarks, order.reading(), now, contacts, order.outcome);
-            return {std::move(whole), Reading(order.reading()), std::move(order.outcome)};
-        }
-    }
     Outcome outcome = interpret(whole, now);
     const bool unambiguous = outcome.isCommand() && whole.names().size() < 2 && !whole.namesTwoDays();
-    if (!unambiguous && !leavesOpenWhoComes(whole)) {
+    if (!unambiguous) {
+        const bool open = leavesOpenWhoComes(whole); // 不光叫李娜，也叫孙丽
         for (const OrderStart &start : startsOfOrder(whole)) {
             Reading rest(sentence.mid(start.position), contacts);
             Outcome ordered = interpret(rest, now);
-            if (isBetter(ordered, outcome, whole, rest, start)) {
+            const bool calls = ordered.intent == QLatin1String(CreateConference) ||
+                               ordered.intent == QLatin1String(InviteConference);
+            if (!(open && calls) && isBetter(ordered, outcome, whole, rest, start)) {
                 return {std::move(whole), std::move(rest), std::move(ordered)};
             }
         }
@@ -319,6 +242,26 @@ Interpretation interpret(const QString &sentence, const QDateTime &now, const Co
         }
     }
     return {std::move(whole), {}, std::move(outcome)};
+}
+
+Interpretation interpret(const QString &sentence, const QDateTime &now, const ContactIndex &contacts)
+{
+    if (sentence.size() > LongestSentence) {
+        Outcome refused;
+        refused.answer = QStringLiteral("too-long");
+        return {Reading(QString(), contacts), {}, std::move(refused)};
+    }
+    Reading whole(sentence, contacts);
+    const Remarks remarks = findRemarks(sentence, whole.sentence().text(), contacts);
+    if (!remarks.isEmpty()) {
+        Interpretation order = interpretOrder(remarks.order, Reading(remarks.order, contacts), now, contacts);
+        // 李娜走了，散会吧 may be about her.
+        if (!order.outcome.intent.isEmpty() && order.outcome.intent != QLatin1String(CloseConference)) {
+            applyRemarks(remarks, order.reading(), now, order.outcome);
+            return {std::move(whole), Reading(order.reading()), std::move(order.outcome)};
+        }
+    }
+    return interpretOrder(sentence, std::move(whole), now, contacts);
 }
 
 Outcome interpret(const Reading &reading, const QDateTime &now)

@@ -21,14 +21,14 @@ constexpr int LongestSentence = 500;
 struct Interpretation
 {
     Reading whole;
-    std::optional<Reading> order; ///< the order alone, if it means nothing together with what was told before
+    std::optional<Reading> order; ///< the order alone, if it means something else together with what is told
     Outcome outcome;
 
     const Reading &reading() const { return order ? *order : whole; }
 };
 
-/// Interprets @p sentence by itself, at @p now; if it only tells something before the order, that order:
-/// 刚掉线了，重新进一下我的会议.
+/// Interprets @p sentence by itself, at @p now; if it only tells something beside the order, that order:
+/// 刚掉线了，重新进一下我的会议; 约李娜三点开会，我五点有事.
 Interpretation interpret(const QString &sentence, const QDateTime &now, const ContactIndex &contacts);
 
 /// Interprets the whole of @p reading by itself, at @p now.
@@ -40,5 +40,8 @@ void fillTime(Outcome &outcome, const TimeExpression &time, const QString &said,
 
 /// The question for the slot that the intent of @p outcome requires but lacks, empty for none.
 QString missingSlotQuestion(const Outcome &outcome);
+
+/// The question whether to carry out @p outcome, as a row of answers.tsv.
+QString confirmation(const Outcome &outcome);
 
 } // namespace understanding

@@ -4,6 +4,8 @@
 #include "meaning/remarks.h"
 
 #include "names/absences.h"
+#include "text/sentence.h"
+#include "time/timereader.h"
 
 #include <QRegularExpression>
 
@@ -13,24 +15,17 @@ namespace understanding {
 
 namespace {
 
-constexpr char16_t Day[] =
-    u"(?:大?[今明后昨前][天日]|[今明][早晚]|[下这本]*(?:周|星期|礼拜)[一二三四五六日天末])";
-constexpr char16_t Hour[] =
-    u"(?:早上|上午|中午|下午|傍晚|晚上|待会儿?|那会儿|那时候?|[0-9零一二三四五六七八九十两]{1,3}(?:点|:[0-9]{"
-    u"2})"
-    u"(?:半|一刻|三刻|钟|[0-9零一二三四五六七八九十]{1,3}分?)?(?:[以之]?[前后]|左右)?|到|[以之][前后])";
-constexpr char16_t Fill[] = u"(?:[就先也又还都刚正]|临时|这次|可能|好像|已经|现在|这会儿|正好|刚好|那天)*";
+// Possessive, so that no clause is read in more ways than one.
+constexpr char16_t Fill[] = u"(?:[就先也又还都刚正]|临时|这次|已经|现在|这会儿|正好|刚好|那天)*+";
 constexpr char16_t Ends[] = u"[了吧啊呀的啦呢]*$";
+constexpr QStringView Signs = u",.;:!~";
 
-/// 李娜三点有事, 三点她没空, 李娜不来了.
+/// What stands behind the time, or behind the lead: 李娜不来了, 我有事.
 const QRegularExpression &tellingPattern()
 {
-    // The second person stands behind the time.
     static const QRegularExpression pattern(
-        QStringLiteral("^%1(?<who>.{0,8}?)%4(?:(?<time>(?:%2|%3)+)的?(?<also>.{0,8}?)%4)?"
-                       "(?:%6[了就也]*)*(?:(?<out>%5)|%6|(?<late>没[来到]))%7")
-            .arg(leadPattern(), QString::fromUtf16(Day), QString::fromUtf16(Hour), QString::fromUtf16(Fill),
-                 leftOutPattern(), busyPattern(), QString::fromUtf16(Ends)));
+        QStringLiteral("^的?(?<who>.{0,8}?)%1(?:%3[了就也]*+)?(?:(?<out>%2)|%3|(?<late>没[来到]))%4")
+            .arg(QString::fromUtf16(Fill), leftOutPattern(), busyPattern(), QString::fromUtf16(Ends)));
     return pattern;
 }
 
@@ -38,8 +33,7 @@ const QRegularExpression &tellingPattern()
 const QRegularExpression &leavingPattern()
 {
     static const QRegularExpression pattern(
-        QStringLiteral("^%1(?!不是)%2(?<who>.{1,12}?)%3")
-            .arg(leadPattern(), leavingOutPattern(), QString::fromUtf16(Ends)));
+        QStringLiteral("^(?!不是)%1(?<who>.{1,12}?)%2").arg(leavingOutPattern(), QString::fromUtf16(Ends)));
     return pattern;
 }
 
@@ -47,14 +41,8 @@ const QRegularExpression &leavingPattern()
 const QRegularExpression &exchangePattern()
 {
     static const QRegularExpression pattern(
-        QStringLiteral("^%1把?(?<who>.{0,6}?)(?:换成?|换作|换为)(?<by>.{1,8}?)%2")
-            .arg(leadPattern(), QString::fromUtf16(Ends)));
-    return pattern;
-}
-
-const QRegularExpression &dayPattern()
-{
-    static const QRegularExpression pattern(QString::fromUtf16(Day));
+        QStringLiteral("^把?(?<who>.{0,6}?)(?:换成?|换作|换为)(?<replacement>.{1,8}?)%1")
+            .arg(QString::fromUtf16(Ends)));
     return pattern;
 }
 
@@ -63,6 +51,65 @@ bool isPronoun(const QString &text)
     static const QRegularExpression pronoun(
         QStringLiteral("^(?:[他她]|[他她]们(?:[一两几]个人?)?|[一两]个人?)$"));
     return text.contains(pronoun);
+}
+
+/// 李娜 for 李娜说她.
+QString withoutSaying(QString who)
+{
+    static const QRegularExpression saying(QStringLiteral("(?<=.)(?:说?[他她]|说)$"));
+    return who.remove(saying);
+}
+
+/// The part of a clause that says when: 三点到四点, 明天上午.
+struct TimePart
+{
+    int start = 0;
+    int end = 0;
+    Remarks::Engagement when;
+
+    bool isEmpty() const { return end == start; }
+};
+
+/// Finds the time that begins at @p position or, behind a person, a little later.
+TimePart findTime(const QString &clause, int position)
+{
+    constexpr int longestPerson = 8;
+    TimePart part;
+    const int farthest = qMin(position + longestPerson, clause.size() - 1);
+    for (int at = position; at <= farthest && part.isEmpty(); ++at) {
+        const TimeMatch match = readTime(clause, at);
+        if (match.kind == TimeMatch::Kind::Time) {
+            part = {at, at + match.length, {match.expression, {}, {}, {}, false, false}};
+        }
+    }
+    bool span = false;
+    for (int at = part.end; !part.isEmpty() && at < clause.size(); at = part.end) {
+        static const QRegularExpression bound(QStringLiteral("[以之]?[前后]"));
+        const QRegularExpressionMatch bounded =
+            bound.match(clause, at, QRegularExpression::NormalMatch, QRegularExpression::AnchoredMatchOption);
+        const TimeMatch next = readTime(clause, at);
+        if (bounded.hasMatch()) {
+            part.end = bounded.capturedEnd();
+        } else if (clause.at(at) == QChar(u'到') && !span) {
+            span = true;
+            ++part.end;
+        } else if (next.kind == TimeMatch::Kind::Time) {
+            (span ? part.when.to : part.when.from).complete(next.expression);
+            part.end += next.length;
+        } else {
+            break;
+        }
+    }
+    const int middle = part.isEmpty() ? -1 : clause.indexOf(QChar(u'到'), part.start);
+    if (middle > 0 && middle + 1 < part.end && !span) { // read as one time, which begins with the first
+        part.when.to = readTime(clause, middle + 1).expression;
+    }
+    static const QString bounds = QStringLiteral("前后");
+    const QChar last = part.isEmpty() ? QChar() : clause.at(part.end - 1);
+    if (bounds.contains(last) && !part.when.from.hasOffset) { // 三点之前
+        part.when.bound = last;
+    }
+    return part;
 }
 
 /// Reads one clause after the other.
@@ -78,52 +125,80 @@ public:
 
     Remarks run()
     {
-        static const QRegularExpression clauses(QStringLiteral("([^,.;:!~]+)[,.;:!~]*"));
-        auto matches = clauses.globalMatch(m_text);
-        QString order;
-        bool ordered = false;
         bool told = false;
-        while (matches.hasNext()) {
-            const QRegularExpressionMatch clause = matches.next();
-            const QString said = clause.captured(1).trimmed();
-            m_clause = clause.capturedStart();
-            m_position = order.size();
-            if (mayTellAbsence(said) && (tellsOfPeople(said, !ordered) || leavesOut(said))) {
+        for (int end = 0; end < m_text.size();) {
+            m_clause = end;
+            const int sign = endOfClause(m_clause);
+            end = sign;
+            while (end < m_text.size() && isSign(end)) {
+                ++end;
+            }
+            const QString clause = m_text.mid(m_clause, sign - m_clause);
+            const QString said = hasWordOfAbsence(clause) ? withoutLead(clause.trimmed()) : QString();
+            if (!said.isEmpty() && (tellsOfPeople(said) || leavesOut(said))) {
                 told = true;
                 continue;
             }
-            const QString by = ordered ? exchangedFor(said) : QString();
-            told = told || !by.isEmpty();
-            ordered = true;
-            order += by.isEmpty() ? m_sentence.mid(clause.capturedStart(), clause.capturedLength())
-                                  : QStringLiteral("叫%1，").arg(by);
-            if (said.contains(dayPattern())) { // 明天没空，后天三点开会
-                m_remarks.day.clear();
-            }
+            const bool exchanges = !m_order.isEmpty() && said.contains(QChar(u'换'));
+            const QString replacement = exchanges ? exchangedFor(said) : QString();
+            told = told || !replacement.isEmpty();
+            m_order += replacement.isEmpty() ? m_sentence.mid(m_clause, end - m_clause)
+                                             : QStringLiteral("叫%1，").arg(replacement);
         }
-        if (!told || !ordered) {
+        if (!told || m_order.isEmpty()) {
             return {};
         }
-        static const QRegularExpression end(QStringLiteral("[\\p{P}\\s]+$"));
-        m_remarks.order = m_remarks.day + order.remove(end);
+        static const QString signs = QStringLiteral(",.;:!~，。；：！～… ");
+        while (!m_order.isEmpty() && signs.contains(m_order.back())) {
+            m_order.chop(1);
+        }
         resolvePronoun();
+        m_remarks.order = m_order;
         return std::move(m_remarks);
     }
 
 private:
-    bool tellsOfPeople(const QString &clause, bool first)
+    /// True for what ends a clause, but not for the colon of 15:30.
+    bool isSign(int at) const
     {
-        const QRegularExpressionMatch telling = tellingPattern().match(clause);
+        const bool inNumber = at > 0 && at + 1 < m_text.size() && m_text.at(at - 1).isDigit() &&
+                              m_text.at(at + 1).isDigit() &&
+                              (m_text.at(at) == QLatin1Char(':') || m_text.at(at) == QLatin1Char('.'));
+        return Signs.contains(m_text.at(at)) && !inNumber;
+    }
+
+    int endOfClause(int begin) const
+    {
+        int end = begin;
+        while (end < m_text.size() && !isSign(end)) {
+            ++end;
+        }
+        return end;
+    }
+
+    QString withoutLead(const QString &clause)
+    {
+        static const QRegularExpression lead(QLatin1Char('^') + leadPattern() + QLatin1Char('+'));
+        static const QRegularExpression hedge(QStringLiteral("可能|好像|估计|听说|也许|大概"));
+        m_hedged = clause.contains(hedge);
+        QString rest = clause;
+        rest.remove(hedge);
+        return rest.mid(lead.match(rest).capturedLength());
+    }
+
+    bool tellsOfPeople(const QString &clause)
+    {
+        const TimePart time = findTime(clause, 0);
+        const QRegularExpressionMatch telling = tellingPattern().match(clause.mid(time.end));
         QString who = telling.captured(QStringLiteral("who"));
-        const QString time = telling.captured(QStringLiteral("time"));
-        const QString also = telling.captured(QStringLiteral("also"));
-        if (!telling.hasMatch() || (!who.isEmpty() && !also.isEmpty()) ||
-            (telling.capturedLength(QStringLiteral("late")) > 0 && time.isEmpty())) { // 孙俪还没来，拉一下她
+        const QString before = clause.left(time.start);
+        const bool late = telling.capturedLength(QStringLiteral("late")) > 0;
+        if (!telling.hasMatch() || (!who.isEmpty() && !before.isEmpty()) ||
+            (late && time.isEmpty())) { // 孙俪还没来，拉一下她
             return false;
         }
-        static const QRegularExpression saying(QStringLiteral("(?<=.)(?:说?[他她]|说)$")); // 李娜说她
-        who += also;
-        who.remove(saying);
+        static const QRegularExpression fill(QString::fromUtf16(Fill) + QLatin1Char('$'));
+        who = withoutSaying(before.isEmpty() ? who : QString(before).remove(fill));
         if (time.isEmpty()) {
             return takePeople(who, telling.capturedLength(QStringLiteral("out")) > 0);
         }
@@ -133,12 +208,11 @@ private:
             return false;
         }
         m_told += names;
-        m_remarks.timed.append(time);
-        const QRegularExpressionMatch day = dayPattern().match(time);
-        static const QRegularExpression past(QStringLiteral("^[昨前]"));
-        if (first && day.hasMatch() && !day.captured().contains(past)) {
-            m_remarks.day = day.captured();
-        }
+        Remarks::Engagement when = time.when;
+        when.people = names;
+        when.frame = m_order.isEmpty() && (before.isEmpty() || who.contains(speaker));
+        when.personal = m_order.isEmpty() && !when.frame;
+        m_remarks.engagements.append(when);
         return true;
     }
 
@@ -152,38 +226,35 @@ private:
     QString exchangedFor(const QString &clause)
     {
         const QRegularExpressionMatch exchange = exchangePattern().match(clause);
-        const QString by = exchange.captured(QStringLiteral("by"));
-        QString who = exchange.captured(QStringLiteral("who"));
-        if (!exchange.hasMatch() || namesOf(by, m_contacts).isEmpty()) {
+        const QStringList names = typedNames(exchange.captured(QStringLiteral("replacement")));
+        const QString who = exchange.captured(QStringLiteral("who"));
+        if (names.isEmpty() || (!who.isEmpty() && !takePeople(who, true))) {
             return {};
         }
-        if (who.isEmpty()) {
-            if (m_remarks.absent.isEmpty()) { // but not in 她没空，换孙丽
-                m_remarks.absent.append({QString(), m_position, false, true});
-            }
-            return by;
+        if (who.isEmpty() && m_remarks.absent.isEmpty()) { // but not in 她没空，换孙丽
+            m_remarks.absent.append({QString(), m_order.size(), false, true, m_hedged});
         }
-        return takePeople(who, true) ? by : QString();
+        return names.join(QChar(u'和'));
     }
 
     bool takePeople(const QString &who, bool leftOut)
     {
-        if (isPronoun(who)) {
-            m_remarks.absent.append({QString(), m_position, who.size() > 1, leftOut});
-            return true;
+        const QStringList names = typedNames(who);
+        if (names.isEmpty() && !isPronoun(who)) {
+            return false;
         }
-        const QStringList names = who.isEmpty() ? QStringList() : typedNames(who);
-        for (const QString &name : names) {
-            m_remarks.absent.append({name, m_position, false, leftOut});
+        const bool all = who.contains(QChar(u'们'));
+        for (const QString &name : names.isEmpty() ? QStringList(QString()) : names) {
+            m_remarks.absent.append({name, m_order.size(), all, leftOut, m_hedged});
         }
         m_told += names;
-        return !names.isEmpty();
+        return true;
     }
 
     /// The names that @p who consists of, with the characters that were typed.
     QStringList typedNames(const QString &who) const
     {
-        QStringList names = namesOf(who, m_contacts);
+        QStringList names = who.isEmpty() ? QStringList() : namesOf(who, m_contacts);
         for (QString &name : names) {
             const int start = m_text.indexOf(name, m_clause);
             name = start < 0 ? name : m_sentence.mid(start, name.size());
@@ -194,10 +265,12 @@ private:
     /// 李娜三点没空，约她四点: calls whom the remark was about.
     void resolvePronoun()
     {
-        static const QRegularExpression called(QStringLiteral("^[^,.;，。]*[约叫跟和与拉请找][他她](?!们)"));
-        const QRegularExpressionMatch match = called.match(m_remarks.order);
-        if (m_told.size() == 1 && match.hasMatch()) {
-            m_remarks.order.replace(match.capturedEnd() - 1, 1, m_told.first());
+        static const QRegularExpression called(QStringLiteral("^[^,.;:!]*[约叫跟和与拉请找]([他她])(?!们)"));
+        const QRegularExpressionMatch match = called.match(Sentence(m_order).text());
+        const bool leftOut = std::any_of(m_remarks.absent.cbegin(), m_remarks.absent.cend(),
+                                         [](const Remarks::Person &person) { return person.leftOut; });
+        if (m_told.size() == 1 && match.hasMatch() && !leftOut) {
+            m_order.replace(match.capturedStart(1), 1, m_told.first());
             m_remarks.absent.clear();
         }
     }
@@ -206,19 +279,19 @@ private:
     const QString &m_text;
     const ContactIndex &m_contacts;
     Remarks m_remarks;
-    QStringList m_told; ///< everybody named in the remarks
-    int m_clause = 0;   ///< where it starts
-    int m_position = 0; ///< and where it would in the order
+    QString m_order;
+    QStringList m_told;    ///< everybody named in the remarks
+    int m_clause = 0;      ///< where it starts
+    bool m_hedged = false; ///< what it says may be so
 };
 
 } // namespace
 
 Remarks findRemarks(const QString &sentence, const QString &text, const ContactIndex &contacts)
 {
-    static const QString signs = QStringLiteral(",.;:!~");
     const bool several =
-        std::find_first_of(text.cbegin(), text.cend(), signs.cbegin(), signs.cend()) != text.cend();
-    return several && mayTellAbsence(text) ? RemarkReader(sentence, text, contacts).run() : Remarks();
+        std::find_first_of(text.cbegin(), text.cend(), Signs.cbegin(), Signs.cend()) != text.cend();
+    return several && hasWordOfAbsence(text) ? RemarkReader(sentence, text, contacts).run() : Remarks();
 }
 
 } // namespace understanding

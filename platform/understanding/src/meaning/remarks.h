@@ -17,16 +17,29 @@ struct Remarks
 {
     struct Person
     {
-        QString name;         ///< empty for 她 and 他们
-        int position = 0;     ///< in the order, of the clause that follows
+        QString name;         ///< empty for whoever was named before: 她, 换孙丽
+        int position = 0;     ///< in the order, where the remark was cut out
         bool all = false;     ///< 他们: all who were named before
         bool leftOut = false; ///< not to come, and not only busy
+        bool maybe = false;   ///< 李娜可能来不了
     };
 
-    QString order; ///< the sentence without the remarks; empty if there are none
+    /// When somebody cannot come.
+    struct Engagement
+    {
+        TimeExpression from;
+        TimeExpression to;     ///< empty but in 三点到四点
+        QStringList people;    ///< who; empty for the speaker and for pronouns
+        QChar bound;           ///< 前 or 后 in 三点以前, otherwise null
+        bool frame = false;    ///< stands before the order and the person, so that its day may hold for both
+        bool personal = false; ///< somebody else's, before the order: is its day the order's, too?
+    };
+
+    /// The sentence without the remarks; 换孙丽 became 叫孙丽, and 她 somebody whom only a remark names.
+    /// Empty if there are no remarks.
+    QString order;
     QVector<Person> absent;
-    QStringList timed; ///< the times at which somebody cannot come
-    QString day;       ///< the day of 明天九点没空，十点开会, which holds for the order
+    QVector<Engagement> engagements;
 
     bool isEmpty() const { return order.isEmpty(); }
 };

@@ -107,18 +107,22 @@ bool leavesOpenWhoComes(const Reading &reading)
         QStringLiteral("[^,.;:](?:%1|%2)[了吧啊呀的啦呢]*\\p{P}*$").arg(leftOutPattern(), busyPattern()));
     const QString &text = reading.sentence().text();
     const auto tells = [&](const QRegularExpression &pattern) {
-        const QRegularExpressionMatch match = pattern.match(text);
-        const int end = match.capturedEnd();
-        return match.hasMatch() &&
-               std::none_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
-                   return token.inTopic && token.position < end && end <= token.end();
-               });
+        for (auto match = pattern.match(text); match.hasMatch();
+             match = pattern.match(text, match.capturedEnd())) {
+            const int end = match.capturedEnd();
+            if (std::none_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+                    return token.inTopic && token.position < end && end <= token.end();
+                })) {
+                return true;
+            }
+        }
+        return false;
     };
     static const QString chosen = QStringLiteral("还或替而光仅止但除"); // found faster
     const bool mayChoose =
         std::find_first_of(text.cbegin(), text.cend(), chosen.cbegin(), chosen.cend()) != text.cend();
     return !reading.names().empty() &&
-           ((mayChoose && tells(choosing)) || (mayTellAbsence(text) && tells(absence)));
+           ((mayChoose && tells(choosing)) || (hasWordOfAbsence(text) && tells(absence)));
 }
 
 bool alsoCalls(const Reading &reading)

@@ -4,6 +4,9 @@
 #include "names/absences.h"
 
 #include "names/namelook.h"
+#include "time/timereader.h"
+
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -16,7 +19,7 @@ static bool isName(const QString &text, const ContactIndex &contacts)
     constexpr int titled = 2;                                                // 王总 begins 王总批
     constexpr int longest = 3;
     const bool more = text.size() > titled && isSurnameWithTitle(text.left(titled));
-    if (text.isEmpty()) {
+    if (text.isEmpty() || readTime(text, 0).length == text.size()) { // 周三
         return false;
     }
     return contacts.longestAt(text, 0) == text || isSurnameWithTitle(text) || latin.match(text).hasMatch() ||
@@ -62,11 +65,10 @@ QString busyPattern()
         "|在?上课|在(?:飞机|路)上|联系不上|要出差|要?接孩子|来不及|(?<!行)不行)");
 }
 
-bool mayTellAbsence(const QString &text)
+bool hasWordOfAbsence(const QString &text)
 {
-    // Found faster than any of the patterns, and seldom.
     static const QString characters = [] {
-        QString listed = QStringLiteral("不没别甭免算缺假差忙病走课除掉换有班改退划孩路飞外");
+        QString listed = QStringLiteral("不没别甭免算缺假差忙病走课除掉删换有班改退划孩路飞外");
         std::sort(listed.begin(), listed.end());
         return listed;
     }();
@@ -83,7 +85,8 @@ QStringList namesOf(const QString &text, const ContactIndex &contacts)
     QStringList names;
     const QStringList parts = text.split(links);
     for (const QString &part : parts) {
-        names += splitNames(part);
+        const bool whole = part.isEmpty() || contacts.longestAt(part, 0) == part;
+        names += whole ? QStringList(part) : splitNames(part);
     }
     const bool only = std::all_of(names.cbegin(), names.cend(),
                                   [&](const QString &name) { return isName(name, contacts); });

@@ -5,7 +5,6 @@
 
 #include "words/contactindex.h"
 
-#include <QRegularExpression>
 #include <QString>
 #include <QStringList>
 
@@ -15,17 +14,17 @@ namespace understanding {
 
 /// What calls somebody: 约, 叫.
 QString callPattern();
-/// What stands before a clause without changing it: 那, 不过.
+/// What may stand before a clause about people: 那, 不过, 算了.
 QString leadPattern();
-/// What follows a name where somebody is not to come: 不叫, 就算, 来不了.
+/// What follows a name where somebody is not to come: 不叫, 算了, 来不了.
 QString leftOutPattern();
 /// What stands before a name then: 别叫, 不包括.
 QString leavingOutPattern();
 /// What follows a name where somebody cannot come: 没空, 请假. It may as well be a reason for another time.
 QString busyPattern();
 
-/// True if @p text may say that somebody does not come, whoever it is.
-bool mayTellAbsence(const QString &text);
+/// True if @p text holds a character of any of these words, which is found faster.
+bool hasWordOfAbsence(const QString &text);
 
 /// The names that @p text consists of; empty if it says anything else: 小凯和李楠, but not 老公逛街.
 QStringList namesOf(const QString &text, const ContactIndex &contacts);

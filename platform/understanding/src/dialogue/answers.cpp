@@ -15,19 +15,13 @@ namespace understanding {
 
 namespace {
 
-QStringList valuesOf(const Outcome &outcome, const char *name)
+QString people(const Outcome &outcome)
 {
-    QStringList values;
-    for (const Slot &slot : outcome.slotList) {
-        if (slot.name == QLatin1String(name)) {
-            values.append(slot.normValue);
-        }
+    QStringList names;
+    const QVector<Slot> said = outcome.slotsNamed(NameSlot);
+    for (const Slot &slot : said) {
+        names.append(slot.normValue);
     }
-    return values;
-}
-
-QString people(const QStringList &names)
-{
     constexpr int mostShown = 5;
     const QString shown = names.mid(0, mostShown).join(QChar(u'、'));
     return names.size() <= mostShown ? shown
@@ -37,7 +31,7 @@ QString people(const QStringList &names)
 /// 11月23日 15:00 from {"suggestDatetime":"2026-11-23T15:00:00"}.
 QString timeOf(const Outcome &outcome, const QDate &today)
 {
-    const QString said = QJsonDocument::fromJson(valuesOf(outcome, DatetimeSlot).value(0).toUtf8())
+    const QString said = QJsonDocument::fromJson(outcome.slotsNamed(DatetimeSlot).value(0).normValue.toUtf8())
                              .object()
                              .value(QLatin1String("suggestDatetime"))
                              .toString();
@@ -50,7 +44,7 @@ QString timeOf(const Outcome &outcome, const QDate &today)
 /// What the question of @p outcome is about.
 QString subjectOf(const Outcome &outcome, const QDate &today)
 {
-    const QString whom = people(valuesOf(outcome, NameSlot));
+    const QString whom = people(outcome);
     if (outcome.intent == QLatin1String(CreateConference)) {
         const QString with = whom.isEmpty() ? QString() : QChar(u'与') + whom;
         if (outcome.hasSlot(DatetimeSlot)) {
@@ -59,10 +53,10 @@ QString subjectOf(const Outcome &outcome, const QDate &today)
         return with.isEmpty() ? QString() : with + QChar(u'的');
     }
     if (outcome.intent == QLatin1String(EnterConferenceById)) {
-        return valuesOf(outcome, IdSlot).value(0);
+        return outcome.slotsNamed(IdSlot).value(0).normValue;
     }
     if (outcome.intent == QLatin1String(AddBuddy)) {
-        return valuesOf(outcome, AccountSlot).value(0);
+        return outcome.slotsNamed(AccountSlot).value(0).normValue;
     }
     return whom.isEmpty() ? QStringLiteral("他们") : whom;
 }

@@ -32,16 +32,6 @@ struct OpenQuestion
     bool isOpen() const { return tries > 0; }
 };
 
-Said conferenceNumberOf(const Outcome &outcome)
-{
-    for (const Slot &slot : outcome.slotList) {
-        if (slot.name == QLatin1String(IdSlot)) {
-            return {0, 0, slot.value, slot.normValue};
-        }
-    }
-    return {};
-}
-
 } // namespace
 
 class Dialogue::Private
@@ -233,13 +223,13 @@ QString Dialogue::Private::answerQuestion(const Interpretation &said, const QDat
 
 void Dialogue::Private::askForPassword()
 {
-    const Said number = conferenceNumberOf(lastCommand);
+    const Slot number = lastCommand.slotsNamed(IdSlot).value(0);
     passwordRounds = number.normValue == passwordFor ? passwordRounds + 1 : 1;
     passwordFor = number.normValue;
     Outcome outcome;
     // A password for "my" conference can only be sent with its number, which is asked for next.
     outcome.intent = QLatin1String(EnterConferenceById);
-    if (!number.isEmpty()) {
+    if (!number.normValue.isEmpty()) {
         outcome.addSlot(IdSlot, number.value, number.normValue);
     }
     outcome.answer = passwordRounds > MostTries ? TooManyPasswords : PasswordQuestion;

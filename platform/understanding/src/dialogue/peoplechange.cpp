@@ -207,8 +207,7 @@ private:
             m_unclear = m_unclear || (&pattern == &patterns[0] && said.hasMatch() && names.isEmpty());
             if (!names.isEmpty()) {
                 m_called += names;
-                std::copy_if(mentioned.cbegin(), mentioned.cend(), std::back_inserter(m_excluded),
-                             [&](const QString &name) { return !names.contains(name); });
+                exclude(mentioned, names);
                 return true;
             }
         }
@@ -220,15 +219,20 @@ private:
     {
         static const QRegularExpression only =
             whole(QStringLiteral("[只就光][要留]?%1?(.+?)(?:(?:一|两|三)个人?)?(?:就行|就好|就可以)?"));
-        const QRegularExpressionMatch said = only.match(clause);
-        const QStringList kept = namesOf(said.captured(1), m_contacts);
-        if (kept.isEmpty() || !std::all_of(kept.cbegin(), kept.cend(),
-                                           [&](const QString &name) { return m_people.contains(name); })) {
-            return false;
+        const QStringList kept = namesOf(only.match(clause).captured(1), m_contacts);
+        const bool known = std::all_of(kept.cbegin(), kept.cend(),
+                                       [&](const QString &name) { return m_people.contains(name); });
+        if (known && !kept.isEmpty()) {
+            exclude(m_people, kept);
         }
-        std::copy_if(m_people.cbegin(), m_people.cend(), std::back_inserter(m_excluded),
+        return known && !kept.isEmpty();
+    }
+
+    /// Leaves out all of @p people but those who are @p kept.
+    void exclude(const QStringList &people, const QStringList &kept)
+    {
+        std::copy_if(people.cbegin(), people.cend(), std::back_inserter(m_excluded),
                      [&](const QString &name) { return !kept.contains(name); });
-        return true;
     }
 
     /// 王磊也来, 小凯来. Unclear if it is not a name that comes: 她老公也来.
@@ -277,10 +281,9 @@ private:
 QStringList peopleOf(const Outcome &outcome)
 {
     QStringList people;
-    for (const Slot &slot : outcome.slotList) {
-        if (slot.name == QLatin1String(NameSlot)) {
-            people.append(slot.value);
-        }
+    const QVector<Slot> said = outcome.slotsNamed(NameSlot);
+    for (const Slot &slot : said) {
+        people.append(slot.value);
     }
     return people;
 }

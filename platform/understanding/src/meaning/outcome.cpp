@@ -4,6 +4,7 @@
 #include "meaning/outcome.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace understanding {
 
@@ -11,6 +12,14 @@ bool Outcome::hasSlot(const char *name) const
 {
     return std::any_of(slotList.cbegin(), slotList.cend(),
                        [name](const Slot &slot) { return slot.name == QLatin1String(name); });
+}
+
+QVector<Slot> Outcome::slotsNamed(const char *name) const
+{
+    QVector<Slot> named;
+    std::copy_if(slotList.cbegin(), slotList.cend(), std::back_inserter(named),
+                 [name](const Slot &slot) { return slot.name == QLatin1String(name); });
+    return named;
 }
 
 void Outcome::addSlot(const char *name, const QString &value, const QString &normValue)

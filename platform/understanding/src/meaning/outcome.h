@@ -44,6 +44,7 @@ struct Outcome
 
     bool isCommand() const { return answer.isEmpty(); }
     bool hasSlot(const char *name) const;
+    QVector<Slot> slotsNamed(const char *name) const;
     void addSlot(const char *name, const QString &value, const QString &normValue);
     /// Removes the slots called @p name, or only those said as @p value if it is given.
     void removeSlots(const char *name, const QString &value = QString());

@@ -87,6 +87,83 @@ void removePerson(Outcome &outcome, const QString &name)
     }
 }
 
+bool comes(const Outcome &outcome, const QString &name)
+{
+    Outcome without = outcome;
+    removePerson(without, name);
+    return without.slotList.size() < outcome.slotList.size();
+}
+
+/// Settles the day of @p outcome. Returns false if it is unclear when the conference is to be.
+bool settleTime(const Remarks &remarks, const Reading &order, const QDateTime &now, Outcome &outcome)
+{
+    if (remarks.engagements.isEmpty()) {
+        return true;
+    }
+    TimeExpression said = order.time();
+    const bool hourSaid = said.hasClock || said.hasOffset;
+    if (!hourSaid || !takeDayOf(remarks, order, now, outcome)) {
+        return false;
+    }
+    if (remarks.engagements.first().frame) {
+        said.complete(remarks.engagements.first().from);
+    }
+    const ResolvedTime meeting = resolveTime(said, now);
+    const auto hinders = [&](const Remarks::Engagement &engagement) {
+        const QStringList &people = engagement.people;
+        const bool concerns =
+            people.isEmpty() || std::any_of(people.cbegin(), people.cend(),
+                                            [&](const QString &name) { return comes(outcome, name); });
+        return concerns && mayFallInto(engagement, said, meeting, now);
+    };
+    return std::none_of(remarks.engagements.cbegin(), remarks.engagements.cend(), hinders);
+}
+
+/// Whom @p person means among those whom @p order names; empty if that is unclear.
+QStringList peopleMeant(const Remarks::Person &person, const Reading &order)
+{
+    if (!person.name.isEmpty()) {
+        return {person.name};
+    }
+    QStringList before;
+    for (const FoundName &found : order.names()) {
+        if (found.position < person.position) {
+            before.append(found.said);
+        }
+    }
+    return before.size() == 1 || person.all ? before : QStringList();
+}
+
+/// Removes from @p outcome who does not come. Returns false if it is unclear who does.
+bool settlePeople(const Remarks &remarks, const Reading &order, Outcome &outcome)
+{
+    bool clear = true;
+    Outcome left = outcome;
+    for (const Remarks::Person &person : remarks.absent) {
+        const QStringList people = peopleMeant(person, order);
+        clear = clear && !people.isEmpty();
+        for (const QString &name : people) {
+            if (person.maybe) {
+                clear = clear && !comes(outcome, name);
+            } else {
+                removePerson(left, name);
+            }
+        }
+    }
+    if (left.hasSlot(NameSlot) || !outcome.hasSlot(NameSlot)) {
+        outcome = left;
+        return clear;
+    }
+    const bool leftOut = std::all_of(remarks.absent.cbegin(), remarks.absent.cend(),
+                                     [](const Remarks::Person &person) { return person.leftOut; });
+    if (leftOut) { // 约李娜开会，李娜不来了: whom, then?
+        outcome = left;
+        outcome.needsName = true;
+        outcome.answer = outcome.isCommand() ? missingSlotQuestion(outcome) : outcome.answer;
+    }
+    return false; // 约李娜开会，她没空
+}
+
 } // namespace
 
 void applyRemarks(const Remarks &remarks, const Reading &order, const QDateTime &now, Outcome &outcome)
@@ -95,64 +172,9 @@ void applyRemarks(const Remarks &remarks, const Reading &order, const QDateTime 
     if (!opens && outcome.intent != QLatin1String(InviteConference)) {
         return;
     }
-    const auto comes = [&](const QString &name) {
-        Outcome without = outcome;
-        removePerson(without, name);
-        return without.slotList.size() < outcome.slotList.size();
-    };
-    bool unclear = false;
-    if (opens && !remarks.engagements.isEmpty()) {
-        const bool hourSaid = order.time().hasClock || order.time().hasOffset;
-        unclear = !takeDayOf(remarks, order, now, outcome) || !hourSaid;
-        TimeExpression said = order.time();
-        if (remarks.engagements.first().frame) {
-            said.complete(remarks.engagements.first().from);
-        }
-        const ResolvedTime meeting = resolveTime(said, now);
-        unclear = unclear || std::any_of(remarks.engagements.cbegin(), remarks.engagements.cend(),
-                                         [&](const Remarks::Engagement &engagement) {
-                                             const QStringList &people = engagement.people;
-                                             return mayFallInto(engagement, said, meeting, now) &&
-                                                    (people.isEmpty() ||
-                                                     std::any_of(people.cbegin(), people.cend(), comes));
-                                         });
-    }
-    Outcome left = outcome;
-    for (const Remarks::Person &person : remarks.absent) {
-        QStringList people(person.name);
-        if (person.name.isEmpty()) {
-            people.clear();
-            for (const FoundName &found : order.names()) {
-                if (found.position < person.position) {
-                    people.append(found.said);
-                }
-            }
-            if (people.size() != 1 && !person.all) { // 她: who?
-                unclear = true;
-                people.clear();
-            }
-        }
-        for (const QString &name : qAsConst(people)) {
-            unclear = unclear || (person.maybe && comes(name));
-            if (!person.maybe) {
-                removePerson(left, name);
-            }
-        }
-    }
-    if (left.hasSlot(NameSlot)) {
-        outcome = left;
-    } else if (outcome.hasSlot(NameSlot)) {
-        const bool leftOut = std::all_of(remarks.absent.cbegin(), remarks.absent.cend(),
-                                         [](const Remarks::Person &person) { return person.leftOut; });
-        if (leftOut) { // 约李娜开会，李娜不来了: whom, then?
-            const QString asked = outcome.answer;
-            outcome = left;
-            outcome.needsName = true;
-            outcome.answer = asked.isEmpty() ? missingSlotQuestion(outcome) : asked;
-        }
-        unclear = true; // 约李娜开会，她没空
-    }
-    if (unclear && outcome.isCommand()) {
+    const bool timeClear = !opens || settleTime(remarks, order, now, outcome);
+    const bool peopleClear = settlePeople(remarks, order, outcome);
+    if (!(timeClear && peopleClear) && outcome.isCommand()) {
         outcome.answer = confirmation(outcome);
     }
 }

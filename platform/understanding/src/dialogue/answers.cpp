@@ -58,7 +58,7 @@ QString subjectOf(const Outcome &outcome, const QDate &today)
     if (outcome.intent == QLatin1String(AddBuddy)) {
         return outcome.slotsNamed(AccountSlot).value(0).normValue;
     }
-    return whom.isEmpty() ? QStringLiteral("他们") : whom;
+    return whom;
 }
 
 } // namespace

@@ -41,12 +41,13 @@ QString problemAnswer(ResolvedTime::Problem problem)
 
 void fillNames(Outcome &outcome, const Reading &reading)
 {
-    int end = 0; // of the name before
+    constexpr int longestLink = 2; // 还有
+    int end = 0;                   // of the name before
     for (const FoundName &name : reading.names()) {
         // 张伟、张伟 are two people, 曹总后天有空，帮我跟曹总约个会 names one.
         const QString between = reading.sentence().text().mid(end, qMax(0, name.position - end));
         const bool again = outcome.hasSlot(NameSlot) &&
-                           (between.size() > 2 || between.contains(QLatin1Char(','))) &&
+                           (between.size() > longestLink || between.contains(QLatin1Char(','))) &&
                            std::any_of(outcome.slotList.cbegin(), outcome.slotList.cend(),
                                        [&](const Slot &slot) { return slot.normValue == name.name; });
         if (!again) {

@@ -70,13 +70,13 @@ struct TimePart
     bool isEmpty() const { return end == start; }
 };
 
-/// Finds the time that begins at @p position or, behind a person, a little later.
-TimePart findTime(const QString &clause, int position)
+/// Finds the time with which @p clause begins, or which stands behind a person.
+TimePart findTime(const QString &clause)
 {
     constexpr int longestPerson = 8;
     TimePart part;
-    const int farthest = qMin(position + longestPerson, clause.size() - 1);
-    for (int at = position; at <= farthest && part.isEmpty(); ++at) {
+    const int farthest = qMin(longestPerson, clause.size() - 1);
+    for (int at = 0; at <= farthest && part.isEmpty(); ++at) {
         const TimeMatch match = readTime(clause, at);
         if (match.kind == TimeMatch::Kind::Time) {
             part = {at, at + match.length, {match.expression, {}, {}, {}, false, false}};
@@ -188,7 +188,7 @@ private:
 
     bool tellsOfPeople(const QString &clause)
     {
-        const TimePart time = findTime(clause, 0);
+        const TimePart time = findTime(clause);
         const QRegularExpressionMatch telling = tellingPattern().match(clause.mid(time.end));
         QString who = telling.captured(QStringLiteral("who"));
         const QString before = clause.left(time.start);

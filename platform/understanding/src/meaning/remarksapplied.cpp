@@ -48,12 +48,12 @@ bool mayFallInto(const Remarks::Engagement &engagement, const TimeExpression &sa
     return engagement.from.part < 0 || part(meeting.time) == part(busy.time);
 }
 
-/// Moves @p outcome to the day of the engagement that stands before it: 明天九点没空，十点和张伟开会. Returns
-/// false if it is unclear whether that day is meant.
+/// Moves @p outcome to the day of the first engagement, if that stands before it:
+/// 明天九点没空，十点和张伟开会. Returns false if it is unclear whether that day is meant.
 bool takeDayOf(const Remarks &remarks, const Reading &order, const QDateTime &now, Outcome &outcome)
 {
-    if (remarks.engagements.isEmpty() || order.time().day != TimeExpression::Day::None ||
-        !order.time().hasClock || order.time().hasOffset) {
+    const TimeExpression &said = order.time();
+    if (said.day != TimeExpression::Day::None || !said.hasClock || said.hasOffset) {
         return true;
     }
     const Remarks::Engagement &first = remarks.engagements.first();
@@ -64,7 +64,7 @@ bool takeDayOf(const Remarks &remarks, const Reading &order, const QDateTime &no
         TimeExpression day = first.from;
         day.part = -1;
         day.hasClock = false;
-        TimeExpression time = order.time();
+        TimeExpression time = said;
         time.complete(day);
         outcome.removeSlots(DatetimeSlot);
         fillTime(outcome, time, order.timeSaid(), now);

@@ -67,7 +67,7 @@ namespace understanding {
 /// 帮我回复他，加入123456; 告诉张伟，退出会议: somebody else is to read it.
 [[nodiscard]] bool passesOn(const QString &text);
 
-/// 叫李娜还是叫李楠, 邀请孙丽代替李娜, 约李娜开会，李娜可能不来: it stays open who is to come.
+/// 叫李娜还是叫李楠, 邀请孙丽代替李娜, 约张伟开会李娜请假: it stays open who is to come.
 [[nodiscard]] bool leavesOpenWhoComes(const Reading &reading);
 
 /// 这个会就到这儿，叫上张伟: to leave, and to call somebody?

@@ -2,10 +2,16 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include <understanding/dialogue.h>
+#include <understanding/understand.h>
 
 #include <benchmark/benchmark.h>
 
 #include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStringList>
 
 namespace {
 
@@ -26,14 +32,50 @@ QString sentence(qint64 length)
     return text.left(static_cast<int>(length));
 }
 
-/// Reads a sentence of range(0) characters; above 500, it is refused unread.
+/// The single sentences of the labelled rows that come with the tests.
+QStringList labelledSentences()
+{
+    QStringList sentences;
+    const QDir folder(QStringLiteral(LABELLED_ROWS));
+    const QStringList names = folder.entryList({QStringLiteral("*-own*.jsonl")});
+    for (const QString &name : names) {
+        QFile file(folder.filePath(name));
+        if (!file.open(QIODevice::ReadOnly)) {
+            qFatal("Cannot read %s", qPrintable(file.fileName()));
+        }
+        while (!file.atEnd()) {
+            const QJsonObject row = QJsonDocument::fromJson(file.readLine()).object();
+            if (row.value(QLatin1String("kind")) == QLatin1String("sentence")) {
+                sentences.append(row.value(QLatin1String("text")).toString());
+            }
+        }
+    }
+    return sentences;
+}
+
+/// Reads what people say, one sentence after the other, each standalone. Target: 60,000 per second.
+void sentencesPeopleSay(benchmark::State &state)
+{
+    const QStringList sentences = labelledSentences();
+    const QDateTime now = moment();
+    for (auto _ : state) {
+        for (const QString &text : sentences) {
+            benchmark::DoNotOptimize(understanding::understand(text, now));
+        }
+    }
+    state.counters["sentences"] = sentences.size();
+    state.counters["per_second"] = benchmark::Counter(static_cast<double>(sentences.size()),
+                                                      benchmark::Counter::kIsIterationInvariantRate);
+}
+BENCHMARK(sentencesPeopleSay)->Unit(benchmark::kMillisecond);
+
+/// Reads a standalone sentence of range(0) characters; above 500, it is refused unread.
 void sentenceOfLength(benchmark::State &state)
 {
-    understanding::Dialogue dialogue;
     const QString text = sentence(state.range(0));
     const QDateTime now = moment();
     for (auto _ : state) {
-        benchmark::DoNotOptimize(dialogue.turn(text, now));
+        benchmark::DoNotOptimize(understanding::understand(text, now));
     }
     state.counters["per_second"] = benchmark::Counter(1, benchmark::Counter::kIsIterationInvariantRate);
 }
@@ -45,6 +87,26 @@ BENCHMARK(sentenceOfLength)
     ->Arg(200)
     ->Arg(500)
     ->Arg(100000)
+    ->Unit(benchmark::kMicrosecond);
+
+/// Reads the same sentences in one conversation: what is asked about is followed by a sentence that is also
+/// read as the answer.
+void turnOfLength(benchmark::State &state)
+{
+    understanding::Dialogue dialogue;
+    const QString text = sentence(state.range(0));
+    const QDateTime now = moment();
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(dialogue.turn(text, now));
+    }
+}
+BENCHMARK(turnOfLength)
+    ->Arg(10)
+    ->Arg(20)
+    ->Arg(50)
+    ->Arg(100)
+    ->Arg(200)
+    ->Arg(500)
     ->Unit(benchmark::kMicrosecond);
 
 /// Reads a sentence of twenty characters with range(0) known names.

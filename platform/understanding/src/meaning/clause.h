@@ -56,6 +56,8 @@ public:
     bool isUnderstood() const;
 
 private:
+    /// True if a word asks for what is said. 吧 alone only supposes it: 会议结束了吧.
+    bool isAskedFor() const;
     template <typename Holds>
     bool any(Holds holds) const;
     bool has(WordClasses classes) const;

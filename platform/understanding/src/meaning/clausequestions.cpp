@@ -160,6 +160,28 @@ bool Clause::isPolitelyRequested() const
     });
 }
 
+bool Clause::isAskedFor() const
+{
+    const QString &text = m_reading.sentence().text();
+    bool conference = false;
+    bool left = false; // 退了 in 退了这个会吧, which has not happened yet; 会议退了吧 may have
+    return any([&](std::size_t at) {
+        const Token &token = m_tokens[at];
+        conference = conference || token.is(WordClass::Conference);
+        left = left || (!conference && token.length == 2 && token.is(WordClass::Close) &&
+                        text.at(token.end() - 1) == QChar(u'了'));
+        if (!token.is(WordClass::Request) || token.inName) {
+            return false;
+        }
+        static const QString disposing = QStringLiteral("把将");
+        const QChar last = text.at(token.end() - 1);
+        const QString before = at > m_begin ? textOf(m_tokens[at - 1]) : QString();
+        const bool byMyself = disposing.contains(last) && // 我把会议关了 only tells
+                              (before == QStringLiteral("我") || before == QStringLiteral("我们"));
+        return !byMyself && (left || textOf(token) != QStringLiteral("吧"));
+    });
+}
+
 bool Clause::isFinished() const
 {
     const QString &text = m_reading.sentence().text();
@@ -175,10 +197,12 @@ bool Clause::isFinished() const
             const Token &token = m_tokens[at];
             static const QString looked = QStringLiteral("了过");
             const QChar next = charAt(text, token.end());
-            return token.is(WordClass::Query) && looked.contains(next);
+            return (token.is(WordClass::Query) && looked.contains(next)) ||
+                   (token.is(WordClass::Schedule) && !m_reading.hasAny(AskingWords) && // 会议预约好了
+                    startsAt(text, token.end(), QStringLiteral("好了")));
         });
     }
-    if (has(WordClass::Request)) {
+    if (isAskedFor()) {
         return false;
     }
     bool deed = false; // 行了 in 行了退会 finishes nothing
@@ -190,7 +214,7 @@ bool Clause::isFinished() const
         }
         static const QString done = QStringLiteral("了过");
         const bool purposeFollows = at + 1 < m_end && m_tokens[at + 1].inTopic; // 开会过报价
-        return done.contains(text.at(token.end() - 1)) ||
+        return done.contains(text.at(token.end() - 1)) || textOf(token) == QStringLiteral("了吧") ||
                (token.end() < text.size() && !purposeFollows && done.contains(text.at(token.end())));
     });
 }

@@ -266,6 +266,7 @@ constexpr struct
     {CreateConference, isHeldInRoom},
     {CreateConference, sendsSomebody},
     {CreateConference, reminds},
+    {CreateConference, tellsAgreement},
     {CreateConference, callsStranger},
     {CreateConference, mentionsStranger},
     {CreateConference, onlySpeaksOf},

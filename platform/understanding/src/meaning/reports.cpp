@@ -115,6 +115,26 @@ bool onlySpeaksOf(const Reading &reading)
            text.contains(QStringLiteral("会别")) || text.startsWith(QStringLiteral("我先"));
 }
 
+bool tellsAgreement(const Reading &reading)
+{
+    static const QStringList agreed = {
+        QStringLiteral("约好"), QStringLiteral("约定"),   QStringLiteral("定好"),   QStringLiteral("说好"),
+        QStringLiteral("讲好"), QStringLiteral("谈好"),   QStringLiteral("说定"),   QStringLiteral("敲定"),
+        QStringLiteral("谈妥"), QStringLiteral("商量好"), QStringLiteral("商量定"), QStringLiteral("沟通好")};
+    if (reading.has(WordClass::Request)) {
+        return false;
+    }
+    const QString &text = reading.sentence().text();
+    const std::vector<FoundName> &names = reading.names();
+    return std::any_of(names.cbegin(), names.cend(), [&](const FoundName &name) {
+        const int end = name.position + name.said.size();
+        return std::any_of(agreed.cbegin(), agreed.cend(), [&](const QString &word) {
+            return startsAt(text, end, word) || // 张伟敲定 may be taken for a name
+                   (name.said.endsWith(word) && name.said.size() > word.size() + 1);
+        });
+    });
+}
+
 bool endsLater(const Reading &reading)
 {
     const Tokens &tokens = reading.tokens();

@@ -24,6 +24,9 @@ namespace understanding {
 /// 下次开会记得叫我, 有空一起开会啊, 你能开会吗, 我先开会, 会议三点到五点: sets no time, or gives no order.
 [[nodiscard]] bool onlySpeaksOf(const Reading &reading);
 
+/// 跟张伟约好明天三点开会: it has been agreed already; 约好张伟明天三点开会 orders it.
+[[nodiscard]] bool tellsAgreement(const Reading &reading);
+
 /// 三点散会, 明天散会: not now.
 [[nodiscard]] bool endsLater(const Reading &reading);
 

@@ -15,6 +15,8 @@
 
 namespace understanding {
 
+static constexpr int ShortestAccount = 3;
+
 void Clause::survey()
 {
     constexpr WordClasses around = WordClass::Filler | WordClass::Address | WordClass::Request |
@@ -101,7 +103,9 @@ bool Clause::isExplained(std::size_t at) const
                isGroupBeforeOpening(at) || isOnlyTitle(at) || isPreamble(at) || isOfNumber(at) ||
                isOwnGroup(at) || (m_intent == QLatin1String(AddBuddy) && !m_reading.account().isEmpty());
     case Token::Kind::Number: // a date or an hour that was cut
-        return m_intent != QLatin1String(CreateConference) || token.inName || isDescription(at);
+        return token.inName || isDescription(at) ||
+               (m_intent != QLatin1String(CreateConference) &&
+                !(m_intent == QLatin1String(InviteConference) && token.length < ShortestAccount)); // 小李2
     case Token::Kind::Duration: // how long a new conference takes
         return m_intent == QLatin1String(CreateConference) ||
                (m_isQuery && m_reading.has(WordClass::Question) &&

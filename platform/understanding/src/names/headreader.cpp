@@ -3,6 +3,7 @@
 
 #include "names/headreader.h"
 
+#include "names/namecharacters.h"
 #include "names/namelook.h"
 #include "text/rulefile.h"
 
@@ -186,6 +187,9 @@ bool isLikelyName(const QString &name)
     constexpr int longestName = 5; // 乌兰图雅
     static const QString strange =
         QStringLiteral("薅去说吃喝打看做写送聊谈让叫喊呗请找搞问想要进入把给是没不了过吗呢吧的");
+    if (holdsOtherThanLetters(name)) { // 张伟3.5点
+        return false;
+    }
     if (name.contains(QChar(u'俩')) || name.contains(QChar(u'仨'))) { // 法务那俩律师
         return false;
     }

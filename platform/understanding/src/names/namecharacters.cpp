@@ -5,6 +5,10 @@
 
 #include "text/scan.h"
 
+#include <QVector>
+
+#include <algorithm>
+
 namespace understanding {
 
 bool isSpeaker(QChar character)
@@ -23,6 +27,20 @@ bool endsGroup(QChar character)
 {
     static const QString groups = QStringLiteral("部门组处科室班委队院校厂店社团局所站司心系级届区间舍");
     return groups.contains(character);
+}
+
+bool holdsOtherThanLetters(const QString &name)
+{
+    static const QString joining = QStringLiteral(" ·.'’‘´`-_@+");
+    constexpr ushort endOfLatin = 0x250;
+    const bool latin = std::all_of(name.cbegin(), name.cend(), [](QChar character) {
+        return character.unicode() < endOfLatin || joining.contains(character);
+    });
+    const QVector<uint> characters = name.toUcs4();
+    return std::any_of(characters.cbegin(), characters.cend(), [&](uint character) {
+        const bool joins = character <= 0xffff && joining.contains(QChar(static_cast<ushort>(character)));
+        return !QChar::isLetter(character) && !joins && !(latin && QChar::isDigit(character));
+    });
 }
 
 int givenNameWithOne(const QString &text, int position)

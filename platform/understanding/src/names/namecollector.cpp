@@ -4,6 +4,7 @@
 #include "names/namecollector.h"
 
 #include "names/headreader.h"
+#include "names/namecharacters.h"
 #include "names/namelook.h"
 #include "words/lexicon.h"
 
@@ -28,7 +29,19 @@ void NameCollector::addUnknown(int position, const QString &normal, bool called)
 void NameCollector::addOne(int position, int length, bool called)
 {
     const QString said = m_raw.mid(position, length);
-    m_names.push_back({position, position, said, said, called, false});
+    m_names.push_back({position, position, said, said, called, holdsOtherThanLetters(said)});
+}
+
+void NameCollector::addRow(int position, const QStringList &names, bool called)
+{
+    const std::size_t before = m_names.size();
+    int at = position;
+    for (const QString &name : names) {
+        addOne(at, name.size(), called);
+        at += name.size();
+    }
+    m_names[before].start = m_modifierStart >= 0 ? m_modifierStart : position;
+    m_modifierStart = -1;
 }
 
 void NameCollector::doubtLast()
@@ -41,6 +54,12 @@ void NameCollector::doubtLast()
 void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool called)
 {
     const QString chunk = m_text.mid(start, end - start);
+    PeopleRow row = readPeopleRow(chunk);
+    row = row.isWhole ? row : readPeopleRow(withoutParticles(chunk)); // 王总老王都
+    if (row.isWhole) {
+        addRow(start + chunk.indexOf(row.names.first()), row.names, called);
+        return;
+    }
     const int said = chunk.size() - modifierLength(chunk);
     const bool familiar = said == 2 && isNamePrefix(chunk.at(chunk.size() - 2)) &&
                           chunk.endsWith(QChar(u'于')); // 老于 in 采购的老于
@@ -101,7 +120,7 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
                                        .classes.intersects(WordClass::Conference | WordClass::Video);
         const bool onlyOf =
             chunk.endsWith(QChar(u'的')) && !ofConference && !isPersonsName(found); // 拉个懂技术的进来
-        m_names[at].doubtful = cut || strange || onlyOf || !isLikelyName(found);
+        m_names[at].doubtful = cut || row.isUnclear || strange || onlyOf || !isLikelyName(found);
     }
 }
 

@@ -37,6 +37,8 @@ protected:
     int m_modifierStart = -1;       ///< of the next name, -1 for none
 
 private:
+    /// Adds people who stand in a row from @p position on.
+    void addRow(int position, const QStringList &names, bool called);
     /// 邓稼先 before a comma, 佟大为 anywhere: the last character belongs to the name.
     [[nodiscard]] bool isWholeName(const QString &chunk, int end) const;
 

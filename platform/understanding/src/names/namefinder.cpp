@@ -134,6 +134,7 @@ private:
             m_tokens[last + 1].position == m_tokens[last].end()) { // 陈工
             ++last;
         }
+        last = endOfPeopleRow(at, last);
         std::size_t next = last + 1;
         static const QString addressed = QStringLiteral("你您"); // 陈工你也叫上
         while (next < m_tokens.size() && m_tokens[next].length <= 2 &&
@@ -165,6 +166,25 @@ private:
             addChunk(token.position, end, true, false);
         }
         return m_names.size() > before ? last : at;
+    }
+
+    /// The last token of 王总老王 and of 产品经理吴迪, which begin at @p at; @p last if nobody else follows.
+    std::size_t endOfPeopleRow(std::size_t at, std::size_t last) const
+    {
+        std::size_t run = last;
+        while (run + 1 < qMin(m_tokens.size(), at + LongestName) &&
+               m_tokens[run + 1].position == m_tokens[run].end() &&
+               (m_tokens[run + 1].kind == Token::Kind::Other || m_tokens[run + 1].is(WordClass::Title))) {
+            ++run;
+        }
+        if (run == last) {
+            return last;
+        }
+        const int start = m_tokens[at].position;
+        const QString said = m_text.mid(start, m_tokens[run].end() - start);
+        const int modifier = modifierLength(said);
+        const bool described = modifier > 0 && isPersonsName(said.mid(modifier));
+        return readPeopleRow(said).isWhole || described ? run : last;
     }
 
     /// Takes the names behind the word at @p lead; returns the last token that belongs to them.

@@ -229,6 +229,59 @@ static QStringList splitFamiliarNames(const QString &text)
     return names;
 }
 
+/// The length of whoever stands at @p at and can be nobody else: 王总, 小李, 小王老师; 0 for none.
+static int clearPersonLength(const QString &text, int at)
+{
+    const auto titleAt = [&](int position) {
+        const WordMatch word = Lexicon::instance().longestAt(text, position);
+        return word.classes.has(WordClass::Title) ? word.length : 0;
+    };
+    const QChar first = text.at(at);
+    if (isNamePrefix(first) && first != QChar(u'大')) {
+        static const QString inNoName = QStringLiteral("组队班区店孩学时");
+        const QString name = text.mid(at, 2);
+        if (name.size() < 2 || !name.at(1).isLetter() || isNamePrefix(name.at(1)) ||
+            inNoName.contains(name.at(1)) || isRoleOrKin(name)) {
+            return 0;
+        }
+        return isSurname(name.at(1)) ? 2 + titleAt(at + 2) : 2;
+    }
+    const int surname = startsTwoCharacterSurname(text.mid(at, 2)) ? 2 : 1;
+    const int title = isSurname(first) ? titleAt(at + surname) : 0;
+    return title > 0 ? surname + title : 0;
+}
+
+PeopleRow readPeopleRow(const QString &text)
+{
+    PeopleRow row;
+    if (isTransliterated(text)) { // 阿依古丽
+        return row;
+    }
+    bool titled = false; // 小林正夫 may be one name, 王总张伟 is none
+    int at = 0;
+    while (at < text.size()) {
+        const int length = clearPersonLength(text, at);
+        if (length == 0) {
+            break;
+        }
+        titled = titled || !isNamePrefix(text.at(at));
+        row.names.append(text.mid(at, length));
+        at += length;
+    }
+    const int shortestTitled = 3;
+    const bool begins =
+        row.names.size() > 1 || (titled && row.names.first().size() >= shortestTitled); // 张老师
+    const QString rest = text.mid(at);
+    if (rest.size() > 1 && (row.names.size() > 1 || titled) && !isNamePrefix(rest.at(0)) && !isThing(rest) &&
+        isPeople(rest) && !endsLikeName(rest)) {
+        row.names += splitNames(rest);
+        at = text.size();
+    }
+    row.isWhole = at == text.size() && row.names.size() > 1;
+    row.isUnclear = at < text.size() && begins && !endsLikeName(text);
+    return row;
+}
+
 QStringList splitNames(const QString &text)
 {
     constexpr int shortestList = 4;

@@ -31,6 +31,15 @@ bool isPersonsName(const QString &text);
 /// returns it whole.
 QStringList splitNames(const QString &text);
 
+/// People in a row without signs between them, told apart by titles and prefixes: 王总老王小李张老师.
+struct PeopleRow
+{
+    QStringList names;      ///< in the order in which they were said
+    bool isWhole = false;   ///< at least two, and nothing else was said
+    bool isUnclear = false; ///< what stands behind them is nobody who can be told apart: 王总老王强
+};
+PeopleRow readPeopleRow(const QString &text);
+
 /// True for one person or several in a row: 李娜, 李娜王芳.
 bool isPeople(const QString &text);
 

@@ -76,6 +76,11 @@ bool Clause::isPieceOfTime(std::size_t at) const
                    return pieces.contains(character) || digitValue(character) >= 0;
                });
     }
+    const bool cutOff = at > m_begin && m_tokens[at - 1].time.hasClock && // 一 in 十点一和张伟开会
+                        m_tokens[at - 1].end() == token.position && textOf(token) == QStringLiteral("一");
+    if (cutOff) {
+        return true;
+    }
     const bool behindTime = at == m_begin || m_tokens[at - 1].kind == Token::Kind::Time;
     const bool beforeTime = behindTime && at + 1 < m_end && m_tokens[at + 1].kind == Token::Kind::Time &&
                             m_tokens[at + 1].position == token.end();

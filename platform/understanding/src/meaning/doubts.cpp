@@ -299,6 +299,9 @@ constexpr struct
     {QueryConference, opensOfKind},
     {InviteConference, comesLater},
     {CloseConference, endsLater},
+    {CreateConference, holdsLooseNumber},
+    {InviteConference, holdsLooseNumber},
+    {AddBuddy, holdsMoreThanAccount},
     {AddBuddy, onlyMentionsFriend},
 };
 

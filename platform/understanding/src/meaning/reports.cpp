@@ -138,9 +138,15 @@ bool tellsAgreement(const Reading &reading)
 bool endsLater(const Reading &reading)
 {
     const Tokens &tokens = reading.tokens();
-    for (std::size_t at = 1; at < tokens.size(); ++at) {
+    bool timed = false; // 周三下午两点和王总下会
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        timed = !tokens[at].is(WordClass::Punctuation) &&
+                (timed || (tokens[at].kind == Token::Kind::Time && tokens[at].time.hasClock));
         if (!tokens[at].is(WordClass::CloseAlone) || tokens[at].inTopic) {
             continue;
+        }
+        if (timed) {
+            return true;
         }
         std::size_t before = at;
         while (before > 0 && tokens[before - 1].is(WordClass::Filler)) {

@@ -107,6 +107,32 @@ static bool isDeed(const Token &token)
                        WordClass::CloseAlone | WordClass::Buddy);
 }
 
+bool holdsLooseNumber(const Reading &reading)
+{
+    constexpr int longest = 2;
+    constexpr WordClasses apart = WordClass::Conference | WordClass::Trigger | WordClass::Pull |
+                                  WordClass::StrongOpen | WordClass::WeakOpen | WordClass::Punctuation;
+    const Tokens &tokens = reading.tokens();
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        const Token &token = tokens[at];
+        const bool describes = at + 1 < tokens.size() && !tokens[at + 1].isAny(apart); // 3期培训会
+        if (token.kind == Token::Kind::Number && token.length <= longest && !token.inName && !token.inTopic &&
+            !describes) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool holdsMoreThanAccount(const Reading &reading)
+{
+    const auto numbers =
+        std::count_if(reading.tokens().cbegin(), reading.tokens().cend(), [](const Token &token) {
+            return token.kind == Token::Kind::Number && !token.inName && !token.inTopic;
+        });
+    return !reading.account().isEmpty() && (numbers > 1 || reading.timeCount() > 0);
+}
+
 bool holdsSeveralNumbers(const Reading &reading)
 {
     return std::count_if(reading.tokens().cbegin(), reading.tokens().cend(), [](const Token &token) {

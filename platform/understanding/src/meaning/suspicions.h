@@ -41,6 +41,12 @@ namespace understanding {
 /// 是不是该开个会了, unlike 明天是不是要开会, which asks what there is.
 [[nodiscard]] bool proposesOpening(const Reading &reading);
 
+/// 8 in 8会，通知马超 and 20 in 20约张伟开会: the rest of a time or of something else.
+[[nodiscard]] bool holdsLooseNumber(const Reading &reading);
+
+/// 加工号2号200002为好友: more digits than those of one account.
+[[nodiscard]] bool holdsMoreThanAccount(const Reading &reading);
+
 // What leaves open whether, when or for whom something is to be done.
 
 /// 明天三点安排个评审, 和张伟讨论方案, 约张伟明天三点: people may well meet in one room.

@@ -187,7 +187,9 @@ bool isLikelyName(const QString &name)
     constexpr int longestName = 5; // 乌兰图雅
     static const QString strange =
         QStringLiteral("薅去说吃喝打看做写送聊谈让叫喊呗请找搞问想要进入把给是没不了过吗呢吧的");
-    if (holdsOtherThanLetters(name)) { // 张伟3.5点
+    static const QString timely = QStringLiteral("点刻半"); // 半约 in 十点半约半约李娜, but not 点点
+    const bool ofTime = timely.contains(name.at(0)) && name.at(0) != name.at(name.size() - 1);
+    if (ofTime || holdsOtherThanLetters(name)) { // 张伟3.5点
         return false;
     }
     if (name.contains(QChar(u'俩')) || name.contains(QChar(u'仨'))) { // 法务那俩律师

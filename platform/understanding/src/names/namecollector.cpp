@@ -120,7 +120,8 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
                                        .classes.intersects(WordClass::Conference | WordClass::Video);
         const bool onlyOf =
             chunk.endsWith(QChar(u'的')) && !ofConference && !isPersonsName(found); // 拉个懂技术的进来
-        m_names[at].doubtful = cut || row.isUnclear || strange || onlyOf || !isLikelyName(found);
+        const bool timely = modifier > 0 && QStringLiteral("点午刻").contains(chunk.at(0)); // 点两王总
+        m_names[at].doubtful = cut || timely || row.isUnclear || strange || onlyOf || !isLikelyName(found);
     }
 }
 

@@ -144,6 +144,13 @@ int readClock(const QString &text, int position, TimeExpression &expression)
     if (!hours || hours.length > 3) {
         return 0;
     }
+    const int ones = digitValue(text.at(at + hours.length - 1));
+    const bool isEither = hours.length == 2 && ones > 0 &&
+                          !isAsciiDigit(text.at(at)) && // 二三点: two or three
+                          digitValue(text.at(at)) == ones - 1;
+    if (isEither) {
+        return 0;
+    }
     at += hours.length;
     if (isAsciiDigit(text.at(at - 1))) {
         TimeExpression english = expression;

@@ -305,7 +305,8 @@ bool Reading::takePassword(std::size_t label)
                               digitString(m_sentence.text().mid(token.position, end - token.position)));
             return true;
         }
-        if (token.isAny(WordClass::IdLabel | WordClass::Conference | WordClass::Join)) {
+        if (token.isAny(WordClass::IdLabel | WordClass::Conference | WordClass::Join |
+                        WordClass::PasswordLabel)) { // 密码密码1234: the next label's
             return false;
         }
     }

@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QDateTimeEdit>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QToolButton>
@@ -34,6 +35,9 @@ private Q_SLOTS:
     void whatEndsMeanwhileCannotBeChanged();
     void aHostsPasscodeGoesWithTheAccount();
     void whatIsGoneIsNotOpened();
+    void itIsExported_data();
+    void itIsExported();
+    void theQuestionForAFileGoesWithIt();
     void pictures_data();
     void pictures();
 
@@ -50,6 +54,7 @@ private:
             .byDialNumber(QString::fromLatin1(number), QStringLiteral("u100001"))
             .value_or(Conference());
     }
+    QFileDialog *fileDialog() const { return dialog()->findChild<QFileDialog *>(); }
     void clickSave() const { QTest::mouseClick(field<QPushButton>("save"), Qt::LeftButton); }
 };
 
@@ -276,6 +281,64 @@ void TestConferenceDetail::whatIsGoneIsNotOpened()
     m_fixture->child<QAction>("open")->trigger();
     QVERIFY(!dialog());
     QCOMPARE(m_fixture->told(), QStringLiteral("会议已不存在。"));
+}
+
+void TestConferenceDetail::itIsExported_data()
+{
+    addColumns<QString, Qt::Key, Qt::KeyboardModifiers>({"number", "key", "modifiers"});
+    addRow("one's own, with the mnemonic", QStringLiteral("880100005"), Qt::Key_X,
+           Qt::KeyboardModifiers(Qt::AltModifier));
+    addRow("one's own, with the focus on the button", QStringLiteral("880100005"), Qt::Key_Space,
+           Qt::KeyboardModifiers());
+    addRow("another's", QStringLiteral("880100001"), Qt::Key_X, Qt::KeyboardModifiers(Qt::AltModifier));
+}
+
+void TestConferenceDetail::itIsExported()
+{
+    QFETCH(QString, number);
+    QFETCH(Qt::Key, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    open(number.toLatin1().constData());
+    dialog()->activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), dialog());
+    auto *button = field<QPushButton>("export");
+    for (int i = 0; i < 20 && key == Qt::Key_Space && !button->hasFocus(); ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    QTRY_VERIFY(fileDialog()); // a mnemonic presses the button for a moment
+    const QString file = m_fixture->world->folder.filePath(QStringLiteral("out"));
+    WindowFixture::childOf<QLineEdit>(fileDialog(), "fileNameEdit")->setText(file);
+    QTest::keyClick(fileDialog(), Qt::Key_Return);
+    QTRY_VERIFY(!fileDialog());
+
+    QFile written(file + QStringLiteral(".ics"));
+    QVERIFY(written.open(QIODevice::ReadOnly));
+    const QList<QByteArray> lines = written.readAll().split('\n');
+    const Conference conference = stored(number.toLatin1().constData());
+    const QString start = QDateTime::fromMSecsSinceEpoch(conference.startMsecs)
+                              .toString(QStringLiteral("'DTSTART;TZID=Asia/Shanghai:'yyyyMMdd'T'hhmmss"));
+    for (const QString &line :
+         {QStringLiteral("UID:%1").arg(conference.confId), QStringLiteral("SUMMARY:%1").arg(conference.title),
+          QStringLiteral("LOCATION:视频会议 %1").arg(number), start}) {
+        QVERIFY2(lines.contains(line.toUtf8() + '\r'), qPrintable(line));
+    }
+    QCOMPARE(lines.count("BEGIN:VEVENT\r"), 1);
+    // It stays open, and says itself what became of it.
+    QVERIFY(dialog() && dialog()->isVisible());
+    QCOMPARE(field<QLabel>("detailResult")->text(), QStringLiteral("已导出到 %1。").arg(written.fileName()));
+    QCOMPARE(button->accessibleName(), QStringLiteral("导出日历文件"));
+}
+
+void TestConferenceDetail::theQuestionForAFileGoesWithIt()
+{
+    open("880100005");
+    field<QPushButton>("export")->click();
+    QVERIFY(fileDialog());
+    m_fixture->world->ask(QStringLiteral("Delete Conference"),
+                          QJsonObject{{QStringLiteral("conferenceId"), stored("880100005").confId}});
+    QTRY_VERIFY(!dialog());
+    QVERIFY(!m_fixture->window->findChild<QFileDialog *>());
 }
 
 void TestConferenceDetail::pictures_data()

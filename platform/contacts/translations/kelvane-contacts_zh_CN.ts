@@ -212,6 +212,10 @@
         <translation>保存(&amp;O)</translation>
     </message>
     <message>
+        <source>E&amp;xport Calendar File…</source>
+        <translation>导出日历文件(&amp;X)…</translation>
+    </message>
+    <message>
         <source>Conference Details</source>
         <translation>会议详情</translation>
     </message>
@@ -230,6 +234,10 @@
     <message>
         <source>State</source>
         <translation>状态</translation>
+    </message>
+    <message>
+        <source>Export calendar file</source>
+        <translation>导出日历文件</translation>
     </message>
     <message>
         <source>Close</source>

@@ -4,6 +4,7 @@
 #include "window/conferencedetail.h"
 
 #include "window/bookaction.h"
+#include "window/calendardialog.h"
 #include "window/celldelegate.h"
 #include "window/conferencetimeedit.h"
 #include "window/passcodefield.h"
@@ -79,6 +80,7 @@ ConferenceDetail::ConferenceDetail(ContactsBook &book, const Conference &confere
     , m_passcodeNote(new QLabel)
     , m_seats(new QTreeWidget)
     , m_save(new LSuggestButton(tr("&Save")))
+    , m_export(new QPushButton(tr("E&xport Calendar File…")))
 {
     arrange();
     reload();
@@ -102,9 +104,12 @@ void ConferenceDetail::arrange()
     m_seats->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     result()->setObjectName(QStringLiteral("detailResult"));
     m_save->setObjectName(QStringLiteral("save"));
+    m_export->setObjectName(QStringLiteral("export"));
+    m_export->setAccessibleName(tr("Export calendar file"));
     addFields();
     addBelowForm(m_seats);
-    addButtons(m_save, tr("Close"));
+    addButtons(m_save, tr("Close"), m_export);
+    connect(m_export, &QPushButton::clicked, this, &ConferenceDetail::exportCalendar);
     connect(m_title, &QLineEdit::textChanged, this, &ConferenceDetail::showWhetherChanged);
     connect(m_start, &QDateTimeEdit::dateTimeChanged, this, &ConferenceDetail::showWhetherChanged);
     for (QSpinBox *box : {m_minutes, m_limit}) {
@@ -254,6 +259,12 @@ QJsonObject ConferenceDetail::changes() const
 void ConferenceDetail::showWhetherChanged()
 {
     m_save->setEnabled(!changes().isEmpty() && !cleanDisplayText(m_title->text()).isEmpty());
+}
+
+void ConferenceDetail::exportCalendar()
+{
+    askForCalendarFile(this, m_book, m_conference.dialNumber,
+                       [this](const QString &text) { result()->tell(text); });
 }
 
 void ConferenceDetail::submit()

@@ -17,8 +17,8 @@ QT_END_NAMESPACE
 
 class PasscodeField;
 
-/// One conference with everybody who has or had a seat in it; its host can change it here. Follows who is in
-/// it.
+/// One conference with everybody who has or had a seat in it; its host can change it here, and everybody
+/// export it. Follows who is in it.
 class ConferenceDetail : public FormDialog
 {
     Q_OBJECT
@@ -37,6 +37,7 @@ private:
     void showSeats(const QVector<Participant> &seats);
     QJsonObject changes() const;
     void showWhetherChanged();
+    void exportCalendar();
     /// Saves what was edited.
     void submit() override;
 
@@ -57,4 +58,5 @@ private:
     QLabel *m_passcodeNote;
     QTreeWidget *m_seats;
     QPushButton *m_save;
+    QPushButton *m_export;
 };

@@ -32,11 +32,14 @@ void FormDialog::addBelowForm(QWidget *widget)
     m_column->insertWidget(m_column->indexOf(m_result), widget, 1);
 }
 
-void FormDialog::addButtons(QPushButton *act, const QString &closeText)
+void FormDialog::addButtons(QPushButton *act, const QString &closeText, QPushButton *other)
 {
     auto *buttons = new QDialogButtonBox;
     act->setDefault(true);
     buttons->addButton(act, QDialogButtonBox::AcceptRole);
+    if (other) {
+        buttons->addButton(other, QDialogButtonBox::ActionRole);
+    }
     QPushButton *close = buttons->addButton(closeText, QDialogButtonBox::RejectRole);
     close->setObjectName(QStringLiteral("close"));
     m_column->addWidget(buttons);

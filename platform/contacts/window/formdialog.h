@@ -13,8 +13,8 @@ QT_END_NAMESPACE
 
 class ResultLabel;
 
-/// A form, a line that says why it was refused, and two buttons: one for what the dialog is for, one to close
-/// it. Does not wait: the assistant's requests go on meanwhile. Deletes itself when it is closed.
+/// A form, a line that says what became of it, and buttons: one for what the dialog is for, one to close it.
+/// Does not wait: the assistant's requests go on meanwhile. Deletes itself when it is closed.
 class FormDialog : public QDialog
 {
     Q_OBJECT
@@ -30,8 +30,9 @@ protected:
     ResultLabel *result() const { return m_result; }
     /// Gets the room that the form leaves.
     void addBelowForm(QWidget *widget);
-    /// Call it once, last, which makes them last for the tab key. @p act becomes the default button.
-    void addButtons(QPushButton *act, const QString &closeText);
+    /// Call it once, last, which makes them last for the tab key. @p act becomes the default button; @p other
+    /// leaves the dialog open.
+    void addButtons(QPushButton *act, const QString &closeText, QPushButton *other = nullptr);
 
     /// What @p act of addButtons() does.
     virtual void submit() = 0;

@@ -3,6 +3,7 @@
 
 #include "windowfixture.h"
 
+#include "card/cardtheme.h"
 #include "paintedcontrast.h"
 #include "testcolumns.h"
 
@@ -62,11 +63,11 @@ void TestConferencePage::itShowsTheUsersConferences()
     const auto look = [this](int row, ConferenceModel::Column column, int role) {
         return m_fixture->conferences()->model()->index(row, column).data(role);
     };
-    // The dots carry the states' colours, so that the texts stay legible.
+    // The dots carry the cards' colours of the states, so that the texts stay legible.
     QCOMPARE(look(0, ConferenceModel::State, Qt::DecorationRole).value<QColor>(),
-             legibleInLists(QColor(89, 190, 45)));
+             legibleInLists(CardTheme::inProgress()));
     QCOMPARE(look(1, ConferenceModel::State, Qt::DecorationRole).value<QColor>(),
-             legibleInLists(QColor(0, 129, 255)));
+             legibleInLists(CardTheme::notStarted()));
     QVERIFY(!look(0, ConferenceModel::State, Qt::ForegroundRole).isValid());
     QVERIFY(!look(0, ConferenceModel::Title, Qt::ForegroundRole).isValid());
     QVERIFY(!look(0, ConferenceModel::Title, Qt::DecorationRole).isValid());

@@ -7,6 +7,7 @@
 
 #include "paintedcontrast.h"
 #include "window/legiblecolor.h"
+#include "window/windowtheme.h"
 
 #include <lumo/lguiapplicationhelper.h>
 #include <lumo/lstyle.h>
@@ -273,8 +274,8 @@ void TestWindowContrast::aColourIsChangedNoMoreThanNeeded()
         Helper::instance()->setPaletteType(theme);
         const QPalette palette = QApplication::palette();
         QCOMPARE(legibleInLists(palette.color(QPalette::Text)), palette.color(QPalette::Text));
-        for (const QColor &color :
-             {QColor(89, 190, 45), QColor(0, 129, 255), QColor(Qt::white), QColor(Qt::black)}) {
+        for (const QColor &color : {WindowTheme::running(), WindowTheme::notStarted(), WindowTheme::ended(),
+                                    QColor(Qt::white), QColor(Qt::black)}) {
             const QRgb shown = legibleInLists(color).rgb();
             const double onBase = PaintedContrast::between(shown, palette.color(QPalette::Base).rgb());
             const double onOther =

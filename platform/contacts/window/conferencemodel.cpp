@@ -6,6 +6,7 @@
 #include "book/contactsbook.h"
 #include "core/displaytext.h"
 #include "window/legiblecolor.h"
+#include "window/windowtheme.h"
 
 #include <lumo/plaintooltip.h>
 
@@ -24,7 +25,7 @@ constexpr qint64 LookBackMsecs = 30 * 24 * 60 * MinuteMsecs;
 constexpr int PageSize = 100;
 constexpr int WholeSize = 1000;
 
-/// What the table says for a state. The colours are those of the assistant's cards.
+/// What the table says for a state.
 struct StateLook
 {
     QString text;
@@ -35,13 +36,13 @@ StateLook lookOf(ConferenceState state)
 {
     switch (state) {
     case ConferenceState::NotStarted:
-        return {ConferenceModel::tr("Upcoming"), QColor(0, 129, 255)};
+        return {ConferenceModel::tr("Upcoming"), WindowTheme::notStarted()};
     case ConferenceState::Running:
-        return {ConferenceModel::tr("Running"), QColor(89, 190, 45)};
+        return {ConferenceModel::tr("Running"), WindowTheme::running()};
     case ConferenceState::Ended:
         break;
     }
-    return {ConferenceModel::tr("Ended"), QColor(128, 128, 128)};
+    return {ConferenceModel::tr("Ended"), WindowTheme::ended()};
 }
 
 QString headerText(int column)

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "actionnames.h"
+
 #include <QDBusMessage>
 #include <QString>
 
@@ -28,6 +30,14 @@ inline QString adminPath()
 inline QDBusMessage contactCall(const QString &method)
 {
     return QDBusMessage::createMethodCall(service(), contactPath(), contactInterface(), method);
+}
+/// A request for the application's window as if its user had asked, so that it may take the focus.
+inline QDBusMessage windowRequest(qint64 deadlineMsecs)
+{
+    QDBusMessage request = contactCall(QStringLiteral("Request"));
+    request << QString(ActionName::OpenConferenceList) << QStringLiteral("{\"askedBy\":\"user\"}")
+            << deadlineMsecs << QString();
+    return request;
 }
 inline QString deadlinePassedError()
 {

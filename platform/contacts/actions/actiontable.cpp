@@ -5,6 +5,8 @@
 
 #include "actions/actions.h"
 
+#include "actionnames.h"
+
 #include <QVector>
 
 #include <algorithm>
@@ -12,17 +14,17 @@
 const Action *findAction(const QString &name)
 {
     static const QVector<Action> actions{
-        {QStringLiteral("Create Conference"), createConference, ActionAccess::LoggedInUser},
-        {QStringLiteral("Invite Members"), inviteMembers, ActionAccess::LoggedInUser},
-        {QStringLiteral("Join Conference"), joinConference, ActionAccess::LoggedInUser},
-        {QStringLiteral("Join My Conference"), joinMyConference, ActionAccess::LoggedInUser},
-        {QStringLiteral("Search Conference"), searchConference, ActionAccess::LoggedInUser},
-        {QStringLiteral("Is Conference Host"), isConferenceHost, ActionAccess::LoggedInUser},
-        {QStringLiteral("Delete Conference"), deleteConference, ActionAccess::LoggedInUser},
-        {QStringLiteral("Add Friends"), addFriends, ActionAccess::LoggedInUser},
-        {QStringLiteral("Exit Conference"), exitConference, ActionAccess::LoggedInUser},
-        {QStringLiteral("Open Conference List"), openConferenceList, ActionAccess::Anybody},
-        {QStringLiteral("Update Conference"), updateConference, ActionAccess::LoggedInUser},
+        {ActionName::CreateConference, createConference, ActionAccess::LoggedInUser},
+        {ActionName::InviteMembers, inviteMembers, ActionAccess::LoggedInUser},
+        {ActionName::JoinConference, joinConference, ActionAccess::LoggedInUser},
+        {ActionName::JoinMyConference, joinMyConference, ActionAccess::LoggedInUser},
+        {ActionName::SearchConference, searchConference, ActionAccess::LoggedInUser},
+        {ActionName::IsConferenceHost, isConferenceHost, ActionAccess::LoggedInUser},
+        {ActionName::DeleteConference, deleteConference, ActionAccess::LoggedInUser},
+        {ActionName::AddFriends, addFriends, ActionAccess::LoggedInUser},
+        {ActionName::ExitConference, exitConference, ActionAccess::LoggedInUser},
+        {ActionName::OpenConferenceList, openConferenceList, ActionAccess::Anybody},
+        {ActionName::UpdateConference, updateConference, ActionAccess::LoggedInUser},
     };
     const auto found = std::find_if(actions.cbegin(), actions.cend(),
                                     [&name](const Action &action) { return action.name == name; });

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QJsonObject>
+#include <QLatin1String>
 #include <QString>
 
 struct ActionContext;
@@ -17,7 +18,7 @@ enum class ActionAccess { Anybody, LoggedInUser };
 /// One action that other programs may request.
 struct Action
 {
-    QString name;
+    QLatin1String name;
     ActionHandler handler;
     ActionAccess access;
 };

@@ -3,6 +3,7 @@
 
 #include "reminders/reminders.h"
 
+#include "actionnames.h"
 #include "book/contactsbook.h"
 #include "core/conference.h"
 #include "core/jsonkeys.h"
@@ -19,7 +20,7 @@ namespace {
 /// Pause before trying again, after the server has refused something or the database has failed.
 constexpr qint64 RetryMsecs = MinuteMsecs;
 /// Looks at least this often, as a safety net.
-constexpr qint64 LongestWaitMsecs = 60 * MinuteMsecs;
+constexpr qint64 LongestWaitMsecs = HourMsecs;
 
 } // namespace
 
@@ -246,7 +247,7 @@ void Reminders::join(const Shown &shown)
     // Like the assistant's requests.
     const QJsonObject parameters{{JsonKey::ConferenceId, shown.dialNumber}, {JsonKey::Password, QString()}};
     const QString answer =
-        m_book.perform(QStringLiteral("Join Conference"),
+        m_book.perform(ActionName::JoinConference,
                        QString::fromUtf8(QJsonDocument(parameters).toJson(QJsonDocument::Compact)));
     const QString word = QJsonDocument::fromJson(answer.toUtf8()).object().value(JsonKey::Ret).toString();
     if (word == Outcome::Ok) {

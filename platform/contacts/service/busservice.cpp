@@ -69,11 +69,8 @@ bool BusService::putOnBus(const QString &path, QObject *object)
 void BusService::askOtherForWindow()
 {
     constexpr int timeoutMsecs = 5000;
-    QDBusMessage message = BusName::contactCall(QStringLiteral("Request"));
-    const qint64 deadlineMsecs = RequestTicket::nowMsecs() + timeoutMsecs;
-    message << QStringLiteral("Open Conference List") << QStringLiteral("{\"askedBy\":\"user\"}")
-            << deadlineMsecs << QString();
-    const QDBusMessage reply = m_connection.call(message, QDBus::Block, timeoutMsecs);
+    const QDBusMessage request = BusName::windowRequest(RequestTicket::nowMsecs() + timeoutMsecs);
+    const QDBusMessage reply = m_connection.call(request, QDBus::Block, timeoutMsecs);
     if (reply.type() == QDBusMessage::ErrorMessage) {
         qWarning() << "The running application cannot be asked for its window:" << reply.errorMessage();
     }

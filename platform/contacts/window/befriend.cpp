@@ -3,6 +3,7 @@
 
 #include "window/befriend.h"
 
+#include "actionnames.h"
 #include "book/contactsbook.h"
 #include "book/friendrequests.h"
 #include "core/jsonkeys.h"
@@ -39,6 +40,6 @@ BefriendResult befriend(ContactsBook &book, const QString &said)
             FriendRequests(book).accept(asker),
             QCoreApplication::translate("Befriend", "They had asked you already, so you are friends now.")};
     }
-    return {performAction(book, QStringLiteral("Add Friends"), {{JsonKey::UserId, said}}),
+    return {performAction(book, ActionName::AddFriends, {{JsonKey::UserId, said}}),
             QCoreApplication::translate("Befriend", "The friend request was sent.")};
 }

@@ -9,6 +9,7 @@
 #include "window/conferencedialog.h"
 #include "window/question.h"
 
+#include "actionnames.h"
 #include "book/administration.h"
 #include "book/contactsbook.h"
 #include "core/jsonkeys.h"
@@ -129,7 +130,7 @@ void ConferenceCommands::joinChosen()
     if (m_options.needsPasscode) {
         parameters.insert(JsonKey::Password, m_passcode);
     }
-    perform(QStringLiteral("Join Conference"), parameters);
+    perform(ActionName::JoinConference, parameters);
     Q_EMIT joinTried();
 }
 
@@ -183,6 +184,6 @@ void ConferenceCommands::askAndCancel()
              tr("Cancel conference %1? Those who are invited will no longer see it either.")
                  .arg(m_chosen->dialNumber),
              tr("Cancel Conference"), [this, conferenceId] {
-                 perform(QStringLiteral("Delete Conference"), {{JsonKey::ConferenceId, conferenceId}});
+                 perform(ActionName::DeleteConference, {{JsonKey::ConferenceId, conferenceId}});
              });
 }

@@ -10,6 +10,7 @@
 #include "window/passcodefield.h"
 #include "window/resultlabel.h"
 
+#include "actionnames.h"
 #include "book/contactsbook.h"
 #include "core/conferencerules.h"
 #include "core/displaytext.h"
@@ -272,7 +273,7 @@ void ConferenceDetail::submit()
     QJsonObject parameters = changes();
     parameters.insert(JsonKey::ConferenceId, m_conference.confId);
     const QString word =
-        askBook(m_book, QStringLiteral("Update Conference"), parameters).value(JsonKey::Ret).toString();
+        askBook(m_book, ActionName::UpdateConference, parameters).value(JsonKey::Ret).toString();
     if (word == Outcome::Ok) {
         accept();
         Q_EMIT told(tr("Conference %1 was changed.").arg(m_conference.dialNumber));

@@ -10,6 +10,7 @@
 #include "window/passcodefield.h"
 #include "window/resultlabel.h"
 
+#include "actionnames.h"
 #include "book/contactsbook.h"
 #include "core/conferencerules.h"
 #include "core/displaytext.h"
@@ -138,7 +139,7 @@ QJsonObject ConferenceDialog::parameters() const
 
 void ConferenceDialog::submit()
 {
-    const QJsonObject answer = askBook(m_book, QStringLiteral("Create Conference"), parameters());
+    const QJsonObject answer = askBook(m_book, ActionName::CreateConference, parameters());
     const QString word = answer.value(JsonKey::Ret).toString();
     const QJsonArray list = answer.value(JsonKey::List).toArray();
     // An overlap is answered with the others, which are there already.

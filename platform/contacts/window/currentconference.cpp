@@ -5,6 +5,7 @@
 
 #include "window/bookaction.h"
 
+#include "actionnames.h"
 #include "book/contactsbook.h"
 #include "core/clocktext.h"
 #include "core/displaytext.h"
@@ -69,9 +70,8 @@ CurrentConference::CurrentConference(ContactsBook &book, QWidget *parent)
         QGuiApplication::clipboard()->setText(m_number);
         Q_EMIT told(tr("The conference number was copied."));
     });
-    connect(m_leave, &QPushButton::clicked, this, [this] {
-        Q_EMIT told(outcomeText(performAction(m_book, QStringLiteral("Exit Conference"), {})));
-    });
+    connect(m_leave, &QPushButton::clicked, this,
+            [this] { Q_EMIT told(outcomeText(performAction(m_book, ActionName::ExitConference, {}))); });
     connect(&m_book, &ContactsBook::changedLately, this, &CurrentConference::reload);
     reload();
 }

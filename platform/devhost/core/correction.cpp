@@ -3,6 +3,8 @@
 
 #include "correction.h"
 
+#include "actionnames.h"
+
 #include <QHash>
 
 namespace devhost {
@@ -12,14 +14,14 @@ namespace {
 QString nameOf(const QString &action)
 {
     static const QHash<QString, QString> names{
-        {QStringLiteral("Create Conference"), QStringLiteral("创建会议")},
-        {QStringLiteral("Invite Members"), QStringLiteral("邀请入会")},
-        {QStringLiteral("Join Conference"), QStringLiteral("加入会议")},
-        {QStringLiteral("Join My Conference"), QStringLiteral("加入会议")},
-        {QStringLiteral("Delete Conference"), QStringLiteral("取消会议")},
-        {QStringLiteral("Update Conference"), QStringLiteral("修改会议")},
-        {QStringLiteral("Exit Conference"), QStringLiteral("退出会议")},
-        {QStringLiteral("Add Friends"), QStringLiteral("添加好友")},
+        {ActionName::CreateConference, QStringLiteral("创建会议")},
+        {ActionName::InviteMembers, QStringLiteral("邀请入会")},
+        {ActionName::JoinConference, QStringLiteral("加入会议")},
+        {ActionName::JoinMyConference, QStringLiteral("加入会议")},
+        {ActionName::DeleteConference, QStringLiteral("取消会议")},
+        {ActionName::UpdateConference, QStringLiteral("修改会议")},
+        {ActionName::ExitConference, QStringLiteral("退出会议")},
+        {ActionName::AddFriends, QStringLiteral("添加好友")},
     };
     return names.value(action, action);
 }

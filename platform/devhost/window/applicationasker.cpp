@@ -69,10 +69,7 @@ void ApplicationAsker::openWindow()
         Q_EMIT windowRefused();
         return;
     }
-    QDBusMessage message = BusName::contactCall(QStringLiteral("Request"));
-    message << QStringLiteral("Open Conference List") << QStringLiteral("{\"askedBy\":\"user\"}")
-            << qlonglong(0) << QString();
-    QDBusPendingCallWatcher *watcher = call(message, StartMsecs);
+    QDBusPendingCallWatcher *watcher = call(BusName::windowRequest(0), StartMsecs);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         const QDBusPendingReply<QString> reply = *watcher;
         watcher->deleteLater();

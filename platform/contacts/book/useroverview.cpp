@@ -4,6 +4,7 @@
 #include "book/useroverview.h"
 
 #include "book/contactsbook.h"
+#include "core/jsonkeys.h"
 
 #include <QDebug>
 #include <QJsonArray>
@@ -20,12 +21,12 @@ QJsonObject overviewOf(ContactsBook &book)
     if (!user) {
         return {};
     }
-    QJsonObject overview{{QStringLiteral("user"), QJsonObject{{QStringLiteral("account"), user->account},
-                                                              {QStringLiteral("name"), user->name}}}};
+    QJsonObject overview{{QStringLiteral("user"),
+                          QJsonObject{{JsonKey::Account, user->account}, {JsonKey::Name, user->name}}}};
     if (const auto conference = book.conferences().joinedBy(user->userId, book.nowMsecs())) {
         overview.insert(QStringLiteral("conference"),
                         QJsonObject{{QStringLiteral("number"), conference->dialNumber},
-                                    {QStringLiteral("title"), conference->title}});
+                                    {JsonKey::Title, conference->title}});
     }
     overview.insert(
         QStringLiteral("names"),

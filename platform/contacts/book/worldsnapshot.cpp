@@ -4,6 +4,7 @@
 #include "book/worldsnapshot.h"
 
 #include "book/contactsbook.h"
+#include "core/jsonkeys.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -22,9 +23,9 @@ constexpr int SnapshotLimit = 10000;
 
 QJsonObject personToJson(const Person &person)
 {
-    return {{QStringLiteral("userId"), person.userId},
-            {QStringLiteral("account"), person.account},
-            {QStringLiteral("name"), person.name},
+    return {{JsonKey::UserId, person.userId},
+            {JsonKey::Account, person.account},
+            {JsonKey::Name, person.name},
             {QStringLiteral("kind"),
              person.kind == AccountKind::Paying ? QStringLiteral("paying") : QStringLiteral("free")}};
 }
@@ -35,7 +36,7 @@ QJsonArray contactsToJson(ContactsBook &book, const QString &ownerId)
     const QVector<Person> owned = book.people().contacts(ownerId);
     for (const Person &person : owned) {
         contacts.append(QJsonObject{
-            {QStringLiteral("account"), person.account},
+            {JsonKey::Account, person.account},
             {QStringLiteral("remark"), person.remarkName},
             {QStringLiteral("friendship"), FriendshipWords[static_cast<int>(person.friendship)]},
         });
@@ -48,20 +49,20 @@ QJsonObject conferenceToJson(const Conference &conference, const QString &hostAc
     QJsonArray participants;
     for (const Participant &participant : conference.participants) {
         participants.append(QJsonObject{
-            {QStringLiteral("account"), participant.account},
+            {JsonKey::Account, participant.account},
             {QStringLiteral("attendance"), AttendanceWords[static_cast<int>(participant.attendance)]},
         });
     }
-    return {{QStringLiteral("conferenceId"), conference.confId},
+    return {{JsonKey::ConferenceId, conference.confId},
             {QStringLiteral("number"), conference.dialNumber},
-            {QStringLiteral("title"), conference.title},
+            {JsonKey::Title, conference.title},
             {QStringLiteral("host"), hostAccount},
-            {QStringLiteral("startTime"), conference.startMsecs},
-            {QStringLiteral("duration"), conference.durationMsecs},
-            {QStringLiteral("participantLimit"), conference.participantLimit},
+            {JsonKey::StartTime, conference.startMsecs},
+            {JsonKey::Duration, conference.durationMsecs},
+            {JsonKey::ParticipantLimit, conference.participantLimit},
             {QStringLiteral("passcode"), conference.passcode},
             {QStringLiteral("state"), StateWords[static_cast<int>(conference.stateAt(nowMsecs))]},
-            {QStringLiteral("participants"), participants}};
+            {JsonKey::Participants, participants}};
 }
 
 } // namespace

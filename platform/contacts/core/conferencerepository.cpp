@@ -310,11 +310,10 @@ int ConferenceRepository::creationsBetween(const QString &hostId, qint64 afterMs
 void ConferenceRepository::noteCreation(const QString &hostId, qint64 nowMsecs)
 {
     // Entries older than a day no longer matter, nor do those from a clock that was ahead.
-    constexpr qint64 dayMsecs = 24 * 60 * 60 * 1000;
     Statement(m_database, QStringLiteral("DELETE FROM creation WHERE host_id = ?"
                                          " AND (created_msecs < ? OR created_msecs > ?)"))
         .bind(hostId)
-        .bind(nowMsecs - dayMsecs)
+        .bind(nowMsecs - DayMsecs)
         .bind(nowMsecs)
         .run();
     Statement(m_database, QStringLiteral("INSERT INTO creation (host_id, created_msecs) VALUES (?, ?)"))

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "core/conference.h"
 #include "core/person.h"
 
 /// What an account's conferences may be like. The reply cards offer durations up to 30 minutes to free
@@ -16,17 +17,17 @@ struct ConferenceRules
 
     static constexpr ConferenceRules forKind(AccountKind kind)
     {
-        return kind == AccountKind::Paying ? ConferenceRules{3600000, 14400000, 20, 100}
-                                           : ConferenceRules{1800000, 1800000, 10, 10};
+        return kind == AccountKind::Paying ? ConferenceRules{HourMsecs, 4 * HourMsecs, 20, 100}
+                                           : ConferenceRules{30 * MinuteMsecs, 30 * MinuteMsecs, 10, 10};
     }
 
     static constexpr int MinParticipantLimit = 2;
     /// No conference in the database is longer, so a search for overlaps need not look further back.
-    static constexpr qint64 LongestMsecs = 24 * 60 * 60 * 1000;
+    static constexpr qint64 LongestMsecs = DayMsecs;
     static constexpr int CreationsPerMinute = 10;
     static constexpr int FriendLimit = 500;
     /// Choosing among people of the same name may delay the request by this much.
-    static constexpr qint64 LateStartMsecs = 10 * 60 * 1000;
+    static constexpr qint64 LateStartMsecs = 10 * MinuteMsecs;
     /// The most conferences in one answer.
     static constexpr int ListLimit = 100;
     static constexpr int MaxMembers = 300;

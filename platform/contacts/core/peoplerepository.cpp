@@ -57,6 +57,16 @@ QVector<Person> allOf(Statement &query, Read read)
     return people;
 }
 
+QStringList namesIn(Statement &query)
+{
+    QStringList names;
+    query.run();
+    while (query.next()) {
+        names.append(query.text(0));
+    }
+    return names;
+}
+
 } // namespace
 
 std::optional<Person> PeopleRepository::byAccount(const QString &account) const
@@ -200,12 +210,7 @@ QStringList PeopleRepository::contactNames(const QString &ownerId, int limit) co
                        " WHERE owner_id = ?"
                        " UNION SELECT remark_name FROM contact WHERE owner_id = ? AND remark_name <> ''"
                        " LIMIT ?"));
-    query.bind(ownerId).bind(ownerId).bind(limit).run();
-    QStringList names;
-    while (query.next()) {
-        names.append(query.text(0));
-    }
-    return names;
+    return namesIn(query.bind(ownerId).bind(ownerId).bind(limit));
 }
 
 QStringList PeopleRepository::unmistakableContactNames(const QString &ownerId, int limit) const
@@ -217,12 +222,7 @@ QStringList PeopleRepository::unmistakableContactNames(const QString &ownerId, i
                        "  WHERE other.owner_id = contact.owner_id AND other.remark_name = person.name"
                        "  AND other.person_id <> contact.person_id)"
                        " GROUP BY name HAVING count(*) = 1 ORDER BY min(person.account) LIMIT ?"));
-    query.bind(ownerId).bind(limit).run();
-    QStringList names;
-    while (query.next()) {
-        names.append(query.text(0));
-    }
-    return names;
+    return namesIn(query.bind(ownerId).bind(limit));
 }
 
 Friendship PeopleRepository::friendship(const QString &ownerId, const QString &personId) const

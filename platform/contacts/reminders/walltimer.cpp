@@ -4,6 +4,7 @@
 #include "reminders/walltimer.h"
 
 #include <QDebug>
+#include <QSocketNotifier>
 
 #include <sys/timerfd.h>
 #include <unistd.h>

@@ -3,9 +3,7 @@
 
 #pragma once
 
-#include <QSocketNotifier>
-
-#include <memory>
+#include <QObject>
 
 /**
  * Waits for a point in calendar time. Unlike QTimer it keeps counting while the computer sleeps, so it is due

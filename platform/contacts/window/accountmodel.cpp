@@ -5,10 +5,9 @@
 
 #include "book/contactsbook.h"
 #include "core/displaytext.h"
+#include "window/pagesize.h"
 
 namespace {
-
-constexpr int PageSize = 100;
 
 QString textOf(const Person &person)
 {

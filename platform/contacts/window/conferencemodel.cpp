@@ -6,6 +6,7 @@
 #include "book/contactsbook.h"
 #include "core/displaytext.h"
 #include "window/legiblecolor.h"
+#include "window/pagesize.h"
 #include "window/windowtheme.h"
 
 #include <lumo/plaintooltip.h>
@@ -21,8 +22,7 @@
 
 namespace {
 
-constexpr qint64 LookBackMsecs = 30 * 24 * 60 * MinuteMsecs;
-constexpr int PageSize = 100;
+constexpr qint64 LookBackMsecs = 30 * DayMsecs;
 constexpr int WholeSize = 1000;
 
 /// What the table says for a state.

@@ -4,6 +4,7 @@
 #include "window/peoplemodel.h"
 
 #include "book/contactsbook.h"
+#include "window/pagesize.h"
 
 #include <lumo/plaintooltip.h>
 
@@ -11,8 +12,6 @@
 #include <limits>
 
 namespace {
-
-constexpr int PageSize = 100;
 
 QString headerText(int column)
 {

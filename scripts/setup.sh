@@ -16,7 +16,8 @@ packages_run=(
 )
 # Also needed by the tests.
 packages_test=(
-    appstream at-spi2-core bash-completion binutils desktop-file-utils faketime libical-dev man-db pkgconf python3 sqlite3 xvfb
+    abigail-tools appstream at-spi2-core bash-completion binutils desktop-file-utils faketime libical-dev man-db pkgconf python3 sqlite3
+    xvfb xz-utils
 )
 # Also needed to build the Debian packages.
 packages_package=(abigail-tools binutils build-essential debhelper dpkg-dev lintian xz-utils)

@@ -24,8 +24,9 @@ while [ $# -gt 0 ]; do
         "$ABIDW" $options --no-corpus-path --no-comp-dir-path --no-show-locs "$library" | xz -9 >"$folder/$name.abi.xz"
         continue
     fi
+    # What is new breaks nobody. Which of Qt's templates become functions of their own differs with the optimiser's choices.
     xz -dc "$folder/$name.abi.xz" >"$scratch/$name.abi"
-    "$ABIDIFF" $options --suppressions "$folder/public-classes.suppr" --harmless "$scratch/$name.abi" "$library" || {
+    "$ABIDIFF" $options --no-added-syms --suppressions "$folder/public-classes.suppr" --harmless "$scratch/$name.abi" "$library" || {
         echo "The public classes of $name differ from platform/abi/$name.abi.xz, and programs that were built against them rely" >&2
         echo "on those. If that is meant: build the target update-abi, and say so in CHANGELOG.md." >&2
         changed=1

@@ -3,7 +3,8 @@
 
 #include "configmanager.h"
 
-#include <QDebug>
+#include "defaultlog.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -31,7 +32,7 @@ bool ConfigManager::query(const QString &key, QString &value)
 {
     const auto found = m_values.constFind(key);
     if (found == m_values.constEnd()) {
-        qDebug() << "Cannot find config: " << key;
+        qCDebug(defaultLog) << "Cannot find config: " << key;
         return false;
     }
     value = found.value();
@@ -65,7 +66,7 @@ bool ConfigManager::createMap(const QString &prefix, const QJsonValue &value)
         } else if (member.value().isString()) {
             m_values.insert(key, member.value().toString());
         } else {
-            qCritical() << "This config can only contain string&dict";
+            qCCritical(defaultLog) << "This config can only contain string&dict";
             return false;
         }
     }
@@ -76,14 +77,14 @@ bool ConfigManager::init(const QString &path)
 {
     const QJsonDocument *document = m_loader.load(path);
     if (document == nullptr || !document->isObject()) {
-        qCritical() << "config root must be a object."; // hosts search for this wording
+        qCCritical(defaultLog) << "config root must be a object."; // hosts search for this wording
         return false;
     }
     const bool parsed = fromJson(document->object());
     if (parsed) {
-        qInfo() << "Load config successfully: " << path;
+        qCInfo(defaultLog) << "Load config successfully: " << path;
     } else {
-        qCritical() << "Parse Config failed: " << path;
+        qCCritical(defaultLog) << "Parse Config failed: " << path;
     }
     return parsed;
 }
@@ -91,6 +92,6 @@ bool ConfigManager::init(const QString &path)
 void ConfigManager::dump()
 {
     for (auto entry = m_values.constBegin(); entry != m_values.constEnd(); ++entry) {
-        qCritical() << "{" << entry.key() << ", " << entry.value() << "}";
+        qCCritical(defaultLog) << "{" << entry.key() << ", " << entry.value() << "}";
     }
 }

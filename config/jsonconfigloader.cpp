@@ -3,7 +3,8 @@
 
 #include "jsonconfigloader.h"
 
-#include <QDebug>
+#include "defaultlog.h"
+
 #include <QFile>
 #include <QJsonDocument>
 
@@ -21,9 +22,9 @@ constexpr qint64 MostBytes = Q_INT64_C(1024) * 1024;
 
 void reportUnread(const QString &path, const QString &reason)
 {
-    qDebug() << "Load config failed, can not open file:" << path;
+    qCDebug(defaultLog) << "Load config failed, can not open file:" << path;
     if (!reason.isEmpty()) {
-        qWarning() << "The configuration is not read:" << qPrintable(reason);
+        qCWarning(defaultLog) << "The configuration is not read:" << qPrintable(reason);
     }
 }
 
@@ -81,5 +82,5 @@ QJsonDocument *JsonConfigLoader::load(const QString &path)
 
 void JsonConfigLoader::unload()
 {
-    qDebug() << "Unload json config, do nothing";
+    qCDebug(defaultLog) << "Unload json config, do nothing";
 }

@@ -4,12 +4,11 @@
 #include "conferencecardinterface.h"
 
 #include "contactutils.h"
+#include "defaultlog.h"
 #include "wire/abilityaction.h"
 #include "wire/resultcodes.h"
 
 #include <kelvane/kelvaneabilitymanager.h>
-
-#include <QDebug>
 
 #include <exception>
 #include <memory>
@@ -34,9 +33,9 @@ int perform(QLatin1String action, const QString &parameters, Analyse analyse)
         const int code = ability->request(action, parameters, answer);
         return code != ResultCode::Success ? code : analyse(answer);
     } catch (const std::exception &error) {
-        qWarning() << "The contact ability failed:" << action << error.what();
+        qCWarning(defaultLog) << "The contact ability failed:" << action << error.what();
     } catch (...) {
-        qWarning() << "The contact ability failed:" << action;
+        qCWarning(defaultLog) << "The contact ability failed:" << action;
     }
     return ResultCode::CallFailedLast;
 }
@@ -148,6 +147,6 @@ int ConferenceCardInterface::JoinVideoConference(const QString &confId, const QS
 void ConferenceCardInterface::noticeSentActionSignals(const int &actionType, const QVariant &payload,
                                                       Reply *reply)
 {
-    qDebug() << "Signals: ActionType" << actionType;
+    qCDebug(defaultLog) << "Signals: ActionType" << actionType;
     Q_EMIT sentActionSignals(actionType, payload, reply);
 }

@@ -6,15 +6,14 @@
 #include "answer/answeranalysers.h"
 #include "answer/answerrecords.h"
 #include "answer/semanticreaders.h"
+#include "defaultlog.h"
 #include "request/processcheck.h"
 #include "request/requesttexts.h"
 #include "request/requesttimeout.h"
 #include "request/requesttimes.h"
 
-#include <QDebug>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QLoggingCategory>
 #include <QStringList>
 
 ContactUtils *ContactUtils::instance()
@@ -53,10 +52,9 @@ QString ContactUtils::inviteParamInit(const QVector<QString> &names)
     QVector<QString> spoken = names;
     spoken.removeAll(QString());
     QString text = RequestText::inviteMembersNamed(spoken);
-    if (QLoggingCategory::defaultCategory()->isDebugEnabled()) {
-        // The debug form of the object, without building the object again.
-        qDebug().noquote() << "jsonObjMember:" << QLatin1String("QJsonObject(") + text + QLatin1Char(')');
-    }
+    // The debug form of the object, without building the object again.
+    qCDebug(defaultLog).noquote() << "jsonObjMember:"
+                                  << QLatin1String("QJsonObject(") + text + QLatin1Char(')');
     return text;
 }
 

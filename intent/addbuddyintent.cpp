@@ -4,11 +4,10 @@
 #include "contactintents.h"
 
 #include "conferencecardinterface.h"
+#include "defaultlog.h"
 #include "replytable.h"
 #include "slotreader.h"
 #include "wire/resultcodes.h"
-
-#include <QDebug>
 
 namespace {
 
@@ -28,7 +27,7 @@ int AddBuddyIntent::handleAddBuddy(const CloudIntent &intent)
 {
     const CloudSlot *account = SlotReader::first(intent, SlotName::Account);
     if (account == nullptr) {
-        qCritical() << "Add Buddy must contain slot: " << SlotName::Account;
+        qCCritical(defaultLog) << "Add Buddy must contain slot: " << SlotName::Account;
         return ResultCode::MissingSlot;
     }
     return ConferenceCardInterface::instance()->addBuddy(SlotReader::text(*account));

@@ -5,6 +5,7 @@
 
 #include "conferencecardinterface.h"
 #include "contactutils.h"
+#include "defaultlog.h"
 #include "memberphrases.h"
 #include "replytable.h"
 #include "request/requesttexts.h"
@@ -12,7 +13,6 @@
 #include "wire/resultcodes.h"
 
 #include <QDateTime>
-#include <QDebug>
 #include <QThread>
 
 namespace {
@@ -110,29 +110,29 @@ constexpr ReplyTable<Detail> Outcomes = {
 
 int CreateConferenceIntent::handleCreateVideoMeeting(const CloudIntent &intent)
 {
-    qDebug() << "handleCreateVideoMeeting" << QThread::currentThreadId();
+    qCDebug(defaultLog) << "handleCreateVideoMeeting" << QThread::currentThreadId();
 
     const CloudSlot *datetime = SlotReader::first(intent, SlotName::Datetime);
     const QVector<QString> names = SlotReader::allTexts(intent, SlotName::Name);
     // Both are optional: without people and a time, the user starts a conference alone, now.
     if (datetime == nullptr) {
-        qWarning() << "Create Conference not contain slot: " << SlotName::Datetime;
+        qCWarning(defaultLog) << "Create Conference not contain slot: " << SlotName::Datetime;
     }
     if (names.isEmpty()) {
-        qWarning() << "Create Conference not contain slot: " << SlotName::Name;
+        qCWarning(defaultLog) << "Create Conference not contain slot: " << SlotName::Name;
     }
 
     bool isSchedule = false;
     qint64 startMsecs = 0;
     const QString timeText = datetime == nullptr ? QString() : SlotReader::text(*datetime);
     if (!ContactUtils::scheduleTimeMsecsInit(timeText, isSchedule, startMsecs)) {
-        qCritical() << "Invalid Schedule Conference time ...";
+        qCCritical(defaultLog) << "Invalid Schedule Conference time ...";
         return ResultCode::PastTime;
     }
 
     const bool startsLater = isSchedule && startMsecs > 0;
     if (startsLater) {
-        qInfo() << "startTime:" << QDateTime::fromMSecsSinceEpoch(startMsecs);
+        qCInfo(defaultLog) << "startTime:" << QDateTime::fromMSecsSinceEpoch(startMsecs);
     }
     const QJsonArray members = RequestText::membersNamed(names);
     const QString request = startsLater ? RequestText::createConference(members, startMsecs)
@@ -144,8 +144,8 @@ int CreateConferenceIntent::handleCreateVideoMeeting(const CloudIntent &intent)
 int CreateConferenceIntent::handleReply(int code, const CloudIntent &intent)
 {
     if (code == ResultCode::SomeNotFound) {
-        qInfo() << "strNormalUsers" << foundNames(m_detail, intent) << "strNotExistUsers"
-                << missingNames(m_detail, intent);
+        qCInfo(defaultLog) << "strNormalUsers" << foundNames(m_detail, intent) << "strNotExistUsers"
+                           << missingNames(m_detail, intent);
     }
     return Replies::answer(code, Outcomes, m_detail, intent, *getReply());
 }

@@ -5,12 +5,11 @@
 
 #include "conferencecardinterface.h"
 #include "contactutils.h"
+#include "defaultlog.h"
 #include "memberphrases.h"
 #include "replytable.h"
 #include "slotreader.h"
 #include "wire/resultcodes.h"
-
-#include <QDebug>
 
 namespace {
 
@@ -62,7 +61,7 @@ int InviteConferenceIntent::handleInviteConference(const CloudIntent &intent)
 {
     const QVector<QString> names = SlotReader::allTexts(intent, SlotName::Name);
     if (names.isEmpty()) {
-        qCritical() << "Invite Conference must contain slot: " << SlotName::Name;
+        qCCritical(defaultLog) << "Invite Conference must contain slot: " << SlotName::Name;
         return ResultCode::MissingSlot;
     }
     return ConferenceCardInterface::instance()->inviteVideoConference(ContactUtils::inviteParamInit(names),
@@ -72,8 +71,8 @@ int InviteConferenceIntent::handleInviteConference(const CloudIntent &intent)
 int InviteConferenceIntent::handleReply(int code, const CloudIntent &intent)
 {
     if (code == ResultCode::SomeNotFound) {
-        qInfo() << "strNormalUsers" << foundNames(m_detail, intent) << "strNotExistUsers"
-                << missingNames(m_detail, intent);
+        qCInfo(defaultLog) << "strNormalUsers" << foundNames(m_detail, intent) << "strNotExistUsers"
+                           << missingNames(m_detail, intent);
     }
     return Replies::answer(code, Outcomes, m_detail, intent, *getReply());
 }

@@ -4,11 +4,10 @@
 #include "contactintents.h"
 
 #include "conferencecardinterface.h"
+#include "defaultlog.h"
 #include "replytable.h"
 #include "slotreader.h"
 #include "wire/resultcodes.h"
-
-#include <QDebug>
 
 namespace {
 
@@ -29,7 +28,7 @@ int JoinConferenceIntent::handleJoinVideoMeeting(const CloudIntent &intent)
 {
     const CloudSlot *number = SlotReader::first(intent, SlotName::Id);
     if (number == nullptr) {
-        qCritical() << "Join Conference must contain slot: " << SlotName::Id;
+        qCCritical(defaultLog) << "Join Conference must contain slot: " << SlotName::Id;
         return ResultCode::MissingSlot;
     }
     return ConferenceCardInterface::instance()->JoinVideoConference(

@@ -5,11 +5,10 @@
 
 #include "conferencecardinterface.h"
 #include "contactutils.h"
+#include "defaultlog.h"
 #include "replytable.h"
 #include "slotreader.h"
 #include "wire/resultcodes.h"
-
-#include <QDebug>
 
 namespace {
 
@@ -33,7 +32,7 @@ int QueryConferenceIntent::handleQueryConference(const CloudIntent &intent)
 {
     const CloudSlot *datetime = SlotReader::first(intent, SlotName::Datetime);
     if (datetime == nullptr) {
-        qWarning() << "Query Conference must contain slot: " << SlotName::Datetime;
+        qCWarning(defaultLog) << "Query Conference must contain slot: " << SlotName::Datetime;
     }
     const QString timeText = datetime == nullptr ? QString() : SlotReader::text(*datetime);
     qint64 queryStartMsecs = 0;

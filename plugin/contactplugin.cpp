@@ -7,8 +7,8 @@
 #include "contactintentfactory.h"
 #include "contactreplywidget.h"
 #include "contactservice.h"
+#include "defaultlog.h"
 
-#include <QDebug>
 #include <QMutexLocker>
 
 #include <exception>
@@ -83,8 +83,8 @@ void ContactPlugin::slotMessageHandle(Reply reply)
     try {
         messageHandle(this, std::move(reply));
     } catch (const std::exception &error) {
-        qCritical() << "The host's message handle threw:" << error.what();
+        qCCritical(defaultLog) << "The host's message handle threw:" << error.what();
     } catch (...) {
-        qCritical() << "The host's message handle threw";
+        qCCritical(defaultLog) << "The host's message handle threw";
     }
 }

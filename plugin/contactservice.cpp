@@ -4,12 +4,12 @@
 #include "contactservice.h"
 
 #include "contactutils.h"
+#include "defaultlog.h"
 #include "iintentfactory.h"
 #include "ireplyableintent.h"
 #include "semantic/semanticparser.h"
 #include "wire/resultcodes.h"
 
-#include <QDebug>
 #include <QJsonDocument>
 
 #include <exception>
@@ -59,7 +59,7 @@ bool ContactService::canHandle(const QString &name)
 IRet ContactService::service(const QString &semantic)
 {
     if (m_factory == nullptr) {
-        qCritical() << "This service cannot do anything.";
+        qCCritical(defaultLog) << "This service cannot do anything.";
         return NoFactory;
     }
 
@@ -67,12 +67,12 @@ IRet ContactService::service(const QString &semantic)
     const QJsonDocument understanding = QJsonDocument::fromJson(semantic.toUtf8());
     SemanticParser parser;
     if (!parser.parseSemanticDocument(understanding)) {
-        qDebug() << "Parse the semantic json error:" << semantic;
+        qCDebug(defaultLog) << "Parse the semantic json error:" << semantic;
         return SemanticUnreadable;
     }
 
     if (!ContactUtils::analyzeIsShouldEndSession(understanding)) {
-        qDebug() << "Parse the semantic json analyzeIsShouldEndSession is false" << semantic;
+        qCDebug(defaultLog) << "Parse the semantic json analyzeIsShouldEndSession is false" << semantic;
         m_openSessionSemantic = semantic;
         return Handled;
     }
@@ -81,7 +81,7 @@ IRet ContactService::service(const QString &semantic)
     const int result = handleIntentSafely(parser.semantic().intents.value(0));
     m_reply.code = result;
     if (result != ResultCode::Success) {
-        qCritical() << "Handle specify intent failed: " << result;
+        qCCritical(defaultLog) << "Handle specify intent failed: " << result;
         return IntentFailed;
     }
     return Handled;
@@ -94,7 +94,7 @@ int ContactService::handleIntent(const CloudIntent &intent)
     // inside the previous turn's reply. Hosts create a service per dialogue, so few handlers pile up.
     m_handler = m_factory->createIntent(intent.name);
     if (m_handler == nullptr) {
-        qCritical() << "Unsupport this intent: " << intent.name;
+        qCCritical(defaultLog) << "Unsupport this intent: " << intent.name;
         const QString text = QStringLiteral("对不起，暂不支持该功能。");
         setTextReply(ResultCode::UnsupportedIntent, text, text);
         return ResultCode::UnsupportedIntent;
@@ -114,9 +114,9 @@ int ContactService::handleIntentSafely(const CloudIntent &intent)
     try {
         return handleIntent(intent);
     } catch (const std::exception &error) {
-        qCritical() << "The intent's handler threw:" << error.what();
+        qCCritical(defaultLog) << "The intent's handler threw:" << error.what();
     } catch (...) {
-        qCritical() << "The intent's handler threw";
+        qCCritical(defaultLog) << "The intent's handler threw";
     }
     return ResultCode::CallFailedLast;
 }
@@ -153,9 +153,9 @@ void ContactService::takeHandlersReply()
     try {
         handler->handleReply(m_reply.code.toInt(), m_intent);
     } catch (const std::exception &error) {
-        qCritical() << "The intent's handler threw:" << error.what();
+        qCCritical(defaultLog) << "The intent's handler threw:" << error.what();
     } catch (...) {
-        qCritical() << "The intent's handler threw";
+        qCCritical(defaultLog) << "The intent's handler threw";
     }
     m_reply = *handler->getReply();
     if (m_reply.widget == nullptr) {

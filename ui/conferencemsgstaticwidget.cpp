@@ -14,9 +14,9 @@
 #include "card/conferencerows.h"
 #include "card/confirmation.h"
 #include "conferencecardinterface.h"
+#include "defaultlog.h"
 
 #include <QComboBox>
-#include <QDebug>
 #include <QPointer>
 #include <QPushButton>
 
@@ -280,7 +280,7 @@ bool ConferenceMsgStaticWidget::eventFilter(QObject *watched, QEvent *event)
 
 void ConferenceMsgStaticWidget::focusInEvent(QFocusEvent *event)
 {
-    qDebug() << "focusInEvent";
+    qCDebug(defaultLog) << "focusInEvent";
     if (m_input.focusIn(*event)) {
         update();
     }

@@ -8,6 +8,7 @@
 #include "card/conferencedurations.h"
 #include "card/participantlimits.h"
 #include "conferencecardinterface.h"
+#include "defaultlog.h"
 #include "request/requesttexts.h"
 
 #include <lumo/lcombobox.h>
@@ -15,7 +16,6 @@
 #include <lumo/lspinbox.h>
 
 #include <QDateTime>
-#include <QDebug>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -160,21 +160,21 @@ QWidget *ContactDetailWidget::createConferenceInvite(const QVector<ContactDetail
 
 void ContactDetailWidget::slotsClickConfirm()
 {
-    qDebug() << "slotsClickConfirm";
+    qCDebug(defaultLog) << "slotsClickConfirm";
     if (m_hour == nullptr || m_duration == nullptr || m_personNum == nullptr) {
         return; // the form is not built
     }
     const QDateTime start = chosenStart();
-    qDebug() << "startTime:" << start;
+    qCDebug(defaultLog) << "startTime:" << start;
     // The form may be gone when the call comes back.
     const int code = ConferenceCardInterface::instance()->UpdateVideoConference(
         RequestText::updateConference(changedConference(start)));
-    qDebug() << code;
+    qCDebug(defaultLog) << code;
 }
 
 void ContactDetailWidget::slotsClickCancel()
 {
-    qDebug() << "slotsClickCancel";
+    qCDebug(defaultLog) << "slotsClickCancel";
 }
 
 void ContactDetailWidget::addRow(const QString &caption, QWidget *control)

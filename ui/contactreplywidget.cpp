@@ -5,9 +5,8 @@
 
 #include "conferencecardinterface.h"
 #include "conferencemsgstaticwidget.h"
+#include "defaultlog.h"
 #include "signalactiontype.h"
-
-#include <QDebug>
 
 #include <array>
 
@@ -85,8 +84,8 @@ void ContactReplyWidget::slotNoticeAction(const int &actionType, const QVariant 
             &ContactReplyWidget::signaleSendShowMessage);
     if (actionType == Invite_ExceedLimit) {
         const auto detail = data.value<ContactInviteMemberDetail>();
-        qDebug() << "+++++Invite_ExceedLimit:" << detail.canInviteNum << detail.normalUsers.size()
-                 << detail.notExistUsers;
+        qCDebug(defaultLog) << "+++++Invite_ExceedLimit:" << detail.canInviteNum << detail.normalUsers.size()
+                            << detail.notExistUsers;
     }
     build(actionType, data);
     reply->widget = m_card;

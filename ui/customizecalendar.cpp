@@ -3,7 +3,7 @@
 
 #include "customizecalendar.h"
 
-#include <QDebug>
+#include "defaultlog.h"
 
 CustomizeCalendar::CustomizeCalendar(QWidget *parent) : QCalendarWidget(parent)
 {
@@ -13,7 +13,7 @@ CustomizeCalendar::CustomizeCalendar(QWidget *parent) : QCalendarWidget(parent)
 
 void CustomizeCalendar::focusInEvent(QFocusEvent *event)
 {
-    qDebug() << "focusInEvent";
+    qCDebug(defaultLog) << "focusInEvent";
     QCalendarWidget::focusInEvent(event);
 }
 

@@ -5,9 +5,9 @@
 
 #include "card/calendarlook.h"
 #include "card/cardinput.h"
+#include "defaultlog.h"
 
 #include <QCalendarWidget>
-#include <QDebug>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
@@ -116,13 +116,13 @@ bool CustomizeComboBox::eventFilter(QObject *watched, QEvent *event)
 
 void CustomizeComboBox::focusInEvent(QFocusEvent *event)
 {
-    qDebug() << "focusInEvent";
+    qCDebug(defaultLog) << "focusInEvent";
     LComboBox::focusInEvent(event);
 }
 
 void CustomizeComboBox::focusOutEvent(QFocusEvent *event)
 {
-    qDebug() << "focusOutEvent";
+    qCDebug(defaultLog) << "focusOutEvent";
     LComboBox::focusOutEvent(event);
 }
 

@@ -3,9 +3,9 @@
 
 #include "answer/abilityanswer.h"
 
+#include "defaultlog.h"
 #include "wire/answerwords.h"
 
-#include <QDebug>
 #include <QJsonDocument>
 #include <QJsonParseError>
 
@@ -18,7 +18,7 @@ AbilityAnswer::AbilityAnswer(const QString &text, const char *errorText)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text.toLocal8Bit(), &error);
     if (error.error != QJsonParseError::NoError) {
-        qWarning() << errorText << error.error;
+        qCWarning(defaultLog) << errorText << error.error;
         return;
     }
     m_object = document.object();

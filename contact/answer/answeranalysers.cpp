@@ -5,10 +5,10 @@
 
 #include "answer/abilityanswer.h"
 #include "answer/answerrecords.h"
+#include "defaultlog.h"
 #include "wire/answerwords.h"
 #include "wire/resultcodes.h"
 
-#include <QDebug>
 #include <QJsonArray>
 
 namespace {
@@ -177,7 +177,7 @@ int AnswerAnalyser::update(const QString &answer, ContactCreatedConferenceDetail
     const int code = parsed.code(UpdateCodes, ResultCode::Malformed);
     if (code == ResultCode::Success) {
         detail.conferences = conferencesOf(parsed);
-        qDebug() << "MeetingDetail size() =" << detail.conferences.size();
+        qCDebug(defaultLog) << "MeetingDetail size() =" << detail.conferences.size();
     }
     return code;
 }

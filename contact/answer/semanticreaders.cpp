@@ -3,9 +3,9 @@
 
 #include "answer/semanticreaders.h"
 
+#include "defaultlog.h"
 #include "wire/latin1literal.h"
 
-#include <QDebug>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -36,22 +36,22 @@ bool assignString(const QJsonValue &value, QString &text)
 bool SemanticReader::shouldEndSession(const QJsonDocument &semantic)
 {
     if (semantic.isNull()) {
-        qDebug() << "doc.isNull()";
+        qCDebug(defaultLog) << "doc.isNull()";
         return true;
     }
     const QJsonValue intentValue = semantic.object().value(IntentKey);
     if (intentValue.isUndefined()) {
-        qDebug() << "intent not exist";
+        qCDebug(defaultLog) << "intent not exist";
         return true;
     }
     const QJsonObject intent = intentValue.toObject();
     if (intent.isEmpty()) {
-        qDebug() << "intentObject.empty()";
+        qCDebug(defaultLog) << "intentObject.empty()";
         return true;
     }
     const QJsonValue shouldEnd = intent.value(ShouldEndSessionKey);
     if (shouldEnd.isUndefined()) {
-        qDebug() << "shouldEndSession not exist";
+        qCDebug(defaultLog) << "shouldEndSession not exist";
         return true;
     }
     // Anything but a boolean counts as the end: the user gets an answer rather than silence.

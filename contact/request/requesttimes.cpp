@@ -3,10 +3,10 @@
 
 #include "request/requesttimes.h"
 
+#include "defaultlog.h"
 #include "request/requesttexts.h"
 #include "request/spokentime.h"
 
-#include <QDebug>
 #include <QJsonParseError>
 
 namespace {
@@ -31,11 +31,11 @@ QString RequestTimes::searchParameters(const QString &slotText, qint64 &startMse
     const bool fromNow = !spoken.hasTime() && spoken.date() == now.date();
     const QDateTime start = fromNow ? now : LocalTime::startOfDay(spoken.date());
     if (!start.isValid() || start < LocalTime::startOfDay(now.date())) {
-        qDebug() << "Invalid query time . queryStartTime:" << start;
+        qCDebug(defaultLog) << "Invalid query time . queryStartTime:" << start;
         return {};
     }
     const QDateTime end = LocalTime::startOfDay(start.date().addDays(1));
-    qDebug() << "*** startTime:" << start << "endTime:" << end;
+    qCDebug(defaultLog) << "*** startTime:" << start << "endTime:" << end;
     return RequestText::searchConference(startMsecs > 0 ? startMsecs : LocalTime::msecs(start),
                                          LocalTime::msecs(end));
 }
@@ -46,7 +46,7 @@ bool RequestTimes::conferenceStart(const QString &slotText, bool &isSchedule, qi
     if (slotText.isEmpty()) {
         if (isSchedule) {
             const QDateTime start = LocalTime::nextFullHour(now);
-            qDebug() << "startTime" << start << "true"; // the flag, always true here
+            qCDebug(defaultLog) << "startTime" << start << "true"; // the flag, always true here
             startMsecs = LocalTime::msecs(start);
         }
         return true;
@@ -54,15 +54,15 @@ bool RequestTimes::conferenceStart(const QString &slotText, bool &isSchedule, qi
     QJsonParseError error;
     const SpokenTime spoken = SpokenTime::fromSlot(slotText, &error);
     if (error.error != QJsonParseError::NoError) {
-        qWarning() << "response ret error.error:" << error.error;
+        qCWarning(defaultLog) << "response ret error.error:" << error.error;
         return false;
     }
     if (spoken.text().isEmpty()) {
-        qWarning() << "strDateTime is not json : " << slotText;
+        qCWarning(defaultLog) << "strDateTime is not json : " << slotText;
         return false;
     }
     const QDateTime start = spoken.hasTime() ? spoken.exact() : startOn(spoken.date(), now);
-    qDebug() << "startTime" << start;
+    qCDebug(defaultLog) << "startTime" << start;
     startMsecs = LocalTime::msecs(start);
     if (!start.isValid() || start <= now) {
         return false;

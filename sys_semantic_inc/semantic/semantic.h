@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <QDebug>
+#include "defaultlog.h"
+
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
@@ -38,7 +39,7 @@ public:
     {
         const QJsonObject object = value.toObject();
         if (!object.value(QLatin1String(SemanticKey::Name)).isString()) {
-            qCritical() << "Every slot must contain a name";
+            qCCritical(defaultLog) << "Every slot must contain a name";
             return false;
         }
         map = object.toVariantMap();
@@ -58,8 +59,8 @@ public:
         const QJsonValue intent = object.value(QLatin1String(SemanticKey::Intent));
         const QJsonValue slotValues = object.value(QLatin1String(SemanticKey::Slots));
         if (!intent.isString() || !slotValues.isArray()) {
-            qDebug() << "Parse intent failed, json must contain: " << SemanticKey::Intent << ", "
-                     << SemanticKey::Slots;
+            qCDebug(defaultLog) << "Parse intent failed, json must contain: " << SemanticKey::Intent << ", "
+                                << SemanticKey::Slots;
             return false;
         }
         name = intent.toString();
@@ -67,13 +68,14 @@ public:
         slotList.reserve(slotList.size() + array.size());
         for (const QJsonValue &slotValue : array) {
             if (!slotValue.isObject()) {
-                qCritical() << "Parse slot failed, slot is not a object"; // hosts search for this wording
-                qDebug() << "Parse slot failed, please check slot.";
+                qCCritical(defaultLog)
+                    << "Parse slot failed, slot is not a object"; // hosts search for this wording
+                qCDebug(defaultLog) << "Parse slot failed, please check slot.";
                 return false;
             }
             CloudSlot slot;
             if (!slot.parse(slotValue)) {
-                qDebug() << "Parse slot failed, please check slot.";
+                qCDebug(defaultLog) << "Parse slot failed, please check slot.";
                 return false;
             }
             slotList.append(slot);
@@ -95,7 +97,7 @@ public:
         const QJsonObject object = root.toObject();
         const auto semantic = object.constFind(QLatin1String(SemanticKey::Semantic));
         if (semantic == object.constEnd()) {
-            qDebug() << "Can not parse semantic, root name must be: " << SemanticKey::Semantic;
+            qCDebug(defaultLog) << "Can not parse semantic, root name must be: " << SemanticKey::Semantic;
             return false;
         }
         const QJsonArray array = semantic.value().toArray();
@@ -103,7 +105,7 @@ public:
         for (const QJsonValue &value : array) {
             CloudIntent intent;
             if (!intent.parse(value)) {
-                qDebug() << "Parse intent failed, please check intent.";
+                qCDebug(defaultLog) << "Parse intent failed, please check intent.";
                 return false;
             }
             intents.append(intent);

@@ -27,7 +27,7 @@ public:
     {
         m_document = intentsOf(QJsonDocument::fromJson(json.toUtf8()));
         if (!m_document) {
-            qDebug() << "Parse semantic json error, invalid syntax: " << json;
+            qCDebug(defaultLog) << "Parse semantic json error, invalid syntax: " << json;
             return false;
         }
         return m_semantic.parse(m_document->object());

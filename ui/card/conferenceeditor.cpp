@@ -11,13 +11,13 @@
 #include "card/participantlimits.h"
 #include "conferencecardinterface.h"
 #include "customizecombobox.h"
+#include "defaultlog.h"
 #include "request/requesttexts.h"
 
 #include <lumo/lfontsizemanager.h>
 #include <lumo/lspinbox.h>
 #include <lumo/lsuggestbutton.h>
 
-#include <QDebug>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -80,7 +80,7 @@ int ConferenceEditor::sendChange() const
 {
     const QString request = RequestText::updateConference(m_conferences.first());
     const int code = ConferenceCardInterface::instance()->UpdateVideoConference(request);
-    qDebug() << "create conference code:" << code;
+    qCDebug(defaultLog) << "create conference code:" << code;
     return code;
 }
 
@@ -89,7 +89,7 @@ int ConferenceEditor::sendCancellation() const
     // A copy: the editor's own may be gone before the request is done with it.
     const QString conferenceId = m_conferences.first().confId;
     const int code = ConferenceCardInterface::instance()->deleteVideoConference(conferenceId);
-    qDebug() << "Cancle conference code:" << code;
+    qCDebug(defaultLog) << "Cancle conference code:" << code;
     return code;
 }
 

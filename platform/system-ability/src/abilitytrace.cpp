@@ -35,6 +35,9 @@ void AbilityTrace::finish(int code, const QString &answer) const
 
 void AbilityTrace::tellPerformedAfterAll(const QString &action)
 {
+    if (!ability().isWarningEnabled()) {
+        return;
+    }
     const QJsonObject record{{QStringLiteral("action"), action}, {QStringLiteral("performedAfterAll"), true}};
     qCWarning(ability, "%s", QJsonDocument(record).toJson(QJsonDocument::Compact).constData());
 }

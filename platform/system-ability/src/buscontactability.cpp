@@ -10,6 +10,7 @@
 #include <kelvane/abilitycodes.h>
 
 #include <QDebug>
+#include <QLoggingCategory>
 
 void BusContactAbility::setTimeout(const int &msecs)
 {
@@ -27,7 +28,7 @@ int BusContactAbility::request(const QString &action, const QString &parameters,
     }
     if (result.code == AbilityCode::Success) {
         answer = result.answer;
-    } else {
+    } else if (QLoggingCategory::defaultCategory()->isWarningEnabled()) {
         qWarning().noquote() << "The request" << action << "failed with" << result.code << result.errorName
                              << result.errorMessage;
     }

@@ -15,9 +15,9 @@
  * @code{.json}
  * {"Contact": {"TimeOut": "5000", "MaxTimeOut": "15000"}}
  * @endcode
- * is the two keys "/Contact/TimeOut" and "/Contact/MaxTimeOut". Written only by init(), which the host has
- * called before the first request; after that it may be read on any thread. The order of functions and
- * members is fixed.
+ * becomes the two keys "/Contact/TimeOut" and "/Contact/MaxTimeOut". Written only by init(), which the host
+ * calls before the first request; after that it may be read on any thread. The order of functions and members
+ * is fixed.
  */
 class ConfigManager : public QObject, public IConfig
 {
@@ -36,10 +36,10 @@ public:
     /// Adds the members of the object @p value under @p prefix, which ends with a slash. What was added
     /// before a failure stays.
     virtual bool createMap(const QString &prefix, const QJsonValue &value);
-    /// Adds the file's values to the map, replacing equal keys. False when the file cannot be read or is not
-    /// of this form.
+    /// Adds the file's values to the map, replacing equal keys. False if the file cannot be read or does not
+    /// have this form.
     virtual bool init(const QString &path);
-    /// Writes every entry to the log, for a person who looks for a mistake.
+    /// Writes every entry to the log, for debugging.
     virtual void dump();
 
 private:

@@ -19,7 +19,7 @@ public:
     virtual bool query(const QString &key, QString &value) = 0;
     /// The value's parts between "|", empty ones too. False as above.
     virtual bool query(const QString &key, QStringList &values) = 0;
-    /// Takes over the values of a tree of objects; false when it holds anything but objects and strings.
+    /// Adds the values of a tree of objects; false if it holds anything but objects and strings.
     virtual bool fromJson(const QJsonValue &root) = 0;
     virtual bool contains(const QString &key) = 0;
 };

@@ -16,9 +16,8 @@
 namespace {
 
 /**
- * Sends one request through an ability of its own. Returns what @p analyse makes of the answer, or the code
- * of a call that failed. Swallows the library's exceptions: the callers are slots and the host's entry
- * points.
+ * Sends one request through a new ability. Returns what @p analyse makes of the answer, or the code of a
+ * failed call. Swallows the library's exceptions: the callers are slots and the host's entry points.
  */
 template <typename Analyse>
 int perform(QLatin1String action, const QString &parameters, Analyse analyse)

@@ -52,7 +52,7 @@ QString ContactUtils::inviteParamInit(const QVector<QString> &names)
     QVector<QString> spoken = names;
     spoken.removeAll(QString());
     QString text = RequestText::inviteMembersNamed(spoken);
-    // The debug form of the object, without building the object again.
+    // Looks like the object's own debug output, without building the object again.
     qCDebug(defaultLog).noquote() << "jsonObjMember:"
                                   << QLatin1String("QJsonObject(") + text + QLatin1Char(')');
     return text;

@@ -44,8 +44,8 @@ public:
     /// See RequestTimes::conferenceStart().
     static bool scheduleTimeMsecsInit(const QString &timeSlotText, bool &isSchedule, qint64 &startMsecs);
 
-    // Answers: answer/answeranalysers.h and answer/answerrecords.h. The names that were asked for are
-    // accepted and not used, like the time of a query.
+    // Answers: answer/answeranalysers.h and answer/answerrecords.h. The names asked for and the time of a
+    // query are accepted but not used.
 
     static int analyzeReturnContext(const QString &answer);
     static int analyzeResultContext(const QString &answer, const QVector<QString> &memberNames,

@@ -11,7 +11,7 @@ class ContactIntentFactory : public DynamicRegisterIntentFactory
     Q_OBJECT
 
 public:
-    /// Created by the first call, on any thread; lives until the process ends.
+    /// Created on the first call, from any thread; lives until the process ends.
     static ContactIntentFactory *instance();
 
 private:

@@ -13,7 +13,7 @@ bool isCallFailure(int code)
     return code >= ResultCode::CallFailedFirst && code <= ResultCode::CallFailedLast;
 }
 
-/// Null for a @p code that each handler answers in its own way.
+/// Null for a @p code that handlers answer individually.
 QString sharedText(int code)
 {
     if (isCallFailure(code)) {

@@ -12,8 +12,8 @@
 class ContactReplyWidget;
 
 /**
- * The plugin object loaded by the host. Creates the "contact" services and forwards replies that a card gives
- * later. Lives on the GUI thread; createService() and releaseService() are thread-safe.
+ * The plugin object loaded by the host. Creates the "contact" services and forwards the later replies of
+ * cards. Lives on the GUI thread; createService() and releaseService() are thread-safe.
  */
 class ContactPlugin : public QObject, public IServicePlugin
 {

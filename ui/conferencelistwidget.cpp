@@ -13,7 +13,7 @@ namespace {
 constexpr int TopOffset = 70;
 constexpr int PlaceholderCount = 100;
 constexpr int PlaceholderHeight = 120;
-/// More than the spacing of the layout, which leaves a little room below the last one.
+/// More than the layout's spacing, which leaves a little room below the last row.
 constexpr int HeightBetweenPlaceholders = 11;
 constexpr QMargins Margins(10, 0, 20, 0);
 } // namespace

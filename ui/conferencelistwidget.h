@@ -18,7 +18,7 @@ class ConferenceListWidget : public CustomizeItem
 public:
     explicit ConferenceListWidget(QWidget *parent = nullptr);
 
-    /// Fills the list; every action gets the same placeholders. To be called once.
+    /// Fills the list with the same placeholders for every action. Call once.
     void multipleInit(SignalActionType type);
 
 protected:

@@ -37,7 +37,7 @@ QString minutesText(qint64 minutes)
     return QString::number(minutes) + QStringLiteral("分钟");
 }
 
-/// Titles and names were written by other people.
+/// A CardLabel, because other people wrote the titles and names.
 CardLabel *makeLabel(const QString &text, LFontSizeManager::SizeType size, QWidget *parent)
 {
     auto *label = new CardLabel(text, parent);
@@ -52,7 +52,7 @@ CardLabel *makeUnit(const QString &text, QWidget *parent)
     return label;
 }
 
-/// A row for a control and what stands beside it.
+/// The layout of a row with a control and its unit.
 QHBoxLayout *makeRow(QWidget *row)
 {
     auto *layout = new QHBoxLayout(row);
@@ -62,8 +62,7 @@ QHBoxLayout *makeRow(QWidget *row)
     return layout;
 }
 
-/// A combo of the whole numbers @p first to @p last. They stand there without unit, because their text is
-/// read as a number.
+/// A combo box of the integers @p first to @p last, without a unit, because the texts are read as numbers.
 LComboBox *makeNumberCombo(int first, int last, int current, const QString &accessibleName, QWidget *parent)
 {
     auto *combo = new LComboBox(parent);
@@ -121,8 +120,8 @@ QWidget *ContactDetailWidget::createMeetingTimeLengthWidget(const ContactDetailM
     m_duration = new LComboBox(this);
     m_duration->setFixedWidth(ControlWidth);
     m_duration->setAccessibleName(QStringLiteral("时长"));
-    // A conference may be of another length than those on offer. It is shown as it is, and stays so unless
-    // one is picked; only an editable combo can show what is not among its items.
+    // The conference may have a duration that is not on offer. It is shown, and kept unless another one is
+    // picked; only an editable combo box can show a text that is not among its items.
     m_duration->setEditable(true);
     m_duration->setInsertPolicy(QComboBox::NoInsert);
     m_duration->lineEdit()->setReadOnly(true);
@@ -166,7 +165,7 @@ void ContactDetailWidget::slotsClickConfirm()
     }
     const QDateTime start = chosenStart();
     qCDebug(defaultLog) << "startTime:" << start;
-    // The form may be gone when the call comes back.
+    // The form may be gone when the call returns.
     const int code = ConferenceCardInterface::instance()->UpdateVideoConference(
         RequestText::updateConference(changedConference(start)));
     qCDebug(defaultLog) << code;
@@ -220,7 +219,7 @@ QDateTime ContactDetailWidget::chosenStart() const
     const int year = QDateTime::fromMSecsSinceEpoch(m_conference.startTime).date().year();
     const QDate date(year, m_month->currentText().toInt(), m_day->currentText().toInt());
     const QTime time(m_hour->currentText().toInt(), 0);
-    // Through text on purpose: what cannot be read back is no start.
+    // The round trip through text rejects whatever cannot be read back as a start.
     const QString text = date.toString(QStringLiteral("yyyy-MM-dd")) + QLatin1Char(' ') +
                          time.toString(QStringLiteral("hh:mm:ss"));
     return QDateTime::fromString(text, QStringLiteral("yyyy-MM-dd hh:mm:ss"));

@@ -17,8 +17,8 @@ class LSpinBox;
 
 /**
  * An older form for a conference's start, duration and head count. The plugin does not show it. Confirming
- * asks the contacts application for the change and blocks until that has answered; nobody is told of the
- * outcome but the debug log.
+ * asks the contacts application for the change and blocks until it has answered; the outcome only goes to the
+ * debug log.
  */
 class ContactDetailWidget : public QWidget
 {
@@ -27,12 +27,12 @@ class ContactDetailWidget : public QWidget
 public:
     explicit ContactDetailWidget(QWidget *parent = nullptr);
 
-    /// Does nothing: the constructor has done it all.
+    /// Does nothing: the constructor does it all.
     void init();
-    /// Builds the form for the first of the conferences, an empty one for none. To be called once.
+    /// Builds the form for the first conference; an empty form if there is none. Call once.
     void gridLayout(const QVector<ContactDetailMsg> &list);
 
-    // The rows' controls; each belongs to the form.
+    // The rows' controls, all children of the form.
 
     QWidget *createMeetingTimeWidget(const ContactDetailMsg &conference);
     QWidget *createMeetingTimeLengthWidget(const ContactDetailMsg &conference);
@@ -41,7 +41,7 @@ public:
     QWidget *createConferenceInvite(const QVector<ContactDetailMsg> &list);
 
 public Q_SLOTS:
-    /// Sends what the form says; without a form, nothing.
+    /// Sends the form's values; does nothing without a form.
     void slotsClickConfirm();
     void slotsClickCancel();
 

@@ -56,7 +56,7 @@ ContactReplyWidget::ContactReplyWidget(QObject *parent)
     : QObject(parent)
     , m_interface(ConferenceCardInterface::instance())
 {
-    // So that a card on another thread could answer, too.
+    // So that a card on another thread could answer as well.
     qRegisterMetaType<Reply>();
     connect(m_interface, &ConferenceCardInterface::sentActionSignals, this,
             &ContactReplyWidget::slotNoticeAction, Qt::DirectConnection);
@@ -78,7 +78,7 @@ void ContactReplyWidget::slotNoticeAction(const int &actionType, const QVariant 
     }
     reply->type |= Reply::Card;
     reply->widget = nullptr;
-    // Whoever shows the reply takes the card over.
+    // The card's owner is the program that shows the reply.
     m_card = new ConferenceMsgStaticWidget;
     connect(m_card, &ConferenceMsgStaticWidget::signalSendShowMessgae, this,
             &ContactReplyWidget::signaleSendShowMessage);
@@ -99,5 +99,5 @@ void ContactReplyWidget::build(int actionType, const QVariant &data)
     } else if (actionType > Create_Success && actionType <= Query_List) {
         Builders.at(static_cast<std::size_t>(actionType - Create_Duplicate))(*m_card, data);
     }
-    // Any other action has a card with nothing on it.
+    // Any other action gets an empty card.
 }

@@ -24,7 +24,7 @@ class ContactReplyWidget : public QObject
 public:
     explicit ContactReplyWidget(QObject *parent = nullptr);
 
-    /// Builds no more cards; replies of those that are still shown go on being passed on.
+    /// Stops building cards. Replies of cards that are still shown are passed on as before.
     void stopListening();
 
 public Q_SLOTS:
@@ -38,9 +38,9 @@ Q_SIGNALS:
 private:
     void build(int actionType, const QVariant &data);
 
-    /// Null once the gateway is gone, which at the process's end may be before the plugin.
+    /// Null once the gateway is gone, which at the end of the process may be earlier than the plugin.
     ConferenceCardInterface *m_interface;
-    /// The latest one. It may long be deleted; nothing but its building is done with it.
+    /// The latest card, used only while it is built. It may since have been deleted.
     ConferenceMsgStaticWidget *m_card = nullptr;
     ContactCreatedConferenceDetail m_created;
 };

@@ -19,8 +19,8 @@ class ContactWidget : public CustomizeItem
 public:
     explicit ContactWidget(SignalActionType type, QWidget *parent = nullptr);
 
-    // One of the two is to be called once, when the widget has its size. What is inside is the same for
-    // every action.
+    // Call exactly one of the two, once, after the widget has got its size. The content does not depend on
+    // the action.
 
     /// The editor of the first conference.
     void init(SignalActionType type, const QVector<ContactDetailMsg> &list);

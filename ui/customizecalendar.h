@@ -5,7 +5,7 @@
 
 #include <QCalendarWidget>
 
-/// A calendar in a tool window that stays on top. The date field does not use it; it is kept beside it.
+/// A calendar in a tool window that stays on top. Not used by the date field.
 class CustomizeCalendar : public QCalendarWidget
 {
     Q_OBJECT

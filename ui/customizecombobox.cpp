@@ -16,7 +16,7 @@
 
 namespace {
 
-/// A frameless window has no button to close it.
+/// A frameless window has no close button.
 bool isDismissal(const QEvent &event)
 {
     if (event.type() == QEvent::KeyPress) {
@@ -53,7 +53,7 @@ CustomizeComboBox::CustomizeComboBox(QWidget *parent)
 
 CustomizeComboBox::~CustomizeComboBox()
 {
-    // The field may be deleted because a day was picked; the calendar is then still at work.
+    // Picking a day may delete the field while the calendar is still handling the click.
     m_calendar->removeEventFilter(this);
     if (m_selecting) {
         m_calendar.release()->deleteLater();
@@ -128,7 +128,7 @@ void CustomizeComboBox::focusOutEvent(QFocusEvent *event)
 
 void CustomizeComboBox::hideEvent(QHideEvent *event)
 {
-    // The calendar is a window of its own and would stay behind without its field.
+    // The calendar is a window and would stay behind without its field.
     m_calendar->hide();
     LComboBox::hideEvent(event);
 }
@@ -143,7 +143,7 @@ void CustomizeComboBox::keyReleaseEvent(QKeyEvent *event)
 
 void CustomizeComboBox::mousePressEvent(QMouseEvent *event)
 {
-    // The base would open its list here; the calendar opens when the button is let go.
+    // The base class would open its list here; the calendar opens when the button is released.
     event->accept();
 }
 
@@ -159,8 +159,8 @@ void CustomizeComboBox::mouseReleaseEvent(QMouseEvent *event)
 
 void CustomizeComboBox::openCalendar()
 {
-    // pos() is in the parent's coordinates and mapToGlobal() takes this widget's own: the parent's offset is
-    // counted twice, and the calendar's place is part of how the card looks.
+    // pos() is in the parent's coordinates but mapToGlobal() expects this widget's, so the parent's offset is
+    // counted twice. Kept: the calendar's position is part of the card's appearance.
     const QPoint anchor = mapToGlobal(pos());
     if (m_date.isValid()) {
         m_calendar->setSelectedDate(m_date);

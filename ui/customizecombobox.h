@@ -25,10 +25,10 @@ public:
     explicit CustomizeComboBox(QWidget *parent = nullptr);
     ~CustomizeComboBox() override;
 
-    /// Invalid until a day was chosen or set.
+    /// Invalid until a day is picked or set.
     [[nodiscard]] QDate getConferenceDate() const;
 
-    /// Opens the calendar: the list has only the one line that is shown anyway.
+    /// Opens the calendar instead of the list, which has only the one line that is shown anyway.
     void showPopup() override;
     void hidePopup() override;
 
@@ -37,7 +37,7 @@ public Q_SLOTS:
     void slotSelectionData(const QDate &date);
 
 Q_SIGNALS:
-    /// For every selection, before anything else changes.
+    /// Emitted for every selection, before anything else changes.
     void signalSelectionDate(const QDate &date);
     /// The field was clicked; the calendar is open.
     void signalMouseClicked();

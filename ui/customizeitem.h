@@ -6,7 +6,7 @@
 #include <QColor>
 #include <QWidget>
 
-/// A rounded panel. It takes the focus with the Tab key only.
+/// A rounded panel. It takes the focus from the Tab key only.
 class CustomizeItem : public QWidget
 {
     Q_OBJECT
@@ -17,15 +17,15 @@ public:
     /// In pixels. The spelling is the interface's.
     void setRaidus(int radius);
     void setBackGroundColor(const QColor &color);
-    /// With false the lower corners are square.
+    /// If false, the lower corners are square.
     void setBottomRadius(bool rounded);
-    /// Kept, but painting does not ask for it: the upper corners are always round.
+    /// Stored but not used for painting: the upper corners are always rounded.
     void setTopRadius(bool rounded);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
-    /// The background as long as setBackGroundColor() has not given another one.
+    /// The background unless setBackGroundColor() sets another one.
     void setDefaultBackGroundColor(const QColor &color);
 
 private:

@@ -47,12 +47,12 @@ TiTleItem::TiTleItem(const QString &title, QWidget *parent)
                                  CardMeasures::Margin);
     m_layout->setSpacing(0);
     m_layout->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    // Only now: a layout that is changed on its widget posts an event, and Qt looks for its like among all
-    // that the rows before have posted.
+    // Only now: changing an installed layout posts an event, and Qt searches everything that earlier rows
+    // have posted for an equal one.
     setLayout(m_layout);
     setAccessibleName(CardText::beginning(title));
 
-    // Only the mark of a selected row: the row itself takes the mouse and the focus.
+    // Only marks a selected row; the row itself takes mouse and focus.
     m_checkBox->hide();
     m_checkBox->setFocusPolicy(Qt::NoFocus);
     m_checkBox->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -161,7 +161,7 @@ void TiTleItem::paintEvent(QPaintEvent *event)
     if (m_card != nullptr && isEnabled() && underMouse()) {
         drawFrame(CardTheme::text(CardTheme::HoverAlpha), QPen(Qt::transparent));
     }
-    // Rows take the focus with the Tab key only, so that the frame is never seen by who uses the mouse.
+    // Rows take the focus from the Tab key only, so mouse users never see the frame.
     if (hasFocus()) {
         drawFrame(Qt::transparent, QPen(CardTheme::focus(), FocusWidth));
     }
@@ -171,7 +171,8 @@ LLabel *TiTleItem::addLabel(const QString &text, int alpha, int spaceBehind)
 {
     CardLabel *label = CardText::label(text, LFontSizeManager::T6, alpha, this);
     label->setContentsMargins(0, 0, spaceBehind, 0);
-    // Of two long texts each keeps a third of the row, and a short one is never shortened for a long one.
+    // Two long texts keep at least a third of the row each; a short text is never elided in favour of a long
+    // one.
     label->setMinimumWidth(qMin(label->sizeHint().width(), LeastTextWidth));
     m_layout->addWidget(label);
     return label;

@@ -14,10 +14,9 @@ class ConferenceMsgStaticWidget;
 class LLabel;
 
 /**
- * A row of a selection card: one person who may be meant. A click anywhere on it selects the person, or takes
- * that back, as far as the card's selection budget allows; Space and Return do the same from the keyboard.
- * The check box is only the mark. What happens on the row stays there: a click does not reach the card behind
- * it.
+ * A row of a selection card: one person who may be meant. A click anywhere on it, Space or Return selects or
+ * deselects the person, as far as the card's selection budget allows. The check box is only a mark. Clicks do
+ * not reach the card behind the row.
  *
  * A row outside a card has no budget, so it cannot be selected.
  */
@@ -26,21 +25,21 @@ class TiTleItem : public CustomizeItem
     Q_OBJECT
 
 public:
-    /// @p title is not displayed; it is the accessible name until the row shows somebody.
+    /// @p title is not displayed; it is the accessible name until the row shows a person.
     explicit TiTleItem(const QString &title, QWidget *parent = nullptr);
 
-    /// Shows display name and account. To be called once.
+    /// Shows display name and account. Call once.
     void insertConferenceMsg(const UserInfo &user);
-    /// Shows only the name that was asked for. To be called once.
+    /// Shows only the name that was asked for. Call once.
     void insertSinglePersonName(const UserInfo &user);
 
     [[nodiscard]] UserInfo getUserInfo() const;
     [[nodiscard]] bool isSelected() const;
 
-    /// What a click does: selects the row if the card's budget allows, or takes that back.
+    /// What a click does: selects the row if the card's budget allows, or deselects it.
     void toggleSelection();
 
-    /// The text colour of the theme on @p widget, with @p alpha from 0 to 255.
+    /// Gives @p widget the theme's text colour with @p alpha (0 to 255).
     void setWidgetColor(QWidget *widget, int alpha);
 
 protected:

@@ -114,7 +114,7 @@ int AnswerAnalyser::create(const QString &answer, bool isSchedule, qint64 startM
     detail.isSchedule = isSchedule;
     detail.scheduleTimeMsecs = startMsecs;
     if (parsed.outcome() == OutcomeWord::Ok) {
-        // An immediate conference is on the screen already; only a booked one is shown.
+        // An immediate conference is already on the screen; only a booked one is shown.
         if (isSchedule) {
             detail.conferences = conferencesOf(parsed);
         }

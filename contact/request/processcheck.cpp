@@ -25,7 +25,7 @@ bool contactsApplicationIsRunning()
     std::array<char, LineSize> line{};
     const bool isRead = std::fgets(line.data(), static_cast<int>(line.size()), pipe) != nullptr;
     pclose(pipe);
-    // With two it is not clear which of them would answer.
+    // With two, either might answer.
     constexpr int decimal = 10;
     return isRead && std::strtol(line.data(), nullptr, decimal) == 1;
 }

@@ -4,7 +4,7 @@
 #pragma once
 
 /**
- * Whether exactly one process of the contacts application is in the process table. A file of its own, so that
- * a program without a process table can link another answer in its place.
+ * Whether exactly one process of the contacts application is in the process table. Has its own file so that a
+ * program without a process table can link a replacement.
  */
 bool contactsApplicationIsRunning();

@@ -28,8 +28,8 @@ QString createConference(const QJsonArray &members, qint64 startTime);
 
 /// {"members":[...]}
 QString inviteMembers(const QJsonArray &members);
-/// The same for membersNamed(@p names), written without building the objects first: they were a third of what
-/// a spoken invitation cost.
+/// The same for membersNamed(@p names), written without building the JSON objects, which were a third of the
+/// cost of a spoken invitation.
 QString inviteMembersNamed(const QVector<QString> &names);
 
 /// {"conferenceId":"801","password":""}
@@ -45,7 +45,7 @@ QString deleteConference(const QString &conferenceId);
 /// milliseconds.
 QString updateConference(const ContactDetailMsg &conference);
 
-/// {"userId":"lilei"}. @p name is what was said; the application finds out who that is.
+/// {"userId":"lilei"}. @p name is what was said; the application finds out who is meant.
 QString addFriend(const QString &name);
 
 } // namespace RequestText

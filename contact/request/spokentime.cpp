@@ -52,7 +52,7 @@ SpokenTime SpokenTime::fromSlot(const QString &slotText, QJsonParseError *error)
     result.m_text = document.object().value(SuggestDatetimeKey).toString();
     result.m_hasTime = result.m_text.contains(TimeMark);
     if (result.m_hasTime) {
-        // Separately: whether they exist together is up to LocalTime.
+        // Separately: LocalTime decides whether they exist together.
         const int mark = result.m_text.indexOf(TimeMark);
         result.m_time = timeOf(result.m_text.mid(mark + 1));
         if (result.m_time.isValid()) {
@@ -78,8 +78,8 @@ QDateTime LocalTime::at(const QDate &date, const QTime &time)
     if (wanted.isValid()) {
         return wanted;
     }
-    // Counts on as if the clock had not been put forward. Qt's own milliseconds for such a time lie before
-    // the change: on the previous day for a missing midnight.
+    // Continues as if the clocks had not gone forward. Qt's own milliseconds for such a time lie before the
+    // change: for a missing midnight, on the previous day.
     const int offset = QDateTime(date.addDays(-1), time).offsetFromUtc();
     return QDateTime(date, time, Qt::UTC).addSecs(-offset).toLocalTime();
 }

@@ -26,7 +26,6 @@ inline QString adminPath()
 {
     return QStringLiteral("/com/kelvane/meetlynx/admin");
 }
-/// A call of @p method of the contacts interface.
 inline QDBusMessage contactCall(const QString &method)
 {
     return QDBusMessage::createMethodCall(service(), contactPath(), contactInterface(), method);

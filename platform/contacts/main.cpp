@@ -69,7 +69,7 @@ bool remindersAreOn(ContactsBook &book)
     try {
         return book.reminders().settings().isOn;
     } catch (const std::exception &error) {
-        qWarning("It cannot be told whether reminders are wanted: %s", error.what());
+        qWarning("Cannot tell whether reminders are wanted: %s", error.what());
         return true;
     }
 }

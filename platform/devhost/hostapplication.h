@@ -29,7 +29,7 @@ private:
     };
     HostApplication(std::unique_ptr<Arguments> arguments);
 
-    const std::unique_ptr<Arguments> m_arguments; ///< Qt keeps pointing there
+    const std::unique_ptr<Arguments> m_arguments; ///< Qt keeps references to them
 };
 
 } // namespace devhost

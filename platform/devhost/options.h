@@ -22,7 +22,7 @@ public:
 
     Mode mode = Mode::Window;
     QString plugin;      ///< a file, or a name in the installed folder
-    QString input;       ///< of Batch and Converse, and what Window plays; "-" is standard input
+    QString input;       ///< what Batch and Converse read and Window plays; "-" is standard input
     QString screenshots; ///< a folder, or empty
     QString contacts;    ///< a file of known names, or empty
     Theme theme = Theme::Remembered;
@@ -32,7 +32,7 @@ public:
 
     /// @p arguments start with the program's name.
     static Options read(const QStringList &arguments);
-    /// Chooses the language first: the one that is asked for, or the user's. Usage errors are in it.
+    /// Chooses the language first (the requested one, or the user's), so that usage errors are in it.
     static Options read(const QStringList &arguments, ProgramLanguage &language);
     /// Needs an application object.
     static QString helpText();

@@ -19,7 +19,7 @@ namespace devhost {
 
 namespace {
 
-/// The rule of the man page: colour on a terminal unless NO_COLOR is set.
+/// As the man page says: colour on a terminal unless NO_COLOR is set.
 bool isColoured()
 {
     return isatty(STDOUT_FILENO) == 1 && qEnvironmentVariableIsEmpty("NO_COLOR") &&

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// A page shows the month and what its first and last week need of the months beside it.
+/// A page shows the month and the days of its neighbours that fill its first and last week.
 constexpr int DaysBeforeMonth = 7;
 constexpr int DaysOnPage = 49;
 
@@ -42,12 +42,12 @@ QPixmap arrow(bool pointsLeft, const QColor &color, qreal ratio)
     return pixmap;
 }
 
-/// The buttons stand on the accent colour, and on a button's ground under the mouse.
+/// The buttons lie on the accent colour; under the mouse they get a button's background.
 void setArrow(const QCalendarWidget &calendar, const char *buttonName, bool pointsLeft)
 {
     auto *button = calendar.findChild<QToolButton *>(QLatin1String(buttonName));
     if (button == nullptr) {
-        return; // a Qt that names its buttons otherwise keeps its arrows
+        return; // this Qt names its buttons differently; keep its arrows
     }
     const qreal ratio = calendar.devicePixelRatioF();
     QIcon icon;
@@ -77,7 +77,7 @@ void CalendarLook::refresh(QCalendarWidget &calendar)
     const QTextCharFormat past = colored(CardTheme::text(CardTheme::CaptionAlpha));
     const QDate today = QDate::currentDate();
     const QDate first = QDate(calendar.yearShown(), calendar.monthShown(), 1).addDays(-DaysBeforeMonth);
-    calendar.setDateTextFormat(QDate(), QTextCharFormat()); // those of the former page
+    calendar.setDateTextFormat(QDate(), QTextCharFormat()); // clears the previous page's formats
     for (int i = 0; i < DaysOnPage && first.addDays(i) < today; ++i) {
         calendar.setDateTextFormat(first.addDays(i), past);
     }

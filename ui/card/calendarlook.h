@@ -13,10 +13,10 @@ QT_END_NAMESPACE
 /// colours.
 namespace CalendarLook {
 
-/// Gives @p calendar its look for as long as it lives; it follows the theme and the month that is shown.
+/// Applies the look to @p calendar, which from then on follows the theme and the displayed month.
 void giveTo(QCalendarWidget &calendar);
 
-/// Gives @p calendar the colours of the theme and dims the days that are past. They stay selectable.
+/// Applies the theme's colours and dims past days, which stay selectable.
 void refresh(QCalendarWidget &calendar);
 
 } // namespace CalendarLook

@@ -18,8 +18,8 @@ class TiTleItem;
 struct Confirmation;
 
 /**
- * The people who may be meant, on a selection card: their rows, how many of them may be picked, who was, and
- * the button that confirms it. Empty on the other kinds of card.
+ * The people who may be meant, on a selection card: their rows, how many may be picked, who was picked, and
+ * the button that confirms the choice. Empty on the other kinds of card.
  */
 class CandidateList
 {
@@ -27,9 +27,9 @@ public:
     /// Rows are added to @p rows of @p card; both outlive the list.
     CandidateList(ConferenceMsgStaticWidget *card, CardRowList &rows);
 
-    /// Those who were found at once. They get no rows by this.
+    /// Sets the people whose names matched unambiguously. Adds no rows.
     void setResolvedUsers(const QVector<UserInfo> &users) { m_resolvedUsers = users; }
-    /// When the conference that they are picked for starts: milliseconds since the epoch, 0 for now.
+    /// Sets the start of the conference, in milliseconds since the epoch; 0 for now.
     void setStartTime(qint64 msecs) { m_startTime = msecs; }
     [[nodiscard]] qint64 startTime() const { return m_startTime; }
 
@@ -41,17 +41,17 @@ public:
     void addRows(const QVector<UserInfo> &users);
     void addRows(const QVector<DuplicateUsers> &groups);
     QPushButton *addConfirmButton();
-    /// Null until it is added, and once it is removed.
+    /// Null before it is added and after it is removed.
     [[nodiscard]] QPushButton *confirmButton() const { return m_confirmButton; }
 
-    /// Those who were picked, and the resolved ones if they join them for that purpose.
+    /// The people picked, plus the resolved ones if the purpose includes them.
     [[nodiscard]] QVector<UserInfo> members(const Confirmation &confirmation) const;
 
-    /// @return false when a confirmation is under way already: a library that lets events through while it
-    /// waits could bring a second click.
+    /// @return false when a confirmation is already under way: a library that processes events while it waits
+    /// could deliver a second click.
     [[nodiscard]] bool startConfirming();
-    /// Ends what startConfirming() began and removes the button. If that has the focus, the card takes it for
-    /// @p focusReason.
+    /// Ends what startConfirming() began and removes the button. If the button has the focus, the card takes
+    /// it with @p focusReason.
     void endConfirming(Qt::FocusReason focusReason);
 
 private:

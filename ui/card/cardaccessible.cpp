@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A line that can neither be pressed nor reached, although it is a button.
+/// A separator: can be neither pressed nor focused, although it is a button.
 class LineAccessible final : public QAccessibleWidget
 {
 public:
@@ -30,7 +30,7 @@ QAccessibleInterface *makeAccessible(const QString & /*className*/, QObject *obj
 
 void CardAccessible::registerFactory()
 {
-    // Qt ignores a factory that it has already.
+    // Qt ignores a factory that is already installed.
     QAccessible::installFactory(makeAccessible);
 }
 

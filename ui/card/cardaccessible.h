@@ -7,8 +7,8 @@
 
 class ConferenceMsgStaticWidget;
 
-/// Accessible interface of a card: a group of what stands on it that can be pressed, which opens the contacts
-/// application as a click does. A disabled card cannot be pressed.
+/// Accessible interface of a card: a group that can be pressed, which opens the contacts application just as
+/// a click does. A disabled card cannot be pressed.
 class CardAccessible final : public QAccessibleWidget
 {
 public:

@@ -13,9 +13,9 @@ void CardButtons::prepare(QPushButton &button, QObject *card)
 {
     button.setFont(LFontSizeManager::instance()->get(LFontSizeManager::T6, button.font()));
     CardTheme::setText(button, CardTheme::ValueAlpha);
-    // In a dialog the button would react to Return itself, in addition to the card's event filter.
+    // In a dialog the button would otherwise handle Return in addition to the card's event filter.
     button.setAutoDefault(false);
-    // A click on a disabled button is not one on the card behind it.
+    // A click on a disabled button must not reach the card behind it.
     button.setAttribute(Qt::WA_NoMousePropagation);
     button.installEventFilter(card);
 }

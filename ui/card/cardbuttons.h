@@ -10,10 +10,10 @@ class QObject;
 class QPushButton;
 QT_END_NAMESPACE
 
-/// What the buttons with which a card acts have in common.
+/// What a card's action buttons have in common.
 namespace CardButtons {
 
-/// Gives @p button its font and colour. @p card filters its events and so makes Return press it.
+/// Gives @p button its font and colour. @p card filters its events, so that Return presses it.
 void prepare(QPushButton &button, QObject *card);
 
 } // namespace CardButtons

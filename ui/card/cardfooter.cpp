@@ -19,7 +19,7 @@ CardFooter::CardFooter(int count, QWidget *parent)
     setFont(LFontSizeManager::instance()->get(LFontSizeManager::T8, font()));
     setFixedWidth(Width);
     setAutoDefault(false);
-    // The ground is painted below; some toolkits would paint a dark one of their own over it.
+    // paintEvent() paints the background; some toolkits would cover it with a dark one.
     setFlat(true);
     QPalette fixed = palette();
     fixed.setBrush(QPalette::All, QPalette::ButtonText, CardTheme::footer());

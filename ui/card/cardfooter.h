@@ -5,14 +5,14 @@
 
 #include <lumo/lcommandlinkbutton.h>
 
-/// The link below a list of conferences that leads to all of them. Its colour is the same in both themes; in
-/// the dark one it stands on a chip.
+/// The link below a list of conferences that leads to all of them. Its colour is the same in both themes; the
+/// dark one puts a chip behind it.
 class CardFooter final : public LCommandLinkButton
 {
     Q_OBJECT
 
 public:
-    /// @p count is the number of all conferences that were found.
+    /// @p count is the number of conferences found.
     CardFooter(int count, QWidget *parent);
 
 protected:

@@ -25,7 +25,7 @@ QPixmap CardIcons::pixmap(const char *path, const QWidget &widget)
     }
     registerResources();
     QImageReader reader(QString::fromLatin1(path));
-    // A vector image is read in the size that is asked for, not read and then stretched.
+    // Renders a vector image at the requested size instead of scaling it afterwards.
     reader.setScaledSize(QSize(Extent, Extent) * ratio);
     picture = QPixmap::fromImageReader(&reader);
     picture.setDevicePixelRatio(ratio);

@@ -20,7 +20,7 @@ constexpr auto Ended = ":/icon/conferenceEnd.svg";
 constexpr auto Waiting = ":/icon/conferenceWaiting.svg";
 constexpr auto Contacts = ":/icon/kelvane-contacts.svg";
 
-/// The icon as sharp as the screen can show it that @p widget is on. @p path is one of the above.
+/// The icon at the resolution of @p widget's screen. @p path is one of the above.
 QPixmap pixmap(const char *path, const QWidget &widget);
 
 } // namespace CardIcons

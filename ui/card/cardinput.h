@@ -10,9 +10,9 @@
 class CardInput
 {
 public:
-    /// Return or Enter, which presses a button of a card.
+    /// Return or Enter, which press a card's button.
     static bool isConfirmKey(const QKeyEvent &event);
-    /// Whether @p event is such a key going down; holding it does not press again.
+    /// Whether @p event is the press of such a key; auto-repeat does not count.
     static bool isPress(const QEvent &event);
     /// Return, Enter or Space, which activate the card itself or a row of it.
     static bool isActivationKey(const QKeyEvent &event);
@@ -24,11 +24,12 @@ public:
     [[nodiscard]] bool isFramed() const { return m_isFramed; }
 
     void controlFocused(const QFocusEvent &event) { m_controlReason = event.reason(); }
-    /// Why the card takes the focus of a control that goes: it shows its frame only to keyboard users.
+    /// The reason with which the card takes over the focus of a control that disappears: only keyboard users
+    /// see its frame.
     [[nodiscard]] Qt::FocusReason reasonToInheritFocus() const;
 
-    /// The key that is down was meant for a button that may be gone; @p hasCardFocus tells whether the card
-    /// will hear of its release.
+    /// The key being held down was meant for a button that may be gone. @p hasCardFocus: the card will
+    /// receive its release.
     void keyPressedButton(bool hasCardFocus) { m_ignoresNextRelease = hasCardFocus; }
     /// Whether a released key was pressed on the card itself.
     [[nodiscard]] bool takeRelease();

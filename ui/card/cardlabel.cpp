@@ -13,7 +13,7 @@
 
 namespace {
 
-/// More than a line of the widest row has room for.
+/// More than fits on a line of the widest row.
 constexpr int WidestHint = 260;
 constexpr QChar Dots(0x2026);
 constexpr QMargins ChipPadding(8, 1, 8, 1);
@@ -61,7 +61,7 @@ QSize CardLabel::minimumSizeHint() const
     if (!m_elides || text().isEmpty()) {
         return whole;
     }
-    // Room for one character and the dots: a layout may go down to that.
+    // A layout may shrink the label to one character and the ellipsis.
     const int least =
         fontMetrics().horizontalAdvance(text().at(0)) + fontMetrics().horizontalAdvance(Dots) + 2 * margin();
     return {qMin(least, whole.width()), whole.height()};
@@ -97,7 +97,7 @@ void CardLabel::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     drawFrame(&painter);
     const QRect room = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
-    // The dots rarely end at the edge: whatever the alignment, an elided text starts where all texts start.
+    // The ellipsis rarely ends at the edge, so elided text is always aligned to its start.
     const Qt::Alignment aligned = (alignment() & Qt::AlignVertical_Mask) | Qt::AlignLeading;
     const auto flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), aligned));
     style()->drawItemText(&painter, room, flags | Qt::TextSingleLine, palette(), isEnabled(), shown,
@@ -106,7 +106,7 @@ void CardLabel::paintEvent(QPaintEvent *event)
 
 QString CardLabel::shownText() const
 {
-    // The size hint of the base class is remembered there; eliding would shape the text once more.
+    // The base class caches its size hint; eliding would shape the text once more.
     if (!CardText::isLong(text()) && (!m_elides || LLabel::sizeHint().width() <= width())) {
         return text();
     }

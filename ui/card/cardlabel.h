@@ -6,16 +6,16 @@
 #include <lumo/llabel.h>
 
 /**
- * A one-line label for a text that somebody else wrote: plain text, also in its tool tip, whatever the
- * toolkit's label makes of it. A text that does not fit is elided and given whole as tool tip.
+ * A one-line label for text from outside the program: always plain text, also in its tool tip, whatever the
+ * toolkit's label would make of it. Text that does not fit is elided, and the tool tip shows all of it.
  *
- * text() is always the whole text. Measured, painted and told to assistive technology is only its beginning,
- * so that a text of megabytes costs no more than a line of the widest screen.
+ * text() is always the whole text. Only its beginning is measured, painted and exposed to assistive
+ * technology, so that megabytes of text cost no more than a line of the widest screen.
  */
 class CardLabel : public LLabel
 {
     Q_OBJECT
-    /// As CardTheme::setText() keeps it; declared, because a label keeps it at a tenth of the cost then.
+    /// Set by CardTheme::setText(). Declared because a dynamic property costs ten times as much.
     Q_PROPERTY(int cardTextAlpha MEMBER m_textAlpha)
 
 public:
@@ -30,7 +30,7 @@ public:
     /// Never makes the label narrower than its text.
     void disableEliding();
 
-    /// Never makes the label wider than its text, whatever its font becomes.
+    /// Never makes the label wider than its text, even if the font changes.
     void capAtText();
 
     /// What the text needs on one line, in pixels.
@@ -53,7 +53,7 @@ private:
     bool m_isCapped = false;
 };
 
-/// A label whose colour does not follow the theme; in the dark one it stands on a chip if it needs one.
+/// A label whose colour does not follow the theme; the dark one puts a chip behind it where it needs one.
 class ColoredCardLabel final : public CardLabel
 {
     Q_OBJECT

@@ -9,12 +9,12 @@ QT_BEGIN_NAMESPACE
 class QWidget;
 QT_END_NAMESPACE
 
-/// The ground of a card.
+/// The background of a card.
 namespace CardPanel {
 
 enum class Frame { None, Focus };
 
-/// Paints the ground of @p card. For its paintEvent().
+/// Paints it. For the paintEvent() of @p card.
 void paint(QWidget &card, Frame frame);
 
 } // namespace CardPanel

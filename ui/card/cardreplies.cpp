@@ -12,7 +12,7 @@ QString startedWithOne(const QString &name)
     return QStringLiteral("好的，已为您发起和%1的视频会议。").arg(name);
 }
 
-/// @p names are one or more.
+/// @p names must not be empty.
 QString startedWith(const QStringList &names)
 {
     return names.size() == 1
@@ -57,7 +57,7 @@ QString CardReplies::invitedWithinLimit(const QStringList &names)
     case 1:
         return startedWithOne(names.first());
     default:
-        // Both at once: a name may look like a place itself.
+        // Both in one call: a name may itself contain a place marker.
         return QStringLiteral("好的，已为您发起%1和%2的视频会议。").arg(names.at(0), names.at(1));
     }
 }

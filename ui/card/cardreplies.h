@@ -5,15 +5,15 @@
 
 #include <QStringList>
 
-/// What a card says when one of its buttons has done its work.
+/// What a card says after one of its buttons has done its work.
 namespace CardReplies {
 
 // After a change or a cancellation. A result code of 0 is success.
 QString modified(int code);
 QString cancelled(int code);
 
-// After a confirmation, for the names of those who were picked. The wording differs from one purpose to the
-// other (和 and 与, and starting where an invitation was meant); people know it that way.
+// After a confirmation, for the names of the people picked. The wording deliberately differs between purposes
+// (和 or 与; an invitation says that it starts a conference): users know it that way.
 QString created(const QStringList &names);
 QString invited(const QStringList &names);
 /// Names only the first two.

@@ -23,7 +23,7 @@ QWidget *CardRowList::listed(QWidget *row)
 void CardRowList::add(QWidget *row)
 {
     m_layout->addWidget(row);
-    // On a visible card a new row would only be shown later, and not count for the card's size.
+    // On a visible card a new row would otherwise be shown only later and not count towards the card's size.
     if (m_card->isVisible()) {
         row->show();
     }
@@ -57,7 +57,7 @@ void CardRowList::remove(QWidget *row, Qt::FocusReason focusReason)
 void CardRowList::adjustSize()
 {
     m_card->adjustSize();
-    // In a host with a layout, that layout has the last word.
+    // If the host has a layout, that layout has the last word.
     m_card->updateGeometry();
     m_card->update();
 }
@@ -66,11 +66,11 @@ void CardRowList::takeOff(QWidget *row, Qt::FocusReason focusReason)
 {
     const QWidget *focused = QApplication::focusWidget();
     if (focused != nullptr && (focused == row || row->isAncestorOf(focused))) {
-        // Hiding the row would hand the focus on as if Tab had been pressed, and frame whatever comes next.
+        // Hiding the row would move the focus as Tab does and frame whatever comes next.
         m_card->setFocus(focusReason);
     }
     row->hide();
-    // It lives until the event loop has its turn, and must not ask once more.
+    // The row lives until control returns to the event loop, and must not send a second request.
     row->disconnect(m_card);
     const auto buttons = row->findChildren<QPushButton *>();
     for (QPushButton *button : buttons) {

@@ -10,29 +10,29 @@ class QVBoxLayout;
 class QWidget;
 QT_END_NAMESPACE
 
-/// The rows of a card, from top to bottom: its layout, and the list of the rows that a rebuilt card gives up.
+/// The rows of a card, from top to bottom: its layout, and the rows to remove when the card is rebuilt.
 class CardRowList
 {
 public:
     /// Gives @p card its layout. @p card outlives the list.
     explicit CardRowList(QWidget *card);
 
-    /// Notes @p row. Adding it to a layout is a step of its own, because rows may stand inside others.
+    /// Lists @p row without adding it to a layout, because rows may be nested.
     QWidget *listed(QWidget *row);
     /// Adds @p row to the card's layout.
     void add(QWidget *row);
     void addSpacing(int height);
-    /// Notes @p rows, and adds them to the layout of @p panel, which is a row itself.
+    /// Lists @p rows and adds them to the layout of @p panel, which is a row itself.
     void addInside(QWidget &panel, const QVector<QWidget *> &rows);
 
     /// Forgets the listed rows; they stay on the card.
     void clear() { m_rows.clear(); }
-    /// Removes every listed row from the card. If one has the focus, the card takes it for @p focusReason.
+    /// Removes every listed row from the card. If one has the focus, the card takes it with @p focusReason.
     void removeAll(Qt::FocusReason focusReason);
-    /// Removes @p row, from the list too.
+    /// Removes @p row from the card and from the list.
     void remove(QWidget *row, Qt::FocusReason focusReason);
 
-    /// Gives the card the size that its rows need.
+    /// Resizes the card to fit its rows.
     void adjustSize();
 
 private:

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Fills a line of the widest screen also in the narrowest letters.
+/// Fills a line of the widest screen even in the narrowest letters.
 constexpr int MostSeenCharacters = 2000;
 
 void setSize(QWidget &widget, LFontSizeManager::SizeType size)
@@ -43,7 +43,7 @@ QString CardText::beginning(const QString &text)
     if (!isLong(text)) {
         return text;
     }
-    // Half a surrogate pair would be shown as a box.
+    // Half a surrogate pair would show as a box.
     const bool splitsPair = text.at(MostSeenCharacters - 1).isHighSurrogate();
     return text.left(MostSeenCharacters - (splitsPair ? 1 : 0)) + QChar(0x2026);
 }

@@ -14,24 +14,24 @@ class CardLabel;
 
 /**
  * The texts of a card. Every label comes from here, because most texts were written by other people: they are
- * plain text, are elided when they do not fit and do not make the card wider than a card is.
+ * plain text, elided when they do not fit, and never widen the card.
  */
 namespace CardText {
 
-/// A label in the theme's colour with that @p alpha, owned by @p parent.
+/// A label in the theme's text colour with @p alpha, owned by @p parent.
 CardLabel *label(const QString &text, LFontSizeManager::SizeType size, int alpha, QWidget *parent);
 
 /// The same in a colour that the theme does not change.
 CardLabel *coloredLabel(const QString &text, LFontSizeManager::SizeType size, const QColor &color,
                         QWidget *parent);
 
-/// Whether @p text is longer than anybody could see of it.
+/// Whether @p text is longer than any screen could show on one line.
 bool isLong(const QString &text);
 
-/// @p text itself, or of a long one as much as could ever be seen, with dots.
+/// @p text itself; a long one is cut to what could ever be visible, with an ellipsis.
 QString beginning(const QString &text);
 
-/// @p text without line breaks, which would make its row as tall as its writer likes.
+/// @p text without line breaks, with which its writer could make the row as tall as they like.
 QString oneLine(QString text);
 
 /// The beginning of @p text as a tool tip that shows every character as it is. A tool tip has no plain

@@ -17,10 +17,10 @@ namespace {
 constexpr auto AlphaProperty = "cardTextAlpha";
 
 constexpr int ChipGray = 200;
-/// How much of the chip may be seen through a text on it.
+/// How much of the chip may show through a text on it.
 constexpr qreal MostSeenThroughText = 0.25;
 constexpr int MostCoats = 5;
-/// Below this brightness, of 255, a text is lost on a dark ground.
+/// Below this brightness (of 255), text is illegible on a dark background.
 constexpr int DarkestOnDark = 64;
 
 void applyText(QWidget &widget, int alpha)
@@ -34,7 +34,7 @@ void applyText(QWidget &widget, int alpha)
 
 bool CardTheme::isLight()
 {
-    // The number, because toolkits differ in its name.
+    // The number, because toolkits name it differently.
     return static_cast<int>(LGuiApplicationHelper::instance()->themeType()) == 1;
 }
 
@@ -87,7 +87,7 @@ QColor CardTheme::cardGround()
 
 QColor CardTheme::rowGround()
 {
-    // The dark theme's white texts could not be read on the panel's own ground.
+    // The dark theme's white texts would be illegible on the panel's own background.
     return isDark() ? QColor(255, 255, 255, 20) : panelGround();
 }
 

@@ -13,46 +13,45 @@ class QRect;
 class QWidget;
 QT_END_NAMESPACE
 
-/// Every colour of the cards, by name, and the desktop's theme, which some of them follow.
+/// The cards' colours by name. Some follow the desktop's theme.
 namespace CardTheme {
 
 bool isLight();
 bool isDark();
 
-/// Calls @p slot, as long as @p object lives, after every change of the application's palette, which comes
-/// with every change of the theme.
+/// Calls @p slot after every change of the application's palette, and so of the theme, until @p object is
+/// deleted.
 template <typename Object, typename Slot>
 void follow(Object *object, Slot slot)
 {
     QObject::connect(qGuiApp, &QGuiApplication::paletteChanged, object, slot);
 }
 
-// Texts: how strong each is, as the alpha of the theme's text colour.
+// Alphas of the theme's text colour.
 constexpr int TitleAlpha = 102;
 constexpr int CaptionAlpha = 153;
 constexpr int ValueAlpha = 178;
-constexpr int HoverAlpha = 15; ///< what lies over a row under the mouse
+constexpr int HoverAlpha = 15; ///< the veil over a row under the mouse
 constexpr int LineAlpha = 26;  ///< the line between two parts of a card
 
 /// Black in the light theme, white otherwise, with @p alpha from 0 to 255.
 QColor text(int alpha);
 
-/// A palette that says nothing but that text colour, for a new widget. Made once for each colour: making it
-/// costs as much as the rest of colouring a label.
+/// A palette that sets only this text colour, for a new widget. Cached: building one costs as much as the
+/// rest of colouring a label.
 QPalette textPalette(int alpha);
 
-/// Gives @p widget that text colour, and remembers @p alpha as its property cardTextAlpha for refreshTexts().
+/// Gives @p widget this text colour and stores @p alpha in its property cardTextAlpha for refreshTexts().
 void setText(QWidget &widget, int alpha);
 
-/// Gives everything in @p card that setText() was used on the colour of the current theme, and paints @p card
-/// anew.
+/// Recolours every widget in @p card that setText() was used on for the current theme, and repaints @p card.
 void refreshTexts(QWidget &card);
 
-// Grounds.
+// Backgrounds.
 QColor cardGround();
-/// The ground of a candidate row in the current theme.
+/// A candidate row in the current theme.
 QColor rowGround();
-/// The ground that a rounded panel has unless told otherwise.
+/// The default of a rounded panel.
 inline QColor panelGround()
 {
     return {247, 247, 247, 204};
@@ -73,7 +72,7 @@ inline QColor focus()
 {
     return blue();
 }
-/// Over the ground of a row that was picked.
+/// The veil over a picked row.
 inline QColor pickedGround()
 {
     return blue(36);
@@ -95,11 +94,11 @@ inline QColor footer()
     return {0, 0, 0, 102};
 }
 
-/// How often @p text, a colour that does not follow the theme, is painted over a chip until it can be read
-/// there. 0 where it needs no chip: on the light theme and for bright colours.
+/// How many times a text of colour @p text, which does not follow the theme, is painted over its chip to be
+/// legible. 0 where it needs no chip: in the light theme and for bright colours.
 int coatsOnChip(const QColor &text);
 
-/// Fills @p rect with the light, round ground of a text that the dark theme would hide.
+/// Fills @p rect with the light, rounded chip behind a text that would be illegible on the dark theme.
 void paintChip(QPainter &painter, const QRect &rect);
 
 } // namespace CardTheme

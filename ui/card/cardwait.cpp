@@ -10,11 +10,11 @@
 CardWait::CardWait(QWidget &card, QPushButton *button)
 {
     if (button != nullptr) {
-        // Not disabled: it would hand the focus on.
+        // Not disabled: that would move the focus.
         button->setText(QStringLiteral("请稍候…"));
     }
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    // Rows that were just added have no place yet.
+    // Rows that were just added have no geometry yet.
     if (card.layout() != nullptr) {
         card.layout()->activate();
     }

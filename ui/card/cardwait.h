@@ -11,14 +11,14 @@ class QWidget;
 QT_END_NAMESPACE
 
 /**
- * Shows that a card waits for the contacts application, from its construction to its end: the cursor is the
- * one for waiting, and the card is painted at once as it stands, because nothing is painted while a request
- * blocks. No event is processed. The card may be deleted meanwhile.
+ * Shows, for as long as it exists, that a card waits for the contacts application: sets the wait cursor and
+ * repaints the card immediately, because nothing is painted while a request blocks. Processes no events. The
+ * card may be deleted meanwhile.
  */
 class CardWait
 {
 public:
-    /// @p button is the pressed one if it stays on the card while the request runs; it says that it waits.
+    /// @p button is the pressed one, whose text then says that it waits; null if it leaves the card.
     explicit CardWait(QWidget &card, QPushButton *button = nullptr);
     ~CardWait();
 

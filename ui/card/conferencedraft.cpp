@@ -27,7 +27,7 @@ void ConferenceDraft::setReference(const ContactDetailMsg &conference)
 
 bool ConferenceDraft::isChanged() const
 {
-    // toTime_t() rather than its successor: a start that is not a time is one and the same value for it.
+    // toTime_t() rather than its successor, because it maps every invalid start to the same value.
     return start(m_working).toTime_t() != start(m_reference).toTime_t() ||
            m_working.duration != m_reference.duration ||
            m_working.participantLimit != m_reference.participantLimit;
@@ -37,8 +37,8 @@ void ConferenceDraft::applyTo(ContactDetailMsg &conference) const
 {
     conference.duration = m_working.duration;
     conference.participantLimit = m_working.participantLimit;
-    // An hour that clocks go through twice has two starts with the same date and time: who did not touch
-    // the start keeps the right one.
+    // An hour that a clock change repeats has two starts with the same date and time. Unless the start was
+    // edited, keep the original one.
     const ConferenceValues known = ConferenceValues::of(conference);
     if (m_working.startDate != known.startDate || m_working.startTime != known.startTime) {
         conference.startTime = start(m_working).toMSecsSinceEpoch();

@@ -19,14 +19,11 @@ struct ConferenceValues
     static ConferenceValues of(const ContactDetailMsg &conference);
 };
 
-/**
- * A conference that is being edited: the values that the controls show, beside those that the contacts
- * application knows.
- */
+/// A conference being edited: the values in the controls, and those that the contacts application has.
 class ConferenceDraft
 {
 public:
-    /// Takes the values of @p conference as those to compare with. The working values stay as they are.
+    /// Sets @p conference as the baseline that edits are compared against. Keeps the working values.
     void setReference(const ContactDetailMsg &conference);
 
     ConferenceValues &working() { return m_working; }

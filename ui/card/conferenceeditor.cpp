@@ -54,11 +54,11 @@ void prepare(QWidget &control, const QString &accessibleName, int minimumWidth)
     control.setMinimumWidth(minimumWidth);
     control.setFont(LFontSizeManager::instance()->get(LFontSizeManager::T6, control.font()));
     control.setAccessibleName(accessibleName);
-    // On this platform the accessible name of a combo box is its current text, and only this tells it from
-    // another one.
+    // On this platform a combo box's accessible name is its current text; only the description tells two of
+    // them apart.
     control.setAccessibleDescription(accessibleName);
     CardTheme::setText(control, CardTheme::ValueAlpha);
-    // What a control leaves of a click is not meant for the card behind it.
+    // A mouse event that a control ignores must not reach the card behind it.
     control.setAttribute(Qt::WA_NoMousePropagation);
 }
 
@@ -86,7 +86,7 @@ int ConferenceEditor::sendChange() const
 
 int ConferenceEditor::sendCancellation() const
 {
-    // A copy: the editor's own may be gone before the request is done with it.
+    // A copy: the editor may be deleted while the request runs.
     const QString conferenceId = m_conferences.first().confId;
     const int code = ConferenceCardInterface::instance()->deleteVideoConference(conferenceId);
     qCDebug(defaultLog) << "Cancle conference code:" << code;
@@ -110,8 +110,8 @@ QWidget *ConferenceEditor::timeLength(const ContactDetailMsg &conference, QWidge
     auto *box = wideControl<LComboBox>(row, ConferenceRows::timeLengthCaption());
     box->setWindowTitle(DurationBoxTag);
     box->installEventFilter(card);
-    // Before the items: the first one already sets the working duration, which then is what the box shows
-    // also for a duration that it does not offer.
+    // Before adding items: the first one sets the working duration, which keeps it in line with the box even
+    // for a duration that is not on offer.
     connect(box, &QComboBox::currentTextChanged, this, [this](const QString &label) {
         m_draft.working().duration = m_durations.duration(label);
         edited();
@@ -130,7 +130,7 @@ QWidget *ConferenceEditor::personNum(const ContactDetailMsg &conference, QWidget
     const int most = ParticipantLimits::most(conference);
     box->setRange(ParticipantLimits::Least, qMax(ParticipantLimits::Least, most));
     box->setValue(conference.participantLimit);
-    // A count that the box cannot show is sent as it came until a person sets another one.
+    // A count outside the box's range is sent unchanged until the user sets another one.
     m_draft.working().participantLimit = conference.participantLimit;
     connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int limit) {
         m_draft.working().participantLimit = limit;
@@ -162,7 +162,7 @@ QWidget *ConferenceEditor::hourBox(const ContactDetailMsg &conference, QWidget *
     const QTime start = ConferenceValues::of(conference).startTime;
     box->addItems(ConferenceHours::choices());
     box->setCurrentText(ConferenceHours::label(start));
-    // Only now: what starts at 09:30 stays there until a person picks an hour.
+    // Only now: a start at 09:30 is kept until the user picks an hour.
     m_draft.working().startTime = start;
     connect(box, &QComboBox::currentTextChanged, this, [this](const QString &label) {
         m_draft.working().startTime = ConferenceHours::time(label);

@@ -15,8 +15,8 @@ class QWidget;
 QT_END_NAMESPACE
 
 /**
- * The conference that is edited on a card, the rows in which that is done, what they have been set to, and
- * the buttons that send or cancel it. Empty on the other kinds of card.
+ * Edits a conference on a card: the rows, the values they were set to, and the buttons that modify or cancel
+ * the conference. Empty on the other kinds of card.
  */
 class ConferenceEditor final : public QObject
 {
@@ -25,7 +25,7 @@ class ConferenceEditor final : public QObject
 public:
     explicit ConferenceEditor(QWidget *card);
 
-    /// The first conference of @p list is the one that is edited.
+    /// The first conference of @p list is the one to edit.
     void setConferences(const QVector<ContactDetailMsg> &list) { m_conferences = list; }
     [[nodiscard]] const QVector<ContactDetailMsg> &conferences() const { return m_conferences; }
     /// Writes what the controls were set to into the conference.
@@ -45,11 +45,11 @@ public:
     /// The row with the buttons to cancel and to modify the conference.
     QWidget *buttons(QWidget *card);
 
-    // Null until buttons() was called, and once its row is gone.
+    // Null before buttons() is called and after its row is gone.
     [[nodiscard]] QPushButton *cancelButton() const { return m_cancelButton; }
     [[nodiscard]] QPushButton *modifyButton() const { return m_modifyButton; }
 
-    /// Whether @p button is one of the two.
+    /// Whether @p button is cancelButton() or modifyButton().
     [[nodiscard]] bool owns(const QPushButton *button) const
     {
         return button != nullptr && (button == m_cancelButton || button == m_modifyButton);

@@ -7,14 +7,14 @@
 #include <QStringList>
 #include <QTime>
 
-/// The hours at which a conference card lets a conference start, and how it calls them.
+/// Maps the hours at which a conference may start to their labels.
 class ConferenceHours
 {
 public:
     /// From midnight on.
     [[nodiscard]] static QStringList choices();
-    /// How the hour of @p time is called; empty for an invalid time.
+    /// The label of the hour of @p time; empty for an invalid time.
     [[nodiscard]] static QString label(const QTime &time);
-    /// The full hour that is called @p label, invalid for any other text.
+    /// The full hour labelled @p label; invalid for any other text.
     [[nodiscard]] static QTime time(const QString &label);
 };

@@ -27,9 +27,8 @@ constexpr int StateSpacing = 5;
 constexpr Qt::Alignment ContentLeft = Qt::AlignLeft | Qt::AlignVCenter;
 constexpr Qt::Alignment ContentRight = Qt::AlignRight | Qt::AlignVCenter;
 
-// Alignments in the place of a stretch, 129 and 130. They have settled how the width is shared since the
-// first card: the icon keeps its own and the text gets the rest. Numbers that are easier to explain would
-// move them.
+// Alignments in place of a stretch, 129 and 130. They have decided how the width is shared since the first
+// card (the icon keeps its own, the text gets the rest); more sensible numbers would move both.
 constexpr int TitleIconStretch = 1;
 constexpr int TitleTextStretch = static_cast<int>(ContentLeft);
 constexpr int StateStretch = static_cast<int>(ContentRight);
@@ -52,8 +51,8 @@ void addValue(const ConferenceRows::CaptionedRow &row, const QString &text,
               Qt::Alignment alignment = ContentLeft)
 {
     CardLabel *value = valueLabel(text, row.widget);
-    // A long text takes the width that there is, and none that it does not need. The cap comes last: it
-    // measures the text, and every other of these would make the label measure it again.
+    // Long text takes all available width, but no more than it needs. Cap last: that measures the text, and
+    // each of the other calls would make the label measure it again.
     value->setAlignment(alignment);
     value->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     value->capAtText();

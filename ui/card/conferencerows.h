@@ -12,11 +12,11 @@ class QPushButton;
 class QWidget;
 QT_END_NAMESPACE
 
-/// Makes the rows of a card that only show something. Each row belongs to the parent it is given.
+/// Creates the read-only rows of a card. Each row is a child of the given parent.
 namespace ConferenceRows {
 
 QWidget *title(QWidget *parent);
-/// What the conference is about; in a static row also the state that it is in.
+/// The conference's title; a static row also shows its state.
 QWidget *status(const ContactDetailMsg &conference, bool isStatic, QWidget *parent);
 QWidget *number(const ContactDetailMsg &conference, QWidget *parent);
 QWidget *beginTime(const ContactDetailMsg &conference, QWidget *parent);
@@ -24,10 +24,10 @@ QWidget *timeLength(const ContactDetailMsg &conference, QWidget *parent);
 QWidget *personNum(const ContactDetailMsg &conference, QWidget *parent);
 QWidget *participants(const ContactDetailMsg &conference, QWidget *parent);
 
-/// The rows of a conference among several, from top to bottom.
+/// The rows of one conference in a list, from top to bottom.
 QVector<QWidget *> summary(const ContactDetailMsg &conference, QWidget *parent);
 
-/// A row that has its caption and waits for its value in the layout.
+/// A row with a caption; the caller adds the value to the layout.
 struct CaptionedRow
 {
     QWidget *widget;
@@ -36,16 +36,16 @@ struct CaptionedRow
 };
 CaptionedRow captioned(const QString &caption, QWidget *parent);
 
-/// A separator of any direction.
+/// A separator of either orientation.
 QPushButton *line(QWidget *parent);
 /// A horizontal separator between two rows of a card.
 QPushButton *separator(QWidget *parent);
 
-/// The panel of one conference in a list, with a layout for its rows. Make those as its children: one that
-/// changes its parent works out its font and its palette anew.
+/// The panel of one conference in a list, with a layout for its rows. Create these as its children: a widget
+/// that is reparented resolves its font and palette again.
 QWidget *item(QWidget *parent);
 
-// How the rows are called, for the eye and for assistive technology.
+// The rows' captions, which are also their accessible names.
 QString beginTimeCaption();
 QString timeLengthCaption();
 QString personNumCaption();

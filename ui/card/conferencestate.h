@@ -6,12 +6,12 @@
 #include <QColor>
 #include <QString>
 
-/// How a card shows the state that a conference is in.
+/// How a card shows a conference's state.
 struct ConferenceState
 {
     QString text;
     const char *icon; ///< one of CardIcons
-    QColor color;     ///< of the text; the same in both themes, so that a state is known by its colour
+    QColor color;     ///< of the text; the same in both themes, so that users recognise it
 
     /// @p status is the code of the contacts application. An unknown one counts as in progress.
     static ConferenceState of(int status);

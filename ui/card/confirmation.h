@@ -7,13 +7,11 @@
 
 #include <QStringList>
 
-/**
- * What the people picked on a selection card are confirmed for, and all that differs with it: one row per
- * purpose.
- */
+/// The purpose for which the people picked on a selection card are confirmed, and everything that depends on
+/// it. One row per purpose.
 struct Confirmation
 {
-    enum class ResolvedUsers { Join, StayOut }; ///< those who were found at once
+    enum class ResolvedUsers { Join, StayOut }; ///< whose names matched unambiguously
     enum class Names { AllSaid, EachSaidOnce };
     enum class CardAfterwards { Enabled, Disabled };
 
@@ -27,7 +25,7 @@ struct Confirmation
     QString (*success)(const QStringList &names);
     QString (*failure)();
 
-    /// The text that the card says, with those names of @p members that this purpose says.
+    /// The card's text for @p code, with the names of @p members as this purpose mentions them.
     [[nodiscard]] QString reply(const QVector<UserInfo> &members, int code) const;
 
     static const Confirmation &create();

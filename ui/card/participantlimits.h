@@ -5,7 +5,7 @@
 
 #include "conferencerecords.h"
 
-/// How many people a conference may be given.
+/// The bounds of a conference's participant limit.
 namespace ParticipantLimits {
 
 constexpr int Least = 2;

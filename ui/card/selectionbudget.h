@@ -4,18 +4,18 @@
 #pragma once
 
 /**
- * How many more rows of one card may be selected. The card owns it; each of its rows takes one when it
- * becomes selected and gives it back when it is not any more.
+ * How many more rows of a card may be selected. Owned by the card; a row takes one when it is selected and
+ * gives it back when it is deselected.
  */
 class SelectionBudget
 {
 public:
-    /// So many that every row can be selected.
+    /// Enough to select every row.
     static constexpr int PracticallyUnlimited = 65535;
 
     [[nodiscard]] int remaining() const { return m_remaining; }
 
-    /// To be called before anything is selected; a negative number counts as 0.
+    /// Call before anything is selected. A negative number counts as 0.
     void limitTo(int selections) { m_remaining = selections > 0 ? selections : 0; }
 
     /// @return false when nothing is left; then nothing changes.

@@ -17,7 +17,7 @@ QAccessibleInterface *makeAccessible(const QString & /*className*/, QObject *obj
 
 void TiTleItemAccessible::registerFactory()
 {
-    // Qt takes a factory that it has already for the same one.
+    // Qt ignores a factory that is already installed.
     QAccessible::installFactory(makeAccessible);
 }
 

@@ -128,7 +128,7 @@ bool ContactsBook::wasPerformed(const QString &requestId) const
     try {
         return m_session.wasPerformed(requestId);
     } catch (const std::exception &error) {
-        qCritical() << "It cannot be told what was performed:" << error.what();
+        qCritical() << "Cannot tell whether the request was performed:" << error.what();
         noteFailure(error);
         return false;
     }

@@ -43,7 +43,6 @@ public:
     int endedCount(qint64 fromMsecs, qint64 nowMsecs, int limit) const;
     /// Everybody's conferences that start after @p fromMsecs, by start; at most @p limit.
     QVector<Conference> startingAfter(qint64 fromMsecs, const QString &viewerId, int limit) const;
-    /// The running conference that @p userId is in.
     std::optional<Conference> joinedBy(const QString &userId, qint64 nowMsecs) const;
 
     /// Everybody who has or had a seat, including those who left.

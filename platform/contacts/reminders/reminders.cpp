@@ -268,7 +268,7 @@ bool Reminders::isPresentUsers(const Shown &shown) const
         const std::optional<Person> user = m_book.session().user();
         return user && user->userId == shown.userId;
     } catch (const std::exception &error) {
-        qWarning("It cannot be told whose notification was clicked: %s", error.what());
+        qWarning("Cannot tell whose notification was clicked: %s", error.what());
         m_book.noteFailure(error);
         return false;
     }

@@ -24,7 +24,7 @@ QString askerMeant(ContactsBook &book, const QString &said)
             user && person && book.people().friendship(person->userId, user->userId) == Friendship::Requested;
         return hasAsked ? person->account : QString();
     } catch (const std::exception &error) {
-        qWarning("It cannot be told who has asked: %s", error.what());
+        qWarning("Cannot tell who sent a friend request: %s", error.what());
         book.noteFailure(error);
         return {};
     }

@@ -85,7 +85,7 @@ void ConferenceCommands::refresh()
             m_options = ConferenceOptions::of(*m_chosen, seat, m_viewer, m_book.nowMsecs());
         }
     } catch (const std::exception &error) {
-        qWarning("What can be done cannot be told: %s", error.what());
+        qWarning("Cannot tell what can be done with the conference: %s", error.what());
         m_book.noteFailure(error);
     }
     m_open->setEnabled(m_chosen.has_value());

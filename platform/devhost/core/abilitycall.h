@@ -17,7 +17,7 @@ struct AbilityCall
     QString answer;     ///< JSON; empty when the call failed
     int code = 0;
     double msecs = 0;
-    /// Not a request of this turn: an earlier one, reported as failed, was carried out after all.
+    /// Not a request of this turn, but an earlier one that was reported as failed and carried out after all.
     bool isPerformedAfterAll = false;
 
     /// The log category of the trace. The host switches it on.

@@ -17,7 +17,7 @@ QT_END_NAMESPACE
 namespace devhost {
 
 /**
- * A client of the session bus with a connection of its own. It lives on a BusThread, because connecting
+ * A client of the session bus with its own connection. It lives on a BusThread, because connecting
  * blocks, and first probes whether the bus answers: libdbus waits for a silent bus without a bound, on a
  * thread that all connections of the process share, the plugin's included.
  */
@@ -36,7 +36,7 @@ public:
 protected:
     static constexpr int AsLongAsItTakes = -1;
 
-    /// @p name shows in bus monitors; each client has a connection of its own.
+    /// @p name shows in bus monitors.
     explicit BusClient(const QString &name);
 
     /// Connects unless connected, waiting at most @p msecs for a silent bus.

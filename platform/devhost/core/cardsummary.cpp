@@ -32,7 +32,7 @@ QString withoutMnemonic(QString text)
     return text.replace(QLatin1Char('\n'), QLatin1Char('&'));
 }
 
-/// What one control says; empty for a control without a text of its own.
+/// The text of one control; empty for a control without text.
 QString textOf(const QWidget &widget)
 {
     if (const auto *label = qobject_cast<const QLabel *>(&widget)) {

@@ -69,7 +69,7 @@ void Conversation::startOver()
 
 void Conversation::closeQuestion()
 {
-    // The way in which a user does it.
+    // As a user would.
     m_dialogue.turn(QStringLiteral("算了"), QDateTime::currentDateTime());
 }
 

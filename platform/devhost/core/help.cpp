@@ -10,7 +10,7 @@ namespace devhost {
 
 namespace {
 
-/// People of the sample directory, for as long as nobody else is known.
+/// People of the sample directory, used until others are known.
 QString nameAt(const QStringList &names, int place)
 {
     static const QStringList known{QStringLiteral("孙丽"), QStringLiteral("赵磊"), QStringLiteral("周一鸣")};

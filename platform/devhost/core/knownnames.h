@@ -38,7 +38,7 @@ private:
 
     KnownNames(NameReader *reader, QObject *parent);
 
-    std::shared_ptr<Known> m_known; ///< the reader's, too, which may outlive this
+    std::shared_ptr<Known> m_known; ///< shared with the reader, which may outlive this
     BusThread m_thread;
 };
 

@@ -38,7 +38,7 @@ LineReader::Outcome LineReader::read(QString &line)
     if (bytes.endsWith('\r')) {
         bytes.chop(1);
     }
-    QTextCodec::ConverterState state; // with which the codec takes a byte order mark away
+    QTextCodec::ConverterState state; // makes the codec strip a byte order mark
     const QString text =
         QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
     if (state.invalidChars > 0 || state.remainingChars > 0) {

@@ -58,7 +58,7 @@ LauncherBus::Start LauncherBus::offer(LauncherDesk &desk)
     registerLauncherTypes();
     auto *krunner = new KRunnerRequests(desk, this);
     auto *search = new SearchRequests(desk, this);
-    // Adaptors are children of the objects they stand for.
+    // Adaptors are children of the objects they adapt.
     new KRunnerAdaptor(krunner);
     new SearchProviderAdaptor(search);
     QDBusConnection connection = bus();

@@ -14,7 +14,7 @@ namespace {
 
 constexpr qreal PlannedPixelSize = 14;
 constexpr qreal LeastCardScale = 0.8;
-constexpr qreal MostCardScale = 1.45; ///< rows and captions have fixed sizes, which hold no more
+constexpr qreal MostCardScale = 1.45; ///< larger text would not fit the fixed sizes of rows and captions
 
 } // namespace
 

@@ -19,7 +19,7 @@ struct ApplicationState
     QString user;             ///< name and account; empty when nobody is logged in
     QString conferenceTitle;  ///< of the conference the user is in; empty outside
     QString conferenceNumber; ///< of the same
-    QStringList names;        ///< of those whom the user may invite, each only once and nobody's namesake
+    QStringList names;        ///< of the people the user may invite; unique, without namesakes
 
     /// Reads the answer to Overview().
     static ApplicationState read(const QString &overview);

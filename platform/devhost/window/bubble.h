@@ -10,7 +10,7 @@ namespace devhost {
 class TurnButton;
 
 /**
- * One utterance: plain text on a rounded ground, every character shown literally. Its size is what
+ * One utterance: plain text on a rounded plate, every character shown literally. Its size is what
  * Bubble::sizeFor() says; the conversation view creates bubbles only for what is in sight. Beside it is a
  * button for the menu of its turn, a child of the same parent.
  */

@@ -14,13 +14,13 @@ namespace devhost {
 namespace {
 
 constexpr auto Format = QImage::Format_RGB16; ///< half of what the screen has; nobody sees it on a card
-constexpr int PackingLevel = 2;               ///< fast: a card is mostly even
+constexpr int PackingLevel = 2;               ///< fast, and enough: a card is mostly uniform
 
 } // namespace
 
 CardRecord::CardRecord(QWidget &card) : m_text(cardSummary(card).join(QLatin1Char('\n')))
 {
-    // With the ground behind it: the card's own ground may be translucent.
+    // Includes what is behind the card, whose own background may be translucent.
     const QPixmap grabbed = card.grab();
     QImage image(grabbed.size(), QImage::Format_RGB32);
     image.setDevicePixelRatio(grabbed.devicePixelRatioF());

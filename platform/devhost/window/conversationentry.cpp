@@ -33,7 +33,7 @@ void ConversationEntry::measure(int columnWidth, const QFont &font)
 void ConversationEntry::letCardGo()
 {
     record = CardRecord(*card);
-    // Deferred: one of its own signals may have led here.
+    // Deferred: one of the card's own signals may have led here.
     card->deleteLater();
     card = nullptr;
 }

@@ -31,8 +31,8 @@ struct ConversationEntry
     Bubble::Role role = Bubble::Said;
     QString text;
     bool isQueued = false;
-    QPointer<QWidget> card;   ///< a live one, or while in sight a picture of one that was let go
-    CardRecord record;        ///< of a card that was let go
+    QPointer<QWidget> card;   ///< a live one, or while in sight a picture of a released one
+    CardRecord record;        ///< of a released card
     Bubble *bubble = nullptr; ///< while in sight
     bool isSized = false;
     int naturalWidth = 0;

@@ -17,7 +17,7 @@ constexpr int PressedFactor = 114;
 
 EndButton::EndButton(QWidget *parent) : ViewButton(tr("Back to the latest turn"), Diameter, parent)
 {
-    setFocusPolicy(Qt::TabFocus); // its click hides it, and would hand the focus on
+    setFocusPolicy(Qt::TabFocus); // a click hides the button, which would move the focus
 }
 
 void EndButton::paintEvent(QPaintEvent *)

@@ -145,7 +145,7 @@ void Inspector::followFont()
     const QFontMetrics metrics(fixed); // QFontInfo::fixedPitch() is false for such fonts on some platforms
     if (metrics.horizontalAdvance(QLatin1Char('i')) != metrics.horizontalAdvance(QLatin1Char('W'))) {
         fixed.setFamily(
-            QStringLiteral("monospace")); // where the desktop names none, Qt gives the font of everything
+            QStringLiteral("monospace")); // where the desktop names none, Qt returns the general font
     }
     if (font().pointSizeF() > 0) {
         fixed.setPointSizeF(font().pointSizeF());

@@ -51,7 +51,7 @@ void LStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
     case PE_PanelLineEdit: {
         const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
         if (frame == nullptr || frame->lineWidth <= 0) {
-            break; // within a combo box or a spin box, which have one
+            break; // inside a combo box or a spin box, which draws its own
         }
         QStyleOption field(*option);
         // Line edits are always sunken, and a click changes nothing.

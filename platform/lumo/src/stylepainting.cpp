@@ -61,7 +61,7 @@ QPen edgePen(const QStyleOption &option)
     return QPen(edge, 1);
 }
 
-/// The ground and the edge of something that is ticked or not.
+/// Sets brush and pen for a check box or radio button.
 void setMark(QPainter &painter, const QStyleOption &option, bool checked, qreal edgeWidth)
 {
     QPen edge = edgePen(option);
@@ -139,7 +139,7 @@ void StylePainting::tab(QPainter &painter, const QStyleOption &option)
 void StylePainting::focusRing(QPainter &painter, const QStyleOption &option)
 {
     const PainterState state(painter);
-    // On an accent-coloured ground a ring in that colour would be invisible, and so might any other colour at
+    // On an accent-coloured plate a ring in that colour would be invisible, and so might any other colour at
     // the edge, depending on the surroundings.
     const bool onAccent = option.palette.color(QPalette::Button) == option.palette.color(QPalette::Highlight);
     const auto role = onAccent ? QPalette::HighlightedText : QPalette::Highlight;

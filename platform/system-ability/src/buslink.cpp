@@ -165,7 +165,7 @@ void BusLink::take(const std::shared_ptr<PendingRequest> &request, const QDBusPe
     const auto unclear = std::find_if(m_unclear.begin(), m_unclear.end(),
                                       [&request](const Unclear &other) { return other.request == request; });
     if (unclear == m_unclear.end()) {
-        return; // two requests have asked, and the other one was answered first
+        return; // two requests asked, and the other one was answered first
     }
     if (reply.isError()) {
         // An application of an older version never knows; one that crashed or hangs may know later.
@@ -185,7 +185,7 @@ void BusLink::call(const std::shared_ptr<PendingRequest> &request)
 {
     const int remaining = request->remainingMsecs();
     if (remaining == 0) {
-        return; // its caller has gone; what nobody waits for is not started
+        return; // its caller has gone; don't start what nobody waits for
     }
     const QDBusError error = connectToBus(*request);
     if (request->remainingMsecs() == 0) {

@@ -39,11 +39,11 @@ public:
     void askLater(const std::shared_ptr<PendingRequest> &request);
 
 private:
-    /// A request of which it is not known yet whether it was performed.
+    /// A request that may or may not have been performed.
     struct Unclear
     {
         std::shared_ptr<PendingRequest> request;
-        int errors = 0; ///< so often nobody could tell
+        int errors = 0; ///< how often the application could not tell
     };
 
     BusLink();

@@ -23,7 +23,7 @@ public:
         QString answer;
         QString errorName; ///< D-Bus's name for what went wrong
         QString errorMessage;
-        bool isRefusal = false; ///< the application itself has said that nothing was done
+        bool isRefusal = false; ///< the application itself reported that nothing was done
     };
 
     /// Starts the time-out.
@@ -31,7 +31,7 @@ public:
 
     const QString action;
     const QString parameters;
-    const QString id; ///< by which the application knows the request, too
+    const QString id; ///< the application knows the request by it, too
 
     /// Any thread.
     void finish(const Result &result);

@@ -7,7 +7,7 @@
 /// action is unknown, except that the first three rule out that it was performed.
 namespace AbilityCode {
 constexpr int Success = 0;
-constexpr int NoBus = -2001;           ///< there is no session bus to be reached
+constexpr int NoBus = -2001;           ///< no session bus can be reached
 constexpr int NoService = -2002;       ///< nobody has the application's name, and it could not be started
 constexpr int Refused = -2003;         ///< the application or the bus answered with an error
 constexpr int Died = -2004;            ///< the application, or the bus, went away during the call

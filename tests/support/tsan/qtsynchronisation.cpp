@@ -41,7 +41,7 @@ bool isDelivered(void **data)
 }
 
 // Called before each event, in every thread.
-const bool listens = QInternal::registerCallback(QInternal::EventNotifyCallback, isDelivered);
+const bool Listens = QInternal::registerCallback(QInternal::EventNotifyCallback, isDelivered);
 
 } // namespace
 

@@ -10,8 +10,12 @@
 
 namespace understanding {
 
+namespace {
+
 /// What may stand where nothing else is said.
-static constexpr WordClasses Harmless = WordClass::GiveUp | WordClass::Filler | WordClass::Address;
+constexpr WordClasses Harmless = WordClass::GiveUp | WordClass::Filler | WordClass::Address;
+
+} // namespace
 
 bool isGiveUp(const Reading &reading)
 {

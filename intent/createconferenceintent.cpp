@@ -17,6 +17,9 @@
 
 namespace {
 
+using MemberPhrases::choicePrompt;
+using MemberPhrases::foundNames;
+using MemberPhrases::missingNames;
 using Detail = ContactCreatedConferenceDetail;
 using Say = ReplyRow<Detail>;
 
@@ -54,21 +57,6 @@ bool isBookedWithoutSeveral(const Detail &detail)
 QString verb(const Detail & /*detail*/, const CloudIntent &intent)
 {
     return SlotReader::firstText(intent, SlotName::Open, QStringLiteral("发起"));
-}
-
-QString foundNames(const Detail &detail, const CloudIntent & /*intent*/)
-{
-    return MemberPhrases::joinedNames(detail.inviteDetail.normalUsers);
-}
-
-QString missingNames(const Detail &detail, const CloudIntent & /*intent*/)
-{
-    return ContactUtils::vectorToString(detail.inviteDetail.notExistUsers);
-}
-
-QString choicePrompt(const Detail &detail, const CloudIntent & /*intent*/)
-{
-    return MemberPhrases::choicePrompt(detail.inviteDetail.notExistUsers);
 }
 
 // The first row of a code whose condition holds wins, so the narrow ones come first.

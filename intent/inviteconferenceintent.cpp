@@ -13,27 +13,15 @@
 
 namespace {
 
+using MemberPhrases::choicePrompt;
+using MemberPhrases::foundNames;
+using MemberPhrases::missingNames;
 using Detail = ContactInviteMemberDetail;
 using Say = ReplyRow<Detail>;
 
 bool someStillFit(const Detail &detail)
 {
     return detail.canInviteNum > 0;
-}
-
-QString choicePrompt(const Detail &detail, const CloudIntent & /*intent*/)
-{
-    return MemberPhrases::choicePrompt(detail.notExistUsers);
-}
-
-QString foundNames(const Detail &detail, const CloudIntent & /*intent*/)
-{
-    return MemberPhrases::joinedNames(detail.normalUsers);
-}
-
-QString missingNames(const Detail &detail, const CloudIntent & /*intent*/)
-{
-    return ContactUtils::vectorToString(detail.notExistUsers);
 }
 
 QString remainingCount(const Detail &detail, const CloudIntent & /*intent*/)

@@ -3,8 +3,6 @@
 
 #include "memberphrases.h"
 
-#include "contactutils.h"
-
 QString MemberPhrases::joinedNames(const QVector<UserInfo> &users)
 {
     QVector<QString> names;

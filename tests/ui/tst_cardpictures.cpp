@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "cardbuilds.h"
 #include "cardsamples.h"
 #include "conferencemsgstaticwidget.h"
 #include "desktoptheme.h"
@@ -36,8 +37,6 @@ namespace {
 constexpr int HostWidth = 372;
 constexpr int NarrowWidth = 240;
 constexpr int WideWidth = 700;
-
-using Build = void (*)(ConferenceMsgStaticWidget &);
 
 ContactDetailMsg longWinded()
 {
@@ -77,12 +76,7 @@ void buildLongList(ConferenceMsgStaticWidget &card)
     list[1] = longWinded();
     card.multipleInit(list);
 }
-void buildEditable(ConferenceMsgStaticWidget &card)
-{
-    QVector<ContactDetailMsg> list = {conference()};
-    card.createInviteConference(list);
-}
-void buildEdited(ConferenceMsgStaticWidget &card)
+void buildEditedLong(ConferenceMsgStaticWidget &card)
 {
     QVector<ContactDetailMsg> list = {longWinded()};
     list.first().isPayingUser = true;
@@ -93,7 +87,7 @@ void buildEdited(ConferenceMsgStaticWidget &card)
 }
 void buildModified(ConferenceMsgStaticWidget &card)
 {
-    buildEdited(card);
+    buildEditedLong(card);
     QTest::keyClick(button(card, QStringLiteral("修 改")), Qt::Key_Return);
 }
 void buildCandidates(ConferenceMsgStaticWidget &card)
@@ -103,7 +97,7 @@ void buildCandidates(ConferenceMsgStaticWidget &card)
     QTest::mouseClick(rows.at(1), Qt::LeftButton);
     QTest::mouseClick(rows.at(3), Qt::LeftButton);
 }
-void buildLimit(ConferenceMsgStaticWidget &card)
+void buildLimitLong(ConferenceMsgStaticWidget &card)
 {
     ContactInviteMemberDetail detail = inviteDetail();
     detail.canInviteNum = 1;
@@ -132,11 +126,11 @@ constexpr State States[] = {
     {"list-long-narrow", buildLongList, NarrowWidth},
     {"editable", buildEditable},
     {"editable-wide", buildEditable, WideWidth},
-    {"edited", buildEdited},
+    {"edited", buildEditedLong},
     {"edited-modified", buildModified},
     {"candidates", buildCandidates},
     {"candidates-wide", buildCandidates, WideWidth},
-    {"limit", buildLimit},
+    {"limit", buildLimitLong},
 };
 
 /// Shows a card the way hosts do: at the top, as wide as the view.

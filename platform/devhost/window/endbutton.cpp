@@ -10,8 +10,6 @@ namespace devhost {
 namespace {
 
 constexpr int Diameter = 40;
-constexpr int HoverFactor = 106;
-constexpr int PressedFactor = 114;
 
 } // namespace
 

@@ -14,7 +14,6 @@ constexpr int Dots = 3;
 constexpr qreal DotRadius = 1.6;
 constexpr qreal DotDistance = 6;
 constexpr qreal PlateRadius = 8;
-constexpr int PressedFactor = 114;
 
 } // namespace
 

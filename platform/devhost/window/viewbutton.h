@@ -18,6 +18,11 @@ public:
 
     QSize sizeHint() const override { return {m_extent, m_extent}; }
 
+protected:
+    // Arguments of QColor::darker(), the same as in the toolkit's style.
+    static constexpr int HoverFactor = 106;
+    static constexpr int PressedFactor = 114;
+
 private:
     int m_extent;
 };

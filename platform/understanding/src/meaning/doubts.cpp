@@ -17,11 +17,6 @@ namespace understanding {
 
 namespace {
 
-QString textOf(const Reading &reading, const Token &token)
-{
-    return reading.sentence().text().mid(token.position, token.length);
-}
-
 /// 明天开会谁主持, 是谁约的会, 你建还是我建: asks who does it, wherever that stands.
 bool asksWho(const Reading &reading)
 {

@@ -112,4 +112,9 @@ private:
     bool m_endsOnly = false;
 };
 
+inline QString textOf(const Reading &reading, const Token &token)
+{
+    return reading.sentence().text().mid(token.position, token.length);
+}
+
 } // namespace understanding

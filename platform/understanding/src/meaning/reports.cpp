@@ -9,15 +9,6 @@
 
 namespace understanding {
 
-namespace {
-
-QString textOf(const Reading &reading, const Token &token)
-{
-    return reading.sentence().text().mid(token.position, token.length);
-}
-
-} // namespace
-
 bool tellsBeginning(const Reading &reading)
 {
     const QString begins = QStringLiteral("开始");

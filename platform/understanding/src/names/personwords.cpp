@@ -41,6 +41,14 @@ private:
         return isKin(charAt(m_text, position)) ? 1 : 0;
     }
 
+    /// Joins what describes somebody up to @p end, from where on the token @p name holds only the name.
+    void joinModifier(int end, std::size_t name)
+    {
+        join(end, WordClass::Address, name).inModifier = true;
+        m_tokens[name].length = m_tokens[name].end() - end;
+        m_tokens[name].position = end;
+    }
+
     /// 我弟 in 跟我弟陈麒, 我家老二 in 叫上我家老二丁一
     bool joinRelative()
     {
@@ -60,10 +68,8 @@ private:
         if (length == 0 || last == m_tokens.size() || !nameBegins(m_text, m_tokens, last, end)) {
             return false;
         }
-        join(end, WordClass::Address, last).inModifier = true;
+        joinModifier(end, last);
         m_relativeEnd = m_tokens[last].end();
-        m_tokens[last].length = m_tokens[last].end() - end;
-        m_tokens[last].position = end;
         return true;
     }
 
@@ -179,9 +185,7 @@ private:
             if (!word || (person && !introduced)) {
                 return false;
             }
-            join(position, WordClass::Address, name).inModifier = true;
-            m_tokens[name].length = m_tokens[name].end() - position;
-            m_tokens[name].position = position;
+            joinModifier(position, name);
             return true;
         }
         return false;
@@ -209,9 +213,7 @@ private:
         if ((modifier == 0 && name == of) || name == m_tokens.size()) {
             return false;
         }
-        join(position, WordClass::Address, name).inModifier = true;
-        m_tokens[name].length = m_tokens[name].end() - position;
-        m_tokens[name].position = position;
+        joinModifier(position, name);
         return true;
     }
 

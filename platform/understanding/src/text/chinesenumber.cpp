@@ -3,6 +3,8 @@
 
 #include "text/chinesenumber.h"
 
+#include "text/scan.h"
+
 namespace understanding {
 
 namespace {
@@ -16,11 +18,6 @@ constexpr QChar One(0x5e7a);       // 幺
 constexpr QChar Pieces(0x4e2a);    // 个
 constexpr QChar Comma(0xff0c);     // ，
 constexpr int LongestQuantity = 8; // characters; 九百九十九 takes five
-
-bool isAsciiDigit(QChar character)
-{
-    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
-}
 
 NumberMatch readAsciiQuantity(const QString &text, int position)
 {

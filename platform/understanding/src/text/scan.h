@@ -46,6 +46,11 @@ inline bool isLatinLetterOrDigit(QChar character)
     return character.unicode() < latinEnd && character.isLetterOrNumber();
 }
 
+inline bool isAsciiDigit(QChar character)
+{
+    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
+}
+
 inline int skipSpaces(const QString &text, int position)
 {
     while (charAt(text, position) == QLatin1Char(' ')) {

@@ -14,11 +14,6 @@ constexpr int LastHour = 24;
 constexpr int LastMinute = 59;
 constexpr int QuarterMinutes = 15;
 
-bool isAsciiDigit(QChar character)
-{
-    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
-}
-
 /// Reads 一刻, 三刻; returns the length.
 int readQuarters(const QString &text, int position, int &minutes)
 {

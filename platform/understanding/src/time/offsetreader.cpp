@@ -10,7 +10,6 @@ namespace understanding {
 
 namespace {
 
-constexpr int SecondsPerMinute = 60;
 constexpr int SecondsPerHour = 60 * SecondsPerMinute;
 
 struct Unit

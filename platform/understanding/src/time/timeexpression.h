@@ -7,6 +7,8 @@
 
 namespace understanding {
 
+constexpr int SecondsPerMinute = 60;
+
 /// What a sentence says about a time, part by part, before it is resolved against a clock.
 struct TimeExpression
 {

@@ -9,7 +9,6 @@ namespace understanding {
 
 namespace {
 
-constexpr int SecondsPerMinute = 60;
 constexpr int MinutesPerHour = 60;
 constexpr int MinutesPerHalfDay = 12 * MinutesPerHour;
 constexpr int MinutesPerDay = 24 * MinutesPerHour;

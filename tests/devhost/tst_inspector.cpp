@@ -73,7 +73,8 @@ void TestInspector::inspectorIndentsHighlightsFiltersAndFinds()
     filter->clear();
     QCOMPARE(log->toPlainText(), whole);
 
-    QLineEdit *search = desk.window.inspector()->searchField();
+    auto *search = desk.window.findChild<QLineEdit *>(QStringLiteral("inspectorSearch"));
+    QVERIFY(search != nullptr);
     search->setFocus();
     QTest::keyClicks(search, QStringLiteral("intent"));
     QCOMPARE(json->textCursor().selectedText(), QStringLiteral("intent"));

@@ -29,8 +29,6 @@ public:
     ConferencePage(ConferenceModel *model, ContactsBook &book, Administration &administration,
                    QWidget *parent = nullptr);
 
-    ConferenceCommands *commands() const { return m_commands; }
-
 Q_SIGNALS:
     /// Something to tell the user.
     void told(const QString &text);

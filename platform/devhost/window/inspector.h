@@ -29,9 +29,6 @@ public:
     /// The turn shown, 0 for none.
     int shownTurn() const { return m_turn; }
 
-    /// The search field for the current page.
-    QLineEdit *searchField() const { return m_search; }
-
 Q_SIGNALS:
     void semanticEntered(const QString &semantic);
 

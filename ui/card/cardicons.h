@@ -4,7 +4,6 @@
 #pragma once
 
 #include <QPixmap>
-#include <QString>
 
 QT_BEGIN_NAMESPACE
 class QWidget;

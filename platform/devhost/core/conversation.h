@@ -11,7 +11,6 @@
 #include <QDateTime>
 #include <QHash>
 #include <QObject>
-#include <QPointer>
 #include <QQueue>
 #include <QStringList>
 #include <QWidget>

@@ -10,8 +10,6 @@
 #include "words/contactindex.h"
 #include "words/token.h"
 
-#include <QDateTime>
-
 namespace understanding {
 
 /// A piece of a sentence that a slot may hold.

@@ -5,7 +5,7 @@
 
 #include "words/token.h"
 
-#include <QStringList>
+#include <QString>
 
 namespace understanding {
 

@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include <QDate>
-
 namespace understanding {
 
 constexpr int SecondsPerMinute = 60;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "askedactions.h"
+#include "databasefile.h"
 #include "sampleworld.h"
 
 #include <QJsonDocument>
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void aRequestThatIsTooLateChangesNothing();
     void aRequestThatTakesTooLongIsUndone();
     void itIsKnownWhatWasPerformed();
+    void tenThousandNamesAreHandedOut();
 };
 
 void TestActionLimits::tooManyMembersAreLeftOutOfANewConference()
@@ -156,6 +158,28 @@ void TestActionLimits::itIsKnownWhatWasPerformed()
     }
     QVERIFY(!world.book.wasPerformed(QStringLiteral("first")));
     QVERIFY(world.book.wasPerformed(QStringLiteral("999")));
+}
+
+void TestActionLimits::tenThousandNamesAreHandedOut()
+{
+    constexpr int limit = 10000;
+    SampleWorld world;
+    const int known = world.book.contactNames().size();
+    addPeople(world.book, limit);
+    const auto befriend = [&world](int first, int last) {
+        return world.book.change([&] {
+            for (int person = first; person < last; ++person) {
+                world.book.people().setContact(QStringLiteral("u100001"),
+                                               QStringLiteral("p%1").arg(person, 6, 10, QLatin1Char('0')), {},
+                                               false);
+            }
+            return true;
+        });
+    };
+    QVERIFY(befriend(0, limit - known));
+    QCOMPARE(world.book.contactNames().size(), limit);
+    QVERIFY(befriend(limit - known, limit));
+    QCOMPARE(world.book.contactNames().size(), limit);
 }
 
 QTEST_GUILESS_MAIN(TestActionLimits)

@@ -34,6 +34,7 @@ class TestNameReader : public QObject
 private Q_SLOTS:
     void refusalLeavesTheNamesThatWereKnown();
     void busThatComesLaterIsFound();
+    void onlySoManyNamesAreTakenAndNoneThatIsTooLong();
 };
 
 /// A busy application that missed one deadline used to leave the launchers without any names.
@@ -77,6 +78,29 @@ void TestNameReader::busThatComesLaterIsFound()
     QVERIFY(isTold);
     QCOMPARE(told.first(), QStringList());
     QTRY_COMPARE(told.last(), names);
+}
+
+/// Another program may have taken the application's name.
+void TestNameReader::onlySoManyNamesAreTakenAndNoneThatIsTooLong()
+{
+    constexpr int most = 10000;
+    constexpr int longest = 400;
+    const QString longName(longest, QChar(u'长'));
+    QStringList names{longName, longName + QChar(u'长'), QString()};
+    for (int name = 0; name < most; ++name) {
+        names.append(QStringLiteral("第%1位").arg(name));
+    }
+    FakeContacts contacts(names.mid(0, most + 2)); // all that can be used
+    auto *reader = new NameReader;
+    const Told told(*reader);
+    BusThread thread(reader);
+    thread.start();
+    QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(told.last(), QStringList(longName) + names.mid(3, most - 1));
+
+    contacts.change(names);
+    QTRY_COMPARE(told.size(), 2);
+    QCOMPARE(told.last(), QStringList(longName) + names.mid(3, most - 1));
 }
 
 QTEST_GUILESS_MAIN(TestNameReader)

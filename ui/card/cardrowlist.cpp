@@ -9,6 +9,25 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace {
+
+/// Does for the widgets in @p layout, inner ones first, what Qt would do when it shows them and in the first
+/// round of the event loop: each time, everything around them would be laid out again.
+void settle(const QLayout &layout)
+{
+    for (int index = 0; index < layout.count(); ++index) {
+        QWidget *widget = layout.itemAt(index)->widget();
+        if (qobject_cast<QPushButton *>(widget) != nullptr) {
+            QCoreApplication::sendPostedEvents(widget, QEvent::PolishRequest);
+        } else if (widget != nullptr && widget->layout() != nullptr) {
+            settle(*widget->layout());
+            widget->layout()->activate();
+        }
+    }
+}
+
+} // namespace
+
 CardRowList::CardRowList(QWidget *card) : m_card(card), m_layout(new QVBoxLayout(card))
 {
     CardMeasures::apply(*m_layout);
@@ -56,10 +75,26 @@ void CardRowList::remove(QWidget *row, Qt::FocusReason focusReason)
 
 void CardRowList::adjustSize()
 {
-    m_card->adjustSize();
+    if (m_card->isVisible()) {
+        m_card->adjustSize();
+    } else {
+        measure();
+    }
     // If the host has a layout, that layout has the last word.
     m_card->updateGeometry();
     m_card->update();
+}
+
+void CardRowList::measure()
+{
+    // Fonts and margins are final only now.
+    m_card->ensurePolished();
+    settle(*m_layout);
+    m_layout->setEnabled(false);
+    m_card->adjustSize();
+    m_layout->setEnabled(true);
+    // Large parts of a small screen are not enough for every card.
+    m_card->resize(m_card->size().expandedTo(m_layout->totalMinimumSize()));
 }
 
 void CardRowList::takeOff(QWidget *row, Qt::FocusReason focusReason)

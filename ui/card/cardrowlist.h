@@ -36,6 +36,9 @@ public:
     void adjustSize();
 
 private:
+    /// Gives a card that is not shown yet its size, without placing its rows: that is done once, in the size
+    /// in which the host shows it.
+    void measure();
     void takeOff(QWidget *row, Qt::FocusReason focusReason);
 
     QWidget *m_card;

@@ -28,6 +28,9 @@ add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverl
                     -Wcast-align -Wconversion -Wold-style-cast -Wformat=2 -Wundef)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
     add_compile_options(-Wduplicated-cond -Wduplicated-branches -Wlogical-op -Wsuggest-override)
+elseif(CMAKE_CXX_COMPILER_ID MATCHES Clang)
+    # Qt's qCDebug(category) and its like pass no variadic argument.
+    add_compile_options(-Wno-gnu-zero-variadic-macro-arguments)
 endif()
 if(CONTACT_WERROR)
     add_compile_options(-Werror)

@@ -171,7 +171,7 @@ QString digitsSaidBehind(const QString &sentence, const QString &label)
     const int at = sentence.lastIndexOf(label);
     static const QRegularExpression links(QStringLiteral("^[，,：:是为 ]+"));
     const QString behind = at < 0 ? QString() : sentence.mid(at + label.size()).remove(links);
-    return behind.isEmpty() || digitOf(behind.at(0)) < 0 ? QString() : digitsSaid(behind).first();
+    return behind.isEmpty() || digitOf(behind.at(0)) < 0 ? QString() : digitsSaid(behind).value(0);
 }
 
 QString timeNotSaid(const QString &sentence, const QString &normValue, const QDateTime &now)

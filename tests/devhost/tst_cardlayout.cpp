@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Contact Plugin Authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "card/cardrowlist.h"
 #include "cardbuilds.h"
 #include "cardsamples.h"
 #include "conferencemsgstaticwidget.h"
@@ -9,10 +10,15 @@
 #include "testcolumns.h"
 
 #include <QBoxLayout>
+#include <QLineEdit>
 #include <QSpacerItem>
 #include <QtTest>
 
 using namespace CardSamples;
+
+/// What a host does with a card.
+using Use = void (*)(QWidget &card);
+Q_DECLARE_METATYPE(Use)
 
 namespace {
 
@@ -45,6 +51,10 @@ private Q_SLOTS:
     void aCardIsLaidOutOnce();
     void aCardHasItsSizeFromItsBuilder_data() { aCardIsLaidOutOnce_data(); }
     void aCardHasItsSizeFromItsBuilder();
+    void aCardHasItsMinimumSizeFromItsBuilder_data() { aCardIsLaidOutOnce_data(); }
+    void aCardHasItsMinimumSizeFromItsBuilder();
+    void aHiddenCardShrinksWithItsRows_data();
+    void aHiddenCardShrinksWithItsRows();
 };
 
 void TestCardLayout::aCardIsLaidOutOnce_data()
@@ -96,6 +106,50 @@ void TestCardLayout::aCardHasItsSizeFromItsBuilder()
     QVERIFY(size != before);
     card.adjustSize();
     QCOMPARE(card.size(), size);
+}
+
+/// Qt sets it when it lays the card out, and other hosts rely on it before they show the card.
+void TestCardLayout::aCardHasItsMinimumSizeFromItsBuilder()
+{
+    QFETCH(Build, build);
+    ConferenceMsgStaticWidget card;
+    build(card);
+    const QSize smallest = card.layout()->totalMinimumSize();
+    QVERIFY(!smallest.isEmpty());
+    QCOMPARE(card.minimumSize(), smallest);
+    card.resize(smallest.width(), 1);
+    QCOMPARE(card.height(), smallest.height());
+}
+
+void TestCardLayout::aHiddenCardShrinksWithItsRows_data()
+{
+    addColumns<Use>({"use"});
+    QTest::newRow("never shown") << Use([](QWidget &) {});
+    QTest::newRow("grabbed") << Use([](QWidget &card) { card.grab(); });
+    QTest::newRow("shown and hidden") << Use([](QWidget &card) {
+        card.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&card));
+        card.hide();
+    });
+}
+
+/// A button may take its row off a card that its host has just hidden.
+void TestCardLayout::aHiddenCardShrinksWithItsRows()
+{
+    QFETCH(Use, use);
+    QWidget card;
+    CardRowList rows(&card);
+    rows.add(rows.listed(new QLineEdit));
+    rows.adjustSize();
+    const QSize oneRow = card.size();
+    auto *second = new QLineEdit;
+    rows.add(rows.listed(second));
+    rows.adjustSize();
+    QVERIFY(card.height() > oneRow.height());
+    use(card);
+    rows.remove(second, Qt::OtherFocusReason);
+    rows.adjustSize();
+    QCOMPARE(card.size(), oneRow);
 }
 
 QTEST_MAIN(TestCardLayout)

@@ -9,6 +9,25 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+/// A layout that can leave the rows where they are while it measures them.
+class CardRowLayout : public QVBoxLayout
+{
+public:
+    using QVBoxLayout::QVBoxLayout;
+
+    void setPlacesRows(bool placesRows) { m_placesRows = placesRows; }
+
+    void setGeometry(const QRect &place) override
+    {
+        if (m_placesRows) {
+            QVBoxLayout::setGeometry(place);
+        }
+    }
+
+private:
+    bool m_placesRows = true;
+};
+
 namespace {
 
 /// Does for the widgets in @p layout, inner ones first, what Qt would do when it shows them and in the first
@@ -28,7 +47,7 @@ void settle(const QLayout &layout)
 
 } // namespace
 
-CardRowList::CardRowList(QWidget *card) : m_card(card), m_layout(new QVBoxLayout(card))
+CardRowList::CardRowList(QWidget *card) : m_card(card), m_layout(new CardRowLayout(card))
 {
     CardMeasures::apply(*m_layout);
 }
@@ -90,11 +109,13 @@ void CardRowList::measure()
     // Fonts and margins are final only now.
     m_card->ensurePolished();
     settle(*m_layout);
-    m_layout->setEnabled(false);
+    m_layout->setPlacesRows(false);
+    // Activates the layout, which also gives a card in its own window its minimum size: Qt caps the window at
+    // two thirds of the screen here, but not below that.
     m_card->adjustSize();
-    m_layout->setEnabled(true);
-    // Large parts of a small screen are not enough for every card.
-    m_card->resize(m_card->size().expandedTo(m_layout->totalMinimumSize()));
+    m_layout->setPlacesRows(true);
+    // The rows still wait for their places.
+    m_layout->update();
 }
 
 void CardRowList::takeOff(QWidget *row, Qt::FocusReason focusReason)

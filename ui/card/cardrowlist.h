@@ -6,9 +6,10 @@
 #include <QVector>
 
 QT_BEGIN_NAMESPACE
-class QVBoxLayout;
 class QWidget;
 QT_END_NAMESPACE
+
+class CardRowLayout;
 
 /// The rows of a card, from top to bottom: its layout, and the rows to remove when the card is rebuilt.
 class CardRowList
@@ -36,12 +37,12 @@ public:
     void adjustSize();
 
 private:
-    /// Gives a card that is not shown yet its size, without placing its rows: that is done once, in the size
-    /// in which the host shows it.
+    /// Gives a card that nobody sees its size without placing its rows, only what is inside them: the rows
+    /// are placed once, in the size in which the host shows the card.
     void measure();
     void takeOff(QWidget *row, Qt::FocusReason focusReason);
 
     QWidget *m_card;
-    QVBoxLayout *m_layout;
+    CardRowLayout *m_layout;
     QVector<QWidget *> m_rows;
 };

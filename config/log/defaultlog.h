@@ -10,5 +10,11 @@
 /// record together before anybody asks whether its level is on; qCDebug(defaultLog) and its like ask first.
 inline const QLoggingCategory &defaultLog()
 {
-    return *QLoggingCategory::defaultCategory();
+    if (const QLoggingCategory *category = QLoggingCategory::defaultCategory()) {
+        return *category;
+    }
+    // While a program exits, Qt destroys its category before the last thread has logged. This one is never
+    // destroyed, and writes everything, as qDebug() does then.
+    static const QLoggingCategory &last = *new QLoggingCategory("default");
+    return last;
 }

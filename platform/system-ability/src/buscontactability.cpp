@@ -12,6 +12,17 @@
 #include <QDebug>
 #include <QLoggingCategory>
 
+namespace {
+
+bool isWarningLogged()
+{
+    const QLoggingCategory *category = QLoggingCategory::defaultCategory();
+    // Qt destroys it while the program exits; qWarning() then writes everything.
+    return category == nullptr || category->isWarningEnabled();
+}
+
+} // namespace
+
 void BusContactAbility::setTimeout(const int &msecs)
 {
     m_timeoutMsecs = msecs > 0 ? msecs : DefaultTimeoutMsecs;
@@ -28,7 +39,7 @@ int BusContactAbility::request(const QString &action, const QString &parameters,
     }
     if (result.code == AbilityCode::Success) {
         answer = result.answer;
-    } else if (QLoggingCategory::defaultCategory()->isWarningEnabled()) {
+    } else if (isWarningLogged()) {
         qWarning().noquote() << "The request" << action << "failed with" << result.code << result.errorName
                              << result.errorMessage;
     }

@@ -24,7 +24,7 @@ while [ $# -gt 0 ]; do
         "$ABIDW" $options --no-corpus-path --no-comp-dir-path --no-show-locs "$library" | xz -9 >"$folder/$name.abi.xz"
         continue
     fi
-    # What is new breaks nobody. Which of Qt's templates become functions of their own differs with the optimiser's choices.
+    # Added symbols break nobody. Which of Qt's templates become functions of their own differs with the optimiser's choices.
     xz -dc "$folder/$name.abi.xz" >"$scratch/$name.abi"
     "$ABIDIFF" $options --no-added-syms --suppressions "$folder/public-classes.suppr" --harmless "$scratch/$name.abi" "$library" || {
         echo "The public classes of $name differ from platform/abi/$name.abi.xz, and programs that were built against them rely" >&2

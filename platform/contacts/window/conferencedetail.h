@@ -17,8 +17,8 @@ QT_END_NAMESPACE
 
 class PasscodeField;
 
-/// One conference with everybody who has or had a seat in it; its host can change it here, and everybody
-/// export it. Follows who is in it.
+/// One conference with everybody who has or had a seat in it; its host can change it here, and anybody
+/// can export it. Follows who is in it.
 class ConferenceDetail : public FormDialog
 {
     Q_OBJECT

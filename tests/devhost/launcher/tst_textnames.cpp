@@ -63,7 +63,7 @@ private Q_SLOTS:
 
 void TestTextNames::theApplicationsNamesAreKnownAndFollowed()
 {
-    // Nobody would take these for names who does not know them.
+    // Only those who know these names can take them for names.
     const QString first = QStringLiteral("张伟🐰");
     const QString second = QStringLiteral("李娜🐰");
     const QString invite = QStringLiteral("邀请%1");

@@ -30,6 +30,8 @@ public:
     }
 
     static QString user() { return QStringLiteral("u100001"); }
+    /// A person of the sample who is in no conference and is not invited to one.
+    static QString uninvolved() { return QStringLiteral("u100005"); }
     /// The name of an added contact, counted from 1.
     static QString contactName(qint64 number) { return QStringLiteral("person %1").arg(number); }
 

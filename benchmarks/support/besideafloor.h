@@ -16,25 +16,41 @@ inline double wallMsecs()
     return Milliseconds(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
-/// Runs @p task and @p floor, the least that does such a thing at all, by turns, so that other load on the
-/// machine affects both. Reports both in microseconds of @p clock, and the ratio; stops when @p task returns
-/// false. For benchmarks with UseManualTime().
+/// Calls @p action up to @p runs times; returns false as soon as it does.
+template <typename Action>
+bool repeat(Action action, int runs)
+{
+    for (int i = 0; i < runs; ++i) {
+        if (!action()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Alternates between @p task and @p floor, the least work that anything of the kind has to do, so that other
+/// load on the machine affects both. Reports both in microseconds of @p clock, and the ratio; fails as soon
+/// as one of them returns false. Each is called @p runs times between two looks at the clock, because a look
+/// at the thread's clock is a system call, which counts beside a short task. For benchmarks with
+/// UseManualTime().
 template <typename Task, typename Floor>
-void measureBesideAFloor(benchmark::State &state, Task task, Floor floor, double (*clock)() = threadMsecs)
+void measureBesideAFloor(benchmark::State &state, Task task, Floor floor, double (*clock)() = threadMsecs,
+                         int runs = 1)
 {
     double tasks = 0;
     double floors = 0;
-    for ([[maybe_unused]] auto iteration : state) {
+    while (state.KeepRunningBatch(runs)) {
         const double begin = clock();
-        const bool isDone = task();
+        const bool isDone = repeat(task, runs);
         const double middle = clock();
-        if (!isDone) {
-            state.SkipWithError("not done as expected");
+        const bool isFloorDone = repeat(floor, runs);
+        const double end = clock();
+        if (!isDone || !isFloorDone) {
+            state.SkipWithError(isDone ? "the floor is not done as expected" : "not done as expected");
             return;
         }
-        floor();
-        floors += clock() - middle;
         tasks += middle - begin;
+        floors += end - middle;
         state.SetIterationTime((middle - begin) / 1e3);
     }
     const double count = static_cast<double>(state.iterations());

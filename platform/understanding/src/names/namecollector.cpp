@@ -10,6 +10,16 @@
 
 namespace understanding {
 
+/// @p chunk without what ends a sentence and no name: 王总张伟 in 王总张伟吧.
+static QString withoutModals(QString chunk)
+{
+    static const QString modals = QStringLiteral("吧呢啊呀了的吗嘛呗哈哦噢喔啦咯");
+    while (chunk.size() > 2 && modals.contains(chunk.at(chunk.size() - 1))) {
+        chunk.chop(1);
+    }
+    return chunk;
+}
+
 void NameCollector::addKnown(const Token &token, bool called)
 {
     m_names.push_back(
@@ -54,7 +64,7 @@ void NameCollector::doubtLast()
 void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool called)
 {
     const QString chunk = m_text.mid(start, end - start);
-    PeopleRow row = readPeopleRow(chunk);
+    PeopleRow row = readPeopleRow(withoutModals(chunk));
     row = row.isWhole ? row : readPeopleRow(withoutParticles(chunk)); // 王总老王都
     if (row.isWhole) {
         addRow(start + chunk.indexOf(row.names.first()), row.names, called);

@@ -293,7 +293,6 @@ constexpr struct
     {CloseConference, opensOfKind},
     {QueryConference, opensOfKind},
     {InviteConference, comesLater},
-    {CloseConference, endsLater},
     {CreateConference, holdsLooseNumber},
     {InviteConference, holdsLooseNumber},
     {AddBuddy, holdsMoreThanAccount},
@@ -304,9 +303,10 @@ constexpr struct
 
 bool isAboutSomethingElse(const Reading &reading, const QString &intent)
 {
-    return std::any_of(std::begin(Doubts), std::end(Doubts), [&](const auto &doubt) {
-        return intent == QLatin1String(doubt.intent) && doubt.isDoubtful(reading);
-    });
+    return isForLater(reading, intent) ||
+           std::any_of(std::begin(Doubts), std::end(Doubts), [&](const auto &doubt) {
+               return intent == QLatin1String(doubt.intent) && doubt.isDoubtful(reading);
+           });
 }
 
 } // namespace understanding

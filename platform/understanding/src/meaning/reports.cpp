@@ -3,6 +3,8 @@
 
 #include "meaning/reports.h"
 
+#include "meaning/allowedwords.h"
+#include "meaning/outcome.h"
 #include "text/scan.h"
 
 #include <algorithm>
@@ -126,28 +128,40 @@ bool tellsAgreement(const Reading &reading)
     });
 }
 
-bool endsLater(const Reading &reading)
+/// True for a time that is not now: 明天, 十分钟后, 三点; not for 今天 and 昨天.
+static bool isAhead(const TimeExpression &time)
 {
-    const Tokens &tokens = reading.tokens();
-    bool timed = false; // 周三下午两点和王总下会
-    for (std::size_t at = 0; at < tokens.size(); ++at) {
-        timed = !tokens[at].is(WordClass::Punctuation) &&
-                (timed || (tokens[at].kind == Token::Kind::Time && tokens[at].time.hasClock));
-        if (!tokens[at].is(WordClass::CloseAlone) || tokens[at].inTopic) {
+    const bool otherDay = time.day != TimeExpression::Day::None && !time.isPastDay() &&
+                          (time.day != TimeExpression::Day::Relative || time.dayOffset > 0);
+    return time.hasClock || time.hasOffset || time.part >= 0 || otherDay;
+}
+
+bool isForLater(const Reading &reading, const QString &intent)
+{
+    static const QStringList atOnce = {QLatin1String(CloseConference), QLatin1String(InviteConference),
+                                       QLatin1String(EnterConferenceById), QLatin1String(AddBuddy)};
+    if (!atOnce.contains(intent)) {
+        return false;
+    }
+    const WordClasses deeds = allowedWordsFor(intent).anchors;
+    bool later = false;
+    bool onlyTime = true; // 过一会儿，把会议关了; but not 我三点有事，先退会
+    for (const Token &token : reading.tokens()) {
+        if (token.is(WordClass::Punctuation)) {
+            later = later && onlyTime;
+            onlyTime = true;
             continue;
         }
-        if (timed) {
+        if (token.inTopic || token.inName) {
+            onlyTime = false;
+            continue;
+        }
+        const bool soon = token.is(WordClass::UnclearSoon);
+        if (later && !soon && token.isAny(deeds)) {
             return true;
         }
-        std::size_t before = at;
-        while (before > 0 && tokens[before - 1].is(WordClass::Filler)) {
-            --before;
-        }
-        const bool later = before > 0 && tokens[before - 1].kind == Token::Kind::Time &&
-                           (tokens[before - 1].time.hasClock || tokens[before - 1].time.dayOffset > 0);
-        if (later) {
-            return true;
-        }
+        later = later || soon || (token.kind == Token::Kind::Time && isAhead(token.time));
+        onlyTime = onlyTime && (soon || token.kind == Token::Kind::Time || token.is(WordClass::Filler));
     }
     return false;
 }

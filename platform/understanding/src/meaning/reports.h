@@ -27,7 +27,7 @@ namespace understanding {
 /// 跟张伟约好明天三点开会: it has been agreed already; 约好张伟明天三点开会 orders it.
 [[nodiscard]] bool tellsAgreement(const Reading &reading);
 
-/// 三点散会, 明天散会: not now.
-[[nodiscard]] bool endsLater(const Reading &reading);
+/// 三点散会, 一会儿退会, 明天邀请张伟: what is only done at once, but not now.
+[[nodiscard]] bool isForLater(const Reading &reading, const QString &intent);
 
 } // namespace understanding

@@ -115,6 +115,7 @@ Verdict judge(const Reading &reading, const QString &intent)
     const bool asksFirst = intent == QLatin1String(QueryConference) && asksBeforeCondition(reading);
     doubtful = doubtful || (isConditional(reading) && !asksFirst) || repairsSomething(reading);
     doubtful = doubtful || isAboutSomethingElse(reading, intent);
+    doubtful = doubtful || (intent != QLatin1String(QueryConference) && asksForAgreement(reading));
     // Nothing that was said is dropped silently: 需求评审安排到明天十一点，拉上小唐 is no plain invitation.
     const bool untimely = intent == QLatin1String(InviteConference) || intent == QLatin1String(AddBuddy);
     doubtful = doubtful || (untimely && reading.clockCount() > 0);

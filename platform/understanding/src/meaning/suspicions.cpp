@@ -273,6 +273,36 @@ bool wonders(const Reading &reading)
     });
 }
 
+bool asksForAgreement(const Reading &reading)
+{
+    static const QStringList facts = {QStringLiteral("对吧"), QStringLiteral("是吧"),
+                                      QStringLiteral("没错吧"), QStringLiteral("来得及吧")};
+    static const QStringList consents = {QStringLiteral("好吧"), QStringLiteral("行吧"),
+                                         QStringLiteral("可以吧"), QStringLiteral("没问题吧")};
+    static const QString signs = QStringLiteral("?!.,;~ ");
+    static const QString pleas = QStringLiteral("帮请麻劳烦拜");
+    const QString &text = reading.sentence().text();
+    int end = text.size();
+    while (end > 0 && signs.contains(text.at(end - 1))) {
+        --end;
+    }
+    const auto ends = [&](const QString &tag) {
+        return text.leftRef(end).endsWith(tag);
+    };
+    if (std::any_of(facts.cbegin(), facts.cend(), ends)) {
+        return true;
+    }
+    const auto consent = std::find_if(consents.cbegin(), consents.cend(), ends);
+    if (consent == consents.cend()) {
+        return false;
+    }
+    // 约李娜三点开会，没问题吧 asks whether the assistant can do it.
+    const bool sure = consent->size() > 3 && charAt(text, end - consent->size() - 1) == QLatin1Char(',');
+    return !sure && std::none_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
+        return token.is(WordClass::Request) && !token.inName && pleas.contains(text.at(token.position));
+    });
+}
+
 bool proposesOpening(const Reading &reading)
 {
     if (reading.has(WordClass::GiveUp) ||

@@ -38,6 +38,9 @@ namespace understanding {
 /// 要不要退会, 是不是该开个会了: asks whether to do it.
 [[nodiscard]] bool wonders(const Reading &reading);
 
+/// 三点开会对吧, 邀请张伟，是吧, 散会行吧: asks for agreement with what was said. 请散会，行吧 orders politely.
+[[nodiscard]] bool asksForAgreement(const Reading &reading);
+
 /// 是不是该开个会了, unlike 明天是不是要开会, which asks what there is.
 [[nodiscard]] bool proposesOpening(const Reading &reading);
 

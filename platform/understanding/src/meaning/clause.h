@@ -56,6 +56,8 @@ public:
     bool isUnderstood() const;
 
 private:
+    /// 把王总拉进会了吧, 帮我邀请张伟了吧: supposes that it is done; 把会订了吧, 把李娜叫了吧 order it.
+    bool isSupposedDone() const;
     /// True if a word asks for what is said. 吧 alone only supposes it: 会议结束了吧.
     bool isAskedFor() const;
     template <typename Holds>

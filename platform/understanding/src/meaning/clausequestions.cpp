@@ -182,6 +182,22 @@ bool Clause::isAskedFor() const
     });
 }
 
+bool Clause::isSupposedDone() const
+{
+    constexpr WordClasses verbs =
+        WordClass::WeakOpen | WordClass::Trigger | WordClass::Pull | WordClass::Invite | WordClass::Add;
+    if (m_isQuery || m_intent == QLatin1String(CloseConference)) {
+        return false;
+    }
+    return any([&](std::size_t at) {
+        const int done = firstOf(m_reading.sentence().text(), m_tokens[at].position, {u"了吧"});
+        const Token &before = m_tokens[at > m_begin ? at - 1 : at];
+        const bool ordered = before.length == 1 && !before.inName && before.isAny(verbs);
+        return done > 0 && at > m_begin && !ordered &&
+               m_tokens[m_end - 1].end() == m_tokens[at].position + done;
+    });
+}
+
 bool Clause::isFinished() const
 {
     const QString &text = m_reading.sentence().text();
@@ -201,6 +217,9 @@ bool Clause::isFinished() const
                    (token.is(WordClass::Schedule) && !m_reading.hasAny(AskingWords) && // 会议预约好了
                     startsAt(text, token.end(), QStringLiteral("好了")));
         });
+    }
+    if (isSupposedDone()) {
+        return true;
     }
     if (isAskedFor()) {
         return false;

@@ -63,6 +63,9 @@ private Q_SLOTS:
             {"加好友", "? whom-to-add", "138 0013 8000", "ADD_BUDDY account=13800138000"});
         row("whom to add, a mail address",
             {"加好友", "? whom-to-add", "账号是lisi@example.com", "ADD_BUDDY account=lisi@example.com"});
+        row("whom to add, two numbers",
+            {"加好友13800138000 13900139000", "? whom-to-add", "13800138000 13900139000", "? whom-to-add",
+             "13800138000", "ADD_BUDDY account=13800138000"});
         row("whom to add, a name", {"加好友", "? whom-to-add", "赵云", "ADD_BUDDY account=赵云"});
         row("a missing day is taken and the rest kept",
             {"下周下午三点和张伟开会", "? which-day", "周三",

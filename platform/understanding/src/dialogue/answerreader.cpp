@@ -5,6 +5,7 @@
 
 #include "dialogue/peoplechange.h"
 #include "meaning/interpreter.h"
+#include "meaning/suspicions.h"
 #include "names/namelook.h"
 #include "text/chinesenumber.h"
 #include "text/scan.h"
@@ -121,6 +122,9 @@ bool opensConference(const Reading &reading)
 
 bool takeAccount(const Reading &reading, Outcome &outcome)
 {
+    if (isAccountUnclear(reading)) {
+        return false;
+    }
     const Said &account = reading.account();
     if (!account.isEmpty() && holdsOnly(reading, isCode)) {
         outcome.addSlot(AccountSlot, account.value, account.normValue);

@@ -118,7 +118,7 @@ void fillAccount(Outcome &outcome, const Reading &reading, const QDateTime &)
 {
     const Said &account = reading.account();
     constexpr int shortest = 3; // initials are no account
-    if (holdsSeveralNumbers(reading)) {
+    if (isAccountUnclear(reading)) {
         return; // asked for again
     }
     if (account.normValue.size() >= shortest) {

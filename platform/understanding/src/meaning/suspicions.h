@@ -18,8 +18,9 @@ namespace understanding {
 /// 我昨天进的会议是123456, 加一下老同学，号码13711112222: a number, but no order to join it.
 [[nodiscard]] bool isNumberOfOther(const Reading &reading);
 
-/// True for 一三八零，零一三八: one number cut in two, or two of them.
-[[nodiscard]] bool holdsSeveralNumbers(const Reading &reading);
+/// True where no single account of somebody else was said: 一三八零，零一三八, one number cut in two or two of
+/// them; 加mike2和lucy3, 加mike2还是mike3; 尾号8000, 我的账号是mike2.
+[[nodiscard]] bool isAccountUnclear(const Reading &reading);
 
 /// 如果明天下雨，帮我开会: what depends on something is not wanted now.
 [[nodiscard]] bool isConditional(const Reading &reading);

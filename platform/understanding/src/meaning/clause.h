@@ -96,6 +96,8 @@ private:
     bool isQuestion() const;
     /// 腾出手来帮我...: what leads up to the request does not matter.
     bool isPreamble(std::size_t at) const;
+    /// 007 in 邀请张伟007, 1号 in 邀请张伟1号: may tell who is meant.
+    bool isOfName(std::size_t at) const;
     /// 下 in 明天下三点, 午 in 开午会: the rest of a time that was only partly read.
     bool isPieceOfTime(std::size_t at) const;
     bool isExplained(std::size_t at) const;

@@ -54,6 +54,19 @@ bool Clause::isPreamble(std::size_t at) const
     return false;
 }
 
+bool Clause::isOfName(std::size_t at) const
+{
+    const Token &token = m_tokens[at];
+    const bool day = token.kind == Token::Kind::Time && !token.time.hasClock &&
+                     token.time.day == TimeExpression::Day::DayOfMonth;
+    const auto follows = [&](std::size_t next) {
+        return next > m_begin && m_tokens[next - 1].inName;
+    };
+    return m_intent == QLatin1String(InviteConference) && (token.kind == Token::Kind::Number || day) &&
+           !token.inName &&
+           (follows(at) || (at > m_begin && m_tokens[at - 1].kind == Token::Kind::Space && follows(at - 1)));
+}
+
 bool Clause::isPieceOfTime(std::size_t at) const
 {
     // 后个儿头晌: a day that was not read, right before a time.
@@ -90,6 +103,9 @@ bool Clause::isPieceOfTime(std::size_t at) const
 bool Clause::isExplained(std::size_t at) const
 {
     const Token &token = m_tokens[at];
+    if (isOfName(at)) {
+        return false;
+    }
     if (isPieceOfTime(at) && !isTitleBeforeVerb(at)) { // but 二 in 二车间班前会
         return false;
     }

@@ -294,6 +294,7 @@ constexpr struct
     {QueryConference, opensOfKind},
     {InviteConference, comesLater},
     {CreateConference, holdsLooseNumber},
+    {CreateConference, holdsRestOfTime},
     {InviteConference, holdsLooseNumber},
     {AddBuddy, holdsMoreThanAccount},
     {AddBuddy, onlyMentionsFriend},

@@ -3,6 +3,7 @@
 
 #include "meaning/suspicions.h"
 
+#include "text/chinesenumber.h"
 #include "text/scan.h"
 
 #include <QRegularExpression>
@@ -118,6 +119,25 @@ bool holdsLooseNumber(const Reading &reading)
         const bool describes = at + 1 < tokens.size() && !tokens[at + 1].isAny(apart); // 3期培训会
         if (token.kind == Token::Kind::Number && token.length <= longest && !token.inName && !token.inTopic &&
             !describes) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool holdsRestOfTime(const Reading &reading)
+{
+    const QString &text = reading.sentence().text();
+    const Tokens &tokens = reading.tokens();
+    for (std::size_t at = 1; at < tokens.size(); ++at) {
+        if (!tokens[at].time.hasClock) {
+            continue;
+        }
+        const QStringRef before = text.leftRef(tokens[at].position);
+        const bool dated = at > 1 && tokens[at - 2].kind == Token::Kind::Time; // 周三.三点
+        const bool decimal =
+            before.endsWith(QLatin1Char('.')) && digitValue(charAt(text, before.size() - 2)) >= 0;
+        if ((decimal && !dated) || before.endsWith(QStringLiteral("零下"))) {
             return true;
         }
     }

@@ -48,6 +48,9 @@ namespace understanding {
 /// 8 in 8会，通知马超 and 20 in 20约张伟开会: the rest of a time or of something else.
 [[nodiscard]] bool holdsLooseNumber(const Reading &reading);
 
+/// 五点 in 和小李三.五点开会, 三点 in 零下三点: the rest of something else.
+[[nodiscard]] bool holdsRestOfTime(const Reading &reading);
+
 /// 加工号2号200002为好友: more digits than those of one account.
 [[nodiscard]] bool holdsMoreThanAccount(const Reading &reading);
 

@@ -342,9 +342,13 @@ bool Clause::isStatement() const
 
 bool Clause::isOnlyNumber() const
 {
-    constexpr WordClasses joining = WordClass::Join | WordClass::WeakJoin | WordClass::Request |
-                                    WordClass::Add | WordClass::PasswordLabel | WordClass::NoPassword;
+    constexpr WordClasses joining = WordClass::Join | WordClass::WeakJoin | WordClass::Add |
+                                    WordClass::PasswordLabel | WordClass::NoPassword;
     return m_intent == QLatin1String(EnterConferenceById) && !m_reading.hasAny(joining) &&
+           std::none_of(m_tokens.cbegin(), m_tokens.cend(), // 会议号是123456吧 orders nothing
+                        [&](const Token &token) {
+                            return token.is(WordClass::Request) && textOf(token) != QStringLiteral("吧");
+                        }) &&
            any([&](std::size_t at) {
                return m_tokens[at].is(WordClass::IdLabel) && at + 1 < m_end &&
                       textOf(m_tokens[at + 1]) == QStringLiteral("是");

@@ -173,10 +173,10 @@ bool Clause::isAskedFor() const
         if (!token.is(WordClass::Request) || token.inName) {
             return false;
         }
-        static const QString disposing = QStringLiteral("把将");
+        static const QString disposing = QStringLiteral("把将请");
         const QChar last = text.at(token.end() - 1);
         const QString before = at > m_begin ? textOf(m_tokens[at - 1]) : QString();
-        const bool byMyself = disposing.contains(last) && // 我把会议关了 only tells
+        const bool byMyself = disposing.contains(last) && // 我把会议关了, 我请了李娜进会 only tell
                               (before == QStringLiteral("我") || before == QStringLiteral("我们"));
         return !byMyself && (left || textOf(token) != QStringLiteral("吧"));
     });

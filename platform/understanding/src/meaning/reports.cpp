@@ -128,6 +128,34 @@ bool tellsAgreement(const Reading &reading)
     });
 }
 
+bool tellsWhatWasSet(const Reading &reading)
+{
+    static const QString settling = QStringLiteral("约定订");
+    const QString &text = reading.sentence().text();
+    const Tokens &tokens = reading.tokens();
+    if (text.contains(QStringLiteral("来着"))) {
+        return true;
+    }
+    return std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
+        if (token.kind != Token::Kind::Time) {
+            return false;
+        }
+        int end = token.position;
+        end -= charAt(text, end - 1) == QChar(u'是') ? 1 : 0;
+        return charAt(text, end - 1) == QChar(u'的') && settling.contains(charAt(text, end - 2));
+    });
+}
+
+bool sendsOthersOnly(const Reading &reading)
+{
+    const QString &text = reading.sentence().text();
+    const std::vector<FoundName> &names = reading.names();
+    const bool alone = std::any_of(names.cbegin(), names.cend(), [&](const FoundName &name) {
+        return startsAt(text, name.position + name.said.size(), QStringLiteral("自己"));
+    });
+    return alone || firstOf(text, 0, {u"你和", u"你跟", u"你与", u"你同", u"您和", u"您跟"}) > 0;
+}
+
 /// True for a time that is not now: 明天, 十分钟后, 三点; not for 今天 and 昨天.
 static bool isAhead(const TimeExpression &time)
 {

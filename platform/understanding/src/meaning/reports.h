@@ -27,6 +27,12 @@ namespace understanding {
 /// 跟张伟约好明天三点开会: it has been agreed already; 约好张伟明天三点开会 orders it.
 [[nodiscard]] bool tellsAgreement(const Reading &reading);
 
+/// 我们约的是三点开会, 我和王总定的四点开会, 三点开会来着: it has been settled, or was so.
+[[nodiscard]] bool tellsWhatWasSet(const Reading &reading);
+
+/// 让张伟自己开会, 你和张伟开会: others meet without the speaker.
+[[nodiscard]] bool sendsOthersOnly(const Reading &reading);
+
 /// 三点散会, 一会儿退会, 明天邀请张伟: what is only done at once, but not now.
 [[nodiscard]] bool isForLater(const Reading &reading, const QString &intent);
 

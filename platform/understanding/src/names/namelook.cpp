@@ -111,13 +111,19 @@ bool isTransliterated(const QString &text)
                        [](QChar character) { return spelling.contains(character); });
 }
 
-/// 子涵, 晓峰, 乐乐: a given name alone, of characters used in hardly anything else, or a pet name.
-static bool isGivenName(const QString &text)
+/// True for what is used in hardly anything but given names.
+static bool isInGivenNames(QChar character)
 {
     static const QString given = QStringLiteral(
         "涵轩梓浩然宇欣怡婷雪琳娜娟芳燕霞英华兰玲秀丽凤桂珍梅艳敏静洁慧颖倩莉雯佳俊杰强伟军磊涛勇峰鹏"
         "辉斌亮志国建晓淑瑞凯晨阳旭睿博嘉思雨诗彤萱瑶琪璐薇蕾蓉菲妍媛茜翠莲蓓丹萍玉香子");
-    const bool spelled = text.size() == 2 && given.contains(text.at(0)) && given.contains(text.at(1));
+    return given.contains(character);
+}
+
+/// 子涵, 晓峰, 乐乐: a given name alone, of such characters, or a pet name.
+static bool isGivenName(const QString &text)
+{
+    const bool spelled = text.size() == 2 && isInGivenNames(text.at(0)) && isInGivenNames(text.at(1));
     const bool doubled =
         text.size() == 2 && text.at(0) == text.at(1) && text.at(0).isLetter() && text.at(0) != QChar(u'某');
     return (spelled || doubled) && !isThing(text);
@@ -251,6 +257,25 @@ static int clearPersonLength(const QString &text, int at)
     return title > 0 ? surname + title : 0;
 }
 
+/// 张伟王总, 老王张伟: two people whom nothing but a family name tells apart.
+static bool mayBeTwo(const QString &text)
+{
+    if (isNamePrefix(text.at(0))) {
+        const QString rest = text.mid(2);
+        return rest.size() > 1 && text.at(0) != QChar(u'大') && isSurname(text.at(1)) &&
+               isSurname(rest.at(0)) && !isNamePrefix(rest.at(0)) && rest.size() <= 3 && !isThing(rest) &&
+               !isRoleOrKin(rest) && !endsLikeName(rest) && clearPersonLength(text, 0) == 2;
+    }
+    const int surname = startsTwoCharacterSurname(text) ? 2 : 1;
+    const int title = text.size() - 1;
+    constexpr int longestGivenName = 2;
+    if (!isSurname(text.at(0)) || title < surname + 2 || title > surname + longestGivenName + 1 ||
+        clearPersonLength(text, title - 1) != 2) { // 韩梅梅女士 is one
+        return false;
+    }
+    return std::all_of(text.cbegin() + surname, text.cbegin() + title - 1, isInGivenNames); // not 蓝海李工
+}
+
 PeopleRow readPeopleRow(const QString &text)
 {
     PeopleRow row;
@@ -278,7 +303,7 @@ PeopleRow readPeopleRow(const QString &text)
         at = text.size();
     }
     row.isWhole = at == text.size() && row.names.size() > 1;
-    row.isUnclear = at < text.size() && begins && !endsLikeName(text);
+    row.isUnclear = !row.isWhole && ((at < text.size() && begins && !endsLikeName(text)) || mayBeTwo(text));
     return row;
 }
 

@@ -351,7 +351,7 @@ bool Clause::isOnlyNumber() const
                         }) &&
            any([&](std::size_t at) {
                return m_tokens[at].is(WordClass::IdLabel) && at + 1 < m_end &&
-                      textOf(m_tokens[at + 1]) == QStringLiteral("是");
+                      textOf(m_tokens[at + 1]).endsWith(QChar(u'是'));
            });
 }
 

@@ -135,9 +135,10 @@ bool holdsRestOfTime(const Reading &reading)
         }
         const QStringRef before = text.leftRef(tokens[at].position);
         const bool dated = at > 1 && tokens[at - 2].kind == Token::Kind::Time; // 周三.三点
+        const QChar digit = charAt(text, before.size() - 2);
         const bool decimal =
-            before.endsWith(QLatin1Char('.')) && digitValue(charAt(text, before.size() - 2)) >= 0;
-        if ((decimal && !dated) || before.endsWith(QStringLiteral("零下"))) {
+            before.endsWith(QLatin1Char('.')) && (digitValue(digit) >= 0 || digit == QChar(u'十'));
+        if ((decimal && !dated) || before.endsWith(QStringLiteral("零下")) || before.endsWith(QChar(u'负'))) {
             return true;
         }
     }

@@ -61,11 +61,20 @@ bool listsAccounts(const Reading &reading)
             link = Link::Word;
         } else if (token.kind == Token::Kind::Space || token.is(WordClass::Punctuation)) {
             link = link == Link::Word ? Link::Word : Link::Sign;
-        } else {
+        } else if (!token.is(WordClass::AccountLabel)) { // 账号mike2和账号lucy3
             link = Link::None;
         }
     }
     return false;
+}
+
+/// 加小王小李好友: two people in a row.
+bool listsNames(const Reading &reading)
+{
+    const std::vector<FoundName> &names = reading.names();
+    return std::adjacent_find(names.cbegin(), names.cend(), [](const FoundName &one, const FoundName &next) {
+               return one.position + one.said.size() == next.start;
+           }) != names.cend();
 }
 
 /// 尾号8000 is only a part, 我的账号 nobody else's.
@@ -90,7 +99,7 @@ bool isAccountUnclear(const Reading &reading)
     const auto isNumber = [](const Token &token) {
         return token.kind == Token::Kind::Number && !token.inName;
     };
-    return std::count_if(tokens.cbegin(), tokens.cend(), isNumber) > 1 ||
+    return std::count_if(tokens.cbegin(), tokens.cend(), isNumber) > 1 || listsNames(reading) ||
            isTwoNumbers(reading.account().value) || listsAccounts(reading) || tellsOtherNumber(reading);
 }
 

@@ -18,8 +18,8 @@ namespace understanding {
 /// 我昨天进的会议是123456, 加一下老同学，号码13711112222: a number, but no order to join it.
 [[nodiscard]] bool isNumberOfOther(const Reading &reading);
 
-/// True where no single account of somebody else was said: 一三八零，零一三八, one number cut in two or two of
-/// them; 加mike2和lucy3, 加mike2还是mike3; 尾号8000, 我的账号是mike2.
+/// True where no single account of somebody else was said: 一三八零，零一三八, one number cut in two or two
+/// of them; 加mike2和lucy3, 加mike2还是mike3; 尾号8000, 我的账号是mike2.
 [[nodiscard]] bool isAccountUnclear(const Reading &reading);
 
 /// 如果明天下雨，帮我开会: what depends on something is not wanted now.
@@ -39,7 +39,8 @@ namespace understanding {
 /// 要不要退会, 是不是该开个会了: asks whether to do it.
 [[nodiscard]] bool wonders(const Reading &reading);
 
-/// 三点开会对吧, 邀请张伟，是吧, 散会行吧: asks for agreement with what was said. 请散会，行吧 orders politely.
+/// 三点开会对吧, 邀请张伟，是吧, 散会行吧: asks for agreement with what was said. 请散会，行吧 orders
+/// politely.
 [[nodiscard]] bool asksForAgreement(const Reading &reading);
 
 /// 是不是该开个会了, unlike 明天是不是要开会, which asks what there is.

@@ -19,12 +19,12 @@ QString joinedNames(const QVector<UserInfo> &users);
 /// Asks which of several people of one name is meant, after listing the names that were not found.
 QString choicePrompt(const QVector<QString> &notExistUsers);
 
-inline const ContactInviteMemberDetail &matchedNames(const ContactInviteMemberDetail &detail)
+inline const ContactInviteMemberDetail &inviteDetailOf(const ContactInviteMemberDetail &detail)
 {
     return detail;
 }
 
-inline const ContactInviteMemberDetail &matchedNames(const ContactCreatedConferenceDetail &detail)
+inline const ContactInviteMemberDetail &inviteDetailOf(const ContactCreatedConferenceDetail &detail)
 {
     return detail.inviteDetail;
 }
@@ -34,19 +34,19 @@ inline const ContactInviteMemberDetail &matchedNames(const ContactCreatedConfere
 template <typename Detail>
 QString foundNames(const Detail &detail, const CloudIntent & /*intent*/)
 {
-    return joinedNames(matchedNames(detail).normalUsers);
+    return joinedNames(inviteDetailOf(detail).normalUsers);
 }
 
 template <typename Detail>
 QString missingNames(const Detail &detail, const CloudIntent & /*intent*/)
 {
-    return ContactUtils::vectorToString(matchedNames(detail).notExistUsers);
+    return ContactUtils::vectorToString(inviteDetailOf(detail).notExistUsers);
 }
 
 template <typename Detail>
 QString choicePrompt(const Detail &detail, const CloudIntent & /*intent*/)
 {
-    return choicePrompt(matchedNames(detail).notExistUsers);
+    return choicePrompt(inviteDetailOf(detail).notExistUsers);
 }
 
 /// %1: the people found, %2: the names not found. Inviting says it too, although the conference has started.

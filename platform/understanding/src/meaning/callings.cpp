@@ -13,8 +13,6 @@ namespace understanding {
 
 namespace {
 
-constexpr int ShortestAccount = 3;
-
 bool isSpeaker(const Reading &reading, const Token &token)
 {
     const QString &text = reading.sentence().text();

@@ -9,6 +9,9 @@
 
 namespace understanding {
 
+/// In digits. Fewer are no account, but the rest of something else: 小李2.
+constexpr int ShortestAccount = 3;
+
 /// 和兄弟开会, 叫上管家, 和那谁开会: a form of address where a name is expected.
 bool callsByAddressOnly(const Reading &reading);
 /// 和200002开会, 把200002拉进会议: accounts are numbers, too.

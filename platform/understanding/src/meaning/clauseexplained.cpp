@@ -3,6 +3,7 @@
 
 #include "meaning/clause.h"
 
+#include "meaning/callings.h"
 #include "meaning/outcome.h"
 #include "names/namecharacters.h"
 #include "names/namelook.h"
@@ -14,8 +15,6 @@
 // The part of Clause that decides which single words are understood.
 
 namespace understanding {
-
-static constexpr int ShortestAccount = 3;
 
 void Clause::survey()
 {
@@ -126,7 +125,7 @@ bool Clause::isExplained(std::size_t at) const
     case Token::Kind::Number: // a date or an hour that was cut
         return token.inName || isDescription(at) ||
                (m_intent != QLatin1String(CreateConference) &&
-                !(m_intent == QLatin1String(InviteConference) && token.length < ShortestAccount)); // 小李2
+                !(m_intent == QLatin1String(InviteConference) && token.length < ShortestAccount));
     case Token::Kind::Duration: // how long a new conference takes
         return m_intent == QLatin1String(CreateConference) ||
                (m_isQuery && m_reading.has(WordClass::Question) &&

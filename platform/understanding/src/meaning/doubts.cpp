@@ -295,11 +295,8 @@ constexpr struct
     {CloseConference, returnsRoom},
     {CloseConference, opensOfKind},
     {QueryConference, opensOfKind},
-    {InviteConference, comesLater},
     {CreateConference, holdsLooseNumber},
     {CreateConference, holdsRestOfTime},
-    {InviteConference, holdsLooseNumber},
-    {AddBuddy, holdsMoreThanAccount},
     {AddBuddy, onlyMentionsFriend},
 };
 

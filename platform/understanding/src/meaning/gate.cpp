@@ -116,9 +116,10 @@ Verdict judge(const Reading &reading, const QString &intent)
     doubtful = doubtful || (isConditional(reading) && !asksFirst) || repairsSomething(reading);
     doubtful = doubtful || isAboutSomethingElse(reading, intent);
     doubtful = doubtful || (intent != QLatin1String(QueryConference) && asksForAgreement(reading));
-    // Nothing that was said is dropped silently: 需求评审安排到明天十一点，拉上小唐 is no plain invitation.
-    const bool untimely = intent == QLatin1String(InviteConference) || intent == QLatin1String(AddBuddy);
-    doubtful = doubtful || (untimely && reading.clockCount() > 0);
+    // Nothing that was said is dropped silently: 需求评审安排到明天十一点，拉上小唐 is no plain invitation,
+    // and 好友申请 7号78899 may have named a longer account.
+    doubtful = doubtful || (intent == QLatin1String(InviteConference) && reading.clockCount() > 0);
+    doubtful = doubtful || (intent == QLatin1String(AddBuddy) && reading.timeCount() > 0);
     doubtful = doubtful || (intent == QLatin1String(CreateConference) && reading.callsNobodyKnown());
     const bool takesPeople =
         intent == QLatin1String(CreateConference) || intent == QLatin1String(InviteConference);

@@ -145,15 +145,6 @@ bool holdsRestOfTime(const Reading &reading)
     return false;
 }
 
-bool holdsMoreThanAccount(const Reading &reading)
-{
-    const auto numbers =
-        std::count_if(reading.tokens().cbegin(), reading.tokens().cend(), [](const Token &token) {
-            return token.kind == Token::Kind::Number && !token.inName && !token.inTopic;
-        });
-    return !reading.account().isEmpty() && (numbers > 1 || reading.timeCount() > 0);
-}
-
 /// 下雨的话, 客户到了的话, but not 可以的话 and 明天三点的话: more than politeness and a time stands before
 /// 的话.
 static bool endsCondition(const Reading &reading, std::size_t begin, std::size_t at)

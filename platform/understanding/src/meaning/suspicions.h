@@ -52,9 +52,6 @@ namespace understanding {
 /// 五点 in 和小李三.五点开会, 三点 in 零下三点: the rest of something else.
 [[nodiscard]] bool holdsRestOfTime(const Reading &reading);
 
-/// 加工号2号200002为好友: more digits than those of one account.
-[[nodiscard]] bool holdsMoreThanAccount(const Reading &reading);
-
 // What leaves open whether, when or for whom something is to be done.
 
 /// 明天三点安排个评审, 和张伟讨论方案, 约张伟明天三点: people may well meet in one room.

@@ -84,7 +84,7 @@ private Q_SLOTS:
             }
         }
         qInfo("%s", qPrintable(rates.toString()));
-        QCOMPARE(rates.sentences, 7497);
+        QCOMPARE(rates.sentences, 7505);
         QCOMPARE(rates.dialogues, 1872);
         compare(rates, Own);
     }

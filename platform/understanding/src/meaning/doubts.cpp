@@ -263,6 +263,7 @@ constexpr struct
     {CreateConference, reminds},
     {CreateConference, tellsAgreement},
     {CreateConference, tellsWhatWasSet},
+    {CreateConference, statesWhatIs},
     {CreateConference, sendsOthersOnly},
     {CreateConference, callsStranger},
     {CreateConference, mentionsStranger},

@@ -146,8 +146,45 @@ bool tellsWhatWasSet(const Reading &reading)
     });
 }
 
+bool statesWhatIs(const Reading &reading)
+{
+    const QString &text = reading.sentence().text();
+    const Tokens &tokens = reading.tokens();
+    const auto begins = [&](const Token &token) {
+        return token.kind == Token::Kind::Time ||
+               firstOf(text, token.position, {u"和", u"跟", u"与", u"同"}) > 0;
+    };
+    const auto endsSubject = [&](int end) {
+        static const QString subjects = QStringLiteral("我咱们");
+        return end == 0 || subjects.contains(text.at(end - 1)) ||
+               std::any_of(tokens.cbegin(), tokens.cend(), [end](const Token &token) {
+                   return token.end() == end && token.kind == Token::Kind::Time;
+               });
+    };
+    return std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
+        const int copula = token.position - 1;
+        return charAt(text, copula) == QChar(u'是') && begins(token) && endsSubject(copula);
+    });
+}
+
+/// 让他们俩开会: people who have not been named.
+static bool sendsUnnamed(const Reading &reading)
+{
+    static const QString calls = QStringLiteral("让叫请喊");
+    const QString &text = reading.sentence().text();
+    for (int at = 1; reading.names().empty() && at < text.size(); ++at) {
+        if (calls.contains(text.at(at - 1)) && firstOf(text, at, {u"他们", u"她们", u"他俩", u"她俩"}) > 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
 bool sendsOthersOnly(const Reading &reading)
 {
+    if (sendsUnnamed(reading)) {
+        return true;
+    }
     const QString &text = reading.sentence().text();
     const std::vector<FoundName> &names = reading.names();
     const bool alone = std::any_of(names.cbegin(), names.cend(), [&](const FoundName &name) {

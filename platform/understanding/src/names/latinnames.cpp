@@ -30,6 +30,12 @@ bool LatinNames::startsCapital(std::size_t at) const
     return m_tokens[at].kind == Token::Kind::Latin && m_text.at(m_tokens[at].position).isUpper();
 }
 
+bool LatinNames::isNamedBehindSpace(std::size_t at) const
+{
+    return at + 1 < m_tokens.size() && m_tokens[at].kind == Token::Kind::Space &&
+           (m_tokens[at + 1].kind == Token::Kind::Name || startsCapital(at + 1));
+}
+
 bool LatinNames::isNobiliary(std::size_t at) const
 {
     return m_tokens[at].kind == Token::Kind::Latin &&

@@ -47,10 +47,11 @@ std::size_t NameRunReader::takeRun(std::size_t at, bool mustLookLikeName)
     const std::size_t next = last + 1;
     const bool nameFollows = next < m_tokens.size() && (m_tokens[next].kind == Token::Kind::Name ||
                                                         m_tokens[next].kind == Token::Kind::Latin);
-    const bool nameBehindSpace = // 片区的负责人 马腾
-        next + 1 < m_tokens.size() && m_tokens[next].kind == Token::Kind::Space &&
-        m_tokens[next + 1].kind == Token::Kind::Other && run.contains(QChar(u'的')) &&
-        isPersonsName(m_text.mid(m_tokens[next + 1].position, m_tokens[next + 1].length));
+    const bool nameBehindSpace = // 设计师 Sophie, 片区的负责人 马腾
+        m_latin.isNamedBehindSpace(next) ||
+        (next + 1 < m_tokens.size() && m_tokens[next].kind == Token::Kind::Space &&
+         m_tokens[next + 1].kind == Token::Kind::Other &&
+         isPersonsName(m_text.mid(m_tokens[next + 1].position, m_tokens[next + 1].length)));
     if ((nameFollows || nameBehindSpace) && isModifier(run)) {
         m_modifierStart = m_modifierStart < 0 ? start : m_modifierStart;
         return last;

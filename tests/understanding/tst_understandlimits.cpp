@@ -115,7 +115,7 @@ private Q_SLOTS:
         QFETCH(QString, begin);
         QFETCH(QString, pattern);
         QFETCH(QString, end);
-        // 4.2 to 5 were measured; what is quadratic takes 16 times as long, half of it quadratic 10. The
+        // 2.4 to 5.2 were measured; what is quadratic takes 16 times as long, half of it quadratic 10. The
         // median of ratios of neighbouring runs: a shared machine changes its speed, and the best runs of
         // both lengths may belong to different speeds.
         constexpr double most = 8;

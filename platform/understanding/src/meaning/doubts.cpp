@@ -296,7 +296,9 @@ constexpr struct
     {CloseConference, returnsRoom},
     {CloseConference, opensOfKind},
     {QueryConference, opensOfKind},
+    {InviteConference, comesLater},
     {CreateConference, holdsLooseNumber},
+    {InviteConference, holdsLooseNumber},
     {CreateConference, holdsRestOfTime},
     {AddBuddy, onlyMentionsFriend},
 };

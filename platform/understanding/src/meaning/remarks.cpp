@@ -37,6 +37,23 @@ const QRegularExpression &leavingPattern()
     return pattern;
 }
 
+/// 王磊已经在会里了, 李娜和王磊都进来了.
+const QRegularExpression &therePattern()
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("^(?<who>.{1,8}?)(?:已经|早就|[已都])*+(?:在(?:会里|会议里|会上|里面|线上?)|"
+                       "(?<=[经就已都])(?:在|到|来|进来|进会|入会))了%1")
+            .arg(QString::fromUtf16(Ends)));
+    return pattern;
+}
+
+/// True for what only calls people into the conference that is going on.
+bool isInvitation(const QString &text)
+{
+    return (text.contains(QStringLiteral("邀请")) || text.contains(QChar(u'拉'))) &&
+           !text.contains(QChar(u'开')) && !text.contains(QChar(u'约'));
+}
+
 /// 把李娜换成孙丽, 换孙丽.
 const QRegularExpression &exchangePattern()
 {
@@ -120,6 +137,7 @@ public:
         : m_sentence(sentence)
         , m_text(text)
         , m_contacts(contacts)
+        , m_isInvitation(isInvitation(text))
     {
     }
 
@@ -134,8 +152,9 @@ public:
                 ++end;
             }
             const QString clause = m_text.mid(m_clause, sign - m_clause);
-            const QString said = hasWordOfAbsence(clause) ? withoutLead(clause.trimmed()) : QString();
-            if (!said.isEmpty() && (tellsOfPeople(said) || leavesOut(said))) {
+            const QString said =
+                m_isInvitation || hasWordOfAbsence(clause) ? withoutLead(clause.trimmed()) : QString();
+            if (!said.isEmpty() && (tellsOfPeople(said) || leavesOut(said) || isThere(said))) {
                 told = true;
                 continue;
             }
@@ -222,6 +241,13 @@ private:
         return leaving.hasMatch() && takePeople(leaving.captured(QStringLiteral("who")), true);
     }
 
+    bool isThere(const QString &clause)
+    {
+        const QRegularExpressionMatch there =
+            m_isInvitation ? therePattern().match(clause) : QRegularExpressionMatch();
+        return there.hasMatch() && takePeople(there.captured(QStringLiteral("who")), true);
+    }
+
     /// Who is to come instead of somebody else according to @p clause.
     QString exchangedFor(const QString &clause)
     {
@@ -278,6 +304,7 @@ private:
     const QString &m_sentence;
     const QString &m_text;
     const ContactIndex &m_contacts;
+    const bool m_isInvitation;
     Remarks m_remarks;
     QString m_order;
     QStringList m_told;    ///< everybody named in the remarks
@@ -291,7 +318,9 @@ Remarks findRemarks(const QString &sentence, const QString &text, const ContactI
 {
     const bool several =
         std::find_first_of(text.cbegin(), text.cend(), Signs.cbegin(), Signs.cend()) != text.cend();
-    return several && hasWordOfAbsence(text) ? RemarkReader(sentence, text, contacts).run() : Remarks();
+    return several && (isInvitation(text) || hasWordOfAbsence(text))
+               ? RemarkReader(sentence, text, contacts).run()
+               : Remarks();
 }
 
 } // namespace understanding

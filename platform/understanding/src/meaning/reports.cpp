@@ -146,34 +146,68 @@ bool tellsWhatWasSet(const Reading &reading)
     });
 }
 
+/// True where the clause goes on with 开会 or 会: 是三点开会, unlike 明天是周二，帮我约个会.
+static bool speaksOfConference(const Tokens &tokens, std::size_t at)
+{
+    constexpr WordClasses conference =
+        WordClass::WeakOpen | WordClass::StrongOpen | WordClass::Conference | WordClass::ComeMeet;
+    while (at < tokens.size() && !tokens[at].is(WordClass::Punctuation)) {
+        if (tokens[at].isAny(conference)) {
+            return true;
+        }
+        ++at;
+    }
+    return false;
+}
+
 bool statesWhatIs(const Reading &reading)
 {
+    static const QString links = QStringLiteral("和跟与同");
+    static const QString subjects = QStringLiteral("我咱们俩也在"); // 我现在是三点开会
     const QString &text = reading.sentence().text();
     const Tokens &tokens = reading.tokens();
-    const auto begins = [&](const Token &token) {
-        return token.kind == Token::Kind::Time ||
-               firstOf(text, token.position, {u"和", u"跟", u"与", u"同"}) > 0;
-    };
     const auto endsSubject = [&](int end) {
-        static const QString subjects = QStringLiteral("我咱们");
         return end == 0 || subjects.contains(text.at(end - 1)) ||
                std::any_of(tokens.cbegin(), tokens.cend(), [end](const Token &token) {
                    return token.end() == end && token.kind == Token::Kind::Time;
                });
     };
-    return std::any_of(tokens.cbegin(), tokens.cend(), [&](const Token &token) {
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        const Token &token = tokens[at];
+        const bool begins =
+            token.kind == Token::Kind::Time || (token.length == 1 && links.contains(text.at(token.position)));
         const int copula = token.position - 1;
-        return charAt(text, copula) == QChar(u'是') && begins(token) && endsSubject(copula);
-    });
+        if (begins && charAt(text, copula) == QChar(u'是') && endsSubject(copula) &&
+            speaksOfConference(tokens, at)) {
+            return true;
+        }
+    }
+    const std::vector<FoundName> &names = reading.names(); // 我和张伟是三点开会
+    return std::any_of(names.cbegin(), names.cend(),
+                       [](const FoundName &name) { return name.name.endsWith(QChar(u'是')); });
 }
 
-/// 让他们俩开会: people who have not been named.
+/// 让他们俩开会, 叫他们三点开会: people who have not been named.
 static bool sendsUnnamed(const Reading &reading)
 {
     static const QString calls = QStringLiteral("让叫请喊");
+    static const QString few = QStringLiteral("俩两三几个");
     const QString &text = reading.sentence().text();
+    const Tokens &tokens = reading.tokens();
     for (int at = 1; reading.names().empty() && at < text.size(); ++at) {
-        if (calls.contains(text.at(at - 1)) && firstOf(text, at, {u"他们", u"她们", u"他俩", u"她俩"}) > 0) {
+        const int pronoun = firstOf(text, at, {u"他们", u"她们", u"他俩", u"她俩"});
+        if (pronoun == 0 || !calls.contains(text.at(at - 1))) {
+            continue;
+        }
+        int end = at + pronoun;
+        while (end < text.size() && few.contains(text.at(end))) {
+            ++end;
+        }
+        const auto behind = std::find_if(tokens.cbegin(), tokens.cend(), [end](const Token &token) {
+            return token.position >= end && token.kind != Token::Kind::Time;
+        });
+        if (behind != tokens.cend() &&
+            behind->isAny(WordClass::WeakOpen | WordClass::StrongOpen | WordClass::ComeMeet)) {
             return true;
         }
     }

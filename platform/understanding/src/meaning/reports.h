@@ -33,7 +33,7 @@ namespace understanding {
 /// 明天是和张伟开会, 我是三点开会: tells what is so, unlike 时间是三点, which orders it.
 [[nodiscard]] bool statesWhatIs(const Reading &reading);
 
-/// 让张伟自己开会, 让他们俩开会, 你和张伟开会: others meet without the speaker.
+/// 让张伟自己开会, 让他们俩开会, 你和张伟开会: others are to meet, perhaps without the speaker.
 [[nodiscard]] bool sendsOthersOnly(const Reading &reading);
 
 /// 三点散会, 一会儿退会, 明天邀请张伟: what is only done at once, but not now.

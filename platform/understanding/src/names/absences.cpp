@@ -44,8 +44,7 @@ QString leftOutPattern()
     return QStringLiteral("(?:(?<![预打结决核])算|免|[不别甭](?:用|要|必)?再?%1|不[来去要用]|不用?参加|不必|"
                           "不用[来去]|不参会|不加入|"
                           "不需要|不包括|不用?打扰|别打扰|不麻烦|不进来?|除外|缺席|改天|退出|换掉?|去掉|划掉|"
-                          "(?:来|去|到|参加|赶)不[了成上]|(?<=已经|已|都)(?:到|来|进来|进会|入会)了|"
-                          "(?<!不)在(?:了|会[里上中]|会议[里上中]|里面|线上?了))")
+                          "(?:来|去|到|参加|赶)不[了成上])")
         .arg(callPattern());
 }
 
@@ -69,13 +68,15 @@ QString busyPattern()
 bool hasWordOfAbsence(const QString &text)
 {
     static const QString characters = [] {
-        QString listed = QStringLiteral("在已不没别甭免算缺假差忙病走课除掉删换有班改退划孩路飞外");
+        QString listed = QStringLiteral("不没别甭免算缺假差忙病走课除掉删换有班改退划孩路飞外");
         std::sort(listed.begin(), listed.end());
         return listed;
     }();
-    return std::any_of(text.cbegin(), text.cend(), [&](QChar character) {
-        return std::binary_search(characters.cbegin(), characters.cend(), character);
-    });
+    return std::any_of(text.cbegin(), text.cend(),
+                       [&](QChar character) {
+                           return std::binary_search(characters.cbegin(), characters.cend(), character);
+                       }) ||
+           text.contains(QStringLiteral("在开"));
 }
 
 QStringList namesOf(const QString &text, const ContactIndex &contacts)

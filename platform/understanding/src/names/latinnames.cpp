@@ -30,10 +30,15 @@ bool LatinNames::startsCapital(std::size_t at) const
     return m_tokens[at].kind == Token::Kind::Latin && m_text.at(m_tokens[at].position).isUpper();
 }
 
-bool LatinNames::isNamedBehindSpace(std::size_t at) const
+bool LatinNames::isSomebodyBehindSpace(std::size_t at) const
 {
-    return at + 1 < m_tokens.size() && m_tokens[at].kind == Token::Kind::Space &&
-           (m_tokens[at + 1].kind == Token::Kind::Name || startsCapital(at + 1));
+    const std::size_t next = at + 1;
+    if (next >= m_tokens.size() || m_tokens[at].kind != Token::Kind::Space) {
+        return false;
+    }
+    const QString name = m_text.mid(m_tokens[next].position, m_tokens[next].length);
+    return m_tokens[next].kind == Token::Kind::Name ||
+           (startsCapital(next) && name != name.toUpper() && !isThing(name));
 }
 
 bool LatinNames::isNobiliary(std::size_t at) const

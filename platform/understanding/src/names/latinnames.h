@@ -32,8 +32,8 @@ public:
     /// none.
     [[nodiscard]] std::size_t endOfOffice(std::size_t at) const;
     [[nodiscard]] bool isMiddleDot(std::size_t at) const;
-    /// Sophie behind the space at @p at in 设计师 Sophie, and whoever is known there.
-    [[nodiscard]] bool isNamedBehindSpace(std::size_t at) const;
+    /// Sophie behind the space at @p at in 设计师 Sophie, and any known name; not OKR in 客户 OKR 对齐会.
+    [[nodiscard]] bool isSomebodyBehindSpace(std::size_t at) const;
 
 private:
     [[nodiscard]] bool startsCapital(std::size_t at) const;

@@ -274,7 +274,8 @@ private:
             }
             m_lost = m_lost || isLostBefore(m_tokens, at);
             const bool someoneFollows =
-                m_latin.isNamedBehindSpace(at + 1) ||
+                (m_latin.isSomebodyBehindSpace(at + 1) &&
+                 !isRelative(m_text.mid(token.position, token.length))) ||
                 (m_places.isSomebody(at + 1) && // 妹夫 in 我妹妹妹夫
                  !isRelative(m_text.mid(m_tokens[at + 1].position, m_tokens[at + 1].length)));
             if (m_places.isOnlyRelative(at)) { // 叫上我姐: ask, for that is nobody's name

@@ -47,10 +47,10 @@ std::size_t NameRunReader::takeRun(std::size_t at, bool mustLookLikeName)
     const std::size_t next = last + 1;
     const bool nameFollows = next < m_tokens.size() && (m_tokens[next].kind == Token::Kind::Name ||
                                                         m_tokens[next].kind == Token::Kind::Latin);
-    const bool nameBehindSpace = // 设计师 Sophie, 片区的负责人 马腾
-        m_latin.isNamedBehindSpace(next) ||
+    const bool nameBehindSpace = // 设计师 Sophie, but not 王司机 Mike; 片区的负责人 马腾
+        (m_latin.isSomebodyBehindSpace(next) && !isPersonsName(run) && !isRelative(run)) ||
         (next + 1 < m_tokens.size() && m_tokens[next].kind == Token::Kind::Space &&
-         m_tokens[next + 1].kind == Token::Kind::Other &&
+         m_tokens[next + 1].kind == Token::Kind::Other && run.contains(QChar(u'的')) &&
          isPersonsName(m_text.mid(m_tokens[next + 1].position, m_tokens[next + 1].length)));
     if ((nameFollows || nameBehindSpace) && isModifier(run)) {
         m_modifierStart = m_modifierStart < 0 ? start : m_modifierStart;

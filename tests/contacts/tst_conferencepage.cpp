@@ -60,6 +60,7 @@ void TestConferencePage::itShowsTheUsersConferences()
     QCOMPARE(m_fixture->cell(2, ConferenceModel::Start), QStringLiteral("2026-03-09 10:00"));
     QCOMPARE(m_fixture->child<QTableView>("endedTable")->model()->rowCount(), 0);
     QVERIFY(!m_fixture->conferences()->showGrid());
+    QVERIFY(!m_fixture->conferences()->wordWrap()); // long titles end in "…", not after a word
     const auto look = [this](int row, ConferenceModel::Column column, int role) {
         return m_fixture->conferences()->model()->index(row, column).data(role);
     };

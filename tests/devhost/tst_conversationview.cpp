@@ -74,6 +74,7 @@ private Q_SLOTS:
     void initTestCase();
     void oldCardsBecomePicturesThatComeBack();
     void cardWithTheFocusStaysAlive();
+    void cardInSightStaysAlive();
     void scrollingTakesTheFocusFromNoCard();
     void tenThousandTurnsStaySmall();
     void arrowsGoFromBubbleToBubble();
@@ -167,6 +168,24 @@ void TestConversationView::cardWithTheFocusStaysAlive()
     QVERIFY(used->isAncestorOf(QApplication::focusWidget()));
 }
 
+/// Whoever scrolled back looks at a card, which must not become a picture under their eyes.
+void TestConversationView::cardInSightStaysAlive()
+{
+    ShownView shown(500, 300);
+    ConversationView &view = shown.view;
+    addCards(view, 6);
+    view.verticalScrollBar()->setValue(0);
+    const QPointer<QWidget> seen = view.entries().first().card.data();
+    const QPointer<QWidget> hidden = view.entries().last().card.data();
+    QVERIFY(seen != nullptr && seen->isVisible() && !hidden->isVisible());
+    for (int turn = 7; turn <= ConversationView::LiveCards + 10; ++turn) {
+        view.addReply(turn, QString(), makeCard(QStringLiteral("新的")));
+    }
+    QCOMPARE(view.verticalScrollBar()->value(), 0);
+    QTRY_VERIFY(hidden.isNull());
+    QVERIFY(!seen.isNull() && seen->isVisible());
+}
+
 /// Hiding the card used to move the focus to another one, and the view scrolled there.
 void TestConversationView::scrollingTakesTheFocusFromNoCard()
 {
@@ -254,6 +273,16 @@ void TestConversationView::arrowsGoFromBubbleToBubble()
     QTest::keyClick(&view, Qt::Key_Return);
     QCOMPARE(activated.size(), 1);
     QCOMPARE(activated.first().first().toInt(), 1);
+    // What it does itself goes no further, to a default button, for instance.
+    for (const Qt::Key key : {Qt::Key_Home, Qt::Key_End, Qt::Key_Up, Qt::Key_Down, Qt::Key_Return,
+                              Qt::Key_Enter, Qt::Key_Space}) {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(&view, &press);
+        QVERIFY2(press.isAccepted(), qPrintable(QKeySequence(key).toString()));
+    }
+    QKeyEvent other(QEvent::KeyPress, Qt::Key_F7, Qt::NoModifier);
+    QApplication::sendEvent(&view, &other);
+    QVERIFY(!other.isAccepted());
 }
 
 void TestConversationView::menuOpensByItsButtonAndByItsKey()

@@ -51,6 +51,7 @@ private Q_SLOTS:
     void helpIsNoPassword();
     void passwordMayBeginLikeASemanticText();
     void coloursEndWithTheirLine();
+    void theConversationPicturesItsCards();
     void tooLongTextIsRefused();
     void withoutPluginEveryTurnFails();
 };
@@ -315,6 +316,25 @@ void TestPluginHost::coloursEndWithTheirLine()
     }
     QVERIFY(output.str().find("\033[1mAssistant: 好\033[0m") != std::string::npos);
     QVERIFY(output.str().find("\033[31m") != std::string::npos);
+}
+
+void TestPluginHost::theConversationPicturesItsCards()
+{
+    const QTemporaryDir folder;
+    LoadedHost host;
+    QVERIFY(host.isLoaded);
+    std::istringstream input(semantic("CARD", QStringLiteral("卡")).toStdString() + "\n");
+    std::ostringstream output;
+    std::ostringstream errors;
+    TerminalConversation terminal(host.conversation, {input, output, errors, false, false},
+                                  Screenshots(folder.path()));
+    QSignalSpy finished(&terminal, &TerminalConversation::finished);
+    terminal.start();
+    QVERIFY(finished.wait());
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("turn-01.png")});
+    const QString picture = folder.path() + QStringLiteral("/turn-01.png");
+    QVERIFY(!QImage(picture).isNull());
+    QVERIFY2(output.str().find(picture.toStdString()) != std::string::npos, output.str().c_str());
 }
 
 void TestPluginHost::tooLongTextIsRefused()

@@ -134,7 +134,8 @@ private Q_SLOTS:
     void everyBeginningGetsOneAnswer()
     {
         const QStringList contacts{QStringLiteral("张伟"), QStringLiteral("a")};
-        QStringList typed{QStringLiteral("和张明"), QStringLiteral("约李晨"), QStringLiteral("叫上王五")};
+        QStringList typed{QStringLiteral("和张明"), QStringLiteral("约李晨"), QStringLiteral("叫上王五"),
+                          QStringLiteral("开个会让他们俩")};
         for (const char *name : {"sentences.tsv", "sentences-more.tsv"}) {
             for (const LabelledSentence &row : readSentences(
                      QStringLiteral(CONTACT_SOURCE_DIR "/tests/understanding/") + QString::fromUtf8(name))) {

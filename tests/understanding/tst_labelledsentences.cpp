@@ -84,7 +84,7 @@ private Q_SLOTS:
             }
         }
         qInfo("%s", qPrintable(rates.toString()));
-        QCOMPARE(rates.sentences, 7522);
+        QCOMPARE(rates.sentences, 7523);
         QCOMPARE(rates.dialogues, 1872);
         compare(rates, Own);
     }
@@ -105,7 +105,7 @@ private:
         QVERIFY(rates.negativesActedOn <= bounds.negatives);
     }
 
-    static constexpr Bounds Own = {7292, 1857, 0};
+    static constexpr Bounds Own = {7293, 1857, 0};
     static constexpr Bounds Learned = {2691, 813, 0};
     static constexpr Bounds Apart = {1308, 394, 2};
 };

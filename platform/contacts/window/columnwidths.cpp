@@ -47,7 +47,6 @@ ColumnWidths::ColumnWidths(QTableView *table, QVector<Limits> limits, int stretc
     connect(model, &QAbstractItemModel::rowsRemoved, this, &ColumnWidths::fitSoon);
     connect(model, &QAbstractItemModel::layoutChanged, this, &ColumnWidths::fitSoon);
     connect(model, &QAbstractItemModel::dataChanged, this, &ColumnWidths::fitSoon);
-    fit();
 }
 
 bool ColumnWidths::eventFilter(QObject *watched, QEvent *event)

@@ -37,7 +37,7 @@ const QRegularExpression &leavingPattern()
     return pattern;
 }
 
-/// 王磊已经在会里了, 李娜和王磊都进来了.
+/// 王磊已经在会里了, 李娜和王磊都进来了; but not 李娜来了, which may be why to start.
 const QRegularExpression &therePattern()
 {
     static const QRegularExpression pattern(
@@ -47,7 +47,7 @@ const QRegularExpression &therePattern()
     return pattern;
 }
 
-/// True for what only calls people into the conference that is going on.
+/// True for what only calls people into the conference that is going on: nobody is there before another one.
 bool isInvitation(const QString &text)
 {
     return (text.contains(QStringLiteral("邀请")) || text.contains(QChar(u'拉'))) &&

@@ -146,39 +146,27 @@ bool tellsWhatWasSet(const Reading &reading)
     });
 }
 
-/// True where the clause goes on with 开会 or 会: 是三点开会, unlike 明天是周二，帮我约个会.
-static bool speaksOfConference(const Tokens &tokens, std::size_t at)
+bool statesWhatIs(const Reading &reading)
 {
     constexpr WordClasses conference =
         WordClass::WeakOpen | WordClass::StrongOpen | WordClass::Conference | WordClass::ComeMeet;
-    while (at < tokens.size() && !tokens[at].is(WordClass::Punctuation)) {
-        if (tokens[at].isAny(conference)) {
-            return true;
-        }
-        ++at;
-    }
-    return false;
-}
-
-bool statesWhatIs(const Reading &reading)
-{
     static const QString links = QStringLiteral("和跟与同");
     static const QString subjects = QStringLiteral("我咱们俩也在"); // 我现在是三点开会
     const QString &text = reading.sentence().text();
     const Tokens &tokens = reading.tokens();
-    const auto endsSubject = [&](int end) {
-        return end == 0 || subjects.contains(text.at(end - 1)) ||
-               std::any_of(tokens.cbegin(), tokens.cend(), [end](const Token &token) {
-                   return token.end() == end && token.kind == Token::Kind::Time;
-               });
-    };
-    for (std::size_t at = 0; at < tokens.size(); ++at) {
+    bool ofConference = false; // the rest of the clause: 是三点开会, unlike 明天是周二，帮我约个会
+    for (std::size_t at = tokens.size(); at-- > 1;) {
         const Token &token = tokens[at];
+        ofConference = (ofConference || token.isAny(conference)) && !token.is(WordClass::Punctuation);
         const bool begins =
             token.kind == Token::Kind::Time || (token.length == 1 && links.contains(text.at(token.position)));
         const int copula = token.position - 1;
-        if (begins && charAt(text, copula) == QChar(u'是') && endsSubject(copula) &&
-            speaksOfConference(tokens, at)) {
+        if (!ofConference || !begins || text.at(copula) != QChar(u'是')) {
+            continue;
+        }
+        const bool behindTime =
+            tokens[at - 1].length == 1 && at > 1 && tokens[at - 2].kind == Token::Kind::Time; // 明天是和
+        if (copula == 0 || behindTime || subjects.contains(text.at(copula - 1))) {
             return true;
         }
     }
@@ -190,24 +178,27 @@ bool statesWhatIs(const Reading &reading)
 /// 让他们俩开会, 叫他们三点开会: people who have not been named.
 static bool sendsUnnamed(const Reading &reading)
 {
+    constexpr WordClasses opens = WordClass::WeakOpen | WordClass::StrongOpen | WordClass::ComeMeet;
     static const QString calls = QStringLiteral("让叫请喊");
     static const QString few = QStringLiteral("俩两三几个");
     const QString &text = reading.sentence().text();
     const Tokens &tokens = reading.tokens();
-    for (int at = 1; reading.names().empty() && at < text.size(); ++at) {
-        const int pronoun = firstOf(text, at, {u"他们", u"她们", u"他俩", u"她俩"});
-        if (pronoun == 0 || !calls.contains(text.at(at - 1))) {
+    for (std::size_t at = 1; reading.names().empty() && at < tokens.size(); ++at) {
+        const int start = tokens[at].position;
+        const int pronoun = firstOf(text, start, {u"他们", u"她们", u"他俩", u"她俩"});
+        if (pronoun == 0 || !calls.contains(text.at(start - 1))) {
             continue;
         }
-        int end = at + pronoun;
+        int end = start + pronoun;
         while (end < text.size() && few.contains(text.at(end))) {
             ++end;
         }
-        const auto behind = std::find_if(tokens.cbegin(), tokens.cend(), [end](const Token &token) {
-            return token.position >= end && token.kind != Token::Kind::Time;
-        });
-        if (behind != tokens.cend() &&
-            behind->isAny(WordClass::WeakOpen | WordClass::StrongOpen | WordClass::ComeMeet)) {
+        std::size_t next = at;
+        while (next < tokens.size() &&
+               (tokens[next].position < end || tokens[next].kind == Token::Kind::Time)) {
+            ++next;
+        }
+        if (next < tokens.size() && tokens[next].isAny(opens)) {
             return true;
         }
     }

@@ -77,8 +77,7 @@ private:
             }
             return last;
         }
-        // 李娜不去了，叫上王磊; 不让李娜参加
-        if (isAbsent(m_text, m_tokens, at) || isNegatedBefore(m_text, m_tokens, at)) {
+        if (isNegatedBefore(m_text, m_tokens, at)) { // 不让李娜参加
             return at;
         }
         if (token.kind == Token::Kind::Name) {
@@ -268,8 +267,7 @@ private:
             }
             at = behind;
             const Token &token = m_tokens[at];
-            // 邀请张伟，王磊就算了; 拉上小胖，他在宿舍
-            if (afterComma && (isAbsent(m_text, m_tokens, at) || startsRemark(at))) {
+            if (afterComma && startsRemark(at)) { // 拉上小胖，他在宿舍
                 return at;
             }
             m_lost = m_lost || isLostBefore(m_tokens, at);

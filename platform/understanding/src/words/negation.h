@@ -13,7 +13,4 @@ namespace understanding {
 /// True for 不参加了 and 不去.
 [[nodiscard]] bool isAbsence(const QString &text, const Token &token);
 
-/// True for 李娜 in 李娜不去了: an absence follows the token at @p at.
-[[nodiscard]] bool isAbsent(const QString &text, const Tokens &tokens, std::size_t at);
-
 } // namespace understanding

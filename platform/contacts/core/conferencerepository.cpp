@@ -37,6 +37,11 @@ constexpr char EndedOfUser[] = "FROM participant"
 constexpr char Ended[] = "WHERE conference.start_msecs > ? AND conference.start_msecs <= ?"
                          " AND conference.start_msecs + duration_msecs <= ?";
 
+constexpr char Seats[] = "SELECT person.user_id, person.account, name, coalesce(remark_name, ''), attendance"
+                         " FROM participant JOIN person ON person.user_id = participant.user_id"
+                         " LEFT JOIN contact ON contact.owner_id = ? AND contact.person_id = person.user_id"
+                         " WHERE conference_id = ? ORDER BY place";
+
 Conference readConference(const Statement &row)
 {
     Conference conference;
@@ -53,6 +58,29 @@ Conference readConference(const Statement &row)
     return conference;
 }
 
+/// @p seats is a statement over Seats.
+QVector<Participant> readSeats(Statement &seats, qint64 conferenceId, const QString &viewerId)
+{
+    seats.bind(viewerId).bind(conferenceId).run();
+    QVector<Participant> participants;
+    while (seats.next()) {
+        const QString remark = seats.text(3);
+        participants.append({seats.text(0), seats.text(1), remark.isEmpty() ? seats.text(2) : remark,
+                             static_cast<Attendance>(seats.smallNumber(4))});
+    }
+    return participants;
+}
+
+QVector<Participant> withoutThoseWhoLeft(QVector<Participant> participants)
+{
+    participants.erase(std::remove_if(participants.begin(), participants.end(),
+                                      [](const Participant &participant) {
+                                          return participant.attendance == Attendance::Left;
+                                      }),
+                       participants.end());
+    return participants;
+}
+
 } // namespace
 
 std::optional<Conference> ConferenceRepository::byId(qint64 id, const QString &viewerId) const
@@ -62,7 +90,7 @@ std::optional<Conference> ConferenceRepository::byId(qint64 id, const QString &v
         return std::nullopt;
     }
     Conference conference = readConference(query);
-    conference.participants = participants(id, viewerId);
+    conference.participants = withoutThoseWhoLeft(seats(id, viewerId));
     return conference;
 }
 
@@ -173,8 +201,10 @@ QVector<Conference> ConferenceRepository::readAll(Statement &query, const QStrin
     while (query.next()) {
         conferences.append(readConference(query));
     }
+    // One statement for all: preparing it takes several times as long as running it.
+    Statement seats(m_database, QLatin1String(Seats));
     for (Conference &conference : conferences) {
-        conference.participants = participants(conference.id, viewerId);
+        conference.participants = withoutThoseWhoLeft(readSeats(seats, conference.id, viewerId));
     }
     return conferences;
 }
@@ -335,31 +365,8 @@ QString ConferenceRepository::freeDialNumber() const
     throw DatabaseError(QStringLiteral("no free conference number"));
 }
 
-QVector<Participant> ConferenceRepository::participants(qint64 conferenceId, const QString &viewerId) const
-{
-    QVector<Participant> participants = seats(conferenceId, viewerId);
-    participants.erase(std::remove_if(participants.begin(), participants.end(),
-                                      [](const Participant &participant) {
-                                          return participant.attendance == Attendance::Left;
-                                      }),
-                       participants.end());
-    return participants;
-}
-
 QVector<Participant> ConferenceRepository::seats(qint64 conferenceId, const QString &viewerId) const
 {
-    Statement query(
-        m_database,
-        QStringLiteral("SELECT person.user_id, person.account, name, coalesce(remark_name, ''), attendance"
-                       " FROM participant JOIN person ON person.user_id = participant.user_id"
-                       " LEFT JOIN contact ON contact.owner_id = ? AND contact.person_id = person.user_id"
-                       " WHERE conference_id = ? ORDER BY place"));
-    query.bind(viewerId).bind(conferenceId).run();
-    QVector<Participant> participants;
-    while (query.next()) {
-        const QString remark = query.text(3);
-        participants.append({query.text(0), query.text(1), remark.isEmpty() ? query.text(2) : remark,
-                             static_cast<Attendance>(query.smallNumber(4))});
-    }
-    return participants;
+    Statement query(m_database, QLatin1String(Seats));
+    return readSeats(query, conferenceId, viewerId);
 }

@@ -70,7 +70,6 @@ public:
 
 private:
     QString freeDialNumber() const;
-    QVector<Participant> participants(qint64 conferenceId, const QString &viewerId) const;
     QVector<Conference> readAll(Statement &query, const QString &viewerId) const;
 
     QSqlDatabase m_database;

@@ -27,6 +27,8 @@ private Q_SLOTS:
 
 protected:
     static constexpr int Count = 100000;
+    /// One frame at 60 frames per second.
+    static constexpr double FrameMsecs = 16;
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     static constexpr double Slower = 10; // still far below one pass over everything
 #else
@@ -35,11 +37,9 @@ protected:
     /// How much slower the machine is than one that does nothing else, at least 1: the larger of what this
     /// call and the one before measured. On a shared machine, other work slows down even processor time.
     double slowness();
-    /// One frame at 60 frames per second, on a machine that does nothing else.
-    double mostShownMsecs() { return 16 * Slower * slowness(); }
 
     TablePage *page(int index) const;
-    /// Measures the window's update after a change, including painting. Negative if there is no update.
+    /// Measures the window's update after a change, including painting. Negative if nothing is painted.
     double showMsecs();
 
     std::unique_ptr<SampleWorld> m_world;

@@ -5,6 +5,7 @@
 #include "cardhost.h"
 #include "cardsamples.h"
 #include "conferencemsgstaticwidget.h"
+#include "paintcounter.h"
 #include "testcolumns.h"
 
 #include <lumo/lspinbox.h>
@@ -34,26 +35,6 @@ private Q_SLOTS:
 namespace {
 
 using Ask = void (*)(ConferenceMsgStaticWidget &);
-
-/// Counts how often a widget is painted.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QObject *watched) { watched->installEventFilter(this); }
-    int count() const { return m_count; }
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint) {
-            ++m_count;
-        }
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    int m_count = 0;
-};
 
 bool isWaitCursor()
 {

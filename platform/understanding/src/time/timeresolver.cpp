@@ -95,6 +95,10 @@ ResolvedTime momentOf(QDate day, int minutes)
     const int days = minutes >= MinutesPerDay ? 1 : minutes < 0 ? -1 : 0;
     const int ofDay = minutes - days * MinutesPerDay;
     resolved.date = day.addDays(days);
+    constexpr int lastYear = 9999; // that four digits can say
+    if (resolved.date.year() > lastYear) {
+        return problem(ResolvedTime::Problem::NoSuchDate);
+    }
     resolved.time = QTime(ofDay / MinutesPerHour, ofDay % MinutesPerHour);
     return resolved;
 }

@@ -5,7 +5,6 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QStringList>
 
 #include <algorithm>
 
@@ -16,41 +15,52 @@ namespace understanding {
 
 namespace {
 
-bool isLeftToQt(QChar character)
+bool isPlain(QChar character)
 {
-    return character < QLatin1Char(' ') || character.isSurrogate();
+    return character >= QLatin1Char(' ') && character != QLatin1Char('"') && character != QLatin1Char('\\') &&
+           !character.isSurrogate();
 }
 
-/// Returns @p text as a JSON string with its quotes.
-QString quoted(QString text)
+/// Appends @p text as a JSON string with its quotes.
+void appendQuoted(QString &json, const QString &text)
 {
-    if (std::any_of(text.cbegin(), text.cend(), isLeftToQt)) {
-        const QByteArray array = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
-        return QString::fromUtf8(array.mid(1, array.size() - 2)); // without the brackets
+    if (std::all_of(text.cbegin(), text.cend(), isPlain)) {
+        json += QLatin1Char('"');
+        json += text;
+        json += QLatin1Char('"');
+        return;
     }
-    text.replace(QLatin1Char('\\'), QLatin1String(R"(\\)"));
-    text.replace(QLatin1Char('"'), QLatin1String(R"(\")"));
-    return QLatin1Char('"') + text + QLatin1Char('"');
+    const QByteArray array = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
+    json += QString::fromUtf8(array.mid(1, array.size() - 2)); // without the brackets
 }
 
 } // namespace
 
 QString commandJson(const Outcome &outcome)
 {
-    QStringList slotTexts;
+    constexpr int usualLength = 400;
+    QString json;
+    json.reserve(usualLength);
+    json += QLatin1String(R"({"intent":{"semantic":[{"intent":)");
+    appendQuoted(json, outcome.intent);
+    json += QLatin1String(R"(,"slots":[)");
     for (const Slot &slot : outcome.slotList) {
-        slotTexts.append(QLatin1String(R"({"name":)") + quoted(slot.name) +
-                         QLatin1String(R"(,"normValue":)") + quoted(slot.normValue) +
-                         QLatin1String(R"(,"value":)") + quoted(slot.value) + QLatin1Char('}'));
+        json += QLatin1String(&slot == outcome.slotList.cbegin() ? R"({"name":)" : R"(,{"name":)");
+        appendQuoted(json, slot.name);
+        json += QLatin1String(R"(,"normValue":)");
+        appendQuoted(json, slot.normValue);
+        json += QLatin1String(R"(,"value":)");
+        appendQuoted(json, slot.value);
+        json += QLatin1Char('}');
     }
-    return QLatin1String(R"({"intent":{"semantic":[{"intent":)") + quoted(outcome.intent) +
-           QLatin1String(R"(,"slots":[)") + slotTexts.join(QLatin1Char(',')) +
-           QLatin1String(R"(]}],"shouldEndSession":true}})");
+    json += QLatin1String(R"(]}],"shouldEndSession":true}})");
+    return json;
 }
 
 QString answerJson(const QString &text)
 {
-    const QString content = quoted(text);
+    QString content;
+    appendQuoted(content, text);
     return QLatin1String(R"({"intent":{"answer":{"text":)") + content +
            QLatin1String(R"(},"semantic":[],"shouldEndSession":false,"voice_answer":[{"content":)") +
            content + QLatin1String(R"(,"type":"TTS"}]}})");

@@ -7,6 +7,7 @@
 #include "dialogue/peoplechange.h"
 #include "meaning/intentrules.h"
 #include "meaning/suspicions.h"
+#include "text/characterset.h"
 
 #include <QStringList>
 
@@ -71,7 +72,7 @@ bool isReasonForYes(const Reading &clause)
 /// 麻烦了, 谢谢: nothing but politeness, and no delay like 再等等.
 bool isPolite(const Reading &clause)
 {
-    static const QString delays = QStringLiteral("再等晚稍");
+    static const CharacterSet delays(u"再等晚稍");
     const QString &text = clause.sentence().text();
     return !clause.has(WordClass::UnclearSoon) &&
            std::none_of(text.cbegin(), text.cend(),

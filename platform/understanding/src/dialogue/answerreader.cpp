@@ -7,6 +7,7 @@
 #include "meaning/interpreter.h"
 #include "meaning/suspicions.h"
 #include "names/namelook.h"
+#include "text/characterset.h"
 #include "text/chinesenumber.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
@@ -30,7 +31,7 @@ constexpr WordClasses SurroundingWords =
 
 bool isSmallTalkParticle(const Sentence &sentence, const Token &token)
 {
-    static const QString particles = QStringLiteral("的号是呢哦啊呀吧就定在先只这一次那呗要从改开约了选见");
+    static const CharacterSet particles(u"的号是呢哦啊呀吧就定在先只这一次那呗要从改开约了选见");
     static const QStringList objections = {QStringLiteral("不过"), QStringLiteral("但是"),
                                            QStringLiteral("但")}; // 好，不过四点
     const QString text = sentence.text().mid(token.position, token.length);

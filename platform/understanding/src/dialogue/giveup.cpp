@@ -3,6 +3,8 @@
 
 #include "dialogue/giveup.h"
 
+#include "text/characterset.h"
+
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -103,7 +105,7 @@ bool givesUp(const Reading &reading, const Outcome &fresh)
 
 bool callsOff(const Reading &reading)
 {
-    static const QString leaving = QStringLiteral("退离散结束挂关");
+    static const CharacterSet leaving(u"退离散结束挂关");
     const QString &text = reading.sentence().text();
     return text.contains(QStringLiteral("不开")) &&
            std::none_of(text.cbegin(), text.cend(),

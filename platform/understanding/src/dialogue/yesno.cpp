@@ -3,6 +3,7 @@
 
 #include "dialogue/yesno.h"
 
+#include "text/characterset.h"
 #include "text/rulefile.h"
 
 #include <QHash>
@@ -27,7 +28,7 @@ YesNo readYesNo(const Sentence &sentence)
         }
         return loaded;
     }();
-    static const QString particles = QStringLiteral("吧啊呀呢哦啦哈嘞呗会议");
+    static const CharacterSet particles(u"吧啊呀呢哦啦哈嘞呗会议");
     if (sentence.text().endsWith(QLatin1Char('?'))) { // 嗯？
         return YesNo::Unclear;
     }

@@ -6,6 +6,7 @@
 #include "meaning/outcome.h"
 #include "meaning/suspicions.h"
 #include "names/namelook.h"
+#include "text/characterset.h"
 
 #include <algorithm>
 
@@ -124,12 +125,12 @@ private:
     /// 麻烦你, 你给我, 那就帮我, 助手, 你去拉, 会议号是.
     bool isPlea(std::size_t at) const
     {
-        static const QString leading = QStringLiteral("你您那就还是先快去再赶紧");
+        static const CharacterSet leading(u"你您那就还是先快去再赶紧");
         const auto leads = [&](const Token &token) { // 那就 also asks for something
             const bool plea = token.is(WordClass::Request) && m_text.at(token.position) != QChar(u'那');
             return token.length <= 2 && !plea && leading.contains(m_text.at(token.position));
         };
-        static const QString addressed = QStringLiteral("你您");
+        static const CharacterSet addressed(u"你您");
         constexpr WordClasses deeds = WordClass::Pull | WordClass::Trigger | WordClass::Invite |
                                       WordClass::Join | WordClass::WeakJoin | WordClass::Add |
                                       WordClass::StrongOpen | WordClass::WeakOpen | WordClass::Close |
@@ -140,7 +141,7 @@ private:
                           (m_tokens[at].length == 1 && addressed.contains(m_text.at(m_tokens[at].position)));
             ++at;
         }
-        static const QString pleas = QStringLiteral("帮请麻劳烦拜给替把让辛托");
+        static const CharacterSet pleas(u"帮请麻劳烦拜给替把让辛托");
         if (at >= m_tokens.size() || m_tokens[at].inName) {
             return false;
         }
@@ -162,7 +163,7 @@ private:
     {
         constexpr WordClasses telling = WordClass::Reported | WordClass::Actor | WordClass::Negation |
                                         WordClass::Framed | WordClass::Lunar | WordClass::Festival;
-        static const QString ends = QStringLiteral("了过呢的着");
+        static const CharacterSet ends(u"了过呢的着");
         return ends.contains(lastOf(clause)) || any(clause, [&](const Token &token) {
                    return token.isAny(telling) || token.time.isPastDay() || isNegated(token) ||
                           (token.length == 1 && m_text.at(token.position) == QChar(u'了')); // 掉了两次线
@@ -172,7 +173,7 @@ private:
     /// 不退 in 我不退会, 到不齐 in 人也到不齐.
     bool isNegated(const Token &token) const
     {
-        static const QString negations = QStringLiteral("不没");
+        static const CharacterSet negations(u"不没");
         const auto first = m_text.cbegin() + token.position;
         return !token.inName && token.kind == Token::Kind::Other &&
                std::any_of(first, first + token.length,

@@ -5,6 +5,7 @@
 
 #include "names/headreader.h"
 #include "names/namecharacters.h"
+#include "text/characterset.h"
 #include "text/scan.h"
 
 #include <algorithm>
@@ -24,8 +25,8 @@ bool isSpeaker(const Reading &reading, const Token &token)
 /// 兄弟, 那谁: somebody, but unclear who.
 bool standsForName(const Reading &reading, const Token &token)
 {
-    static const QString vague = QStringLiteral("那某谁");
-    static const QString referring = QStringLiteral("他她"); // to somebody who was never named
+    static const CharacterSet vague(u"那某谁");
+    static const CharacterSet referring(u"他她"); // to somebody who was never named
     const std::vector<FoundName> &names = reading.names();
     const bool unnamed = token.length == 1 && (names.empty() || names.front().position > token.position) &&
                          referring.contains(reading.sentence().text().at(token.position));
@@ -149,7 +150,7 @@ bool pullsOther(const Reading &reading)
         const bool people = tokens[at].is(WordClass::Invite) &&
                             reading.sentence().text().at(tokens[at].end() - 1) == QChar(u'人'); // 拉人
         const Token *pulled = pulledBy(reading, at);
-        static const QString assistants = QStringLiteral("你您"); // 号给你，123456
+        static const CharacterSet assistants(u"你您"); // 号给你，123456
         return people || (pulled != nullptr && !isSpeaker(reading, *pulled) &&
                           !assistants.contains(reading.sentence().text().at(pulled->position)));
     });

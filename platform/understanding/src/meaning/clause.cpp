@@ -6,6 +6,7 @@
 #include "meaning/outcome.h"
 #include "names/headreader.h"
 #include "names/namelook.h"
+#include "text/characterset.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
 #include "words/negation.h"
@@ -103,8 +104,8 @@ bool Clause::tellsNumber() const
 
 bool Clause::isAddressing() const
 {
-    static const QString serving = QStringLiteral("帮麻请给劳替");
-    static const QString addressing = QStringLiteral("你您"); // 小李，你先退会吧 is said to somebody else
+    static const CharacterSet serving(u"帮麻请给劳替");
+    static const CharacterSet addressing(u"你您"); // 小李，你先退会吧 is said to somebody else
     const QString &text = m_reading.sentence().text();
     if (m_end + 1 >= m_tokens.size() || !m_tokens[m_end].is(WordClass::Punctuation)) {
         return false;
@@ -237,7 +238,7 @@ bool Clause::isSomebodyElses() const
 bool Clause::isSomebody(const Token &token) const
 {
     // 我 and everybody may be told to do something.
-    static const QString addressed = QStringLiteral("我咱俺你您大各全所诸在本自谁一");
+    static const CharacterSet addressed(u"我咱俺你您大各全所诸在本自谁一");
     return token.length > 1 && token.isAny(WordClass::Title | WordClass::Nobody) &&
            !token.isAny(WordClass::Address | WordClass::Buddy) &&
            !addressed.contains(m_reading.sentence().text().at(token.position));
@@ -269,10 +270,10 @@ bool Clause::hasOtherSubject() const
              (at == m_begin && isStranger(token) && !isGroupTitle(at)))) {
             subject = at;
         }
-        static const QString joining = QStringLiteral("和跟与同约叫让喊");
+        static const CharacterSet joining(u"和跟与同约叫让喊");
         joined = joined || (subject < at && !token.inName &&
                             joining.contains(m_reading.sentence().text().at(token.position)));
-        static const QString modals = QStringLiteral("要想会得");
+        static const CharacterSet modals(u"要想会得");
         joined = joined || modals.contains(charAt(m_reading.sentence().text(), token.position - 1));
         const bool listed = m_reading.names().size() > 1 && !joined;
         return subject < at && !listed && !token.inName && token.isAny(m_allowed.anchors) &&

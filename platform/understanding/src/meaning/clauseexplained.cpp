@@ -7,6 +7,7 @@
 #include "meaning/outcome.h"
 #include "names/namecharacters.h"
 #include "names/namelook.h"
+#include "text/characterset.h"
 #include "text/chinesenumber.h"
 #include "text/scan.h"
 
@@ -69,7 +70,7 @@ bool Clause::isOfName(std::size_t at) const
 bool Clause::isPieceOfTime(std::size_t at) const
 {
     // 后个儿头晌: a day that was not read, right before a time.
-    static const QString days = QStringLiteral("天日周晌个");
+    static const CharacterSet days(u"天日周晌个");
     const bool unreadDay = m_tokens[at].kind == Token::Kind::Other && !m_tokens[at].inName &&
                            at + 1 < m_end && m_tokens[at + 1].kind == Token::Kind::Time &&
                            days.contains(m_reading.sentence().text().at(m_tokens[at].end() - 1));
@@ -80,7 +81,7 @@ bool Clause::isPieceOfTime(std::size_t at) const
     if (token.inName) {
         return false;
     }
-    static const QString pieces = QStringLiteral("午点刻半");
+    static const CharacterSet pieces(u"午点刻半");
     if (token.kind == Token::Kind::Other) {
         const QString text = textOf(token);
         return !text.contains(QLatin1Char('.')) &&
@@ -194,7 +195,7 @@ bool Clause::isTitleBeforeVerb(std::size_t at) const
 /// 小组, 车间, 党支部, 学生会, 高三.
 static bool isGroup(const QString &said)
 {
-    static const QString schools = QStringLiteral("高初");
+    static const CharacterSet schools(u"高初");
     const bool form = said.size() == 2 && schools.contains(said.at(0)) && digitValue(said.at(1)) > 0;
     static const QStringList unions = {QStringLiteral("委会"), QStringLiteral("员会"),
                                        QStringLiteral("学生会"), QStringLiteral("工会")}; // but not 不会
@@ -202,7 +203,7 @@ static bool isGroup(const QString &said)
         std::any_of(unions.cbegin(), unions.cend(), [&](const QString &end) { return said.endsWith(end); });
     const bool inside = said.size() > 1 && said.endsWith(QChar(u'里')); // 科里
     const int last = said.size() - (inside ? 2 : 1);
-    static const QString places = QStringLiteral("场馆铺行村镇庭"); // 农场, 茶馆
+    static const CharacterSet places(u"场馆铺行村镇庭"); // 农场, 茶馆
     return form || united ||
            (said.size() > 1 && (endsGroup(said.at(last)) || places.contains(said.at(last))));
 }

@@ -6,6 +6,7 @@
 #include "meaning/outcome.h"
 #include "meaning/suspicions.h"
 #include "names/namelook.h"
+#include "text/characterset.h"
 #include "text/scan.h"
 
 #include <algorithm>
@@ -68,7 +69,7 @@ bool Clause::asksAboutConference() const
                            return about;
                        }) ||
            any([&](std::size_t at) {
-               static const QString wanted = QStringLiteral("么啥少个些");
+               static const CharacterSet wanted(u"么啥少个些");
                const Token &token = m_tokens[at];
                const bool whoCame = token.is(WordClass::Join) && token.is(WordClass::Conference) &&
                                     charAt(text, token.end()) == QChar(u'了'); // 张伟进会了没
@@ -81,7 +82,7 @@ bool Clause::asksAboutConference() const
                }
                const QChar next = charAt(text, token.end());
                const QChar room = at + 1 < m_end ? text.at(m_tokens[at + 1].end() - 1) : QChar();
-               static const QString verbs = QStringLiteral("备带穿做干吃说讲聊谈用交写填");
+               static const CharacterSet verbs(u"备带穿做干吃说讲聊谈用交写填");
                return next == QChar(u'人') || room == QChar(u'室') ||
                       verbs.contains(charAt(text, token.position - 1)); // 明天的会要准备什么
            });
@@ -114,7 +115,7 @@ bool Clause::isQuestion() const
 
 bool Clause::tellsWhyCalled() const
 {
-    static const QString called = QStringLiteral("他她");
+    static const CharacterSet called(u"他她");
     const QString &text = m_reading.sentence().text();
     return m_begin + 1 < m_end && m_tokens[m_begin].is(WordClass::Actor) &&
            called.contains(text.at(m_tokens[m_begin].position)) &&
@@ -124,12 +125,12 @@ bool Clause::tellsWhyCalled() const
 
 bool Clause::isCalledAway() const
 {
-    static const QString calling = QStringLiteral("叫喊找让催约请");
+    static const CharacterSet calling(u"叫喊找让催约请");
     const QString &text = m_reading.sentence().text();
     bool somebody = false;
     for (std::size_t at = m_begin; at + 1 < m_end; ++at) {
         const Token &token = m_tokens[at];
-        static const QString going = QStringLiteral("下去回来吃接拿上过"); // 我下楼 taken for a name
+        static const CharacterSet going(u"下去回来吃接拿上过"); // 我下楼 taken for a name
         const QString whom = textOf(m_tokens[at + 1]);
         const bool speaker = whom == QStringLiteral("我") ||
                              (whom.startsWith(QChar(u'我')) && whom.size() > 1 && going.contains(whom.at(1)));
@@ -173,7 +174,7 @@ bool Clause::isAskedFor() const
         if (!token.is(WordClass::Request) || token.inName) {
             return false;
         }
-        static const QString disposing = QStringLiteral("把将请");
+        static const CharacterSet disposing(u"把将请");
         const QChar last = text.at(token.end() - 1);
         const QString before = at > m_begin ? textOf(m_tokens[at - 1]) : QString();
         const bool byMyself = disposing.contains(last) && // 我把会议关了, 我请了李娜进会 only tell
@@ -211,7 +212,7 @@ bool Clause::isFinished() const
     if (m_isQuery && has(ListingWords)) { // 我查过会议了
         return any([&](std::size_t at) {
             const Token &token = m_tokens[at];
-            static const QString looked = QStringLiteral("了过");
+            static const CharacterSet looked(u"了过");
             const QChar next = charAt(text, token.end());
             return (token.is(WordClass::Query) && looked.contains(next)) ||
                    (token.is(WordClass::Schedule) && !m_reading.hasAny(AskingWords) && // 会议预约好了
@@ -231,7 +232,7 @@ bool Clause::isFinished() const
         if (!deed || (!token.isAny(m_allowed.anchors) && !token.is(WordClass::OpenParticle))) {
             return false;
         }
-        static const QString done = QStringLiteral("了过");
+        static const CharacterSet done(u"了过");
         const bool purposeFollows = at + 1 < m_end && m_tokens[at + 1].inTopic; // 开会过报价
         return done.contains(text.at(token.end() - 1)) || textOf(token) == QStringLiteral("了吧") ||
                (token.end() < text.size() && !purposeFollows && done.contains(text.at(token.end())));

@@ -8,10 +8,13 @@
 #include "meaning/suspicions.h"
 #include "names/headreader.h"
 #include "names/namelook.h"
+#include "text/characterset.h"
 #include "text/scan.h"
 
+#include <QHash>
+#include <QVector>
+
 #include <algorithm>
-#include <iterator>
 
 namespace understanding {
 
@@ -128,11 +131,11 @@ bool callsForNothing(const Reading &reading)
     }
     const bool clear = std::all_of(names.cbegin(), names.cend(),
                                    [](const FoundName &name) { return isClearlySomebody(name.name); });
-    static const QString telling = QStringLiteral("通让请联找");
+    static const CharacterSet telling(u"通让请联找");
     bool told = false;
     bool furtherDeed = false; // behind the last name
     const int end = names.back().position + names.back().said.size();
-    static const QString deeds = QStringLiteral("等稍先别把");
+    static const CharacterSet deeds(u"等稍先别把");
     for (const Token &token : reading.tokens()) {
         const QChar first = reading.sentence().text().at(token.position);
         told = told || (token.is(WordClass::Trigger) && !token.inName && telling.contains(first));
@@ -141,7 +144,7 @@ bool callsForNothing(const Reading &reading)
     }
     const QString &text = reading.sentence().text();
     const bool toldBehindPronoun = std::any_of(names.cbegin(), names.cend(), [&](const FoundName &name) {
-        static const QString pronouns = QStringLiteral("他她"); // 让他先忙
+        static const CharacterSet pronouns(u"他她"); // 让他先忙
         return pronouns.contains(charAt(text, name.start - 1)) && !isPersonsName(name.name);
     });
     bool adjacent = false;
@@ -195,7 +198,7 @@ bool isHeldInRoom(const Reading &reading)
     const QString &text = reading.sentence().text();
     const int room = text.indexOf(QStringLiteral("室"));
     int before = room < 0 ? -1 : text.lastIndexOf(QChar(u'在'), room);
-    static const QString adverbs = QStringLiteral("现正实"); // 现在
+    static const CharacterSet adverbs(u"现正实"); // 现在
     while (before > 0 && adverbs.contains(text.at(before - 1))) {
         before = text.lastIndexOf(QChar(u'在'), before - 1);
     }
@@ -222,11 +225,12 @@ bool returnsRoom(const Reading &reading)
 /// 结束 in 开个结束会, 查询 in 开个查询会议: only the kind of a conference that is to be opened.
 bool opensOfKind(const Reading &reading)
 {
-    static const QString opening = QStringLiteral("开建约办");
+    static const CharacterSet opening(u"开建约办");
     const Tokens &tokens = reading.tokens();
     for (std::size_t at = 2; at < tokens.size(); ++at) {
         if (tokens[at].isAny(WordClass::Close | WordClass::Query) && tokens[at - 1].is(WordClass::Measure) &&
-            tokens[at - 2].length == 1 && opening.contains(textOf(reading, tokens[at - 2]))) {
+            tokens[at - 2].length == 1 &&
+            opening.contains(reading.sentence().text().at(tokens[at - 2].position))) {
             return true;
         }
     }
@@ -248,69 +252,40 @@ bool tellsOnlyEnd(const Reading &reading)
     return reading.tellsOnlyEnd();
 }
 
-constexpr struct
+using Doubt = bool (*)(const Reading &);
+
+const QVector<Doubt> &doubtsAbout(const QString &intent)
 {
-    const char *intent;
-    bool (*isDoubtful)(const Reading &);
-} Doubts[] = {
-    {CreateConference, asksWho}, // 明天开会谁主持
-    {CreateConference, tellsBeginning},
-    {CreateConference, tellsWhen},
-    {QueryConference, tellsWhen},
-    {CreateConference, onlyTalks},
-    {CreateConference, isHeldInRoom},
-    {CreateConference, sendsSomebody},
-    {CreateConference, reminds},
-    {CreateConference, tellsAgreement},
-    {CreateConference, tellsWhatWasSet},
-    {CreateConference, statesWhatIs},
-    {CreateConference, sendsOthersOnly},
-    {CreateConference, callsStranger},
-    {CreateConference, mentionsStranger},
-    {CreateConference, onlySpeaksOf},
-    {CreateConference, tellsOnlyEnd},
-    {CreateConference, asksAbility},
-    {CreateConference, namesNoConference},
-    {CreateConference, onlyNamesRoom},
-    {CreateConference, onlyNamesConference},
-    {CreateConference, alsoAddsFriend},
-    {CreateConference, comesSomeDay},
-    {CloseConference, asksWhetherMay},
-    {CreateConference, asksWhetherMay},
-    {CreateConference, isBusyThen},
-    {CreateConference, leavesOpenWhoComes},
-    {InviteConference, leavesOpenWhoComes},
-    {EnterConferenceById, isPassedOn},
-    {CloseConference, isPassedOn},
-    {CloseConference, alsoCalls},
-    {InviteConference, sendsSomebody},
-    {InviteConference, sendsOthersOnly},
-    {InviteConference, callsForNothing},
-    {InviteConference, asksWho},
-    {EnterConferenceById, tellsWhoseNumber},
-    {EnterConferenceById, comesLater},
-    {EnterMyConference, asksWho},
-    {EnterMyConference, asksHowMany},
-    {EnterMyConference, alsoInvites},
-    {CloseConference, asksWho},
-    {CloseConference, returnsRoom},
-    {CloseConference, opensOfKind},
-    {QueryConference, opensOfKind},
-    {InviteConference, comesLater},
-    {CreateConference, holdsLooseNumber},
-    {InviteConference, holdsLooseNumber},
-    {CreateConference, holdsRestOfTime},
-    {AddBuddy, onlyMentionsFriend},
-};
+    static const QHash<QString, QVector<Doubt>> doubts = {
+        {QLatin1String(CreateConference),
+         {asksWho,         tellsBeginning,    tellsWhen,        onlyTalks,           isHeldInRoom,
+          sendsSomebody,   reminds,           tellsAgreement,   tellsWhatWasSet,     statesWhatIs,
+          sendsOthersOnly, callsStranger,     mentionsStranger, onlySpeaksOf,        tellsOnlyEnd,
+          asksAbility,     namesNoConference, onlyNamesRoom,    onlyNamesConference, alsoAddsFriend,
+          comesSomeDay,    asksWhetherMay,    isBusyThen,       leavesOpenWhoComes,  holdsLooseNumber,
+          holdsRestOfTime}},
+        {QLatin1String(QueryConference), {tellsWhen, opensOfKind}},
+        {QLatin1String(CloseConference),
+         {asksWhetherMay, isPassedOn, alsoCalls, asksWho, returnsRoom, opensOfKind}},
+        {QLatin1String(InviteConference),
+         {leavesOpenWhoComes, sendsSomebody, sendsOthersOnly, callsForNothing, asksWho, comesLater,
+          holdsLooseNumber}},
+        {QLatin1String(EnterConferenceById), {isPassedOn, tellsWhoseNumber, comesLater}},
+        {QLatin1String(EnterMyConference), {asksWho, asksHowMany, alsoInvites}},
+        {QLatin1String(AddBuddy), {onlyMentionsFriend}},
+    };
+    static const QVector<Doubt> none;
+    const auto row = doubts.constFind(intent);
+    return row == doubts.cend() ? none : *row;
+}
 
 } // namespace
 
 bool isAboutSomethingElse(const Reading &reading, const QString &intent)
 {
+    const QVector<Doubt> &doubts = doubtsAbout(intent);
     return isForLater(reading, intent) ||
-           std::any_of(std::begin(Doubts), std::end(Doubts), [&](const auto &doubt) {
-               return intent == QLatin1String(doubt.intent) && doubt.isDoubtful(reading);
-           });
+           std::any_of(doubts.cbegin(), doubts.cend(), [&](Doubt holds) { return holds(reading); });
 }
 
 } // namespace understanding

@@ -6,6 +6,7 @@
 #include "meaning/callings.h"
 #include "meaning/suspicions.h"
 #include "names/namelook.h"
+#include "text/characterset.h"
 #include "text/rulefile.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
@@ -147,7 +148,7 @@ bool isOfConference(const Reading &reading)
 /// Nothing but words of the rules and times: 查一下下周三.
 bool isBare(const Reading &reading)
 {
-    static const QString particles = QStringLiteral("的了");
+    static const CharacterSet particles(u"的了");
     return std::all_of(reading.tokens().cbegin(), reading.tokens().cend(), [&](const Token &token) {
         return token.kind == Token::Kind::Word || token.kind == Token::Kind::Time ||
                token.kind == Token::Kind::Space ||

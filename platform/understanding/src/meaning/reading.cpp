@@ -9,6 +9,7 @@
 #include "names/namecharacters.h"
 #include "names/personwords.h"
 #include "names/pronouns.h"
+#include "text/characterset.h"
 #include "text/chinesenumber.h"
 #include "text/scan.h"
 #include "words/clausereader.h"
@@ -89,7 +90,7 @@ void Reading::markNames()
 
 bool Reading::namesOtherWeek() const
 {
-    static const QString others = QStringLiteral("下上过前隔最第");
+    static const CharacterSet others(u"下上过前隔最第");
     return std::any_of(m_tokens.cbegin(), m_tokens.cend(), [&](const Token &token) {
         return token.is(WordClass::UnclearDay) && others.contains(m_sentence.text().at(token.position));
     });
@@ -262,8 +263,8 @@ int Reading::strangeLength() const
 /// 一二三百四: what touches a string of digits may belong to it.
 bool Reading::isCutOff(std::size_t number) const
 {
-    static const QString mayFollow = QStringLiteral("的号是这那吧呢啊呀哦个会为和就给加进入我,");
-    static const QString mayBelong = QStringLiteral("十百千万亿两俩廿卅点");
+    static const CharacterSet mayFollow(u"的号是这那吧呢啊呀哦个会为和就给加进入我,");
+    static const CharacterSet mayBelong(u"十百千万亿两俩廿卅点");
     const QString &text = m_sentence.text();
     const Token &token = m_tokens[number];
     if (number > 0 && m_tokens[number - 1].end() == token.position) {
@@ -352,14 +353,14 @@ void Reading::collectOpenVerb()
 {
     int best = 0;
     for (const Token &token : m_tokens) {
-        if (token.inTopic) {
+        constexpr WordClasses opening =
+            WordClass::StrongOpen | WordClass::WeakOpen | WordClass::GoverningOpen;
+        if (token.inTopic || !token.isAny(opening)) {
             continue;
         }
-        const bool pulls =
-            token.length == 1 && QStringLiteral("约拉来").contains(m_sentence.text().at(token.position));
-        const int rank = token.isAny(WordClass::StrongOpen)                            ? 3
-                         : token.isAny(WordClass::WeakOpen | WordClass::GoverningOpen) ? (pulls ? 1 : 2)
-                                                                                       : 0;
+        static const CharacterSet pulling(u"约拉来");
+        const bool pulls = token.length == 1 && pulling.contains(m_sentence.text().at(token.position));
+        const int rank = token.is(WordClass::StrongOpen) ? 3 : pulls ? 1 : 2;
         if (rank > best) {
             best = rank;
             const bool once =

@@ -4,6 +4,7 @@
 #include "meaning/remarks.h"
 
 #include "names/absences.h"
+#include "text/characterset.h"
 #include "text/sentence.h"
 #include "time/timereader.h"
 
@@ -18,7 +19,11 @@ namespace {
 // Possessive, so that no clause is read in more ways than one.
 constexpr char16_t Fill[] = u"(?:[就先也又还都刚正]|临时|这次|已经|现在|这会儿|正好|刚好|那天)*+";
 constexpr char16_t Ends[] = u"[了吧啊呀的啦呢]*$";
-constexpr QStringView Signs = u",.;:!~";
+const CharacterSet &signs()
+{
+    static const CharacterSet signs(u",.;:!~");
+    return signs;
+}
 
 /// What stands behind the time, or behind the lead: 李娜不来了, 我有事.
 const QRegularExpression &tellingPattern()
@@ -121,7 +126,7 @@ TimePart findTime(const QString &clause)
     if (middle > 0 && middle + 1 < part.end && !span) { // read as one time, which begins with the first
         part.when.to = readTime(clause, middle + 1).expression;
     }
-    static const QString bounds = QStringLiteral("前后");
+    static const CharacterSet bounds(u"前后");
     const QChar last = part.isEmpty() ? QChar() : clause.at(part.end - 1);
     if (bounds.contains(last) && !part.when.from.hasOffset) { // 三点之前
         part.when.bound = last;
@@ -167,8 +172,8 @@ public:
         if (!told || m_order.isEmpty()) {
             return {};
         }
-        static const QString signs = QStringLiteral(",.;:!~，。；：！～… ");
-        while (!m_order.isEmpty() && signs.contains(m_order.back())) {
+        static const CharacterSet ends(u",.;:!~，。；：！～… ");
+        while (!m_order.isEmpty() && ends.contains(m_order.back())) {
             m_order.chop(1);
         }
         resolvePronoun();
@@ -183,7 +188,7 @@ private:
         const bool inNumber = at > 0 && at + 1 < m_text.size() && m_text.at(at - 1).isDigit() &&
                               m_text.at(at + 1).isDigit() &&
                               (m_text.at(at) == QLatin1Char(':') || m_text.at(at) == QLatin1Char('.'));
-        return Signs.contains(m_text.at(at)) && !inNumber;
+        return signs().contains(m_text.at(at)) && !inNumber;
     }
 
     int endOfClause(int begin) const
@@ -291,11 +296,14 @@ private:
     /// 李娜三点没空，约她四点: calls whom the remark was about.
     void resolvePronoun()
     {
-        static const QRegularExpression called(QStringLiteral("^[^,.;:!]*[约叫跟和与拉请找]([他她])(?!们)"));
-        const QRegularExpressionMatch match = called.match(Sentence(m_order).text());
         const bool leftOut = std::any_of(m_remarks.absent.cbegin(), m_remarks.absent.cend(),
                                          [](const Remarks::Person &person) { return person.leftOut; });
-        if (m_told.size() == 1 && match.hasMatch() && !leftOut) {
+        if (m_told.size() != 1 || leftOut) {
+            return;
+        }
+        static const QRegularExpression called(QStringLiteral("^[^,.;:!]*[约叫跟和与拉请找]([他她])(?!们)"));
+        const QRegularExpressionMatch match = called.match(Sentence(m_order).text());
+        if (match.hasMatch()) {
             m_order.replace(match.capturedStart(1), 1, m_told.first());
             m_remarks.absent.clear();
         }
@@ -316,9 +324,7 @@ private:
 
 Remarks findRemarks(const QString &sentence, const QString &text, const ContactIndex &contacts)
 {
-    const bool several =
-        std::find_first_of(text.cbegin(), text.cend(), Signs.cbegin(), Signs.cend()) != text.cend();
-    return several && (isInvitation(text) || hasWordOfAbsence(text))
+    return signs().meets(text) && (isInvitation(text) || hasWordOfAbsence(text))
                ? RemarkReader(sentence, text, contacts).run()
                : Remarks();
 }

@@ -5,6 +5,7 @@
 
 #include "meaning/allowedwords.h"
 #include "meaning/outcome.h"
+#include "text/characterset.h"
 #include "text/scan.h"
 
 #include <algorithm>
@@ -130,7 +131,7 @@ bool tellsAgreement(const Reading &reading)
 
 bool tellsWhatWasSet(const Reading &reading)
 {
-    static const QString settling = QStringLiteral("约定订");
+    static const CharacterSet settling(u"约定订");
     const QString &text = reading.sentence().text();
     const Tokens &tokens = reading.tokens();
     if (text.contains(QStringLiteral("来着"))) {
@@ -150,8 +151,8 @@ bool statesWhatIs(const Reading &reading)
 {
     constexpr WordClasses conference =
         WordClass::WeakOpen | WordClass::StrongOpen | WordClass::Conference | WordClass::ComeMeet;
-    static const QString links = QStringLiteral("和跟与同");
-    static const QString subjects = QStringLiteral("我咱们俩也在"); // 我现在是三点开会
+    static const CharacterSet links(u"和跟与同");
+    static const CharacterSet subjects(u"我咱们俩也在"); // 我现在是三点开会
     const QString &text = reading.sentence().text();
     const Tokens &tokens = reading.tokens();
     bool ofConference = false; // the rest of the clause: 是三点开会, unlike 明天是周二，帮我约个会
@@ -179,8 +180,8 @@ bool statesWhatIs(const Reading &reading)
 static bool sendsUnnamed(const Reading &reading)
 {
     constexpr WordClasses opens = WordClass::WeakOpen | WordClass::StrongOpen | WordClass::ComeMeet;
-    static const QString calls = QStringLiteral("让叫请喊");
-    static const QString few = QStringLiteral("俩两三几个");
+    static const CharacterSet calls(u"让叫请喊");
+    static const CharacterSet few(u"俩两三几个");
     const QString &text = reading.sentence().text();
     const Tokens &tokens = reading.tokens();
     for (std::size_t at = 1; reading.names().empty() && at < tokens.size(); ++at) {

@@ -3,6 +3,7 @@
 
 #include "meaning/suspicions.h"
 
+#include "text/characterset.h"
 #include "text/chinesenumber.h"
 #include "text/scan.h"
 
@@ -29,13 +30,13 @@ static bool isOther(const Reading &reading, std::size_t at)
 /// True for 请, 帮我 and 麻烦, which ask for something to be done, unlike 可以, 能 and 我想.
 static bool isPlea(const QString &text, const Token &token)
 {
-    static const QString beginnings = QStringLiteral("帮请烦麻劳拜敬现给替为吧");
+    static const CharacterSet beginnings(u"帮请烦麻劳拜敬现给替为吧");
     return token.is(WordClass::Request) && beginnings.contains(text.at(token.position));
 }
 
 bool isLeftByOther(const Reading &reading)
 {
-    static const QString moving = QStringLiteral("把将带拉帮给替");
+    static const CharacterSet moving(u"把将带拉帮给替");
     static const QStringList calls = {QStringLiteral("让"), QStringLiteral("叫"), QStringLiteral("请"),
                                       QStringLiteral("喊"), QStringLiteral("通知")};
     const QString &text = reading.sentence().text();
@@ -48,7 +49,7 @@ bool isLeftByOther(const Reading &reading)
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         const Token &token = tokens[at];
         const QString word = text.mid(token.position, token.length);
-        static const QString everybody = QStringLiteral("大所全各同他她"); // 通知大家散会
+        static const CharacterSet everybody(u"大所全各同他她"); // 通知大家散会
         const bool other =
             at + 1 < tokens.size() &&
             (tokens[at + 1].inName ||
@@ -68,7 +69,7 @@ bool isLeftByOther(const Reading &reading)
 
 bool onlyGoes(const Reading &reading)
 {
-    static const QString going = QStringLiteral("去来");
+    static const CharacterSet going(u"去来");
     bool conference = false;
     bool goes = false;
     for (const Token &token : reading.tokens()) {
@@ -154,7 +155,7 @@ static bool endsCondition(const Reading &reading, std::size_t begin, std::size_t
         !reading.sentence().text().midRef(0, tokens[at].end()).endsWith(QStringLiteral("的话"))) {
         return false;
     }
-    static const QString addressed = QStringLiteral("你您");
+    static const CharacterSet addressed(u"你您");
     return std::any_of(tokens.cbegin() + static_cast<std::ptrdiff_t>(begin),
                        tokens.cbegin() + static_cast<std::ptrdiff_t>(at), [&](const Token &token) {
                            return !token.isAny(WordClass::Filler | WordClass::Request) &&
@@ -207,9 +208,9 @@ bool isCondition(const QString &word)
 
 bool introducesQuote(const QString &text, const Tokens &tokens, std::size_t begin, std::size_t end)
 {
-    static const QString saying = QStringLiteral("说讲写念喊道");
-    static const QString particles = QStringLiteral("的了着是");
-    static const QString never = QStringLiteral("我咱俺不别没要想来知"); // 我说, 不说了, 有事要说, 知道
+    static const CharacterSet saying(u"说讲写念喊道");
+    static const CharacterSet particles(u"的了着是");
+    static const CharacterSet never(u"我咱俺不别没要想来知"); // 我说, 不说了, 有事要说, 知道
     const bool labelled =
         end > begin + 1 && tokens[end - 2].isAny(WordClass::IdLabel | WordClass::PasswordLabel |
                                                  WordClass::AccountLabel | WordClass::Filler);
@@ -284,8 +285,8 @@ bool asksForAgreement(const Reading &reading)
                                       QStringLiteral("没错吧"), QStringLiteral("来得及吧")};
     static const QStringList consents = {QStringLiteral("好吧"), QStringLiteral("行吧"),
                                          QStringLiteral("可以吧"), QStringLiteral("没问题吧")};
-    static const QString signs = QStringLiteral("?!.,;~ ");
-    static const QString pleas = QStringLiteral("帮请麻劳烦拜");
+    static const CharacterSet signs(u"?!.,;~ ");
+    static const CharacterSet pleas(u"帮请麻劳烦拜");
     const QString &text = reading.sentence().text();
     int end = text.size();
     while (end > 0 && signs.contains(text.at(end - 1))) {
@@ -315,8 +316,8 @@ bool proposesOpening(const Reading &reading)
         return false;
     }
     const Tokens &tokens = reading.tokens();
+    const bool due = reading.sentence().text().contains(QChar(u'该')); // 是不是该开会了
     for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
-        const bool due = reading.sentence().text().contains(QChar(u'该')); // 是不是该开会了
         if (tokens[at].is(WordClass::WeakOpen) && !tokens[at].inName &&
             (due || tokens[at + 1].is(WordClass::Measure))) {
             return wonders(reading);
@@ -327,8 +328,9 @@ bool proposesOpening(const Reading &reading)
 
 bool tellsWrongNumber(const QString &clause)
 {
+    static const CharacterSet saying(u"错对"); // found faster
     static const QRegularExpression wrong(QStringLiteral("(?:号|密码).{0,3}(?:错|不对)|(?:错|不对).{0,3}号"));
-    return clause.contains(wrong);
+    return saying.meets(clause) && clause.contains(wrong);
 }
 
 bool isTakenBack(const Reading &reading)
@@ -336,7 +338,9 @@ bool isTakenBack(const Reading &reading)
     static const QRegularExpression end(QStringLiteral(
         "[，。！？,.!?… ](?:[哎唉哦嗯那就呃还是]|哎呀)*(?:算了|罢了|当我没说|不用了)[吧啊呀哈]*"
         "(?:[，, ]*(?:还是)?(?:先?[不别甭].{1,4}))?[。！.!]*$"));
-    return reading.sentence().raw().contains(end);
+    static const CharacterSet signs(u"，。！？,.!?… "); // found faster
+    const QString &raw = reading.sentence().raw();
+    return signs.meets(raw) && raw.contains(end);
 }
 
 } // namespace understanding

@@ -4,6 +4,7 @@
 #include "meaning/suspicions.h"
 
 #include "names/absences.h"
+#include "text/characterset.h"
 #include "text/scan.h"
 
 #include <QRegularExpression>
@@ -118,11 +119,9 @@ bool leavesOpenWhoComes(const Reading &reading)
         }
         return false;
     };
-    static const QString chosen = QStringLiteral("还或替而光仅止但除"); // found faster
-    const bool mayChoose =
-        std::find_first_of(text.cbegin(), text.cend(), chosen.cbegin(), chosen.cend()) != text.cend();
+    static const CharacterSet chosen(u"还或替而光仅止但除"); // found faster
     return !reading.names().empty() &&
-           ((mayChoose && tells(choosing)) || (hasWordOfAbsence(text) && tells(absence)));
+           ((chosen.meets(text) && tells(choosing)) || (hasWordOfAbsence(text) && tells(absence)));
 }
 
 bool alsoCalls(const Reading &reading)

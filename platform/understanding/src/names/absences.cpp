@@ -4,6 +4,7 @@
 #include "names/absences.h"
 
 #include "names/namelook.h"
+#include "text/characterset.h"
 #include "time/timereader.h"
 
 #include <QRegularExpression>
@@ -15,8 +16,8 @@ namespace understanding {
 static bool isName(const QString &text, const ContactIndex &contacts)
 {
     static const QRegularExpression latin(QStringLiteral("^[A-Z][A-Za-z]+( [A-Z][A-Za-z]+)*$"));
-    static const QString verbs = QStringLiteral("说叫讲问要给让家批订定办"); // 老板叫, 小凯说
-    constexpr int titled = 2;                                                // 王总 begins 王总批
+    static const CharacterSet verbs(u"说叫讲问要给让家批订定办"); // 老板叫, 小凯说
+    constexpr int titled = 2;                                     // 王总 begins 王总批
     constexpr int longest = 3;
     const bool more = text.size() > titled && isSurnameWithTitle(text.left(titled));
     if (text.isEmpty() || readTime(text, 0).length == text.size()) { // 周三
@@ -67,16 +68,8 @@ QString busyPattern()
 
 bool hasWordOfAbsence(const QString &text)
 {
-    static const QString characters = [] {
-        QString listed = QStringLiteral("不没别甭免算缺假差忙病走课除掉删换有班改退划孩路飞外");
-        std::sort(listed.begin(), listed.end());
-        return listed;
-    }();
-    return std::any_of(text.cbegin(), text.cend(),
-                       [&](QChar character) {
-                           return std::binary_search(characters.cbegin(), characters.cend(), character);
-                       }) ||
-           text.contains(QStringLiteral("在开"));
+    static const CharacterSet characters(u"不没别甭免算缺假差忙病走课除掉删换有班改退划孩路飞外");
+    return characters.meets(text) || text.contains(QStringLiteral("在开"));
 }
 
 QStringList namesOf(const QString &text, const ContactIndex &contacts)

@@ -3,6 +3,7 @@
 
 #include "names/addressed.h"
 
+#include "text/characterset.h"
 #include "text/scan.h"
 
 namespace understanding {
@@ -29,7 +30,7 @@ void settleAddress(const QString &text, Tokens &tokens)
            (tokens[next].is(WordClass::Punctuation) || tokens[next].kind == Token::Kind::Space)) {
         ++next;
     }
-    static const QString orders = QStringLiteral("约和跟与把将给");
+    static const CharacterSet orders(u"约和跟与把将给");
     const bool ordered = tokens[next].is(WordClass::Request) ||
                          (tokens[next].is(WordClass::Trigger) && tokens[next].length == 1 &&
                           orders.contains(text.at(tokens[next].position)));

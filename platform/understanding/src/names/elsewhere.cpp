@@ -3,16 +3,16 @@
 
 #include "names/elsewhere.h"
 
-#include <QRegularExpression>
+#include "text/characterset.h"
 
-#include <algorithm>
+#include <QRegularExpression>
 
 namespace understanding {
 
 Elsewhere findElsewhere(const QString &text)
 {
-    static const QString goings = QStringLiteral("来去到回上下"); // with which each way of saying so begins
-    if (std::find_first_of(text.cbegin(), text.cend(), goings.cbegin(), goings.cend()) == text.cend()) {
+    static const CharacterSet goings(u"来去到回上下"); // with which each way of saying so begins
+    if (!goings.meets(text)) {
         return {};
     }
     // 我的会议 is no such place, 我办公室开会 is one.

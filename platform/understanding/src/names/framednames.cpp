@@ -5,6 +5,7 @@
 
 #include "names/namecharacters.h"
 #include "names/namelook.h"
+#include "text/characterset.h"
 #include "text/scan.h"
 
 #include <algorithm>
@@ -76,7 +77,7 @@ private:
     /// 和 in 于和伟, 安和 and 和珅 separates nobody: one character is no name.
     bool separates(std::size_t at) const
     {
-        static const QString inNames = QStringLiteral("和与同约");
+        static const CharacterSet inNames(u"和与同约");
         if (m_tokens[at].length > 1 || !inNames.contains(characterOf(at))) {
             return true;
         }
@@ -95,7 +96,7 @@ private:
     /// 安逸 in 跟安逸三点开会: a filler behind 跟 that begins like a name and has a time behind it.
     bool isFillerForName(std::size_t at) const
     {
-        static const QString joins = QStringLiteral("和跟与");
+        static const CharacterSet joins(u"和跟与");
         const Token &token = m_tokens[at];
         return at == m_begin && token.is(WordClass::Filler) && token.length == 2 && at > 0 &&
                m_tokens[at - 1].length == 1 && joins.contains(characterOf(at - 1)) &&
@@ -110,7 +111,7 @@ private:
         if (isFillerForName(at)) {
             return false;
         }
-        static const QString adverbs = QStringLiteral("也都就先再还到");
+        static const CharacterSet adverbs(u"也都就先再还到");
         const bool adverb = token.kind == Token::Kind::Word && token.length == 1 &&
                             adverbs.contains(characterOf(at)) &&
                             token.position - m_tokens[m_begin].position > 1;
@@ -143,9 +144,9 @@ private:
     /// True if a piece belongs to no name: 了 in 叫完了开会, 个 in 约个时间.
     bool holdsOtherThings() const
     {
-        static const QString never =
-            QStringLiteral("了的着得吧吗呢啊呀嘛哦哈呗噢啦咯没俩仨也都就还再又个这那谁他她它您你");
-        static const QString neverFirst = QStringLiteral("不没别在要想到过去来一有是");
+        static const CharacterSet never(
+            u"了的着得吧吗呢啊呀嘛哦哈呗噢啦咯没俩仨也都就还再又个这那谁他她它您你");
+        static const CharacterSet neverFirst(u"不没别在要想到过去来一有是");
         const QString name = said();
         const bool strange = std::any_of(name.cbegin(), name.cend(), [](QChar character) {
             return never.contains(character) || !character.isLetter() || character.unicode() < 0x250;
@@ -175,7 +176,7 @@ private:
     /// 拉 in 跟潘多拉开会 opens nothing.
     static bool endsLikeVerb(const QString &name)
     {
-        static const QString verbs = QStringLiteral("拉同大可下并");
+        static const CharacterSet verbs(u"拉同大可下并");
         return verbs.contains(name.at(name.size() - 1));
     }
 
@@ -232,7 +233,7 @@ void joinFramedNames(const QString &raw, const QString &text, Tokens &tokens)
     bool changed = false;
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         joined.push_back(tokens[at]);
-        static const QString weak = QStringLiteral("给对向安组预请将");
+        static const CharacterSet weak(u"给对向安组预请将");
         const Token &lead = tokens[at];
         constexpr WordClasses leads = WordClass::Trigger | WordClass::NameLabel | WordClass::Separator;
         const bool dotted = charAt(text, lead.position - 1) == QChar(u'·'); // 尤里·加加林

@@ -7,6 +7,7 @@
 #include "names/namecharacters.h"
 #include "names/namelook.h"
 #include "names/tokenjoiner.h"
+#include "text/characterset.h"
 #include "text/scan.h"
 
 namespace understanding {
@@ -38,8 +39,8 @@ private:
         if (!token.isAny(WordClass::Nobody | WordClass::NameTail) || token.length < 2) {
             return false;
         }
-        static const QString beginnings = QStringLiteral("所全各大一那这每几");
-        static const QString counts = QStringLiteral("两三四五俩仨"); // 产品的两个人
+        static const CharacterSet beginnings(u"所全各大一那这每几");
+        static const CharacterSet counts(u"两三四五俩仨"); // 产品的两个人
         const QChar first = m_text.at(token.position);
         const bool some = token.is(WordClass::NameTail) && counts.contains(first) &&
                           charAt(m_text, token.position - 1) == QChar(u'的');
@@ -74,7 +75,7 @@ private:
         const int start = m_tokens[m_at].position;
         const int end = m_tokens[at].position;
         const QString said = m_text.mid(start, end - start);
-        static const QString others = QStringLiteral("他她几");
+        static const CharacterSet others(u"他她几");
         if (said.size() > 1 && endsGroup(said.at(said.size() - 1))) {
             return true;
         }
@@ -103,7 +104,7 @@ private:
     /// 备课组 in 给我们备课组开个会, 摄影社 in 帮摄影社定个会, 办公室的老师 in 帮我们办公室的老师召集会议.
     bool joinOurs()
     {
-        static const QString leading = QStringLiteral("们帮给替");
+        static const CharacterSet leading(u"们帮给替");
         if (m_joined.empty() || !leading.contains(m_text.at(m_joined.back().end() - 1)) ||
             !m_joined.back().isAny(WordClass::Request | WordClass::Nobody | WordClass::Trigger)) {
             return false;

@@ -5,6 +5,7 @@
 
 #include "names/namecharacters.h"
 #include "names/namelook.h"
+#include "text/characterset.h"
 #include "text/rulefile.h"
 
 #include <QHash>
@@ -49,7 +50,7 @@ bool endsWithRole(const QString &text)
 /// 部 in 安全部千寻: somebody follows. 司 and 院 begin names, too.
 bool isOffice(QChar character)
 {
-    static const QString offices = QStringLiteral("部组处科室");
+    static const CharacterSet offices(u"部组处科室");
     return offices.contains(character);
 }
 
@@ -64,8 +65,8 @@ bool isFamiliar(QChar character)
 bool isModifier(const QString &text)
 {
     // 陪审员, 委托人, 供应处: whatever ends so tells what somebody does.
-    static const QString callings = QStringLiteral("师长生人手士班队社站方");
-    static const QString inNoName = QStringLiteral("员者部组处科室院校厂店局所"); // 公证员
+    static const CharacterSet callings(u"师长生人手士班队社站方");
+    static const CharacterSet inNoName(u"员者部组处科室院校厂店局所"); // 公证员
     const QChar last = text.isEmpty() ? QChar() : text.at(text.size() - 1);
     const bool calling =
         text.size() > 2 && (inNoName.contains(last) || (callings.contains(last) && !isPersonsName(text)));
@@ -116,7 +117,7 @@ int modifierLength(const QString &text)
         return start + familiar;
     }
     // 实习生芳姐
-    static const QString familiars = QStringLiteral("姐哥叔嫂");
+    static const CharacterSet familiars(u"姐哥叔嫂");
     const bool titled =
         familiar >= 2 && familiars.contains(rest.at(rest.size() - 1)) && !isFamiliar(rest.at(familiar));
     if (titled && isModifier(rest.left(familiar)) && !roles().contains(rest.mid(familiar))) {
@@ -148,7 +149,7 @@ int modifierLength(const QString &text)
 
 QString dottedName(const QString &text)
 {
-    static const QString leads = QStringLiteral("是的位叫请把");
+    static const CharacterSet leads(u"是的位叫请把");
     int cut = 0;
     for (int character = 0; text.at(character) != QChar(u'·'); ++character) {
         cut = leads.contains(text.at(character)) ? character + 1 : cut;
@@ -166,8 +167,8 @@ QString dottedName(const QString &text)
 
 int headLength(const QString &name)
 {
-    static const QString verbs =
-        QStringLiteral("也都没薅整下出回去来说吃喝玩打看做写买送聊谈拉约让叫喊呗请找搞问想要进入");
+    static const CharacterSet verbs(
+        u"也都没薅整下出回去来说吃喝玩打看做写买送聊谈拉约让叫喊呗请找搞问想要进入");
     if (isSurnameWithTitle(name) || isTransliterated(name) || isGivenWord(name)) { // 张顾问
         return name.size();
     }
@@ -185,9 +186,9 @@ int headLength(const QString &name)
 bool isLikelyName(const QString &name)
 {
     constexpr int longestName = 5; // 乌兰图雅
-    static const QString strange =
-        QStringLiteral("薅去说吃喝打看做写送聊谈让叫喊呗请找搞问想要进入把给是没不了过吗呢吧的");
-    static const QString timely = QStringLiteral("点刻半"); // 半约 in 十点半约半约李娜, but not 点点
+    static const CharacterSet strange(
+        u"薅去说吃喝打看做写送聊谈让叫喊呗请找搞问想要进入把给是没不了过吗呢吧的");
+    static const CharacterSet timely(u"点刻半"); // 半约 in 十点半约半约李娜, but not 点点
     const bool ofTime = timely.contains(name.at(0)) && name.at(0) != name.at(name.size() - 1);
     if (ofTime || holdsOtherThanLetters(name)) { // 张伟3.5点
         return false;

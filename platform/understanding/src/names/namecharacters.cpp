@@ -3,6 +3,7 @@
 
 #include "names/namecharacters.h"
 
+#include "text/characterset.h"
 #include "text/scan.h"
 
 #include <QVector>
@@ -13,25 +14,25 @@ namespace understanding {
 
 bool isSpeaker(QChar character)
 {
-    static const QString speakers = QStringLiteral("我咱俺");
+    static const CharacterSet speakers(u"我咱俺");
     return speakers.contains(character);
 }
 
 bool isKin(QChar character)
 {
-    static const QString kin = QStringLiteral("妈爸娘爹姐哥弟妹爷奶姨舅叔伯姑婶嫂");
+    static const CharacterSet kin(u"妈爸娘爹姐哥弟妹爷奶姨舅叔伯姑婶嫂");
     return kin.contains(character);
 }
 
 bool endsGroup(QChar character)
 {
-    static const QString groups = QStringLiteral("部门组处科室班委队院校厂店社团局所站司心系级届区间舍");
+    static const CharacterSet groups(u"部门组处科室班委队院校厂店社团局所站司心系级届区间舍");
     return groups.contains(character);
 }
 
 bool holdsOtherThanLetters(const QString &name)
 {
-    static const QString joining = QStringLiteral(" ·.'’‘´`-_@+");
+    static const CharacterSet joining(u" ·.'’‘´`-_@+");
     constexpr ushort endOfLatin = 0x250;
     const bool latin = std::all_of(name.cbegin(), name.cend(), [](QChar character) {
         return character.unicode() < endOfLatin || joining.contains(character);

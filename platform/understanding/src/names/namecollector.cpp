@@ -6,6 +6,7 @@
 #include "names/headreader.h"
 #include "names/namecharacters.h"
 #include "names/namelook.h"
+#include "text/characterset.h"
 #include "words/lexicon.h"
 
 namespace understanding {
@@ -13,7 +14,7 @@ namespace understanding {
 /// @p chunk without what ends a sentence and no name: 王总张伟 in 王总张伟吧.
 static QString withoutModals(QString chunk)
 {
-    static const QString modals = QStringLiteral("吧呢啊呀了的吗嘛呗哈哦噢喔啦咯");
+    static const CharacterSet modals(u"吧呢啊呀了的吗嘛呗哈哦噢喔啦咯");
     while (chunk.size() > 2 && modals.contains(chunk.at(chunk.size() - 1))) {
         chunk.chop(1);
     }
@@ -105,7 +106,7 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
     const bool cut = !titled && (withoutParticles(QStringLiteral("的的") + behind).size() > 2 ||
                                  (behind.size() > 1 && !withoutParticles(behind).isEmpty()));
     name.truncate(head);
-    static const QString leads = QStringLiteral("约人"); // 约约王磊, 邀请人宋阳
+    static const CharacterSet leads(u"约人"); // 约约王磊, 邀请人宋阳
     if (name.size() > 2 && leads.contains(name.at(0)) && isPersonsName(name.mid(1))) {
         name = name.mid(1);
     }
@@ -137,9 +138,9 @@ void NameCollector::addChunk(int start, int end, bool mustLookLikeName, bool cal
 
 bool NameCollector::isWholeName(const QString &chunk, int end) const
 {
-    static const QString enclosing = QStringLiteral("、,。;/和跟与及 ");
-    static const QString never = QStringLiteral("没俩仨也都全等哈吧呢啊呀了的吗嘛呗参加");
-    static const QString always = QStringLiteral("为可成能做");
+    static const CharacterSet enclosing(u"、,。;/和跟与及 ");
+    static const CharacterSet never(u"没俩仨也都全等哈吧呢啊呀了的吗嘛呗参加");
+    static const CharacterSet always(u"为可成能做");
     const bool closed = end == m_text.size() || enclosing.contains(m_text.at(end));
     return chunk.size() == 3 && isPersonsName(chunk) &&
            ((closed && !never.contains(chunk.at(2))) || always.contains(chunk.at(2)) || isGivenWord(chunk));
@@ -158,11 +159,11 @@ bool NameCollector::isLostBefore(const Tokens &tokens, std::size_t at) const
     const bool found =
         !m_names.empty() && m_names.back().position + m_names.back().said.size() >= tokens[at].position;
     const Token &before = tokens[at - 1];
-    static const QString light = QStringLiteral("的要先再就得去来想需能会可又还呢");
+    static const CharacterSet light(u"的要先再就得去来想需能会可又还呢");
     const bool strange =
         (before.kind == Token::Kind::Other && !light.contains(m_text.at(before.end() - 1))) ||
         before.is(WordClass::Plain);
-    static const QString speakers = QStringLiteral("我们咱");
+    static const CharacterSet speakers(u"我们咱");
     const bool speaker = before.is(WordClass::Request) && speakers.contains(m_text.at(before.end() - 1));
     const bool listed = // but not 给我、周舟
         m_text.at(tokens[at].position) == QChar(u'、') && !speaker && before.kind == Token::Kind::Word &&

@@ -6,6 +6,7 @@
 #include "names/headreader.h"
 #include "names/namelook.h"
 #include "names/namerunreader.h"
+#include "text/characterset.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
 #include "words/negation.h"
@@ -135,7 +136,7 @@ private:
         }
         last = endOfPeopleRow(at, last);
         std::size_t next = last + 1;
-        static const QString addressed = QStringLiteral("你您"); // 陈工你也叫上
+        static const CharacterSet addressed(u"你您"); // 陈工你也叫上
         while (next < m_tokens.size() && m_tokens[next].length <= 2 &&
                (m_tokens[next].isAny(WordClass::Filler | WordClass::NameTail) ||
                 addressed.contains(m_text.at(m_tokens[next].position)))) {

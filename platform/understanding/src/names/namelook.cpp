@@ -4,6 +4,7 @@
 #include "names/namelook.h"
 
 #include "names/namecharacters.h"
+#include "text/characterset.h"
 #include "text/rulefile.h"
 #include "words/lexicon.h"
 
@@ -67,12 +68,12 @@ bool startsTwoCharacterSurname(const QString &text)
                        "拓跋 完颜 纳兰 西门 田中 山本 佐藤 铃木 渡边 伊藤 中村 吉田 山田 "
                        "松本 斋藤 藤田")
             .split(QLatin1Char(' '));
-    static const QString beginnings = [] {
+    static const CharacterSet beginnings = [] {
         QString all;
         for (const QString &surname : surnames) {
             all += surname.at(0);
         }
-        return all;
+        return CharacterSet(all);
     }();
     return text.size() > 1 && beginnings.contains(text.at(0)) && surnames.contains(text.left(2));
 }
@@ -81,7 +82,7 @@ bool startsTwoCharacterSurname(const QString &text)
 
 bool isNamePrefix(QChar character)
 {
-    static const QString prefixes = QStringLiteral("小老阿大");
+    static const CharacterSet prefixes(u"小老阿大");
     return prefixes.contains(character);
 }
 
@@ -103,8 +104,8 @@ bool isThing(const QString &text)
 
 bool isTransliterated(const QString &text)
 {
-    static const QString spelling = QStringLiteral(
-        "阿不布卜都杜拉热合曼买提艾力尔江古丽娜扎努兰汗木依巴哈里克迪米尼斯特夫维奇马丁亚历山大伯纳德"
+    static const CharacterSet spelling(
+        u"阿不布卜都杜拉热合曼买提艾力尔江古丽娜扎努兰汗木依巴哈里克迪米尼斯特夫维奇马丁亚历山大伯纳德"
         "罗伊莎贝玛莉雅乔治约翰查理安托托蒂彼得保尔森逊姆格萨穆罕默帕沙吾吐买孜帕其旺次仁扎西顿珠卓嘎央金"
         "多吉洛桑达娃才让加措桑图雅乌云萨日朗苏和巴特尔吉勒本田中藤佐木村松岛川海");
     return std::all_of(text.cbegin(), text.cend(),
@@ -114,8 +115,8 @@ bool isTransliterated(const QString &text)
 /// True for what is used in hardly anything but given names.
 static bool isInGivenNames(QChar character)
 {
-    static const QString given = QStringLiteral(
-        "涵轩梓浩然宇欣怡婷雪琳娜娟芳燕霞英华兰玲秀丽凤桂珍梅艳敏静洁慧颖倩莉雯佳俊杰强伟军磊涛勇峰鹏"
+    static const CharacterSet given(
+        u"涵轩梓浩然宇欣怡婷雪琳娜娟芳燕霞英华兰玲秀丽凤桂珍梅艳敏静洁慧颖倩莉雯佳俊杰强伟军磊涛勇峰鹏"
         "辉斌亮志国建晓淑瑞凯晨阳旭睿博嘉思雨诗彤萱瑶琪璐薇蕾蓉菲妍媛茜翠莲蓓丹萍玉香子");
     return given.contains(character);
 }
@@ -149,9 +150,11 @@ bool looksLikeName(const QString &text)
 
 bool isSurnameWithTitle(const QString &text)
 {
+    if (text.size() < 2 || !isSurname(text.at(0))) {
+        return false;
+    }
     const int surname = startsTwoCharacterSurname(text) ? 2 : 1;
-    return text.size() > surname && isSurname(text.at(0)) &&
-           Lexicon::instance().classesOf(text.mid(surname)).has(WordClass::Title);
+    return text.size() > surname && Lexicon::instance().classesOf(text.mid(surname)).has(WordClass::Title);
 }
 
 bool isPersonsName(const QString &text)
@@ -160,9 +163,9 @@ bool isPersonsName(const QString &text)
         return true;
     }
     for (const int title : {2, 3}) { // 沈佳宜律师
-        const QString name = text.left(text.size() - title);
-        if (text.size() >= title + 2 && text.size() <= title + LongestFullName && isSurname(name.at(0)) &&
-            (name.size() <= 3 || startsTwoCharacterSurname(name)) &&
+        const int length = text.size() - title;
+        if (length >= 2 && length <= LongestFullName && isSurname(text.at(0)) &&
+            (length <= 3 || startsTwoCharacterSurname(text)) &&
             Lexicon::instance().classesOf(text.right(title)).has(WordClass::Title)) {
             return true;
         }
@@ -212,7 +215,7 @@ int nameLengthAt(const QString &text, int at)
 /// 老婆 in 小李老婆, 大师 in 小赵大师: whose or what somebody is, not somebody else.
 static bool isRoleOrKin(const QString &text)
 {
-    static const QString others = QStringLiteral("婆公伴师板");
+    static const CharacterSet others(u"婆公伴师板");
     const QChar last = text.at(text.size() - 1);
     return isKin(last) || others.contains(last) || Lexicon::instance().classesOf(text).has(WordClass::Title);
 }
@@ -244,7 +247,7 @@ static int clearPersonLength(const QString &text, int at)
     };
     const QChar first = text.at(at);
     if (isNamePrefix(first) && first != QChar(u'大')) {
-        static const QString inNoName = QStringLiteral("组队班区店孩学时");
+        static const CharacterSet inNoName(u"组队班区店孩学时");
         const QString name = text.mid(at, 2);
         if (name.size() < 2 || !name.at(1).isLetter() || isNamePrefix(name.at(1)) ||
             inNoName.contains(name.at(1)) || isRoleOrKin(name)) {
@@ -314,7 +317,7 @@ QStringList splitNames(const QString &text)
     if (!familiar.isEmpty()) {
         return familiar;
     }
-    static const QString titles = QStringLiteral("总工哥姐");
+    static const CharacterSet titles(u"总工哥姐");
     // With a family name of two characters, four are one name.
     if (text.size() < 4 || text.size() > 12 || startsTwoCharacterSurname(text) || !isSurname(text.at(0)) ||
         isSurnameWithTitle(text)) { // 周工程师
@@ -344,10 +347,9 @@ bool isPeople(const QString &text)
 
 QString withoutParticles(const QString &text)
 {
-    static const QString leading = QStringLiteral("的也都再就先在要想了个位请给对着还又把将跟是有帮替");
-    static const QString trailing =
-        QStringLiteral("也都全来去再就先在要想等的给吧呢啊呀了过到于得能可需将又"
-                       "还会用里并且吗嘛上下把做成为参加约让呗哈没俩仨哦噢喔啦咯");
+    static const CharacterSet leading(u"的也都再就先在要想了个位请给对着还又把将跟是有帮替");
+    static const CharacterSet trailing(u"也都全来去再就先在要想等的给吧呢啊呀了过到于得能可需将又"
+                                       "还会用里并且吗嘛上下把做成为参加约让呗哈没俩仨哦噢喔啦咯");
     int start = 0;
     int end = text.size();
     // Keep at least two characters: 王来 is a name.
@@ -355,7 +357,7 @@ QString withoutParticles(const QString &text)
         ++start;
     }
     // 林可可 keeps both, 尤里 its 里.
-    static const QString foreign = QStringLiteral("尤阿凯亚玛马古卡基托费");
+    static const CharacterSet foreign(u"尤阿凯亚玛马古卡基托费");
     while (end - start > 2 && trailing.contains(text.at(end - 1)) &&
            !(text.at(end - 1) == QChar(u'里') && foreign.contains(text.at(end - 2))) &&
            !(end - start == 3 && text.at(end - 1) == text.at(end - 2))) {

@@ -6,6 +6,7 @@
 #include "names/headreader.h"
 #include "names/namecharacters.h"
 #include "names/namelook.h"
+#include "text/characterset.h"
 #include "text/scan.h"
 
 #include <algorithm>
@@ -122,7 +123,7 @@ bool NamePlaces::isAddressBeforeName(std::size_t at) const
 bool NamePlaces::isOpeningOne(std::size_t at) const
 {
     const std::size_t next = at + 1;
-    static const QString moves = QStringLiteral("把将");
+    static const CharacterSet moves(u"把将");
     if (moves.contains(m_text.at(m_tokens[at].position)) && next + 1 < m_tokens.size() &&
         m_tokens[next].is(WordClass::Title) && m_tokens[next + 1].is(WordClass::Conference) &&
         !m_tokens[next + 1].is(WordClass::Join)) { // 把部长会议安排在三点
@@ -207,7 +208,7 @@ bool NamePlaces::isSmallWordInName(std::size_t at) const
     if (calls) {
         return false;
     }
-    static const QString done = QStringLiteral("完了过");
+    static const CharacterSet done(u"完了过");
     const int behind = token.end() + 1; // 刚碰完会
     const bool justDone = m_text.at(token.position) == QChar(u'刚') && behind < m_text.size() &&
                           done.contains(m_text.at(behind));
@@ -288,7 +289,7 @@ int NamePlaces::comerLength(std::size_t at) const
             firstOf(m_text, next, {u"一个人就", u"一个就", u"一人就", u"一个都不能少", u"算一个"});
         next += must + comes;
         const QChar behind = m_text.size() > next ? m_text.at(next) : QChar(u',');
-        static const QString ends = QStringLiteral(",.!。;吧哦啊的");
+        static const CharacterSet ends(u",.!。;吧哦啊的");
         if (alone > 0 || (must > 0 && comes > 0 && ends.contains(behind))) {
             return length;
         }
@@ -298,7 +299,7 @@ int NamePlaces::comerLength(std::size_t at) const
 
 bool NamePlaces::callsAgain(std::size_t lead, std::size_t next) const
 {
-    static const QString calls = QStringLiteral("约叫喊拉");
+    static const CharacterSet calls(u"约叫喊拉");
     return next == lead + 1 && next + 1 < m_tokens.size() && m_tokens[lead].is(WordClass::Request) &&
            m_text.at(m_tokens[lead].position) == QChar(u'请') && m_tokens[next].is(WordClass::Trigger) &&
            m_tokens[next].length == 1 && calls.contains(m_text.at(m_tokens[next].position)) &&

@@ -5,6 +5,7 @@
 
 #include "names/headreader.h"
 #include "names/namelook.h"
+#include "text/characterset.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
 
@@ -114,7 +115,7 @@ std::size_t NameRunReader::takeLatinName(std::size_t at)
         m_modifierStart = m_modifierStart < 0 ? start : m_modifierStart;
         return last;
     }
-    static const QString familiar = QStringLiteral("姐哥总工叔");
+    static const CharacterSet familiar(u"姐哥总工叔");
     const bool titled = last + 1 < m_tokens.size() && m_tokens[last + 1].is(WordClass::Title) &&
                         (m_tokens[last + 1].length > 1 || // Novak博士, K姐
                          familiar.contains(m_text.at(m_tokens[last + 1].position)));

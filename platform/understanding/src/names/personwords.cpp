@@ -6,6 +6,7 @@
 #include "names/headreader.h"
 #include "names/namecharacters.h"
 #include "names/tokenjoiner.h"
+#include "text/characterset.h"
 #include "text/scan.h"
 
 namespace understanding {
@@ -53,7 +54,7 @@ private:
     bool joinRelative()
     {
         const Token &owner = m_tokens[m_at];
-        static const QString owners = QStringLiteral("我咱俺你您他她");
+        static const CharacterSet owners(u"我咱俺你您他她");
         const bool listed = m_relativeEnd == owner.position; // 咱爸杨树林咱妈吴桂兰
         if (!owner.isAny(WordClass::Nobody | WordClass::Mine) ||
             !owners.contains(m_text.at(owner.position)) || !(listed || isSomebodyExpected())) {

@@ -3,6 +3,7 @@
 
 #include "text/sentence.h"
 
+#include "text/characterset.h"
 #include "text/rulefile.h"
 
 #include <QHash>
@@ -41,7 +42,7 @@ QChar plainSpelling(QChar character)
 bool isChineseWord(QChar character)
 {
     constexpr ushort firstIdeograph = 0x3400;
-    static const QString digits = QStringLiteral("零〇一二两三四五六七八九十百幺");
+    static const CharacterSet digits(u"零〇一二两三四五六七八九十百幺");
     return character.unicode() >= firstIdeograph && character.isLetter() && !digits.contains(character);
 }
 
@@ -52,11 +53,10 @@ bool separates(const QString &text, int space)
     if (text.at(space) != QLatin1Char(' ')) {
         return false;
     }
-    static const QString introducing =
-        QStringLiteral("请叫约和跟与同及让把将拉喊带上加给找人理师长管员任总号码为");
-    static const QString starting = QStringLiteral("咱大开");             // 都叫上 咱们开会
-    static const QString ending = QStringLiteral("了过呢啊吧吗嘛哈呀啦"); // 还没过 1月4号开会
-    static const QString pleading = QStringLiteral("帮请麻劳快"); // 会议号是 802461357 帮我加入
+    static const CharacterSet introducing(u"请叫约和跟与同及让把将拉喊带上加给找人理师长管员任总号码为");
+    static const CharacterSet starting(u"咱大开");             // 都叫上 咱们开会
+    static const CharacterSet ending(u"了过呢啊吧吗嘛哈呀啦"); // 还没过 1月4号开会
+    static const CharacterSet pleading(u"帮请麻劳快");         // 会议号是 802461357 帮我加入
     const QChar before = text.at(space - 1);
     const QChar behind = text.at(space + 1);
     if (before.isDigit()) {

@@ -3,7 +3,6 @@
 
 #include "time/dayparts.h"
 
-#include "text/scan.h"
 #include "time/wordtable.h"
 
 namespace understanding {
@@ -26,6 +25,12 @@ DayPart parsePart(const QString &line)
     return part;
 }
 
+const WordTable<DayPart> &dayParts()
+{
+    static const WordTable<DayPart> parts(QStringLiteral("dayparts.tsv"), parsePart);
+    return parts;
+}
+
 } // namespace
 
 int DayPart::hourFor(int saidHour) const
@@ -41,22 +46,14 @@ int DayPart::hourFor(int saidHour) const
     return hour >= firstHour && hour <= lastHour ? hour : -1;
 }
 
-const std::vector<DayPart> &dayParts()
+const DayPart &dayPart(int row)
 {
-    static const std::vector<DayPart> parts = loadWordTable(QStringLiteral("dayparts.tsv"), parsePart);
-    return parts;
+    return dayParts().at(row);
 }
 
 int dayPartAt(const QString &text, int position, bool shortForms)
 {
-    const std::vector<DayPart> &parts = dayParts();
-    for (std::size_t row = 0; row < parts.size(); ++row) {
-        const QString &word = parts[row].word;
-        if ((shortForms || word.size() > 1) && startsAt(text, position, word)) {
-            return static_cast<int>(row);
-        }
-    }
-    return -1;
+    return dayParts().find(text, position, shortForms ? 1 : 2);
 }
 
 } // namespace understanding

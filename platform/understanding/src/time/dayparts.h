@@ -6,8 +6,6 @@
 #include <QString>
 #include <QTime>
 
-#include <vector>
-
 namespace understanding {
 
 /// A part of the day and its hours.
@@ -25,8 +23,8 @@ struct DayPart
     int hourFor(int saidHour) const;
 };
 
-/// The parts of the day, from the rule file.
-const std::vector<DayPart> &dayParts();
+/// The part of the day in @p row, as dayPartAt() returns it.
+const DayPart &dayPart(int row);
 
 /// The row of the longest part of the day at @p position, -1 for none. Single characters such as "早" and
 /// "晚" count only with @p shortForms, after a day.

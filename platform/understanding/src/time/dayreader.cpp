@@ -9,8 +9,6 @@
 #include "time/dayparts.h"
 #include "time/wordtable.h"
 
-#include <vector>
-
 namespace understanding {
 
 namespace {
@@ -27,20 +25,14 @@ NamedDay parseDay(const QString &line)
     return {fields.at(0), fields.at(1).toInt()};
 }
 
-const std::vector<NamedDay> &namedDays()
-{
-    static const std::vector<NamedDay> days = loadWordTable(QStringLiteral("days.tsv"), parseDay);
-    return days;
-}
-
 int readNamedDay(const QString &text, int position, TimeExpression &expression)
 {
-    for (const NamedDay &named : namedDays()) {
-        if (startsAt(text, position, named.word)) {
-            expression.day = TimeExpression::Day::Relative;
-            expression.dayOffset = named.offset;
-            return named.word.size();
-        }
+    static const WordTable<NamedDay> days(QStringLiteral("days.tsv"), parseDay);
+    const int row = days.find(text, position);
+    if (row >= 0) {
+        expression.day = TimeExpression::Day::Relative;
+        expression.dayOffset = days.at(row).offset;
+        return days.at(row).word.size();
     }
     // 今早, 明晚, 明下午: the day in one character, only before a part of the day.
     constexpr struct

@@ -3,6 +3,7 @@
 
 #include "time/timereader.h"
 
+#include "text/characterset.h"
 #include "text/chinesenumber.h"
 #include "text/scan.h"
 #include "time/clockreader.h"
@@ -17,9 +18,9 @@ namespace {
 /// True for the few characters with which a time can begin.
 bool canBegin(QChar character)
 {
-    static const QString starts =
-        QStringLiteral("零〇一二两三四五六七八九十百廿卅半今明后昨前去大当上下中正晌这本周星礼早清晨"
-                       "凌午傍黄晚夜深差过再隔等俩仨赶听外翌黑头擦");
+    static const CharacterSet starts(
+        u"零〇一二两三四五六七八九十百廿卅半今明后昨前去大当上下中正晌这本周星礼早清晨"
+        "凌午傍黄晚夜深差过再隔等俩仨赶听外翌黑头擦");
     return (character >= QLatin1Char('0') && character <= QLatin1Char('9')) ||
            (character.unicode() >= 0x80 && starts.contains(character));
 }
@@ -52,7 +53,7 @@ int readMoment(const QString &text, int position, TimeExpression &expression, bo
         if (length == 0 && expression.part < 0) {
             const int part = dayPartAt(text, at, true);
             if (part >= 0) {
-                const DayPart &found = dayParts()[static_cast<std::size_t>(part)];
+                const DayPart &found = dayPart(part);
                 length = found.word.size();
                 next.part = part;
                 // 晚一点 in 周五晚一点 may only mean "later".

@@ -3,6 +3,7 @@
 
 #include "words/clausereader.h"
 
+#include "text/characterset.h"
 #include "text/scan.h"
 #include "words/framereader.h"
 #include "words/joinreader.h"
@@ -48,7 +49,7 @@ void settleConferences(const QString &text, Tokens &tokens)
             tokens[at].classes.add(WordClass::Conference);
         }
     }
-    static const QString mayFollow = QStringLiteral("的在要需得完没总定开");
+    static const CharacterSet mayFollow(u"的在要需得完没总定开");
     for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
         Token &token = tokens[at];
         const bool room = token.is(WordClass::Conference) && text.at(token.end() - 1) == QChar(u'室') &&
@@ -122,7 +123,7 @@ bool governsConference(const QString &text, const Tokens &tokens, std::size_t ve
 /// 上 in 约上: the verb acts on what stands before it.
 bool isResultative(const QString &text, const Token &verb)
 {
-    static const QString results = QStringLiteral("来上好成下");
+    static const CharacterSet results(u"来上好成下");
     return verb.length > 1 && results.contains(text.at(verb.end() - 1));
 }
 
@@ -163,7 +164,7 @@ bool isFollowedByDe(const QString &text, const Token &token)
 /// 该开会了，进我的会议: it is time for an existing conference.
 bool isDue(const QString &text, const Tokens &tokens, std::size_t verb)
 {
-    static const QString dues = QStringLiteral("该要快");
+    static const CharacterSet dues(u"该要快");
     const std::size_t end = verb + 3;
     if (tokens.size() <= end || text.at(tokens[verb].position) != QChar(u'开') ||
         !dues.contains(charAt(text, tokens[verb].position - 1)) ||
@@ -241,7 +242,7 @@ void settleOpening(const QString &text, Tokens &tokens)
 /// whose.
 bool leadsIntoConference(const QString &text, const Tokens &tokens, std::size_t at)
 {
-    static const QString into = QStringLiteral("到进入来");
+    static const CharacterSet into(u"到进入来");
     constexpr WordClasses moving =
         WordClass::Filler | WordClass::Join | WordClass::WeakJoin | WordClass::WeakOpen;
     const bool moves = tokens[at].isAny(moving) && into.contains(text.at(tokens[at].end() - 1));
@@ -279,7 +280,7 @@ void settleArrivals(const QString &text, Tokens &tokens)
                               token.kind == Token::Kind::Latin;
         called = !token.is(WordClass::Punctuation) && (called || (calling && somebody));
         constexpr WordClasses adding = WordClass::Add | WordClass::Pull | WordClass::Invite;
-        static const QString leads = QStringLiteral("把将拉带叫喊让请");
+        static const CharacterSet leads(u"把将拉带叫喊让请");
         calling = token.isAny(adding) ||
                   (token.is(WordClass::Trigger) && leads.contains(text.at(token.position))) ||
                   (calling && somebody);
@@ -290,7 +291,7 @@ void settleArrivals(const QString &text, Tokens &tokens)
 void settleCalls(const QString &text, Tokens &tokens)
 {
     for (std::size_t at = 0; at < tokens.size(); ++at) {
-        static const QString between = QStringLiteral("也给都"); // 把张伟也请进来, 把张伟给请进来
+        static const CharacterSet between(u"也给都"); // 把张伟也请进来, 把张伟给请进来
         const bool also =
             at > 0 && tokens[at - 1].length == 1 && between.contains(text.at(tokens[at - 1].position));
         const std::size_t end = also ? at - 1 : at;

@@ -3,6 +3,7 @@
 
 #include "words/framereader.h"
 
+#include "text/characterset.h"
 #include "text/scan.h"
 
 #include <algorithm>
@@ -42,7 +43,7 @@ std::size_t endOfOccasion(const QString &text, const Tokens &tokens, std::size_t
                                   WordClass::UnclearDay | WordClass::UnclearSoon | WordClass::Punctuation |
                                   WordClass::Next | WordClass::Conference | WordClass::Negation |
                                   WordClass::Actor | WordClass::Reported;
-    static const QString sides = QStringLiteral("前后");
+    static const CharacterSet sides(u"前后");
     for (std::size_t at = begin; at < qMin(tokens.size(), begin + FarthestVerb); ++at) {
         const Token &token = tokens[at];
         const bool then =
@@ -66,7 +67,7 @@ std::size_t endOfOccasion(const QString &text, const Tokens &tokens, std::size_t
 /// 我好安排出差, behind what is ordered; but 我好想散会 is a wish.
 bool tellsUse(const QString &text, const Tokens &tokens, std::size_t begin)
 {
-    static const QString feelings = QStringLiteral("想怕累烦难困忙急久像多");
+    static const CharacterSet feelings(u"想怕累烦难困忙急久像多");
     const int use = firstOf(text, tokens[begin].position, {u"我好", u"我们好", u"咱们好"});
     const QChar next = charAt(text, tokens[begin].position + use);
     if (use == 0 || next.isNull() || feelings.contains(next)) {

@@ -3,6 +3,7 @@
 
 #include "words/kindreader.h"
 
+#include "text/characterset.h"
 #include "text/scan.h"
 
 #include <algorithm>
@@ -25,7 +26,7 @@ constexpr WordClasses Misleading =
 /// True for 开 and 约个, behind which the kind of a conference may stand.
 bool opensKind(const QString &text, const Tokens &tokens, std::size_t at)
 {
-    static const QString verbs = QStringLiteral("开建约办搞做拉");
+    static const CharacterSet verbs(u"开建约办搞做拉");
     const Token &verb = tokens[at];
     const bool opens = verb.is(WordClass::StrongOpen) || (verb.is(WordClass::WeakOpen) && verb.length == 1 &&
                                                           verbs.contains(text.at(verb.position)));
@@ -36,7 +37,7 @@ bool opensKind(const QString &text, const Tokens &tokens, std::size_t at)
 /// True for 个 and 一场, false for 一下.
 bool counts(const QString &text, const Token &token)
 {
-    static const QString counting = QStringLiteral("个场次新");
+    static const CharacterSet counting(u"个场次新");
     return token.is(WordClass::Measure) && counting.contains(text.at(token.end() - 1));
 }
 

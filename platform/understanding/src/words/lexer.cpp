@@ -5,6 +5,7 @@
 
 #include "names/namecharacters.h"
 #include "names/namelook.h"
+#include "text/characterset.h"
 #include "text/chinesenumber.h"
 #include "text/scan.h"
 #include "time/timereader.h"
@@ -321,7 +322,7 @@ private:
     /// ' in O'Brien, also as it is typeset.
     bool isApostrophe(int at) const
     {
-        static const QString apostrophes = QStringLiteral("'’‘´`");
+        static const CharacterSet apostrophes(u"'’‘´`");
         const QChar before = charAt(m_text, at - 1);
         const QChar next = charAt(m_text, at + 1);
         return at > m_at && apostrophes.contains(m_text.at(at)) && isLatinLetterOrDigit(before) &&

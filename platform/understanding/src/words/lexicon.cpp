@@ -3,6 +3,7 @@
 
 #include "words/lexicon.h"
 
+#include "text/characterset.h"
 #include "text/rulefile.h"
 #include "text/scan.h"
 
@@ -88,7 +89,7 @@ constexpr struct
 
 bool isClauseEnd(const QString &text, int position)
 {
-    static const QString ends = QStringLiteral(",.!?;、 。~吧呢啊呀了哦啦嘛哈吗么");
+    static const CharacterSet ends(u",.!?;、 。~吧呢啊呀了哦啦嘛哈吗么");
     return position >= text.size() || ends.contains(text.at(position));
 }
 
@@ -141,9 +142,10 @@ Lexicon::Lexicon() : m_byFirst(1), m_bucket(0x10000)
             bucket = static_cast<quint16>(m_byFirst.size());
             m_byFirst.emplace_back();
         }
-        const QChar second = word.size() > 1 ? word.at(1) : QChar();
-        m_byFirst[bucket].push_back(
-            {word, word.size(), second, m_words.value(word), m_wordsAtClauseEnd.value(word)});
+        const QChar second = charAt(word, 1);
+        m_pairs.set(pairPlace(word.at(0), second));
+        m_byFirst[bucket].push_back({word, word.size(), second, charAt(word, 2), m_words.value(word),
+                                     m_wordsAtClauseEnd.value(word)});
     }
     for (std::vector<Entry> &entries : m_byFirst) {
         std::sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) {
@@ -175,6 +177,12 @@ void Lexicon::addWord(const QString &word, WordClass wordClass)
     }
 }
 
+std::size_t Lexicon::pairPlace(QChar first, QChar second)
+{
+    constexpr std::size_t spread = 31;
+    return (first.unicode() * spread + second.unicode()) % 0x10000;
+}
+
 WordMatch Lexicon::matchOf(const Entry &entry, const QString &text, int position)
 {
     if (!startsAt(text, position, entry.word)) {
@@ -189,14 +197,19 @@ WordMatch Lexicon::matchOf(const Entry &entry, const QString &text, int position
 
 WordMatch Lexicon::longestAt(const QString &text, int position) const
 {
-    const std::vector<Entry> &entries = m_byFirst[m_bucket[charAt(text, position).unicode()]];
+    const QChar first = charAt(text, position);
     const QChar second = charAt(text, position + 1);
-    auto entry = std::lower_bound(entries.cbegin(), entries.cend(), second,
-                                  [](const Entry &a, QChar character) { return a.second < character; });
-    for (; entry != entries.cend() && entry->second == second; ++entry) {
-        const WordMatch match = matchOf(*entry, text, position);
-        if (match.length > 0) {
-            return match;
+    const std::vector<Entry> &entries = m_byFirst[m_bucket[first.unicode()]];
+    if (m_pairs.test(pairPlace(first, second))) {
+        const QChar third = charAt(text, position + 2);
+        auto entry = std::lower_bound(entries.cbegin(), entries.cend(), second,
+                                      [](const Entry &a, QChar character) { return a.second < character; });
+        for (; entry != entries.cend() && entry->second == second; ++entry) {
+            const bool mayStand = entry->length < 3 || entry->third == third;
+            const WordMatch match = mayStand ? matchOf(*entry, text, position) : WordMatch();
+            if (match.length > 0) {
+                return match;
+            }
         }
     }
     // The word of one character stands before all others.

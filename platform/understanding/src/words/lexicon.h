@@ -8,6 +8,7 @@
 #include <QHash>
 #include <QString>
 
+#include <bitset>
 #include <vector>
 
 namespace understanding {
@@ -44,9 +45,11 @@ private:
         QString word;
         int length = 0;
         QChar second; ///< of the word's characters, a null character if there is none
+        QChar third;
         WordClasses classes;
         WordClasses classesAtClauseEnd; ///< those marked with "$"
     };
+    static std::size_t pairPlace(QChar first, QChar second);
     /// @p entry with the classes that it has at @p position; length 0 if it does not stand there.
     static WordMatch matchOf(const Entry &entry, const QString &text, int position);
 
@@ -54,6 +57,9 @@ private:
     QHash<QString, WordClasses> m_wordsAtClauseEnd;
     std::vector<std::vector<Entry>> m_byFirst;
     std::vector<quint16> m_bucket; ///< by character; 0 is the empty bucket
+    /// Whether a word may begin with two characters, by pairPlace(): they seldom do, and searching the bucket
+    /// takes longer.
+    std::bitset<0x10000> m_pairs;
 };
 
 } // namespace understanding

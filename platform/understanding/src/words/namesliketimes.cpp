@@ -4,6 +4,7 @@
 #include "words/namesliketimes.h"
 
 #include "names/namelook.h"
+#include "text/characterset.h"
 #include "text/scan.h"
 #include "words/lexicon.h"
 
@@ -25,8 +26,8 @@ int tailLength(const QString &text, const Token &token)
 /// True for 小王 and 李娜, behind which 明 begins 明下午; 黄晓明 and 陶渊明 are whole names.
 bool isWholeBefore(const QString &text, const Token &before)
 {
-    static const QString seldomInside =
-        QStringLiteral("娜娟芳燕霞玲凤珍艳敏静洁颖倩莉雯佳婷怡琳雪欣瑶琪薇蕾蓉菲妍媛茜莲蓓丹萍磊强涛鹏");
+    static const CharacterSet seldomInside(
+        u"娜娟芳燕霞玲凤珍艳敏静洁颖倩莉雯佳婷怡琳雪欣瑶琪薇蕾蓉菲妍媛茜莲蓓丹萍磊强涛鹏");
     return tailLength(text, before) == 2 &&
            (isNamePrefix(text.at(before.end() - 2)) || seldomInside.contains(text.at(before.end() - 1)));
 }
@@ -35,7 +36,7 @@ bool isWholeBefore(const QString &text, const Token &before)
 
 bool isSingleStranger(const QString &text, int at)
 {
-    static const QString never = QStringLiteral("的儿们婿");
+    static const CharacterSet never(u"的儿们婿");
     const auto isKnown = [&](int position) {
         return position >= text.size() || !text.at(position).isLetter() ||
                isLatinLetterOrDigit(text.at(position)) ||
@@ -63,13 +64,13 @@ bool isEndOfGivenName(const QString &text, const Tokens &tokens)
     }
     constexpr WordClasses leads = WordClass::Trigger | WordClass::Separator | WordClass::NameLabel |
                                   WordClass::Invite | WordClass::Pull;
-    static const QString middles = QStringLiteral("小晓志");
+    static const CharacterSet middles(u"小晓志");
     const Token &before = tokens.back();
     const std::size_t titled = tokens[tokens.size() - 2].is(WordClass::Title) ? 3 : 2; // 跟护士罗刚开会
     const int said = tailLength(text, before);
     const bool isWhole = said == 2 && !middles.contains(text.at(before.end() - 1));
     // 我和张伟刚开会 tells of a conference, 叫张伟来开会 calls him.
-    static const QString apart = QStringLiteral("刚来");
+    static const CharacterSet apart(u"刚来");
     return said <= 2 && !(isWhole && apart.contains(text.at(before.end()))) && tokens.size() >= titled &&
            tokens[tokens.size() - titled].isAny(leads) &&
            isPersonsName(text.mid(before.end() - said, said + 1));
@@ -117,7 +118,7 @@ bool isInUnknownName(const QString &text, const Tokens &tokens, int at, const Ti
     const bool alone = before.length == 1 && tokens.size() > 1 &&
                        tokens[tokens.size() - 2].isAny(leadsToNames) &&
                        isPersonsName(text.mid(before.position, 2)); // but not 说二 in 通知说二十号开学
-    static const QString givenNames = QStringLiteral("明晨一二三四五六七八九");
+    static const CharacterSet givenNames(u"明晨一二三四五六七八九");
     return alone && laterIsTime && givenNames.contains(text.at(at));
 }
 

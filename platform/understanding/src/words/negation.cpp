@@ -3,13 +3,14 @@
 
 #include "words/negation.h"
 
+#include "text/characterset.h"
 #include "text/scan.h"
 
 namespace understanding {
 
 bool isNegatedBefore(const QString &text, const Tokens &tokens, std::size_t at)
 {
-    static const QString negations = QStringLiteral("不没别甭勿莫");
+    static const CharacterSet negations(u"不没别甭勿莫");
     return at > 0 &&
            (tokens[at - 1].is(WordClass::Negation) ||
             (tokens[at - 1].kind == Token::Kind::Other && tokens[at - 1].end() == tokens[at].position &&

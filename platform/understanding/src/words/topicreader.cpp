@@ -3,6 +3,7 @@
 
 #include "words/topicreader.h"
 
+#include "text/characterset.h"
 #include "text/scan.h"
 
 #include <algorithm>
@@ -14,7 +15,7 @@ namespace {
 /// 需求评审安排到明天上午: the topic ends before its verb.
 bool settlesTime(const QString &text, const Token &token)
 {
-    static const QString where = QStringLiteral("到在");
+    static const CharacterSet where(u"到在");
     return token.is(WordClass::StrongOpen) && token.length > 1 && where.contains(text.at(token.end() - 1));
 }
 
@@ -97,8 +98,7 @@ bool isUnknownPurpose(const QString &text, const Tokens &tokens, std::size_t at)
     if (!isAtClauseEnd(tokens, end) || tokens[at].is(WordClass::Filler) || length < 2 || length > longest) {
         return false;
     }
-    static const QString telling =
-        QStringLiteral("了完得太真也在很好吗么呢吧啊没不又还都已着去来累烦困笑哭骂吵");
+    static const CharacterSet telling(u"了完得太真也在很好吗么呢吧啊没不又还都已着去来累烦困笑哭骂吵");
     const QString said = text.mid(begin, length);
     return std::none_of(said.cbegin(), said.cend(),
                         [](QChar character) { return telling.contains(character); }) &&

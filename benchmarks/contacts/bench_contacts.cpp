@@ -54,6 +54,19 @@ bool writeOneRow(FullBook &full)
     return update.bind(FullBook::uninvolved()).run().affectedRows() == 1;
 }
 
+/// Reports what measureBesideAFloor() measures.
+void inMicroseconds(benchmark::internal::Benchmark *measured)
+{
+    measured->UseManualTime()->Unit(benchmark::kMicrosecond);
+}
+
+/// Repeats a benchmark for a thousand to a million conferences or contacts.
+void perBookSize(benchmark::internal::Benchmark *measured)
+{
+    inMicroseconds(measured);
+    measured->RangeMultiplier(10)->Range(1000, 1000000);
+}
+
 /// Searches one day, with ten conferences, among range(0) conferences.
 void searchDay(benchmark::State &state)
 {
@@ -65,11 +78,7 @@ void searchDay(benchmark::State &state)
     };
     measureBesideAFloor(state, search, [&] { return readOneRow(full); });
 }
-BENCHMARK(searchDay)
-    ->RangeMultiplier(10)
-    ->Range(1000, 1000000)
-    ->UseManualTime()
-    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(searchDay)->Apply(perBookSize);
 
 /// Finds whom a spoken name means among range(0) contacts.
 void spokenName(benchmark::State &state)
@@ -81,11 +90,7 @@ void spokenName(benchmark::State &state)
     };
     measureBesideAFloor(state, find, [&] { return readOneRow(full); });
 }
-BENCHMARK(spokenName)
-    ->RangeMultiplier(10)
-    ->Range(1000, 1000000)
-    ->UseManualTime()
-    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(spokenName)->Apply(perBookSize);
 
 /// Measures a write, up to the point where it is on disk, on the clock.
 void createScheduled(benchmark::State &state)
@@ -94,7 +99,7 @@ void createScheduled(benchmark::State &state)
     measureBesideAFloor(
         state, [&] { return full.schedule(); }, [&] { return writeOneRow(full); }, wallMsecs);
 }
-BENCHMARK(createScheduled)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(createScheduled)->Apply(inMicroseconds);
 
 } // namespace
 

@@ -22,6 +22,14 @@ void showOne(ConferenceMsgStaticWidget &card, const QString &text)
     card.singleInit({one});
 }
 
+template <int Count, auto Build>
+void showTitleOfFirst(ConferenceMsgStaticWidget &card, const QString &text)
+{
+    QVector<ContactDetailMsg> list = conferences(Count);
+    list[0].title = text;
+    (card.*Build)(list);
+}
+
 template <QString UserInfo::*Shown>
 void showCandidate(ConferenceMsgStaticWidget &card, const QString &text)
 {
@@ -36,12 +44,7 @@ const std::vector<CardCosts::LongText> &CardCosts::longTexts()
 {
     static const std::vector<LongText> texts = {
         {"title", showOne<&ContactDetailMsg::title>},
-        {"titles of a list",
-         [](ConferenceMsgStaticWidget &card, const QString &text) {
-             QVector<ContactDetailMsg> list = conferences(4);
-             list[0].title = text;
-             card.multipleInit(list);
-         }},
+        {"titles of a list", showTitleOfFirst<4, &ConferenceMsgStaticWidget::multipleInit>},
         {"number", showOne<&ContactDetailMsg::conferenceDialNumber>},
         {"participant",
          [](ConferenceMsgStaticWidget &card, const QString &text) {
@@ -49,12 +52,7 @@ const std::vector<CardCosts::LongText> &CardCosts::longTexts()
              one.participants = {user(text, {}, {}, {})};
              card.singleInit({one});
          }},
-        {"title while editing",
-         [](ConferenceMsgStaticWidget &card, const QString &text) {
-             QVector<ContactDetailMsg> list = conferences(1);
-             list[0].title = text;
-             card.createInviteConference(list);
-         }},
+        {"title while editing", showTitleOfFirst<1, &ConferenceMsgStaticWidget::createInviteConference>},
         {"name of a candidate", showCandidate<&UserInfo::remarkName>},
         {"account of a candidate", showCandidate<&UserInfo::account>},
     };

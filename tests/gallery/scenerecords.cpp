@@ -24,6 +24,22 @@ UserInfo candidate(const QString &name, const QString &remarkName, const QString
     return {name, remarkName, QStringLiteral("u-") + account, account};
 }
 
+struct Candidate
+{
+    QString remarkName;
+    QString account;
+};
+
+DuplicateUsers namesakes(const QString &name, const QVector<Candidate> &candidates)
+{
+    DuplicateUsers group;
+    group.name = name;
+    for (const Candidate &one : candidates) {
+        group.users.append(candidate(name, one.remarkName, one.account));
+    }
+    return group;
+}
+
 const QString LongName = QStringLiteral("欧阳修文·克里斯蒂娜·亚历山德罗芙娜（华东区研发三部）");
 
 } // namespace
@@ -91,17 +107,13 @@ QVector<ContactDetailMsg> SceneRecords::conferences(int count)
 
 ContactInviteMemberDetail SceneRecords::duplicates()
 {
-    const QString wang = QStringLiteral("王芳");
-    const QString li = QStringLiteral("李雷");
     ContactInviteMemberDetail detail;
     detail.duplicateUsers = {
-        {wang,
-         {candidate(wang, QStringLiteral("王芳（财务）"), QStringLiteral("wangfang01")),
-          candidate(wang, QStringLiteral("王芳（研发）"), QStringLiteral("wangfang02"))}},
-        {li,
-         {candidate(li, QStringLiteral("李雷（上海）"), QStringLiteral("lilei")),
-          candidate(li, QString(), QStringLiteral("lilei.bj")),
-          candidate(li, QStringLiteral("李雷（广州）"), QStringLiteral("lilei.gz"))}},
+        namesakes(QStringLiteral("王芳"), {{QStringLiteral("王芳（财务）"), QStringLiteral("wangfang01")},
+                                           {QStringLiteral("王芳（研发）"), QStringLiteral("wangfang02")}}),
+        namesakes(QStringLiteral("李雷"), {{QStringLiteral("李雷（上海）"), QStringLiteral("lilei")},
+                                           {QString(), QStringLiteral("lilei.bj")},
+                                           {QStringLiteral("李雷（广州）"), QStringLiteral("lilei.gz")}}),
     };
     detail.normalUsers = {
         candidate(QStringLiteral("韩梅梅"), QStringLiteral("韩梅梅"), QStringLiteral("hanmm"))};

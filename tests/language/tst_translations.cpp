@@ -41,19 +41,15 @@ class TestTranslations : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void filesHoldTheTextsOfTheSources_data() { addPrograms(); }
+    void initTestCase_data();
+    void init();
+
     void filesHoldTheTextsOfTheSources();
-    void everyTextIsTranslated_data() { addPrograms(); }
     void everyTextIsTranslated();
-    void translationsTakeTheSameArguments_data() { addPrograms(); }
     void translationsTakeTheSameArguments();
-    void onlyWhatIsNotForTheUsersLanguageIsChineseInTheSources_data() { addPrograms(); }
     void onlyWhatIsNotForTheUsersLanguageIsChineseInTheSources();
 
 private:
-    static void addPrograms();
-    void read(const Program &program);
-
     QString m_sources;
     QString m_file;
     struct Message
@@ -65,7 +61,7 @@ private:
     QVector<Message> m_messages;
 };
 
-void TestTranslations::addPrograms()
+void TestTranslations::initTestCase_data()
 {
     QTest::addColumn<Program>("program");
     const QVector<Program> all = programs();
@@ -74,8 +70,10 @@ void TestTranslations::addPrograms()
     }
 }
 
-void TestTranslations::read(const Program &program)
+/// Reads the program's translations.
+void TestTranslations::init()
 {
+    QFETCH_GLOBAL(Program, program);
     m_sources = QStringLiteral(CONTACT_SOURCE_DIR "/platform/%1").arg(QLatin1String(program.folder));
     m_file = QStringLiteral("%1/translations/%2_zh_CN.ts").arg(m_sources, QLatin1String(program.name));
     m_messages.clear();
@@ -99,8 +97,6 @@ void TestTranslations::read(const Program &program)
 
 void TestTranslations::filesHoldTheTextsOfTheSources()
 {
-    QFETCH(Program, program);
-    read(program);
     const QTemporaryDir folder;
     const QString copy = folder.filePath(QFileInfo(m_file).fileName());
     QVERIFY(QFile::copy(m_file, copy));
@@ -117,8 +113,6 @@ void TestTranslations::filesHoldTheTextsOfTheSources()
 
 void TestTranslations::everyTextIsTranslated()
 {
-    QFETCH(Program, program);
-    read(program);
     for (const Message &message : qAsConst(m_messages)) {
         QVERIFY2(message.type.isEmpty() && !message.translation.isEmpty(), qUtf8Printable(message.source));
     }
@@ -126,8 +120,6 @@ void TestTranslations::everyTextIsTranslated()
 
 void TestTranslations::translationsTakeTheSameArguments()
 {
-    QFETCH(Program, program);
-    read(program);
     for (const Message &message : qAsConst(m_messages)) {
         for (int place = 1; place <= 9; ++place) {
             const QString mark = QStringLiteral("%%1").arg(place);
@@ -142,8 +134,7 @@ void TestTranslations::translationsTakeTheSameArguments()
 
 void TestTranslations::onlyWhatIsNotForTheUsersLanguageIsChineseInTheSources()
 {
-    QFETCH(Program, program);
-    read(program);
+    QFETCH_GLOBAL(Program, program);
     const QRegularExpression chinese(
         QStringLiteral("\"[^\"]*[\\p{Han}\\x{3000}-\\x{303f}\\x{ff00}-\\x{ffef}]"));
     QStringList found;

@@ -81,6 +81,7 @@ private Q_SLOTS:
 private:
     static void addLanguages();
     void open(const QString &code);
+    void joinTheRunningConference();
     void verify(QWidget &root, int least);
     QDialog *dialog() const;
     void close(QDialog *dialog) const;
@@ -119,6 +120,13 @@ void TestContactsLanguages::open(const QString &code)
     nameWithDigits(*m_fixture->world);
     m_fixture->reopen(ContactsWindow::Tools::ForDevelopers);
     QVERIFY(m_fixture->waitUntilShown());
+}
+
+void TestContactsLanguages::joinTheRunningConference()
+{
+    m_fixture->world->ask(QStringLiteral("Join Conference"),
+                          QJsonObject{{QStringLiteral("conferenceId"), QStringLiteral("8801")}});
+    m_fixture->follow();
 }
 
 void TestContactsLanguages::verify(QWidget &root, int least)
@@ -161,9 +169,7 @@ void TestContactsLanguages::pagesAreInOneLanguage()
 {
     QFETCH(QString, code);
     open(code);
-    m_fixture->world->ask(QStringLiteral("Join Conference"),
-                          QJsonObject{{QStringLiteral("conferenceId"), QStringLiteral("8801")}});
-    m_fixture->follow();
+    joinTheRunningConference();
     m_fixture->pick("scope", 1);
     m_fixture->child<QAbstractButton>("ended")->click();
     QCOMPARE(m_fixture->conferences()->model()->rowCount(), 4);
@@ -277,9 +283,7 @@ void TestContactsLanguages::noTextIsCutInTheNarrowestWindow()
 {
     QFETCH(QString, code);
     open(code);
-    m_fixture->world->ask(QStringLiteral("Join Conference"),
-                          QJsonObject{{QStringLiteral("conferenceId"), QStringLiteral("8801")}});
-    m_fixture->follow();
+    joinTheRunningConference();
     m_fixture->window->resize(m_fixture->window->minimumSizeHint());
     for (int page = 0; page < m_fixture->tabs()->count(); ++page) {
         m_fixture->tabs()->setCurrentIndex(page);

@@ -27,6 +27,19 @@ struct Row
     int code;
 };
 
+/// The words that inviting people and creating a conference have in common.
+QVector<Row> memberWords()
+{
+    return {{"OK", 0},
+            {"Not Found", -16002},
+            {"Conference Not Start", -16005},
+            {"Exceed Members Limit", -16006},
+            {"Return", 0}, // no users, so none is missing
+            {"Conference Create Too Frequently", -16019},
+            {"In Other Conference", -16013},
+            {"User Not Login", -16017}};
+}
+
 /// Every word that any of the analysers knows.
 const char *const AllWords[] = {
     "OK", "Success", "Return", "Duplicate", "Not Found", "No Conference", "Conference Not Start",
@@ -37,8 +50,7 @@ const char *const AllWords[] = {
     "ok", "success", "OK ", "not found", "TRUE", ""};
 
 /// Adds a row for every word; words missing from @p table give @p otherwise.
-template <std::size_t Size>
-void addRows(const Row (&table)[Size], int otherwise)
+void addRows(const QVector<Row> &table, int otherwise)
 {
     addColumns<QString, int>({"word", "code"});
     for (const char *word : AllWords) {
@@ -62,6 +74,18 @@ ContactCreatedConferenceDetail filledDetail()
     detail.inviteDetail.notExistUsers.resize(3);
     detail.inviteDetail.canInviteNum = 9;
     return detail;
+}
+
+/// The codes of all analysers for @p answer: general, creation, invitation, joining, query, update.
+QVector<int> codesOf(const QString &answer, ContactCreatedConferenceDetail &created,
+                     QVector<ContactDetailMsg> &conferences)
+{
+    return {ContactUtils::analyzeReturnContext(answer),
+            ContactUtils::analyzeResultContext(answer, {}, false, 77, created),
+            ContactUtils::analyzeResultContext(answer, {}, created.inviteDetail),
+            ContactUtils::analyzeJoinReturnContext(answer, conferences),
+            ContactUtils::analyzeQueryResultContext(answer, 0, conferences),
+            ContactUtils::analyzeUpdateReturnContext(answer, created)};
 }
 
 } // namespace
@@ -93,18 +117,7 @@ private Q_SLOTS:
         QCOMPARE(log.lines(), QStringList());
     }
 
-    void inviteWords_data()
-    {
-        addRows({{"OK", 0},
-                 {"Not Found", -16002},
-                 {"Conference Not Start", -16005},
-                 {"Exceed Members Limit", -16006},
-                 {"Return", 0}, // no users, so none is missing
-                 {"Conference Create Too Frequently", -16019},
-                 {"In Other Conference", -16013},
-                 {"User Not Login", -16017}},
-                -16001);
-    }
+    void inviteWords_data() { addRows(memberWords(), -16001); }
     void inviteWords()
     {
         QFETCH(QString, word);
@@ -118,19 +131,7 @@ private Q_SLOTS:
         QCOMPARE(log.lines(), QStringList());
     }
 
-    void createWords_data()
-    {
-        addRows({{"OK", 0},
-                 {"Time Overlap", -16008},
-                 {"Not Found", -16002},
-                 {"Conference Not Start", -16005},
-                 {"Exceed Members Limit", -16006},
-                 {"Return", 0},
-                 {"Conference Create Too Frequently", -16019},
-                 {"In Other Conference", -16013},
-                 {"User Not Login", -16017}},
-                -16001);
-    }
+    void createWords_data() { addRows(memberWords() + QVector<Row>{{"Time Overlap", -16008}}, -16001); }
     void createWords()
     {
         QFETCH(QString, word);
@@ -331,12 +332,7 @@ private Q_SLOTS:
             log.expect(QtWarningMsg, expected);
         }
 
-        QCOMPARE(ContactUtils::analyzeReturnContext(answer), -16001);
-        QCOMPARE(ContactUtils::analyzeResultContext(answer, {}, false, 77, created), -16001);
-        QCOMPARE(ContactUtils::analyzeResultContext(answer, {}, created.inviteDetail), -16001);
-        QCOMPARE(ContactUtils::analyzeJoinReturnContext(answer, conferences), -16001);
-        QCOMPARE(ContactUtils::analyzeQueryResultContext(answer, 0, conferences), -16001);
-        QCOMPARE(ContactUtils::analyzeUpdateReturnContext(answer, created), -16001);
+        QCOMPARE(codesOf(answer, created, conferences), QVector<int>(6, -16001));
 
         QCOMPARE(log.texts(QtWarningMsg), QStringList({text, memberText, memberText, text, text, text}));
         QCOMPARE(log.records().constFirst().category, QByteArray("default"));
@@ -362,12 +358,8 @@ private Q_SLOTS:
         const LogCapture log;
         ContactCreatedConferenceDetail created;
         QVector<ContactDetailMsg> conferences;
-        QCOMPARE(ContactUtils::analyzeReturnContext(answer), -16001);
-        QCOMPARE(ContactUtils::analyzeResultContext(answer, {}, false, 0, created), -16001);
-        QCOMPARE(ContactUtils::analyzeResultContext(answer, {}, created.inviteDetail), -16001);
-        QCOMPARE(ContactUtils::analyzeJoinReturnContext(answer, conferences), -16005);
-        QCOMPARE(ContactUtils::analyzeQueryResultContext(answer, 0, conferences), -16001);
-        QCOMPARE(ContactUtils::analyzeUpdateReturnContext(answer, created), -16001);
+        QCOMPARE(codesOf(answer, created, conferences),
+                 QVector<int>({-16001, -16001, -16001, -16005, -16001, -16001}));
     }
 
     void everyCodeHasItsNumber()

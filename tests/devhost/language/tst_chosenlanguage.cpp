@@ -3,6 +3,7 @@
 
 #include "programrun.h"
 #include "programtest.h"
+#include "testcolumns.h"
 
 namespace {
 
@@ -54,27 +55,26 @@ private Q_SLOTS:
 
 void TestChosenLanguage::localeChooses_data()
 {
-    QTest::addColumn<Environment>("locale");
-    QTest::addColumn<QString>("told");
-    const QString lang = QStringLiteral("LANG");
-    const QString messages = QStringLiteral("LC_MESSAGES");
-    const QString all = QStringLiteral("LC_ALL");
-    const QString languages = QStringLiteral("LANGUAGE");
-    const QString chinese = QStringLiteral("zh_CN.UTF-8");
-    const QString english = QStringLiteral("en_GB.UTF-8");
+    addColumns<Environment, QString>({"locale", "told"});
+    const auto row = [](const char *name, const char *settings, const QString &told) {
+        Environment locale;
+        const QStringList assignments = QString::fromLatin1(settings).split(QLatin1Char(' '));
+        for (const QString &assignment : assignments) {
+            locale.insert(assignment.section(QLatin1Char('='), 0, 0),
+                          assignment.section(QLatin1Char('='), 1));
+        }
+        QTest::newRow(name) << locale << told;
+    };
     QTest::newRow("none") << Environment{} << English;
-    QTest::newRow("Chinese") << Environment{{lang, chinese}} << Chinese;
-    QTest::newRow("Chinese of Taiwan") << Environment{{lang, QStringLiteral("zh_TW.UTF-8")}} << Chinese;
-    QTest::newRow("English") << Environment{{lang, english}} << English;
-    QTest::newRow("without translation") << Environment{{lang, QStringLiteral("de_DE.UTF-8")}} << English;
-    QTest::newRow("messages before the rest") << Environment{{lang, english}, {messages, chinese}} << Chinese;
-    QTest::newRow("all before messages") << Environment{{all, english}, {messages, chinese}} << English;
-    QTest::newRow("the first of a list that there is")
-        << Environment{{lang, english}, {languages, QStringLiteral("de:zh_CN:en")}} << Chinese;
-    QTest::newRow("no locale, whatever the list says")
-        << Environment{{all, QStringLiteral("C.UTF-8")}, {languages, QStringLiteral("zh_CN:zh")}} << English;
-    QTest::newRow("English before Chinese")
-        << Environment{{lang, chinese}, {languages, QStringLiteral("en_GB:zh_CN")}} << English;
+    row("Chinese", "LANG=zh_CN.UTF-8", Chinese);
+    row("Chinese of Taiwan", "LANG=zh_TW.UTF-8", Chinese);
+    row("English", "LANG=en_GB.UTF-8", English);
+    row("without translation", "LANG=de_DE.UTF-8", English);
+    row("messages before the rest", "LANG=en_GB.UTF-8 LC_MESSAGES=zh_CN.UTF-8", Chinese);
+    row("all before messages", "LC_ALL=en_GB.UTF-8 LC_MESSAGES=zh_CN.UTF-8", English);
+    row("the first of a list that there is", "LANG=en_GB.UTF-8 LANGUAGE=de:zh_CN:en", Chinese);
+    row("no locale, whatever the list says", "LC_ALL=C.UTF-8 LANGUAGE=zh_CN:zh", English);
+    row("English before Chinese", "LANG=zh_CN.UTF-8 LANGUAGE=en_GB:zh_CN", English);
 }
 
 void TestChosenLanguage::localeChooses()

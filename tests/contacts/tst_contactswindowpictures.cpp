@@ -23,13 +23,7 @@ private Q_SLOTS:
 
 void TestContactsWindowPictures::everyState_data()
 {
-    QTest::addColumn<WindowState>("state");
-    QTest::addColumn<bool>("isDark");
-    const QVector<WindowState> states = windowStates();
-    for (const WindowState &state : states) {
-        QTest::addRow("%s, light", state.name) << state << false;
-        QTest::addRow("%s, dark", state.name) << state << true;
-    }
+    DocumentedPictures::addRows(windowStates());
 }
 
 void TestContactsWindowPictures::everyState()

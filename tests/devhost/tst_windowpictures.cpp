@@ -115,11 +115,6 @@ struct State
     Arrange arrange;
 };
 
-constexpr State States[] = {{"welcome", welcome},   {"answer", answer},   {"waiting", waiting},
-                            {"editable", editable}, {"picked", picked},   {"disabled", disabled},
-                            {"failed", failed},     {"problem", problem}, {"scrolled-up", scrolledUp},
-                            {"password", password}};
-
 } // namespace
 
 Q_DECLARE_METATYPE(State)
@@ -151,12 +146,16 @@ void TestWindowPictures::initTestCase()
 
 void TestWindowPictures::everyState_data()
 {
-    QTest::addColumn<State>("state");
-    QTest::addColumn<bool>("isDark");
-    for (const State &state : States) {
-        QTest::addRow("%s, light", state.name) << state << false;
-        QTest::addRow("%s, dark", state.name) << state << true;
-    }
+    DocumentedPictures::addRows<State>({{"welcome", welcome},
+                                        {"answer", answer},
+                                        {"waiting", waiting},
+                                        {"editable", editable},
+                                        {"picked", picked},
+                                        {"disabled", disabled},
+                                        {"failed", failed},
+                                        {"problem", problem},
+                                        {"scrolled-up", scrolledUp},
+                                        {"password", password}});
 }
 
 void TestWindowPictures::everyState()

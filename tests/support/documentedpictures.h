@@ -5,11 +5,25 @@
 
 #include <QImage>
 #include <QString>
+#include <QTest>
+#include <QVector>
 
 class QWidget;
 
 /// Compares pictures of a window's states with those in docs/pictures. Link documented_pictures.
 namespace DocumentedPictures {
+
+/// Adds two rows for each of @p states, light and dark, in the columns "state" and "isDark".
+template <typename State>
+void addRows(const QVector<State> &states)
+{
+    QTest::addColumn<State>("state");
+    QTest::addColumn<bool>("isDark");
+    for (const State &state : states) {
+        QTest::addRow("%s, light", state.name) << state << false;
+        QTest::addRow("%s, dark", state.name) << state << true;
+    }
+}
 
 /// Returns a picture of @p window with the visible dialogs and popups above it, each with a border. They are
 /// grabbed one by one and placed relative to the window, since a test's screen is smaller.

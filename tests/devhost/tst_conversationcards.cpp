@@ -4,8 +4,7 @@
 #include "conversationview.h"
 #include "picturedcard.h"
 #include "shownview.h"
-
-#include <lumo/lstyle.h>
+#include "styledtest.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -53,12 +52,11 @@ int megabytesInUse()
 } // namespace
 
 /// The cards of a conversation: how long they live, what takes their place, and their focus.
-class TestConversationCards : public QObject
+class TestConversationCards : public StyledTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void oldCardsBecomePicturesThatComeBack();
     void cardWithTheFocusStaysAlive();
     void cardInSightStaysAlive();
@@ -66,11 +64,6 @@ private Q_SLOTS:
     void tenThousandTurnsStaySmall();
     void tabReachesEveryCard();
 };
-
-void TestConversationCards::initTestCase()
-{
-    QApplication::setStyle(new LStyle);
-}
 
 void TestConversationCards::oldCardsBecomePicturesThatComeBack()
 {

@@ -4,9 +4,8 @@
 #include "bubble.h"
 #include "conversationview.h"
 #include "shownview.h"
+#include "styledtest.h"
 #include "turnbutton.h"
-
-#include <lumo/lstyle.h>
 
 #include <QtTest>
 #include <QtWidgets>
@@ -29,22 +28,16 @@ Bubble *bubbleWith(const ConversationView &view, const QString &text)
 } // namespace
 
 /// The conversation view alone: reading it with eyes, keyboard and assistive tools.
-class TestConversationView : public QObject
+class TestConversationView : public StyledTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void arrowsGoFromBubbleToBubble();
     void menuOpensByItsButtonAndByItsKey();
     void menuButtonsComeBackWithTheWindow();
     void assistiveToolsReadTheConversation();
 };
-
-void TestConversationView::initTestCase()
-{
-    QApplication::setStyle(new LStyle);
-}
 
 void TestConversationView::arrowsGoFromBubbleToBubble()
 {

@@ -9,8 +9,7 @@
 #include "inputline.h"
 #include "logrecorder.h"
 #include "mainwindow.h"
-
-#include <lumo/lstyle.h>
+#include "styledtest.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -57,17 +56,12 @@ struct Desk
     }
 };
 
-/// Base class of window tests: sets the desk's style and gives each test function its own settings.
-class WindowTest : public QObject
+/// Base class of window tests: gives each test function its own settings.
+class WindowTest : public StyledTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        // The program's style.
-        QApplication::setStyle(new LStyle);
-    }
     void init()
     {
         QCoreApplication::setOrganizationName(QStringLiteral("test"));

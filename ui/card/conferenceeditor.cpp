@@ -24,6 +24,8 @@
 #include <QPushButton>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int DatePickerWidth = 160;
@@ -177,10 +179,15 @@ QWidget *ConferenceEditor::buttons(QWidget *card)
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(CardMeasures::Spacing);
+    m_buttons.clear();
+    const auto add = [this, layout, card](QPushButton *button) {
+        CardButtons::prepare(*button, card);
+        layout->addWidget(button);
+        m_buttons.append(button);
+    };
 
     m_cancelButton = new QPushButton(QStringLiteral("取 消"), row);
-    CardButtons::prepare(*m_cancelButton, card);
-    layout->addWidget(m_cancelButton);
+    add(m_cancelButton);
 
     QPushButton *divider = ConferenceRows::line(row);
     divider->setFixedWidth(CardMeasures::LineThickness);
@@ -188,9 +195,13 @@ QWidget *ConferenceEditor::buttons(QWidget *card)
 
     m_modifyButton = new LSuggestButton(QStringLiteral("修 改"), row);
     m_modifyButton->setEnabled(false);
-    CardButtons::prepare(*m_modifyButton, card);
-    layout->addWidget(m_modifyButton);
+    add(m_modifyButton);
     return row;
+}
+
+bool ConferenceEditor::owns(const QPushButton *button) const
+{
+    return button != nullptr && std::find(m_buttons.cbegin(), m_buttons.cend(), button) != m_buttons.cend();
 }
 
 bool ConferenceEditor::isListBox(const QWidget &control)

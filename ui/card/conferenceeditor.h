@@ -8,6 +8,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QVector>
 
 QT_BEGIN_NAMESPACE
 class QPushButton;
@@ -49,11 +50,8 @@ public:
     [[nodiscard]] QPushButton *cancelButton() const { return m_cancelButton; }
     [[nodiscard]] QPushButton *modifyButton() const { return m_modifyButton; }
 
-    /// Whether @p button is cancelButton() or modifyButton().
-    [[nodiscard]] bool owns(const QPushButton *button) const
-    {
-        return button != nullptr && (button == m_cancelButton || button == m_modifyButton);
-    }
+    /// Whether @p button is one of those that buttons() made, and is still there.
+    [[nodiscard]] bool owns(const QPushButton *button) const;
 
     /// Whether @p control is a combo box whose list Return opens.
     static bool isListBox(const QWidget &control);
@@ -66,6 +64,7 @@ private:
     QVector<ContactDetailMsg> m_conferences;
     ConferenceDurations m_durations;
     ConferenceDraft m_draft;
+    QVector<QPointer<QPushButton>> m_buttons;
     QPointer<QPushButton> m_cancelButton;
     QPointer<QPushButton> m_modifyButton;
 };

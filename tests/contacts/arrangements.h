@@ -64,6 +64,12 @@ inline Parameters conference(const char *dialNumber, const QJsonObject &more = {
     };
 }
 
+/// The same, for a single @p key beside the id.
+inline Parameters conference(const char *dialNumber, const char *key, const QJsonValue &value)
+{
+    return conference(dialNumber, QJsonObject{{QString::fromLatin1(key), value}});
+}
+
 inline void logOut(SampleWorld &world)
 {
     world.admin.Logout();

@@ -52,7 +52,9 @@ private Q_SLOTS:
         row("next month", "下个月15号", "2026-04-15");
         row("a date and its weekday", "3月20号周五下午三点", "2026-03-20T15:00:00");
         row("the thirtieth of February is no date", "2月30号", "no such date");
-        row("nor is the night after the last day", "9999年12月31号夜里一点", "no such date");
+        row("the night after the last day that can be written", "9999年12月31号夜里一点", "no such date");
+        row("nine thousand years from now", "过9000年", "no such date");
+        row("a part of a day in nine thousand years", "过9000年下午", "no such date");
         row("nor is the thirty-first of April", "4月31日", "no such date");
         row("nor the thirteenth month", "13月5号", "no such date");
         row("the twenty-ninth of February without a leap year", "2月29号", "no such date");

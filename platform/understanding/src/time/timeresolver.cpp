@@ -95,10 +95,6 @@ ResolvedTime momentOf(QDate day, int minutes)
     const int days = minutes >= MinutesPerDay ? 1 : minutes < 0 ? -1 : 0;
     const int ofDay = minutes - days * MinutesPerDay;
     resolved.date = day.addDays(days);
-    constexpr int lastYear = 9999; // that four digits can say
-    if (resolved.date.year() > lastYear) {
-        return problem(ResolvedTime::Problem::NoSuchDate);
-    }
     resolved.time = QTime(ofDay / MinutesPerHour, ofDay % MinutesPerHour);
     return resolved;
 }
@@ -123,25 +119,7 @@ void writeDigits(QString &text, int last, int number)
     }
 }
 
-} // namespace
-
-QString ResolvedTime::toString() const
-{
-    // By hand: QDate and QTime format with printf, which takes a twentieth of reading the whole sentence.
-    QString text = QStringLiteral("0000-00-00T00:00:00");
-    writeDigits(text, 3, date.year());
-    writeDigits(text, 6, date.month());
-    writeDigits(text, 9, date.day());
-    if (!time.isValid()) {
-        return text.left(10);
-    }
-    writeDigits(text, 12, time.hour());
-    writeDigits(text, 15, time.minute());
-    writeDigits(text, 18, time.second());
-    return text;
-}
-
-ResolvedTime resolveTime(const TimeExpression &expression, const QDateTime &now)
+ResolvedTime resolve(const TimeExpression &expression, const QDateTime &now)
 {
     const QDate today = now.date();
     QDate day = resolveDay(expression, today);
@@ -190,6 +168,31 @@ ResolvedTime resolveTime(const TimeExpression &expression, const QDateTime &now)
         resolved.time = part->start;
     }
     return resolved;
+}
+
+} // namespace
+
+QString ResolvedTime::toString() const
+{
+    // By hand: QDate and QTime format with printf, which takes a twentieth of reading the whole sentence.
+    QString text = QStringLiteral("0000-00-00T00:00:00");
+    writeDigits(text, 3, date.year());
+    writeDigits(text, 6, date.month());
+    writeDigits(text, 9, date.day());
+    if (!time.isValid()) {
+        return text.left(10);
+    }
+    writeDigits(text, 12, time.hour());
+    writeDigits(text, 15, time.minute());
+    writeDigits(text, 18, time.second());
+    return text;
+}
+
+ResolvedTime resolveTime(const TimeExpression &expression, const QDateTime &now)
+{
+    constexpr int lastYear = 9999; // that four digits can say
+    const ResolvedTime resolved = resolve(expression, now);
+    return resolved.date.year() > lastYear ? problem(ResolvedTime::Problem::NoSuchDate) : resolved;
 }
 
 } // namespace understanding

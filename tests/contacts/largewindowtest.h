@@ -39,8 +39,10 @@ protected:
     double slowness();
 
     TablePage *page(int index) const;
-    /// Measures the window's update after a change, including painting. Negative if nothing is painted.
+    /// Measures the window's update after a change, including painting. Negative if no change comes.
     double showMsecs();
+    /// Whether the page in front was painted then. It is not while its rows are still being read.
+    bool wasPainted() const { return m_wasPainted; }
 
     std::unique_ptr<SampleWorld> m_world;
     std::unique_ptr<ContactsWindow> m_window;
@@ -49,4 +51,5 @@ private:
     void fill();
 
     double m_lastSlowness = 1;
+    bool m_wasPainted = false;
 };

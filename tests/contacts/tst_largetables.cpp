@@ -29,7 +29,7 @@ private Q_SLOTS:
 private:
     /// Reads all people to the end and checks how long that blocks the window.
     void finishReading();
-    /// Writes, and checks how long that blocks the window.
+    /// Writes, checks how long that blocks the window, and reads all people again.
     void verifyAWriteIsShownSoon();
 };
 
@@ -52,14 +52,15 @@ void TestLargeTables::finishReading()
 
 void TestLargeTables::verifyAWriteIsShownSoon()
 {
-    // Several tries, because what else the machine does slows down one or the other.
+    // What else the machine does may slow down one write; a slow one is slow each time.
     double shown = 0;
     double most = 0;
-    for (int round = 0; round == 0 || (round < 20 && shown > most); ++round) {
+    for (int attempt = 0; attempt == 0 || (attempt < 3 && shown >= most); ++attempt) {
         m_world->admin.SetFriendLimit(1000000);
         shown = showMsecs();
-        QVERIFY(shown > 0);
+        QVERIFY(shown >= 0);
         most = FrameMsecs * Slower * slowness();
+        finishReading();
     }
     QVERIFY2(shown < most, qPrintable(QString::number(shown)));
 }
@@ -100,7 +101,6 @@ void TestLargeTables::aFilterFindsWhoWasNotReadYet()
     QCOMPARE(model->rowCount(), 0);
     // A write filters everybody again, but not in one go.
     verifyAWriteIsShownSoon();
-    finishReading();
     page(1)->filter()->clear();
     QVERIFY(model->rowCount() >= 100);
 }
@@ -114,7 +114,6 @@ void TestLargeTables::anotherOrderIsOfAllPeople()
     QCOMPARE(table->model()->index(0, PeopleModel::Account).data().toString(), QStringLiteral("5100000"));
     // A write reads everybody again, but not in one go.
     verifyAWriteIsShownSoon();
-    finishReading();
     QCOMPARE(table->model()->rowCount(), Count + 23);
     table->sortByColumn(PeopleModel::Account, Qt::AscendingOrder);
     QVERIFY(table->model()->rowCount() < Count);

@@ -41,14 +41,12 @@ private Q_SLOTS:
     void everybodyCanLogIn();
 
 private:
-    /// Brings about what the write needs, shows it, and returns the write's parameters.
-    QJsonObject prepare(const QString &action);
+    /// Brings about what the write needs, shows it, and sets the write's parameters.
+    void prepare(const QString &action, QJsonObject &parameters);
     /// Performs the action, or a write of the administration if it is empty.
     bool write(const QString &action, const QJsonObject &parameters);
     /// Only somebody with a single running conference joins it without its number; each round leaves one.
     void forgetRunning();
-    /// Adds a conference of this round that runs now, and returns its number.
-    QString runningConference(const char *hostAccount);
     /// One person's account per round.
     QString account() const { return QStringLiteral("5%1").arg(m_round, 6, 10, QLatin1Char('0')); }
 
@@ -64,15 +62,6 @@ void TestLargeWindow::forgetRunning()
             .run();
         return true;
     }));
-}
-
-QString TestLargeWindow::runningConference(const char *hostAccount)
-{
-    const QString number = QString::number(880000 + m_round);
-    m_world->admin.AddConference(number, QStringLiteral("周会"), QString::fromLatin1(hostAccount),
-                                 m_world->nowMsecs, HourMsecs, 20, QString(), {});
-    showMsecs();
-    return number;
 }
 
 void TestLargeWindow::aWriteIsAnsweredFirstAndShownSoon_data()
@@ -93,35 +82,40 @@ void TestLargeWindow::aWriteIsAnsweredFirstAndShownSoon_data()
     }
 }
 
-QJsonObject TestLargeWindow::prepare(const QString &action)
+void TestLargeWindow::prepare(const QString &action, QJsonObject &parameters)
 {
     ++m_round;
     if (action == QLatin1String("Create Conference")) {
-        return {{QStringLiteral("startTime"), m_world->nowMsecs + (Count + 100 + 2 * m_round) * HourMsecs}};
-    }
-    if (action == QLatin1String("Add Friends")) {
-        return {{QStringLiteral("userId"), account()}};
-    }
-    if (action == QLatin1String("Delete Conference")) {
-        return {{QStringLiteral("conferenceId"), QStringLiteral("c%1").arg(m_round)}};
-    }
-    if (action == QLatin1String("Update Conference")) {
-        return {{QStringLiteral("conferenceId"), QStringLiteral("c%1").arg(Count / 2 + m_round)},
-                {QStringLiteral("participantLimit"), 10}};
-    }
-    if (action == QLatin1String("Join Conference")) {
-        return {{QStringLiteral("conferenceId"), runningConference("100003")}};
-    }
-    if (action == QLatin1String("Join My Conference")) {
-        forgetRunning();
-        runningConference("100001");
+        parameters = {
+            {QStringLiteral("startTime"), m_world->nowMsecs + (Count + 100 + 2 * m_round) * HourMsecs}};
+    } else if (action == QLatin1String("Add Friends")) {
+        parameters = {{QStringLiteral("userId"), account()}};
+    } else if (action == QLatin1String("Delete Conference")) {
+        parameters = {{QStringLiteral("conferenceId"), QStringLiteral("c%1").arg(m_round)}};
+    } else if (action == QLatin1String("Update Conference")) {
+        parameters = {{QStringLiteral("conferenceId"), QStringLiteral("c%1").arg(Count / 2 + m_round)},
+                      {QStringLiteral("participantLimit"), 10}};
+    } else if (action.startsWith(QLatin1String("Join"))) {
+        const bool isOwn = action == QLatin1String("Join My Conference");
+        const QString number = QString::number(880000 + m_round);
+        if (isOwn) {
+            forgetRunning();
+        } else {
+            parameters = {{QStringLiteral("conferenceId"), number}};
+        }
+        QVERIFY(!m_world->admin
+                     .AddConference(number, QStringLiteral("周会"),
+                                    QString::fromLatin1(isOwn ? "100001" : "100003"), m_world->nowMsecs,
+                                    HourMsecs, 20, QString(), {})
+                     .isEmpty());
+        QVERIFY(showMsecs() >= 0);
     } else if (!action.isEmpty()) {
-        m_world->ask(QStringLiteral("Create Conference"));
-        showMsecs();
+        QVERIFY(write(QStringLiteral("Create Conference"), {}));
+        QVERIFY(showMsecs() >= 0);
+        if (action == QLatin1String("Invite Members")) {
+            parameters = membersNamed({QStringLiteral("person %1").arg(m_round)});
+        }
     }
-    return action == QLatin1String("Invite Members")
-               ? membersNamed({QStringLiteral("person %1").arg(m_round)})
-               : QJsonObject();
 }
 
 bool TestLargeWindow::write(const QString &action, const QJsonObject &parameters)
@@ -136,35 +130,34 @@ void TestLargeWindow::aWriteIsAnsweredFirstAndShownSoon()
     QFETCH(QString, action);
     QFETCH(int, tab);
     m_window->findChild<QTabWidget *>()->setCurrentIndex(tab);
-    QVector<double> answers;
-    QVector<double> shown;
-    // What else the machine does can slow down many rounds in a row; a slow write slows down all of them.
-    constexpr int fewestRounds = 9;
-    constexpr int mostRounds = 60;
-    double mostAnswerMsecs = 0;
-    double mostShownMsecs = 0;
-    const auto isQuick = [&] {
-        const double slower = Slower * slowness();
-        mostAnswerMsecs = 2 * slower;
-        mostShownMsecs = FrameMsecs * slower;
-        return usual(answers) < mostAnswerMsecs && usual(shown) < mostShownMsecs;
-    };
-    while (answers.size() < fewestRounds || (answers.size() < mostRounds && !isQuick())) {
-        const QJsonObject parameters = prepare(action);
-        const double before = threadMsecs();
-        const bool isDone = write(action, parameters);
-        answers.append(threadMsecs() - before);
-        QVERIFY(isDone);
-        shown.append(showMsecs());
-        QVERIFY(shown.last() > 0);
-        if (action == QLatin1String("Invite Members") || action.startsWith(QLatin1String("Join"))) {
-            m_world->ask(QStringLiteral("Exit Conference"));
+    // What else the machine does may slow down nine rounds in a row; a slow write slows down all of them.
+    bool isQuick = false;
+    for (int attempt = 0; attempt < 3 && !isQuick; ++attempt) {
+        QVector<double> answers;
+        QVector<double> shown;
+        for (int round = 0; round < 9; ++round) {
+            QJsonObject parameters;
+            prepare(action, parameters);
+            if (QTest::currentTestFailed()) {
+                return;
+            }
+            const double before = threadMsecs();
+            const bool isDone = write(action, parameters);
+            answers.append(threadMsecs() - before);
+            QVERIFY(isDone);
+            shown.append(showMsecs());
+            QVERIFY(shown.last() >= 0);
+            QVERIFY(wasPainted());
+            if (action == QLatin1String("Invite Members") || action.startsWith(QLatin1String("Join"))) {
+                m_world->ask(QStringLiteral("Exit Conference"));
+            }
         }
+        const double slower = Slower * slowness();
+        isQuick = usual(answers) < 2 * slower && usual(shown) < FrameMsecs * slower;
+        qInfo("%s: %.2f ms before the answer, %.2f ms in the window; the machine is %.2f times as slow",
+              QTest::currentDataTag(), usual(answers), usual(shown), slower);
     }
-    qInfo("%s: %.2f ms before the answer, %.2f ms in the window, %d rounds", QTest::currentDataTag(),
-          usual(answers), usual(shown), answers.size());
-    QVERIFY2(usual(answers) < mostAnswerMsecs, qPrintable(QString::number(usual(answers))));
-    QVERIFY2(usual(shown) < mostShownMsecs, qPrintable(QString::number(usual(shown))));
+    QVERIFY2(isQuick, "see the times above");
 }
 
 void TestLargeWindow::aBurstIsShownOnce()

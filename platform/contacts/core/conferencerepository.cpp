@@ -202,9 +202,9 @@ QVector<Conference> ConferenceRepository::readAll(Statement &query, const QStrin
         conferences.append(readConference(query));
     }
     // One statement for all: preparing it takes several times as long as running it.
-    Statement seats(m_database, QLatin1String(Seats));
+    Statement seatsQuery(m_database, QLatin1String(Seats));
     for (Conference &conference : conferences) {
-        conference.participants = withoutThoseWhoLeft(readSeats(seats, conference.id, viewerId));
+        conference.participants = withoutThoseWhoLeft(readSeats(seatsQuery, conference.id, viewerId));
     }
     return conferences;
 }

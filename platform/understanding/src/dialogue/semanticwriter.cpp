@@ -15,23 +15,27 @@ namespace understanding {
 
 namespace {
 
-bool isPlain(QChar character)
+bool isLeftToQt(QChar character)
 {
-    return character >= QLatin1Char(' ') && character != QLatin1Char('"') && character != QLatin1Char('\\') &&
-           !character.isSurrogate();
+    return character < QLatin1Char(' ') || character.isSurrogate();
 }
 
 /// Appends @p text as a JSON string with its quotes.
 void appendQuoted(QString &json, const QString &text)
 {
-    if (std::all_of(text.cbegin(), text.cend(), isPlain)) {
-        json += QLatin1Char('"');
-        json += text;
-        json += QLatin1Char('"');
+    if (std::any_of(text.cbegin(), text.cend(), isLeftToQt)) {
+        const QByteArray array = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
+        json += QString::fromUtf8(array.mid(1, array.size() - 2)); // without the brackets
         return;
     }
-    const QByteArray array = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
-    json += QString::fromUtf8(array.mid(1, array.size() - 2)); // without the brackets
+    json += QLatin1Char('"');
+    for (const QChar character : text) {
+        if (character == QLatin1Char('"') || character == QLatin1Char('\\')) {
+            json += QLatin1Char('\\');
+        }
+        json += character;
+    }
+    json += QLatin1Char('"');
 }
 
 } // namespace

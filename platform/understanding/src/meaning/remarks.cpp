@@ -19,10 +19,11 @@ namespace {
 // Possessive, so that no clause is read in more ways than one.
 constexpr char16_t Fill[] = u"(?:[就先也又还都刚正]|临时|这次|已经|现在|这会儿|正好|刚好|那天)*+";
 constexpr char16_t Ends[] = u"[了吧啊呀的啦呢]*$";
+
 const CharacterSet &signs()
 {
-    static const CharacterSet signs(u",.;:!~");
-    return signs;
+    static const CharacterSet characters(u",.;:!~");
+    return characters;
 }
 
 /// What stands behind the time, or behind the lead: 李娜不来了, 我有事.

@@ -328,9 +328,9 @@ bool proposesOpening(const Reading &reading)
 
 bool tellsWrongNumber(const QString &clause)
 {
-    static const CharacterSet saying(u"错对"); // found faster
+    static const CharacterSet needed(u"错对"); // the expression takes longer
     static const QRegularExpression wrong(QStringLiteral("(?:号|密码).{0,3}(?:错|不对)|(?:错|不对).{0,3}号"));
-    return saying.meets(clause) && clause.contains(wrong);
+    return needed.meets(clause) && clause.contains(wrong);
 }
 
 bool isTakenBack(const Reading &reading)
@@ -338,9 +338,9 @@ bool isTakenBack(const Reading &reading)
     static const QRegularExpression end(QStringLiteral(
         "[，。！？,.!?… ](?:[哎唉哦嗯那就呃还是]|哎呀)*(?:算了|罢了|当我没说|不用了)[吧啊呀哈]*"
         "(?:[，, ]*(?:还是)?(?:先?[不别甭].{1,4}))?[。！.!]*$"));
-    static const CharacterSet signs(u"，。！？,.!?… "); // found faster
+    static const CharacterSet needed(u"，。！？,.!?… "); // the expression takes longer
     const QString &raw = reading.sentence().raw();
-    return signs.meets(raw) && raw.contains(end);
+    return needed.meets(raw) && raw.contains(end);
 }
 
 } // namespace understanding

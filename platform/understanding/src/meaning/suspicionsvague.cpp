@@ -119,9 +119,9 @@ bool leavesOpenWhoComes(const Reading &reading)
         }
         return false;
     };
-    static const CharacterSet chosen(u"还或替而光仅止但除"); // found faster
+    static const CharacterSet needed(u"还或替而光仅止但除"); // the expression takes longer
     return !reading.names().empty() &&
-           ((chosen.meets(text) && tells(choosing)) || (hasWordOfAbsence(text) && tells(absence)));
+           ((needed.meets(text) && tells(choosing)) || (hasWordOfAbsence(text) && tells(absence)));
 }
 
 bool alsoCalls(const Reading &reading)

@@ -13,7 +13,7 @@ namespace understanding {
 
 /**
  * The characters that a rule asks for. Reading a sentence asks some seventy times whether one is in such a
- * set, and searching a string for it takes some ten times as long. The null character is in no set.
+ * set, and searching a string for it takes several times as long. The null character is in no set.
  */
 class CharacterSet
 {

@@ -12,7 +12,7 @@
 
 namespace understanding {
 
-/// The rows of a rule file, each of which has a word.
+/// The rows of a rule file, each of which has a word that is not empty.
 template <typename Row>
 class WordTable
 {

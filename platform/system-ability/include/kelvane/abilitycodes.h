@@ -12,5 +12,5 @@ constexpr int NoService = -2002;       ///< nobody has the application's name, a
 constexpr int Refused = -2003;         ///< the application or the bus answered with an error
 constexpr int Died = -2004;            ///< the application, or the bus, went away during the call
 constexpr int MalformedAnswer = -2005; ///< the answer is not one text
-constexpr int TimedOut = -16020; ///< no answer in time; the application does not perform the action any more
+constexpr int TimedOut = -16020;       ///< no answer in time; what was not performed by then never will be
 } // namespace AbilityCode

@@ -52,6 +52,7 @@ void Notifier::followServer()
             [this](const QString &, const QString &former, const QString &owner) {
                 m_capabilities.reset();
                 m_server.clear();
+                m_early.clear();
                 if (!former.isEmpty()) {
                     Q_EMIT serverWent();
                 }
@@ -102,6 +103,7 @@ void Notifier::send(const Notification &notification, Done done)
     const QDBusPendingCall sent =
         call(QStringLiteral("Notify"), {m_program.name, notification.replacesId, m_program.icon,
                                         notification.summary, body, actions, hints, asTheServerLikes});
+    ++m_unanswered;
     auto *watcher = new QDBusPendingCallWatcher(sent, this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, done = std::move(done)] {
         watcher->deleteLater();
@@ -109,10 +111,14 @@ void Notifier::send(const Notification &notification, Done done)
         if (reply.isError()) {
             qWarning() << "A notification was not taken:" << reply.error().message();
             done(resultOf(reply.error()), 0);
-            return;
+        } else {
+            m_server = reply.reply().service();
+            done(Result::Shown, reply.value());
         }
-        m_server = reply.reply().service();
-        done(Result::Shown, reply.value());
+        --m_unanswered;
+        while (m_unanswered == 0 && !m_early.isEmpty()) {
+            pass(m_early.takeFirst());
+        }
     });
 }
 
@@ -123,14 +129,33 @@ void Notifier::close(quint32 id)
 
 void Notifier::onActionInvoked(uint id, const QString &action, const QDBusMessage &message)
 {
-    if (message.service() == m_server) {
-        Q_EMIT actionInvoked(id, action);
-    }
+    hear({message.service(), id, action});
 }
 
 void Notifier::onClosed(uint id, uint, const QDBusMessage &message)
 {
-    if (message.service() == m_server) {
-        Q_EMIT closed(id);
+    hear({message.service(), id, std::nullopt});
+}
+
+void Notifier::hear(const Signal &signal)
+{
+    // A signal can overtake the answer that tells the id: a watcher that is created when the answer has come
+    // already needs one more turn of the event loop.
+    if (m_unanswered > 0) {
+        m_early.append(signal);
+    } else {
+        pass(signal);
+    }
+}
+
+void Notifier::pass(const Signal &signal)
+{
+    if (signal.sender != m_server) {
+        return;
+    }
+    if (signal.action) {
+        Q_EMIT actionInvoked(signal.id, *signal.action);
+    } else {
+        Q_EMIT closed(signal.id);
     }
 }

@@ -7,6 +7,7 @@
 
 #include <QDBusConnection>
 #include <QObject>
+#include <QVector>
 
 #include <functional>
 #include <optional>
@@ -43,6 +44,7 @@ public:
     void close(quint32 id);
 
 Q_SIGNALS:
+    /// This and closed() come after show() has told the id, however quick the user was.
     void actionInvoked(quint32 id, const QString &action);
     void closed(quint32 id);
     /// A server has appeared; it shows nothing yet.
@@ -54,12 +56,23 @@ private Q_SLOTS:
     void onClosed(uint id, uint reason, const QDBusMessage &message);
 
 private:
+    /// What a server says of one of its notifications.
+    struct Signal
+    {
+        QString sender;
+        quint32 id = 0;
+        std::optional<QString> action; ///< nothing if the notification was closed
+    };
     void send(const Notification &notification, Done done);
     QDBusPendingCall call(const QString &method, const QVariantList &arguments);
     void followServer();
+    void hear(const Signal &signal);
+    void pass(const Signal &signal);
 
     QDBusConnection m_connection;
     const Program m_program;
-    QString m_server; ///< the unique name of who showed something; only its signals count
+    QString m_server;        ///< the unique name of who showed something; only its signals count
+    int m_unanswered = 0;    ///< notifications whose id is not known yet
+    QVector<Signal> m_early; ///< heard meanwhile, in order
     std::optional<QStringList> m_capabilities; ///< of the server that is there; unknown until somebody asks
 };

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void anothersNotificationJoinsNobody();
     void joiningTooEarlySaysSo();
     void aClickOnTheNotificationShowsTheWindow();
+    void aClickBeforeTheServersAnswerCounts();
     void othersNotificationsAreLeftAlone();
     void anAnsweredFriendRequestIsWithdrawn_data();
     void anAnsweredFriendRequestIsWithdrawn();
@@ -80,6 +81,19 @@ void TestNotificationClicks::aClickOnTheNotificationShowsTheWindow()
     QSignalSpy wanted(m_reminders.get(), &Reminders::windowWanted);
     m_server->click(m_server->shown.last().id, QStringLiteral("default"));
     QTRY_COMPARE(wanted.count(), 1);
+}
+
+void TestNotificationClicks::aClickBeforeTheServersAnswerCounts()
+{
+    m_server->clickAtOnce = QStringLiteral("default");
+    QSignalSpy wanted(m_reminders.get(), &Reminders::windowWanted);
+    addConference("1", "设计讨论", 5 * MinuteMsecs);
+    settle();
+    QTRY_COMPARE(wanted.count(), 1);
+    // What comes before another notification's answer is not lost either.
+    addConference("2", "另一个", 5 * MinuteMsecs);
+    settle();
+    QTRY_COMPARE(wanted.count(), 2);
 }
 
 void TestNotificationClicks::othersNotificationsAreLeftAlone()

@@ -79,6 +79,9 @@ uint NotificationServer::Notify(const QString &application, uint replacesId, con
         m_onScreen.append(id);
     }
     shown.append({id, replacesId, icon, summary, body, actions});
+    if (!clickAtOnce.isEmpty()) {
+        Q_EMIT ActionInvoked(id, clickAtOnce);
+    }
     return id;
 }
 

@@ -46,6 +46,7 @@ public:
     void flush();
 
     Mood mood = Mood::Shows;
+    QString clickAtOnce;  ///< an action of each notification that is invoked before its id is answered
     QVector<Shown> shown; ///< all so far, including replaced ones
     int attempts = 0;     ///< including those not shown
 
